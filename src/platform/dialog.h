@@ -1,0 +1,93 @@
+// Dialogs made from templates in the resources, and their controls.
+#pragma once
+
+#include "platform/event.h"
+#include "platform/types.h"
+
+// Runs a dialog until DialogEnd and returns that result; -1 when it cannot be
+// made. The message loop inside keeps the timer going. The owner is disabled
+// meanwhile.
+int DialogRun(int templateId, WindowHandle owner, EventHandler handler);
+
+// Opens a dialog beside everything else. It ends with WindowDestroy. Null on
+// failure.
+WindowHandle DialogOpen(int templateId, WindowHandle owner, EventHandler handler);
+
+// Ends a modal dialog; DialogRun returns when the event is through. On a
+// modeless one it only hides it.
+void DialogEnd(WindowHandle dialog, int result);
+
+// The pixels of a rectangle given in dialog units.
+Rect DialogUnits(WindowHandle dialog, const Rect& units);
+
+// --- Controls, by dialog and id. A control that is not there is passed over
+// and reads as empty, 0 or -1.
+
+WindowHandle Control(WindowHandle dialog, int id);
+
+void ControlSetText(WindowHandle dialog, int id, const char* text);
+// Copies at most size - 1 bytes and terminates; the cut may fall inside a
+// double-byte pair, as dialogs tell. Returns the length.
+int ControlGetText(WindowHandle dialog, int id, char* buffer, int size);
+void ControlEnable(WindowHandle dialog, int id, bool enable);
+void ControlShow(WindowHandle dialog, int id, bool show);
+void ControlSetFocus(WindowHandle dialog, int id);
+// How many characters an edit field takes.
+void ControlSetLimit(WindowHandle dialog, int id, int characters);
+
+void ControlSetChecked(WindowHandle dialog, int id, bool checked);
+bool ControlIsChecked(WindowHandle dialog, int id);
+
+// List boxes and the lists of combo boxes.
+void ListClear(WindowHandle dialog, int id);
+int ListAdd(WindowHandle dialog, int id, const char* text);  // the new row
+int ListCount(WindowHandle dialog, int id);
+int ListSelected(WindowHandle dialog, int id);         // -1 for none
+void ListSelect(WindowHandle dialog, int id, int row);  // -1 for none; tells nobody
+// Text of a row, terminated at size; the length, or -1 for a bad row.
+int ListText(WindowHandle dialog, int id, int row, char* buffer, int size);
+// Fills a list box with the folders ("[name]", "[..]") and drives ("[-c-]") of
+// the current folder.
+void ListFolders(WindowHandle dialog, int id);
+
+enum class ControlKind { Button, ListBox, VerticalScrollBar };
+
+// A child control made at run time, at pixels of the client area. Null on
+// failure. Ends with WindowDestroy or with its parent.
+WindowHandle ControlCreate(WindowHandle parent, ControlKind kind, int id, const Rect& place,
+                           const char* text);
+
+// A vertical scroll bar control: range 0 to `lines` - 1, a page, a position.
+void ScrollBarSet(WindowHandle bar, int lines, int page, int position);
+void ScrollBarEnable(WindowHandle bar, bool enable);
+
+// --- Message boxes
+
+enum class BoxIcon { Exclamation, Question };
+enum class BoxButtons { Ok, OkCancel, YesNo };
+enum class BoxAnswer { Ok = 1, Cancel = 2, Yes = 6, No = 7 };
+
+BoxAnswer MessageBoxRun(WindowHandle owner, const char* text, const char* caption, BoxButtons buttons,
+                        BoxIcon icon);
+
+// --- Popup menus, by resource number
+
+// Shows the first popup of a menu resource at a point of `window`'s client
+// area. With `asCommand` the chosen number is returned (0 for none) and nobody
+// is sent anything; without, `window` is sent the command and 0 comes back.
+std::uint32_t MenuPopup(int menuId, WindowHandle window, int x, int y, bool asCommand);
+
+// --- String resources
+
+// Loads a string, terminated at size; the length, 0 if there is none.
+int StringLoad(int id, char* buffer, int size);
+
+// --- The platform's own file dialogs
+
+// `filterText` names the one kind of file ("BackUp Files (*.BUP)"), `mask` is
+// its pattern. `path` (terminated, `size` bytes) goes in as a proposal and
+// comes back on true.
+bool FileDialogLoad(WindowHandle owner, const char* title, const char* filterText, const char* mask,
+                    const char* startFolder, char* path, int size);
+bool FileDialogSave(WindowHandle owner, const char* title, const char* filterText, const char* mask,
+                    const char* startFolder, char* path, int size);

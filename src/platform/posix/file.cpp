@@ -1,0 +1,251 @@
+#include "platform/file.h"
+
+#include <dirent.h>
+#include <fcntl.h>
+#include <fnmatch.h>
+#include <sys/stat.h>
+#include <sys/statvfs.h>
+#include <unistd.h>
+
+#include <cctype>
+#include <cstdio>
+#include <cstring>
+#include <map>
+#include <string>
+#include <vector>
+
+#include "platform/posix/faults.h"
+#include "platform/posix/live_counts.h"
+#include "platform/posix/posix_paths.h"
+
+namespace {
+
+constexpr std::uint64_t kEpochDifference = 116444736000000000ULL;  // 1601 to 1970 in 100 ns
+
+std::uint64_t FileTimeOf(const timespec& time) {
+  return kEpochDifference + static_cast<std::uint64_t>(time.tv_sec) * 10000000ULL +
+         static_cast<std::uint64_t>(time.tv_nsec) / 100ULL;
+}
+
+bool CopyOut(const std::string& text, char* buffer, int size) {
+  if (size <= 0 || text.size() >= static_cast<std::size_t>(size)) return false;
+  std::memcpy(buffer, text.c_str(), text.size() + 1);
+  return true;
+}
+
+struct Search {
+  std::vector<SearchEntry> entries;
+  std::size_t next = 0;
+};
+std::map<int, Search>& Searches() {
+  static std::map<int, Search> searches;
+  return searches;
+}
+int lastSearch = 0;
+
+void FillEntry(const std::string& path, const std::string& name, SearchEntry* entry) {
+  struct stat status {};
+  *entry = SearchEntry{};
+  if (stat(path.c_str(), &status) != 0) return;
+  if (S_ISDIR(status.st_mode)) entry->attributes = kAttributeFolder;
+  entry->creationTime = FileTimeOf(status.st_ctim);
+  entry->lastWriteTime = FileTimeOf(status.st_mtim);
+  if (!S_ISDIR(status.st_mode)) {
+    const auto size = static_cast<std::uint64_t>(status.st_size);
+    entry->sizeHigh = static_cast<std::uint32_t>(size >> 32U);
+    entry->sizeLow = static_cast<std::uint32_t>(size);
+  }
+  CopyOut(PosixToCp932(name).substr(0, sizeof entry->name - 1), entry->name, sizeof entry->name);
+}
+
+std::string desktopFolder;
+
+}  // namespace
+
+void PosixDesktopSet(const std::string& folder) { desktopFolder = folder; }
+
+int FileOpen(const char* path, OpenMode mode) {
+  if (FaultMeets(FaultKind::Open)) return kNoFile;
+  const int flags = mode == OpenMode::ReadWrite ? O_RDWR : O_RDONLY;
+  const int file = open(PosixPath(path).c_str(), flags | O_CLOEXEC);
+  if (file < 0) return kNoFile;
+  struct stat status {};
+  if (fstat(file, &status) != 0 || S_ISDIR(status.st_mode)) {
+    close(file);
+    return kNoFile;
+  }
+  ++PosixLive().files;
+  return file;
+}
+
+int FileCreate(const char* path) {
+  if (FaultMeets(FaultKind::Create)) return kNoFile;
+  const int file = open(PosixPath(path).c_str(), O_RDWR | O_CREAT | O_TRUNC | O_CLOEXEC, 0666);
+  if (file < 0) return kNoFile;
+  ++PosixLive().files;
+  return file;
+}
+
+int FileRead(int file, void* buffer, int size) {
+  if (file == kNoFile || size < 0) return -1;
+  if (FaultMeets(FaultKind::Read) && size > 0) --size;
+  int total = 0;
+  while (total < size) {
+    const ssize_t got = read(file, static_cast<char*>(buffer) + total, static_cast<std::size_t>(size - total));
+    if (got < 0) return -1;
+    if (got == 0) break;
+    total += static_cast<int>(got);
+  }
+  return total;
+}
+
+int FileWrite(int file, const void* buffer, int size) {
+  if (file == kNoFile || size < 0) return -1;
+  if (FaultMeets(FaultKind::Write) && size > 0) --size;
+  int total = 0;
+  while (total < size) {
+    const ssize_t put =
+        write(file, static_cast<const char*>(buffer) + total, static_cast<std::size_t>(size - total));
+    if (put <= 0) return total > 0 ? total : -1;
+    total += static_cast<int>(put);
+  }
+  return total;
+}
+
+void FileClose(int file) {
+  if (file == kNoFile) return;
+  close(file);
+  --PosixLive().files;
+}
+
+std::uint32_t FileSize(int file, std::uint32_t* high) {
+  if (high) *high = 0;
+  struct stat status {};
+  if (file == kNoFile || fstat(file, &status) != 0) return 0;
+  const auto size = static_cast<std::uint64_t>(status.st_size);
+  if (high) *high = static_cast<std::uint32_t>(size >> 32U);
+  return static_cast<std::uint32_t>(size);
+}
+
+bool FileWriteTime(int file, std::uint64_t* time) {
+  struct stat status {};
+  if (file == kNoFile || fstat(file, &status) != 0) return false;
+  *time = FileTimeOf(status.st_mtim);
+  return true;
+}
+
+bool FileDelete(const char* path) {
+  if (FaultMeets(FaultKind::Delete)) return false;
+  return unlink(PosixPath(path).c_str()) == 0;
+}
+
+bool FileMove(const char* from, const char* to) {
+  if (FaultMeets(FaultKind::Move)) return false;
+  const std::string target = PosixPath(to);
+  if (access(target.c_str(), F_OK) == 0) return false;
+  return rename(PosixPath(from).c_str(), target.c_str()) == 0;
+}
+
+bool FileCopy(const char* from, const char* to, bool failIfExists) {
+  if (FaultMeets(FaultKind::Copy)) return false;
+  const std::string source = PosixPath(from);
+  const std::string target = PosixPath(to);
+  if (failIfExists && access(target.c_str(), F_OK) == 0) return false;
+  const int in = open(source.c_str(), O_RDONLY | O_CLOEXEC);
+  if (in < 0) return false;
+  struct stat status {};
+  if (fstat(in, &status) != 0 || S_ISDIR(status.st_mode)) {
+    close(in);
+    return false;
+  }
+  const int out = open(target.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666);
+  bool good = out >= 0;
+  char buffer[65536];
+  while (good) {
+    const ssize_t got = read(in, buffer, sizeof buffer);
+    if (got == 0) break;
+    good = got > 0 && write(out, buffer, static_cast<std::size_t>(got)) == got;
+  }
+  // A copy keeps the time of its source.
+  const timespec times[2] = {status.st_atim, status.st_mtim};
+  if (out >= 0) {
+    futimens(out, times);
+    close(out);
+  }
+  close(in);
+  return good;
+}
+
+bool FolderCreate(const char* path) {
+  if (FaultMeets(FaultKind::Folder)) return false;
+  return mkdir(PosixPath(path).c_str(), 0777) == 0;
+}
+
+int FolderGetCurrent(char* buffer, int size) {
+  char path[4096];
+  if (!getcwd(path, sizeof path)) return 0;
+  const std::string text = PosixToProgram(path);
+  return CopyOut(text, buffer, size) ? static_cast<int>(text.size()) : 0;
+}
+
+bool FolderSetCurrent(const char* path) {
+  if (path[0] == '\0') return false;
+  return chdir(PosixPath(path).c_str()) == 0;
+}
+
+bool FolderDesktop(char* buffer, int size) {
+  if (desktopFolder.empty()) return false;
+  return CopyOut(PosixToProgram(desktopFolder), buffer, size);
+}
+
+SearchHandle SearchFirst(const char* pattern, SearchEntry* entry) {
+  const std::string full = PosixPath(pattern);
+  const std::size_t slash = full.rfind('/');
+  const std::string folder = slash == std::string::npos ? "." : slash == 0 ? "/" : full.substr(0, slash);
+  std::string mask = slash == std::string::npos ? full : full.substr(slash + 1);
+  if (mask == "*.*") mask = "*";
+  Search search;
+  if (mask.find_first_of("*?") == std::string::npos) {
+    struct stat status {};
+    if (stat(full.c_str(), &status) != 0) return kNoSearch;
+    search.entries.emplace_back();
+    FillEntry(full, mask, &search.entries.back());
+  } else {
+    DIR* directory = opendir(folder.c_str());
+    if (!directory) return kNoSearch;
+    while (const dirent* item = readdir(directory)) {
+      if (fnmatch(mask.c_str(), item->d_name, FNM_CASEFOLD) != 0) continue;
+      search.entries.emplace_back();
+      FillEntry(folder + "/" + item->d_name, item->d_name, &search.entries.back());
+    }
+    closedir(directory);
+  }
+  if (search.entries.empty()) return kNoSearch;
+  *entry = search.entries[0];
+  search.next = 1;
+  const int handle = ++lastSearch;
+  Searches()[handle] = std::move(search);
+  ++PosixLive().searches;
+  return handle;
+}
+
+bool SearchNext(SearchHandle handle, SearchEntry* entry) {
+  const auto at = Searches().find(handle);
+  if (at == Searches().end() || at->second.next >= at->second.entries.size()) return false;
+  *entry = at->second.entries[at->second.next++];
+  return true;
+}
+
+void SearchClose(SearchHandle handle) {
+  if (Searches().erase(handle) > 0) --PosixLive().searches;
+}
+
+bool DiskSpace(const char* root, std::uint64_t* total, std::uint64_t* free) {
+  struct statvfs status {};
+  *total = 0;
+  *free = 0;
+  if (statvfs(PosixPath(root).c_str(), &status) != 0) return false;
+  *total = static_cast<std::uint64_t>(status.f_blocks) * status.f_frsize;
+  *free = static_cast<std::uint64_t>(status.f_bfree) * status.f_frsize;
+  return true;
+}

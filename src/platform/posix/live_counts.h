@@ -1,0 +1,6 @@
+// The counters behind DiagnosticsLive in the native build.
+#pragma once
+
+#include "platform/diagnostics.h"
+
+LiveObjects& PosixLive();

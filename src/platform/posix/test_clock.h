@@ -1,0 +1,10 @@
+// The clock of the native build: the machine's, until a test sets one.
+#pragma once
+
+#include "platform/time.h"
+
+// From now on the local time is this one and stands still.
+void TestClockSet(const LocalTime& time);
+
+// Back to the machine's clock.
+void TestClockClear();

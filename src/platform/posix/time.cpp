@@ -1,0 +1,54 @@
+#include "platform/time.h"
+
+#include <ctime>
+#include <sys/time.h>
+
+#include "platform/posix/test_clock.h"
+
+namespace {
+bool fixed = false;
+LocalTime fixedTime{};
+
+void FromTm(const tm& from, int millisecond, LocalTime* to) {
+  *to = {from.tm_year + 1900, from.tm_mon + 1, from.tm_mday, from.tm_wday,
+         from.tm_hour,        from.tm_min,     from.tm_sec,  millisecond};
+}
+}  // namespace
+
+void TestClockSet(const LocalTime& time) {
+  fixed = true;
+  fixedTime = time;
+}
+
+void TestClockClear() { fixed = false; }
+
+void TimeGetLocal(LocalTime* time) {
+  if (fixed) {
+    *time = fixedTime;
+    return;
+  }
+  timeval now{};
+  gettimeofday(&now, nullptr);
+  tm local{};
+  localtime_r(&now.tv_sec, &local);
+  FromTm(local, static_cast<int>(now.tv_usec / 1000), time);
+}
+
+// The native build never touches the machine's clock: only the one of the test.
+bool TimeSetLocal(const LocalTime* time) {
+  TestClockSet(*time);
+  return true;
+}
+
+bool TimeFromFileTime(std::uint64_t fileTime, LocalTime* time) {
+  constexpr std::uint64_t kEpochDifference = 116444736000000000ULL;
+  if (fileTime < kEpochDifference) return false;
+  const std::uint64_t since = fileTime - kEpochDifference;
+  const auto seconds = static_cast<std::time_t>(since / 10000000ULL);
+  tm local{};
+  localtime_r(&seconds, &local);
+  FromTm(local, static_cast<int>(since % 10000000ULL / 10000ULL), time);
+  return true;
+}
+
+std::int64_t TimeSeconds() { return static_cast<std::int64_t>(std::time(nullptr)); }
