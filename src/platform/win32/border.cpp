@@ -1,0 +1,67 @@
+#include "platform/win32/border.h"
+
+#include <algorithm>
+#include <cstring>
+
+namespace {
+constexpr UINT kCodePage = 932;
+}
+
+std::wstring Wide(const char* text, int length) {
+  if (length < 0) length = static_cast<int>(std::strlen(text));
+  if (length == 0) return {};
+  const int needed = MultiByteToWideChar(kCodePage, 0, text, length, nullptr, 0);
+  std::wstring wide(static_cast<std::size_t>(needed), L'\0');
+  MultiByteToWideChar(kCodePage, 0, text, length, wide.data(), needed);
+  return wide;
+}
+
+std::string Narrow(const wchar_t* text, int length) {
+  if (length < 0) length = static_cast<int>(std::wcslen(text));
+  if (length == 0) return {};
+  const int needed = WideCharToMultiByte(kCodePage, 0, text, length, nullptr, 0, nullptr, nullptr);
+  std::string narrow(static_cast<std::size_t>(needed), '\0');
+  WideCharToMultiByte(kCodePage, 0, text, length, narrow.data(), needed, nullptr, nullptr);
+  return narrow;
+}
+
+int CopyNarrow(const wchar_t* text, char* buffer, int size) {
+  if (size <= 0) return 0;
+  const std::string narrow = Narrow(text);
+  const int length = std::min(static_cast<int>(narrow.size()), size - 1);
+  std::memcpy(buffer, narrow.data(), static_cast<std::size_t>(length));
+  buffer[length] = '\0';
+  return length;
+}
+
+LiveObjects& Live() {
+  static LiveObjects live{};
+  return live;
+}
+
+LiveObjects DiagnosticsLive() { return Live(); }
+
+HFONT TextFont() {
+  static HFONT font = nullptr;
+  if (font) return font;
+  // The stock font serves where it is the Japanese one of 8 x 16; on other
+  // locales it has no Japanese glyphs.
+  const auto stock = static_cast<HFONT>(GetStockObject(SYSTEM_FIXED_FONT));
+  HDC screen = GetDC(nullptr);
+  HGDIOBJ old = SelectObject(screen, stock);
+  TEXTMETRICW metrics{};
+  GetTextMetricsW(screen, &metrics);
+  SIZE full{};
+  GetTextExtentPoint32W(screen, L"漢", 1, &full);
+  SelectObject(screen, old);
+  ReleaseDC(nullptr, screen);
+  if (metrics.tmCharSet == SHIFTJIS_CHARSET && metrics.tmAveCharWidth == 8 && metrics.tmHeight == 16 &&
+      full.cx == 16) {
+    font = stock;
+    return font;
+  }
+  font = CreateFontW(16, 8, 0, 0, FW_NORMAL, FALSE, FALSE, FALSE, SHIFTJIS_CHARSET, OUT_DEFAULT_PRECIS,
+                     CLIP_DEFAULT_PRECIS, DEFAULT_QUALITY, FIXED_PITCH | FF_MODERN, L"ＭＳ ゴシック");
+  if (!font) font = stock;
+  return font;
+}

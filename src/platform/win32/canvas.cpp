@@ -1,0 +1,195 @@
+#include "platform/canvas.h"
+
+#include <windows.h>
+
+#include <algorithm>
+#include <cstring>
+#include <vector>
+
+#include "platform/win32/border.h"
+
+struct Canvas {
+  HDC dc;
+  HWND window;     // of a window's canvas
+  HBITMAP bitmap;  // of a canvas in memory
+};
+
+namespace {
+
+HGDIOBJ Object(const void* handle) { return const_cast<HGDIOBJ>(handle); }
+
+template <typename Handle, typename Made>
+Handle Counted(Made made, int& count) {
+  if (made) ++count;
+  return reinterpret_cast<Handle>(made);
+}
+
+template <typename Handle>
+void Drop(Handle handle, int& count) {
+  if (!handle) return;
+  DeleteObject(Object(handle));
+  --count;
+}
+
+Canvas* Begin(HDC dc, HWND window, HBITMAP bitmap) {
+  SaveDC(dc);
+  SelectObject(dc, TextFont());
+  ++Live().canvases;
+  return new Canvas{dc, window, bitmap};
+}
+
+int LengthOf(const char* text, int length) { return length < 0 ? static_cast<int>(std::strlen(text)) : length; }
+
+}  // namespace
+
+BrushHandle BrushCreate(Colour colour) {
+  return Counted<BrushHandle>(CreateSolidBrush(colour), Live().brushes);
+}
+void BrushDelete(BrushHandle brush) { Drop(brush, Live().brushes); }
+
+PenHandle PenCreate(PenStyle style, int width, Colour colour) {
+  return Counted<PenHandle>(CreatePen(style == PenStyle::Dot ? PS_DOT : PS_SOLID, width, colour), Live().pens);
+}
+void PenDelete(PenHandle pen) { Drop(pen, Live().pens); }
+
+FontHandle FontCreate(int width, int height, int weight, bool italic, const char* face) {
+  return Counted<FontHandle>(
+      CreateFontW(height, width, 0, 0, weight, italic ? TRUE : FALSE, FALSE, FALSE, SHIFTJIS_CHARSET,
+                  OUT_DEFAULT_PRECIS, CLIP_DEFAULT_PRECIS, DEFAULT_QUALITY, DEFAULT_PITCH, Wide(face).c_str()),
+      Live().fonts);
+}
+void FontDelete(FontHandle font) { Drop(font, Live().fonts); }
+
+BrushHandle BrushFace() { return reinterpret_cast<BrushHandle>(GetSysColorBrush(COLOR_BTNFACE)); }
+BrushHandle BrushNothing() { return reinterpret_cast<BrushHandle>(GetStockObject(NULL_BRUSH)); }
+PenHandle PenNothing() { return reinterpret_cast<PenHandle>(GetStockObject(NULL_PEN)); }
+Colour FaceColour() { return GetSysColor(COLOR_BTNFACE); }
+
+RegionHandle RegionPolygon(const Point* points, int count) {
+  if (count <= 0) return nullptr;
+  std::vector<POINT> corners(static_cast<std::size_t>(count));
+  for (int i = 0; i < count; ++i) corners[static_cast<std::size_t>(i)] = {points[i].x, points[i].y};
+  return Counted<RegionHandle>(CreatePolygonRgn(corners.data(), count, WINDING), Live().regions);
+}
+RegionHandle RegionEllipse(const Rect& bounds) {
+  return Counted<RegionHandle>(CreateEllipticRgn(bounds.left, bounds.top, bounds.right, bounds.bottom),
+                               Live().regions);
+}
+RegionHandle RegionRect(const Rect& bounds) {
+  return Counted<RegionHandle>(CreateRectRgn(bounds.left, bounds.top, bounds.right, bounds.bottom),
+                               Live().regions);
+}
+void RegionDelete(RegionHandle region) { Drop(region, Live().regions); }
+
+Canvas* CanvasGet(WindowHandle window) {
+  HDC dc = window ? GetDC(Hwnd(window)) : nullptr;
+  return dc ? Begin(dc, Hwnd(window), nullptr) : nullptr;
+}
+
+Canvas* CanvasMemory(Canvas* like, int width, int height) {
+  if (!like) return nullptr;
+  HBITMAP bitmap = CreateCompatibleBitmap(like->dc, width, height);
+  if (!bitmap) return nullptr;
+  HDC dc = CreateCompatibleDC(like->dc);
+  if (!dc) {
+    DeleteObject(bitmap);
+    return nullptr;
+  }
+  ++Live().bitmaps;
+  Canvas* canvas = Begin(dc, nullptr, bitmap);
+  SelectObject(dc, bitmap);
+  return canvas;
+}
+
+void CanvasRelease(Canvas* canvas) {
+  if (!canvas) return;
+  RestoreDC(canvas->dc, -1);
+  if (canvas->bitmap) {
+    DeleteDC(canvas->dc);
+    Drop(canvas->bitmap, Live().bitmaps);
+  } else {
+    ReleaseDC(canvas->window, canvas->dc);
+  }
+  --Live().canvases;
+  delete canvas;
+}
+
+void CanvasBrush(Canvas* canvas, BrushHandle brush) { SelectObject(canvas->dc, Object(brush)); }
+void CanvasPen(Canvas* canvas, PenHandle pen) { SelectObject(canvas->dc, Object(pen)); }
+void CanvasFont(Canvas* canvas, FontHandle font) {
+  SelectObject(canvas->dc, font ? Object(font) : static_cast<HGDIOBJ>(TextFont()));
+}
+void CanvasTextColour(Canvas* canvas, Colour colour) { SetTextColor(canvas->dc, colour); }
+void CanvasBackColour(Canvas* canvas, Colour colour) { SetBkColor(canvas->dc, colour); }
+void CanvasBackTransparent(Canvas* canvas, bool transparent) {
+  SetBkMode(canvas->dc, transparent ? TRANSPARENT : OPAQUE);
+}
+
+void CanvasRectangle(Canvas* canvas, int left, int top, int right, int bottom) {
+  Rectangle(canvas->dc, left, top, right, bottom);
+}
+void CanvasEllipse(Canvas* canvas, int left, int top, int right, int bottom) {
+  Ellipse(canvas->dc, left, top, right, bottom);
+}
+void CanvasPie(Canvas* canvas, int left, int top, int right, int bottom, int x1, int y1, int x2, int y2) {
+  Pie(canvas->dc, left, top, right, bottom, x1, y1, x2, y2);
+}
+void CanvasPolygon(Canvas* canvas, const Point* points, int count) {
+  if (count <= 0) return;
+  std::vector<POINT> corners(static_cast<std::size_t>(count));
+  for (int i = 0; i < count; ++i) corners[static_cast<std::size_t>(i)] = {points[i].x, points[i].y};
+  Polygon(canvas->dc, corners.data(), count);
+}
+void CanvasLine(Canvas* canvas, int x1, int y1, int x2, int y2) {
+  MoveToEx(canvas->dc, x1, y1, nullptr);
+  LineTo(canvas->dc, x2, y2);
+}
+
+void CanvasText(Canvas* canvas, int x, int y, const char* text, int length) {
+  const std::wstring wide = Wide(text, LengthOf(text, length));
+  TextOutW(canvas->dc, x, y, wide.c_str(), static_cast<int>(wide.size()));
+}
+
+int CanvasTextWidth(Canvas* canvas, const char* text, int length) {
+  const std::wstring wide = Wide(text, LengthOf(text, length));
+  SIZE size{};
+  GetTextExtentPoint32W(canvas->dc, wide.c_str(), static_cast<int>(wide.size()), &size);
+  return static_cast<int>(size.cx);
+}
+
+TextMetrics CanvasTextMetrics(Canvas* canvas) {
+  TEXTMETRICW metrics{};
+  GetTextMetricsW(canvas->dc, &metrics);
+  return {static_cast<int>(metrics.tmAveCharWidth), static_cast<int>(metrics.tmHeight),
+          static_cast<int>(metrics.tmExternalLeading)};
+}
+
+void CanvasClip(Canvas* canvas, const Rect& rect) {
+  HRGN region = CreateRectRgn(rect.left, rect.top, rect.right, rect.bottom);
+  SelectClipRgn(canvas->dc, region);
+  DeleteObject(region);  // the canvas keeps a copy
+}
+void CanvasClipNone(Canvas* canvas) { SelectClipRgn(canvas->dc, nullptr); }
+
+void CanvasCopy(Canvas* to, int x, int y, int width, int height, Canvas* from, int fromX, int fromY) {
+  StretchBlt(to->dc, x, y, width, height, from->dc, fromX, fromY, width, height, SRCCOPY);
+}
+
+void CanvasStretch(Canvas* to, int x, int y, int width, int height, Canvas* from, int fromX, int fromY,
+                   int fromWidth, int fromHeight) {
+  SetStretchBltMode(to->dc, COLORONCOLOR);
+  StretchBlt(to->dc, x, y, width, height, from->dc, fromX, fromY, fromWidth, fromHeight, SRCCOPY);
+}
+
+void CanvasDib(Canvas* canvas, int x, int y, int width, int height, const void* header, const void* bits) {
+  SetStretchBltMode(canvas->dc, COLORONCOLOR);
+  SetDIBitsToDevice(canvas->dc, x, y, static_cast<DWORD>(width), static_cast<DWORD>(height), 0, 0, 0,
+                    static_cast<UINT>(height), bits, static_cast<const BITMAPINFO*>(header), DIB_RGB_COLORS);
+}
+
+void CanvasDibOp(Canvas* canvas, int x, int y, int width, int height, const void* header, const void* bits,
+                 RasterOp op) {
+  SetStretchBltMode(canvas->dc, COLORONCOLOR);
+  StretchDIBits(canvas->dc, x, y, width, height, 0, 0, width, height, bits,
+                static_cast<const BITMAPINFO*>(header), DIB_RGB_COLORS, static_cast<DWORD>(op));
+}

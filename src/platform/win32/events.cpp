@@ -1,0 +1,103 @@
+// Windows messages as events.
+#include <windows.h>
+
+#include <windowsx.h>
+
+#include "platform/event.h"
+#include "platform/win32/border.h"
+
+namespace {
+
+Notice NoticeOf(HWND control, UINT code) {
+  wchar_t name[16] = L"";
+  GetClassNameW(control, name, 16);
+  if (lstrcmpiW(name, L"Button") == 0 || lstrcmpiW(name, L"Static") == 0) {
+    return code == BN_CLICKED ? Notice::Click : code == BN_DBLCLK ? Notice::DoubleClick : Notice::Other;
+  }
+  if (lstrcmpiW(name, L"ListBox") == 0 || lstrcmpiW(name, L"ComboBox") == 0) {
+    // Both kinds of list report with the same two numbers.
+    return code == LBN_SELCHANGE ? Notice::SelectChange : code == LBN_DBLCLK ? Notice::DoubleClick
+                                                                               : Notice::Other;
+  }
+  return code == EN_CHANGE ? Notice::EditChange : Notice::Other;
+}
+
+Scroll ScrollOf(UINT code) {
+  switch (code) {
+    case SB_LINEUP: return Scroll::LineUp;
+    case SB_LINEDOWN: return Scroll::LineDown;
+    case SB_PAGEUP: return Scroll::PageUp;
+    case SB_PAGEDOWN: return Scroll::PageDown;
+    case SB_THUMBPOSITION:
+    case SB_THUMBTRACK: return Scroll::Thumb;
+    case SB_TOP: return Scroll::Top;
+    case SB_BOTTOM: return Scroll::Bottom;
+    default: return Scroll::End;
+  }
+}
+
+struct KindOfMessage {
+  UINT message;
+  EventKind kind;
+};
+constexpr KindOfMessage kMouse[] = {
+    {WM_MOUSEMOVE, EventKind::MouseMove},     {WM_LBUTTONDOWN, EventKind::LeftDown},
+    {WM_LBUTTONUP, EventKind::LeftUp},        {WM_LBUTTONDBLCLK, EventKind::LeftDouble},
+    {WM_RBUTTONDOWN, EventKind::RightDown},   {WM_MBUTTONDOWN, EventKind::MiddleDown},
+    {WM_MOUSEWHEEL, EventKind::Wheel},
+};
+constexpr KindOfMessage kPlain[] = {
+    {WM_PAINT, EventKind::Paint}, {WM_TIMER, EventKind::Timer},     {WM_CLOSE, EventKind::Close},
+    {WM_DESTROY, EventKind::Destroy}, {WM_SETCURSOR, EventKind::SetCursor}, {WM_USER, EventKind::User},
+};
+
+}  // namespace
+
+bool EventFromMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam, Event* event) {
+  *event = Event{};
+  event->window = Window(window);
+  for (const KindOfMessage& mouse : kMouse) {
+    if (mouse.message != message) continue;
+    event->kind = mouse.kind;
+    event->x = GET_X_LPARAM(lParam);
+    event->y = GET_Y_LPARAM(lParam);
+    event->keys = static_cast<unsigned>(wParam & (MK_LBUTTON | MK_SHIFT));
+    return true;
+  }
+  for (const KindOfMessage& plain : kPlain) {
+    if (plain.message != message) continue;
+    event->kind = plain.kind;
+    return true;
+  }
+  switch (message) {
+    case WM_COMMAND:
+      event->kind = EventKind::Command;
+      event->fromControl = lParam != 0;
+      event->command = event->fromControl ? LOWORD(wParam) : static_cast<std::uint32_t>(wParam);
+      if (event->fromControl) event->notice = NoticeOf(reinterpret_cast<HWND>(lParam), HIWORD(wParam));
+      return true;
+    case WM_CHAR:
+    case WM_KEYDOWN:
+      event->kind = message == WM_CHAR ? EventKind::Char : EventKind::KeyDown;
+      event->key = static_cast<int>(wParam);
+      return true;
+    case WM_SIZE:
+      event->kind = EventKind::Size;
+      event->x = LOWORD(lParam);
+      event->y = HIWORD(lParam);
+      return true;
+    case WM_VSCROLL: {
+      event->kind = EventKind::VScroll;
+      event->scroll = ScrollOf(LOWORD(wParam));
+      event->control = Window(reinterpret_cast<HWND>(lParam));
+      // The message carries 16 bits of the place; the bar itself knows them all.
+      SCROLLINFO info{};
+      info.cbSize = sizeof info;
+      info.fMask = SIF_TRACKPOS;
+      const bool known = lParam != 0 && GetScrollInfo(reinterpret_cast<HWND>(lParam), SB_CTL, &info);
+      event->scrollPosition = known ? info.nTrackPos : HIWORD(wParam);
+      return true;
+    }
+    default: return false;
+  }
+}

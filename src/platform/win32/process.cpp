@@ -1,0 +1,50 @@
+#include "platform/process.h"
+
+#include <windows.h>
+
+#include <shellapi.h>
+
+#include "platform/win32/border.h"
+
+ProcessHandle ProcessStart(const char* commandLine) {
+  std::wstring line = Wide(commandLine);
+  STARTUPINFOW startup{};
+  startup.cb = sizeof startup;
+  PROCESS_INFORMATION information{};
+  if (!CreateProcessW(nullptr, line.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &startup,
+                      &information)) {
+    return nullptr;
+  }
+  // kept: the thread handle stays open for the life of this program.
+  return reinterpret_cast<ProcessHandle>(information.hProcess);
+}
+
+void ProcessWaitIdle(ProcessHandle process, unsigned milliseconds) {
+  if (process) WaitForInputIdle(reinterpret_cast<HANDLE>(process), milliseconds);
+}
+
+void ProcessClose(ProcessHandle process) {
+  if (process) CloseHandle(reinterpret_cast<HANDLE>(process));
+}
+
+bool AssociationFind(const char* file, const char* folder, char* program, int size) {
+  wchar_t found[MAX_PATH] = L"";
+  const auto result =
+      reinterpret_cast<INT_PTR>(FindExecutableW(Wide(file).c_str(), Wide(folder).c_str(), found));
+  CopyNarrow(found, program, size);
+  return result > 32;
+}
+
+bool ClassValue(const char* key, char* value, int size) {
+  HKEY opened = nullptr;
+  if (RegOpenKeyExW(HKEY_CLASSES_ROOT, Wide(key).c_str(), 0, KEY_READ, &opened) != ERROR_SUCCESS) return false;
+  wchar_t text[600] = L"";
+  DWORD bytes = sizeof text - sizeof text[0];
+  DWORD type = 0;
+  const bool good =
+      RegQueryValueExW(opened, nullptr, nullptr, &type, reinterpret_cast<BYTE*>(text), &bytes) == ERROR_SUCCESS &&
+      (type == REG_SZ || type == REG_EXPAND_SZ);
+  RegCloseKey(opened);
+  if (good) CopyNarrow(text, value, size);
+  return good;
+}
