@@ -3,10 +3,11 @@
 
 #include <cstdint>
 
+#include "character/chara_set.h"
+
 // --- The current character's settings, as the settings file keeps them.
 
 inline constexpr int kBoredFrameCount = 5;
-inline constexpr int kCharaSetSize = 676;
 inline constexpr int kAlarmRowCount = 3;
 
 extern std::int32_t CharaIndex;  // place of the current main character in the list, from 0

@@ -1,0 +1,66 @@
+// The tables of mirrell_chara_file.dcx: which numbered characters play which
+// role on the desktop. They are filled by the reader of that file.
+//
+// The capacities are fixed; a count beyond them is bad content of a file. A
+// character number is the number in the names of the picture files, from 1.
+#pragma once
+
+#include <cstdint>
+
+#include "character/character.h"
+
+inline constexpr int kMainCharaMax = 50;
+inline constexpr int kAlarmCharaMax = 50;
+inline constexpr int kWalkCharaMax = 50;
+inline constexpr int kClockDesignMax = 50;
+inline constexpr int kWalkSoundSize = 256;
+inline constexpr int kClockDesignSize = 464;
+
+// One main character with its idle settings; the fields are those of the same
+// names in character.h.
+struct MainChara {
+  std::uint16_t charaNo;
+  std::int32_t menuFrame;
+  std::int32_t blinkFrame;
+  std::int32_t bored1Frames[kBoredFrameCount];
+  std::int32_t bored2Frames[kBoredFrameCount];
+  std::int32_t boredDelaySel;
+  std::int32_t boredSpeedSel;
+  std::int32_t boredRepeatSel;
+  std::int32_t blinkSpeedSel;
+  std::int32_t secondNumber;  // read and kept, no effect
+  unsigned char charaSet[kCharaSetSize];
+};
+
+extern std::int32_t MainCharaCount;
+extern MainChara MainCharas[kMainCharaMax];
+
+// Characters of the notices, chosen by AlarmCharaSel.
+extern std::int32_t AlarmCharaCount;
+extern std::int32_t AlarmCharas[kAlarmCharaMax];
+
+// Characters that walk over the screen, with the sound file in the folder
+// "\サウンド" that goes with the walk.
+struct WalkChara {
+  std::uint16_t number;
+  char sound[kWalkSoundSize];
+};
+
+extern std::int32_t WalkCharaCount;
+extern WalkChara WalkCharas[kWalkCharaMax];
+
+// Flags of each walking row, bits kWalk*. The file always holds all of them.
+extern unsigned char WalkFlags[kWalkCharaMax];
+inline constexpr unsigned kWalkTrail = 1;  // each step leaves a copy of the window
+inline constexpr unsigned kWalkWipe = 2;   // the picture is revealed from the right
+inline constexpr unsigned kWalkShake = 4;  // each step jumps up or down by up to 49 pixels
+
+// Clock designs: the character whose frames they use, and the design record,
+// whose fields clock_calendar/clock.h names.
+struct ClockDesignRow {
+  std::uint16_t number;
+  unsigned char record[kClockDesignSize];
+};
+
+extern std::int32_t ClockDesignCount;
+extern ClockDesignRow ClockDesigns[kClockDesignMax];
