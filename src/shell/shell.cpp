@@ -47,7 +47,7 @@ int FrameWidth;
 int FrameHeight;
 
 char RootFolder[kRootSize];
-char PickerFolder[256];
+char PickFolder[256];
 char PickerStartFolders[kPickerFolderCount][256];
 
 std::int32_t MenuCloseCount;

@@ -100,7 +100,7 @@ extern int FrameHeight;
 inline constexpr int kRootSize = 300;
 extern char RootFolder[kRootSize];  // the program folder: root of every data file name
 inline constexpr int kPickerFolderCount = 5;
-extern char PickerFolder[256];
+extern char PickFolder[256];  // the folder that the file picker shows
 extern char PickerStartFolders[kPickerFolderCount][256];
 
 // Writes the program folder and `name` (which begins with a backslash) into

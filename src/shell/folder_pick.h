@@ -1,0 +1,11 @@
+// Dialogs in which nothing but a folder is chosen.
+#pragma once
+
+#include "platform/types.h"
+
+// Runs such a dialog of the tool family (FileBackUpDirDlg, FileDivFileDlg,
+// FileUDivFileDlg), beginning in the current folder; `dlgId` is its number in the
+// family. 1, with the folder in `folder` (`size` bytes, terminated, no backslash at
+// its end, so that a drive root is "C:"), or 0 when the user chose none or the
+// dialog cannot be made; `folder` is then as it was.
+int FolderPickRun(int dlgId, int templateId, WindowHandle owner, char* folder, int size);

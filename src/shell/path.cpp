@@ -1,0 +1,66 @@
+#include "shell/path.h"
+
+#include <cstring>
+
+#include "platform/dialog.h"
+#include "platform/file.h"
+#include "shell/data_file.h"
+#include "shell/text.h"
+
+char PathFolder[kPathSplitSize + 1];
+char PathName[kPathSplitSize + 1];
+
+namespace {
+
+// The place of the last backslash, -1 if there is none.
+int LastSeparator(const char* path) {
+  int last = -1;
+  for (int at = 0; path[at] != '\0'; ++at) {
+    if (path[at] == '\\') last = at;
+    if (IsSjisLead(path[at]) && path[at + 1] != '\0') ++at;
+  }
+  return last;
+}
+
+}  // namespace
+
+void PathSplit(const char* path) {
+  TextCopy(PathFolder, sizeof PathFolder, path);
+  char* name = PathFolder + LastSeparator(PathFolder) + 1;
+  PathName[0] = '\0';
+  if (name == PathFolder) return;
+  TextCopy(PathName, sizeof PathName, name);
+  std::memset(name, 0, std::strlen(name));
+}
+
+int FileExists(const char* path) {
+  FileStatus = 0;
+  const int file = FileOpen(path, OpenMode::ReadWrite);
+  FileClose(file);
+  return file == kNoFile ? 0 : 1;
+}
+
+bool OverwriteAllowed(WindowHandle owner, const char* path) {
+  return FileExists(path) == 0 || MessageBoxRun(owner, "同一ﾌｧｲﾙが存在しますが、ｾｰﾌﾞしますか?", "ﾌｧｲﾙｾｰﾌﾞ",
+                                                BoxButtons::OkCancel, BoxIcon::Question) == BoxAnswer::Ok;
+}
+
+bool PathCanGoUp(const char* folder) {
+  const int last = LastSeparator(folder);
+  return last > 0 && folder[last + 1] != '\0';
+}
+
+int PathGoUp(char* folder) {
+  if (!PathCanGoUp(folder)) return -1;
+  const int last = LastSeparator(folder);
+  folder[last == 2 ? 3 : last] = '\0';
+  return 0;
+}
+
+int PathGoDown(char* folder, int size, const char* name) {
+  const std::size_t length = std::strlen(folder);
+  const bool root = length > 0 && LastSeparator(folder) == static_cast<int>(length) - 1;
+  if (length + (root ? 0 : 1) + std::strlen(name) >= static_cast<std::size_t>(size)) return -1;
+  TextFormat(folder + length, static_cast<std::size_t>(size) - length, root ? "%s" : "\\%s", name);
+  return 0;
+}
