@@ -17,11 +17,17 @@
 #include "platform/dialog.h"
 #include "platform/event.h"
 
+// The compiled resources (a 32-bit .res file of this system) that dialogs,
+// menus and strings come from; kept over HeadlessReset.
+void HeadlessResourceFile(const std::string& path);
+
 // Forgets every window, script, expectation and recording.
 void HeadlessReset();
 
 // What went wrong against the script; empty in a good test.
 const std::vector<std::string>& HeadlessFailures();
+// The same, and takes them back: for tests that mean to go wrong.
+std::vector<std::string> HeadlessTakeFailures();
 
 // --- Script
 
@@ -33,7 +39,7 @@ int StepsLeft();
 
 // --- What the user does
 
-void Press(WindowHandle dialog, int id);             // a button; a check box turns over
+void Press(WindowHandle dialog, int id);               // a button; a check box turns over
 void ChooseRow(WindowHandle dialog, int id, int row);  // selects and tells the dialog
 void DoubleClickRow(WindowHandle dialog, int id, int row);
 void Type(WindowHandle dialog, int id, const char* text);  // replaces an edit field's text
@@ -64,6 +70,18 @@ const std::vector<Box>& BoxesShown();
 void ExpectFileDialog(const char* path);
 // The next popup menu must be this one; `command` is chosen, 0 for none.
 void ExpectMenu(int menuId, std::uint32_t command);
+// File dialogs and menus that are expected and have not come.
+int DialogsExpected();
+struct FileDialogCall {
+  bool save = false;
+  std::string title;
+  std::string filterText;
+  std::string mask;
+  std::string startFolder;
+  std::string path;  // what the caller proposed
+  WindowHandle owner = nullptr;
+};
+const std::vector<FileDialogCall>& FileDialogsShown();
 
 // --- What is there
 
@@ -91,26 +109,36 @@ ScrollState ScrollBarState(WindowHandle bar);
 // The region of a window: null if it is whole. A region keeps its points.
 RegionHandle RegionOf(WindowHandle window);
 std::vector<Point> RegionPoints(RegionHandle region);
+enum class RegionKind { None, Polygon, Ellipse, Rectangle };
+// The points of an ellipse or rectangle are its two corners.
+RegionKind RegionKindOf(RegionHandle region);
 int RegionSetCount(WindowHandle window);  // how often WindowSetRegion was called
 bool QuitWasAsked();
+// Takes the main window away without a word, as the end of the process does.
+void MainWindowDrop();
 void ScreenSet(int fullWidth, int fullHeight);
 
 // --- What was drawn
 
 struct DrawCall {
   enum class Kind { Text, Rectangle, Ellipse, Pie, Polygon, Line, Dib, Copy, Stretch } kind;
-  WindowHandle window = nullptr;  // where it ended up; null: still only in memory
-  int x = 0, y = 0, x2 = 0, y2 = 0;  // place; right and bottom, or the second point
+  WindowHandle window = nullptr;       // where it ended up; null: still only in memory
+  int x = 0, y = 0, x2 = 0, y2 = 0;    // place; right and bottom, or the second point
   int ax = 0, ay = 0, bx = 0, by = 0;  // Pie: the two ray points
-  std::vector<Point> points;         // Polygon
-  std::string text;                  // Text
+  std::vector<Point> points;           // Polygon
+  std::string text;                    // Text
+  int fontWidth = 0, fontHeight = 0;   // Text
   Colour textColour = 0;
+  Colour backColour = 0;
   bool transparent = false;
-  Colour brush = 0;      // of the brush in force
-  bool filled = true;    // false: no brush
+  Colour brush = 0;    // of the brush in force
+  bool filled = true;  // false: no brush
   Colour pen = 0;
-  bool edged = true;     // false: no pen
+  bool edged = true;  // false: no pen
+  int penWidth = 1;
+  bool dotted = false;
   const void* dib = nullptr;  // Dib: the header it was drawn from
+  unsigned dibSum = 0;        // ... and the sum of the bytes of header and pixels
   RasterOp op = RasterOp::Copy;
   bool clipped = false;
   Rect clip{};
@@ -121,7 +149,7 @@ std::vector<DrawCall> Drawings(WindowHandle window);
 void DrawingClear();
 // The texts among them.
 std::vector<DrawCall> DrawnTexts(WindowHandle window);
-// True if that text was drawn at that place.
+// True if that text was drawn at that place and nothing has covered it since.
 bool TextStands(WindowHandle window, const char* text, int x, int y);
 
 // --- What was played and started
@@ -129,7 +157,7 @@ bool TextStands(WindowHandle window, const char* text, int x, int y);
 const std::vector<std::string>& SoundsPlayed();
 struct StartedProcess {
   std::string commandLine;
-  std::string folder;  // the current folder at the start
+  std::string folder;   // the current folder at the start
   unsigned waited = 0;  // milliseconds it was waited for
   bool closed = false;
 };

@@ -1,0 +1,199 @@
+// Message boxes, popup menus, string resources and the system's file dialogs.
+#include <algorithm>
+#include <cstring>
+#include <deque>
+
+#include "platform/dialog.h"
+#include "platform/headless/state.h"
+#include "platform/window.h"
+
+namespace {
+
+struct ExpectedBox {
+  std::string text;
+  std::string caption;
+  BoxAnswer answer;
+  std::function<void()> meanwhile;
+};
+struct ExpectedMenu {
+  int menuId;
+  std::uint32_t command;
+};
+
+std::deque<ExpectedBox> expectedBoxes;
+std::deque<std::string> expectedFiles;
+std::deque<ExpectedMenu> expectedMenus;
+std::vector<Box> boxesShown;
+std::vector<FileDialogCall> fileDialogs;
+
+std::string Told(const std::string& text, const std::string& caption) {
+  return Quoted(text) + " titled " + Quoted(caption);
+}
+
+// What Escape answers.
+BoxAnswer Harmless(BoxButtons buttons) {
+  switch (buttons) {
+    case BoxButtons::OkCancel:
+      return BoxAnswer::Cancel;
+    case BoxButtons::YesNo:
+      return BoxAnswer::No;
+    default:
+      return BoxAnswer::Ok;
+  }
+}
+
+bool Offers(BoxButtons buttons, BoxAnswer answer) {
+  switch (buttons) {
+    case BoxButtons::OkCancel:
+      return answer == BoxAnswer::Ok || answer == BoxAnswer::Cancel;
+    case BoxButtons::YesNo:
+      return answer == BoxAnswer::Yes || answer == BoxAnswer::No;
+    default:
+      return answer == BoxAnswer::Ok;
+  }
+}
+
+int CopyOut(const std::string& text, char* buffer, int size) {
+  if (size <= 0) return 0;
+  const std::size_t length = std::min(text.size(), static_cast<std::size_t>(size) - 1);
+  std::memcpy(buffer, text.data(), length);
+  buffer[length] = '\0';
+  return static_cast<int>(length);
+}
+
+const ResourceMenuItem* FindCommand(const std::vector<ResourceMenuItem>& items, std::uint32_t command) {
+  for (const ResourceMenuItem& item : items) {
+    if (!item.isPopup && !item.separator && item.command == command) return &item;
+    if (const ResourceMenuItem* inside = FindCommand(item.items, command)) return inside;
+  }
+  return nullptr;
+}
+
+bool FileDialogRun(const FileDialogCall& call, char* path, int size) {
+  WindowUse(call.owner, "the owner of a file dialog");
+  fileDialogs.push_back(call);
+  if (expectedFiles.empty()) {
+    Failure("nobody expected the file dialog " + Quoted(call.title));
+    return false;
+  }
+  const std::string chosen = expectedFiles.front();
+  expectedFiles.pop_front();
+  if (chosen.empty()) return false;
+  if (static_cast<int>(chosen.size()) >= size) {
+    Failure("the path " + Quoted(chosen) + " does not fit the caller's buffer");
+    return false;
+  }
+  CopyOut(chosen, path, size);
+  return true;
+}
+
+}  // namespace
+
+BoxAnswer MessageBoxRun(WindowHandle owner, const char* text, const char* caption, BoxButtons buttons,
+                        BoxIcon icon) {
+  boxesShown.push_back({text, caption, buttons, icon, owner});
+  const WindowPointer ownerWindow = WindowUse(owner, "the owner of a message box");
+  if (expectedBoxes.empty()) {
+    Failure("nobody expected the box " + Told(text, caption));
+    return Harmless(buttons);
+  }
+  const ExpectedBox expected = expectedBoxes.front();
+  expectedBoxes.pop_front();
+  if (expected.text != text || expected.caption != caption) {
+    Failure("the box " + Told(text, caption) + " came, expected was " +
+            Told(expected.text, expected.caption));
+    return Harmless(buttons);
+  }
+  if (!Offers(buttons, expected.answer)) {
+    Failure("the box " + Told(text, caption) + " has no such button");
+    return Harmless(buttons);
+  }
+  const bool enabled = ownerWindow && ownerWindow->enabled;
+  if (ownerWindow) ownerWindow->enabled = false;
+  if (expected.meanwhile) {
+    PaintDue();
+    expected.meanwhile();
+  }
+  if (enabled) ownerWindow->enabled = true;
+  return expected.answer;
+}
+
+void ExpectBox(const char* text, const char* caption, BoxAnswer answer, std::function<void()> meanwhile) {
+  expectedBoxes.push_back({text, caption, answer, std::move(meanwhile)});
+}
+
+int BoxesLeft() {
+  return static_cast<int>(expectedBoxes.size());
+}
+
+const std::vector<Box>& BoxesShown() {
+  return boxesShown;
+}
+
+std::uint32_t MenuPopup(int menuId, WindowHandle window, int x, int y, bool asCommand) {
+  (void)x;
+  (void)y;
+  if (!WindowUse(window, "MenuPopup")) return 0;
+  const std::string name = "the popup menu " + std::to_string(menuId);
+  const auto menu = Resources().menus.find(menuId);
+  if (menu == Resources().menus.end() || menu->second.empty() || !menu->second[0].isPopup) {
+    Failure(name + " is not in the resources");
+    return 0;
+  }
+  if (expectedMenus.empty() || expectedMenus.front().menuId != menuId) {
+    Failure("nobody expected " + name);
+    return 0;
+  }
+  const std::uint32_t command = expectedMenus.front().command;
+  expectedMenus.pop_front();
+  if (command == 0) return 0;
+  const ResourceMenuItem* item = FindCommand(menu->second[0].items, command);
+  if (!item || item->grayed) {
+    Failure(name + " does not offer " + std::to_string(command));
+    return 0;
+  }
+  if (asCommand) return command;
+  SendCommand(window, command);
+  return 0;
+}
+
+void ExpectMenu(int menuId, std::uint32_t command) {
+  expectedMenus.push_back({menuId, command});
+}
+
+int StringLoad(int id, char* buffer, int size) {
+  const auto at = Resources().strings.find(id);
+  return CopyOut(at == Resources().strings.end() ? std::string() : at->second, buffer, size);
+}
+
+bool FileDialogLoad(WindowHandle owner, const char* title, const char* filterText, const char* mask,
+                    const char* startFolder, char* path, int size) {
+  return FileDialogRun({false, title, filterText, mask, startFolder ? startFolder : "", path, owner}, path,
+                       size);
+}
+
+bool FileDialogSave(WindowHandle owner, const char* title, const char* filterText, const char* mask,
+                    const char* startFolder, char* path, int size) {
+  return FileDialogRun({true, title, filterText, mask, startFolder ? startFolder : "", path, owner}, path,
+                       size);
+}
+
+void ExpectFileDialog(const char* path) {
+  expectedFiles.emplace_back(path);
+}
+
+const std::vector<FileDialogCall>& FileDialogsShown() {
+  return fileDialogs;
+}
+
+int DialogsExpected() {
+  return static_cast<int>(expectedFiles.size() + expectedMenus.size());
+}
+
+void BoxesReset() {
+  expectedBoxes.clear();
+  expectedFiles.clear();
+  expectedMenus.clear();
+  boxesShown.clear();
+  fileDialogs.clear();
+}
