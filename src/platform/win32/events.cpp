@@ -9,10 +9,13 @@
 namespace {
 
 Notice NoticeOf(HWND control, UINT code) {
+  // Escape and Enter come as the press of control 2 or 1 even if that is no button;
+  // no other kind of control has a report of its own with this number.
+  if (code == BN_CLICKED) return Notice::Click;
   wchar_t name[16] = L"";
   GetClassNameW(control, name, 16);
   if (lstrcmpiW(name, L"Button") == 0 || lstrcmpiW(name, L"Static") == 0) {
-    return code == BN_CLICKED ? Notice::Click : code == BN_DBLCLK ? Notice::DoubleClick : Notice::Other;
+    return code == BN_DBLCLK ? Notice::DoubleClick : Notice::Other;
   }
   if (lstrcmpiW(name, L"ListBox") == 0 || lstrcmpiW(name, L"ComboBox") == 0) {
     // Both kinds of list report with the same two numbers.
