@@ -1,0 +1,26 @@
+// The pictures of the characters that are on the desktop, and the names of a
+// character's files in the folder "\キャラクタ".
+#pragma once
+
+#include "character/outline.h"
+#include "shell/dib.h"
+
+// Row 0 holds the stage's character, row 1 + slot the character of a walking slot.
+inline constexpr int kFrameRowCount = 51;
+inline constexpr int kStageRow = 0;
+
+extern ImageHandle FrameTable[kFrameRowCount][kFrameMax];
+
+// The picture of a frame; null for none and for a row or frame beyond the table.
+ImageHandle FramePicture(int row, int frame);
+
+// Frees a row's pictures and loads those of a character (its number minus 1). A
+// file that is missing or no bitmap leaves its frame empty.
+void FramesLoad(int row, int number);
+void FramesFree(int row);
+
+// Names of a character's files: its number minus 1, a frame from 0. All three
+// write into one buffer, which the next call overwrites.
+const char* CharaDwcPath(int number);
+const char* CharaBmpPath(int number, int frame);
+const char* CharaMaskPath(int number, int frame);

@@ -1,0 +1,394 @@
+#include "character/character_file.h"
+
+#include <gtest/gtest.h>
+
+#include <cstring>
+#include <random>
+
+#include "character/chara_set.h"
+#include "character/character_tables.h"
+#include "platform/diagnostics.h"
+#include "tests/character/chara_files.h"
+
+namespace {
+
+constexpr char kName[] = "\\mirrell_chara_file.dcx";
+constexpr char kMagic[] = "Mirrell Character File:";
+
+std::vector<int> designsTaken;
+void NoteDesign(int design) {
+  designsTaken.push_back(design);
+}
+
+// One main character record, 756 bytes; the numbers count up from `base`.
+std::string MainRecord(int base) {
+  std::string record;
+  for (int i = 0; i < 16; ++i) record += BE32(base + i);
+  std::string set(kCharaSetSize, static_cast<char>(base));
+  set[0] = static_cast<char>(base);
+  set[1] = 0;
+  return record + set;
+}
+
+std::string Field(const std::string& text, std::size_t size) {
+  std::string field = text;
+  field.resize(size);
+  return field;
+}
+
+// Two main characters, one alarm character, two walking ones, one clock design.
+std::string SmallFile() {
+  std::string file = kMagic;
+  file += BE32(2) + MainRecord(100) + MainRecord(50);
+  file += BE32(1) + BE32(77);
+  file += BE32(-5) + BE32(6);
+  file += std::string(1, 2) + BE16(10) + BE16(300) + Field("a.wav", 256) + Field("b.wav", 256);
+  file += std::string(1, 1) + BE16(15) + std::string(464, 'd');
+  std::string flags(50, 0);
+  flags[1] = 5;
+  flags[49] = 7;
+  return file + flags + BE32(9) + BE32(3);
+}
+
+// Where the fields of SmallFile end: 23 magic, 4 N, 2 * (64 numbers + 676), 4 A,
+// 4, 8, 1 W, 4, 512, 1 C, 2, 464, 50, 8.
+constexpr std::size_t kEndOf13 = 23 + 4 + 2 * 740 + 4 + 4 + 8 + 1 + 4 + 512 + 1 + 2 + 464 + 50;
+constexpr std::size_t kEnd = kEndOf13 + 8;
+
+class CharacterFileTest : public CharaFiles {
+ protected:
+  void SetUp() override {
+    CharaFiles::SetUp();
+    Clear();
+    designsTaken.clear();
+    ClockDesignTakeListValues = NoteDesign;
+  }
+  void TearDown() override {
+    Clear();
+    ClockDesignTakeListValues = nullptr;
+    CharaFiles::TearDown();
+  }
+  static void Clear() {
+    MainCharaCount = AlarmCharaCount = WalkCharaCount = ClockDesignCount = 0;
+    for (MainChara& row : MainCharas) row = MainChara{};
+    for (std::int32_t& number : AlarmCharas) number = 0;
+    for (WalkChara& row : WalkCharas) row = WalkChara{};
+    for (ClockDesignRow& row : ClockDesigns) row = ClockDesignRow{};
+    std::memset(WalkFlags, 0, sizeof WalkFlags);
+  }
+  // Tables that a failed read must leave as they are.
+  static void Fill() {
+    MainCharaCount = 3;
+    MainCharas[2].menuFrame = 1234;
+    AlarmCharaCount = 4;
+    AlarmCharas[3] = 55;
+    WalkCharaCount = 5;
+    TextCopy(WalkCharas[4].sound, kWalkSoundSize, "old.wav");
+    ClockDesignCount = 6;
+    ClockDesigns[5].number = 99;
+    WalkFlags[7] = 1;
+  }
+  static bool IsAsFilled() {
+    return MainCharaCount == 3 && MainCharas[2].menuFrame == 1234 && AlarmCharaCount == 4 &&
+           AlarmCharas[3] == 55 && WalkCharaCount == 5 && std::strcmp(WalkCharas[4].sound, "old.wav") == 0 &&
+           ClockDesignCount == 6 && ClockDesigns[5].number == 99 && WalkFlags[7] == 1;
+  }
+};
+
+TEST_F(CharacterFileTest, ThePathIsTheProgramFolderAndTheName) {
+  TextCopy(RootFolder, kRootSize, "C:\\mirrell");
+  char path[kCharaFilePathSize];
+  EXPECT_EQ(CharaFilePath(path), 33);
+  EXPECT_STREQ(path, "C:\\mirrell\\mirrell_chara_file.dcx");
+}
+
+TEST_F(CharacterFileTest, EveryFieldReachesItsTable) {
+  const std::string file = SmallFile();
+  ASSERT_EQ(file.size(), kEnd);
+  Put(kName, file);
+  EXPECT_EQ(CharaFileRead(), 0);
+  EXPECT_EQ(FileStatus, 0);
+  EXPECT_EQ(MainCharaCount, 2);
+  const MainChara& first = MainCharas[0];
+  EXPECT_EQ(first.charaNo, 100);
+  EXPECT_EQ(first.menuFrame, 101);
+  EXPECT_EQ(first.blinkFrame, 102);
+  for (int i = 0; i < 5; ++i) EXPECT_EQ(first.bored1Frames[i], 103 + i);
+  for (int i = 0; i < 5; ++i) EXPECT_EQ(first.bored2Frames[i], 108 + i);
+  EXPECT_EQ(first.boredDelaySel, 113);
+  EXPECT_EQ(first.boredSpeedSel, 114);
+  EXPECT_EQ(first.boredRepeatSel, 115);
+  EXPECT_EQ(CharaSetNo(first.charaSet), 100);
+  EXPECT_EQ(first.charaSet[675], 100);
+  EXPECT_EQ(first.secondNumber, -5);
+  EXPECT_EQ(first.blinkSpeedSel, 9);
+  EXPECT_EQ(MainCharas[1].charaNo, 50);
+  EXPECT_EQ(MainCharas[1].boredRepeatSel, 65);
+  EXPECT_EQ(MainCharas[1].secondNumber, 6);
+  EXPECT_EQ(MainCharas[1].blinkSpeedSel, 3);
+  EXPECT_EQ(AlarmCharaCount, 1);
+  EXPECT_EQ(AlarmCharas[0], 77);
+  EXPECT_EQ(WalkCharaCount, 2);
+  EXPECT_EQ(WalkCharas[0].number, 10);
+  EXPECT_EQ(WalkCharas[1].number, 300);
+  EXPECT_STREQ(WalkCharas[0].sound, "a.wav");
+  EXPECT_STREQ(WalkCharas[1].sound, "b.wav");
+  EXPECT_EQ(ClockDesignCount, 1);
+  EXPECT_EQ(ClockDesigns[0].number, 15);
+  EXPECT_EQ(ClockDesigns[0].record[463], 'd');
+  EXPECT_EQ(WalkFlags[1], 5);
+  EXPECT_EQ(WalkFlags[49], 7);
+  EXPECT_EQ(designsTaken, (std::vector<int>{0}));
+}
+
+TEST_F(CharacterFileTest, RowsBehindTheCountsAreEmptyAfterARead) {
+  Fill();
+  Put(kName, SmallFile());
+  EXPECT_EQ(CharaFileRead(), 0);
+  EXPECT_EQ(MainCharas[2].menuFrame, 0);
+  EXPECT_EQ(AlarmCharas[3], 0);
+  EXPECT_EQ(WalkCharas[4].sound[0], '\0');
+  EXPECT_EQ(ClockDesigns[5].number, 0);
+}
+
+TEST_F(CharacterFileTest, AMissingFileGivesMinus1AndLeavesTheTables) {
+  Fill();
+  EXPECT_EQ(CharaFileRead(), -1);
+  EXPECT_EQ(FileStatus, -1);
+  EXPECT_TRUE(IsAsFilled());
+}
+
+TEST_F(CharacterFileTest, AnotherMagicGivesMinus2) {
+  Fill();
+  std::string file = SmallFile();
+  file[22] = ';';
+  Put(kName, file);
+  EXPECT_EQ(CharaFileRead(), -2);
+  EXPECT_EQ(FileStatus, -2);
+  EXPECT_TRUE(IsAsFilled());
+}
+
+TEST_F(CharacterFileTest, AFileWithoutTheBlinkIntervalsWorksAndLeavesTheClockDesignsListValues) {
+  MainCharas[0].blinkSpeedSel = 4;
+  MainCharas[1].blinkSpeedSel = 5;
+  Put(kName, SmallFile().substr(0, kEndOf13));
+  EXPECT_EQ(CharaFileRead(), 0);
+  EXPECT_EQ(FileStatus, 0);
+  EXPECT_EQ(MainCharaCount, 2);
+  EXPECT_EQ(WalkFlags[49], 7);
+  EXPECT_EQ(MainCharas[0].blinkSpeedSel, 4);
+  EXPECT_EQ(MainCharas[1].blinkSpeedSel, 5);
+  EXPECT_TRUE(designsTaken.empty());
+}
+
+TEST_F(CharacterFileTest, EveryTruncationIsToldAndLeavesTheTables) {
+  const std::string file = SmallFile();
+  Put(kName, file);
+  const std::string native = Native(kName);
+  for (std::size_t size = file.size(); size-- > 0;) {
+    ASSERT_EQ(truncate(native.c_str(), static_cast<off_t>(size)), 0);
+    Fill();
+    FileStatus = 0;
+    const int result = CharaFileRead();
+    if (size >= kEndOf13) {
+      EXPECT_EQ(result, 0) << size;
+      EXPECT_EQ(MainCharaCount, 2) << size;
+      EXPECT_EQ(MainCharas[0].blinkSpeedSel, 0) << size;
+      EXPECT_TRUE(designsTaken.empty()) << size;
+    } else {
+      EXPECT_EQ(result, -1) << size;
+      EXPECT_EQ(FileStatus, -2) << size;
+      EXPECT_TRUE(IsAsFilled()) << size;
+    }
+  }
+}
+
+TEST_F(CharacterFileTest, CountsBeyondTheTablesAreBadContent) {
+  const std::string good = SmallFile();
+  const std::size_t alarmCount = 23 + 4 + 2 * 740;
+  const std::size_t walkCount = alarmCount + 4 + 4 + 8;
+  const std::size_t designCount = walkCount + 1 + 4 + 512;
+  const struct {
+    std::size_t at;
+    std::string count;
+  } kAbsurd[] = {
+      {23, BE32(51)},         {23, BE32(-1)},         {23, BE32(0x7FFFFFFF)},
+      {alarmCount, BE32(51)}, {alarmCount, BE32(-1)}, {alarmCount, BE32(1000000)},
+      {walkCount, "\x33"},    {walkCount, "\xFF"},    {designCount, "\x33"},
+      {designCount, "\xFF"},
+  };
+  for (const auto& absurd : kAbsurd) {
+    std::string file = good;
+    file.replace(absurd.at, absurd.count.size(), absurd.count);
+    file += std::string(60000, 1);
+    Put(kName, file);
+    Fill();
+    FileStatus = 0;
+    EXPECT_EQ(CharaFileRead(), -2) << absurd.at;
+    EXPECT_EQ(FileStatus, -2) << absurd.at;
+    EXPECT_TRUE(IsAsFilled()) << absurd.at;
+  }
+}
+
+TEST_F(CharacterFileTest, FiftyOfEverythingFit) {
+  std::string file = kMagic;
+  file += BE32(50);
+  for (int i = 0; i < 50; ++i) file += MainRecord(i);
+  file += BE32(50);
+  for (int i = 0; i < 50; ++i) file += BE32(i + 1);
+  for (int i = 0; i < 50; ++i) file += BE32(i + 2);
+  file += std::string(1, 50);
+  for (int i = 0; i < 50; ++i) file += BE16(i + 3);
+  for (int i = 0; i < 50; ++i) file += std::string(256, 'w');
+  file += std::string(1, 50);
+  for (int i = 0; i < 50; ++i) file += BE16(i + 4);
+  for (int i = 0; i < 50; ++i) file += std::string(464, 'x');
+  file += std::string(50, 1);
+  for (int i = 0; i < 50; ++i) file += BE32(i + 5);
+  Put(kName, file);
+  EXPECT_EQ(CharaFileRead(), 0);
+  EXPECT_EQ(MainCharas[49].charaNo, 49);
+  EXPECT_EQ(AlarmCharas[49], 50);
+  EXPECT_EQ(MainCharas[49].secondNumber, 51);
+  EXPECT_EQ(WalkCharas[49].number, 52);
+  EXPECT_EQ(ClockDesigns[49].number, 53);
+  EXPECT_EQ(MainCharas[49].blinkSpeedSel, 54);
+  EXPECT_EQ(designsTaken.size(), 50U);
+}
+
+TEST_F(CharacterFileTest, RandomMutationsLeaveTheTablesWithinTheirCapacities) {
+  const std::string file = SmallFile();
+  Put(kName, file);
+  const int native = open(Native(kName).c_str(), O_RDWR);
+  ASSERT_GE(native, 0);
+  std::mt19937 random(2);
+  for (int round = 0; round < 100000; ++round) {
+    // Half of the changes strike a byte of the counts.
+    constexpr std::size_t kCounts[] = {23, 24, 25, 26, 1507, 1510, 1523, 2040};
+    const std::size_t at = round % 2 == 0 ? random() % file.size() : kCounts[random() % 8];
+    const char value = static_cast<char>(random() % 8 == 0 ? random() : random() % 5);
+    ASSERT_EQ(pwrite(native, &value, 1, static_cast<off_t>(at)), 1);
+    const int result = CharaFileRead();
+    ASSERT_TRUE(result == 0 || result == -1 || result == -2);
+    ASSERT_TRUE(MainCharaCount >= 0 && MainCharaCount <= kMainCharaMax);
+    ASSERT_TRUE(AlarmCharaCount >= 0 && AlarmCharaCount <= kAlarmCharaMax);
+    ASSERT_TRUE(WalkCharaCount >= 0 && WalkCharaCount <= kWalkCharaMax);
+    ASSERT_TRUE(ClockDesignCount >= 0 && ClockDesignCount <= kClockDesignMax);
+    ASSERT_EQ(pwrite(native, &file[at], 1, static_cast<off_t>(at)), 1);
+  }
+  close(native);
+  EXPECT_EQ(CharaFileRead(), 0);
+  EXPECT_EQ(DiagnosticsLive().files, 0);
+}
+
+TEST_F(CharacterFileTest, EveryFailingReadGivesItsResult) {
+  Put(kName, SmallFile());
+  bool whole = false;
+  int last = 0;
+  for (int nth = 1; !whole; ++nth) {
+    Fill();
+    FileStatus = 0;
+    FaultArm(FaultKind::Read, nth);
+    last = CharaFileRead();
+    whole = !FaultWasMet();
+    FaultClear();
+    if (last != 0) {
+      EXPECT_EQ(last, -1) << nth;
+      EXPECT_EQ(FileStatus, -2) << nth;
+      EXPECT_TRUE(IsAsFilled()) << nth;
+    }
+  }
+  EXPECT_EQ(last, 0);
+  EXPECT_EQ(DiagnosticsLive().files, 0);
+}
+
+// --- Writing
+
+TEST_F(CharacterFileTest, AWrittenFileHoldsTheTablesAndTheFixedValuesOfANewDataSet) {
+  MainCharaCount = 4;
+  for (int i = 0; i < 4; ++i) MainCharas[i].charaNo = static_cast<std::uint16_t>(i + 1);
+  MainCharas[1].blinkSpeedSel = 8;
+  WalkCharaCount = 4;
+  TextCopy(WalkCharas[0].sound, kWalkSoundSize, "旗印.wav");
+  ClockDesignCount = 1;
+  for (int i = 0; i < 5; ++i) WalkFlags[i] = 7;
+  AlarmCharaSel[2] = 3;
+  EXPECT_EQ(CharaFileWrite(), 0);
+  EXPECT_EQ(AlarmCharaSel[0], 1);
+  EXPECT_EQ(AlarmCharaSel[1], 1);
+  EXPECT_EQ(AlarmCharaSel[2], 0);
+  // 23 + 4 + 4 * 740 + 4 + 3 * 4 + 4 * 4 + 1 + 4 * 2 + 4 * 256 + 1 + 2 + 464 + 50 + 4 * 4
+  EXPECT_EQ(Get(kName).size(), 4585U);
+
+  Clear();
+  EXPECT_EQ(CharaFileRead(), 0);
+  EXPECT_EQ(MainCharaCount, 4);
+  EXPECT_EQ(MainCharas[3].charaNo, 4);
+  EXPECT_EQ(MainCharas[1].blinkSpeedSel, 8);
+  EXPECT_EQ(AlarmCharaCount, 3);
+  EXPECT_EQ(AlarmCharas[0], 6);
+  EXPECT_EQ(AlarmCharas[1], 8);
+  EXPECT_EQ(AlarmCharas[2], 9);
+  EXPECT_EQ(MainCharas[3].secondNumber, 4);
+  for (int i = 2; i < 4; ++i) {
+    const unsigned char* set = MainCharas[i].charaSet;
+    EXPECT_EQ(WalkStepX(set), -28);
+    EXPECT_EQ(WalkStepY(set), -24);
+    EXPECT_EQ(WalkPeriod(set), 4);
+    EXPECT_EQ(WalkCount(set), 24);
+  }
+  EXPECT_EQ(WalkStepX(MainCharas[1].charaSet), 0);
+  for (int i = 0; i < 4; ++i) EXPECT_EQ(WalkFlags[i], 0);
+  EXPECT_EQ(WalkFlags[4], 7);
+  EXPECT_STREQ(WalkCharas[0].sound, "旗印.wav");
+  EXPECT_STREQ(WalkCharas[1].sound, "foot1.wav");
+  EXPECT_STREQ(WalkCharas[2].sound, "foot2.wav");
+}
+
+TEST_F(CharacterFileTest, WhatWasReadIsWrittenAsItStood) {
+  std::string file = SmallFile();
+  Put(kName, file);
+  ASSERT_EQ(CharaFileRead(), 0);
+  EXPECT_EQ(CharaFileWrite(), 0);
+  // The fixed values: the alarm list, the flags of rows 0 to 3, the sound of row 1.
+  const std::size_t alarmCount = 23 + 4 + 2 * 740;
+  std::string expected = file;
+  const std::size_t flags = kEndOf13 - 50;
+  expected.replace(flags, 4, std::string(4, '\0'));
+  expected.replace(alarmCount + 8 + 8 + 1 + 4 + 256, 10, std::string("foot1.wav") + '\0');
+  expected.replace(alarmCount, 8, BE32(3) + BE32(6) + BE32(8) + BE32(9));
+  EXPECT_EQ(Get(kName), expected);
+}
+
+TEST_F(CharacterFileTest, EveryFailingCallOfTheWriterGivesItsResult) {
+  Put(kName, SmallFile());
+  ASSERT_EQ(CharaFileRead(), 0);
+  int writes = 0;
+  for (int nth = 1;; ++nth) {
+    FaultArm(FaultKind::Write, nth);
+    const int result = CharaFileWrite();
+    const bool met = FaultWasMet();
+    FaultClear();
+    if (!met) {
+      EXPECT_EQ(result, 0);
+      break;
+    }
+    EXPECT_EQ(result, -1) << nth;
+    EXPECT_EQ(FileStatus, -2) << nth;
+    ++writes;
+  }
+  // magic, N, 2 * 17, A, 3, 2, W, 2, 2, C, 1, 1, flags, 2
+  EXPECT_EQ(writes, 53);
+  FaultArm(FaultKind::Create, 1);
+  EXPECT_EQ(CharaFileWrite(), -1);
+  EXPECT_EQ(FileStatus, -1);
+  FaultClear();
+  ASSERT_EQ(CharaFileWrite(), 0);
+  FaultArm(FaultKind::Open, 2);
+  EXPECT_EQ(CharaFileWrite(), -1);
+  EXPECT_EQ(FileStatus, -1);
+  FaultClear();
+  EXPECT_EQ(DiagnosticsLive().files, 0);
+}
+
+}  // namespace
