@@ -27,6 +27,7 @@ LiveObjects DiagnosticsLive();
 // number wParam, and with the live counts, in the order above, from 100 on.
 inline constexpr int kDiagnosticsCount = 64;
 inline constexpr int kDiagnosticsLiveFirst = 100;
+inline constexpr int kDiagnosticsLiveCount = 11;
 void DiagnosticsShow(int number, const std::int32_t* value);
 
 // The value laid open under a number, or a live count; 0 for none.

@@ -16,6 +16,23 @@ void Validate(HWND window) {
   EndPaint(window, &paint);
 }
 
+// For the tests: what is still held when the message loop has ended, a number a
+// line, into the file that MIRRELL_LIVE_REPORT names.
+void LiveReportWrite() {
+  wchar_t path[MAX_PATH];
+  const DWORD length = GetEnvironmentVariableW(L"MIRRELL_LIVE_REPORT", path, MAX_PATH);
+  if (length == 0 || length >= MAX_PATH) return;
+  std::string text;
+  for (int i = 0; i < kDiagnosticsLiveCount; ++i) {
+    text += std::to_string(DiagnosticsValue(kDiagnosticsLiveFirst + i)) + "\n";
+  }
+  HANDLE file = CreateFileW(path, GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr);
+  if (file == INVALID_HANDLE_VALUE) return;
+  DWORD written = 0;
+  WriteFile(file, text.data(), static_cast<DWORD>(text.size()), &written, nullptr);
+  CloseHandle(file);
+}
+
 LRESULT CALLBACK MainWindowProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
   if (diagnosticsMessage != 0 && message == diagnosticsMessage) {
     return DiagnosticsValue(static_cast<int>(wParam));
@@ -78,6 +95,7 @@ int MessageLoop(WindowHandle window, int acceleratorId) {
     TranslateMessage(&message);
     DispatchMessageW(&message);
   }
+  LiveReportWrite();
   return static_cast<int>(message.wParam);
 }
 

@@ -1,0 +1,26 @@
+#!/usr/bin/env bash
+# Runs the end-to-end tests under Wine on a virtual display; the arguments go to
+# the test program.
+set -euo pipefail
+cd "$(dirname "$0")/.."
+. scripts/wine_env.sh
+
+arguments=()
+for argument in "$@"; do
+  case "$argument" in
+    # The report is written by a Windows program: give it its own kind of path.
+    --gtest_output=xml:*) arguments+=("--gtest_output=xml:Z:$PWD/${argument#--gtest_output=xml:}") ;;
+    *) arguments+=("$argument") ;;
+  esac
+done
+
+program=build/desktop/program
+rm -rf "$program"
+scripts/program_folder.sh "$program"
+
+trap display_stop EXIT
+display_start 1280x960
+wine_prefix
+export MIRRELL_PROGRAM="Z:$PWD/$program"
+MIRRELL_PROGRAM=${MIRRELL_PROGRAM//\//\\}
+wine build/windows/tests/desktop/desktop_tests.exe "${arguments[@]}"
