@@ -31,6 +31,7 @@ constexpr std::uint16_t kMagic = 19778;
 constexpr int kReadPiece = 32768;
 constexpr std::uint32_t kCoreSize = 12;
 constexpr std::uint32_t kSmallestSize = 16;
+constexpr std::uint32_t kDrawnSize = 40;
 
 // The file's size must be at least what its header says, so that no block is
 // asked for that could not be filled.
@@ -105,12 +106,20 @@ bool LayoutOf(ImageHandle image, Layout* layout) {
   std::uint64_t colours = bits == 24 ? 0 : std::uint64_t{1} << bits;
   if (headerSize >= 36 && GetLE32(image + 32) != 0) colours = GetLE32(image + 32);
 
+  constexpr std::uint64_t kMostIndexed = 256;
+  if (bits <= 8 && colours > kMostIndexed) return false;
+
   const std::uint64_t rows = headerSize + colours * (core ? 3 : 4);
   const std::uint64_t stride = (static_cast<std::uint64_t>(width) * bits + 31) / 32 * 4;
   if (rows > size || stride > (size - rows) / static_cast<std::uint64_t>(height)) return false;
   *layout = {static_cast<int>(width), static_cast<int>(height), bits, static_cast<std::size_t>(rows),
              static_cast<std::size_t>(stride)};
   return true;
+}
+
+// Headers between the two usual sizes have rows, but no window system draws them.
+bool CanBeDrawn(ImageHandle image, Layout* layout) {
+  return LayoutOf(image, layout) && (IsCore(image) || GetLE32(image) >= kDrawnSize);
 }
 
 bool Masked(const unsigned char* pixel) {
@@ -147,13 +156,13 @@ unsigned char* DibBits(ImageHandle image) {
 
 void DibDraw(Canvas* canvas, int x, int y, ImageHandle image) {
   Layout layout;
-  if (!LayoutOf(image, &layout)) return;
+  if (!CanBeDrawn(image, &layout)) return;
   CanvasDib(canvas, x, y, layout.width, layout.height, image, image + layout.rows);
 }
 
 void DibDrawRop(Canvas* canvas, int x, int y, ImageHandle image, RasterOp op) {
   Layout layout;
-  if (!LayoutOf(image, &layout)) return;
+  if (!CanBeDrawn(image, &layout)) return;
   CanvasDibOp(canvas, x, y, layout.width, layout.height, image, image + layout.rows, op);
 }
 
