@@ -103,6 +103,9 @@ inline constexpr int kPickerFolderCount = 5;
 extern char PickFolder[256];  // the folder that the file picker shows
 extern char PickerStartFolders[kPickerFolderCount][256];
 
+// Room for the program folder and the name of any data file in it.
+inline constexpr int kRootPathSize = kRootSize + 100;
+
 // Writes the program folder and `name` (which begins with a backslash) into
 // `buffer` of `size` bytes. Returns the length.
 int RootPath(char* buffer, int size, const char* name);

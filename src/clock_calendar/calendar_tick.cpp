@@ -1,0 +1,42 @@
+// The calendar's part of a tick: a new day, a new month on show.
+#include <algorithm>
+
+#include "clock_calendar/calendar.h"
+#include "platform/time.h"
+#include "shell/shell.h"
+
+void CalenTakeDefinition() {
+  CalenTickerSetup();
+  CalenStickersPrepare();
+  CalenShowToday();
+}
+
+void CalenShowToday() {
+  CalenYearPos = TodayYear - CalenFirstYear;
+  CalenPrepareMonth();
+}
+
+void CalenPrepareMonth() {
+  if (CalenYearPos < 0 || CalenYearPos >= std::min<std::int32_t>(CalenYearCount, kCalenYearMax)) {
+    const std::int64_t year = std::int64_t{CalenFirstYear} + CalenYearPos;
+    // bounded: the settings file may hold any place; today is always a year.
+    CalenYearsSet(year >= 0 && year <= 99 ? static_cast<int>(year) : TodayYear);
+    CalenYearsRebuild();
+    CalenYearPos = 0;
+  }
+  CalenPicturesLoad();
+}
+
+int CalenTickCheck() {
+  LocalTime now;
+  TimeGetLocal(&now);
+  const SclDate today = {now.year - 2000, now.month - 1, now.day - 1, now.hour};
+  const bool otherMonth = today.year != TodayYear || today.month != TodayMonth;
+  const bool otherDay = otherMonth || today.day != TodayDay;
+  TodayYear = today.year;
+  TodayMonth = today.month;
+  TodayDay = today.day;
+  if (otherMonth) CalenShowToday();
+  const bool moved = CalenFiguresMove();
+  return otherDay || moved ? 1 : 0;
+}

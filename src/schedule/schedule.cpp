@@ -1,0 +1,4 @@
+#include "schedule/schedule.h"
+
+char DefaultSclName[kSclPathSize];
+char PlanTitles[kPlanKindCount][kPlanTitleSize];
