@@ -1,7 +1,5 @@
 #include "shell/folder_list.h"
 
-#include <cstring>
-
 #include "platform/canvas.h"
 #include "platform/dialog.h"
 #include "platform/file.h"
