@@ -50,6 +50,9 @@ void DesktopTest::TearDown() {
   FaultClear();
   MainWindowDrop();
   for (const std::string& failure : HeadlessFailures()) ADD_FAILURE() << failure;
+  for (const WindowHandle window : OpenWindows()) {
+    ADD_FAILURE() << "dialog " << TemplateOf(window) << " is still open";
+  }
   EXPECT_EQ(StepsLeft(), 0) << "steps of the script that nobody ran";
   EXPECT_EQ(BoxesLeft(), 0) << "boxes that were expected and did not come";
   EXPECT_EQ(DialogsExpected(), 0) << "file dialogs or menus that were expected and did not come";

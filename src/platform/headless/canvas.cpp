@@ -28,11 +28,11 @@ HandleTable<Canvas, HeadlessCanvas> canvases;
 
 using CanvasPointer = std::shared_ptr<HeadlessCanvas>;
 
+// A canvas that could not be had is no canvas: nobody may draw on null.
 CanvasPointer Use(Canvas* canvas, const char* call) {
-  if (!canvas) return nullptr;
   CanvasPointer found = canvases.Find(canvas);
   if (!found) {
-    Failure(std::string(call) + ": the canvas is released");
+    Failure(std::string(call) + (canvas ? ": the canvas is released" : ": the canvas is null"));
   } else if (found->window && !Windows().Find(found->window)) {
     Failure(std::string(call) + ": the canvas's window is no more");
   }
@@ -158,7 +158,7 @@ Canvas* CanvasGet(WindowHandle window) {
 
 Canvas* CanvasMemory(Canvas* like, int width, int height) {
   if (FaultMeets(FaultKind::Bitmap)) return nullptr;
-  if (!Use(like, "CanvasMemory") || width < 0 || height < 0) return nullptr;
+  if (!like || !Use(like, "CanvasMemory") || width < 0 || height < 0) return nullptr;
   auto canvas = std::make_shared<HeadlessCanvas>();
   canvas->width = width;
   canvas->height = height;

@@ -162,12 +162,16 @@ int MessageLoop(WindowHandle window, int acceleratorId) {
     Failure("MessageLoop: no accelerators " + std::to_string(acceleratorId) + " in the resources");
   }
   WindowUse(window, "MessageLoop");
+  loopWindow = window;
+  loopAccelerators = acceleratorId;
   while (!quitAsked) {
     PaintDue();
     if (quitAsked || ScriptStep()) continue;
     Failure("the script is empty while the message loop runs");
     break;
   }
+  loopWindow = nullptr;
+  loopAccelerators = 0;
   return quitCode;
 }
 

@@ -45,6 +45,9 @@ void DoubleClickRow(WindowHandle dialog, int id, int row);
 void Type(WindowHandle dialog, int id, const char* text);  // replaces an edit field's text
 void Mouse(WindowHandle window, EventKind kind, int x, int y, unsigned keys = 0);
 void PressKey(WindowHandle window, int code);  // Char
+// A key with an entry in the accelerators of the running message loop. `flags`:
+// 4 shift, 8 control, 16 alt.
+void PressAccelerator(int key, unsigned flags);
 // Moves a scroll bar control as the user would.
 void ScrollBy(WindowHandle window, WindowHandle bar, Scroll scroll, int position = 0);
 void SetPointer(int x, int y);
@@ -90,6 +93,8 @@ WindowHandle TopDialog();
 // An open dialog of that template, the newest first; null if none.
 WindowHandle FindDialog(int templateId);
 int TemplateOf(WindowHandle window);
+// Main window and dialogs, the oldest first.
+std::vector<WindowHandle> OpenWindows();
 int OpenWindowCount();
 bool IsVisible(WindowHandle window);
 bool IsTopmost(WindowHandle window);
@@ -162,5 +167,7 @@ struct StartedProcess {
   bool closed = false;
 };
 const std::vector<StartedProcess>& ProcessesStarted();
+// The program for an extension (".txt"). AssociationFind also asks that the
+// file exists, and a program (".exe") stands for itself.
 void AssociationSet(const char* extension, const char* program);
 void ClassValueSet(const char* key, const char* value);

@@ -104,8 +104,6 @@ int ListText(WindowHandle dialog, int id, int row, char* buffer, int size) {
 void ListFolders(WindowHandle dialog, int id) {
   const WindowPointer list = ListUse(dialog, id, "ListFolders");
   if (!list) return;
-  list->rows.clear();
-  RowSelect(list, -1);
   char current[4096];
   const int length = FolderGetCurrent(current, sizeof current);
   constexpr int kRootLength = 3;  // "C:\"

@@ -1,11 +1,15 @@
 #include "platform/process.h"
 
+#include <unistd.h>
+
 #include <cstring>
+#include <filesystem>
 #include <map>
 
 #include "platform/file.h"
 #include "platform/headless/state.h"
 #include "platform/posix/faults.h"
+#include "platform/posix/posix_paths.h"
 
 namespace {
 
@@ -22,13 +26,17 @@ std::string Lower(std::string text) {
   return text;
 }
 
+bool CopyOut(const std::string& text, char* buffer, int size) {
+  if (size <= 0 || text.size() >= static_cast<std::size_t>(size)) return false;
+  std::memcpy(buffer, text.c_str(), text.size() + 1);
+  return true;
+}
+
 bool Give(const std::map<std::string, std::string>& table, const std::string& key, char* buffer, int size) {
   if (size <= 0) return false;
   buffer[0] = '\0';
   const auto at = table.find(Lower(key));
-  if (at == table.end() || at->second.size() >= static_cast<std::size_t>(size)) return false;
-  std::memcpy(buffer, at->second.c_str(), at->second.size() + 1);
-  return true;
+  return at != table.end() && CopyOut(at->second, buffer, size);
 }
 
 }  // namespace
@@ -61,10 +69,17 @@ void ProcessClose(ProcessHandle process) {
 }
 
 bool AssociationFind(const char* file, const char* folder, char* program, int size) {
-  (void)folder;
+  if (size <= 0) return false;
+  program[0] = '\0';
+  std::string path = PosixPath(file);
+  const std::string base = PosixPath(folder);
+  if (!path.starts_with('/') && !base.empty()) path = base + "/" + path;
+  if (access(path.c_str(), F_OK) != 0) return false;
   const std::string name = file;
   const std::size_t dot = name.rfind('.');
-  return Give(associations, dot == std::string::npos ? "" : name.substr(dot), program, size);
+  const std::string extension = dot == std::string::npos ? "" : Lower(name.substr(dot));
+  if (extension != ".exe") return Give(associations, extension, program, size);
+  return CopyOut(PosixToProgram(std::filesystem::weakly_canonical(path).string()), program, size);
 }
 
 bool ClassValue(const char* key, char* value, int size) {

@@ -88,6 +88,9 @@ void PaintDue();
 
 extern WindowHandle focusWindow;
 extern std::vector<WindowHandle> modalStack;
+// Of the message loop that runs; none: null and 0.
+extern WindowHandle loopWindow;
+extern int loopAccelerators;
 extern bool quitAsked;
 extern int quitCode;
 

@@ -171,6 +171,23 @@ void PressKey(WindowHandle window, int code) {
   EventSend(event);
 }
 
+void PressAccelerator(int key, unsigned flags) {
+  constexpr unsigned kWhichKeys = 4 | 8 | 16;
+  if (!modalStack.empty() || !Windows().Find(loopWindow)) {
+    Failure("PressAccelerator: the main window's loop is not the one that runs");
+    return;
+  }
+  const auto table = Resources().accelerators.find(loopAccelerators);
+  if (table != Resources().accelerators.end()) {
+    for (const ResourceAccelerator& entry : table->second) {
+      if (entry.key != key || (entry.flags & kWhichKeys) != flags) continue;
+      SendCommand(loopWindow, entry.command);
+      return;
+    }
+  }
+  Failure("PressAccelerator: no entry for the key " + std::to_string(key));
+}
+
 void ScrollBy(WindowHandle window, WindowHandle bar, Scroll scroll, int position) {
   const WindowPointer found = WindowUse(bar, "ScrollBy");
   if (!WindowUse(window, "ScrollBy") || !found) {

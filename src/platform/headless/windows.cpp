@@ -9,6 +9,8 @@
 
 WindowHandle focusWindow = nullptr;
 std::vector<WindowHandle> modalStack;
+WindowHandle loopWindow = nullptr;
+int loopAccelerators = 0;
 bool quitAsked = false;
 int quitCode = 0;
 
@@ -97,6 +99,8 @@ void WindowsReset() {
   }
   focusWindow = nullptr;
   mainWindow = nullptr;
+  loopWindow = nullptr;
+  loopAccelerators = 0;
   modalStack.clear();
   quitAsked = false;
   quitCode = 0;
@@ -130,7 +134,7 @@ bool EventSend(const Event& event) {
 
 void NoticeSend(const HeadlessWindow& control, Notice notice) {
   Event event = EventOf(EventKind::Command, control.parent);
-  event.command = static_cast<std::uint32_t>(control.id);
+  event.command = static_cast<std::uint32_t>(control.id) & 0xFFFFU;  // 16 bits travel
   event.notice = notice;
   event.fromControl = true;
   EventSend(event);
@@ -215,7 +219,10 @@ void SendCommand(WindowHandle window, std::uint32_t command) {
 }
 
 void SendPaint(WindowHandle window) {
-  if (WindowUse(window, "SendPaint")) EventSend(EventOf(EventKind::Paint, window));
+  const WindowPointer found = WindowUse(window, "SendPaint");
+  if (!found) return;
+  found->dirty = false;
+  EventSend(EventOf(EventKind::Paint, window));
 }
 
 void SendClose(WindowHandle window) {
@@ -353,12 +360,16 @@ void WindowDestroy(WindowHandle window) {
   WindowRemove(window, true);
 }
 
-int OpenWindowCount() {
-  int count = 0;
+std::vector<WindowHandle> OpenWindows() {
+  std::vector<WindowHandle> open;
   for (const auto& [number, window] : Windows().All()) {
-    if (window->kind != WindowKind::Control) ++count;
+    if (window->kind != WindowKind::Control) open.push_back(window->handle);
   }
-  return count;
+  return open;
+}
+
+int OpenWindowCount() {
+  return static_cast<int>(OpenWindows().size());
 }
 
 bool IsVisible(WindowHandle window) {

@@ -7,6 +7,7 @@
 #include <sys/statvfs.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cctype>
 #include <cstdio>
 #include <cstring>
@@ -58,11 +59,21 @@ void FillEntry(const std::string& path, const std::string& name, SearchEntry* en
   CopyOut(PosixToCp932(name).substr(0, sizeof entry->name - 1), entry->name, sizeof entry->name);
 }
 
+// Names without regard to capitals; "." and ".." come first.
+std::pair<std::string, std::string> OrderKey(const SearchEntry& entry) {
+  std::string key = entry.name;
+  for (char& c : key) c = static_cast<char>(std::toupper(static_cast<unsigned char>(c)));
+  if (key == "." || key == "..") key.insert(0, 1, '\0');
+  return {key, entry.name};
+}
+
 std::string desktopFolder;
 
 }  // namespace
 
-void PosixDesktopSet(const std::string& folder) { desktopFolder = folder; }
+void PosixDesktopSet(const std::string& folder) {
+  desktopFolder = folder;
+}
 
 int FileOpen(const char* path, OpenMode mode) {
   if (FaultMeets(FaultKind::Open)) return kNoFile;
@@ -91,7 +102,8 @@ int FileRead(int file, void* buffer, int size) {
   if (FaultMeets(FaultKind::Read) && size > 0) --size;
   int total = 0;
   while (total < size) {
-    const ssize_t got = read(file, static_cast<char*>(buffer) + total, static_cast<std::size_t>(size - total));
+    const ssize_t got =
+        read(file, static_cast<char*>(buffer) + total, static_cast<std::size_t>(size - total));
     if (got < 0) return -1;
     if (got == 0) break;
     total += static_cast<int>(got);
@@ -203,6 +215,7 @@ SearchHandle SearchFirst(const char* pattern, SearchEntry* entry) {
   const std::size_t slash = full.rfind('/');
   const std::string folder = slash == std::string::npos ? "." : slash == 0 ? "/" : full.substr(0, slash);
   std::string mask = slash == std::string::npos ? full : full.substr(slash + 1);
+  if (mask.empty()) return kNoSearch;
   if (mask == "*.*") mask = "*";
   Search search;
   if (mask.find_first_of("*?") == std::string::npos) {
@@ -219,6 +232,9 @@ SearchHandle SearchFirst(const char* pattern, SearchEntry* entry) {
       FillEntry(folder + "/" + item->d_name, item->d_name, &search.entries.back());
     }
     closedir(directory);
+    // In the order that Windows tells.
+    std::sort(search.entries.begin(), search.entries.end(),
+              [](const SearchEntry& a, const SearchEntry& b) { return OrderKey(a) < OrderKey(b); });
   }
   if (search.entries.empty()) return kNoSearch;
   *entry = search.entries[0];

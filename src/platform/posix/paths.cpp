@@ -1,15 +1,37 @@
-#include "platform/posix/posix_paths.h"
-
 #include <iconv.h>
+#include <unistd.h>
 
 #include <cctype>
 #include <map>
+
+#include "platform/posix/posix_paths.h"
 
 namespace {
 
 std::map<char, std::string>& Drives() {
   static std::map<char, std::string> drives;
   return drives;
+}
+
+// The drive whose folder holds the path, the innermost of several; Z for none.
+char DriveOf(const std::string& path) {
+  char found = 'Z';
+  std::size_t length = 0;
+  for (const auto& [letter, folder] : Drives()) {
+    const bool inside = path == folder || path.starts_with(folder + "/");
+    if (!inside || folder.size() < length) continue;
+    found = letter;
+    length = folder.size();
+  }
+  return found;
+}
+
+// The folder of the drive we are on; empty for Z.
+std::string CurrentDrive() {
+  char current[4096];
+  if (!getcwd(current, sizeof current)) return {};
+  const char letter = DriveOf(current);
+  return letter == 'Z' ? std::string() : Drives()[letter];
 }
 
 std::string Convert(const char* to, const char* from, const std::string& text) {
@@ -26,9 +48,13 @@ std::string Convert(const char* to, const char* from, const std::string& text) {
     const std::size_t done = iconv(converter, &in, &inLeft, &out, &outLeft);
     result.append(buffer, sizeof buffer - outLeft);
     if (done == static_cast<std::size_t>(-1) && outLeft > 16 && inLeft > 0) {
+      // One character that has no counterpart, whatever its length.
       result += '_';
-      ++in;
-      --inLeft;
+      const bool utf8 = static_cast<unsigned char>(*in) >= 0xC0 && from[0] == 'U';
+      do {
+        ++in;
+        --inLeft;
+      } while (utf8 && inLeft > 0 && (static_cast<unsigned char>(*in) & 0xC0U) == 0x80);
     }
   }
   iconv_close(converter);
@@ -37,9 +63,13 @@ std::string Convert(const char* to, const char* from, const std::string& text) {
 
 }  // namespace
 
-std::string Cp932ToUtf8(const std::string& bytes) { return Convert("UTF-8", "CP932", bytes); }
+std::string Cp932ToUtf8(const std::string& bytes) {
+  return Convert("UTF-8", "CP932", bytes);
+}
 
-std::string PosixToCp932(const std::string& utf8) { return Convert("CP932", "UTF-8", utf8); }
+std::string PosixToCp932(const std::string& utf8) {
+  return Convert("CP932", "UTF-8", utf8);
+}
 
 std::string PosixPath(const char* path) {
   // Backslashes are turned after the conversion: a trail byte may be 0x5C, and
@@ -56,18 +86,22 @@ std::string PosixPath(const char* path) {
     if (letter == 'Z') return rest.empty() ? "/" : rest;
     return "/nonexistent-drive" + rest;
   }
+  // Without a letter, the root is that of the current drive.
+  if (text.starts_with('/')) {
+    const std::string drive = CurrentDrive();
+    if (!drive.empty()) return drive + text;
+  }
   return text;
 }
 
 std::string PosixToProgram(const std::string& path) {
+  const char letter = DriveOf(path);
   std::string text;
-  for (const auto& [letter, folder] : Drives()) {
-    if (path == folder || path.rfind(folder + "/", 0) == 0) {
-      text = std::string(1, letter) + ":" + path.substr(folder.size());
-      break;
-    }
+  if (letter == 'Z') {
+    text = "Z:" + (path == "/" ? std::string() : path);
+  } else {
+    text = std::string(1, letter) + ":" + path.substr(Drives()[letter].size());
   }
-  if (text.empty()) text = "Z:" + (path == "/" ? std::string() : path);
   if (text.size() == 2) text += '/';
   for (char& c : text) {
     if (c == '/') c = '\\';
