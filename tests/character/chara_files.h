@@ -6,16 +6,16 @@
 #include <gtest/gtest.h>
 #include <unistd.h>
 
-#include <filesystem>
-#include <fstream>
 #include <string>
 #include <vector>
 
+#include "character/frames.h"
 #include "platform/posix/faults.h"
 #include "platform/posix/posix_paths.h"
 #include "shell/data_file.h"
 #include "shell/shell.h"
 #include "shell/text.h"
+#include "tests/support/desktop.h"
 
 inline std::string BE16(int value) {
   return {static_cast<char>(value >> 8), static_cast<char>(value)};
@@ -62,31 +62,26 @@ inline std::string DwcFile(const std::vector<FilePoints>& frames) {
   return file;
 }
 
-class CharaFiles : public ::testing::Test {
+class CharaFiles : public DesktopTest {
  protected:
   void SetUp() override {
-    char name[] = "/tmp/mirrell_chara_XXXXXX";
-    folder_ = mkdtemp(name);
-    TextCopy(RootFolder, kRootSize, PosixToProgram(folder_).c_str());
-    std::filesystem::create_directory(Native("\\キャラクタ"));
+    DesktopTest::SetUp();
+    MakeFolder(InProgram("キャラクタ"));
     FileStatus = 0;
-    FaultClear();
   }
   void TearDown() override {
-    FaultClear();
-    std::filesystem::remove_all(folder_);
+    for (int row = 0; row < kFrameRowCount; ++row) FramesFree(row);
+    DesktopTest::TearDown();
   }
 
-  // The file system's name of a file of the program folder ("\name").
+  // The file system's name of a file of the program folder ("\\name").
   static std::string Native(const std::string& name) { return PosixPath((RootFolder + name).c_str()); }
 
   static void Put(const std::string& name, const std::string& content) {
-    std::ofstream(Native(name), std::ios::binary) << content;
+    ASSERT_TRUE(PutFile(RootFolder + name, content));
   }
-  static std::string Get(const std::string& name) {
-    std::ifstream file(Native(name), std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
-  }
+  static std::string Get(const std::string& name) { return FileBytes(RootFolder + name); }
+
   // Files of a character, by its number and a frame from 1.
   static void PutDwc(int number, const std::string& content) {
     Put("\\キャラクタ\\Chara" + std::to_string(number) + ".dwc", content);
@@ -97,7 +92,4 @@ class CharaFiles : public ::testing::Test {
   static void PutMask(int number, int frame, const std::string& content) {
     Put("\\キャラクタ\\Chara" + std::to_string(number) + "_" + std::to_string(frame) + "x.bmp", content);
   }
-
- private:
-  std::string folder_;
 };

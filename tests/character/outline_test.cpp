@@ -175,13 +175,7 @@ TEST_F(OutlineTest, OutlinesAreComparedByCountAndPoints) {
 
 // --- Pictures
 
-class FramesTest : public CharaFiles {
- protected:
-  void TearDown() override {
-    for (int row = 0; row < kFrameRowCount; ++row) FramesFree(row);
-    CharaFiles::TearDown();
-  }
-};
+class FramesTest : public CharaFiles {};
 
 TEST_F(FramesTest, NamesAreWrittenFromOneIntoOneBuffer) {
   TextCopy(RootFolder, kRootSize, "C:\\mirrell");

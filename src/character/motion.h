@@ -1,0 +1,43 @@
+// How the stage's character lives by itself: it blinks, gets bored and plays a
+// pattern, and turns to its menu frame while the panel is open. A step is every
+// 17 ticks.
+#pragma once
+
+#include <cstdint>
+
+// States of CharaMotion.
+inline constexpr std::int32_t kMotionIdle = 0;
+inline constexpr std::int32_t kMotionBlink = 2;
+inline constexpr std::int32_t kMotionBored = 3;
+inline constexpr std::int32_t kMotionMenu = 4;
+
+// Frames of a bored pattern that are played; a fifth one is kept and never used.
+inline constexpr int kBoredLenMax = 4;
+
+extern std::int32_t CharaMotion;
+extern std::int32_t CharaStepCount;  // ticks since the last step
+extern std::int32_t BlinkCount;      // steps until the next blink
+extern std::int32_t BoredSec;        // the idle timer, in steps: three nested counts
+extern std::int32_t BoredMin;
+extern std::int32_t BoredHour;
+extern std::int32_t BoredPattern;  // 0 or 1, the pattern in play
+extern std::int32_t BoredLen1;     // usable frames of each pattern
+extern std::int32_t BoredLen2;
+extern std::int32_t BoredLeft;    // frames left in the pass; -1 in the menu state
+extern std::int32_t BoredHold;    // steps to wait before the next frame
+extern std::int32_t BoredRepeat;  // passes left; -1 never ends
+extern bool BlinkDone;            // the blink frame has been shown
+
+// One tick. Returns 1 when the stage should be redrawn (command 2293), else 0.
+int CharaMotionTick();
+
+// Into the menu state and back to idle; StageRedraw then tells what command 2293
+// is to do.
+void CharaMenuOn();
+void CharaMenuOff();
+
+// Loads the idle timer from BoredDelaySel: boredom is that far away again.
+void BoredTimerReset();
+
+// Counts the frames of both bored patterns, up to the first negative entry.
+void BoredFramesCount();

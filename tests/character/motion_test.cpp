@@ -1,0 +1,301 @@
+#include "character/motion.h"
+
+#include <gtest/gtest.h>
+
+#include <set>
+
+#include "shell/random.h"
+#include "tests/character/stage_fixture.h"
+
+namespace {
+
+constexpr int kTicksOfStep = 17;
+
+class MotionTest : public StageFixture {
+ protected:
+  void SetUp() override {
+    StageFixture::SetUp();
+    PutMain(7, std::vector<FilePoints>(8, {{0, 0}, {39, 0}, {20, 29}}));
+    ASSERT_EQ(CharaLoadStage(), 0);
+  }
+
+  // Bored patterns of those frames.
+  static void Patterns(const std::vector<int>& first, const std::vector<int>& second = {}) {
+    for (int i = 0; i < kBoredFrameCount; ++i) {
+      const auto at = static_cast<std::size_t>(i);
+      Bored1Frames[i] = at < first.size() ? first[at] : -1;
+      Bored2Frames[i] = at < second.size() ? second[at] : -1;
+    }
+    BoredFramesCount();
+  }
+
+  // Runs steps; the numbers (from 1) of those that asked for a redraw. A tick that
+  // is not the last of its step must not ask.
+  static std::vector<int> Steps(int count) {
+    std::vector<int> redraws;
+    for (int step = 1; step <= count; ++step) {
+      for (int tick = 1; tick < kTicksOfStep; ++tick) EXPECT_EQ(CharaMotionTick(), 0) << step;
+      if (CharaMotionTick() == 1) redraws.push_back(step);
+    }
+    return redraws;
+  }
+  static int Step() { return static_cast<int>(Steps(1).size()); }
+};
+
+TEST_F(MotionTest, AStepIsEvery17Ticks) {
+  Patterns({1});
+  BoredSec = 5;
+  for (int tick = 1; tick <= 16; ++tick) CharaMotionTick();
+  EXPECT_EQ(BoredSec, 5);
+  CharaMotionTick();
+  EXPECT_EQ(BoredSec, 4);
+  for (int tick = 18; tick <= 33; ++tick) CharaMotionTick();
+  EXPECT_EQ(BoredSec, 4);
+  CharaMotionTick();
+  EXPECT_EQ(BoredSec, 3);
+}
+
+// "10秒": entered at step 1, shown at step 2, over at step 3; 20 steps count down
+// to 0, and the next blink is entered at step 24.
+TEST_F(MotionTest, ABlinkLastsOneStepAndComesAgainAfter20Steps) {
+  BlinkFrame = 5;
+  BlinkSpeedSel = 0;
+  EXPECT_EQ(Step(), 0);
+  EXPECT_EQ(CharaMotion, kMotionBlink);
+  EXPECT_EQ(BlinkCount, 20);
+  EXPECT_EQ(BoredLeft, 2);
+  EXPECT_EQ(CharaFrame, 0);
+  EXPECT_EQ(Step(), 1);
+  EXPECT_EQ(CharaFrame, 5);
+  EXPECT_EQ(Step(), 1);
+  EXPECT_EQ(CharaFrame, 0);
+  EXPECT_EQ(CharaMotion, kMotionIdle);
+  EXPECT_EQ(Steps(20), std::vector<int>{});
+  EXPECT_EQ(BlinkCount, 0);
+  EXPECT_EQ(CharaMotion, kMotionIdle);
+  EXPECT_EQ(Steps(3), (std::vector<int>{2, 3}));
+}
+
+TEST_F(MotionTest, EnteringABlinkClearsWhatAPatternLeft) {
+  BlinkFrame = 5;
+  BoredRepeat = 7;
+  BoredHold = 8;
+  BlinkDone = true;
+  Step();
+  EXPECT_EQ(BoredRepeat, 0);
+  EXPECT_EQ(BoredHold, 0);
+  EXPECT_FALSE(BlinkDone);
+}
+
+TEST_F(MotionTest, WithBlinkFrame0TheBlinkCountNeitherRunsNorBlocksBoredom) {
+  Patterns({1});
+  BlinkFrame = 0;
+  BlinkCount = 9;
+  BoredSec = 2;
+  Steps(3);
+  EXPECT_EQ(BlinkCount, 9);
+  EXPECT_EQ(CharaMotion, kMotionBored);
+}
+
+TEST_F(MotionTest, ABlinkFrameOf0OrWithoutAPictureMeansNoBlink) {
+  BlinkSpeedSel = 0;
+  for (const int frame : {0, 15, 20, -1, 1000}) {
+    BlinkFrame = frame;
+    BlinkCount = 0;
+    EXPECT_EQ(Steps(30), std::vector<int>{}) << frame;
+    EXPECT_EQ(CharaMotion, kMotionIdle) << frame;
+    EXPECT_EQ(BlinkCount, 0) << frame;
+  }
+}
+
+TEST_F(MotionTest, WithNoBoredFramesInEitherPatternTheIdleTimersDoNotRun) {
+  Patterns({}, {});
+  BoredSec = 3;
+  BoredMin = 4;
+  BoredHour = 5;
+  EXPECT_EQ(Steps(100), std::vector<int>{});
+  EXPECT_EQ(BoredSec, 3);
+  EXPECT_EQ(BoredMin, 4);
+  EXPECT_EQ(BoredHour, 5);
+  EXPECT_EQ(CharaMotion, kMotionIdle);
+}
+
+// 60 steps of the first count, then five times one step and 60: 365. Step 366
+// finds all counts at 0.
+TEST_F(MotionTest, FiveMinutesOfBoredomAre365StepsAndThePatternStartsAtThe366th) {
+  Patterns({1, 2});
+  BoredDelaySel = 0;
+  BoredTimerReset();
+  EXPECT_EQ(Steps(365), std::vector<int>{});
+  EXPECT_EQ(CharaMotion, kMotionIdle);
+  for (int tick = 1; tick <= 16; ++tick) CharaMotionTick();
+  EXPECT_EQ(CharaMotion, kMotionIdle);
+  EXPECT_EQ(CharaMotionTick(), 0);
+  EXPECT_EQ(CharaMotion, kMotionBored);
+  EXPECT_EQ(BoredPattern, 0);
+  EXPECT_EQ(BoredLeft, 2);
+  EXPECT_EQ(BoredMin, 5);  // the timer begins anew
+  EXPECT_EQ(BoredSec, 60);
+}
+
+// 60, one step that opens the hour, 60, and sixty times one step and 60.
+TEST_F(MotionTest, AnHourOfBoredomIs3781Steps) {
+  Patterns({1});
+  BoredDelaySel = 3;
+  BoredTimerReset();
+  Steps(60 + 1 + 60 + 60 * 61);
+  EXPECT_EQ(CharaMotion, kMotionIdle);
+  EXPECT_EQ(BoredHour, 0);
+  EXPECT_EQ(BoredMin, 0);
+  EXPECT_EQ(BoredSec, 0);
+  Steps(1);
+  EXPECT_EQ(CharaMotion, kMotionBored);
+}
+
+// Hold 1 between frames, two passes more. With step 0 the choice: wait, frame,
+// wait, frame, wait, frame, wait, new pass; a new pass shows its first frame at
+// the next step.
+TEST_F(MotionTest, ABoredPatternHoldsEachFrameAndRunsItsPasses) {
+  Patterns({3, 4, 5});
+  BoredSpeedSel = 1;
+  BoredRepeatSel = 1;
+  Step();
+  ASSERT_EQ(CharaMotion, kMotionBored);
+  EXPECT_EQ(BoredRepeat, 2);
+  EXPECT_EQ(Steps(1), std::vector<int>{});
+  EXPECT_EQ(Step(), 1);
+  EXPECT_EQ(CharaFrame, 3);
+  EXPECT_EQ(Steps(1), std::vector<int>{});
+  EXPECT_EQ(Step(), 1);
+  EXPECT_EQ(CharaFrame, 4);
+  Steps(1);
+  EXPECT_EQ(Step(), 1);
+  EXPECT_EQ(CharaFrame, 5);
+  EXPECT_EQ(BoredLeft, 0);
+  // From here step 7 of the whole: wait, new pass, and so on up to step 22.
+  EXPECT_EQ(Steps(16), (std::vector<int>{3, 5, 7, 10, 12, 14, 16}));
+  EXPECT_EQ(CharaFrame, 0);
+  EXPECT_EQ(CharaMotion, kMotionIdle);
+}
+
+TEST_F(MotionTest, WithoutAHoldEveryStepShowsAFrame) {
+  Patterns({}, {1, 2, 3, 4, 5});
+  BoredSpeedSel = 0;
+  BoredRepeatSel = 0;
+  Step();
+  EXPECT_EQ(BoredPattern, 1);
+  EXPECT_EQ(Steps(4), (std::vector<int>{1, 2, 3, 4}));
+  EXPECT_EQ(CharaFrame, 4);
+  EXPECT_EQ(Step(), 1);
+  EXPECT_EQ(CharaFrame, 0);
+  EXPECT_EQ(CharaMotion, kMotionIdle);
+}
+
+TEST_F(MotionTest, APatternIsChosenAtRandomWhenBothHaveFrames) {
+  RandomSeed(1);
+  std::set<int> chosen;
+  for (int i = 0; i < 60; ++i) {
+    Patterns({1}, {2});
+    CharaMotion = kMotionIdle;
+    BoredSec = BoredMin = BoredHour = 0;
+    Step();
+    ASSERT_EQ(CharaMotion, kMotionBored);
+    chosen.insert(BoredPattern);
+  }
+  EXPECT_EQ(chosen, (std::set<int>{0, 1}));
+}
+
+TEST_F(MotionTest, AnEndlessPatternGoesOnUntilThePointerTouchesTheStage) {
+  Patterns({1, 2});
+  MenuFrame = 6;
+  CharaLoadStage();
+  BoredRepeatSel = 9;
+  BoredSpeedSel = 0;
+  Step();
+  EXPECT_EQ(BoredRepeat, -1);
+  Steps(3000);
+  EXPECT_EQ(CharaMotion, kMotionBored);
+  EXPECT_EQ(BoredRepeat, -1001);  // three steps a pass
+  CharaMenuOn();
+  EXPECT_EQ(CharaMotion, kMotionMenu);
+  EXPECT_EQ(CharaFrame, 6);
+  EXPECT_EQ(BoredLeft, -1);
+}
+
+TEST_F(MotionTest, WhileThePanelIsOpenTheCharacterStaysAndItsTimersDoNotRun) {
+  Patterns({1});
+  BlinkFrame = 5;
+  BlinkCount = 4;
+  MenuFrame = 6;
+  CharaLoadStage();
+  BoredSec = 9;
+  CharaMenuOn();
+  hDiskMenu = hMainWnd;
+  EXPECT_EQ(Steps(50), std::vector<int>{});
+  EXPECT_EQ(CharaMotion, kMotionMenu);
+  EXPECT_EQ(CharaFrame, 6);
+  EXPECT_EQ(BlinkCount, 4);
+  EXPECT_EQ(BoredSec, 9);
+  hDiskMenu = nullptr;
+  EXPECT_EQ(CharaMotionTick(), 1);  // in the very next tick
+  EXPECT_EQ(CharaMotion, kMotionIdle);
+  EXPECT_EQ(CharaFrame, 0);
+  EXPECT_EQ(BoredLeft, 0);
+  EXPECT_EQ(CharaMotionTick(), 0);
+}
+
+TEST_F(MotionTest, APanelThatClosedIsSeenAtAStepToo) {
+  MenuFrame = 6;
+  CharaMenuOn();
+  CharaStepCount = 16;
+  EXPECT_EQ(CharaMotionTick(), 1);
+  EXPECT_EQ(CharaMotion, kMotionIdle);
+}
+
+TEST_F(MotionTest, WhileTheCharacterDialogIsOpenTheCharacterStandsStill) {
+  Patterns({1});
+  BoredSec = 9;
+  CharaMenuOn();
+  DlgIdMenu = 2013;
+  for (int i = 0; i < 100; ++i) EXPECT_EQ(CharaMotionTick(), 0);
+  EXPECT_EQ(CharaStepCount, 0);
+  EXPECT_EQ(CharaMotion, kMotionMenu);
+  DlgIdMenu = 2014;
+  EXPECT_EQ(CharaMotionTick(), 1);
+}
+
+TEST_F(MotionTest, TheRandomDelayStaysBelowTwoHours) {
+  RandomSeed(7);
+  BoredDelaySel = 9;
+  std::set<int> hours;
+  for (int i = 0; i < 200; ++i) {
+    BoredTimerReset();
+    hours.insert(BoredHour);
+    EXPECT_TRUE(BoredMin >= 0 && BoredMin < 60);
+    EXPECT_EQ(BoredSec, 60);
+  }
+  EXPECT_EQ(hours, (std::set<int>{0, 1}));
+}
+
+TEST_F(MotionTest, APatternThatWasCutShortMeanwhileEndsAtFrame0) {
+  Patterns({1, 2, 3});
+  Step();
+  ASSERT_EQ(CharaMotion, kMotionBored);
+  Patterns({1});
+  EXPECT_EQ(Step(), 1);
+  EXPECT_EQ(CharaMotion, kMotionIdle);
+  EXPECT_EQ(CharaFrame, 0);
+}
+
+TEST_F(MotionTest, FramesBeyondTheTableAreShownAsFrame0) {
+  Patterns({1000000});
+  Step();
+  EXPECT_EQ(Step(), 1);
+  CommandRedrawStage();
+  DrawingClear();
+  StagePaint();
+  ASSERT_EQ(DibsDrawn(hMainWnd).size(), 1U);
+  EXPECT_EQ(DibsDrawn(hMainWnd)[0].dib, FramePicture(kStageRow, 0));
+}
+
+}  // namespace
