@@ -9,7 +9,8 @@ std::int32_t BoredDelaySel;
 std::int32_t BoredSpeedSel;
 std::int32_t BoredRepeatSel;
 std::int32_t BlinkSpeedSel;
-std::int32_t StageX;
-std::int32_t StageY;
+// Without a settings file the stage stays where the process entry makes its window.
+std::int32_t StageX = 500;
+std::int32_t StageY = 300;
 std::int32_t AlarmCharaSel[kAlarmRowCount];
 unsigned char CharaSet[kCharaSetSize];

@@ -277,11 +277,11 @@ int CalenHolidayRule(int yearIndex, int month, int day, HolidayUse use);
 // --- The ticker, a strip of text that runs over the page.
 
 extern bool CalenTickerOn;
-extern std::int32_t CalenTickerReach;  // days from today on, 1 or 7
-extern std::int32_t CalenTickerStep;   // pixels a tick
-extern std::int32_t CalenTickerPause;  // rests of 2000 ticks between two runs
+extern std::int32_t CalenTickerReach;       // days from today on, 1 or 7
+extern std::int32_t CalenTickerStep;        // pixels a tick
+extern std::int32_t CalenTickerPause;       // rests of 2000 ticks between two runs
 extern unsigned char CalenTickerColour[3];  // red, green, blue
-extern std::int32_t CalenTickerPlace;       // 0 to 4 down the window, else 0
+extern std::int32_t CalenTickerPlace;       // 0 to 4 down the window
 
 // Takes the ticker's settings from the selected calendar's definition.
 void CalenTickerSetup();

@@ -20,7 +20,7 @@ FontHandle FontCreate(int width, int height, int weight, bool italic, const char
 void FontDelete(FontHandle font);
 
 // Borrowed objects, never deleted.
-BrushHandle BrushFace();    // the system's face colour
+BrushHandle BrushFace();     // the system's face colour
 BrushHandle BrushNothing();  // no filling
 PenHandle PenNothing();      // no edge
 Colour FaceColour();
@@ -87,5 +87,5 @@ void CanvasStretch(Canvas* to, int x, int y, int width, int height, Canvas* from
 // A device-independent bitmap: header with colour table, and its pixel rows.
 // The caller has checked that both are whole.
 void CanvasDib(Canvas* canvas, int x, int y, int width, int height, const void* header, const void* bits);
-void CanvasDibOp(Canvas* canvas, int x, int y, int width, int height, const void* header,
-                 const void* bits, RasterOp op);
+void CanvasDibOp(Canvas* canvas, int x, int y, int width, int height, const void* header, const void* bits,
+                 RasterOp op);

@@ -42,7 +42,7 @@ bool ControlIsChecked(WindowHandle dialog, int id);
 void ListClear(WindowHandle dialog, int id);
 int ListAdd(WindowHandle dialog, int id, const char* text);  // the new row
 int ListCount(WindowHandle dialog, int id);
-int ListSelected(WindowHandle dialog, int id);         // -1 for none
+int ListSelected(WindowHandle dialog, int id);          // -1 for none
 void ListSelect(WindowHandle dialog, int id, int row);  // -1 for none; tells nobody
 // Text of a row, terminated at size; the length, or -1 for a bad row.
 int ListText(WindowHandle dialog, int id, int row, char* buffer, int size);

@@ -4,25 +4,25 @@
 #include "platform/types.h"
 
 enum class EventKind {
-  Init,         // the window or dialog has been made and is about to be used
-  Command,      // a numbered command, a menu entry, or something a control reports
-  Paint,        // draw now, through CanvasGet
-  MouseMove,    // x, y, keys
-  LeftDown,     // x, y, keys
-  LeftUp,       // x, y, keys
-  LeftDouble,   // x, y, keys
-  RightDown,    // x, y, keys
-  MiddleDown,   // x, y, keys
-  Wheel,        // keys
-  Char,         // key: the character's code, 27 for Escape
-  KeyDown,      // key: the key's code
-  VScroll,      // scroll, scrollPosition, control
-  SetCursor,    // the pointer's shape is asked for
-  Size,         // x, y: the new client width and height
-  Timer,        // the window's timer
-  Close,        // the window is asked to close
-  Destroy,      // the window is about to go away
-  User,         // the first private message; nothing uses it
+  Init,        // the window or dialog has been made and is about to be used
+  Command,     // a numbered command, a menu entry, or something a control reports
+  Paint,       // draw now, through CanvasGet
+  MouseMove,   // x, y, keys
+  LeftDown,    // x, y, keys
+  LeftUp,      // x, y, keys
+  LeftDouble,  // x, y, keys
+  RightDown,   // x, y, keys
+  MiddleDown,  // x, y, keys
+  Wheel,       // keys
+  Char,        // key: the character's code, 27 for Escape
+  KeyDown,     // key: the key's code
+  VScroll,     // scroll, scrollPosition, control
+  SetCursor,   // the pointer's shape is asked for
+  Size,        // x, y: the new client width and height
+  Timer,       // the window's timer
+  Close,       // the window is asked to close
+  Destroy,     // the window is about to go away
+  User,        // the first private message; nothing uses it
 };
 
 // What a control reports with a Command.

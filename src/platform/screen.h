@@ -4,7 +4,7 @@
 #include "platform/types.h"
 
 enum class Metric {
-  FullScreenWidth,   // working screen without bars and a caption
+  FullScreenWidth,  // working screen without bars and a caption
   FullScreenHeight,
   MenuHeight,
   SizeButtonWidth,

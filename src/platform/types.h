@@ -41,5 +41,9 @@ struct Rect {
   int bottom;
 };
 
-inline int RectWidth(const Rect& r) { return r.right - r.left; }
-inline int RectHeight(const Rect& r) { return r.bottom - r.top; }
+inline int RectWidth(const Rect& r) {
+  return r.right - r.left;
+}
+inline int RectHeight(const Rect& r) {
+  return r.bottom - r.top;
+}

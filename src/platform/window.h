@@ -9,7 +9,7 @@
 struct MainWindowClass {
   const char* className;
   const char* title;
-  int iconId;       // resource numbers
+  int iconId;  // resource numbers
   int smallIconId;
   int menuId;
   EventHandler handler;

@@ -39,7 +39,9 @@ bool DataRead(DataFile& data, void* to, int size) {
   return !data.failed;
 }
 
-bool DataReadByte(DataFile& data, std::uint8_t& to) { return DataRead(data, &to, 1); }
+bool DataReadByte(DataFile& data, std::uint8_t& to) {
+  return DataRead(data, &to, 1);
+}
 
 bool DataReadBE16(DataFile& data, std::uint16_t& to) {
   unsigned char raw[2];
@@ -64,7 +66,9 @@ bool DataWrite(DataFile& data, const void* from, int size) {
   return !data.failed;
 }
 
-bool DataWriteByte(DataFile& data, std::uint8_t value) { return DataWrite(data, &value, 1); }
+bool DataWriteByte(DataFile& data, std::uint8_t value) {
+  return DataWrite(data, &value, 1);
+}
 
 bool DataWriteBE16(DataFile& data, std::uint16_t value) {
   unsigned char raw[2];

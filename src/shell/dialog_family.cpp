@@ -63,12 +63,21 @@ bool Proc(Family& family, const Event& event) {
   return done;
 }
 
-bool MenuDlgProc(const Event& event) { return Proc(menuFamily, event); }
-bool ToolDlgProc(const Event& event) { return Proc(toolFamily, event); }
-bool SubDlgProc(const Event& event) { return Proc(subFamily, event); }
-bool SnryDlgProc(const Event& event) { return Proc(snryFamily, event); }
+bool MenuDlgProc(const Event& event) {
+  return Proc(menuFamily, event);
+}
+bool ToolDlgProc(const Event& event) {
+  return Proc(toolFamily, event);
+}
+bool SubDlgProc(const Event& event) {
+  return Proc(subFamily, event);
+}
+bool SnryDlgProc(const Event& event) {
+  return Proc(snryFamily, event);
+}
 
-int Run(Family& family, EventHandler proc, int dlgId, int templateId, WindowHandle owner, EventHandler handler) {
+int Run(Family& family, EventHandler proc, int dlgId, int templateId, WindowHandle owner,
+        EventHandler handler) {
   *family.id = dlgId;
   family.next = handler;
   const int result = DialogRun(templateId, owner, proc);
@@ -91,7 +100,15 @@ int SnryDialogRun(int dlgId, int templateId, WindowHandle owner, EventHandler ha
   return Run(snryFamily, SnryDlgProc, dlgId, templateId, owner, handler);
 }
 
-void MenuDialogEnd(WindowHandle dialog, int result) { End(menuFamily, dialog, result); }
-void ToolDialogEnd(WindowHandle dialog, int result) { End(toolFamily, dialog, result); }
-void SubDialogEnd(WindowHandle dialog, int result) { End(subFamily, dialog, result); }
-void SnryDialogEnd(WindowHandle dialog, int result) { End(snryFamily, dialog, result); }
+void MenuDialogEnd(WindowHandle dialog, int result) {
+  End(menuFamily, dialog, result);
+}
+void ToolDialogEnd(WindowHandle dialog, int result) {
+  End(toolFamily, dialog, result);
+}
+void SubDialogEnd(WindowHandle dialog, int result) {
+  End(subFamily, dialog, result);
+}
+void SnryDialogEnd(WindowHandle dialog, int result) {
+  End(snryFamily, dialog, result);
+}

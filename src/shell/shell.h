@@ -12,23 +12,23 @@
 
 // --- Windows, each set at its window's Init and cleared at its close.
 
-extern WindowHandle hMainWnd;        // the character's stage; target of all commands
-extern WindowHandle hDiskMenu;       // DspDiskMenu, the tool menu panel
-extern WindowHandle hMenuDlg;        // the open dialog of the family DlgIdMenu
-extern WindowHandle hToolDlg;        // ... DlgIdTool
-extern WindowHandle hSubDlg;         // ... DlgIdSub
-extern WindowHandle hSnryDlg;        // ... DlgIdSnry
-extern WindowHandle hFilePickDlg;    // the file picker
-extern WindowHandle hBackUpDlg;      // BackUpDlg, back-up progress
-extern WindowHandle hSearchDlg;      // stepped work: search, divide, restore
-extern WindowHandle hClockWnd;       // FlyingBat6, the desktop clock
-extern WindowHandle hCalenWnd;       // FlyingBat3, the desktop calendar
-extern WindowHandle hMailNoticeWnd;  // FlyingBat2X
-extern WindowHandle hSclNoticeWnd;   // FlyingBat4
+extern WindowHandle hMainWnd;         // the character's stage; target of all commands
+extern WindowHandle hDiskMenu;        // DspDiskMenu, the tool menu panel
+extern WindowHandle hMenuDlg;         // the open dialog of the family DlgIdMenu
+extern WindowHandle hToolDlg;         // ... DlgIdTool
+extern WindowHandle hSubDlg;          // ... DlgIdSub
+extern WindowHandle hSnryDlg;         // ... DlgIdSnry
+extern WindowHandle hFilePickDlg;     // the file picker
+extern WindowHandle hBackUpDlg;       // BackUpDlg, back-up progress
+extern WindowHandle hSearchDlg;       // stepped work: search, divide, restore
+extern WindowHandle hClockWnd;        // FlyingBat6, the desktop clock
+extern WindowHandle hCalenWnd;        // FlyingBat3, the desktop calendar
+extern WindowHandle hMailNoticeWnd;   // FlyingBat2X
+extern WindowHandle hSclNoticeWnd;    // FlyingBat4
 extern WindowHandle hClockNoticeWnd;  // FlyingBat5
-extern WindowHandle hSclTableWnd;    // ScheduleMakeDlg
-extern WindowHandle hPlanWnd;        // SchedulePlan1Dlg
-extern WindowHandle hBgmWnd;         // EntertainmentBGMDlg
+extern WindowHandle hSclTableWnd;     // ScheduleMakeDlg
+extern WindowHandle hPlanWnd;         // SchedulePlan1Dlg
+extern WindowHandle hBgmWnd;          // EntertainmentBGMDlg
 
 // --- The template in force of each family; 0 for none.
 
@@ -86,11 +86,11 @@ extern unsigned char* ScopeBlock;
 
 // --- Text and screen figures.
 
-extern int CharWidth;   // average width of a column of the text font
-extern int LineHeight;  // its height with external leading
+extern int CharWidth;    // average width of a column of the text font
+extern int LineHeight;   // its height with external leading
 extern int ScreenWidth;  // working screen
 extern int ScreenHeight;
-extern int MenuBarHeight;    // of a one-line menu bar
+extern int MenuBarHeight;  // of a one-line menu bar
 extern int SizeButtonWidth;
 extern int FrameWidth;
 extern int FrameHeight;
@@ -112,14 +112,15 @@ int RootPath(char* buffer, int size, const char* name);
 
 // --- Counters of the tick, in ticks.
 
-extern std::int32_t MenuCloseCount;   // from 40 down while the pointer is outside the panel; -1: inside it once
+extern std::int32_t
+    MenuCloseCount;  // from 40 down while the pointer is outside the panel; -1: inside it once
 extern std::int32_t MenuReopenGuard;  // from 40 down; blocks opening the panel again
 extern std::int32_t MailTickCount;    // up to 6000: one unit of the mail interval
 extern std::int32_t MailMinuteCount;
-extern std::int32_t FrameDivider;     // five-tick animation steps; 0 is off
+extern std::int32_t FrameDivider;  // five-tick animation steps; 0 is off
 extern std::int32_t AutoScrollDelay;
-extern std::int32_t GroupOpenDelay;   // gap between the files of a group
-extern std::int32_t FileWatchCount;   // up to 201
+extern std::int32_t GroupOpenDelay;  // gap between the files of a group
+extern std::int32_t FileWatchCount;  // up to 201
 
 inline constexpr std::int32_t kMenuInside = -1;
 

@@ -7,4 +7,6 @@ LiveObjects& PosixLive() {
   return live;
 }
 
-LiveObjects DiagnosticsLive() { return PosixLive(); }
+LiveObjects DiagnosticsLive() {
+  return PosixLive();
+}

@@ -9,7 +9,9 @@ struct Plan {
 Plan plans[static_cast<int>(FaultKind::Count)];
 bool met = false;
 
-Plan& PlanOf(FaultKind kind) { return plans[static_cast<int>(kind)]; }
+Plan& PlanOf(FaultKind kind) {
+  return plans[static_cast<int>(kind)];
+}
 }  // namespace
 
 void FaultArm(FaultKind kind, int nth) {
@@ -27,9 +29,13 @@ void FaultClear() {
   met = false;
 }
 
-int FaultCalls(FaultKind kind) { return PlanOf(kind).calls; }
+int FaultCalls(FaultKind kind) {
+  return PlanOf(kind).calls;
+}
 
-bool FaultWasMet() { return met; }
+bool FaultWasMet() {
+  return met;
+}
 
 bool FaultMeets(FaultKind kind) {
   Plan& plan = PlanOf(kind);

@@ -1,7 +1,8 @@
 #include "platform/time.h"
 
-#include <ctime>
 #include <sys/time.h>
+
+#include <ctime>
 
 #include "platform/posix/test_clock.h"
 
@@ -20,7 +21,9 @@ void TestClockSet(const LocalTime& time) {
   fixedTime = time;
 }
 
-void TestClockClear() { fixed = false; }
+void TestClockClear() {
+  fixed = false;
+}
 
 void TimeGetLocal(LocalTime* time) {
   if (fixed) {
@@ -51,4 +54,6 @@ bool TimeFromFileTime(std::uint64_t fileTime, LocalTime* time) {
   return true;
 }
 
-std::int64_t TimeSeconds() { return static_cast<std::int64_t>(std::time(nullptr)); }
+std::int64_t TimeSeconds() {
+  return static_cast<std::int64_t>(std::time(nullptr));
+}

@@ -39,7 +39,9 @@ LiveObjects& Live() {
   return live;
 }
 
-LiveObjects DiagnosticsLive() { return Live(); }
+LiveObjects DiagnosticsLive() {
+  return Live();
+}
 
 HFONT TextFont() {
   static HFONT font = nullptr;

@@ -16,8 +16,12 @@ std::string Narrow(const wchar_t* text, int length = -1);
 // Copies at most size - 1 bytes and terminates. Returns the length copied.
 int CopyNarrow(const wchar_t* text, char* buffer, int size);
 
-inline HWND Hwnd(WindowHandle window) { return reinterpret_cast<HWND>(window); }
-inline WindowHandle Window(HWND window) { return reinterpret_cast<WindowHandle>(window); }
+inline HWND Hwnd(WindowHandle window) {
+  return reinterpret_cast<HWND>(window);
+}
+inline WindowHandle Window(HWND window) {
+  return reinterpret_cast<WindowHandle>(window);
+}
 
 LiveObjects& Live();
 

@@ -16,7 +16,9 @@ struct Canvas {
 
 namespace {
 
-HGDIOBJ Object(const void* handle) { return const_cast<HGDIOBJ>(handle); }
+HGDIOBJ Object(const void* handle) {
+  return const_cast<HGDIOBJ>(handle);
+}
 
 template <typename Handle, typename Made>
 Handle Counted(Made made, int& count) {
@@ -38,32 +40,49 @@ Canvas* Begin(HDC dc, HWND window, HBITMAP bitmap) {
   return new Canvas{dc, window, bitmap};
 }
 
-int LengthOf(const char* text, int length) { return length < 0 ? static_cast<int>(std::strlen(text)) : length; }
+int LengthOf(const char* text, int length) {
+  return length < 0 ? static_cast<int>(std::strlen(text)) : length;
+}
 
 }  // namespace
 
 BrushHandle BrushCreate(Colour colour) {
   return Counted<BrushHandle>(CreateSolidBrush(colour), Live().brushes);
 }
-void BrushDelete(BrushHandle brush) { Drop(brush, Live().brushes); }
+void BrushDelete(BrushHandle brush) {
+  Drop(brush, Live().brushes);
+}
 
 PenHandle PenCreate(PenStyle style, int width, Colour colour) {
-  return Counted<PenHandle>(CreatePen(style == PenStyle::Dot ? PS_DOT : PS_SOLID, width, colour), Live().pens);
+  return Counted<PenHandle>(CreatePen(style == PenStyle::Dot ? PS_DOT : PS_SOLID, width, colour),
+                            Live().pens);
 }
-void PenDelete(PenHandle pen) { Drop(pen, Live().pens); }
+void PenDelete(PenHandle pen) {
+  Drop(pen, Live().pens);
+}
 
 FontHandle FontCreate(int width, int height, int weight, bool italic, const char* face) {
-  return Counted<FontHandle>(
-      CreateFontW(height, width, 0, 0, weight, italic ? TRUE : FALSE, FALSE, FALSE, SHIFTJIS_CHARSET,
-                  OUT_DEFAULT_PRECIS, CLIP_DEFAULT_PRECIS, DEFAULT_QUALITY, DEFAULT_PITCH, Wide(face).c_str()),
-      Live().fonts);
+  return Counted<FontHandle>(CreateFontW(height, width, 0, 0, weight, italic ? TRUE : FALSE, FALSE, FALSE,
+                                         SHIFTJIS_CHARSET, OUT_DEFAULT_PRECIS, CLIP_DEFAULT_PRECIS,
+                                         DEFAULT_QUALITY, DEFAULT_PITCH, Wide(face).c_str()),
+                             Live().fonts);
 }
-void FontDelete(FontHandle font) { Drop(font, Live().fonts); }
+void FontDelete(FontHandle font) {
+  Drop(font, Live().fonts);
+}
 
-BrushHandle BrushFace() { return reinterpret_cast<BrushHandle>(GetSysColorBrush(COLOR_BTNFACE)); }
-BrushHandle BrushNothing() { return reinterpret_cast<BrushHandle>(GetStockObject(NULL_BRUSH)); }
-PenHandle PenNothing() { return reinterpret_cast<PenHandle>(GetStockObject(NULL_PEN)); }
-Colour FaceColour() { return GetSysColor(COLOR_BTNFACE); }
+BrushHandle BrushFace() {
+  return reinterpret_cast<BrushHandle>(GetSysColorBrush(COLOR_BTNFACE));
+}
+BrushHandle BrushNothing() {
+  return reinterpret_cast<BrushHandle>(GetStockObject(NULL_BRUSH));
+}
+PenHandle PenNothing() {
+  return reinterpret_cast<PenHandle>(GetStockObject(NULL_PEN));
+}
+Colour FaceColour() {
+  return GetSysColor(COLOR_BTNFACE);
+}
 
 RegionHandle RegionPolygon(const Point* points, int count) {
   if (count <= 0) return nullptr;
@@ -79,7 +98,9 @@ RegionHandle RegionRect(const Rect& bounds) {
   return Counted<RegionHandle>(CreateRectRgn(bounds.left, bounds.top, bounds.right, bounds.bottom),
                                Live().regions);
 }
-void RegionDelete(RegionHandle region) { Drop(region, Live().regions); }
+void RegionDelete(RegionHandle region) {
+  Drop(region, Live().regions);
+}
 
 Canvas* CanvasGet(WindowHandle window) {
   HDC dc = window ? GetDC(Hwnd(window)) : nullptr;
@@ -114,13 +135,21 @@ void CanvasRelease(Canvas* canvas) {
   delete canvas;
 }
 
-void CanvasBrush(Canvas* canvas, BrushHandle brush) { SelectObject(canvas->dc, Object(brush)); }
-void CanvasPen(Canvas* canvas, PenHandle pen) { SelectObject(canvas->dc, Object(pen)); }
+void CanvasBrush(Canvas* canvas, BrushHandle brush) {
+  SelectObject(canvas->dc, Object(brush));
+}
+void CanvasPen(Canvas* canvas, PenHandle pen) {
+  SelectObject(canvas->dc, Object(pen));
+}
 void CanvasFont(Canvas* canvas, FontHandle font) {
   SelectObject(canvas->dc, font ? Object(font) : static_cast<HGDIOBJ>(TextFont()));
 }
-void CanvasTextColour(Canvas* canvas, Colour colour) { SetTextColor(canvas->dc, colour); }
-void CanvasBackColour(Canvas* canvas, Colour colour) { SetBkColor(canvas->dc, colour); }
+void CanvasTextColour(Canvas* canvas, Colour colour) {
+  SetTextColor(canvas->dc, colour);
+}
+void CanvasBackColour(Canvas* canvas, Colour colour) {
+  SetBkColor(canvas->dc, colour);
+}
 void CanvasBackTransparent(Canvas* canvas, bool transparent) {
   SetBkMode(canvas->dc, transparent ? TRANSPARENT : OPAQUE);
 }
@@ -169,7 +198,9 @@ void CanvasClip(Canvas* canvas, const Rect& rect) {
   SelectClipRgn(canvas->dc, region);
   DeleteObject(region);  // the canvas keeps a copy
 }
-void CanvasClipNone(Canvas* canvas) { SelectClipRgn(canvas->dc, nullptr); }
+void CanvasClipNone(Canvas* canvas) {
+  SelectClipRgn(canvas->dc, nullptr);
+}
 
 void CanvasCopy(Canvas* to, int x, int y, int width, int height, Canvas* from, int fromX, int fromY) {
   StretchBlt(to->dc, x, y, width, height, from->dc, fromX, fromY, width, height, SRCCOPY);

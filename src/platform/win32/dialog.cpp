@@ -1,8 +1,7 @@
 #include "platform/dialog.h"
 
-#include <windows.h>
-
 #include <commdlg.h>
+#include <windows.h>
 
 #include "platform/win32/border.h"
 #include "platform/window.h"
@@ -50,7 +49,8 @@ bool IsComboBox(HWND control) {
 }
 
 // Sends the message that a list of either kind knows for the same thing.
-LRESULT ListSend(WindowHandle dialog, int id, UINT forListBox, UINT forComboBox, WPARAM wParam, LPARAM lParam) {
+LRESULT ListSend(WindowHandle dialog, int id, UINT forListBox, UINT forComboBox, WPARAM wParam,
+                 LPARAM lParam) {
   HWND control = GetDlgItem(Hwnd(dialog), id);
   if (!control) return -1;
   return SendMessageW(control, IsComboBox(control) ? forComboBox : forListBox, wParam, lParam);
@@ -88,8 +88,8 @@ bool FileDialog(bool save, WindowHandle owner, const char* title, const char* fi
 }  // namespace
 
 int DialogRun(int templateId, WindowHandle owner, EventHandler handler) {
-  return static_cast<int>(DialogBoxParamW(GetModuleHandleW(nullptr), MAKEINTRESOURCEW(templateId), Hwnd(owner),
-                                          DialogProc, reinterpret_cast<LPARAM>(handler)));
+  return static_cast<int>(DialogBoxParamW(GetModuleHandleW(nullptr), MAKEINTRESOURCEW(templateId),
+                                          Hwnd(owner), DialogProc, reinterpret_cast<LPARAM>(handler)));
 }
 
 WindowHandle DialogOpen(int templateId, WindowHandle owner, EventHandler handler) {
@@ -97,7 +97,9 @@ WindowHandle DialogOpen(int templateId, WindowHandle owner, EventHandler handler
                                    DialogProc, reinterpret_cast<LPARAM>(handler)));
 }
 
-void DialogEnd(WindowHandle dialog, int result) { EndDialog(Hwnd(dialog), result); }
+void DialogEnd(WindowHandle dialog, int result) {
+  EndDialog(Hwnd(dialog), result);
+}
 
 Rect DialogUnits(WindowHandle dialog, const Rect& units) {
   RECT rect{units.left, units.top, units.right, units.bottom};
@@ -106,9 +108,13 @@ Rect DialogUnits(WindowHandle dialog, const Rect& units) {
           static_cast<int>(rect.bottom)};
 }
 
-WindowHandle Control(WindowHandle dialog, int id) { return Window(GetDlgItem(Hwnd(dialog), id)); }
+WindowHandle Control(WindowHandle dialog, int id) {
+  return Window(GetDlgItem(Hwnd(dialog), id));
+}
 
-void ControlSetText(WindowHandle dialog, int id, const char* text) { WindowSetText(Control(dialog, id), text); }
+void ControlSetText(WindowHandle dialog, int id, const char* text) {
+  WindowSetText(Control(dialog, id), text);
+}
 
 int ControlGetText(WindowHandle dialog, int id, char* buffer, int size) {
   if (size > 0) buffer[0] = '\0';
@@ -131,7 +137,9 @@ void ControlSetFocus(WindowHandle dialog, int id) {
 
 void ControlSetLimit(WindowHandle dialog, int id, int characters) {
   HWND control = GetDlgItem(Hwnd(dialog), id);
-  if (control) SendMessageW(control, IsComboBox(control) ? CB_LIMITTEXT : EM_SETLIMITTEXT, static_cast<WPARAM>(characters), 0);
+  if (control)
+    SendMessageW(control, IsComboBox(control) ? CB_LIMITTEXT : EM_SETLIMITTEXT,
+                 static_cast<WPARAM>(characters), 0);
 }
 
 void ControlSetChecked(WindowHandle dialog, int id, bool checked) {
@@ -142,11 +150,13 @@ bool ControlIsChecked(WindowHandle dialog, int id) {
   return IsDlgButtonChecked(Hwnd(dialog), id) == BST_CHECKED;
 }
 
-void ListClear(WindowHandle dialog, int id) { ListSend(dialog, id, LB_RESETCONTENT, CB_RESETCONTENT, 0, 0); }
+void ListClear(WindowHandle dialog, int id) {
+  ListSend(dialog, id, LB_RESETCONTENT, CB_RESETCONTENT, 0, 0);
+}
 
 int ListAdd(WindowHandle dialog, int id, const char* text) {
-  return static_cast<int>(ListSend(dialog, id, LB_ADDSTRING, CB_ADDSTRING, 0,
-                                   reinterpret_cast<LPARAM>(Wide(text).c_str())));
+  return static_cast<int>(
+      ListSend(dialog, id, LB_ADDSTRING, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(Wide(text).c_str())));
 }
 
 int ListCount(WindowHandle dialog, int id) {
@@ -167,7 +177,8 @@ int ListText(WindowHandle dialog, int id, int row, char* buffer, int size) {
   const LRESULT length = ListSend(dialog, id, LB_GETTEXTLEN, CB_GETLBTEXTLEN, static_cast<WPARAM>(row), 0);
   if (row < 0 || length < 0) return -1;
   std::wstring text(static_cast<std::size_t>(length) + 1, L'\0');
-  ListSend(dialog, id, LB_GETTEXT, CB_GETLBTEXT, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(text.data()));
+  ListSend(dialog, id, LB_GETTEXT, CB_GETLBTEXT, static_cast<WPARAM>(row),
+           reinterpret_cast<LPARAM>(text.data()));
   return CopyNarrow(text.c_str(), buffer, size);
 }
 
@@ -177,7 +188,8 @@ void ListFolders(WindowHandle dialog, int id) {
                       reinterpret_cast<LPARAM>(all));
 }
 
-WindowHandle ControlCreate(WindowHandle parent, ControlKind kind, int id, const Rect& place, const char* text) {
+WindowHandle ControlCreate(WindowHandle parent, ControlKind kind, int id, const Rect& place,
+                           const char* text) {
   const wchar_t* name = L"button";
   DWORD style = WS_CHILD | WS_VISIBLE | WS_TABSTOP;
   if (kind == ControlKind::ListBox) {
@@ -187,14 +199,14 @@ WindowHandle ControlCreate(WindowHandle parent, ControlKind kind, int id, const 
     name = L"scrollbar";
     style = WS_CHILD | WS_VISIBLE | SBS_VERT;
   }
-  HWND control = CreateWindowExW(0, name, Wide(text).c_str(), style, place.left, place.top, RectWidth(place),
-                                 RectHeight(place), Hwnd(parent),
-                                 reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), GetModuleHandleW(nullptr),
-                                 nullptr);
+  HWND control = CreateWindowExW(
+      0, name, Wide(text).c_str(), style, place.left, place.top, RectWidth(place), RectHeight(place),
+      Hwnd(parent), reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), GetModuleHandleW(nullptr), nullptr);
   if (!control) return nullptr;
   // A control made by hand gets the font of its dialog.
   const LRESULT font = SendMessageW(Hwnd(parent), WM_GETFONT, 0, 0);
-  SendMessageW(control, WM_SETFONT, font ? static_cast<WPARAM>(font) : reinterpret_cast<WPARAM>(TextFont()), FALSE);
+  SendMessageW(control, WM_SETFONT, font ? static_cast<WPARAM>(font) : reinterpret_cast<WPARAM>(TextFont()),
+               FALSE);
   return Window(control);
 }
 

@@ -1,8 +1,9 @@
 // Where Windows enters the program.
+#include "shell/entry.h"
+
 #include <windows.h>
 
 #include "platform/win32/border.h"
-#include "shell/entry.h"
 
 int WINAPI wWinMain(HINSTANCE, HINSTANCE, LPWSTR commandLine, int showMode) {
   return ProcessEntry(Narrow(commandLine).c_str(), showMode);

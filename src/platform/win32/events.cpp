@@ -1,6 +1,5 @@
 // Windows messages as events.
 #include <windows.h>
-
 #include <windowsx.h>
 
 #include "platform/event.h"
@@ -19,23 +18,32 @@ Notice NoticeOf(HWND control, UINT code) {
   }
   if (lstrcmpiW(name, L"ListBox") == 0 || lstrcmpiW(name, L"ComboBox") == 0) {
     // Both kinds of list report with the same two numbers.
-    return code == LBN_SELCHANGE ? Notice::SelectChange : code == LBN_DBLCLK ? Notice::DoubleClick
-                                                                               : Notice::Other;
+    return code == LBN_SELCHANGE ? Notice::SelectChange
+           : code == LBN_DBLCLK  ? Notice::DoubleClick
+                                 : Notice::Other;
   }
   return code == EN_CHANGE ? Notice::EditChange : Notice::Other;
 }
 
 Scroll ScrollOf(UINT code) {
   switch (code) {
-    case SB_LINEUP: return Scroll::LineUp;
-    case SB_LINEDOWN: return Scroll::LineDown;
-    case SB_PAGEUP: return Scroll::PageUp;
-    case SB_PAGEDOWN: return Scroll::PageDown;
+    case SB_LINEUP:
+      return Scroll::LineUp;
+    case SB_LINEDOWN:
+      return Scroll::LineDown;
+    case SB_PAGEUP:
+      return Scroll::PageUp;
+    case SB_PAGEDOWN:
+      return Scroll::PageDown;
     case SB_THUMBPOSITION:
-    case SB_THUMBTRACK: return Scroll::Thumb;
-    case SB_TOP: return Scroll::Top;
-    case SB_BOTTOM: return Scroll::Bottom;
-    default: return Scroll::End;
+    case SB_THUMBTRACK:
+      return Scroll::Thumb;
+    case SB_TOP:
+      return Scroll::Top;
+    case SB_BOTTOM:
+      return Scroll::Bottom;
+    default:
+      return Scroll::End;
   }
 }
 
@@ -44,13 +52,13 @@ struct KindOfMessage {
   EventKind kind;
 };
 constexpr KindOfMessage kMouse[] = {
-    {WM_MOUSEMOVE, EventKind::MouseMove},     {WM_LBUTTONDOWN, EventKind::LeftDown},
-    {WM_LBUTTONUP, EventKind::LeftUp},        {WM_LBUTTONDBLCLK, EventKind::LeftDouble},
-    {WM_RBUTTONDOWN, EventKind::RightDown},   {WM_MBUTTONDOWN, EventKind::MiddleDown},
+    {WM_MOUSEMOVE, EventKind::MouseMove},   {WM_LBUTTONDOWN, EventKind::LeftDown},
+    {WM_LBUTTONUP, EventKind::LeftUp},      {WM_LBUTTONDBLCLK, EventKind::LeftDouble},
+    {WM_RBUTTONDOWN, EventKind::RightDown}, {WM_MBUTTONDOWN, EventKind::MiddleDown},
     {WM_MOUSEWHEEL, EventKind::Wheel},
 };
 constexpr KindOfMessage kPlain[] = {
-    {WM_PAINT, EventKind::Paint}, {WM_TIMER, EventKind::Timer},     {WM_CLOSE, EventKind::Close},
+    {WM_PAINT, EventKind::Paint},     {WM_TIMER, EventKind::Timer},         {WM_CLOSE, EventKind::Close},
     {WM_DESTROY, EventKind::Destroy}, {WM_SETCURSOR, EventKind::SetCursor}, {WM_USER, EventKind::User},
 };
 
@@ -101,6 +109,7 @@ bool EventFromMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam, E
       event->scrollPosition = known ? info.nTrackPos : HIWORD(wParam);
       return true;
     }
-    default: return false;
+    default:
+      return false;
   }
 }

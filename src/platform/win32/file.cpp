@@ -1,8 +1,7 @@
 #include "platform/file.h"
 
-#include <windows.h>
-
 #include <shlobj.h>
+#include <windows.h>
 
 #include <vector>
 
@@ -11,7 +10,9 @@
 namespace {
 
 // Kernel handles fit into 32 bits, so a file's number is its handle.
-HANDLE HandleOf(int file) { return reinterpret_cast<HANDLE>(static_cast<INT_PTR>(file)); }
+HANDLE HandleOf(int file) {
+  return reinterpret_cast<HANDLE>(static_cast<INT_PTR>(file));
+}
 
 int NumberOf(HANDLE handle) {
   if (handle == INVALID_HANDLE_VALUE) return kNoFile;
@@ -87,7 +88,9 @@ bool FileWriteTime(int file, std::uint64_t* time) {
   return true;
 }
 
-bool FileDelete(const char* path) { return DeleteFileW(Wide(path).c_str()) != FALSE; }
+bool FileDelete(const char* path) {
+  return DeleteFileW(Wide(path).c_str()) != FALSE;
+}
 
 bool FileMove(const char* from, const char* to) {
   return MoveFileW(Wide(from).c_str(), Wide(to).c_str()) != FALSE;
@@ -97,7 +100,9 @@ bool FileCopy(const char* from, const char* to, bool failIfExists) {
   return CopyFileW(Wide(from).c_str(), Wide(to).c_str(), failIfExists ? TRUE : FALSE) != FALSE;
 }
 
-bool FolderCreate(const char* path) { return CreateDirectoryW(Wide(path).c_str(), nullptr) != FALSE; }
+bool FolderCreate(const char* path) {
+  return CreateDirectoryW(Wide(path).c_str(), nullptr) != FALSE;
+}
 
 int FolderGetCurrent(char* buffer, int size) {
   wchar_t path[MAX_PATH];

@@ -1,8 +1,7 @@
 #include "platform/process.h"
 
-#include <windows.h>
-
 #include <shellapi.h>
+#include <windows.h>
 
 #include "platform/win32/border.h"
 
@@ -37,13 +36,14 @@ bool AssociationFind(const char* file, const char* folder, char* program, int si
 
 bool ClassValue(const char* key, char* value, int size) {
   HKEY opened = nullptr;
-  if (RegOpenKeyExW(HKEY_CLASSES_ROOT, Wide(key).c_str(), 0, KEY_READ, &opened) != ERROR_SUCCESS) return false;
+  if (RegOpenKeyExW(HKEY_CLASSES_ROOT, Wide(key).c_str(), 0, KEY_READ, &opened) != ERROR_SUCCESS)
+    return false;
   wchar_t text[600] = L"";
   DWORD bytes = sizeof text - sizeof text[0];
   DWORD type = 0;
-  const bool good =
-      RegQueryValueExW(opened, nullptr, nullptr, &type, reinterpret_cast<BYTE*>(text), &bytes) == ERROR_SUCCESS &&
-      (type == REG_SZ || type == REG_EXPAND_SZ);
+  const bool good = RegQueryValueExW(opened, nullptr, nullptr, &type, reinterpret_cast<BYTE*>(text),
+                                     &bytes) == ERROR_SUCCESS &&
+                    (type == REG_SZ || type == REG_EXPAND_SZ);
   RegCloseKey(opened);
   if (good) CopyNarrow(text, value, size);
   return good;

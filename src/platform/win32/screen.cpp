@@ -4,14 +4,22 @@
 
 int ScreenMetric(Metric metric) {
   switch (metric) {
-    case Metric::FullScreenWidth: return GetSystemMetrics(SM_CXFULLSCREEN);
-    case Metric::FullScreenHeight: return GetSystemMetrics(SM_CYFULLSCREEN);
-    case Metric::MenuHeight: return GetSystemMetrics(SM_CYMENU);
-    case Metric::SizeButtonWidth: return GetSystemMetrics(SM_CXSIZE);
-    case Metric::FrameWidth: return GetSystemMetrics(SM_CXFRAME);
-    case Metric::FrameHeight: return GetSystemMetrics(SM_CYFRAME);
-    case Metric::EdgeHeight: return GetSystemMetrics(SM_CYEDGE);
-    case Metric::CaptionHeight: return GetSystemMetrics(SM_CYCAPTION);
+    case Metric::FullScreenWidth:
+      return GetSystemMetrics(SM_CXFULLSCREEN);
+    case Metric::FullScreenHeight:
+      return GetSystemMetrics(SM_CYFULLSCREEN);
+    case Metric::MenuHeight:
+      return GetSystemMetrics(SM_CYMENU);
+    case Metric::SizeButtonWidth:
+      return GetSystemMetrics(SM_CXSIZE);
+    case Metric::FrameWidth:
+      return GetSystemMetrics(SM_CXFRAME);
+    case Metric::FrameHeight:
+      return GetSystemMetrics(SM_CYFRAME);
+    case Metric::EdgeHeight:
+      return GetSystemMetrics(SM_CYEDGE);
+    case Metric::CaptionHeight:
+      return GetSystemMetrics(SM_CYCAPTION);
   }
   return 0;
 }

@@ -1,8 +1,7 @@
 #include "platform/sound.h"
 
-#include <windows.h>
-
 #include <mmsystem.h>
+#include <windows.h>
 
 #include "platform/win32/border.h"
 

@@ -41,4 +41,6 @@ bool TimeFromFileTime(std::uint64_t fileTime, LocalTime* time) {
   return true;
 }
 
-std::int64_t TimeSeconds() { return static_cast<std::int64_t>(std::time(nullptr)); }
+std::int64_t TimeSeconds() {
+  return static_cast<std::int64_t>(std::time(nullptr));
+}

@@ -99,7 +99,9 @@ int MessageLoop(WindowHandle window, int acceleratorId) {
   return static_cast<int>(message.wParam);
 }
 
-void MessageQuit(int code) { PostQuitMessage(code); }
+void MessageQuit(int code) {
+  PostQuitMessage(code);
+}
 
 void SendCommand(WindowHandle window, std::uint32_t command) {
   if (window) SendMessageW(Hwnd(window), WM_COMMAND, command, 0);
@@ -118,7 +120,8 @@ void SendDestroy(WindowHandle window) {
 }
 
 bool TimerStart(WindowHandle window, int id, int milliseconds) {
-  const bool good = SetTimer(Hwnd(window), static_cast<UINT_PTR>(id), static_cast<UINT>(milliseconds), nullptr) != 0;
+  const bool good =
+      SetTimer(Hwnd(window), static_cast<UINT_PTR>(id), static_cast<UINT>(milliseconds), nullptr) != 0;
   if (good) ++Live().timers;
   return good;
 }
@@ -127,13 +130,17 @@ void TimerStop(WindowHandle window, int id) {
   if (KillTimer(Hwnd(window), static_cast<UINT_PTR>(id))) --Live().timers;
 }
 
-bool WindowIsOpen(WindowHandle window) { return window && IsWindow(Hwnd(window)); }
+bool WindowIsOpen(WindowHandle window) {
+  return window && IsWindow(Hwnd(window));
+}
 
 void WindowMove(WindowHandle window, int x, int y, int width, int height, bool repaint) {
   MoveWindow(Hwnd(window), x, y, width, height, repaint ? TRUE : FALSE);
 }
 
-void WindowShow(WindowHandle window, bool show) { ShowWindow(Hwnd(window), show ? SW_SHOW : SW_HIDE); }
+void WindowShow(WindowHandle window, bool show) {
+  ShowWindow(Hwnd(window), show ? SW_SHOW : SW_HIDE);
+}
 
 void WindowSetTopmost(WindowHandle window) {
   SetWindowPos(Hwnd(window), HWND_TOPMOST, 0, 0, 0, 0, SWP_NOSIZE | SWP_NOMOVE | SWP_SHOWWINDOW);
@@ -143,9 +150,13 @@ void WindowInvalidate(WindowHandle window, bool erase) {
   InvalidateRect(Hwnd(window), nullptr, erase ? TRUE : FALSE);
 }
 
-void WindowSetFocus(WindowHandle window) { SetFocus(Hwnd(window)); }
+void WindowSetFocus(WindowHandle window) {
+  SetFocus(Hwnd(window));
+}
 
-bool WindowHasFocus(WindowHandle window) { return window && GetFocus() == Hwnd(window); }
+bool WindowHasFocus(WindowHandle window) {
+  return window && GetFocus() == Hwnd(window);
+}
 
 void WindowSetText(WindowHandle window, const char* text) {
   SetWindowTextW(Hwnd(window), Wide(text).c_str());

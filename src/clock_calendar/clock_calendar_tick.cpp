@@ -1,0 +1,20 @@
+#include "clock_calendar/clock_calendar_tick.h"
+
+#include "platform/memory.h"
+
+namespace {
+unsigned char* previewImage;
+}
+
+// Neither the clock's window, nor the calendar's, nor a preview exists yet: there
+// is nothing to step, to open or to delete.
+void ClockPreviewStep() {}
+void CalenTickerTick() {}
+void CalenWindowOpen() {}
+void CalenFontDelete() {}
+void CalenStickersFree() {}
+
+void ClockPreviewFree() {
+  MemoryFree(previewImage);
+  previewImage = nullptr;
+}

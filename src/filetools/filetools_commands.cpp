@@ -1,0 +1,46 @@
+#include "filetools/filetools_commands.h"
+
+#include "platform/window.h"
+#include "shell/shell.h"
+
+namespace {
+
+// A tool that has no dialog yet: all that is left of its entry is that the panel
+// closes.
+void NoDialog() {
+  SendClose(hDiskMenu);
+  MenuPanelState = 0;
+}
+
+}  // namespace
+
+void CommandFileOpen(std::uint32_t) {
+  NoDialog();
+}
+void CommandOpenAddFile(std::uint32_t) {}
+void CommandOpenAddProgram(std::uint32_t) {}
+void CommandOpenGroupSet(std::uint32_t) {}
+void CommandOpenLaunch(std::uint32_t) {}
+
+void CommandBackUp(std::uint32_t) {
+  NoDialog();
+}
+void CommandBackUpAdd(std::uint32_t) {}
+void CommandBackUpFolder(std::uint32_t) {}
+void CommandBackUpLoad(std::uint32_t) {}
+void CommandBackUpSave(std::uint32_t) {}
+
+void CommandDivide(std::uint32_t) {
+  NoDialog();
+}
+void CommandDivideStep(std::uint32_t) {}
+
+void CommandFolderScope(std::uint32_t) {
+  NoDialog();
+}
+void CommandDesktopTidy(std::uint32_t) {
+  NoDialog();
+}
+void CommandDesktopCover(std::uint32_t) {
+  NoDialog();
+}

@@ -1,0 +1,29 @@
+#include "shell/entry.h"
+
+#include "platform/dialog.h"
+#include "platform/window.h"
+#include "resources/ids.h"
+#include "shell/main_window.h"
+#include "shell/shell.h"
+#include "shell/text.h"
+
+char PendingCommandLine[kCommandLineSize];
+char CommandLine[kCommandLineSize];
+
+int ProcessEntry(const char* commandLine, int showMode) {
+  char title[100];
+  char className[100];
+  StringLoad(IDS_TITLE, title, sizeof title);
+  StringLoad(IDR_MAIN, className, sizeof className);
+  const MainWindowClass mainClass{className, title, IDI_MAIN, IDI_SMALL, IDR_MAIN, MainWindowProc};
+  const WindowHandle window = MainWindowCreate(mainClass, 500, 300, 120, 160);
+  if (!window) return 0;
+  WindowShowFirst(window, showMode);
+  TextFormat(PendingCommandLine, sizeof PendingCommandLine, "%s", commandLine);
+  return MessageLoop(window, IDR_MAIN);
+}
+
+void CommandLineTake() {
+  TextCopy(CommandLine, sizeof CommandLine, PendingCommandLine);
+  PendingCommandLine[0] = '\0';
+}

@@ -1,0 +1,138 @@
+#include "shell/file_watch.h"
+
+#include <cstdint>
+#include <cstring>
+
+#include "character/character.h"
+#include "character/character_file.h"
+#include "character/stage.h"
+#include "clock_calendar/calendar.h"
+#include "clock_calendar/clock.h"
+#include "filetools/open_history.h"
+#include "platform/file.h"
+#include "platform/window.h"
+#include "shell/pending_features.h"
+#include "shell/settings.h"
+#include "shell/shell.h"
+
+namespace {
+
+constexpr const char* kNames[] = {"\\mirrell_calen_file.dcd", "\\mirrell_chara_file.dcx",
+                                  "\\mirrell_ClcAlmPerFile.clc"};
+std::uint64_t stamps[3];
+
+// Flags of the watch: set by a change, cleared by what answers it. They are
+// process-wide because answering sends commands, inside which a tick may come by.
+bool calendarReload;
+bool calendarTell;  // the schedule program must be told
+bool clockRestart;
+bool alarmReload;
+bool characterReload;
+
+bool StampRead(WatchedFile file, std::uint64_t* stamp) {
+  char path[kRootSize + 64];
+  RootPath(path, sizeof path, kNames[static_cast<int>(file)]);
+  SearchEntry entry;
+  const SearchHandle search = SearchFirst(path, &entry);
+  if (search == kNoSearch) return false;
+  SearchClose(search);
+  *stamp = entry.lastWriteTime;
+  return true;
+}
+
+// A missing file is no change.
+bool HasChanged(WatchedFile file) {
+  std::uint64_t stamp = 0;
+  return StampRead(file, &stamp) && stamp != stamps[static_cast<int>(file)];
+}
+
+// What the schedule program knows of the selected calendar.
+unsigned char calendarBefore[kDefinitionSize];
+unsigned char monthsBefore[kMonthsOfYear * kMonthBlockSize];
+
+void CalendarSnapshotTake() {
+  std::memcpy(calendarBefore, CalenDefinition(), sizeof calendarBefore);
+  std::memcpy(monthsBefore, CalenSheets[CalenSelected()], sizeof monthsBefore);
+}
+
+bool CalendarSnapshotDiffers() {
+  return std::memcmp(calendarBefore, CalenDefinition(), sizeof calendarBefore) != 0 ||
+         std::memcmp(monthsBefore, CalenSheets[CalenSelected()], sizeof monthsBefore) != 0;
+}
+
+void CalendarLook() {
+  // The dialogs that edit the calendars hold their changes in memory.
+  if (DlgIdMenu == 2007 || DlgIdMenu == 2009 || !HasChanged(WatchedFile::Calendar)) return;
+  CalendarSnapshotTake();
+  CalenFileRead();
+  FileWatchStampTake(WatchedFile::Calendar);
+  calendarReload = true;
+  clockRestart = true;
+  calendarTell = CalendarSnapshotDiffers();
+}
+
+void CalendarAnswer() {
+  if (!calendarReload) return;
+  calendarReload = false;
+  SendCommand(hMainWnd, 2381);
+  SendClose(hCalenWnd);
+  if (CalenShow) SendCommand(hMainWnd, 2379);
+  if (calendarTell) {
+    calendarTell = false;
+    SendCommand(hMainWnd, 2382);
+  }
+}
+
+void CharacterLook() {
+  // The dialogs that choose characters work on the tables.
+  if (DlgIdMenu == 2013 || DlgIdMenu == 2014 || !HasChanged(WatchedFile::Character)) return;
+  CharaFileRead();
+  FileWatchStampTake(WatchedFile::Character);
+  alarmReload = true;
+  characterReload = true;
+  clockRestart = true;
+}
+
+void AlarmAnswer() {
+  if (!alarmReload) return;
+  alarmReload = false;
+  AlarmCharaLoad();
+  SysFileWrite();
+}
+
+void CharacterAnswer() {
+  if (!characterReload) return;
+  characterReload = false;
+  OptionPreviewsFree();
+  if (CharaSelect(CharaIndex)) OpnHisTakeWalkSettings();
+  StageRedraw = kRedrawReload;
+  SendCommand(hMainWnd, 2293);
+}
+
+void ClockAnswer() {
+  if (!clockRestart) return;
+  clockRestart = false;
+  SendCommand(hMainWnd, 2254);
+}
+
+void ClockAlarmLook() {
+  if (!HasChanged(WatchedFile::ClockAlarm)) return;
+  ClockAlarmFileRead();
+  FileWatchStampTake(WatchedFile::ClockAlarm);
+}
+
+}  // namespace
+
+void FileWatchStampTake(WatchedFile file) {
+  StampRead(file, &stamps[static_cast<int>(file)]);
+}
+
+void FileWatch() {
+  CalendarLook();
+  CalendarAnswer();
+  CharacterLook();
+  AlarmAnswer();
+  CharacterAnswer();
+  ClockAnswer();
+  ClockAlarmLook();
+}

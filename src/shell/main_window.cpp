@@ -1,0 +1,96 @@
+#include "shell/main_window.h"
+
+#include "character/stage.h"
+#include "platform/window.h"
+#include "schedule/table_scroll.h"
+#include "shell/child_controls.h"
+#include "shell/commands.h"
+#include "shell/pending_features.h"
+#include "shell/shell.h"
+#include "shell/shutdown.h"
+#include "shell/start.h"
+#include "shell/text_figures.h"
+#include "shell/tick.h"
+
+std::int32_t MainClientWidth;
+std::int32_t MainClientHeight;
+
+namespace {
+
+constexpr int kEscape = 27;
+
+void Init(const Event& event) {
+  StartSequence(event.window);
+}
+
+void Paint(const Event&) {
+  TextFiguresTake(hMainWnd);
+  StagePaint();
+  // Windows that are painted in this window's wake, in this order.
+  SendPaint(hClockWnd);
+  SendPaint(hCalenWnd);
+  SendPaint(hPlanWnd);
+  SendPaint(hSclTableWnd);
+}
+
+void Size(const Event& event) {
+  MainClientWidth = event.x;
+  MainClientHeight = event.y;
+  TableScrollBarDestroy();
+  ChildControlsDestroy(0, 599);
+  ChildControlsDestroy(705, 710);
+}
+
+void Close(const Event&) {
+  // kept: the window is never destroyed; the end of the process takes it.
+  SendDestroy(hMainWnd);
+}
+
+void Char(const Event& event) {
+  if (event.key != kEscape || MenuPanelState == 0) return;
+  MenuPanelState = 0;
+  FuncNo = 0;
+  MenuReopenGuard = 0;
+}
+
+void Nothing(const Event&) {}
+
+struct Row {
+  EventKind kind;
+  void (*action)(const Event&);
+};
+
+// What the main window does about each event. Those with no action are taken all
+// the same: clicking, double clicking or right clicking the character does nothing.
+constexpr Row kRows[] = {
+    {EventKind::Init, Init},
+    {EventKind::Destroy, [](const Event&) { Shutdown(); }},
+    {EventKind::Close, Close},
+    {EventKind::Size, Size},
+    {EventKind::Paint, Paint},
+    {EventKind::Timer, [](const Event&) { MainTick(); }},
+    {EventKind::Command, [](const Event& event) { CommandRoute(event.command); }},
+    {EventKind::MouseMove, PanelPointerOnStage},
+    {EventKind::LeftUp, [](const Event&) { TableScrollStop(); }},
+    {EventKind::Char, Char},
+    {EventKind::SetCursor, Nothing},
+    {EventKind::LeftDown, Nothing},
+    {EventKind::LeftDouble, Nothing},
+    {EventKind::RightDown, Nothing},
+    {EventKind::MiddleDown, Nothing},
+    {EventKind::Wheel, Nothing},
+    {EventKind::KeyDown, Nothing},
+    {EventKind::VScroll, Nothing},
+    {EventKind::User, Nothing},
+};
+
+}  // namespace
+
+bool MainWindowProc(const Event& event) {
+  for (const Row& row : kRows) {
+    if (row.kind != event.kind) continue;
+    row.action(event);
+    return true;
+  }
+  return false;
+}

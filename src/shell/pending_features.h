@@ -1,0 +1,43 @@
+// What the tick, the start and the command table ask of features that have no
+// room of their own yet. Each is named, called where it will be called, and has
+// nothing to do.
+#pragma once
+
+#include <cstdint>
+
+#include "platform/event.h"
+
+// Walking characters.
+inline constexpr int kWalkSlots = 50;
+bool WalkIsRunning();
+bool WalkSlotIsActive(int slot);
+void WalkTick(int slot);
+bool WalkEndIsRunning();
+bool WalkEndSlotIsActive(int slot);
+void WalkEndTick(int slot);
+
+// Notices and the pictures of their characters.
+void AlarmCharaLoad();
+void MailNoticeStart();
+void MailNoticeFrameStep();
+void SclNoticeFrameStep();
+void AlarmCheckFrameStep();
+int MotionPreviewTick();
+void NoticeCommand(std::uint32_t number);
+
+// Options of the character.
+void OptionPreviewsFree();
+
+// The clock notice.
+bool ClockNoticeWaitIsOver();
+
+// Layout.
+inline constexpr std::int32_t kLayoutAll = 7;
+extern std::int32_t LayoutChange;
+void LayoutDefault();
+
+// The panel.
+void PanelPointerOnStage(const Event& event);
+
+// Desktop tidy.
+void TidyDefaults();

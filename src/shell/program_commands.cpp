@@ -1,0 +1,68 @@
+// Commands about the program itself and the programs beside it.
+#include "platform/dialog.h"
+#include "platform/file.h"
+#include "platform/process.h"
+#include "platform/window.h"
+#include "schedule/application_list.h"
+#include "shell/commands.h"
+#include "shell/shell.h"
+#include "shell/sibling.h"
+
+void CommandCloseProgram(std::uint32_t) {
+  SendClose(hMainWnd);
+}
+
+void CommandExit(std::uint32_t) {
+  SendClose(hDiskMenu);
+  const BoxAnswer answer = MessageBoxRun(hMainWnd, "プログラムを終了します。", "プログラム終了",
+                                         BoxButtons::OkCancel, BoxIcon::Question);
+  if (answer == BoxAnswer::Ok) {
+    SendClose(hMainWnd);
+  } else {
+    MenuPanelState = 0;
+  }
+}
+
+void CommandFocusStage(std::uint32_t) {
+  WindowSetFocus(hMainWnd);
+}
+
+// Popups go away by themselves here; the number stays known.
+void CommandDropPopup(std::uint32_t) {}
+
+// Loading and saving of the first data format, which no file of today has.
+void CommandOldData(std::uint32_t) {}
+
+// The bats' switch is set by nothing, so there is nothing to open.
+void CommandBat(std::uint32_t) {}
+
+namespace {
+struct Sibling {
+  std::uint32_t command;
+  const char* commandLine;
+};
+constexpr Sibling kSiblings[] = {
+    {1927, "REALM_EDITOR.exe"},
+    {2365, "MOVEPLAY.exe"},
+    {2377, "使用手引.exe"},
+};
+}  // namespace
+
+void CommandStartSibling(std::uint32_t number) {
+  for (const Sibling& sibling : kSiblings) {
+    if (sibling.command == number) SiblingStart(RootFolder, sibling.commandLine);
+  }
+}
+
+void CommandCalendarChanged(std::uint32_t) {
+  // Set while a box is up: a second one would open over it from the tick.
+  static bool telling = false;
+  if (telling || !ApliListHasSelected()) return;
+  telling = true;
+  MessageBoxRun(hMainWnd,
+                ApliSelectedIsRunning()
+                    ? "予定表の編集データセーブ後に予定表を閉じて再起動させてください"
+                    : "予定表でカレンダー変更を有効にするには、予定表を起動しセーブする必要があります",
+                "カレンダーが変更されました(ミルレール)", BoxButtons::Ok, BoxIcon::Exclamation);
+  telling = false;
+}

@@ -1,0 +1,3 @@
+#include "shell/shared_time.h"
+
+LocalTime SharedTime;

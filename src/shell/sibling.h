@@ -1,0 +1,7 @@
+// Starting the programs that live beside this one.
+#pragma once
+
+// Clears the panel state, makes `folder` current, starts the program by command
+// line and waits up to 5 seconds until it waits for input. Failure is not
+// reported.
+void SiblingStart(const char* folder, const char* commandLine);

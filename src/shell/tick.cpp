@@ -1,0 +1,153 @@
+#include "shell/tick.h"
+
+#include "character/motion.h"
+#include "clock_calendar/calendar.h"
+#include "clock_calendar/clock.h"
+#include "clock_calendar/clock_calendar_tick.h"
+#include "filetools/group_open.h"
+#include "mail_music/mail.h"
+#include "platform/screen.h"
+#include "platform/time.h"
+#include "platform/window.h"
+#include "schedule/hand_off.h"
+#include "schedule/schedule_run.h"
+#include "schedule/table_scroll.h"
+#include "shell/entry.h"
+#include "shell/file_watch.h"
+#include "shell/pending_features.h"
+#include "shell/shared_time.h"
+#include "shell/shell.h"
+
+std::int32_t TickCount;
+
+namespace {
+
+constexpr std::int32_t kMailUnitTicks = 6000;
+constexpr std::int32_t kFrameDividerReload = 5;
+constexpr std::int32_t kFileWatchTicks = 201;
+constexpr std::int32_t kPanelTop = 1;
+constexpr std::uint32_t kPanelCloseCommand = 2;
+
+void CommandLineStep() {
+  if (PendingCommandLine[0] == '\0') return;
+  CommandLineTake();
+  SendCommand(hMainWnd, 2373);
+}
+
+void BackUpStepTell() {
+  if (BackUpActive) SendCommand(hBackUpDlg, 2375);
+}
+
+void SteppedWorkTell() {
+  if (progressMode >= 1 && progressMode <= 4) SendCommand(hSearchDlg, 2376);
+}
+
+void HandOffStep() {
+  if (SclHandOffCheck()) SendCommand(hMainWnd, 2372);
+}
+
+void ReopenGuardStep() {
+  if (MenuReopenGuard > 0) --MenuReopenGuard;
+}
+
+void PanelClose() {
+  MenuPanelState = 0;
+  SendCommand(hDiskMenu, kPanelCloseCommand);
+}
+
+// The pointer has not been inside the panel yet: it closes by count.
+void PanelCountStep() {
+  if (MenuPanelState != kPanelTop || MenuCloseCount == kMenuInside) return;
+  if (MenuCloseCount != 0) --MenuCloseCount;
+  if (MenuCloseCount == 0) PanelClose();
+}
+
+// The pointer has been inside: it closes as soon as the pointer is outside.
+void PanelPointerStep() {
+  if (MenuPanelState != kPanelTop || MenuCloseCount != kMenuInside) return;
+  const Point at = PointerPosition();
+  if (at.x < MenuPanelRect.left || at.x >= MenuPanelRect.right || at.y < MenuPanelRect.top ||
+      at.y >= MenuPanelRect.bottom) {
+    PanelClose();
+  }
+}
+
+void MailStep() {
+  if (!MailCheckOn) return;
+  if (++MailTickCount >= kMailUnitTicks) {
+    MailTickCount = 0;
+    if (MailMinuteCount != 0) --MailMinuteCount;
+  }
+  if (MailMinuteCount == 0) {
+    MailMinuteCount = MailInterval;
+    SendCommand(hMainWnd, 2079);
+  }
+  if (MailNoticeFlag == 1) MailNoticeStart();
+}
+
+void WalkStep() {
+  for (int slot = 0; WalkIsRunning() && slot < kWalkSlots; ++slot) {
+    if (WalkSlotIsActive(slot)) WalkTick(slot);
+  }
+}
+
+void WalkEndStep() {
+  for (int slot = 0; WalkEndIsRunning() && slot < kWalkSlots; ++slot) {
+    if (WalkEndSlotIsActive(slot)) WalkEndTick(slot);
+  }
+}
+
+void ClockStep() {
+  const bool adjusting = DlgIdTool == 2016 && hToolDlg;
+  if (!adjusting && !hClockWnd && !SclIsRunning() && !hCalenWnd) return;
+  TimeGetLocal(&SharedTime);
+  if (adjusting) WatchAdustTimeDraw();
+  if (hClockWnd && ClockTickCheck(SharedTime.hour, SharedTime.minute) != 0) SendPaint(hClockWnd);
+  if (SclIsRunning() && SclDueCheck()) SendCommand(hMainWnd, 2265);
+  if (hCalenWnd || hClockNoticeWnd) {
+    if (CalenTickCheck() != 0) SendPaint(hCalenWnd);
+    if (ClockAlarmCheck(SharedTime.hour, SharedTime.minute) != 0) SendCommand(hMainWnd, 2336);
+    if (hClockNoticeWnd && ClockNoticeWaitIsOver()) SendCommand(hClockNoticeWnd, 2258);
+    if (hCalenWnd) CalenTickerTick();
+  }
+}
+
+void MotionStep() {
+  if (CharaMotionTick() != 0) SendCommand(hMainWnd, 2293);
+}
+
+void PreviewStep() {
+  if (MotionPreviewTick() != 0) SendPaint(hSubDlg);
+}
+
+// Off at 0, until a feature that needs the five-tick step sets it.
+void FrameDividerStep() {
+  if (FrameDivider <= 0) return;
+  if (--FrameDivider != 0) return;
+  FrameDivider = kFrameDividerReload;
+  MailNoticeFrameStep();
+  SclNoticeFrameStep();
+  AlarmCheckFrameStep();
+}
+
+void FileWatchStep() {
+  if (++FileWatchCount < kFileWatchTicks) return;
+  FileWatchCount = 0;
+  FileWatch();
+}
+
+// The order is part of the design: alarms and clock checks use the time that the
+// clock's step reads, and the character moves after the alarms, so that a menu or
+// an alarm that began in this tick draws first.
+constexpr void (*kSteps[])() = {
+    CommandLineStep,  BackUpStepTell, SteppedWorkTell, HandOffStep,      ReopenGuardStep, PanelCountStep,
+    PanelPointerStep, MailStep,       OpnGroupTick,    WalkStep,         WalkEndStep,     ClockPreviewStep,
+    ClockStep,        MotionStep,     PreviewStep,     FrameDividerStep, TableScrollTick, FileWatchStep,
+};
+
+}  // namespace
+
+void MainTick() {
+  ++TickCount;
+  for (const auto step : kSteps) step();
+}

@@ -1,0 +1,17 @@
+// The handler of the one timer.
+#pragma once
+
+#include <cstdint>
+
+// Milliseconds between two ticks, and the timer's number.
+inline constexpr int kTickMilliseconds = 30;
+inline constexpr int kTickTimer = 1;
+
+// Ticks since the start, nested ones too.
+extern std::int32_t TickCount;
+
+// Every periodic job of the program, in its fixed order. Re-entrant: a step may
+// open a modal window from inside, and further ticks then run nested in it; the
+// suspended tick goes on with its remaining steps when that window has closed.
+// So no step keeps state in locals across a send.
+void MainTick();

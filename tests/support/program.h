@@ -1,0 +1,23 @@
+// The whole program in memory: its main window, its start, its ticks.
+#pragma once
+
+#include "tests/support/desktop.h"
+
+// Stands on a desktop of its own with the program not started yet; the tables and
+// counters of the shell and the character are as a fresh process has them.
+class ProgramTest : public DesktopTest {
+ protected:
+  void SetUp() override;
+  void TearDown() override;
+
+  // What the process entry does, without its message loop.
+  void StartProgram(const char* commandLine = "");
+};
+
+// Runs the tick handler `times` times.
+void Ticks(int times);
+
+// Opens a modeless test dialog with controls; its handler keeps what it hears.
+WindowHandle OpenListener();
+// What listeners heard since the last call: "command 2375", "paint", "close" ...
+std::vector<std::string> TakeHeard();
