@@ -1,6 +1,6 @@
-#include "platform/canvas.h"
-
 #include <windows.h>
+
+#include "platform/canvas.h"
 
 #include <algorithm>
 #include <cstring>

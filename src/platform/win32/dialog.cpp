@@ -1,7 +1,8 @@
+#include <windows.h>
+
 #include "platform/dialog.h"
 
 #include <commdlg.h>
-#include <windows.h>
 
 #include "platform/win32/border.h"
 #include "platform/window.h"

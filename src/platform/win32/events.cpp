@@ -1,5 +1,6 @@
 // Windows messages as events.
 #include <windows.h>
+
 #include <windowsx.h>
 
 #include "platform/event.h"

@@ -1,7 +1,8 @@
+#include <windows.h>
+
 #include "platform/file.h"
 
 #include <shlobj.h>
-#include <windows.h>
 
 #include <vector>
 

@@ -1,7 +1,8 @@
+#include <windows.h>
+
 #include "platform/process.h"
 
 #include <shellapi.h>
-#include <windows.h>
 
 #include "platform/win32/border.h"
 

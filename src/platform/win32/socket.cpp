@@ -1,6 +1,6 @@
-#include "platform/socket.h"
-
 #include <winsock2.h>
+
+#include "platform/socket.h"
 
 #include "platform/win32/border.h"
 

@@ -1,7 +1,8 @@
+#include <windows.h>
+
 #include "platform/sound.h"
 
 #include <mmsystem.h>
-#include <windows.h>
 
 #include "platform/win32/border.h"
 
