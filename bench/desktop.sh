@@ -1,0 +1,52 @@
+#!/usr/bin/env bash
+# Whole-process figures under Wine: the start against a bare window, and idle CPU
+# and memory beside two programs of the desktop-pet kind. Run after ./run has
+# built everything:  bench/desktop.sh [SECONDS]
+set -euo pipefail
+cd "$(dirname "$0")/.."
+. scripts/wine_env.sh
+seconds=${1:-60}
+
+for peer in oneko xpenguins; do
+  command -v "$peer" >/dev/null || apt-get install -y -qq --no-install-recommends "$peer" >/dev/null
+done
+
+program=build/bench/program
+rm -rf "$program"
+scripts/program_folder.sh "$program"
+
+trap display_stop EXIT
+display_start 1280x960
+wine_prefix
+
+windows_path() { printf 'Z:%s' "$PWD/$1" | tr / '\\'; }
+
+echo "start to first paint, companion (A) against a bare window (B):"
+wine build/windows/bench/desktop/start_time.exe 20 \
+  "$(windows_path $program/mirrell.exe)" "$(windows_path build/windows/bench/desktop/bare_window.exe)"
+
+ticks_of() { awk '{print $14 + $15}' "/proc/$1/stat"; }
+memory_of() { awk '/^Pss:/ {sum += $2} END {print sum}' "/proc/$1/smaps_rollup"; }
+
+( cd "$program" && exec wine mirrell.exe ) &
+sleep 5
+companion=$(pgrep -f 'mirrell\.exe$' | head -n 1)
+PATH=$PATH:/usr/games
+oneko & oneko_pid=$!
+xpenguins & xpenguins_pid=$!
+sleep 5
+
+declare -A before
+for pid in "$companion" "$oneko_pid" "$xpenguins_pid"; do before[$pid]=$(ticks_of "$pid"); done
+sleep "$seconds"
+hertz=$(getconf CLK_TCK)
+report() {
+  local used=$(( $(ticks_of "$2") - ${before[$2]} ))
+  awk -v n="$1" -v u="$used" -v h="$hertz" -v s="$seconds" -v m="$(memory_of "$2")" \
+    'BEGIN { printf "%-12s %.3f %% of a core, %.1f MB (proportional)\n", n, 100 * u / h / s, m / 1024 }'
+}
+echo "idle for $seconds s on one display:"
+report companion "$companion"
+report oneko "$oneko_pid"
+report xpenguins "$xpenguins_pid"
+kill "$oneko_pid" "$xpenguins_pid" 2>/dev/null || true
