@@ -5,6 +5,7 @@
 #include "character/chara_set.h"
 #include "character/character.h"
 #include "character/character_tables.h"
+#include "clock_calendar/clock.h"
 #include "shell/data_file.h"
 #include "shell/shell.h"
 #include "shell/text.h"
@@ -39,8 +40,6 @@
 //
 // Reader and writer go through one list of fields, Fields; what differs is the
 // transfer that they hand to it.
-
-void (*ClockDesignTakeListValues)(int design);
 
 namespace {
 
@@ -213,7 +212,7 @@ int CharaFileRead() {
   CopyOut(staged);
   const bool whole = ReadBlinkSpeeds(t.data);
   DataClose(t.data);
-  if (whole && ClockDesignTakeListValues) {
+  if (whole) {
     for (int i = 0; i < ClockDesignCount; ++i) ClockDesignTakeListValues(i);
   }
   return 0;

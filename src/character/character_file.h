@@ -5,11 +5,6 @@
 
 inline constexpr int kCharaFilePathSize = 400;
 
-// Set by the clock, which keeps a list of its own for the designs: copies that
-// list's five values into the record of a design. Called for each design after a
-// whole file has been read; null: nobody keeps such a list.
-extern void (*ClockDesignTakeListValues)(int design);
-
 // Writes the program folder and the file's name into `buffer`, which holds
 // kCharaFilePathSize bytes. Returns the length.
 int CharaFilePath(char* buffer);

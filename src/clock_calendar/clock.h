@@ -218,10 +218,10 @@ inline constexpr int kClockListTextSize = 50;
 extern std::int32_t ClockListCount;
 extern unsigned char ClockList[kClockDesignMax][kClockListSize];
 
-// Copies the five values of each list record (name, sound file, the three
-// flags) into the design of the same place. Designs without a list record stay
-// as they are. The reader of the character file calls it at its end.
-void ClockDesignsTakeList();
+// Copies the five values of a list record (name, sound file, the three flags)
+// into the design of the same place. A design without a list record stays as it
+// is. The reader of the character file calls it for each design at its end.
+void ClockDesignTakeListValues(int place);
 // The reverse, for a new data set: one list record for each design.
 void ClockListTakeDesigns();
 

@@ -147,17 +147,17 @@ void ClockDesignPut(unsigned char* record, const ClockDesignFields& fields) {
   TextToField(record + kDesignName, kDesignNameSize, fields.name);
 }
 
-void ClockDesignsTakeList() {
-  for (int place = 0; place < ClockListCount && DesignAt(place); ++place) {
-    const unsigned char* list = ClockList[place];
-    ClockDesignFields fields = ClockDesignGet(ClockDesigns[place].record);
-    fields.repeat = list[kClockListRepeat] != 0;
-    fields.strikeMode = list[kClockListStrikeMode];
-    fields.soundOn = list[kClockListSoundOn] != 0;
-    TextFromField(fields.sound, sizeof fields.sound, list + kClockListSound, kClockListTextSize);
-    TextFromField(fields.name, sizeof fields.name, list + kClockListName, kClockListTextSize);
-    ClockDesignPut(ClockDesigns[place].record, fields);
-  }
+void ClockDesignTakeListValues(int place) {
+  ClockDesignRow* row = DesignAt(place);
+  if (!row || place >= ClockListCount) return;
+  const unsigned char* list = ClockList[place];
+  ClockDesignFields fields = ClockDesignGet(row->record);
+  fields.repeat = list[kClockListRepeat] != 0;
+  fields.strikeMode = list[kClockListStrikeMode];
+  fields.soundOn = list[kClockListSoundOn] != 0;
+  TextFromField(fields.sound, sizeof fields.sound, list + kClockListSound, kClockListTextSize);
+  TextFromField(fields.name, sizeof fields.name, list + kClockListName, kClockListTextSize);
+  ClockDesignPut(row->record, fields);
 }
 
 void ClockListTakeDesigns() {

@@ -23,26 +23,27 @@ constexpr std::int32_t kAlarmSelections[kAlarmRowCount] = {1, 1, 0};
 constexpr int kFirstWalkNumber = 10;
 constexpr const char* kWalkSounds[] = {"旗印.wav", "foot1.wav", "foot2.wav", "ringout.wav"};
 
+// The four designs, drawn on characters 15 to 18: where their dial is, and the
+// hands that fit it. The last one is a display that letters shine in.
 constexpr int kFirstClockNumber = 15;
 struct FactoryDesign {
   int hand;
   int hourLength;
   int minuteLength;
-  int centreX;
-  int centreY;
+  Point centre;
+  unsigned char handColour[3];
+  unsigned char faceColour[3];
   const char* sound;
 };
 constexpr FactoryDesign kDesigns[] = {
-    {kHandDiamond, 26, 38, 60, 60, "kan.wav"},
-    {kHandBar, 24, 40, 60, 60, "kan.wav"},
-    {kHandArrow, 28, 40, 60, 60, "po2.wav"},
-    {kHandAmPm, 0, 0, 10, 50, "nya.wav"},
+    {kHandDiamond, 27, 41, {72, 72}, {0x2A, 0x20, 0x36}, {0xFF, 0xF8, 0xE6}, "kan.wav"},
+    {kHandDot, 15, 23, {70, 108}, {0x2A, 0x20, 0x36}, {0xFF, 0xF8, 0xE6}, "kan.wav"},
+    {kHandBar, 16, 24, {68, 95}, {0x2A, 0x20, 0x36}, {0xFF, 0xF8, 0xE6}, "po2.wav"},
+    {kHandAmPm, 0, 0, {25, 26}, {0xFF, 0xE0, 0x80}, {0x1D, 0x24, 0x33}, "nya.wav"},
 };
+// Every hour the seven frames behind the dial's own run through, ten ticks each.
 constexpr std::uint16_t kStrikeTicks = 10;
-// The clock's figures go to and fro and come to rest.
-constexpr unsigned char kStrikeFigures[kStrikeSteps] = {2, 3, 2, 3, 2, 0, 0};
-constexpr unsigned char kFactoryHand[3] = {0x28, 0x28, 0x64};
-constexpr unsigned char kFactoryFace[3] = {0xFF, 0xFF, 0xFF};
+constexpr int kFirstStrikeFrame = 2;
 
 void SetCharacters() {
   MainCharaCount = kMainCharas;
@@ -91,13 +92,15 @@ void SetClock() {
     fields.soundOn = true;
     fields.hourLength = design.hourLength;
     fields.minuteLength = design.minuteLength;
-    fields.centreX = design.centreX;
-    fields.centreY = design.centreY;
-    std::memcpy(fields.handColour, kFactoryHand, sizeof kFactoryHand);
-    std::memcpy(fields.faceColour, kFactoryFace, sizeof kFactoryFace);
-    for (int step = 0; step < kStrikeSteps; ++step) fields.strikeDelay[step] = kStrikeTicks;
-    for (unsigned char(&hour)[kStrikeSteps] : fields.hourFigures) {
-      std::memcpy(hour, kStrikeFigures, sizeof kStrikeFigures);
+    fields.centreX = design.centre.x;
+    fields.centreY = design.centre.y;
+    std::memcpy(fields.handColour, design.handColour, sizeof fields.handColour);
+    std::memcpy(fields.faceColour, design.faceColour, sizeof fields.faceColour);
+    for (int step = 0; step < kStrikeSteps; ++step) {
+      fields.strikeDelay[step] = kStrikeTicks;
+      for (unsigned char(&hour)[kStrikeSteps] : fields.hourFigures) {
+        hour[step] = static_cast<unsigned char>(kFirstStrikeFrame + step);
+      }
     }
     TextCopy(fields.sound, sizeof fields.sound, design.sound);
     ClockDesigns[i].number = static_cast<std::uint16_t>(kFirstClockNumber + i);

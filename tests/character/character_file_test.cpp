@@ -7,6 +7,7 @@
 
 #include "character/chara_set.h"
 #include "character/character_tables.h"
+#include "clock_calendar/clock.h"
 #include "platform/diagnostics.h"
 #include "tests/character/chara_files.h"
 
@@ -15,9 +16,15 @@ namespace {
 constexpr char kName[] = "\\mirrell_chara_file.dcx";
 constexpr char kMagic[] = "Mirrell Character File:";
 
-std::vector<int> designsTaken;
-void NoteDesign(int design) {
-  designsTaken.push_back(design);
+// Strike mode of every record in the clock's own list: what a design has that
+// took its values from there.
+constexpr unsigned char kListStrikeMode = 77;
+int DesignsTaken() {
+  int count = 0;
+  for (const ClockDesignRow& row : ClockDesigns) {
+    if (row.record[kDesignStrikeMode] == kListStrikeMode) ++count;
+  }
+  return count;
 }
 
 // One main character record, 756 bytes; the numbers count up from `base`.
@@ -60,12 +67,12 @@ class CharacterFileTest : public CharaFiles {
   void SetUp() override {
     CharaFiles::SetUp();
     Clear();
-    designsTaken.clear();
-    ClockDesignTakeListValues = NoteDesign;
+    ClockListCount = kClockDesignMax;
+    for (unsigned char(&record)[kClockListSize] : ClockList) record[kClockListStrikeMode] = kListStrikeMode;
   }
   void TearDown() override {
     Clear();
-    ClockDesignTakeListValues = nullptr;
+    ClockListCount = 0;
     CharaFiles::TearDown();
   }
   static void Clear() {
@@ -138,7 +145,7 @@ TEST_F(CharacterFileTest, EveryFieldReachesItsTable) {
   EXPECT_EQ(ClockDesigns[0].record[463], 'd');
   EXPECT_EQ(WalkFlags[1], 5);
   EXPECT_EQ(WalkFlags[49], 7);
-  EXPECT_EQ(designsTaken, (std::vector<int>{0}));
+  EXPECT_EQ(DesignsTaken(), 1);
 }
 
 TEST_F(CharacterFileTest, RowsBehindTheCountsAreEmptyAfterARead) {
@@ -178,7 +185,7 @@ TEST_F(CharacterFileTest, AFileWithoutTheBlinkIntervalsWorksAndLeavesTheClockDes
   EXPECT_EQ(WalkFlags[49], 7);
   EXPECT_EQ(MainCharas[0].blinkSpeedSel, 4);
   EXPECT_EQ(MainCharas[1].blinkSpeedSel, 5);
-  EXPECT_TRUE(designsTaken.empty());
+  EXPECT_EQ(DesignsTaken(), 0);
 }
 
 TEST_F(CharacterFileTest, EveryTruncationIsToldAndLeavesTheTables) {
@@ -194,7 +201,7 @@ TEST_F(CharacterFileTest, EveryTruncationIsToldAndLeavesTheTables) {
       EXPECT_EQ(result, 0) << size;
       EXPECT_EQ(MainCharaCount, 2) << size;
       EXPECT_EQ(MainCharas[0].blinkSpeedSel, 0) << size;
-      EXPECT_TRUE(designsTaken.empty()) << size;
+      EXPECT_EQ(DesignsTaken(), 0) << size;
     } else {
       EXPECT_EQ(result, -1) << size;
       EXPECT_EQ(FileStatus, -2) << size;
@@ -253,7 +260,7 @@ TEST_F(CharacterFileTest, FiftyOfEverythingFit) {
   EXPECT_EQ(WalkCharas[49].number, 52);
   EXPECT_EQ(ClockDesigns[49].number, 53);
   EXPECT_EQ(MainCharas[49].blinkSpeedSel, 54);
-  EXPECT_EQ(designsTaken.size(), 50U);
+  EXPECT_EQ(DesignsTaken(), 50);
 }
 
 TEST_F(CharacterFileTest, RandomMutationsLeaveTheTablesWithinTheirCapacities) {
@@ -346,6 +353,7 @@ TEST_F(CharacterFileTest, AWrittenFileHoldsTheTablesAndTheFixedValuesOfANewDataS
 }
 
 TEST_F(CharacterFileTest, WhatWasReadIsWrittenAsItStood) {
+  ClockListCount = 0;
   std::string file = SmallFile();
   Put(kName, file);
   ASSERT_EQ(CharaFileRead(), 0);

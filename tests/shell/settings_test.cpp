@@ -1,0 +1,551 @@
+#include "shell/settings.h"
+
+#include <fcntl.h>
+#include <gtest/gtest.h>
+#include <unistd.h>
+
+#include <cstring>
+#include <random>
+#include <set>
+
+#include "character/character.h"
+#include "clock_calendar/calendar.h"
+#include "clock_calendar/clock.h"
+#include "platform/posix/faults.h"
+#include "platform/posix/posix_paths.h"
+#include "schedule/schedule.h"
+#include "shell/big_endian.h"
+#include "shell/data_file.h"
+#include "shell/shell.h"
+#include "shell/text.h"
+#include "tests/support/desktop.h"
+#include "tests/support/records.h"
+
+namespace {
+
+constexpr int kTotal = 172720;
+const std::string kMagic = "Mirrell System File:";
+
+// The layout of the file, row by row with its offset.
+enum class Kind { Number, Byte, Block, Text };
+struct Row {
+  const char* name;
+  int offset;
+  Kind kind;
+  void* at;
+  int size;   // of one element in the file
+  int count;  // elements
+};
+const Row kRows[] = {
+    {"CharaIndex", 20, Kind::Number, &CharaIndex, 4, 1},
+    {"MenuFrame", 24, Kind::Number, &MenuFrame, 4, 1},
+    {"BlinkFrame", 28, Kind::Number, &BlinkFrame, 4, 1},
+    {"Bored1Frames", 32, Kind::Number, Bored1Frames, 4, 5},
+    {"Bored2Frames", 52, Kind::Number, Bored2Frames, 4, 5},
+    {"BoredDelaySel", 72, Kind::Number, &BoredDelaySel, 4, 1},
+    {"BoredSpeedSel", 76, Kind::Number, &BoredSpeedSel, 4, 1},
+    {"BoredRepeatSel", 80, Kind::Number, &BoredRepeatSel, 4, 1},
+    {"StageX", 84, Kind::Number, &StageX, 4, 1},
+    {"StageY", 88, Kind::Number, &StageY, 4, 1},
+    {"AlarmCharaSel", 92, Kind::Number, AlarmCharaSel, 4, 3},
+    {"CharaSet", 104, Kind::Block, CharaSet, 676, 1},
+    {"ClockStrikeMode", 780, Kind::Number, &ClockStrikeMode, 4, 1},
+    {"ClockStrikeSel", 784, Kind::Number, &ClockStrikeSel, 4, 1},
+    {"ClockSoundOn", 788, Kind::Number, &ClockSoundOn, 4, 1},
+    {"ClockSoundName", 792, Kind::Text, ClockSoundName, 300, 1},
+    {"ClockShow", 1092, Kind::Byte, &ClockShow, 1, 1},
+    {"ClockDesign", 1093, Kind::Byte, &ClockDesign, 1, 1},
+    {"ClockX", 1094, Kind::Number, &ClockX, 4, 1},
+    {"ClockY", 1098, Kind::Number, &ClockY, 4, 1},
+    {"reserved", 1102, Kind::Number, ClockReserved, 4, 3},
+    {"CalenSel", 1114, Kind::Number, &CalenSel, 4, 1},
+    {"CalenNames", 1118, Kind::Text, CalenNames, 129, 8},
+    {"CalenKinds", 2150, Kind::Block, CalenKinds, 1, 8},
+    {"CalenParts", 2158, Kind::Block, CalenParts, 1, 8},
+    {"CalenYears", 2166, Kind::Block, CalenYears, 1, 3},
+    {"CalenShow", 2169, Kind::Byte, &CalenShow, 1, 1},
+    {"CalenYearPos", 2170, Kind::Number, &CalenYearPos, 4, 1},
+    {"CalenFirstYear", 2174, Kind::Number, &CalenFirstYear, 4, 1},
+    {"CalenYearCount", 2178, Kind::Number, &CalenYearCount, 4, 1},
+    {"CalenCount", 2182, Kind::Number, &CalenCount, 4, 1},
+    {"CalenKind", 2186, Kind::Number, &CalenKind, 4, 1},
+    {"CalenMonths", 2190, Kind::Block, CalenMonths, 4672, 36},
+    {"CalenX", 170382, Kind::Number, &CalenX, 4, 1},
+    {"CalenY", 170386, Kind::Number, &CalenY, 4, 1},
+    {"CalenPageSize", 170390, Kind::Number, &CalenPageSize, 4, 1},
+    {"CalenNoteMode", 170394, Kind::Number, &CalenNoteMode, 4, 1},
+    {"CalenNearNote", 170398, Kind::Number, &CalenNearNote, 4, 1},
+    {"CalenPictureOn", 170402, Kind::Number, &CalenPictureOn, 4, 1},
+    {"CalenBackColour", 170406, Kind::Block, CalenBackColour, 4, 1},
+    {"CalenFigPhase", 170410, Kind::Block, CalenFigPhase, 30, 2},
+    {"CalenFigCount", 170470, Kind::Block, CalenFigCount, 1, 2},
+    {"CalenFigPos1", 170472, Kind::Number, CalenFigPos1, 4, 60},
+    {"CalenFigPos2", 170712, Kind::Number, CalenFigPos2, 4, 60},
+    {"CalenFigPeriod", 170952, Kind::Number, CalenFigPeriod, 4, 2},
+    {"CalenFigStep", 170960, Kind::Number, CalenFigStep, 4, 2},
+    {"CalenFigTurn", 170968, Kind::Number, CalenFigTurn, 4, 2},
+    {"CalenFigDir", 170976, Kind::Block, CalenFigDir, 30, 2},
+    {"DefaultSclName", 171036, Kind::Text, DefaultSclName, 600, 1},
+    {"CalenMonthFlags", 171636, Kind::Block, CalenMonthFlags, 10, 36},
+    {"ClockEvents", 171996, Kind::Block, ClockEvents, 144, 5},
+    {"BlinkSpeedSel", 172716, Kind::Number, &BlinkSpeedSel, 4, 1},
+};
+
+// Where the elements begin, and the end.
+std::vector<int> Boundaries() {
+  std::vector<int> all = {0};
+  for (const Row& row : kRows) {
+    for (int i = 0; i < row.count; ++i) all.push_back(row.offset + row.size * i);
+  }
+  all.push_back(kTotal);
+  return all;
+}
+
+// Fills every variable with values of its own and keeps them as file bytes.
+std::string FillDistinct(std::uint32_t seed) {
+  std::mt19937 random(seed);
+  std::string image(kTotal, '\0');
+  image.replace(0, kMagic.size(), kMagic);
+  for (const Row& row : kRows) {
+    for (int i = 0; i < row.count; ++i) {
+      char* place = image.data() + row.offset + row.size * i;
+      if (row.kind == Kind::Number) {
+        const auto value = static_cast<std::uint32_t>(random());
+        static_cast<std::int32_t*>(row.at)[i] = static_cast<std::int32_t>(value);
+        PutBE32(place, value);
+      } else if (row.kind == Kind::Byte) {
+        *place = static_cast<char>(random() % 256);
+        *static_cast<std::int32_t*>(row.at) = static_cast<unsigned char>(*place);
+      } else {
+        for (int k = 0; k < row.size; ++k) place[k] = static_cast<char>(random() % 256);
+        if (row.kind == Kind::Text) place[row.size - 1] = '\0';
+        std::memcpy(static_cast<char*>(row.at) + row.size * i, place, static_cast<std::size_t>(row.size));
+      }
+    }
+  }
+  return image;
+}
+
+// The variables as file bytes.
+void ImageNow(std::string& image) {
+  image.assign(kTotal, '\0');
+  image.replace(0, kMagic.size(), kMagic);
+  for (const Row& row : kRows) {
+    char* place = image.data() + row.offset;
+    switch (row.kind) {
+      case Kind::Number:
+        for (int i = 0; i < row.count; ++i) {
+          PutBE32(place + 4 * i, static_cast<std::uint32_t>(static_cast<std::int32_t*>(row.at)[i]));
+        }
+        break;
+      case Kind::Byte:
+        *place = static_cast<char>(*static_cast<std::int32_t*>(row.at));
+        break;
+      default:
+        std::memcpy(place, row.at, static_cast<std::size_t>(row.size) * static_cast<std::size_t>(row.count));
+    }
+  }
+}
+std::string ImageNow() {
+  std::string image;
+  ImageNow(image);
+  return image;
+}
+
+// Where two images differ first; -1 nowhere. Says less than a failed comparison
+// of 172,720 bytes.
+int FirstDifference(const std::string& a, const std::string& b, int from = 0, int to = kTotal) {
+  for (int i = from; i < to; ++i) {
+    if (a[static_cast<std::size_t>(i)] != b[static_cast<std::size_t>(i)]) return i;
+  }
+  return -1;
+}
+
+class SettingsTest : public DesktopTest {
+ protected:
+  void SetUp() override {
+    DesktopTest::SetUp();
+    ClearRecords();
+    char path[kRootPathSize];
+    SysFilePath(path);
+    path_ = path;
+    native_ = PosixPath(path);
+  }
+  void TearDown() override {
+    ClearRecords();
+    DesktopTest::TearDown();
+  }
+  // A file with all fields; the variables hold its values too.
+  std::string PutDistinct(std::uint32_t seed) {
+    std::string image = FillDistinct(seed);
+    EXPECT_TRUE(PutFile(path_, image));
+    return image;
+  }
+  void Cut(int size) { ASSERT_EQ(truncate(native_.c_str(), size), 0) << size; }
+
+  std::string path_;
+  std::string native_;
+};
+
+TEST_F(SettingsTest, ThePathIsTheRootFolderAndTheName) {
+  char path[kRootPathSize];
+  EXPECT_EQ(SysFilePath(path), 10 + 22);
+  EXPECT_STREQ(path, "C:\\mirrell\\mirrell_sys_file.svs");
+}
+
+TEST_F(SettingsTest, TheMagicHas20BytesAndNoTerminator) {
+  char magic[21];
+  std::memset(magic, 'x', sizeof magic);
+  EXPECT_EQ(SysFileMagic(magic), 20);
+  EXPECT_EQ(std::string(magic, 21), kMagic + "x");
+}
+
+TEST_F(SettingsTest, EveryFieldStandsAtItsOffsetAndTheFileHas172720Bytes) {
+  const std::string expected = FillDistinct(1);
+  EXPECT_EQ(SysFileWrite(), 0);
+  EXPECT_EQ(FileStatus, 0);
+  const std::string written = FileBytes(path_);
+  ASSERT_EQ(written.size(), static_cast<std::size_t>(kTotal));
+  EXPECT_EQ(written.substr(0, 20), kMagic);
+  int end = 20;
+  for (const Row& row : kRows) {
+    EXPECT_EQ(row.offset, end) << row.name;
+    end = row.offset + row.size * row.count;
+    EXPECT_EQ(FirstDifference(written, expected, row.offset, end), -1) << row.name;
+  }
+  EXPECT_EQ(end, kTotal);
+}
+
+TEST_F(SettingsTest, EveryFieldIsReadBackFromItsOffset) {
+  const std::string image = PutDistinct(2);
+  FillDistinct(3);
+  EXPECT_EQ(SysFileRead(), 0);
+  for (const Row& row : kRows) {
+    if (row.at == &CalenPictureOn) continue;
+    EXPECT_EQ(FirstDifference(ImageNow(), image, row.offset, row.offset + row.size * row.count), -1)
+        << row.name;
+  }
+}
+
+TEST_F(SettingsTest, CalendarsBeyondTheEighthAreNotInTheFile) {
+  PutDistinct(4);
+  TextCopy(CalenNames[8], kCalenNameSize, "ninth");
+  CalenKinds[8] = 2;
+  CalenParts[8] = 3;
+  EXPECT_EQ(SysFileRead(), 0);
+  EXPECT_STREQ(CalenNames[8], "ninth");
+  EXPECT_EQ(CalenKinds[8], 2);
+  EXPECT_EQ(CalenParts[8], 3);
+}
+
+TEST_F(SettingsTest, AFileOf172716BytesReadsWithSuccessAndBlinkSpeedSelAndCalenPictureOnStayAsTheyWere) {
+  std::string image = PutDistinct(5);
+  PutBE32(image.data() + 170402, 0);  // the picture switch of the file
+  PutFile(path_, image.substr(0, 172716));
+  CalenPictureOn = 0;
+  BlinkSpeedSel = 7;
+  FileStatus = 55;
+  EXPECT_EQ(SysFileRead(), 0);
+  EXPECT_EQ(FileStatus, 55);
+  EXPECT_EQ(BlinkSpeedSel, 7);
+  EXPECT_EQ(CalenPictureOn, 0);
+  // The switch that the file holds is the one that stays.
+  PutBE32(image.data() + 170402, 9);
+  PutFile(path_, image.substr(0, 172716));
+  EXPECT_EQ(SysFileRead(), 0);
+  EXPECT_EQ(CalenPictureOn, 9);
+}
+
+TEST_F(SettingsTest, AFileWithItsLastFieldForcesCalenPictureOnTo1) {
+  std::string image = PutDistinct(6);
+  PutBE32(image.data() + 170402, 0);
+  PutFile(path_, image);
+  EXPECT_EQ(SysFileRead(), 0);
+  EXPECT_EQ(CalenPictureOn, 1);
+}
+
+TEST_F(SettingsTest, AFileWithAnotherMagicLeavesAllVariablesAsTheyWereAndTheStartGoesOn) {
+  std::string image = PutDistinct(7);
+  for (const int at : {0, 10, 19}) {
+    std::string other = image;
+    other[static_cast<std::size_t>(at)] ^= 1;
+    PutFile(path_, other);
+    const std::string before = FillDistinct(8);
+    FileStatus = 0;
+    EXPECT_EQ(SysFileRead(), 0);
+    EXPECT_EQ(FileStatus, -2);
+    EXPECT_EQ(FirstDifference(ImageNow(), before), -1);
+  }
+}
+
+TEST_F(SettingsTest, AMagicThatEndsEarlyInsideItsBytesIsAnotherMagic) {
+  std::string image = PutDistinct(9);
+  image[19] = '\0';
+  PutFile(path_, image);
+  EXPECT_EQ(SysFileRead(), 0);
+  EXPECT_EQ(FileStatus, -2);
+}
+
+TEST_F(SettingsTest, AMissingFileGivesMinus1AndLeavesTheVariables) {
+  const std::string before = FillDistinct(10);
+  EXPECT_EQ(SysFileRead(), -1);
+  EXPECT_EQ(FileStatus, -1);
+  EXPECT_EQ(FirstDifference(ImageNow(), before), -1);
+}
+
+TEST_F(SettingsTest, AClockDesignOf255InTheFileReadsAs255NotAsMinus1) {
+  std::string image = PutDistinct(11);
+  image[1093] = '\xFF';
+  PutFile(path_, image);
+  EXPECT_EQ(SysFileRead(), 0);
+  EXPECT_EQ(ClockDesign, 255);
+  EXPECT_EQ(ClockWanted, 255);
+  image[1093] = '\x80';
+  PutFile(path_, image);
+  EXPECT_EQ(SysFileRead(), 0);
+  EXPECT_EQ(ClockDesign, 128);
+}
+
+TEST_F(SettingsTest, SavingTwiceGivesByteIdenticalFilesIfNothingChanged) {
+  FillDistinct(12);
+  EXPECT_EQ(SysFileWrite(), 0);
+  const std::string first = FileBytes(path_);
+  EXPECT_EQ(SysFileWrite(), 0);
+  EXPECT_EQ(FirstDifference(FileBytes(path_), first), -1);
+  EXPECT_EQ(SysFileRead(), 0);
+  CalenPictureOn = static_cast<std::int32_t>(GetBE32(first.data() + 170402));
+  EXPECT_EQ(SysFileWrite(), 0);
+  EXPECT_EQ(FirstDifference(FileBytes(path_), first), -1);
+}
+
+TEST_F(SettingsTest, TheReservedNumbersKeepTheirValues) {
+  PutDistinct(13);
+  std::memset(ClockReserved, 0, sizeof ClockReserved);
+  const std::string before = FileBytes(path_);
+  EXPECT_EQ(SysFileRead(), 0);
+  EXPECT_EQ(SysFileWrite(), 0);
+  EXPECT_EQ(FileBytes(path_).substr(1102, 12), before.substr(1102, 12));
+}
+
+TEST_F(SettingsTest, PowerLossBetweenDeleteAndRewriteLosesTheFileAndTheNextStartFindsItMissing) {
+  PutDistinct(14);
+  FaultArm(FaultKind::Create, 1);
+  EXPECT_EQ(SysFileWrite(), -1);
+  FaultClear();
+  EXPECT_FALSE(FileThere(path_));
+  EXPECT_EQ(SysFileRead(), -1);
+  EXPECT_EQ(FileStatus, -1);
+}
+
+TEST_F(SettingsTest, ATextThatFillsItsFieldIsTerminatedAfterTheReading) {
+  std::string image = PutDistinct(15);
+  image.replace(792, 300, std::string(300, 'a'));
+  image.replace(1118, 1032, std::string(1032, 'b'));
+  image.replace(171036, 600, std::string(600, 'c'));
+  PutFile(path_, image);
+  EXPECT_EQ(SysFileRead(), 0);
+  EXPECT_EQ(std::strlen(ClockSoundName), 299U);
+  for (int i = 0; i < 8; ++i) EXPECT_EQ(std::strlen(CalenNames[i]), 128U);
+  EXPECT_EQ(std::strlen(DefaultSclName), 599U);
+}
+
+// --- The clock's design is taken again between the reserved numbers and the
+// calendar.
+
+// The transfers before that place: the magic, and 33 elements.
+constexpr int kLastReservedCall = 34;
+
+TEST_F(SettingsTest, EverySaveActivatesTheClockDesignAfterTheReservedNumbers) {
+  ClockDesignCount = 3;
+  ClockDesigns[2].record[kDesignHand] = kHandBar;
+  ClockDesign = 2;
+  ClockWanted = 0;
+  FaultArm(FaultKind::Write, kLastReservedCall);
+  EXPECT_EQ(SysFileWrite(), -1);
+  EXPECT_EQ(ClockHandKind, -1);
+  EXPECT_EQ(ClockWanted, 0);
+  FaultArm(FaultKind::Write, kLastReservedCall + 1);
+  EXPECT_EQ(SysFileWrite(), -1);
+  FaultClear();
+  EXPECT_EQ(ClockHandKind, kHandBar);
+  EXPECT_EQ(ClockWanted, 2);
+  EXPECT_EQ(ClockDesign, 2);
+  EXPECT_EQ(SysFileWrite(), 0);
+  EXPECT_EQ(FileBytes(path_)[1093], 2);
+}
+
+TEST_F(SettingsTest, EveryReadActivatesTheClockDesignAtTheSamePlaceAndTakesTheWantedCopies) {
+  std::string image = FillDistinct(16);
+  image[1092] = 1;
+  image[1093] = 1;
+  PutFile(path_, image);
+  ClockDesignCount = 2;
+  ClockDesigns[1].record[kDesignHand] = kHandDot;
+  ClockShowWanted = 0;
+  ClockWanted = 0;
+  FaultArm(FaultKind::Read, kLastReservedCall);
+  EXPECT_EQ(SysFileRead(), -1);
+  EXPECT_EQ(ClockShowWanted, 0);
+  EXPECT_EQ(ClockHandKind, -1);
+  FaultArm(FaultKind::Read, kLastReservedCall + 1);
+  EXPECT_EQ(SysFileRead(), -1);
+  FaultClear();
+  EXPECT_EQ(ClockShowWanted, 1);
+  EXPECT_EQ(ClockWanted, 1);
+  EXPECT_EQ(ClockDesign, 1);
+  EXPECT_EQ(ClockHandKind, kHandDot);
+}
+
+// --- Under attack.
+
+TEST_F(SettingsTest, EveryTruncationIsToldAndKeepsWhatTheFileDidNotReach) {
+  const std::string image = PutDistinct(17);
+  std::set<int, std::greater<>> sizes;
+  for (int size = 0; size < 2200; ++size) sizes.insert(size);
+  for (const int boundary : Boundaries()) {
+    for (const int size : {boundary - 1, boundary, boundary + 1, boundary + 2}) {
+      if (size >= 0 && size < kTotal) sizes.insert(size);
+    }
+  }
+  for (int i = 0; i < 36; ++i) sizes.insert(2190 + 4672 * i + 2336);
+  const std::string before = FillDistinct(18);
+  std::string now;
+  for (const int size : sizes) {
+    Cut(size);
+    FillDistinct(18);
+    FileStatus = 0;
+    const int result = SysFileRead();
+    ASSERT_EQ(result, size >= 172716 ? 0 : -1) << size;
+    ASSERT_EQ(FileStatus, size >= 172716 ? 0 : -2) << size;
+    ImageNow(now);
+    for (const Row& row : kRows) {
+      const int whole = size <= row.offset ? 0 : std::min((size - row.offset) / row.size, row.count);
+      const int reached = row.offset + row.size * whole;
+      const int end = row.offset + row.size * row.count;
+      ASSERT_EQ(FirstDifference(now, image, row.offset, reached), -1) << row.name << " at " << size;
+      // Of a block or text that was cut, the bytes that arrived may stand.
+      const bool broken = whole < row.count && size > reached && row.kind != Kind::Number;
+      const int untouched = broken ? reached + row.size : reached;
+      ASSERT_EQ(FirstDifference(now, before, untouched, end), -1) << row.name << " at " << size;
+    }
+  }
+}
+
+TEST_F(SettingsTest, RandomMutationsNeverLeaveTheVariables) {
+  const std::string image = PutDistinct(19);
+  const int file = open(native_.c_str(), O_RDWR | O_CLOEXEC);
+  ASSERT_GE(file, 0);
+  std::mt19937 random(20);
+  const std::vector<int> boundaries = Boundaries();
+  int whole = 0;
+  for (int round = 0; round < 100000; ++round) {
+    // A mutated element, and in all but some rounds the file ends soon behind it,
+    // so that a round stays cheap.
+    const int element = static_cast<int>(random() % (boundaries.size() - 1));
+    int places[4];
+    for (int& place : places) {
+      const int size =
+          boundaries[static_cast<std::size_t>(element) + 1] - boundaries[static_cast<std::size_t>(element)];
+      place = boundaries[static_cast<std::size_t>(element)] +
+              static_cast<int>(random() % static_cast<unsigned>(size));
+      const char byte = static_cast<char>(random());
+      ASSERT_EQ(pwrite(file, &byte, 1, place), 1);
+    }
+    int size = kTotal;
+    if (round % 50 != 0) {
+      size = std::min(kTotal,
+                      boundaries[static_cast<std::size_t>(element) + 1] + static_cast<int>(random() % 200));
+      ASSERT_EQ(ftruncate(file, size), 0);
+    }
+    FileStatus = 0;
+    const int result = SysFileRead();
+    ASSERT_TRUE(result == 0 || (result == -1 && FileStatus == -2)) << round;
+    if (result == 0 && FileStatus == 0) ++whole;
+    ASSERT_EQ(ClockSoundName[299], '\0');
+    ASSERT_EQ(DefaultSclName[599], '\0');
+    ASSERT_GE(ClockDesign, 0);
+    ASSERT_LE(ClockDesign, 255);
+    for (const int place : places) {
+      if (place < size) ASSERT_EQ(pwrite(file, &image[static_cast<std::size_t>(place)], 1, place), 1);
+    }
+    if (size < kTotal) {
+      ASSERT_EQ(pwrite(file, image.data() + size, static_cast<std::size_t>(kTotal - size), size),
+                kTotal - size);
+    }
+  }
+  close(file);
+  EXPECT_GT(whole, 1000);
+  EXPECT_EQ(FirstDifference(FileBytes(path_), image), -1);
+}
+
+TEST_F(SettingsTest, EveryWriteCallThatFailsGivesMinus1AndFileStatusMinus2) {
+  FillDistinct(21);
+  int calls = 0;
+  for (int nth = 1;; ++nth) {
+    FaultArm(FaultKind::Write, nth);
+    FileStatus = 0;
+    const int result = SysFileWrite();
+    const bool met = FaultWasMet();
+    FaultClear();
+    if (!met) {
+      EXPECT_EQ(result, 0);
+      break;
+    }
+    EXPECT_EQ(result, -1) << nth;
+    EXPECT_EQ(FileStatus, -2) << nth;
+    calls = nth;
+  }
+  // The magic, and one call for each element.
+  EXPECT_EQ(calls, static_cast<int>(Boundaries().size()) - 1);
+}
+
+TEST_F(SettingsTest, EveryReadCallThatFailsGivesMinus1ButTheLast) {
+  PutDistinct(22);
+  const int reads = static_cast<int>(Boundaries().size()) - 1;
+  for (int nth = 1; nth <= reads; ++nth) {
+    FaultArm(FaultKind::Read, nth);
+    FileStatus = 0;
+    EXPECT_EQ(SysFileRead(), nth == reads ? 0 : -1) << nth;
+    EXPECT_EQ(FileStatus, nth == reads ? 0 : -2) << nth;
+    EXPECT_TRUE(FaultWasMet()) << nth;
+  }
+  FaultArm(FaultKind::Read, reads + 1);
+  EXPECT_EQ(SysFileRead(), 0);
+  EXPECT_FALSE(FaultWasMet());
+}
+
+TEST_F(SettingsTest, AFileThatDoesNotOpenForTheTestIsMadeAnewAndOneThatDoesNotReopenGivesMinus1) {
+  const std::string image = PutDistinct(23);
+  FaultArm(FaultKind::Open, 1);
+  EXPECT_EQ(SysFileWrite(), 0);
+  EXPECT_EQ(FirstDifference(FileBytes(path_), image), -1);
+  FaultArm(FaultKind::Open, 2);
+  EXPECT_EQ(SysFileWrite(), -1);
+  EXPECT_EQ(FileStatus, -1);
+  FaultArm(FaultKind::Open, 3);
+  EXPECT_EQ(SysFileWrite(), 0);
+  EXPECT_EQ(FileStatus, 0);
+  EXPECT_FALSE(FaultWasMet());
+  FaultArm(FaultKind::Open, 1);
+  EXPECT_EQ(SysFileRead(), -1);
+  EXPECT_EQ(FileStatus, -1);
+}
+
+TEST_F(SettingsTest, AFileThatCannotBeCreatedGivesMinus1AndFileStatusMinus1) {
+  FaultArm(FaultKind::Create, 1);
+  EXPECT_EQ(SysFileWrite(), -1);
+  EXPECT_EQ(FileStatus, -1);
+  FaultArm(FaultKind::Create, 2);
+  EXPECT_EQ(SysFileWrite(), 0);
+  EXPECT_FALSE(FaultWasMet());
+}
+
+TEST_F(SettingsTest, AFileThatCannotBeDeletedIsOverwritten) {
+  const std::string image = PutDistinct(24);
+  PutFile(path_, image + "tail");
+  FaultArm(FaultKind::Delete, 1);
+  EXPECT_EQ(SysFileWrite(), 0);
+  EXPECT_EQ(FileBytes(path_).size(), static_cast<std::size_t>(kTotal));
+}
+
+}  // namespace
