@@ -22,19 +22,6 @@ void CommandOpenAddProgram(std::uint32_t) {}
 void CommandOpenGroupSet(std::uint32_t) {}
 void CommandOpenLaunch(std::uint32_t) {}
 
-void CommandBackUp(std::uint32_t) {
-  NoDialog();
-}
-void CommandBackUpAdd(std::uint32_t) {}
-void CommandBackUpFolder(std::uint32_t) {}
-void CommandBackUpLoad(std::uint32_t) {}
-void CommandBackUpSave(std::uint32_t) {}
-
-void CommandDivide(std::uint32_t) {
-  NoDialog();
-}
-void CommandDivideStep(std::uint32_t) {}
-
 void CommandFolderScope(std::uint32_t) {
   NoDialog();
 }

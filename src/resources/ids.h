@@ -60,6 +60,33 @@
 #define IDD_FileDivKeyWordDlg2 3536
 #define IDD_FileDivExeDlg 3537
 #define IDD_FileUnDivExeDlg 3538
+/* Controls of the back-up's dialogs. */
+#define IDC_BACKUP_SOURCES 101
+#define IDC_BACKUP_COPIES 102
+#define IDC_BACKUP_COMMENT 103
+#define IDC_BACKUP_ADD 110
+#define IDC_BACKUP_FOLDER 111
+#define IDC_BACKUP_REMOVE 112
+#define IDC_BACKUP_CLEAR 113
+#define IDC_BACKUP_RUN 114
+#define IDC_BACKUP_DATES 115
+#define IDC_BACKUP_CONTENTS 116
+#define IDC_BACKUP_LOAD 117
+#define IDC_BACKUP_SAVE 118
+#define IDC_BACKUP_ROWS 101
+
+/* Controls of the dialogs that divide and restore. */
+#define IDC_DIVIDE_SOURCE 101
+#define IDC_DIVIDE_FOLDER 102
+#define IDC_DIVIDE_NAME 103
+#define IDC_DIVIDE_COUNT 104
+#define IDC_DIVIDE_ENCRYPT 105
+#define IDC_DIVIDE_KEYWORD 101
+#define IDC_DIVIDE_PICK 110
+#define IDC_DIVIDE_PICK_FOLDER 111
+#define IDC_DIVIDE_RUN 112
+#define IDC_DIVIDE_CHOOSE_DIVIDE 110
+#define IDC_DIVIDE_CHOOSE_RESTORE 111
 #define IDD_FolderScopeSetDlg 3540
 #define IDD_FolderStaticsDlg 3541
 #define IDD_FolderStaticsDlg2 3542

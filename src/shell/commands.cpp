@@ -5,6 +5,8 @@
 
 #include "character/character_commands.h"
 #include "clock_calendar/clock_calendar_commands.h"
+#include "filetools/back_up_commands.h"
+#include "filetools/divide_commands.h"
 #include "filetools/filetools_commands.h"
 #include "mail_music/mail_music_commands.h"
 #include "scenario/scenario_commands.h"
@@ -13,9 +15,15 @@
 
 namespace {
 
+// A handler serves one number, or several and is told which.
 struct Route {
+  constexpr Route(std::uint32_t n, void (*handler)()) : number(n), one(handler) {}
+  constexpr Route(std::uint32_t n, void (*handler)(std::uint32_t)) : number(n), several(handler) {}
+  void Run() const { one ? one() : several(number); }
+
   std::uint32_t number;
-  void (*handler)(std::uint32_t number);
+  void (*one)() = nullptr;
+  void (*several)(std::uint32_t) = nullptr;
 };
 
 #define COMMAND(number, name, function) {number, function},
@@ -39,6 +47,6 @@ bool CommandRoute(std::uint32_t number) {
   const Route* route = std::lower_bound(std::begin(kRoutes), end, number,
                                         [](const Route& r, std::uint32_t n) { return r.number < n; });
   if (route == end || route->number != number) return false;
-  route->handler(number);
+  route->Run();
   return true;
 }

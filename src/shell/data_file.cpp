@@ -17,6 +17,7 @@ bool DataReplace(DataFile& data, const char* path) {
   if (old != kNoFile) FileDelete(path);
   const int created = FileCreate(path);
   FileClose(created);
+  data.created = created != kNoFile;
   data.file = created == kNoFile ? kNoFile : FileOpen(path, OpenMode::ReadWrite);
   data.failed = data.file == kNoFile;
   if (data.failed) FileStatus = -1;

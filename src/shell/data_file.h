@@ -18,6 +18,7 @@ extern int FileStatus;
 struct DataFile {
   int file = kNoFile;
   bool failed = false;
+  bool created = false;  // DataReplace got as far as an empty new file
 };
 
 // Opens for reading. False, with FileStatus -1, when it cannot be opened.

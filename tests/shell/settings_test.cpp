@@ -466,7 +466,9 @@ TEST_F(SettingsTest, RandomMutationsNeverLeaveTheVariables) {
     ASSERT_GE(ClockDesign, 0);
     ASSERT_LE(ClockDesign, 255);
     for (const int place : places) {
-      if (place < size) ASSERT_EQ(pwrite(file, &image[static_cast<std::size_t>(place)], 1, place), 1);
+      if (place < size) {
+        ASSERT_EQ(pwrite(file, &image[static_cast<std::size_t>(place)], 1, place), 1);
+      }
     }
     if (size < kTotal) {
       ASSERT_EQ(pwrite(file, image.data() + size, static_cast<std::size_t>(kTotal - size), size),

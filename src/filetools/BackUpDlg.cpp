@@ -1,0 +1,55 @@
+// BackUpDlg, "バックアップ実行中": a run, driven by the tick.
+
+#include "filetools/back_up.h"
+#include "filetools/back_up_dialogs.h"
+#include "platform/dialog.h"
+#include "resources/ids.h"
+#include "shell/shell.h"
+
+namespace {
+
+constexpr std::uint32_t kStepCommand = 2375;
+
+bool completed;
+
+void End(WindowHandle dialog) {
+  if (hBackUpDlg != dialog) return;
+  BackUpActive = false;
+  hBackUpDlg = nullptr;
+  DialogEnd(dialog, 0);
+}
+
+void Step(WindowHandle dialog) {
+  const int result = BackUpStep();
+  if (result == 0) return;
+  completed = result > 0;
+  if (!completed) {
+    MessageBoxRun(dialog, "ファイルをコピーできません", "ファイルバックアップエラー", BoxButtons::Ok,
+                  BoxIcon::Exclamation);
+  }
+  End(dialog);
+}
+
+bool Handle(const Event& event) {
+  const bool command = event.kind == EventKind::Command;
+  if (event.kind == EventKind::Init) {
+    hBackUpDlg = event.window;
+    BackUp.fileCursor = 0;
+    BackUpActive = true;
+  } else if (command && event.command == kStepCommand) {
+    Step(event.window);
+  } else if (event.kind == EventKind::Close || (command && (event.command == 1 || event.command == 2))) {
+    End(event.window);
+  } else {
+    return false;
+  }
+  return true;
+}
+
+}  // namespace
+
+bool BackUpDlgRun(WindowHandle owner) {
+  completed = false;
+  DialogRun(IDD_BackUpDlg, owner, Handle);
+  return completed;
+}

@@ -1,0 +1,35 @@
+// FileBackUpDateDlg and FileBackUpContentDlg: the sources that a comparison has
+// found to differ from their copies.
+
+#include "filetools/back_up.h"
+#include "filetools/back_up_dialogs.h"
+#include "platform/dialog.h"
+#include "resources/ids.h"
+#include "shell/dialog_family.h"
+#include "shell/shell.h"
+
+namespace {
+
+constexpr int kDateDialogId = 2033;
+constexpr int kContentDialogId = 2049;
+constexpr int kRowSize = 160;
+
+bool Handle(const Event& event) {
+  if (event.kind != EventKind::Init) return false;
+  const auto list = DlgIdTool == kDateDialogId ? BackUpListDate : BackUpListContent;
+  for (int row = 0; row < BackUp.fileCount; ++row) {
+    char text[kRowSize];
+    if (list(row, text, sizeof text)) ListAdd(event.window, IDC_BACKUP_ROWS, text);
+  }
+  return true;
+}
+
+}  // namespace
+
+void FileBackUpDateDlgRun(WindowHandle owner) {
+  ToolDialogRun(kDateDialogId, IDD_FileBackUpDateDlg, owner, Handle);
+}
+
+void FileBackUpContentDlgRun(WindowHandle owner) {
+  ToolDialogRun(kContentDialogId, IDD_FileBackUpContentDlg, owner, Handle);
+}

@@ -1,0 +1,30 @@
+// FileDivideSetDlg, "ファイル 分割/復元選択".
+
+#include "filetools/divide_commands.h"
+#include "filetools/divide_dialogs.h"
+#include "platform/dialog.h"
+#include "resources/ids.h"
+#include "shell/dialog_family.h"
+#include "shell/shell.h"
+
+namespace {
+
+constexpr int kDialogId = 2010;
+
+bool Handle(const Event& event) {
+  if (event.kind != EventKind::Command) return false;
+  if (event.command == IDC_DIVIDE_CHOOSE_DIVIDE) {
+    ToolDialogEnd(event.window, kCommandDivide);
+  } else if (event.command == IDC_DIVIDE_CHOOSE_RESTORE) {
+    ToolDialogEnd(event.window, kCommandRestore);
+  } else {
+    return false;
+  }
+  return true;
+}
+
+}  // namespace
+
+int FileDivideSetDlgRun() {
+  return ToolDialogRun(kDialogId, IDD_FileDivideSetDlg, hMainWnd, Handle);
+}

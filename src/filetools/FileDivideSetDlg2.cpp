@@ -1,0 +1,165 @@
+// FileDivideSetDlg2, "ファイル 分割", and FileDivideSetDlg3, "ファイル 復元".
+
+#include "filetools/divide_commands.h"
+#include "filetools/divide_dialogs.h"
+#include "filetools/file_divide.h"
+#include "filetools/path_row.h"
+#include "platform/canvas.h"
+#include "platform/dialog.h"
+#include "platform/window.h"
+#include "resources/ids.h"
+#include "shell/decimal.h"
+#include "shell/dialog_family.h"
+#include "shell/shell.h"
+#include "shell/text.h"
+
+namespace {
+
+constexpr Colour kRed = MakeColour(255, 0, 0);
+constexpr int kRowSize = 1100;
+
+// Where the two dialogs differ.
+struct Kind {
+  int dialogId;
+  int templateId;
+  std::uint32_t pickCommand;
+  std::uint32_t folderCommand;
+  const char* banner;
+  Point bannerAt;
+  Rect bannerBox;  // wiped when there is no banner
+};
+constexpr Kind kDivide{kDivideDialogId,      IDD_FileDivideSetDlg2,  kCommandDividePick,
+                       kCommandDivideFolder, "ファイル分割中です !", {432, 218},
+                       {430, 216, 750, 286}};
+constexpr Kind kRestore{kRestoreDialogId,      IDD_FileDivideSetDlg3, kCommandRestorePick,
+                        kCommandRestoreFolder, "ファイル合成中です!", {556, 118},
+                        {554, 116, 740, 186}};
+
+// The two sizes of a division.
+constexpr Point kSizesAt{210, 136};
+constexpr int kSizeStep = 44;
+constexpr int kSizeWidth = 120;  // of the longest one
+constexpr int kSizeHeight = 16;
+
+// The kind that is open; null if none is.
+const Kind* OpenKind() {
+  if (!hMenuDlg) return nullptr;
+  if (DlgIdMenu == kDivide.dialogId) return &kDivide;
+  if (DlgIdMenu == kRestore.dialogId) return &kRestore;
+  return nullptr;
+}
+
+// Without a pen the last row and column are left out.
+void Wipe(Canvas* canvas, const Rect& box) {
+  CanvasRectangle(canvas, box.left, box.top, box.right, box.bottom);
+}
+
+void DrawSize(Canvas* canvas, int y, std::uint32_t size) {
+  char text[24];
+  TextFormat(text, sizeof text, "%u Byte", static_cast<unsigned>(size));
+  Wipe(canvas, {kSizesAt.x, y, kSizesAt.x + kSizeWidth + 1, y + kSizeHeight + 1});
+  CanvasText(canvas, kSizesAt.x, y, text);
+}
+
+void DrawBanner(Canvas* canvas, const Kind& kind) {
+  if (FileDivide.banner) {
+    CanvasTextColour(canvas, kRed);
+    CanvasText(canvas, kind.bannerAt.x, kind.bannerAt.y, kind.banner);
+  } else {
+    Wipe(canvas, kind.bannerBox);
+  }
+}
+
+void Paint(WindowHandle dialog, const Kind& kind) {
+  Canvas* canvas = CanvasGet(dialog);
+  if (!canvas) return;
+  CanvasBrush(canvas, FaceBrush);
+  CanvasPen(canvas, PenNothing());
+  CanvasBackTransparent(canvas, true);
+  if (kind.dialogId == kDivideDialogId) {
+    DrawSize(canvas, kSizesAt.y, FileDivide.sourceSize);
+    DrawSize(canvas, kSizesAt.y + kSizeStep, FileDivide.pieceSize);
+  }
+  DrawBanner(canvas, kind);
+  CanvasRelease(canvas);
+}
+
+void Show(WindowHandle dialog) {
+  char text[kRowSize];
+  PathRow(FileDivide.sourcePath, text, sizeof text);
+  ControlSetText(dialog, IDC_DIVIDE_SOURCE, text);
+  ControlSetText(dialog, IDC_DIVIDE_FOLDER, FileDivide.storeDir);
+}
+
+// The fields that only the division has are passed over in the other dialog.
+void Open(WindowHandle dialog) {
+  Show(dialog);
+  char count[16];
+  TextFormat(count, sizeof count, "%d", static_cast<int>(FileDivide.divideCount));
+  ControlSetText(dialog, IDC_DIVIDE_NAME, FileDivide.baseName);
+  ControlSetText(dialog, IDC_DIVIDE_COUNT, count);
+  ControlSetChecked(dialog, IDC_DIVIDE_ENCRYPT, FileDivide.encryptFlag != 0);
+}
+
+bool Command(const Event& event, const Kind& kind) {
+  if (event.notice != Notice::Click) return false;
+  switch (event.command) {
+    case IDC_DIVIDE_PICK:
+      SendCommand(hMainWnd, kind.pickCommand);
+      return true;
+    case IDC_DIVIDE_PICK_FOLDER:
+      SendCommand(hMainWnd, kind.folderCommand);
+      return true;
+    case IDC_DIVIDE_RUN:
+      SendCommand(hMainWnd, kCommandDivideRun);
+      return true;
+    case IDC_DIVIDE_ENCRYPT:
+      FileDivide.encryptFlag = ControlIsChecked(event.window, IDC_DIVIDE_ENCRYPT) ? 1 : 0;
+      return true;
+    default:
+      return false;
+  }
+}
+
+bool Handle(const Event& event) {
+  const Kind* kind = OpenKind();
+  if (!kind) return false;
+  switch (event.kind) {
+    case EventKind::Init:
+      Open(event.window);
+      return true;
+    case EventKind::Paint:
+      Paint(event.window, *kind);
+      return true;
+    case EventKind::Command:
+      return Command(event, *kind);
+    default:
+      return false;
+  }
+}
+
+}  // namespace
+
+int FileDivideSetDlg2Run() {
+  return MenuDialogRun(kDivide.dialogId, kDivide.templateId, hMainWnd, Handle);
+}
+
+int FileDivideSetDlg3Run() {
+  return MenuDialogRun(kRestore.dialogId, kRestore.templateId, hMainWnd, Handle);
+}
+
+void DivideDialogShow() {
+  if (OpenKind()) Show(hMenuDlg);
+}
+
+void DivideDialogPaint() {
+  if (OpenKind()) SendPaint(hMenuDlg);
+}
+
+void FileDivideSetDlg2Take() {
+  char count[3];  // two characters are seen
+  ControlGetText(hMenuDlg, IDC_DIVIDE_NAME, FileDivide.baseName, sizeof FileDivide.baseName);
+  ControlGetText(hMenuDlg, IDC_DIVIDE_COUNT, count, sizeof count);
+  FileDivide.divideCount = DecimalParse(count);
+  if (FileDivide.divideCount > kDivCountMax) FileDivide.divideCount = kDivCountMax;
+}

@@ -1,0 +1,102 @@
+#include "filetools/back_up_commands.h"
+
+#include "filetools/back_up.h"
+#include "filetools/back_up_dialogs.h"
+#include "platform/dialog.h"
+#include "resources/ids.h"
+#include "shell/data_file.h"
+#include "shell/feature_dialog.h"
+#include "shell/file_picker.h"
+#include "shell/folder_pick.h"
+#include "shell/path.h"
+#include "shell/shell.h"
+
+namespace {
+
+constexpr int kFolderDialogId = 2008;
+constexpr char kSettingsMask[] = "*.BUP";
+
+WindowHandle Owner() {
+  return hMenuDlg ? hMenuDlg : hMainWnd;
+}
+
+void Tell(const char* text, const char* caption) {
+  MessageBoxRun(Owner(), text, caption, BoxButtons::Ok, BoxIcon::Exclamation);
+}
+
+void Add() {
+  if (BackUpIsFull()) {
+    Tell("バックアップファイルの登録最大数は１００個です", "ファイル登録リミット");
+    return;
+  }
+  char path[kPickPathSize] = "";
+  FileStatus = 1;
+  if (PickFileForLoad(Owner(), "*.*", path) == 0) return;
+  if (BackUpAddSource(path) == 0) FileBackUpSetDlgShowLists();
+}
+
+void Folder() {
+  if (FolderPickRun(kFolderDialogId, IDD_FileBackUpDirDlg, Owner(), BackUp.destDir, sizeof BackUp.destDir) ==
+      0) {
+    return;
+  }
+  BackUp.dirty = true;
+  BackUpRebuildDest();
+  FileBackUpSetDlgShowCopies();
+}
+
+void Load() {
+  constexpr char kCaption[] = "バックアップ設定読み込みエラー";
+  char path[kPickPathSize] = "";
+  FileStatus = 1;
+  if (PickFileForLoad(Owner(), kSettingsMask, path) == 0) return;
+  switch (BackUpLoad(path)) {
+    case 0:
+      FileBackUpSetDlgShowLists();
+      FileBackUpSetDlgShowComment();
+      break;
+    case -1:
+      Tell("ファイルを開けません", kCaption);
+      break;
+    default:
+      Tell("データが正しく読み込めません", kCaption);
+  }
+}
+
+void Save() {
+  constexpr char kCaption[] = "セーブエラー";
+  FileBackUpSetDlgTakeComment();
+  char path[kPickPathSize] = "";
+  FileStatus = 1;
+  if (PickFileForSave(Owner(), kSettingsMask, path) == 0 || !OverwriteAllowed(Owner(), path)) return;
+  const int status = BackUpSave(path);
+  if (status == -1) Tell("ファイルを開けません", kCaption);
+  // kept: the writer reports a full disk as -2, so nobody hears of it.
+  if (status == 2) Tell("ファイルセーブできません", kCaption);
+}
+
+}  // namespace
+
+void BackUpGuarded(void (*action)()) {
+  static bool busy = false;
+  if (busy) return;
+  busy = true;
+  action();
+  busy = false;
+}
+
+void BackUpCommand() {
+  FeatureDialogRun(2, FileBackUpSetDlgRun);
+}
+void BackUpAddCommand() {
+  BackUpGuarded(Add);
+}
+void BackUpFolderCommand() {
+  BackUpGuarded(Folder);
+}
+void BackUpLoadCommand() {
+  BackUpGuarded(Load);
+}
+void BackUpSaveCommand() {
+  BackUpGuarded(Save);
+}

@@ -1,0 +1,13 @@
+#include "filetools/path_row.h"
+
+#include "shell/path.h"
+#include "shell/text.h"
+
+void PathRow(const char* path, char* text, int size) {
+  if (path[0] == '\0') {
+    text[0] = '\0';
+    return;
+  }
+  PathSplit(path);
+  TextFormat(text, static_cast<std::size_t>(size), "%s [%s]", PathName, PathFolder);
+}

@@ -1,0 +1,9 @@
+// Numbers that the user types.
+#pragma once
+
+#include <cstdint>
+
+// Reads a decimal number: blanks before it are skipped, a "-" in front negates,
+// and every further character counts as its code less that of "0", with no test
+// whether it is a digit. An empty text is 0.
+std::int32_t DecimalParse(const char* text);
