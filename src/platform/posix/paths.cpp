@@ -1,6 +1,7 @@
 #include <iconv.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cctype>
 #include <map>
 
@@ -34,9 +35,24 @@ std::string CurrentDrive() {
   return letter == 'Z' ? std::string() : Drives()[letter];
 }
 
+// One converter for each direction, opened at its first use and kept.
+iconv_t Converter(const char* to, const char* from) {
+  static std::map<std::string, iconv_t> open;
+  const auto [at, fresh] = open.emplace(from, nullptr);
+  if (fresh) at->second = iconv_open(to, from);
+  return at->second;
+}
+
+bool IsAscii(const std::string& text) {
+  return std::all_of(text.begin(), text.end(),
+                     [](char c) { return (static_cast<unsigned char>(c) & 0x80U) == 0; });
+}
+
 std::string Convert(const char* to, const char* from, const std::string& text) {
-  iconv_t converter = iconv_open(to, from);
+  if (IsAscii(text)) return text;
+  iconv_t converter = Converter(to, from);
   if (converter == reinterpret_cast<iconv_t>(-1)) return text;
+  iconv(converter, nullptr, nullptr, nullptr, nullptr);
   std::string result;
   std::string source = text;
   char* in = source.data();
@@ -57,7 +73,6 @@ std::string Convert(const char* to, const char* from, const std::string& text) {
       } while (utf8 && inLeft > 0 && (static_cast<unsigned char>(*in) & 0xC0U) == 0x80);
     }
   }
-  iconv_close(converter);
   return result;
 }
 
