@@ -1,0 +1,88 @@
+// The mail notice.
+
+#include "character/alarm_images.h"
+#include "character/notices.h"
+#include "character/walk.h"
+#include "mail_music/mail_setting.h"
+#include "platform/canvas.h"
+#include "platform/dialog.h"
+#include "platform/window.h"
+#include "resources/ids.h"
+#include "shell/dib.h"
+#include "shell/shell.h"
+#include "shell/text.h"
+
+namespace {
+
+constexpr int kWidth = 300;
+constexpr int kHeight = 200;
+constexpr Rect kPictureBox = {10, 10, 200, 100};
+constexpr int kTextX = 10;
+constexpr int kTextY = 100;
+constexpr std::int32_t kTicksOfFrame = 5;
+
+int frameNow;
+
+// Under the end picture; the picture counts as no height when it is not there.
+Point Place() {
+  if (MailPhase != kMailWalking) return {0, 0};
+  const WalkSlot& s = WalkSlots[WalkSlotNow];
+  const int frame = WalkFrameOf(s.endFrames[0]);
+  return {WalkLastX, WalkLastY + (s.endWindow ? DibHeight(WalkPicture(WalkSlotNow, frame)) : 0)};
+}
+
+void Paint(WindowHandle window) {
+  AlarmFrameShow(window, kPictureBox, AlarmRows[kAlarmMail], frameNow);
+  Canvas* canvas = CanvasGet(window);
+  if (!canvas) return;
+  CanvasBackTransparent(canvas, true);
+  const auto length = static_cast<int>(TextLength(MailSetting.comment, kMailCommentSize));
+  if (length != 0) {
+    CanvasText(canvas, kTextX, kTextY, MailSetting.comment, length);
+  } else {
+    CanvasText(canvas, kTextX, kTextY, "メール受信のお知らせ");
+  }
+  CanvasRelease(canvas);
+}
+
+bool Proc(const Event& event) {
+  switch (event.kind) {
+    case EventKind::Init: {
+      hMailNoticeWnd = event.window;
+      const Point place = Place();
+      WindowMove(event.window, place.x, place.y, kWidth, kHeight, false);
+      WindowSetTopmost(event.window);
+      FrameDivider = kTicksOfFrame;
+      frameNow = 0;
+      return true;
+    }
+    case EventKind::Paint:
+      Paint(event.window);
+      return true;
+    case EventKind::Command:
+      if (event.command != 1 && event.command != 2) return false;
+      WindowDestroy(event.window);
+      return true;
+    case EventKind::Close:
+      WindowDestroy(event.window);
+      return true;
+    case EventKind::Destroy:
+      if (hMailNoticeWnd == event.window) hMailNoticeWnd = nullptr;
+      MailPhase = 0;
+      return true;
+    default:
+      return false;
+  }
+}
+
+}  // namespace
+
+void MailNoticeOpen() {
+  DialogOpen(IDD_FlyingBat2X, hMainWnd, Proc);
+}
+
+void MailNoticeStep() {
+  if (!hMailNoticeWnd) return;
+  frameNow = AlarmFrameNext(AlarmRows[kAlarmMail], frameNow);
+  SendPaint(hMailNoticeWnd);
+}

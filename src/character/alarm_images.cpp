@@ -1,0 +1,99 @@
+#include "character/alarm_images.h"
+
+#include "character/character_tables.h"
+#include "character/frames.h"
+#include "platform/canvas.h"
+#include "scenario/world_list.h"
+
+AlarmRow AlarmRows[kAlarmRowCount];
+
+namespace {
+
+bool IsFrame(int frame) {
+  return frame >= 0 && frame < kFrameMax;
+}
+
+// The world list marks the frames of a character that are in use; for a character
+// that it does not hold, the frames with a picture are.
+int FrameCountOf(const AlarmRow& row, int number) {
+  int marked = 0;
+  int pictured = 0;
+  for (int frame = 0; frame < kFrameMax; ++frame) {
+    const bool listed = number >= 1 && number <= WorldCharaCount && number <= kWorldCharaMax;
+    if (listed && WorldCharas[number - 1].figureIds[frame] != 0) marked = frame + 1;
+    if (row.pictures[frame]) pictured = frame + 1;
+  }
+  return marked != 0 ? marked : pictured;
+}
+
+void DrawBox(Canvas* canvas, int x, int y, const Rect& box, const AlarmRow& row, int frame) {
+  CanvasBrush(canvas, BrushFace());
+  CanvasPen(canvas, PenNothing());
+  CanvasRectangle(canvas, x, y, x + RectWidth(box) + 1, y + RectHeight(box) + 1);
+  AlarmFrameDraw(canvas, x, y, row, frame);
+}
+
+}  // namespace
+
+void AlarmCharaLoad() {
+  for (int i = 0; i < kAlarmRowCount; ++i) AlarmRowLoad(&AlarmRows[i], AlarmCharaSel[i]);
+}
+
+void AlarmRowLoad(AlarmRow* row, int selection) {
+  AlarmRowFree(row);
+  // bounded: a selection may lie beyond the list.
+  if (selection < 1 || selection > AlarmCharaCount || selection > kAlarmCharaMax) return;
+  const int number = AlarmCharas[selection - 1];
+  if (number < 1) return;
+  for (int frame = 0; frame < kFrameMax; ++frame) {
+    row->pictures[frame] = DibLoad(CharaBmpPath(number - 1, frame));
+    row->masks[frame] = DibLoad(CharaMaskPath(number - 1, frame));
+    DibApplyMask(row->pictures[frame], row->masks[frame]);
+  }
+  row->frameCount = FrameCountOf(*row, number);
+}
+
+void AlarmRowFree(AlarmRow* row) {
+  for (int frame = 0; frame < kFrameMax; ++frame) {
+    DibFree(row->pictures[frame]);
+    DibFree(row->masks[frame]);
+  }
+  *row = AlarmRow{};
+}
+
+int AlarmFrameNext(const AlarmRow& row, int frame) {
+  return frame + 1 >= row.frameCount || frame < 0 ? 0 : frame + 1;
+}
+
+void AlarmFrameDraw(Canvas* canvas, int x, int y, const AlarmRow& row, int frame) {
+  if (IsFrame(frame)) MaskedDraw(canvas, x, y, row.pictures[frame], row.masks[frame]);
+}
+
+int AlarmFrameWidth(const AlarmRow& row, int frame) {
+  return IsFrame(frame) ? DibWidth(row.pictures[frame]) : 0;
+}
+
+int AlarmFrameHeight(const AlarmRow& row, int frame) {
+  return IsFrame(frame) ? DibHeight(row.pictures[frame]) : 0;
+}
+
+void MaskedDraw(Canvas* canvas, int x, int y, ImageHandle picture, ImageHandle mask) {
+  if (!picture) return;
+  DibDrawRop(canvas, x, y, mask, RasterOp::And);
+  DibDrawRop(canvas, x, y, picture, RasterOp::Or);
+}
+
+void AlarmFrameShow(WindowHandle window, const Rect& box, const AlarmRow& row, int frame) {
+  Canvas* screen = CanvasGet(window);
+  if (!screen) return;
+  Canvas* memory = CanvasMemory(screen, RectWidth(box), RectHeight(box));
+  if (memory) {
+    DrawBox(memory, 0, 0, box, row, frame);
+    CanvasCopy(screen, box.left, box.top, RectWidth(box), RectHeight(box), memory, 0, 0);
+  } else {
+    CanvasClip(screen, box);
+    DrawBox(screen, box.left, box.top, box, row, frame);
+  }
+  CanvasRelease(memory);
+  CanvasRelease(screen);
+}

@@ -1,0 +1,243 @@
+#include "character/walk.h"
+
+#include <algorithm>
+
+#include "character/chara_set.h"
+#include "character/character.h"
+#include "character/character_tables.h"
+#include "character/frames.h"
+#include "character/walk_windows.h"
+#include "filetools/open_state.h"
+#include "mail_music/mail_setting.h"
+#include "platform/canvas.h"
+#include "platform/window.h"
+#include "shell/shell.h"
+#include "shell/sound_file.h"
+
+WalkSlot WalkSlots[kWalkSlotMax];
+bool WalkActive;
+bool WalkEndActive;
+std::int32_t WalkSlotNow;
+std::int32_t WalkLastX;
+std::int32_t WalkLastY;
+Outline WalkOutlines[kFrameMax];
+
+namespace {
+
+constexpr std::uint32_t kWalkWindowCommand = 2203;
+constexpr std::uint32_t kEndWindowsCommand = 2208;
+constexpr std::uint32_t kCarryOutCommand = 2202;
+constexpr int kMailFlagsCleared = 10;
+
+bool abortAll;
+
+bool IsSlot(int slot) {
+  return slot >= 0 && slot < kWalkSlotMax;
+}
+
+int FramesInUse(const std::uint8_t (&frames)[kWalkListMax]) {
+  return static_cast<int>(
+      std::count_if(frames, frames + kWalkListMax, [](std::uint8_t frame) { return frame != 0; }));
+}
+
+// The slot of a mail: the first one with the walking character that an opening
+// would send. -1 when there is none.
+int MailSlot() {
+  if (!IsSlot(CharaIndex)) return -1;
+  for (int slot = 0; slot <= CharaIndex; ++slot) {
+    if (WalkCharas[slot].number == WalkCharas[CharaIndex].number) return slot;
+  }
+  return -1;
+}
+
+// The walk of the current character. -1: it has no walking row.
+int SlotSetUp(WalkSlot& s) {
+  if (WalkRow(CharaSet) == 0) return -1;
+  int x = 0;
+  int y = 0;
+  WalkStartPlace(WalkStartPoint(CharaSet), &x, &y);
+  SetWalkStart(CharaSet, 0, x, y);
+  s.x = WalkStartX(CharaSet);
+  s.y = WalkStartY(CharaSet);
+  s.stepX = WalkStepX(CharaSet);
+  s.stepY = WalkStepY(CharaSet);
+  s.WalkWait = 0;
+  s.WalkLeft = WalkCount(CharaSet);
+  s.place = 0;
+  for (int i = 0; i < kWalkListMax; ++i) {
+    s.frames[i] = WalkFrames(CharaSet, 0, i);
+    s.endFrames[i] = EndFrames(CharaSet, 0, i);
+  }
+  s.frameCount = FramesInUse(s.frames);
+  s.endFrameCount = FramesInUse(s.endFrames);
+  s.endWait = EndWait(CharaSet);
+  return 0;
+}
+
+int WalkStart(int slot, int flagsCleared) {
+  const bool loaded = WalkCharaLoad(slot) == 0;
+  for (int i = 0; i < flagsCleared; ++i) WalkSlots[i].active = false;
+  WalkActive = loaded && SlotSetUp(WalkSlots[slot]) == 0;
+  if (!WalkActive) return -1;
+  WalkSlots[slot].active = true;
+  return 0;
+}
+
+// One step along an axis: not below 0, and then not with its far edge beyond the
+// screen.
+// kept: a picture that is larger than the screen ends up at a place below 0.
+std::int32_t StepAlong(std::int32_t place, std::int32_t step, int size, int screen) {
+  const std::int64_t next = std::max<std::int64_t>(std::int64_t{place} + step, 0);
+  return static_cast<std::int32_t>(std::min<std::int64_t>(next, screen - size));
+}
+
+void WalkStepOn(int slot) {
+  WalkSlot& s = WalkSlots[slot];
+  ImageHandle picture = WalkPicture(slot, WalkFrameOf(s.frames[0]));
+  s.x = StepAlong(s.x, s.stepX, DibWidth(picture), ScreenWidth);
+  s.y = StepAlong(s.y, s.stepY, DibHeight(picture), ScreenHeight);
+}
+
+void WalkShow(int slot) {
+  WalkSlotNow = slot;
+  if (!WalkSlots[slot].walkWindow) {
+    TrailWindowsClose();
+    SendCommand(hMainWnd, kWalkWindowCommand);  // returns when the window has closed
+  } else if ((WalkFlagsNow() & kWalkTrail) != 0) {
+    TrailWindowOpen();
+  } else {
+    SendCommand(WalkSlots[slot].walkWindow, kWalkMoveCommand);
+  }
+}
+
+void WalkFinish(int slot) {
+  WalkSlot& s = WalkSlots[slot];
+  SendClose(s.walkWindow);
+  TrailWindowsClose();
+  s.active = false;
+  if (abortAll) return;
+  WalkActive = false;
+  WalkEndActive = true;
+  s.ending = true;
+  s.place = 0;
+  WalkSlotNow = slot;
+  SendCommand(hMainWnd, kEndWindowsCommand);  // returns when the end phase is over
+}
+
+}  // namespace
+
+int WalkCharaLoad(int slot) {
+  if (slot < 0) return -9;
+  // bounded: beyond the list there is no character.
+  if (!IsSlot(slot) || WalkCharas[slot].number == 0) return -10;
+  const int number = WalkCharas[slot].number - 1;
+  OutlineReadAll(number, WalkOutlines);
+  FramesLoad(slot + 1, number);
+  for (int frame = 0; frame < kFrameMax; ++frame) {
+    OutlineFlipForWalker(&WalkOutlines[frame], DibHeight(WalkPicture(slot, frame)));
+  }
+  return 0;
+}
+
+int WalkStartOpen() {
+  if (OpnHistory.soundOn) SoundFilePlay(OpnHistory.soundName);
+  return OpnHistory.animeOn ? WalkStart(CharaIndex, kWalkSlotMax) : -1;
+}
+
+// kept: only the first ten active flags are cleared, so a walk of a later slot goes
+// on beside the mail's.
+int WalkStartMail() {
+  if (MailSetting.soundOn) SoundFilePlay(MailSetting.soundName);
+  return MailSetting.animeOn ? WalkStart(MailSlot(), kMailFlagsCleared) : -1;
+}
+
+void WalkTick(int slot) {
+  if (!IsSlot(slot)) return;
+  WalkSlot& s = WalkSlots[slot];
+  if (s.WalkWait != 0 && --s.WalkWait != 0) return;
+  // kept: a walk without frames stands still for good, and what waits for its end
+  // waits on.
+  if (s.frameCount == 0) return;
+  s.place = (s.place + 1) % s.frameCount;
+  if (s.WalkLeft == 0) {
+    WalkFinish(slot);
+    return;
+  }
+  --s.WalkLeft;
+  s.WalkWait = WalkPeriod(CharaSet);
+  WalkStepOn(slot);
+  WalkShow(slot);
+}
+
+void WalkEndTick(int slot) {
+  if (!IsSlot(slot)) return;
+  WalkSlot& s = WalkSlots[slot];
+  if (s.endWait != 0) --s.endWait;
+  if (s.endWait != 0) return;
+  if (MailPhase == kMailWalking) OpeningState = 0;
+  SendClose(s.endWindow);
+  SendClose(s.balloonWindow);
+  s.ending = false;
+  WalkEndActive =
+      std::any_of(WalkSlots, WalkSlots + kWalkSlotMax, [](const WalkSlot& other) { return other.ending; });
+  if (OpeningState == 1) {
+    OpeningState = 0;
+    SendCommand(hMainWnd, kCarryOutCommand);
+  } else {
+    OpeningState = 0;
+  }
+}
+
+void WalkTickAll() {
+  for (int slot = 0; slot < kWalkSlotMax; ++slot) {
+    if (WalkActive && WalkSlots[slot].active) WalkTick(slot);
+  }
+}
+
+void WalkEndTickAll() {
+  for (int slot = 0; slot < kWalkSlotMax; ++slot) {
+    if (WalkEndActive && WalkSlots[slot].ending) WalkEndTick(slot);
+  }
+}
+
+void WalkAbort() {
+  abortAll = true;
+  for (int slot = 0; slot < kWalkSlotMax; ++slot) {
+    if (!WalkSlots[slot].active) continue;
+    WalkSlots[slot].WalkLeft = 0;
+    WalkSlots[slot].WalkWait = 0;
+    WalkTick(slot);
+  }
+  WalkActive = false;
+  for (int slot = 0; slot < kWalkSlotMax; ++slot) {
+    if (!WalkSlots[slot].ending) continue;
+    WalkSlots[slot].endWait = 0;
+    WalkEndTick(slot);
+  }
+  abortAll = false;
+}
+
+unsigned WalkFlagsNow() {
+  const int row = WalkRow(CharaSet);
+  return row >= 1 && row <= kWalkCharaMax ? WalkFlags[row - 1] : 0;  // bounded: rows end there
+}
+
+int WalkFrameOf(std::uint8_t entry) {
+  return entry == 0 ? 0 : entry - 1;
+}
+
+ImageHandle WalkPicture(int slot, int frame) {
+  return FramePicture(slot + 1, frame);
+}
+
+RegionHandle WalkRegion(int frame) {
+  if (frame < 0 || frame >= kFrameMax) return nullptr;  // bounded: a list may name any frame
+  return RegionPolygon(WalkOutlines[frame].points, WalkOutlines[frame].count);
+}
+
+void CommandStartOpening() {
+  OpeningState = 1;
+  if (WalkStartOpen() == 0) return;
+  OpeningState = 0;
+  SendCommand(hMainWnd, kCarryOutCommand);
+}

@@ -1,0 +1,150 @@
+// The walking window: FlyingBat1, cut to the outline of the frame in force and
+// moved step by step. Its trail is made of copies that stay where they stand.
+
+#include <algorithm>
+#include <cstdint>
+
+#include "character/character_tables.h"
+#include "character/walk.h"
+#include "character/walk_windows.h"
+#include "platform/canvas.h"
+#include "platform/dialog.h"
+#include "platform/window.h"
+#include "resources/ids.h"
+#include "shell/dib.h"
+#include "shell/random.h"
+#include "shell/shell.h"
+
+namespace {
+
+constexpr int kShakeBound = 50;
+constexpr int kSliceWithoutPicture = 100;
+constexpr int kSlicesWithoutWait = 3;
+
+WindowHandle trail[kTrailMax];
+std::int32_t trailCount;
+
+// The wipe: how many slices of the picture show, and their width.
+std::int64_t wipeCount;
+int wipeSlice;
+
+bool Flag(unsigned flag) {
+  return (WalkFlagsNow() & flag) != 0;
+}
+
+// The slot that a window walks for; trail windows belong to the slot that runs.
+int SlotOf(WindowHandle window) {
+  for (int slot = 0; slot < kWalkSlotMax; ++slot) {
+    if (WalkSlots[slot].walkWindow == window) return slot;
+  }
+  return WalkSlotNow;
+}
+
+int FrameNow(int slot) {
+  return WalkFrameOf(WalkSlots[slot].frames[WalkSlots[slot].place]);
+}
+
+int WipeSliceOf(int slot) {
+  ImageHandle picture = WalkPicture(slot, FrameNow(slot));
+  if (!picture) return kSliceWithoutPicture;
+  const int slices = WalkSlots[slot].endWait;
+  return DibWidth(picture) / (slices != 0 ? slices : kSlicesWithoutWait);
+}
+
+void Place(WindowHandle window, int slot, bool moves) {
+  const int frame = FrameNow(slot);
+  RegionHandle region = WalkRegion(frame);
+  const bool shaped = region != nullptr;
+  WindowSetRegion(window, region, true);
+  ImageHandle picture = WalkPicture(slot, frame);
+  const int width = picture ? DibWidth(picture) : kWalkWindowWidth;
+  const int height = picture ? DibHeight(picture) : kWalkWindowHeight;
+  WalkLastX = WalkSlots[slot].x;
+  WalkLastY = WalkSlots[slot].y;
+  if (moves && Flag(kWalkShake)) {
+    WalkLastY += RandomBelow(kShakeBound);
+    WalkLastY -= RandomBelow(kShakeBound);
+  }
+  WindowMove(window, WalkLastX, WalkLastY, width, height, moves);
+  if (!moves) return;
+  if (Flag(kWalkWipe)) ++wipeCount;
+  if (!shaped) SendPaint(window);
+}
+
+void Paint(WindowHandle window, int slot) {
+  ImageHandle picture = WalkPicture(slot, FrameNow(slot));
+  Canvas* canvas = CanvasGet(window);
+  if (!canvas) return;
+  const int width = DibWidth(picture);
+  const std::int64_t shown = wipeCount * wipeSlice;
+  if (Flag(kWalkWipe) && shown < width) {
+    CanvasClip(canvas, {width - static_cast<int>(shown), 0, width, DibHeight(picture)});
+  }
+  DibDraw(canvas, 0, 0, picture);
+  CanvasRelease(canvas);
+}
+
+void Open(WindowHandle window, int slot) {
+  wipeCount = 1;
+  if (Flag(kWalkWipe)) wipeSlice = WipeSliceOf(slot);
+  Place(window, slot, false);
+}
+
+// What both kinds of windows do alike.
+bool Proc(const Event& event, int slot) {
+  switch (event.kind) {
+    case EventKind::Init:
+      Open(event.window, slot);
+      return true;
+    case EventKind::Command:
+      if (event.command == kWalkMoveCommand) Place(event.window, slot, true);
+      return true;
+    case EventKind::Paint:
+      Paint(event.window, slot);
+      return true;
+    default:
+      return false;
+  }
+}
+
+}  // namespace
+
+void CommandWalkWindow() {
+  DialogRun(IDD_FlyingBat1, hMainWnd, WalkWindowProc);
+}
+
+bool WalkWindowProc(const Event& event) {
+  if (event.kind == EventKind::Init) WalkSlots[WalkSlotNow].walkWindow = event.window;
+  const int slot = SlotOf(event.window);
+  if (event.kind == EventKind::Close || event.kind == EventKind::Destroy) {
+    if (WalkSlots[slot].walkWindow == event.window) WalkSlots[slot].walkWindow = nullptr;
+    if (event.kind == EventKind::Close) DialogEnd(event.window, 0);
+    return true;
+  }
+  return Proc(event, slot);
+}
+
+bool TrailWindowProc(const Event& event) {
+  if (event.kind == EventKind::Close) {
+    WindowDestroy(event.window);
+    return true;
+  }
+  if (event.kind == EventKind::Destroy) {
+    trailCount = static_cast<std::int32_t>(std::remove(trail, trail + trailCount, event.window) - trail);
+    return true;
+  }
+  return Proc(event, WalkSlotNow);
+}
+
+void TrailWindowOpen() {
+  if (trailCount >= kTrailMax) return;  // bounded: a walk has no more steps
+  const WindowHandle window = DialogOpen(IDD_FlyingBat1, hMainWnd, TrailWindowProc);
+  if (!window) return;
+  trail[trailCount++] = window;
+  SendCommand(window, kWalkMoveCommand);
+}
+
+// No window of an earlier trail is left behind by a new one.
+void TrailWindowsClose() {
+  while (trailCount > 0) SendClose(trail[--trailCount]);
+}

@@ -1,0 +1,28 @@
+// The windows of a walk, all made from FlyingBat1.
+#pragma once
+
+#include "platform/event.h"
+
+// Sent to a walking window: take the place of the step.
+inline constexpr std::uint32_t kWalkMoveCommand = 2258;
+
+// The size of a window whose frame has no picture.
+inline constexpr int kWalkWindowWidth = 300;
+inline constexpr int kWalkWindowHeight = 200;
+
+// Command 2203: runs the walking window of WalkSlotNow until the walk has ended.
+void CommandWalkWindow();
+
+// Command 2208: opens the end picture of WalkSlotNow and runs the balloon until
+// the end phase is over; for a mail the notice opens instead of the balloon.
+void CommandEndWindows();
+
+// Adds a trail window of the walk: a copy of the walking window at its new place.
+void TrailWindowOpen();
+void TrailWindowsClose();
+
+// walk_window.cpp, end_window.cpp, balloon.cpp
+bool WalkWindowProc(const Event& event);
+bool TrailWindowProc(const Event& event);
+bool EndWindowProc(const Event& event);
+bool BalloonProc(const Event& event);

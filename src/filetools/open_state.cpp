@@ -1,0 +1,15 @@
+#include "filetools/open_state.h"
+
+#include <algorithm>
+
+OpnHistoryRec OpnHistory;
+OpnSelectionRec OpnSelection;
+const OpnGroupRec* OpnPendingGroup;
+
+int OpnPendingCount() {
+  return OpnPendingGroup ? std::min<int>(OpnPendingGroup->fileCount, kOpnGroupFileMax) : 0;
+}
+
+const char* OpnPendingName(int place) {
+  return place >= 0 && place < OpnPendingCount() ? OpnPendingGroup->fileName[place] : "";
+}

@@ -1,0 +1,155 @@
+#include <gtest/gtest.h>
+
+#include <memory>
+
+#include "platform/screen.h"
+#include "tests/character/walk_fixture.h"
+
+namespace {
+
+class BalloonTest : public WalkFixture {
+ protected:
+  void SetUp() override {
+    WalkFixture::SetUp();
+    SetWalkCount(CharaSet, 0, 0);
+    SetWalkPeriod(CharaSet, 0, 0);
+    group_ = std::make_unique<OpnGroupRec>();
+    WalkLastX = 500;
+    WalkLastY = 400;
+  }
+  // Runs to the balloon and lets `look` at it.
+  void WithBalloon(std::function<void(WindowHandle)> look) {
+    Then([look] {
+      const WindowHandle balloon = WalkSlots[0].balloonWindow;
+      ASSERT_NE(balloon, nullptr);
+      look(balloon);
+    });
+    ThenTicks(4);
+    const std::int32_t state = OpeningState;
+    ASSERT_EQ(WalkStartOpen(), 0);
+    OpeningState = state;
+    WalkTicks(1);
+  }
+  void PutGroup(int count, const std::string& name) {
+    group_->fileCount = static_cast<std::uint8_t>(count);
+    for (int i = 0; i < count && i < kOpnGroupFileMax; ++i) {
+      TextCopy(group_->fileName[i], kOpnTextSize, (name + std::to_string(i)).c_str());
+    }
+    OpnPendingGroup = group_.get();
+    OpeningState = 2;
+  }
+  std::unique_ptr<OpnGroupRec> group_;
+};
+
+TEST_F(BalloonTest, ASingleOpeningShowsItsQuotedName) {
+  OpeningState = 1;
+  WithBalloon([](WindowHandle balloon) {
+    EXPECT_TRUE(TextStands(balloon, "\"letter.txt\"", 10, 20));
+    EXPECT_TRUE(TextStands(balloon, " をオープン", 10, 38));
+    EXPECT_EQ(DrawnTexts(balloon).size(), 2U);
+    EXPECT_TRUE(DrawnTexts(balloon)[0].transparent);
+    EXPECT_EQ(RectWidth(WindowRect(balloon)), 300);
+    EXPECT_EQ(RectHeight(WindowRect(balloon)), 200);
+    EXPECT_TRUE(IsTopmost(balloon));
+  });
+}
+
+TEST_F(BalloonTest, TheBalloonStandsUnderTheEndPicture) {
+  OpeningState = 1;
+  WithBalloon([](WindowHandle balloon) {
+    EXPECT_EQ(WindowRect(balloon).left, 500);
+    EXPECT_EQ(WindowRect(balloon).top, 400 + 20);
+  });
+}
+
+TEST_F(BalloonTest, WithoutAnEndPictureItStandsLeftAboveAndNotBeyondTheScreen) {
+  SetEndFrames(CharaSet, 0, 0, 9);
+  WalkLastX = 299;
+  WalkLastY = 201;
+  OpeningState = 1;
+  WithBalloon([](WindowHandle balloon) {
+    EXPECT_EQ(WindowRect(balloon).left, 0);
+    EXPECT_EQ(WindowRect(balloon).top, 1);
+  });
+}
+
+// 33 letters and two quotes are 35 columns: 35 * 8 + 24 = 304.
+TEST_F(BalloonTest, TheWidthGrowsWithTheName) {
+  TextCopy(OpnSelection.fileName, kOpnTextSize, std::string(33, 'a').c_str());
+  OpeningState = 1;
+  WithBalloon([](WindowHandle balloon) { EXPECT_EQ(RectWidth(WindowRect(balloon)), 304); });
+}
+
+TEST_F(BalloonTest, AVeryLongNameGivesABalloonOf800PixelsWithItsTextCutByTheWindow) {
+  TextCopy(OpnSelection.fileName, kOpnTextSize, std::string(299, 'a').c_str());
+  OpeningState = 1;
+  WithBalloon([](WindowHandle balloon) {
+    EXPECT_EQ(RectWidth(WindowRect(balloon)), 800);
+    EXPECT_TRUE(TextStands(balloon, ("\"" + std::string(299, 'a') + "\"").c_str(), 10, 20));
+  });
+}
+
+TEST_F(BalloonTest, ANameWithoutATerminatorIsHeldInsideItsField) {
+  std::memset(OpnSelection.fileName, 'a', kOpnTextSize);
+  OpeningState = 1;
+  WithBalloon([](WindowHandle balloon) {
+    EXPECT_TRUE(TextStands(balloon, ("\"" + std::string(300, 'a') + "\"").c_str(), 10, 20));
+  });
+}
+
+TEST_F(BalloonTest, AGroupOf30FilesGivesATallBalloonWithEveryNameOnItsOwnLine) {
+  PutGroup(30, "file");
+  WithBalloon([](WindowHandle balloon) {
+    EXPECT_EQ(RectHeight(WindowRect(balloon)), 30 * 20 + ScreenMetric(Metric::CaptionHeight) + 24);
+    EXPECT_EQ(DrawnTexts(balloon).size(), 31U);
+    EXPECT_TRUE(TextStands(balloon, "\"file0\"", 10, 4));
+    EXPECT_TRUE(TextStands(balloon, "\"file29\"", 10, 4 + 29 * 18));
+    EXPECT_TRUE(TextStands(balloon, " をオープン", 10, 4 + 30 * 18));
+  });
+}
+
+TEST_F(BalloonTest, ASmallGroupKeepsTheLeastSizeAndTheLongestNameCounts) {
+  PutGroup(2, "file");
+  TextCopy(group_->fileName[1], kOpnTextSize, std::string(40, 'b').c_str());
+  WithBalloon([](WindowHandle balloon) {
+    EXPECT_EQ(RectHeight(WindowRect(balloon)), 200);
+    EXPECT_EQ(RectWidth(WindowRect(balloon)), 42 * 8 + 24);
+  });
+}
+
+TEST_F(BalloonTest, AGroupsCountIsHeldInsideItsTable) {
+  PutGroup(255, "file");
+  EXPECT_EQ(OpnPendingCount(), 30);
+  EXPECT_STREQ(OpnPendingName(30), "");
+  EXPECT_STREQ(OpnPendingName(-1), "");
+  WithBalloon([](WindowHandle balloon) { EXPECT_EQ(DrawnTexts(balloon).size(), 31U); });
+}
+
+TEST_F(BalloonTest, WithoutAPendingGroupOnlyTheLastLineStands) {
+  OpeningState = 2;
+  OpnPendingGroup = nullptr;
+  WithBalloon([](WindowHandle balloon) {
+    EXPECT_EQ(DrawnTexts(balloon).size(), 1U);
+    EXPECT_TRUE(TextStands(balloon, " をオープン", 10, 4));
+  });
+}
+
+TEST_F(BalloonTest, ItsOwnButtonsCloseItAndTheEndPhaseRunsOn) {
+  for (const std::uint32_t button : {1U, 2U}) {
+    commands.clear();
+    ASSERT_EQ(WalkStartOpen(), 0);
+    OpeningState = 1;
+    Then([button] {
+      SendCommand(WalkSlots[0].balloonWindow, button);
+      EXPECT_EQ(WalkSlots[0].balloonWindow, nullptr);
+    });
+    WalkTicks(1);
+    EXPECT_NE(WalkSlots[0].endWindow, nullptr);
+    WalkTicks(2);
+    EXPECT_EQ(OpeningState, 1);
+    WalkTicks(1);
+    EXPECT_EQ(commands, (std::vector<std::uint32_t>{2208, 2202}));
+  }
+}
+
+}  // namespace

@@ -1,0 +1,80 @@
+// A walking character for the tests, and ticks of its part of the main tick.
+#pragma once
+
+#include <cstring>
+#include <string>
+#include <vector>
+
+#include "character/walk.h"
+#include "character/walk_windows.h"
+#include "filetools/open_state.h"
+#include "mail_music/mail_setting.h"
+#include "resources/ids.h"
+#include "tests/character/stage_fixture.h"
+
+class WalkFixture : public StageFixture {
+ protected:
+  void SetUp() override {
+    StageFixture::SetUp();
+    extraCommand = OnCommand;
+    OpnHistory = {};
+    OpnSelection = {};
+    OpnPendingGroup = nullptr;
+    MailSetting = {};
+    OpnHistory.animeOn = 1;
+    TextCopy(OpnSelection.fileName, kOpnTextSize, "letter.txt");
+    ForgetWalks();
+    PutWalker();
+  }
+  void TearDown() override {
+    ForgetWalks();
+    extraCommand = nullptr;
+    StageFixture::TearDown();
+  }
+  static void ForgetWalks() {
+    for (WalkSlot& slot : WalkSlots) slot = WalkSlot{};
+    WalkActive = WalkEndActive = false;
+    WalkSlotNow = WalkLastX = WalkLastY = 0;
+    hMailNoticeWnd = nullptr;
+  }
+
+  // Slot 0 walks with character 10: frames 1 and 2 of 60 by 50 turn while it walks,
+  // frame 3 of 30 by 20 ends it. From the middle of the screen, (500, 350), 5 steps
+  // of (-14, -12), one every 3 ticks; the end picture stays for 4.
+  static void PutWalker() {
+    PutDwc(10,
+           DwcFile({{{0, 0}, {59, 0}, {30, 49}}, {{1, 0}, {58, 0}, {30, 49}}, {{0, 0}, {29, 0}, {15, 19}}}));
+    PutBmp(10, 1, BmpFile(60, 50));
+    PutBmp(10, 2, BmpFile(60, 50));
+    PutBmp(10, 3, BmpFile(30, 20));
+    WalkCharaCount = 1;
+    WalkCharas[0].number = 10;
+    SetWalkRow(CharaSet, 0, 1);
+    SetWalkStartPoint(CharaSet, 4);
+    SetWalkStep(CharaSet, 0, -14, -12);
+    SetWalkPeriod(CharaSet, 0, 3);
+    SetWalkCount(CharaSet, 0, 5);
+    SetWalkFrames(CharaSet, 0, 0, 1);
+    SetWalkFrames(CharaSet, 0, 1, 2);
+    SetEndFrames(CharaSet, 0, 0, 3);
+    SetEndWait(CharaSet, 0, 4);
+  }
+
+  static void OnCommand(std::uint32_t command) {
+    if (command == 2203) CommandWalkWindow();
+    if (command == 2208) CommandEndWindows();
+  }
+
+  static void WalkTicks(int count) {
+    for (int i = 0; i < count; ++i) {
+      WalkTickAll();
+      WalkEndTickAll();
+    }
+  }
+  // Ticks as the steps of the script, so that each finds the innermost loop.
+  static void ThenTicks(int count) {
+    for (int i = 0; i < count; ++i) Then([] { WalkTicks(1); });
+  }
+
+  static WindowHandle WalkWindow() { return WalkSlots[0].walkWindow; }
+};
