@@ -8,10 +8,7 @@
 #include <unistd.h>
 
 #include <algorithm>
-#include <cctype>
-#include <cstdio>
 #include <cstring>
-#include <map>
 #include <string>
 #include <vector>
 
@@ -34,37 +31,63 @@ bool CopyOut(const std::string& text, char* buffer, int size) {
   return true;
 }
 
+// An open search. The folder is read as the entries are asked for; a search for
+// one file has no folder and is spent after its first entry.
 struct Search {
-  std::vector<SearchEntry> entries;
-  std::size_t next = 0;
+  bool open = false;
+  DIR* folder = nullptr;
+  std::string mask;  // empty: everything
 };
-std::map<int, Search>& Searches() {
-  static std::map<int, Search> searches;
-  return searches;
-}
-int lastSearch = 0;
+std::vector<Search> searches;  // by handle; places are used again
 
-void FillEntry(const std::string& path, const std::string& name, SearchEntry* entry) {
-  struct stat status {};
-  *entry = SearchEntry{};
-  if (stat(path.c_str(), &status) != 0) return;
-  if (S_ISDIR(status.st_mode)) entry->attributes = kAttributeFolder;
+SearchHandle FreeSearch() {
+  for (std::size_t i = 0; i < searches.size(); ++i) {
+    if (!searches[i].open) return static_cast<SearchHandle>(i);
+  }
+  searches.emplace_back();
+  return static_cast<SearchHandle>(searches.size() - 1);
+}
+
+bool IsAscii(const char* text) {
+  while (*text > 0) ++text;
+  return *text == '\0';
+}
+
+void FillName(const char* name, SearchEntry* entry) {
+  std::size_t length = std::strlen(name);
+  if (IsAscii(name) && length < sizeof entry->name) {
+    std::memcpy(entry->name, name, length + 1);
+    return;
+  }
+  const std::string text = PosixToCp932(name);
+  length = std::min(text.size(), sizeof entry->name - 1);
+  std::memcpy(entry->name, text.c_str(), length);
+  entry->name[length] = '\0';
+}
+
+// The entry `name` of the open folder `at` (AT_FDCWD: a path). False when it is
+// gone. A link is what it leads to, if that is there.
+bool FillEntry(int at, const char* path, const char* name, SearchEntry* entry) {
+  struct stat status;
+  if (fstatat(at, path, &status, 0) != 0 && fstatat(at, path, &status, AT_SYMLINK_NOFOLLOW) != 0)
+    return false;
+  const bool isFolder = S_ISDIR(status.st_mode);
+  const std::uint64_t size = isFolder ? 0 : static_cast<std::uint64_t>(status.st_size);
+  entry->attributes = isFolder ? kAttributeFolder : 0;
   entry->creationTime = FileTimeOf(status.st_ctim);
   entry->lastWriteTime = FileTimeOf(status.st_mtim);
-  if (!S_ISDIR(status.st_mode)) {
-    const auto size = static_cast<std::uint64_t>(status.st_size);
-    entry->sizeHigh = static_cast<std::uint32_t>(size >> 32U);
-    entry->sizeLow = static_cast<std::uint32_t>(size);
-  }
-  CopyOut(PosixToCp932(name).substr(0, sizeof entry->name - 1), entry->name, sizeof entry->name);
+  entry->sizeHigh = static_cast<std::uint32_t>(size >> 32U);
+  entry->sizeLow = static_cast<std::uint32_t>(size);
+  FillName(name, entry);
+  return true;
 }
 
-// Names without regard to capitals; "." and ".." come first.
-std::pair<std::string, std::string> OrderKey(const SearchEntry& entry) {
-  std::string key = entry.name;
-  for (char& c : key) c = static_cast<char>(std::toupper(static_cast<unsigned char>(c)));
-  if (key == "." || key == "..") key.insert(0, 1, '\0');
-  return {key, entry.name};
+bool NextOf(const Search& search, SearchEntry* entry) {
+  while (const dirent* item = readdir(search.folder)) {
+    if (!search.mask.empty() && fnmatch(search.mask.c_str(), item->d_name, FNM_CASEFOLD) != 0) continue;
+    if (FillEntry(dirfd(search.folder), item->d_name, item->d_name, entry)) return true;
+  }
+  return false;
 }
 
 std::string desktopFolder;
@@ -213,47 +236,40 @@ bool FolderDesktop(char* buffer, int size) {
 SearchHandle SearchFirst(const char* pattern, SearchEntry* entry) {
   const std::string full = PosixPath(pattern);
   const std::size_t slash = full.rfind('/');
-  const std::string folder = slash == std::string::npos ? "." : slash == 0 ? "/" : full.substr(0, slash);
-  std::string mask = slash == std::string::npos ? full : full.substr(slash + 1);
-  if (mask.empty()) return kNoSearch;
-  if (mask == "*.*") mask = "*";
+  const char* mask = slash == std::string::npos ? full.c_str() : full.c_str() + slash + 1;
   Search search;
-  if (mask.find_first_of("*?") == std::string::npos) {
-    struct stat status {};
-    if (stat(full.c_str(), &status) != 0) return kNoSearch;
-    search.entries.emplace_back();
-    FillEntry(full, mask, &search.entries.back());
-  } else {
-    DIR* directory = opendir(folder.c_str());
-    if (!directory) return kNoSearch;
-    while (const dirent* item = readdir(directory)) {
-      if (fnmatch(mask.c_str(), item->d_name, FNM_CASEFOLD) != 0) continue;
-      search.entries.emplace_back();
-      FillEntry(folder + "/" + item->d_name, item->d_name, &search.entries.back());
+  if (std::strpbrk(mask, "*?")) {
+    const std::string folder = slash == std::string::npos ? "." : full.substr(0, slash + 1);
+    search.folder = opendir(folder.c_str());
+    if (!search.folder) return kNoSearch;
+    if (std::strcmp(mask, "*.*") != 0) search.mask = mask;
+    if (!NextOf(search, entry)) {
+      closedir(search.folder);
+      return kNoSearch;
     }
-    closedir(directory);
-    // In the order that Windows tells.
-    std::sort(search.entries.begin(), search.entries.end(),
-              [](const SearchEntry& a, const SearchEntry& b) { return OrderKey(a) < OrderKey(b); });
+  } else if (!FillEntry(AT_FDCWD, full.c_str(), mask, entry)) {
+    return kNoSearch;
   }
-  if (search.entries.empty()) return kNoSearch;
-  *entry = search.entries[0];
-  search.next = 1;
-  const int handle = ++lastSearch;
-  Searches()[handle] = std::move(search);
+  search.open = true;
+  const SearchHandle handle = FreeSearch();
+  searches[static_cast<std::size_t>(handle)] = std::move(search);
   ++PosixLive().searches;
   return handle;
 }
 
 bool SearchNext(SearchHandle handle, SearchEntry* entry) {
-  const auto at = Searches().find(handle);
-  if (at == Searches().end() || at->second.next >= at->second.entries.size()) return false;
-  *entry = at->second.entries[at->second.next++];
-  return true;
+  if (handle < 0 || static_cast<std::size_t>(handle) >= searches.size()) return false;
+  const Search& search = searches[static_cast<std::size_t>(handle)];
+  return search.folder && NextOf(search, entry);
 }
 
 void SearchClose(SearchHandle handle) {
-  if (Searches().erase(handle) > 0) --PosixLive().searches;
+  if (handle < 0 || static_cast<std::size_t>(handle) >= searches.size()) return;
+  Search& search = searches[static_cast<std::size_t>(handle)];
+  if (!search.open) return;
+  if (search.folder) closedir(search.folder);
+  search = Search{};
+  --PosixLive().searches;
 }
 
 bool DiskSpace(const char* root, std::uint64_t* total, std::uint64_t* free) {
