@@ -10,7 +10,9 @@
 
 #include "platform/types.h"
 
-inline constexpr int kScopeLimit = 3105;  // entries that fill one area
+inline constexpr int kScopeLimit = 3105;          // entries that fill one area
+inline constexpr int kScopeSecondArea = 2000000;  // in ScopeBlock: the drive's entries, or the bars
+inline constexpr int kScopeSecondOrder = 500000;  // in CastBlock: the drive's order
 inline constexpr int kScopePathSize = 256;
 inline constexpr int kScopeNameSize = 256;
 
@@ -26,14 +28,14 @@ struct ScopeEntry {
   char name[kScopeNameSize];
 };
 
-// Entry `number`, 0 to 3104, of an area; beyond that: nothing is put, an empty
-// entry is got. Needs ScopeBlock.
+// Entry `number`, 0 to 3104, of an area; beyond that, and without
+// ScopeBlock, nothing is put and an empty entry is got.
 void ScopeEntryPut(ScopeArea area, int number, const ScopeEntry& entry);
 ScopeEntry ScopeEntryGet(ScopeArea area, int number);
 std::uint64_t ScopeEntrySize(ScopeArea area, int number);
 
 // The number of the entry of a rank, 0 the largest; -1 for a rank that there is
-// not. Needs CastBlock.
+// not.
 int ScopeOrder(ScopeArea area, int rank);
 
 // A 64-bit size as the charts count it.
@@ -57,14 +59,14 @@ extern int scopeFolderCount;  // entries of an area; negative: stopped or too ma
 extern int scopeDriveCount;
 extern int firstLevelIndex;  // the path's first folder among the drive's entries, -1: not found
 extern int folderIndex;      // the chosen folder in its parent, -1: not found
-extern float folderTotal;      // sum of the chosen folder's entries
+extern float folderTotal;    // sum of the chosen folder's entries
 extern float driveTotal;
 extern float driveFree;
 extern float firstLevelTotal;  // 1 until it is known
 extern float chosenTotal;
-extern float areaTotal;      // the running sum of ScopeFolderSize
-extern bool scopeOverflow;   // a search has met the limit
-extern bool scopeBarChart;   // the bars are being made, not the pies
+extern float areaTotal;     // the running sum of ScopeFolderSize
+extern bool scopeOverflow;  // a search has met the limit
+extern bool scopeBarChart;  // the bars are being made, not the pies
 
 // --- Searching.
 

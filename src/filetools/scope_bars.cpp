@@ -25,11 +25,13 @@ constexpr int kRows = kScopeLimit + 1;
 static_assert(kScopeSecondArea + kRows * kRowSize <= kScopeBlockSize);
 
 unsigned char* RowAt(int row) {
-  if (row < 0 || row >= kRows) return nullptr;
+  if (!ScopeBlock || row < 0 || row >= kRows) return nullptr;
   return ScopeBlock + kScopeSecondArea + row * kRowSize;
 }
 
-std::int32_t Field(const unsigned char* row, int offset) { return static_cast<std::int32_t>(GetLE32(row + offset)); }
+std::int32_t Field(const unsigned char* row, int offset) {
+  return static_cast<std::int32_t>(GetLE32(row + offset));
+}
 
 void PutField(unsigned char* row, int offset, std::int32_t value) {
   PutLE32(row + offset, static_cast<std::uint32_t>(value));

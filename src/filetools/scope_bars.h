@@ -17,7 +17,8 @@ struct ScopeBarRow {
   std::int32_t barWidth;  // pixels
 };
 
-// Row 0 to 3105; beyond that: nothing is put, an empty row is got. Needs ScopeBlock.
+// Row 0 to 3105; beyond that, and without ScopeBlock, nothing is put and an empty
+// row is got.
 void ScopeBarPut(int row, const ScopeBarRow& bar);
 ScopeBarRow ScopeBarGet(int row);
 

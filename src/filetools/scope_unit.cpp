@@ -17,7 +17,9 @@ constexpr UnitStep kSteps[] = {
 constexpr int kUnits = 4;
 
 // kept: the hundredths are shown as a plain number, so that 1.05 reads as "1.5".
-int Hundredths(float value, int whole) { return ScopeWhole((value - static_cast<float>(whole)) * 100.0F); }
+int Hundredths(float value, int whole) {
+  return ScopeWhole((value - static_cast<float>(whole)) * 100.0F);
+}
 
 }  // namespace
 
@@ -34,7 +36,9 @@ ScopeAmount ScopeUnit(float size) {
   return {unit, whole, Hundredths(value, whole)};
 }
 
-float ScopeRatio(float size, float total) { return total > 0.0F ? size / total : 0.0F; }
+float ScopeRatio(float size, float total) {
+  return total > 0.0F ? size / total : 0.0F;
+}
 
 ScopeShare ScopePercent(float size, float total) {
   const float percent = ScopeRatio(size, total) * 100.0F;

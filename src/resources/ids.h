@@ -94,5 +94,23 @@
 #define IDD_SerchFolderDlg 3544
 #define IDD_FileDesktopClrDlg 3550
 #define IDD_DesktopIconSetDlg 3551
+/* Controls of the folder scope's dialogs. */
+#define IDC_SCOPE_FILTER 102
+#define IDC_SCOPE_FILES 103
+#define IDC_SCOPE_PIES 110
+#define IDC_SCOPE_BARS 111
+#define IDC_STATICS_FOLDER 100
+#define IDC_STATICS_SCROLL 101
+/* Controls of the dialogs of desktop tidy. */
+#define IDC_TIDY_FOLDER 100
+#define IDC_TIDY_KIND 101
+#define IDC_TIDY_ALIGN 102
+#define IDC_TIDY_SPLIT 103
+#define IDC_TIDY_RUN 110
+#define IDC_TIDY_OPEN 111
+#define IDC_TIDY_BACK 112
+#define IDC_COVER_LIST 101
+#define IDC_COVER_ENABLE 102
+#define IDC_COVER_PUT 110
 
 #endif

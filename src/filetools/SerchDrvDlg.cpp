@@ -1,0 +1,60 @@
+// SerchDrvDlg, "指定ドライブ検索中", and SerchFolderDlg, "指定フォルダ検索中": the
+// progress of a search that the tick drives, one entry a step, so that "中止" gets
+// its chance between two entries.
+
+#include "filetools/folder_scope.h"
+#include "filetools/scope_dialogs.h"
+#include "platform/dialog.h"
+#include "resources/ids.h"
+#include "shell/shell.h"
+
+namespace {
+
+constexpr std::uint32_t kStepCommand = 2376;
+constexpr int kDriveSearch = 1;
+constexpr int kFolderSearch = 2;
+constexpr int kStopped = -1;
+
+int entries;
+
+void End(WindowHandle dialog, int count) {
+  if (hSearchDlg != dialog) return;
+  entries = count;
+  progressMode = 0;
+  hSearchDlg = nullptr;
+  DialogEnd(dialog, 0);
+}
+
+void Step(WindowHandle dialog) {
+  int result = 0;
+  if (progressMode == kDriveSearch) result = ScopeDriveStep();
+  if (progressMode == kFolderSearch) result = ScopeFolderStep();
+  // kept: too many entries give -2 here, which is taken like a stop.
+  if (result != 0) End(dialog, result - 1);
+}
+
+bool Handle(const Event& event) {
+  const bool command = event.kind == EventKind::Command;
+  if (event.kind == EventKind::Init) {
+    hSearchDlg = event.window;
+    ScopeStepReset();
+  } else if (command && event.command == kStepCommand) {
+    Step(event.window);
+  } else if (event.kind == EventKind::Close || (command && (event.command == 1 || event.command == 2))) {
+    ScopeStepStop();
+    End(event.window, kStopped);
+  } else {
+    return false;
+  }
+  return true;
+}
+
+}  // namespace
+
+int ScopeSearchRun(WindowHandle owner, int mode) {
+  entries = kStopped;
+  progressMode = mode;
+  DialogRun(mode == kDriveSearch ? IDD_SerchDrvDlg : IDD_SerchFolderDlg, owner, Handle);
+  progressMode = 0;
+  return entries;
+}
