@@ -21,13 +21,3 @@ void CommandOpenAddFile(std::uint32_t) {}
 void CommandOpenAddProgram(std::uint32_t) {}
 void CommandOpenGroupSet(std::uint32_t) {}
 void CommandOpenLaunch(std::uint32_t) {}
-
-void CommandFolderScope(std::uint32_t) {
-  NoDialog();
-}
-void CommandDesktopTidy(std::uint32_t) {
-  NoDialog();
-}
-void CommandDesktopCover(std::uint32_t) {
-  NoDialog();
-}

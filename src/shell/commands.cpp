@@ -4,10 +4,15 @@
 #include <iterator>
 
 #include "character/character_commands.h"
+#include "character/stage.h"
+#include "character/walk.h"
+#include "character/walk_windows.h"
 #include "clock_calendar/clock_calendar_commands.h"
 #include "filetools/back_up_commands.h"
 #include "filetools/divide_commands.h"
 #include "filetools/filetools_commands.h"
+#include "filetools/scope_commands.h"
+#include "filetools/tidy_commands.h"
 #include "mail_music/mail_music_commands.h"
 #include "scenario/scenario_commands.h"
 #include "schedule/schedule_commands.h"

@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <cstring>
 
+#include "character/alarm_images.h"
 #include "character/character.h"
 #include "character/character_file.h"
 #include "character/stage.h"

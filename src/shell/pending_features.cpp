@@ -4,22 +4,6 @@
 #include "shell/commands.h"
 #include "shell/shell.h"
 
-bool WalkIsRunning() {
-  return false;
-}
-bool WalkSlotIsActive(int) {
-  return false;
-}
-void WalkTick(int) {}
-bool WalkEndIsRunning() {
-  return false;
-}
-bool WalkEndSlotIsActive(int) {
-  return false;
-}
-void WalkEndTick(int) {}
-
-void AlarmCharaLoad() {}
 void MailNoticeStart() {
   MailPhase = 3;
 }
@@ -42,11 +26,6 @@ void LayoutDefault() {}
 
 void PanelPointerOnStage(const Event&) {}
 
-void TidyDefaults() {}
-
-void CommandOpenWalk(std::uint32_t) {}
-void CommandWalkWindow(std::uint32_t) {}
-void CommandWalkEnd(std::uint32_t) {}
 void CommandOptionMainCharacter(std::uint32_t) {}
 void CommandOptionAlarmCharacter(std::uint32_t) {}
 void CommandPanelLevel(std::uint32_t) {}

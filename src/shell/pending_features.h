@@ -7,17 +7,7 @@
 
 #include "platform/event.h"
 
-// Walking characters.
-inline constexpr int kWalkSlots = 50;
-bool WalkIsRunning();
-bool WalkSlotIsActive(int slot);
-void WalkTick(int slot);
-bool WalkEndIsRunning();
-bool WalkEndSlotIsActive(int slot);
-void WalkEndTick(int slot);
-
-// Notices and the pictures of their characters.
-void AlarmCharaLoad();
+// Notices.
 void MailNoticeStart();
 void MailNoticeFrameStep();
 void SclNoticeFrameStep();
@@ -38,6 +28,3 @@ void LayoutDefault();
 
 // The panel.
 void PanelPointerOnStage(const Event& event);
-
-// Desktop tidy.
-void TidyDefaults();

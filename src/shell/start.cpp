@@ -1,10 +1,12 @@
 #include "shell/start.h"
 
+#include "character/alarm_images.h"
 #include "character/character_file.h"
 #include "character/stage.h"
 #include "clock_calendar/calendar.h"
 #include "clock_calendar/clock.h"
 #include "clock_calendar/clock_calendar_tick.h"
+#include "filetools/desktop_tidy.h"
 #include "mail_music/mail.h"
 #include "platform/dialog.h"
 #include "platform/file.h"
@@ -66,7 +68,7 @@ void StartSequence(WindowHandle window) {
 
   SclDefaults();
   CalenStartDefaults();
-  TidyDefaults();
+  TidyReset();
   ScreenWidth = ScreenMetric(Metric::FullScreenWidth);
   ScreenHeight = ScreenMetric(Metric::FullScreenHeight);
   SetDateDefaults();

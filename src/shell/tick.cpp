@@ -1,6 +1,7 @@
 #include "shell/tick.h"
 
 #include "character/motion.h"
+#include "character/walk.h"
 #include "clock_calendar/calendar.h"
 #include "clock_calendar/clock.h"
 #include "clock_calendar/clock_calendar_tick.h"
@@ -85,18 +86,6 @@ void MailStep() {
   if (MailNoticeFlag == 1) MailNoticeStart();
 }
 
-void WalkStep() {
-  for (int slot = 0; WalkIsRunning() && slot < kWalkSlots; ++slot) {
-    if (WalkSlotIsActive(slot)) WalkTick(slot);
-  }
-}
-
-void WalkEndStep() {
-  for (int slot = 0; WalkEndIsRunning() && slot < kWalkSlots; ++slot) {
-    if (WalkEndSlotIsActive(slot)) WalkEndTick(slot);
-  }
-}
-
 void ClockStep() {
   const bool adjusting = DlgIdTool == 2016 && hToolDlg;
   if (!adjusting && !hClockWnd && !SclIsRunning() && !hCalenWnd) return;
@@ -141,7 +130,7 @@ void FileWatchStep() {
 // an alarm that began in this tick draws first.
 constexpr void (*kSteps[])() = {
     CommandLineStep,  BackUpStepTell, SteppedWorkTell, HandOffStep,      ReopenGuardStep, PanelCountStep,
-    PanelPointerStep, MailStep,       OpnGroupTick,    WalkStep,         WalkEndStep,     ClockPreviewStep,
+    PanelPointerStep, MailStep,       OpnGroupTick,    WalkTickAll,      WalkEndTickAll,  ClockPreviewStep,
     ClockStep,        MotionStep,     PreviewStep,     FrameDividerStep, TableScrollTick, FileWatchStep,
 };
 

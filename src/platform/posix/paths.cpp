@@ -1,5 +1,7 @@
 #include <iconv.h>
+#include <unistd.h>
 
+#include <algorithm>
 #include <algorithm>
 #include <cctype>
 #include <map>
@@ -13,11 +15,47 @@ std::map<char, std::string>& Drives() {
   return drives;
 }
 
+// The drive whose folder holds the path, the innermost of several; Z for none.
+char DriveOf(const std::string& path) {
+  char found = 'Z';
+  std::size_t length = 0;
+  for (const auto& [letter, folder] : Drives()) {
+    const bool inside = path == folder || path.starts_with(folder + "/");
+    if (!inside || folder.size() < length) continue;
+    found = letter;
+    length = folder.size();
+  }
+  return found;
+}
+
+// The folder of the drive we are on; empty for Z.
+std::string CurrentDrive() {
+  char current[4096];
+  if (!getcwd(current, sizeof current)) return {};
+  const char letter = DriveOf(current);
+  return letter == 'Z' ? std::string() : Drives()[letter];
+}
+
+// One converter for each direction, opened at its first use and kept.
+iconv_t Converter(const char* to, const char* from) {
+  static std::map<std::string, iconv_t> open;
+  const auto [at, fresh] = open.emplace(from, nullptr);
+  if (fresh) at->second = iconv_open(to, from);
+  return at->second;
+}
+
+bool IsAscii(const std::string& text) {
+  return std::all_of(text.begin(), text.end(),
+                     [](char c) { return (static_cast<unsigned char>(c) & 0x80U) == 0; });
+}
+
 std::string Convert(const char* to, const char* from, const std::string& text) {
   // Both encodings write plain letters alike, and most names have no others.
   if (std::all_of(text.begin(), text.end(), [](char c) { return (c & 0x80) == 0; })) return text;
-  iconv_t converter = iconv_open(to, from);
+  if (IsAscii(text)) return text;
+  iconv_t converter = Converter(to, from);
   if (converter == reinterpret_cast<iconv_t>(-1)) return text;
+  iconv(converter, nullptr, nullptr, nullptr, nullptr);
   std::string result;
   std::string source = text;
   char* in = source.data();
@@ -29,12 +67,15 @@ std::string Convert(const char* to, const char* from, const std::string& text) {
     const std::size_t done = iconv(converter, &in, &inLeft, &out, &outLeft);
     result.append(buffer, sizeof buffer - outLeft);
     if (done == static_cast<std::size_t>(-1) && outLeft > 16 && inLeft > 0) {
+      // One character that has no counterpart, whatever its length.
       result += '_';
-      ++in;
-      --inLeft;
+      const bool utf8 = static_cast<unsigned char>(*in) >= 0xC0 && from[0] == 'U';
+      do {
+        ++in;
+        --inLeft;
+      } while (utf8 && inLeft > 0 && (static_cast<unsigned char>(*in) & 0xC0U) == 0x80);
     }
   }
-  iconv_close(converter);
   return result;
 }
 
@@ -63,18 +104,22 @@ std::string PosixPath(const char* path) {
     if (letter == 'Z') return rest.empty() ? "/" : rest;
     return "/nonexistent-drive" + rest;
   }
+  // Without a letter, the root is that of the current drive.
+  if (text.starts_with('/')) {
+    const std::string drive = CurrentDrive();
+    if (!drive.empty()) return drive + text;
+  }
   return text;
 }
 
 std::string PosixToProgram(const std::string& path) {
+  const char letter = DriveOf(path);
   std::string text;
-  for (const auto& [letter, folder] : Drives()) {
-    if (path == folder || path.rfind(folder + "/", 0) == 0) {
-      text = std::string(1, letter) + ":" + path.substr(folder.size());
-      break;
-    }
+  if (letter == 'Z') {
+    text = "Z:" + (path == "/" ? std::string() : path);
+  } else {
+    text = std::string(1, letter) + ":" + path.substr(Drives()[letter].size());
   }
-  if (text.empty()) text = "Z:" + (path == "/" ? std::string() : path);
   if (text.size() == 2) text += '/';
   for (char& c : text) {
     if (c == '/') c = '\\';
