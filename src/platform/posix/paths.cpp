@@ -2,7 +2,6 @@
 #include <unistd.h>
 
 #include <algorithm>
-#include <algorithm>
 #include <cctype>
 #include <map>
 
@@ -36,26 +35,33 @@ std::string CurrentDrive() {
   return letter == 'Z' ? std::string() : Drives()[letter];
 }
 
-// One converter for each direction, opened at its first use and kept.
-iconv_t Converter(const char* to, const char* from) {
-  static std::map<std::string, iconv_t> open;
-  const auto [at, fresh] = open.emplace(from, nullptr);
-  if (fresh) at->second = iconv_open(to, from);
-  return at->second;
-}
+// A converter that is opened at its first use and kept.
+class Converter {
+ public:
+  Converter(const char* to, const char* from) : handle_(iconv_open(to, from)) {}
+  Converter(const Converter&) = delete;
+  Converter& operator=(const Converter&) = delete;
+  ~Converter() {
+    if (IsOpen()) iconv_close(handle_);
+  }
+  bool IsOpen() const { return handle_ != reinterpret_cast<iconv_t>(-1); }
+  iconv_t Start() {
+    iconv(handle_, nullptr, nullptr, nullptr, nullptr);
+    return handle_;
+  }
+
+ private:
+  iconv_t handle_;
+};
 
 bool IsAscii(const std::string& text) {
   return std::all_of(text.begin(), text.end(),
                      [](char c) { return (static_cast<unsigned char>(c) & 0x80U) == 0; });
 }
 
-std::string Convert(const char* to, const char* from, const std::string& text) {
-  // Both encodings write plain letters alike, and most names have no others.
-  if (std::all_of(text.begin(), text.end(), [](char c) { return (c & 0x80) == 0; })) return text;
-  if (IsAscii(text)) return text;
-  iconv_t converter = Converter(to, from);
-  if (converter == reinterpret_cast<iconv_t>(-1)) return text;
-  iconv(converter, nullptr, nullptr, nullptr, nullptr);
+std::string Convert(Converter& direction, bool fromUtf8, const std::string& text) {
+  if (IsAscii(text) || !direction.IsOpen()) return text;
+  iconv_t converter = direction.Start();
   std::string result;
   std::string source = text;
   char* in = source.data();
@@ -69,7 +75,7 @@ std::string Convert(const char* to, const char* from, const std::string& text) {
     if (done == static_cast<std::size_t>(-1) && outLeft > 16 && inLeft > 0) {
       // One character that has no counterpart, whatever its length.
       result += '_';
-      const bool utf8 = static_cast<unsigned char>(*in) >= 0xC0 && from[0] == 'U';
+      const bool utf8 = fromUtf8 && static_cast<unsigned char>(*in) >= 0xC0;
       do {
         ++in;
         --inLeft;
@@ -82,11 +88,13 @@ std::string Convert(const char* to, const char* from, const std::string& text) {
 }  // namespace
 
 std::string Cp932ToUtf8(const std::string& bytes) {
-  return Convert("UTF-8", "CP932", bytes);
+  static Converter converter("UTF-8", "CP932");
+  return Convert(converter, false, bytes);
 }
 
 std::string PosixToCp932(const std::string& utf8) {
-  return Convert("CP932", "UTF-8", utf8);
+  static Converter converter("CP932", "UTF-8");
+  return Convert(converter, true, utf8);
 }
 
 std::string PosixPath(const char* path) {
