@@ -20,6 +20,7 @@ constexpr Rect kPictureBox = {10, 10, 200, 100};
 constexpr int kTextX = 10;
 constexpr int kTextY = 100;
 constexpr std::int32_t kTicksOfFrame = 5;
+constexpr std::int32_t kMailAlone = 3;  // MailPhase of a notice that nobody brings
 
 int frameNow;
 
@@ -77,11 +78,19 @@ bool Proc(const Event& event) {
 
 }  // namespace
 
+void MailNoticeStart() {
+  MailNoticeFlag = 0;
+  const bool walks = WalkStartMail() == 0;
+  OpeningState = walks ? 1 : 0;
+  MailPhase = walks ? kMailWalking : kMailAlone;
+  if (!walks && !hMailNoticeWnd) MailNoticeOpen();
+}
+
 void MailNoticeOpen() {
   DialogOpen(IDD_FlyingBat2X, hMainWnd, Proc);
 }
 
-void MailNoticeStep() {
+void MailNoticeFrameStep() {
   if (!hMailNoticeWnd) return;
   frameNow = AlarmFrameNext(AlarmRows[kAlarmMail], frameNow);
   SendPaint(hMailNoticeWnd);

@@ -3,5 +3,9 @@
 
 #include <cstdint>
 
-void CommandOptionMainCharacter(std::uint32_t number);  // 2281
+void CommandStageRedraw(std::uint32_t number);           // 2293
+void CommandOpenWalk(std::uint32_t number);              // 2004: walk, then open the file
+void CommandWalkWindow(std::uint32_t number);            // 2203
+void CommandWalkEnd(std::uint32_t number);               // 2208
+void CommandOptionMainCharacter(std::uint32_t number);   // 2281
 void CommandOptionAlarmCharacter(std::uint32_t number);  // 2282

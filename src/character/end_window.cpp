@@ -44,7 +44,7 @@ void Paint(WindowHandle window, int slot) {
 
 }  // namespace
 
-void CommandEndWindows() {
+void EndWindowsRun() {
   if (WalkSlots[WalkSlotNow].endWindow) SendClose(WalkSlots[WalkSlotNow].endWindow);
   DialogOpen(IDD_FlyingBat1, hMainWnd, EndWindowProc);
   if (!WalkPicture(WalkSlotNow, EndFrame(WalkSlotNow))) SendClose(WalkSlots[WalkSlotNow].endWindow);

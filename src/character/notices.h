@@ -8,4 +8,8 @@
 void MailNoticeOpen();
 
 // The next picture of the mail notice, and its repaint; nothing while it is closed.
-void MailNoticeStep();
+void MailNoticeFrameStep();
+
+// A mail has come: the walking character brings the notice, or it opens at once.
+// Sets the opening state and the mail phase.
+void MailNoticeStart();

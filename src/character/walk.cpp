@@ -235,7 +235,7 @@ RegionHandle WalkRegion(int frame) {
   return RegionPolygon(WalkOutlines[frame].points, WalkOutlines[frame].count);
 }
 
-void CommandStartOpening() {
+void WalkForOpening() {
   OpeningState = 1;
   if (WalkStartOpen() == 0) return;
   OpeningState = 0;

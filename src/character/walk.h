@@ -82,6 +82,6 @@ ImageHandle WalkPicture(int slot, int frame);
 // The region of a frame's outline; null for none.
 RegionHandle WalkRegion(int frame);
 
-// Command 2004: a file is to be opened; the walk goes first if there is one, else
+// A file is to be opened (command 2004): the walk goes first if there is one, else
 // command 2202 follows at once.
-void CommandStartOpening();
+void WalkForOpening();

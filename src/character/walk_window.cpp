@@ -109,7 +109,7 @@ bool Proc(const Event& event, int slot) {
 
 }  // namespace
 
-void CommandWalkWindow() {
+void WalkWindowRun() {
   DialogRun(IDD_FlyingBat1, hMainWnd, WalkWindowProc);
 }
 

@@ -10,12 +10,12 @@ inline constexpr std::uint32_t kWalkMoveCommand = 2258;
 inline constexpr int kWalkWindowWidth = 300;
 inline constexpr int kWalkWindowHeight = 200;
 
-// Command 2203: runs the walking window of WalkSlotNow until the walk has ended.
-void CommandWalkWindow();
+// Runs the walking window of WalkSlotNow until the walk has ended (command 2203).
+void WalkWindowRun();
 
-// Command 2208: opens the end picture of WalkSlotNow and runs the balloon until
-// the end phase is over; for a mail the notice opens instead of the balloon.
-void CommandEndWindows();
+// Opens the end picture of WalkSlotNow and runs the balloon until the end phase is
+// over; for a mail the notice opens instead of the balloon (command 2208).
+void EndWindowsRun();
 
 // Adds a trail window of the walk: a copy of the walking window at its new place.
 void TrailWindowOpen();

@@ -4,7 +4,6 @@
 
 #include "platform/socket.h"
 
-char MailNoticeText[kMailNoticeTextSize];
 std::int32_t MailInterval;
 int MailSocket = kNoSocket;
 int MailSocketSecond = kNoSocket;

@@ -3,9 +3,7 @@
 
 #include <cstdint>
 
-inline constexpr int kMailNoticeTextSize = 129;
-extern char MailNoticeText[kMailNoticeTextSize];  // what the notice says; empty: the standard text
-extern std::int32_t MailInterval;                 // units of 6000 ticks between two checks
+extern std::int32_t MailInterval;  // units of 6000 ticks between two checks
 extern int MailSocket;
 extern int MailSocketSecond;
 extern int MailSocketThird;

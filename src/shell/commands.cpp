@@ -4,9 +4,6 @@
 #include <iterator>
 
 #include "character/character_commands.h"
-#include "character/stage.h"
-#include "character/walk.h"
-#include "character/walk_windows.h"
 #include "clock_calendar/clock_calendar_commands.h"
 #include "filetools/back_up_commands.h"
 #include "filetools/divide_commands.h"

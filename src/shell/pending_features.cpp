@@ -4,10 +4,6 @@
 #include "shell/commands.h"
 #include "shell/shell.h"
 
-void MailNoticeStart() {
-  MailPhase = 3;
-}
-void MailNoticeFrameStep() {}
 void SclNoticeFrameStep() {}
 void AlarmCheckFrameStep() {}
 int MotionPreviewTick() {
@@ -25,6 +21,7 @@ std::int32_t LayoutChange;
 void LayoutDefault() {}
 
 void PanelPointerOnStage(const Event&) {}
+
 
 void CommandOptionMainCharacter(std::uint32_t) {}
 void CommandOptionAlarmCharacter(std::uint32_t) {}

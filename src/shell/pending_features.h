@@ -7,9 +7,7 @@
 
 #include "platform/event.h"
 
-// Notices.
-void MailNoticeStart();
-void MailNoticeFrameStep();
+// Notices and the pictures of their characters.
 void SclNoticeFrameStep();
 void AlarmCheckFrameStep();
 int MotionPreviewTick();

@@ -1,6 +1,7 @@
 #include "shell/tick.h"
 
 #include "character/motion.h"
+#include "character/notices.h"
 #include "character/walk.h"
 #include "clock_calendar/calendar.h"
 #include "clock_calendar/clock.h"

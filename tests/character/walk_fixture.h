@@ -61,8 +61,8 @@ class WalkFixture : public StageFixture {
   }
 
   static void OnCommand(std::uint32_t command) {
-    if (command == 2203) CommandWalkWindow();
-    if (command == 2208) CommandEndWindows();
+    if (command == 2203) WalkWindowRun();
+    if (command == 2208) EndWindowsRun();
   }
 
   static void WalkTicks(int count) {

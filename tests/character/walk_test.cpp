@@ -38,7 +38,7 @@ TEST_F(WalkTest, WithTheAnimationOffTheOpeningFollowsStraightAwayWithItsSound) {
   OpnHistory.animeOn = 0;
   OpnHistory.soundOn = 1;
   TextCopy(OpnHistory.soundName, kOpnTextSize, "a.wav");
-  CommandStartOpening();
+  WalkForOpening();
   EXPECT_EQ(commands, (std::vector<std::uint32_t>{2202}));
   EXPECT_EQ(OpeningState, 0);
   EXPECT_FALSE(WalkActive);
@@ -47,13 +47,13 @@ TEST_F(WalkTest, WithTheAnimationOffTheOpeningFollowsStraightAwayWithItsSound) {
 
 TEST_F(WalkTest, AWalkingRowOf0OrAWalkingNumberOf0MeansThatTheActionGoesOnWithoutAWalk) {
   SetWalkRow(CharaSet, 0, 0);
-  CommandStartOpening();
+  WalkForOpening();
   EXPECT_EQ(commands, (std::vector<std::uint32_t>{2202}));
   EXPECT_FALSE(WalkActive);
   EXPECT_FALSE(WalkSlots[0].active);
   SetWalkRow(CharaSet, 0, 1);
   WalkCharas[0].number = 0;
-  CommandStartOpening();
+  WalkForOpening();
   EXPECT_EQ(commands, (std::vector<std::uint32_t>{2202, 2202}));
   EXPECT_EQ(OpeningState, 0);
 }
@@ -127,7 +127,7 @@ TEST_F(WalkTest, AMainCharacterBeyondTheSlotsStartsNoWalk) {
 // Steps at the ticks 1, 4, 7, 10, 13; the end at tick 16; the end picture is down
 // to 0 after four ticks more.
 TEST_F(WalkTest, AWalkStepsEveryPeriodEndsWithItsPictureAndOnlyThenTheFileOpens) {
-  CommandStartOpening();
+  WalkForOpening();
   EXPECT_EQ(OpeningState, 1);
   EXPECT_TRUE(commands.empty());
   Then([] {
@@ -263,7 +263,7 @@ TEST_F(WalkTest, AWalkThatLeavesTheScreenStopsAtTheEdgeAndKeepsItsFramesTurning)
 TEST_F(WalkTest, AWalkWithoutFramesStandsStillForGoodAndTheOpeningWaits) {
   SetWalkFrames(CharaSet, 0, 0, 0);
   SetWalkFrames(CharaSet, 0, 1, 0);
-  CommandStartOpening();
+  WalkForOpening();
   WalkTicks(1000);
   EXPECT_TRUE(commands.empty());
   EXPECT_TRUE(WalkActive);
@@ -274,7 +274,7 @@ TEST_F(WalkTest, AWalkWithoutFramesStandsStillForGoodAndTheOpeningWaits) {
 TEST_F(WalkTest, AWalkOfNoStepsGoesStraightToItsEnd) {
   SetWalkCount(CharaSet, 0, 0);
   SetEndWait(CharaSet, 0, 0);
-  CommandStartOpening();
+  WalkForOpening();
   ThenTicks(1);
   WalkTicks(1);
   EXPECT_EQ(commands, (std::vector<std::uint32_t>{2208, 2202}));
@@ -283,7 +283,7 @@ TEST_F(WalkTest, AWalkOfNoStepsGoesStraightToItsEnd) {
 TEST_F(WalkTest, AWindowThatCannotBeMadeIsTriedAgainAtTheNextStep) {
   SetWalkPeriod(CharaSet, 0, 0);
   SetWalkCount(CharaSet, 0, 2);
-  CommandStartOpening();
+  WalkForOpening();
   FaultArm(FaultKind::Window, 1);
   WalkTicks(1);
   EXPECT_TRUE(FaultWasMet());
@@ -310,7 +310,7 @@ TEST_F(WalkTest, EscapeDoesNotCloseAWalkingWindow) {
 TEST_F(WalkTest, WithTheTrailOnTheFirstWindowResetsTheTrailAndTheTrailClosesAtTheWalksEnd) {
   WalkFlags[0] = kWalkTrail;
   SetWalkPeriod(CharaSet, 0, 0);
-  CommandStartOpening();
+  WalkForOpening();
   Then([] {
     EXPECT_EQ(OpenWindowCount(), 2);
     EXPECT_EQ(PlaceOf(WalkWindow()), (Place{486, 338, 60, 50}));
@@ -434,7 +434,7 @@ TEST_F(WalkTest, TheFlagsAreThoseOfTheWalkingRow) {
 
 TEST_F(WalkTest, WithoutAnEndPictureOnlyTheBalloonStands) {
   SetEndFrames(CharaSet, 0, 0, 9);
-  CommandStartOpening();
+  WalkForOpening();
   ThenTicks(15);
   Then([] {
     EXPECT_EQ(WalkSlots[0].endWindow, nullptr);
@@ -449,7 +449,7 @@ TEST_F(WalkTest, WithoutAnEndPictureOnlyTheBalloonStands) {
 
 TEST_F(WalkTest, AnUnusedEndFrameIsFrame0) {
   SetEndFrames(CharaSet, 0, 0, 0);
-  CommandStartOpening();
+  WalkForOpening();
   ThenTicks(15);
   Then([] {
     const WindowHandle end = WalkSlots[0].endWindow;
@@ -465,7 +465,7 @@ TEST_F(WalkTest, AnUnusedEndFrameIsFrame0) {
 }
 
 TEST_F(WalkTest, AnEndPictureThatCannotBeMadeLeavesTheBalloon) {
-  CommandStartOpening();
+  WalkForOpening();
   ThenTicks(14);
   Then([] {
     FaultArm(FaultKind::Window, 1);
@@ -482,7 +482,7 @@ TEST_F(WalkTest, AnEndPictureThatCannotBeMadeLeavesTheBalloon) {
 }
 
 TEST_F(WalkTest, ABalloonThatCannotBeMadeLetsTheEndPhaseRunOut) {
-  CommandStartOpening();
+  WalkForOpening();
   ThenTicks(14);
   Then([] {
     FaultArm(FaultKind::Window, 2);
@@ -575,7 +575,7 @@ TEST_F(WalkTest, AnAbortWithNothingGoingOnDoesNothing) {
 // --- Second starts
 
 TEST_F(WalkTest, ASecondStartInTheSameSlotWalksTheSameWindowFromTheStart) {
-  CommandStartOpening();
+  WalkForOpening();
   ThenTicks(4);
   Then([] {
     ASSERT_EQ(WalkStartOpen(), 0);
