@@ -68,6 +68,10 @@ TEST(MakeSound, IsLevelledBelowTheLimitAndEndsInSilence) {
   }
 }
 
+TEST(MakeSound, PeakIsThatOfTheRecipe) {
+  EXPECT_NEAR(PeakOf(MakeSound("length 0.5\npeak 0.25\ntone from 300\n")), kPeak / 4, 20);
+}
+
 TEST(MakeSound, DecayBringsTheLoudnessDown) {
   const Samples samples = MakeSound("length 1\ntone from 500 attack 0 decay 0.1\n");
   const Samples first(samples.begin(), samples.begin() + 441);
@@ -102,6 +106,8 @@ TEST(MakeSound, BadRecipesNameTheirLine) {
   EXPECT_EQ(ErrorOf("length 21\n"), "line 1: " + length);
   EXPECT_EQ(ErrorOf("length 0\n"), "line 1: " + length);
   EXPECT_EQ(ErrorOf("length x\n"), "line 1: " + length);
+  EXPECT_EQ(ErrorOf("length 1\npeak 1.5\n"), "line 2: the peak is above 0 and at most 1");
+  EXPECT_EQ(ErrorOf("peak 0\n"), "line 1: the peak is above 0 and at most 1");
   EXPECT_EQ(ErrorOf(""), "the recipe makes no sound");
   EXPECT_EQ(ErrorOf("length 1\n"), "the recipe makes no sound");
 }

@@ -1,0 +1,402 @@
+// The whole data set: made once for all these tests, checked, and broken on
+// purpose.
+#include "newdata/data_set.h"
+
+#include <gtest/gtest.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <map>
+#include <stdexcept>
+
+#include "character/character_file.h"
+#include "character/character_tables.h"
+#include "clock_calendar/calendar.h"
+#include "clock_calendar/clock.h"
+#include "newdata/cast.h"
+#include "newdata/host_file.h"
+#include "newdata/picture_files.h"
+#include "newdata/sound.h"
+#include "platform/posix/posix_paths.h"
+#include "scenario/world_list.h"
+#include "shell/big_endian.h"
+#include "shell/settings.h"
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr DataSetDate kDate{2026, 11, 21};
+
+fs::path TestFolder(const std::string& name) {
+  return fs::temp_directory_path() / ("newdata_" + std::to_string(getpid()) + "_" + name);
+}
+
+class DataSetTest : public testing::Test {
+ protected:
+  static void SetUpTestSuite() {
+    made_ = TestFolder("set");
+    MakeDataSet(made_, MIRRELL_ASSETS_DIR, kDate);
+  }
+  static void TearDownTestSuite() { fs::remove_all(made_); }
+
+  void SetUp() override { UseProgramFolder(made_); }
+  void TearDown() override {
+    for (const auto& [file, content] : kept_) WriteHostFile(file, content);
+  }
+
+  static fs::path Made(const fs::path& name) { return made_ / name; }
+  static fs::path MadePicture(const std::string& name) { return made_ / kCharacterFolder / name; }
+
+  // Changes one byte of a file until the test's end.
+  void Spoil(const fs::path& file, std::size_t place, int difference = 1) {
+    Bytes content = Keep(file);
+    ASSERT_LT(place, content.size());
+    content[place] = static_cast<std::uint8_t>(content[place] + difference);
+    WriteHostFile(file, content);
+  }
+
+  void Cut(const fs::path& file, std::size_t size) {
+    Bytes content = Keep(file);
+    content.resize(size);
+    WriteHostFile(file, content);
+  }
+
+  void Remove(const fs::path& file) {
+    Keep(file);
+    fs::remove(file);
+  }
+
+  static bool HasFault(const std::string& fault) {
+    const std::vector<std::string> faults = CheckDataSet(made_);
+    return std::find(faults.begin(), faults.end(), fault) != faults.end();
+  }
+
+ private:
+  Bytes Keep(const fs::path& file) {
+    const Bytes content = ReadHostFile(file);
+    kept_.emplace(file, content);
+    return content;
+  }
+
+  static fs::path made_;
+  std::map<fs::path, Bytes> kept_;
+};
+
+fs::path DataSetTest::made_;
+
+std::map<std::string, Bytes> AllFiles(const fs::path& folder) {
+  std::map<std::string, Bytes> files;
+  for (const auto& entry : fs::recursive_directory_iterator(folder)) {
+    if (entry.is_regular_file()) {
+      files[fs::relative(entry.path(), folder).string()] = ReadHostFile(entry.path());
+    }
+  }
+  return files;
+}
+
+}  // namespace
+
+TEST_F(DataSetTest, IsGood) {
+  EXPECT_EQ(CheckDataSet(Made("")), std::vector<std::string>{});
+}
+
+TEST_F(DataSetTest, HoldsEveryFileByItsName) {
+  const std::map<std::string, Bytes> files = AllFiles(Made(""));
+  std::size_t expected = 4 + 2 + Sounds().size();  // data files, world list
+  for (const char* name : {"mirrell_sys_file.svs", "mirrell_chara_file.dcx", "mirrell_calen_file.dcd",
+                           "mirrell_ClcAlmPerFile.clc"}) {
+    EXPECT_TRUE(files.contains(name)) << name;
+  }
+  const std::string pictures = Cp932ToUtf8("キャラクタ/");
+  for (const CastMember& member : Cast()) {
+    const std::string stem = pictures + "Chara" + std::to_string(member.number);
+    EXPECT_TRUE(files.contains(stem + ".dwc")) << stem;
+    for (std::size_t frame = 1; frame <= member.frames.size(); ++frame) {
+      EXPECT_TRUE(files.contains(stem + "_" + std::to_string(frame) + ".bmp")) << stem << frame;
+      EXPECT_TRUE(files.contains(stem + "_" + std::to_string(frame) + "x.bmp")) << stem << frame;
+    }
+    expected += 1 + 2 * member.frames.size();
+  }
+  for (const char* name :
+       {"旗印.wav", "foot1.wav", "foot2.wav", "ringout.wav", "kan.wav", "po2.wav", "nya.wav"}) {
+    EXPECT_TRUE(files.contains(Cp932ToUtf8(std::string("サウンド/") + name))) << name;
+  }
+  EXPECT_EQ(files.size(), expected);
+}
+
+TEST_F(DataSetTest, SameAssetsAndDateGiveTheSameFiles) {
+  const fs::path again = TestFolder("again");
+  MakeDataSet(again, MIRRELL_ASSETS_DIR, kDate);
+  EXPECT_TRUE(AllFiles(Made("")) == AllFiles(again));
+  fs::remove_all(again);
+}
+
+TEST_F(DataSetTest, CharacterFileHoldsTheFactoryCast) {
+  ASSERT_EQ(CharaFileRead(), 0);
+  ASSERT_EQ(MainCharaCount, 4);
+  for (int i = 0; i < 4; ++i) {
+    EXPECT_EQ(MainCharas[i].charaNo, i + 1);
+    EXPECT_EQ(MainCharas[i].menuFrame, 1);
+    EXPECT_EQ(MainCharas[i].blinkFrame, 2);
+    EXPECT_EQ(CharaSetNo(MainCharas[i].charaSet), i + 1);
+    EXPECT_EQ(WalkStartPoint(MainCharas[i].charaSet), 0);
+    EXPECT_EQ(WalkUse(MainCharas[i].charaSet), 3);
+    EXPECT_EQ(EndWait(MainCharas[i].charaSet), 30);
+    EXPECT_EQ(WalkFrames(MainCharas[i].charaSet, 0, 0), 1);
+    EXPECT_EQ(WalkFrames(MainCharas[i].charaSet, 0, 1), 2);
+    EXPECT_EQ(WalkFrames(MainCharas[i].charaSet, 0, 2), 0);
+    EXPECT_EQ(EndFrames(MainCharas[i].charaSet, 0, 0), 3);
+    EXPECT_EQ(WalkRow(MainCharas[i].charaSet), i + 1);
+  }
+  EXPECT_EQ(WalkStepX(MainCharas[0].charaSet), -14);
+  EXPECT_EQ(WalkStepY(MainCharas[0].charaSet), -12);
+  EXPECT_EQ(WalkPeriod(MainCharas[1].charaSet), 3);
+  EXPECT_EQ(WalkCount(MainCharas[1].charaSet), 49);
+  EXPECT_EQ(WalkStepX(MainCharas[3].charaSet), -28);
+  EXPECT_EQ(WalkCount(MainCharas[3].charaSet), 24);
+  const std::vector<int> alarms(AlarmCharas, AlarmCharas + AlarmCharaCount);
+  EXPECT_EQ(alarms, (std::vector<int>{6, 8, 9}));
+  ASSERT_EQ(WalkCharaCount, 4);
+  ASSERT_EQ(ClockDesignCount, 4);
+  const char* const walkSounds[4] = {"旗印.wav", "foot1.wav", "foot2.wav", "ringout.wav"};
+  const char* const clockSounds[4] = {"kan.wav", "kan.wav", "po2.wav", "nya.wav"};
+  for (int i = 0; i < 4; ++i) {
+    EXPECT_EQ(WalkCharas[i].number, 10 + i);
+    EXPECT_STREQ(WalkCharas[i].sound, walkSounds[i]);
+    EXPECT_EQ(WalkFlags[i], 0);
+    EXPECT_EQ(ClockDesigns[i].number, 15 + i);
+    const ClockDesignFields fields = ClockDesignGet(ClockDesigns[i].record);
+    EXPECT_STREQ(fields.sound, clockSounds[i]);
+    EXPECT_EQ(fields.hourFigures[12][0], 2);
+    EXPECT_EQ(fields.hourFigures[12][6], 8);
+  }
+  EXPECT_EQ(ClockDesignGet(ClockDesigns[0].record).centreX, 72);
+  EXPECT_EQ(ClockDesignGet(ClockDesigns[3].record).hand, kHandAmPm);
+}
+
+TEST_F(DataSetTest, SettingsHoldTheFactorySettings) {
+  ASSERT_EQ(SysFileRead(), 0);
+  EXPECT_EQ(CharaIndex, 0);
+  EXPECT_EQ(StageX, 500);
+  EXPECT_EQ(StageY, 300);
+  EXPECT_EQ(AlarmCharaSel[0], 1);
+  EXPECT_EQ(AlarmCharaSel[1], 1);
+  EXPECT_EQ(AlarmCharaSel[2], 0);
+  EXPECT_EQ(ClockDesign, 255);
+  EXPECT_EQ(ClockShow, 0);
+  EXPECT_EQ(ClockStrikeMode, 1);
+  EXPECT_EQ(ClockSoundOn, 1);
+  EXPECT_EQ(ClockX, 700);
+  EXPECT_EQ(ClockY, 20);
+  EXPECT_EQ(CalenSel, 0);
+  EXPECT_EQ(CalenYearCount, 1);
+  EXPECT_EQ(CalenFirstYear, 26);
+  EXPECT_EQ(CalenCount, 3);
+  EXPECT_EQ(CalenX, 700);
+  EXPECT_EQ(CalenY, 10);
+  EXPECT_EQ(CalenPageSize, 1);
+  EXPECT_EQ(CalenNoteMode, 1);
+  EXPECT_EQ(CalenNearNote, 1);
+  EXPECT_EQ(DefaultSclName[0], '\0');
+  EXPECT_EQ(fs::file_size(Made("mirrell_sys_file.svs")), 172720U);
+  // 1 January 2026 is a Thursday; the 1st of February a Sunday.
+  EXPECT_EQ(CalenMonths[0][0][kMonthFirstWeekday], 3);
+  EXPECT_EQ(CalenMonths[0][1][kMonthFirstWeekday], 6);
+}
+
+TEST_F(DataSetTest, CalendarFileHoldsThreeCalendars) {
+  ASSERT_EQ(CalenFileRead(), 0);
+  ASSERT_EQ(CalenCount, 3);
+  EXPECT_STREQ(CalenNames[0], "月ごとカレンダー");
+  EXPECT_STREQ(CalenNames[1], "1週間カレンダー(日付縦)");
+  EXPECT_STREQ(CalenNames[2], "日めくりカレンダー");
+  EXPECT_STREQ(CalenNames[7], "ユーザー設定カレンダー5");
+  for (int i = 0; i < 3; ++i) EXPECT_EQ(CalenKinds[i], i);
+  EXPECT_EQ(ClockListCount, 4);
+  EXPECT_EQ(fs::file_size(Made("mirrell_calen_file.dcd")),
+            3986U + 3U * 56064U + 3U * 120U + 3U * 26728U + 302U + 4U + 4U * 104U);
+}
+
+TEST_F(DataSetTest, ClockAlarmFileHoldsThreePerformances) {
+  EXPECT_EQ(ClockAlarmFileRead(), 0);
+  EXPECT_EQ(ClockPerformanceCount, 3);
+  EXPECT_EQ(fs::file_size(Made("mirrell_ClcAlmPerFile.clc")), 29U + 3U * 2008U);
+}
+
+TEST_F(DataSetTest, WorldListNamesTheCast) {
+  WorldListRead();
+  EXPECT_EQ(WorldCharaCount, Cast().back().number);
+  for (const CastMember& member : Cast()) {
+    EXPECT_STREQ(WorldCharaName(member.number), member.name);
+    for (std::size_t frame = 0; frame < member.frames.size(); ++frame) {
+      EXPECT_STREQ(WorldFrameName(member.number, static_cast<int>(frame) + 1), member.frames[frame]);
+    }
+  }
+  EXPECT_STREQ(WorldCharaName(5), "");
+}
+
+TEST_F(DataSetTest, FigureIdsFitTheByteOfAMotion) {
+  WorldListRead();
+  EXPECT_LE(WorldFigureCount, 255);
+}
+
+TEST_F(DataSetTest, BlinkKeepsTheOutlineOfTheStandingFrame) {
+  for (int number = 1; number <= 4; ++number) {
+    const Bytes file = ReadHostFile(MadePicture("Chara" + std::to_string(number) + ".dwc"));
+    std::vector<Bytes> frames;
+    for (std::size_t place = 1; place < file.size();) {
+      const std::size_t size = 4 + 4 * std::size_t{GetBE32(&file[place])};
+      frames.emplace_back(file.begin() + static_cast<std::ptrdiff_t>(place),
+                          file.begin() + static_cast<std::ptrdiff_t>(place + size));
+      place += size;
+    }
+    ASSERT_EQ(frames.size(), 20U);
+    EXPECT_TRUE(frames[2] == frames[0]) << number;
+  }
+}
+
+TEST_F(DataSetTest, SoundsDoNotClipAndEndSoftly) {
+  for (const Sound& sound : Sounds()) {
+    const Samples samples = MakeSoundOf(fs::path(MIRRELL_ASSETS_DIR) / "sounds" / sound.recipe);
+    int peak = 0;
+    for (const int sample : samples) peak = std::max(peak, std::abs(sample));
+    EXPECT_GT(peak, 3000) << sound.recipe;
+    EXPECT_LE(peak, kPeak) << sound.recipe;
+    for (std::size_t i = samples.size() - 20; i < samples.size(); ++i) {
+      EXPECT_LT(std::abs(samples[i]), 300) << sound.recipe;
+    }
+    EXPECT_LT(samples.size(), 3U * kSampleRate) << sound.recipe;
+  }
+}
+
+TEST_F(DataSetTest, CheckFindsAChangedMask) {
+  Spoil(MadePicture("Chara1_2x.bmp"), 54 + 600, 1);
+  const std::vector<std::string> faults = CheckDataSet(Made(""));
+  ASSERT_EQ(faults.size(), 1U);
+  EXPECT_EQ(faults[0].rfind("character 1 frame 2: the mask is neither black nor white at ", 0), 0U);
+}
+
+TEST_F(DataSetTest, CheckFindsAMissingPixelOfAMask) {
+  // Three bytes of one white pixel in the lowest row turn black.
+  for (std::size_t i = 0; i < 3; ++i) Spoil(MadePicture("Chara16_1x.bmp"), 54 + 30 + i, 1);
+  EXPECT_TRUE(HasFault("character 16 frame 1: the outline is not that of the mask"));
+}
+
+TEST_F(DataSetTest, CheckFindsAMovedOutlinePoint) {
+  Spoil(MadePicture("Chara10.dwc"), 1 + 4 + 1);
+  EXPECT_TRUE(HasFault("character 10 frame 1: the outline is not that of the mask"));
+}
+
+TEST_F(DataSetTest, CheckFindsAMissingPicture) {
+  Remove(MadePicture("Chara3_3.bmp"));
+  EXPECT_TRUE(HasFault("character 3 frame 3: no picture or no mask of 24 bits"));
+  EXPECT_TRUE(HasFault("main character 3, blink: character 3 has no frame 3"));
+}
+
+TEST_F(DataSetTest, CheckFindsAMissingMask) {
+  Remove(MadePicture("Chara9_5x.bmp"));
+  EXPECT_TRUE(HasFault("character 9 frame 5: no picture or no mask of 24 bits"));
+}
+
+TEST_F(DataSetTest, CheckFindsAPictureOfAnotherSize) {
+  // The width in the info header.
+  Spoil(MadePicture("Chara6_1.bmp"), 18, -1);
+  EXPECT_TRUE(HasFault("character 6 frame 1: picture and mask differ in size"));
+}
+
+TEST_F(DataSetTest, CheckFindsAShortOutlineFile) {
+  Cut(MadePicture("Chara2.dwc"), 100);
+  EXPECT_TRUE(HasFault("character 2: the outline file cannot be read"));
+}
+
+TEST_F(DataSetTest, CheckFindsAMissingSound) {
+  Remove(Made(kSoundFolder) / "nya.wav");
+  EXPECT_TRUE(HasFault("nya.wav: the sound is not there"));
+}
+
+TEST_F(DataSetTest, CheckFindsAShortSound) {
+  Cut(Made(kSoundFolder) / "kan.wav", 1000);
+  EXPECT_TRUE(HasFault("kan.wav: no whole sound"));
+}
+
+TEST_F(DataSetTest, CheckFindsEachMissingDataFile) {
+  for (const char* name : {"mirrell_sys_file.svs", "mirrell_chara_file.dcx", "mirrell_calen_file.dcd",
+                           "mirrell_ClcAlmPerFile.clc"}) {
+    Remove(Made(name));
+    EXPECT_TRUE(HasFault(std::string(name) + " cannot be read"));
+    TearDown();
+  }
+  Remove(MadePicture("EDTCFLAG.edf"));
+  EXPECT_TRUE(HasFault("EDTCFLAG.edf cannot be read"));
+}
+
+TEST_F(DataSetTest, CheckFindsAWrongMagicOfTheSettings) {
+  Spoil(Made("mirrell_sys_file.svs"), 0);
+  EXPECT_TRUE(HasFault("mirrell_sys_file.svs cannot be read"));
+}
+
+TEST_F(DataSetTest, CheckFindsSettingsOfAnotherCharacter) {
+  Spoil(Made("mirrell_sys_file.svs"), 27);  // MenuFrame
+  EXPECT_TRUE(HasFault("the settings hold another main character than its file"));
+}
+
+TEST_F(DataSetTest, CheckFindsAFrameThatIsNotThere) {
+  // MenuFrame of the first main character: behind magic, count and number.
+  Spoil(Made("mirrell_chara_file.dcx"), 23 + 4 + 4 + 3, 15);
+  EXPECT_TRUE(HasFault("main character 1, menu: character 1 has no frame 17"));
+}
+
+TEST_F(DataSetTest, CheckFindsAMonthOfAnotherYear) {
+  Spoil(Made("mirrell_calen_file.dcd"), 3986 + 1);  // weekday of 1 January
+  EXPECT_TRUE(HasFault("calendar 1: month 1 is not one of its year"));
+}
+
+TEST_F(DataSetTest, CheckFindsAFrameWithoutName) {
+  // Figure id of frame 1 of character 1, low byte; the name goes too.
+  const fs::path file = MadePicture("EDTCDATA.edf");
+  Spoil(file, 1440 + 3, -1);
+  EXPECT_TRUE(HasFault("character 1 frame 1: not in use"));
+}
+
+TEST_F(DataSetTest, MakingRefusesADrawingWithOtherFrames) {
+  const fs::path folder = TestFolder("frames");
+  fs::create_directories(folder);
+  const CastMember member{77, Role::Main, "X", {"one", "two"}};
+  WriteHostFile(folder / "x.svg", ReadHostFile(fs::path(MIRRELL_ASSETS_DIR) / "characters" / "chara10.svg"));
+  try {
+    WriteCharacter(member, folder / "x.svg", folder);
+    ADD_FAILURE();
+  } catch (const std::runtime_error& error) {
+    EXPECT_EQ(error.what(), (folder / "x.svg").string() + ": has 3 frames, expected are 2");
+  }
+  fs::remove_all(folder);
+}
+
+TEST_F(DataSetTest, MakingNamesDrawingAndFrameOfABadFigure) {
+  const fs::path folder = TestFolder("pieces");
+  fs::create_directories(folder);
+  const std::string drawing =
+      "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"9\" height=\"9\"><g class=\"frame\" id=\"frame1\">"
+      "<rect x=\"1\" y=\"1\" width=\"2\" height=\"2\"/><rect x=\"5\" y=\"5\" width=\"1\" "
+      "height=\"1\"/></g></svg>";
+  WriteHostFile(folder / "x.svg", Bytes(drawing.begin(), drawing.end()));
+  try {
+    WriteCharacter({77, Role::Main, "X", {"one"}}, folder / "x.svg", folder);
+    ADD_FAILURE();
+  } catch (const std::runtime_error& error) {
+    EXPECT_EQ(error.what(), (folder / "x.svg").string() +
+                                ": frame 1: the figure is in pieces: 4 pixels from 1,1, 1 pixels from 5,5");
+  }
+  fs::remove_all(folder);
+}
+
+TEST_F(DataSetTest, MakingFailsWithoutAssets) {
+  const fs::path folder = TestFolder("none");
+  EXPECT_THROW(MakeDataSet(folder, folder / "assets", kDate), std::runtime_error);
+  fs::remove_all(folder);
+}
+
+TEST(UseProgramFolder, PathsBeyondTheRootBufferAreRefused) {
+  EXPECT_THROW(UseProgramFolder("/tmp/" + std::string(400, 'x')), std::runtime_error);
+}

@@ -1,0 +1,85 @@
+#include <cstring>
+#include <stdexcept>
+#include <string>
+
+#include "clock_calendar/calendar.h"
+#include "newdata/holidays.h"
+#include "newdata/pixels.h"
+#include "newdata/tables.h"
+
+namespace {
+
+constexpr int kFirstYear = 2022;  // the holidays have been these since then
+constexpr int kLastYear = 2099;
+
+constexpr Rgb kHolidayColour{230, 0, 0};
+constexpr Rgb kTickerColour{0, 70, 160};
+
+// The letters of the pages: small enough for the smallest page.
+constexpr int kLetterHeight = 12;
+constexpr int kLetterWidth = 6;
+constexpr int kLetterWeight = 400;
+constexpr char kLetterFace[] = "ＭＳ ゴシック";
+
+void PutColour(unsigned char* to, const Rgb& colour) {
+  to[0] = colour.red;
+  to[1] = colour.green;
+  to[2] = colour.blue;
+}
+
+void FillDefinition(unsigned char* definition, int year) {
+  std::memset(definition, 0, kDefinitionSize);
+  definition[kDefinitionValid] = 1;
+  const std::vector<HolidayRule> rules = HolidayRulesFor(year);
+  for (std::size_t i = 0; i < rules.size(); ++i) {
+    definition[kDefinitionRules + i] = static_cast<unsigned char>(rules[i].kind);
+    unsigned char* parameters = definition + kDefinitionRuleParameters + 2 * i;
+    parameters[0] = static_cast<unsigned char>(rules[i].month);
+    parameters[1] = static_cast<unsigned char>(rules[i].value);
+  }
+  PutColour(definition + kDefinitionColour1, kHolidayColour);
+  PutColour(definition + kDefinitionColour2, kHolidayColour);
+  definition[kDefinitionDesign] = 1;
+  unsigned char* font = definition + kDefinitionFont;
+  PutLE32(font + kFontHeight, kLetterHeight);
+  PutLE32(font + kFontWidth, kLetterWidth);
+  PutLE32(font + kFontWeight, kLetterWeight);
+  static_assert(sizeof kLetterFace <= kFontFaceSize);
+  std::memcpy(font + kFontFace, kLetterFace, sizeof kLetterFace);
+  PutColour(definition + kDefinitionTickerColour, kTickerColour);
+}
+
+// Flags the holidays of a year of the working array that the rules pass over.
+void FlagRemainingHolidays(int yearIndex, int year) {
+  const std::int32_t shown = CalenYearPos;
+  CalenYearPos = yearIndex;
+  for (const MonthDay& date : HolidaysOf(year)) {
+    if (CalenHolidayRule(yearIndex, date.month - 1, date.day - 1, HolidayUse::Drawing) == 0) {
+      CalenHolidayFlagSet(yearIndex, date.month - 1, date.day - 1, true);
+    }
+  }
+  CalenYearPos = shown;
+}
+
+}  // namespace
+
+void FillCalendars(int year) {
+  if (year < kFirstYear || year > kLastYear) {
+    throw std::runtime_error("calendars can begin from " + std::to_string(kFirstYear) + " to " +
+                             std::to_string(kLastYear));
+  }
+  CalenYearsSet(year - 2000);
+  CalenYearCount = 1;
+  CalenYearPos = 0;
+  CalenSel = 0;
+  CalenKind = CalenKinds[CalenSel];
+  CalenPictureOn = 1;
+  std::memset(CalenBackColour, 0, sizeof CalenBackColour);
+  PutColour(CalenBackColour, kWhite);
+  for (int i = 0; i < CalenCount; ++i) FillDefinition(CalenDefinitions[i], year);
+  for (int i = 0; i < kCalenYearMax; ++i) {
+    CalenYearInit(i);
+    if (year + i <= kLastYear) FlagRemainingHolidays(i, year + i);
+  }
+  for (int i = 0; i < CalenCount; ++i) std::memcpy(CalenSheets[i], CalenMonths[0], sizeof CalenSheets[i]);
+}

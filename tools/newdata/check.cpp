@@ -1,0 +1,260 @@
+// Reads a data set back with the product's own readers and compares what belongs
+// together.
+#include <cstring>
+#include <iterator>
+#include <memory>
+#include <set>
+
+#include "character/character_file.h"
+#include "character/character_tables.h"
+#include "character/frames.h"
+#include "character/outline.h"
+#include "clock_calendar/calendar.h"
+#include "clock_calendar/clock.h"
+#include "newdata/data_set.h"
+#include "newdata/host_file.h"
+#include "newdata/outline_file.h"
+#include "newdata/polygon.h"
+#include "platform/posix/posix_paths.h"
+#include "scenario/world_list.h"
+#include "shell/big_endian.h"
+#include "shell/data_file.h"
+#include "shell/dib.h"
+#include "shell/settings.h"
+
+namespace {
+
+struct DibFreer {
+  void operator()(unsigned char* image) const { DibFree(image); }
+};
+using Dib = std::unique_ptr<unsigned char, DibFreer>;
+
+class Checker {
+ public:
+  explicit Checker(std::filesystem::path folder) : folder_(std::move(folder)) {}
+
+  std::vector<std::string> Run() {
+    if (!ReadDataFiles()) return faults_;  // nothing to compare
+    for (int i = 0; i < MainCharaCount; ++i) CheckCharacter(MainCharas[i].charaNo, OutlineKind::Stage);
+    for (int i = 0; i < AlarmCharaCount; ++i) CheckCharacter(AlarmCharas[i], OutlineKind::Bare);
+    for (int i = 0; i < WalkCharaCount; ++i) CheckCharacter(WalkCharas[i].number, OutlineKind::Walker);
+    for (int i = 0; i < ClockDesignCount; ++i) CheckCharacter(ClockDesigns[i].number, OutlineKind::Bare);
+    CheckMainCharacters();
+    CheckDesigns();
+    CheckSettings();
+    CheckCalendars();
+    for (const std::string& sound : sounds_) CheckSound(sound);
+    return faults_;
+  }
+
+ private:
+  void Fault(const std::string& text) { faults_.push_back(text); }
+
+  void Demand(bool good, const std::string& text) {
+    if (!good) Fault(text);
+  }
+
+  bool ReadDataFiles() {
+    FileStatus = 0;
+    Demand(CharaFileRead() == 0, "mirrell_chara_file.dcx cannot be read");
+    Demand(CalenFileRead() == 0, "mirrell_calen_file.dcd cannot be read");
+    Demand(ClockAlarmFileRead() == 0, "mirrell_ClcAlmPerFile.clc cannot be read");
+    FileStatus = 0;  // a wrong magic is told by it alone
+    Demand(SysFileRead() == 0 && FileStatus == 0, "mirrell_sys_file.svs cannot be read");
+    WorldCharaCount = 0;
+    WorldListRead();
+    Demand(WorldCharaCount > 0, "EDTCFLAG.edf cannot be read");
+    return faults_.empty();
+  }
+
+  // The pixels of a mask; an empty set when it is no mask.
+  PixelSet ReadMask(ImageHandle mask, const std::string& name) {
+    PixelSet figure(DibWidth(mask), DibHeight(mask));
+    const unsigned char* bits = DibBits(mask);
+    const int rowBytes = (figure.width * 3 + 3) / 4 * 4;
+    for (int y = 0; y < figure.height; ++y) {
+      const unsigned char* row = bits + static_cast<std::ptrdiff_t>(rowBytes) * (figure.height - 1 - y);
+      for (int x = 0; x < figure.width; ++x) {
+        const int sum = row[3 * x] + row[3 * x + 1] + row[3 * x + 2];
+        if (sum != 0 && sum != 3 * 255) {
+          Fault(name + ": the mask is neither black nor white at " + std::to_string(x) + "," +
+                std::to_string(y));
+          return {};
+        }
+        figure.Set(x, y, sum == 0);
+      }
+    }
+    return figure;
+  }
+
+  static bool Is24Bit(ImageHandle image) {
+    constexpr int kBitCount = 14;  // in the info header
+    return DibBits(image) != nullptr && GetLE16(image + kBitCount) == 24;
+  }
+
+  void CheckFrame(int number, int frame, const Outline& outline, OutlineKind kind) {
+    const std::string name = "character " + std::to_string(number) + " frame " + std::to_string(frame + 1);
+    const Dib picture(DibLoad(CharaBmpPath(number - 1, frame)));
+    const Dib mask(DibLoad(CharaMaskPath(number - 1, frame)));
+    const char* title = WorldFrameName(number, frame + 1);
+    if (!picture && !mask && title[0] == '\0') {
+      Demand(outline.count == 0, name + ": an outline without a picture");
+      return;
+    }
+    Demand(title[0] != '\0', name + ": no name");
+    Demand(number <= WorldCharaCount && WorldCharas[number - 1].figureIds[frame] != 0, name + ": not in use");
+    if (!Is24Bit(picture.get()) || !Is24Bit(mask.get())) {
+      Fault(name + ": no picture or no mask of 24 bits");
+      return;
+    }
+    if (DibWidth(picture.get()) != DibWidth(mask.get()) ||
+        DibHeight(picture.get()) != DibHeight(mask.get())) {
+      Fault(name + ": picture and mask differ in size");
+      return;
+    }
+    const PixelSet figure = ReadMask(mask.get(), name);
+    if (figure.width == 0) return;
+    Polygon polygon;
+    for (int i = 0; i < outline.count; ++i) {
+      polygon.push_back(CornerOfPoint(outline.points[i].x, outline.points[i].y, figure.height, kind));
+    }
+    for (const Probe probe : {Probe::Corner, Probe::Middle}) {
+      if (PolygonPixels(polygon, figure.width, figure.height, probe) != figure) {
+        Fault(name + ": the outline is not that of the mask");
+        return;
+      }
+    }
+  }
+
+  void CheckCharacter(int number, OutlineKind kind) {
+    const std::string name = "character " + std::to_string(number);
+    if (number < 1) {
+      Fault("a character has the number " + std::to_string(number));
+      return;
+    }
+    Demand(WorldCharaName(number)[0] != '\0', name + ": no name");
+    static Outline outlines[kFrameMax];
+    if (OutlineReadAll(number - 1, outlines) != 0) {
+      Fault(name + ": the outline file cannot be read");
+      return;
+    }
+    for (int frame = 0; frame < kFrameMax; ++frame) CheckFrame(number, frame, outlines[frame], kind);
+    DemandFrame(number, 0, name);
+  }
+
+  // A frame, counted from 0, that something plays.
+  void DemandFrame(int number, int frame, const std::string& what) {
+    const Dib picture(frame >= 0 && frame < kFrameMax ? DibLoad(CharaBmpPath(number - 1, frame)) : nullptr);
+    Demand(picture != nullptr,
+           what + ": character " + std::to_string(number) + " has no frame " + std::to_string(frame + 1));
+  }
+
+  void CheckMainCharacters() {
+    Demand(MainCharaCount > 0, "there is no main character");
+    for (int i = 0; i < MainCharaCount; ++i) {
+      const MainChara& main = MainCharas[i];
+      const std::string name = "main character " + std::to_string(i + 1);
+      DemandFrame(main.charaNo, main.menuFrame, name + ", menu");
+      DemandFrame(main.charaNo, main.blinkFrame, name + ", blink");
+      for (const auto* pattern : {&main.bored1Frames, &main.bored2Frames}) {
+        for (const std::int32_t frame : *pattern) {
+          if (frame < 0) break;
+          DemandFrame(main.charaNo, frame, name + ", bored");
+        }
+      }
+      Demand(CharaSetNo(main.charaSet) == main.charaNo, name + ": its record has another number");
+      CheckWalk(main.charaSet, i, name + ", walk");
+    }
+  }
+
+  void CheckWalk(const unsigned char* set, int place, const std::string& name) {
+    const int row = WalkRow(set);
+    if (row < 1 || row > WalkCharaCount || place >= WalkCharaCount) {
+      Fault(name + ": there is no walking character");
+      return;
+    }
+    for (int i = 0; i < kCharaSetFrames; ++i) {
+      if (WalkFrames(set, 0, i) != 0) DemandFrame(WalkCharas[place].number, WalkFrames(set, 0, i) - 1, name);
+      if (EndFrames(set, 0, i) != 0) DemandFrame(WalkCharas[place].number, EndFrames(set, 0, i) - 1, name);
+    }
+    Demand(WalkFrames(set, 0, 0) != 0 && EndFrames(set, 0, 0) != 0, name + ": no frames");
+    for (int i = 0; i < WalkCharaCount; ++i) sounds_.insert(WalkCharas[i].sound);
+  }
+
+  void CheckDesigns() {
+    Demand(ClockDesignCount > 0, "there is no clock design");
+    Demand(ClockListCount == ClockDesignCount, "the calendar file lists other clock designs");
+    for (int i = 0; i < ClockDesignCount; ++i) {
+      const ClockDesignFields fields = ClockDesignGet(ClockDesigns[i].record);
+      for (const auto& hour : fields.hourFigures) {
+        for (const unsigned char figure : hour) {
+          if (figure != 0) DemandFrame(ClockDesigns[i].number, figure - 1, "clock design");
+        }
+      }
+      sounds_.insert(fields.sound);
+    }
+    for (int i = 0; i < ClockPerformanceCount; ++i) {
+      char sound[kPerformanceSoundSize + 1];
+      PerformanceSound(ClockPerformances[i], sound);
+      if (sound[0] != '\0') sounds_.insert(sound);
+    }
+  }
+
+  void CheckSettings() {
+    if (CharaIndex < 0 || CharaIndex >= MainCharaCount) {
+      Fault("the settings name no main character");
+      return;
+    }
+    const MainChara& main = MainCharas[CharaIndex];
+    Demand(MenuFrame == main.menuFrame && BlinkFrame == main.blinkFrame &&
+               BlinkSpeedSel == main.blinkSpeedSel &&
+               std::memcmp(CharaSet, main.charaSet, kCharaSetSize) == 0,
+           "the settings hold another main character than its file");
+    for (const std::int32_t row : AlarmCharaSel) {
+      Demand(row >= 0 && row <= AlarmCharaCount, "the settings name an alarm character that is not there");
+    }
+  }
+
+  void CheckCalendars() {
+    Demand(CalenCount > 0 && CalenSel >= 0 && CalenSel < CalenCount, "there is no calendar");
+    for (int i = 0; i < CalenCount; ++i) {
+      const std::string name = "calendar " + std::to_string(i + 1);
+      Demand(CalenNames[i][0] != '\0', name + ": no name");
+      Demand(CalenDefinitions[i][kDefinitionValid] == 1, name + ": not valid");
+      Demand(CalenDefinitions[i][kDefinitionRules] != 0, name + ": no holiday rules");
+      for (int month = 0; month < kMonthsOfYear; ++month) {
+        const unsigned char* block = CalenSheets[i][month];
+        Demand(block[kMonthDays] == SclDaysInMonth(CalenFirstYear, month) &&
+                   block[kMonthFirstWeekday] == SclFirstWeekday(CalenFirstYear, month),
+               name + ": month " + std::to_string(month + 1) + " is not one of its year");
+      }
+    }
+  }
+
+  void CheckSound(const std::string& cp932) {
+    const std::string name = Cp932ToUtf8(cp932);
+    const std::filesystem::path file = folder_ / kSoundFolder / name;
+    if (!std::filesystem::is_regular_file(file)) {
+      Fault(name + ": the sound is not there");
+      return;
+    }
+    const Bytes content = ReadHostFile(file);
+    constexpr std::size_t kHeader = 44;
+    constexpr std::size_t kDataSize = 40;
+    const bool good = content.size() > kHeader && std::memcmp(content.data(), "RIFF", 4) == 0 &&
+                      std::memcmp(content.data() + 8, "WAVEfmt ", 8) == 0 &&
+                      GetLE32(&content[kDataSize]) == content.size() - kHeader;
+    Demand(good, name + ": no whole sound");
+  }
+
+  std::filesystem::path folder_;
+  std::set<std::string> sounds_;
+  std::vector<std::string> faults_;
+};
+
+}  // namespace
+
+std::vector<std::string> CheckDataSet(const std::filesystem::path& folder) {
+  UseProgramFolder(folder);
+  return Checker(folder).Run();
+}

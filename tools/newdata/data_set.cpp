@@ -1,0 +1,94 @@
+#include "newdata/data_set.h"
+
+#include <algorithm>
+#include <stdexcept>
+
+#include "character/character_file.h"
+#include "character/character_tables.h"
+#include "clock_calendar/calendar.h"
+#include "clock_calendar/clock.h"
+#include "newdata/host_file.h"
+#include "newdata/picture_files.h"
+#include "newdata/tables.h"
+#include "newdata/world_list_file.h"
+#include "platform/posix/posix_paths.h"
+#include "platform/posix/test_clock.h"
+#include "shell/data_file.h"
+#include "shell/settings.h"
+#include "shell/shell.h"
+#include "shell/text.h"
+
+namespace {
+
+constexpr int kFirstPerformance = 1;
+
+void Demand(int result, const char* file) {
+  if (result != 0) {
+    throw std::runtime_error(std::string(file) + " cannot be written, result " + std::to_string(FileStatus));
+  }
+}
+
+// The alarms are off; one that is switched on has a performance.
+void FillAlarms() {
+  for (int slot = 0; slot < kAlarmSlotCount; ++slot) {
+    AlarmSlotPut(slot, AlarmSlot{false, 7, 0, kFirstPerformance, {}});
+  }
+}
+
+// What the settings file keeps of the current character.
+void TakeFirstCharacter() {
+  const MainChara& main = MainCharas[0];
+  CharaIndex = 0;
+  MenuFrame = main.menuFrame;
+  BlinkFrame = main.blinkFrame;
+  std::copy_n(main.bored1Frames, kBoredFrameCount, Bored1Frames);
+  std::copy_n(main.bored2Frames, kBoredFrameCount, Bored2Frames);
+  BoredDelaySel = main.boredDelaySel;
+  BoredSpeedSel = main.boredSpeedSel;
+  BoredRepeatSel = main.boredRepeatSel;
+  BlinkSpeedSel = main.blinkSpeedSel;
+  std::copy_n(main.charaSet, kCharaSetSize, CharaSet);
+}
+
+void WriteDataFiles(const DataSetDate& date) {
+  TestClockSet(LocalTime{date.year, date.month, date.day, 0, 0, 0, 0, 0});
+  SetDateDefaults();
+  CalenStartDefaults();
+  SetFactorySettings();
+  TestClockClear();
+  FillCharacters();
+  FillClocks();
+  FillCalendars(date.year);
+  FillAlarms();
+  // In this order: the writer of the character file sets values that the settings
+  // file takes over.
+  Demand(CharaFileWrite(), "mirrell_chara_file.dcx");
+  TakeFirstCharacter();
+  Demand(CalenFileWrite(), "mirrell_calen_file.dcd");
+  Demand(ClockAlarmFileWrite(), "mirrell_ClcAlmPerFile.clc");
+  Demand(SysFileWrite(), "mirrell_sys_file.svs");
+}
+
+}  // namespace
+
+void UseProgramFolder(const std::filesystem::path& folder) {
+  const std::string path = PosixToProgram(std::filesystem::absolute(folder).lexically_normal().string());
+  if (path.size() >= kRootSize) throw std::runtime_error(folder.string() + ": the path is too long");
+  TextCopy(RootFolder, kRootSize, path.c_str());
+  // A folder that is written with a slash at its end.
+  if (path.size() > 3 && path.back() == '\\') RootFolder[path.size() - 1] = '\0';
+}
+
+void MakeDataSet(const std::filesystem::path& folder, const std::filesystem::path& assets,
+                 const DataSetDate& date) {
+  const std::filesystem::path characters = folder / kCharacterFolder;
+  const std::filesystem::path sounds = folder / kSoundFolder;
+  std::filesystem::create_directories(characters);
+  std::filesystem::create_directories(sounds);
+  WriteCharacters(assets / "characters", characters);
+  WriteHostFile(characters / "EDTCFLAG.edf", WorldFlagFile(Cast()));
+  WriteHostFile(characters / "EDTCDATA.edf", WorldDataFile(Cast()));
+  WriteSounds(assets / "sounds", sounds);
+  UseProgramFolder(folder);
+  WriteDataFiles(date);
+}
