@@ -19,6 +19,7 @@
 #include "newdata/sound.h"
 #include "platform/posix/posix_paths.h"
 #include "scenario/world_list.h"
+#include "schedule/schedule.h"
 #include "shell/big_endian.h"
 #include "shell/settings.h"
 
@@ -352,8 +353,8 @@ TEST_F(DataSetTest, CheckFindsAMonthOfAnotherYear) {
   EXPECT_TRUE(HasFault("calendar 1: month 1 is not one of its year"));
 }
 
-TEST_F(DataSetTest, CheckFindsAFrameWithoutName) {
-  // Figure id of frame 1 of character 1, low byte; the name goes too.
+TEST_F(DataSetTest, CheckFindsAFrameThatIsNotInUse) {
+  // Figure id of frame 1 of character 1, low byte.
   const fs::path file = MadePicture("EDTCDATA.edf");
   Spoil(file, 1440 + 3, -1);
   EXPECT_TRUE(HasFault("character 1 frame 1: not in use"));
