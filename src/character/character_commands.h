@@ -9,3 +9,5 @@ void CommandWalkWindow(std::uint32_t number);            // 2203
 void CommandWalkEnd(std::uint32_t number);               // 2208
 void CommandOptionMainCharacter(std::uint32_t number);   // 2281
 void CommandOptionAlarmCharacter(std::uint32_t number);  // 2282
+void CommandOptionLayout(std::uint32_t number);         // 2283
+void CommandLayoutApply(std::uint32_t number);          // 2374

@@ -10,6 +10,7 @@ unsigned char* previewImage;
 // is nothing to step, to open or to delete.
 void ClockPreviewStep() {}
 void CalenTickerTick() {}
+void ClockWindowOpen() {}
 void CalenWindowOpen() {}
 void CalenFontDelete() {}
 void CalenStickersFree() {}

@@ -13,7 +13,8 @@ void ClockPreviewFree();
 // Steps the ticker of the calendar window.
 void CalenTickerTick();
 
-// Opens the calendar window, FlyingBat3.
+// Open the clock window, FlyingBat6, and the calendar window, FlyingBat3.
+void ClockWindowOpen();
 void CalenWindowOpen();
 
 void CalenFontDelete();

@@ -1,11 +1,11 @@
 // Command 2373: the first run on a machine.
 #include <cstring>
 
+#include "character/layout.h"
 #include "platform/window.h"
 #include "schedule/application_list.h"
 #include "shell/commands.h"
 #include "shell/entry.h"
-#include "shell/pending_features.h"
 #include "shell/settings.h"
 #include "shell/shell.h"
 

@@ -5,7 +5,7 @@
 #include "schedule/table_scroll.h"
 #include "shell/child_controls.h"
 #include "shell/commands.h"
-#include "shell/pending_features.h"
+#include "shell/panel.h"
 #include "shell/shell.h"
 #include "shell/shutdown.h"
 #include "shell/start.h"

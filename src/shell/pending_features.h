@@ -5,8 +5,6 @@
 
 #include <cstdint>
 
-#include "platform/event.h"
-
 // Notices and the pictures of their characters.
 void SclNoticeFrameStep();
 void AlarmCheckFrameStep();
@@ -18,11 +16,3 @@ void OptionPreviewsFree();
 
 // The clock notice.
 bool ClockNoticeWaitIsOver();
-
-// Layout.
-inline constexpr std::int32_t kLayoutAll = 7;
-extern std::int32_t LayoutChange;
-void LayoutDefault();
-
-// The panel.
-void PanelPointerOnStage(const Event& event);

@@ -16,6 +16,7 @@
 #include "schedule/table_scroll.h"
 #include "shell/entry.h"
 #include "shell/file_watch.h"
+#include "shell/panel.h"
 #include "shell/pending_features.h"
 #include "shell/shared_time.h"
 #include "shell/shell.h"
@@ -27,7 +28,6 @@ namespace {
 constexpr std::int32_t kMailUnitTicks = 6000;
 constexpr std::int32_t kFrameDividerReload = 5;
 constexpr std::int32_t kFileWatchTicks = 201;
-constexpr std::int32_t kPanelTop = 1;
 constexpr std::uint32_t kPanelCloseCommand = 2;
 
 void CommandLineStep() {

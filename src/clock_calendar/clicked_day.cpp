@@ -1,0 +1,3 @@
+#include "clock_calendar/clicked_day.h"
+
+std::int32_t CalenClickedDay;

@@ -1,0 +1,47 @@
+#include "clock_calendar/clock_calendar_sizes.h"
+
+#include "character/character_tables.h"
+#include "character/frames.h"
+#include "clock_calendar/calendar.h"
+#include "clock_calendar/clock.h"
+#include "shell/dib.h"
+
+namespace {
+
+struct PictureSize {
+  int width;
+  int height;
+};
+
+PictureSize DesignSize(std::int32_t design) {
+  if (design < 0 || design >= ClockDesignCount || design >= kClockDesignMax) return {0, 0};
+  ImageHandle picture = DibLoad(CharaBmpPath(ClockDesigns[design].number - 1, 0));
+  const PictureSize size = {DibWidth(picture), DibHeight(picture)};
+  DibFree(picture);
+  return size;
+}
+
+// Pages are square; 0, 1 and 2 are the sizes of the settings.
+int PageWidth() {
+  if (CalenPageSize == 0) return 150;
+  return CalenPageSize == 2 ? 250 : 200;
+}
+constexpr int kBelowPage = 20;
+
+}  // namespace
+
+int ClockLayoutWidth() {
+  return DesignSize(ClockDesign).width;
+}
+
+int ClockLayoutHeight() {
+  return DesignSize(0).height;
+}
+
+int CalenLayoutWidth() {
+  return CalenW > 0 ? CalenW : PageWidth();
+}
+
+int CalenLayoutHeight() {
+  return CalenH > 0 ? CalenH : PageWidth() + kBelowPage;
+}

@@ -1,0 +1,270 @@
+// DspDiskMenu, the tool menu panel. Its levels are tables of rows; a sub-level is
+// a panel of its own, which the row's command runs in place of the one on show.
+#include <algorithm>
+
+#include "character/character.h"
+#include "character/motion.h"
+#include "character/stage.h"
+#include "platform/canvas.h"
+#include "platform/dialog.h"
+#include "platform/window.h"
+#include "resources/ids.h"
+#include "schedule/table_scroll.h"
+#include "shell/commands.h"
+#include "shell/panel.h"
+#include "shell/shell.h"
+
+namespace {
+
+constexpr std::int32_t kCloseTicks = 40;  // from the pointer's last move on the stage
+constexpr std::uint32_t kRedrawStage = 2293;
+constexpr int kEscape = 27;
+
+constexpr int kWidth = 200;
+constexpr int kDrawnHeight = 220;  // of the background, whatever the level
+constexpr int kTextX = 10;
+constexpr int kTop = 10;
+constexpr int kRowHeight = 20;
+constexpr int kLastRow = 9;
+constexpr int kStageOverlap = 50;  // a panel on the right covers that much of the stage
+
+constexpr int kRowMax = 8;
+constexpr std::int32_t kStateStays = -1;
+
+struct Row {
+  const char* text;
+  std::int32_t state;     // of MenuPanelState; kStateStays: as it is
+  std::uint32_t command;  // 0: the panel only closes
+};
+
+struct Level {
+  std::int32_t state;
+  int height;
+  int rowCount;
+  Row rows[kRowMax];
+};
+
+constexpr Row kCancel = {" キャンセル  ", 0, 0};
+
+constexpr Level kLevels[] = {
+    {kPanelTop,
+     200,
+     8,
+     {{" ファイル オープン  ", 2, 1900},
+      {" ファイル バックアップ  ", 3, 1901},
+      {" その他のファイル操作  ", kPanelFiles, 1902},
+      {" 操作説明書 ", kStateStays, 2377},
+      {" スケジュール/時間設定 ", kPanelSchedule, 1904},
+      {" アプリケーション", kPanelApplications, 1906},
+      {" オプション  ", kPanelOptions, 1907},
+      {" プログラム終了 ", kStateStays, 1908}}},
+    {kPanelFiles, 80, 3, {{" フォルダースコープ ", 400, 1914}, {" ファイル分割  ", 401, 1915}, kCancel}},
+    // No row leads here: the level is reached by command 1903.
+    {kPanelCommunication, 60, 2, {{" メール受信連絡 ", 500, 1918}, {"BGM自動演奏設定 ", 501, 1921}}},
+    {kPanelSchedule,
+     100,
+     4,
+     {{" スケジュール表 ", 600, 1910},
+      {" 時計表示  ", 601, 1911},
+      {" カレンダー表示  ", 603, 1913},
+      kCancel}},
+    {kPanelApplications,
+     80,
+     3,
+     {{" シナリオライター", 702, 2365}, {" キャラクタエディター", 700, 1927}, kCancel}},
+    {kPanelOptions,
+     100,
+     4,
+     {{" ミルレールキャラクタ", 800, 2281},
+      {" アラームキャラクタ", 800, 2282},
+      {" レイアウト設定 ", 800, 2283},
+      kCancel}},
+};
+
+// Null while no level is on show.
+const Level* LevelOnShow() {
+  for (const Level& level : kLevels) {
+    if (level.state == MenuPanelState) return &level;
+  }
+  return nullptr;
+}
+
+int RowAt(int y) {
+  return std::clamp((y - kTop) / kRowHeight, 0, kLastRow);
+}
+
+int RowTop(int row) {
+  return kTop + row * kRowHeight;
+}
+
+// Fills without an edge.
+void Fill(Canvas* canvas, BrushHandle brush, const Rect& rect) {
+  CanvasPen(canvas, PenNothing());
+  CanvasBrush(canvas, brush);
+  CanvasRectangle(canvas, rect.left, rect.top, rect.right + 1, rect.bottom + 1);
+}
+
+void Paint(WindowHandle panel) {
+  const Level* level = LevelOnShow();
+  Canvas* canvas = level ? CanvasGet(panel) : nullptr;
+  if (!canvas) return;
+  Fill(canvas, FaceBrush, {0, 0, kWidth, kDrawnHeight});
+  // kept: a new panel begins with the row that was marked in the one before, even
+  // if it has no such row.
+  const int top = RowTop(MenuHiLine);
+  Fill(canvas, Brushes[kBrushC8C800], {0, top, kWidth, top + kRowHeight});
+  CanvasBackTransparent(canvas, true);
+  CanvasTextColour(canvas, 0);
+  for (int row = 0; row < level->rowCount; ++row)
+    CanvasText(canvas, kTextX, RowTop(row), level->rows[row].text);
+  CanvasRelease(canvas);
+}
+
+// Beside the stage, on the side where the screen has more room.
+Point PlaceFor(int width, int height) {
+  const bool stageIsLeft = ScreenWidth / 2 > StageX + StageWidth / 2;
+  return {stageIsLeft ? StageX + StageWidth - kStageOverlap : StageX - width,
+          ScreenHeight <= StageY + height ? ScreenHeight - height : StageY};
+}
+
+void Init(WindowHandle panel) {
+  hDiskMenu = panel;
+  const Level* level = LevelOnShow();
+  const int width = kWidth;
+  const int height = level ? level->height : RectHeight(WindowRect(panel));
+  const Point at = PlaceFor(width, height);
+  WindowMove(panel, at.x, at.y, width, height, false);
+  MenuPanelRect = {at.x, at.y, at.x + width, at.y + height};
+}
+
+void Forget(WindowHandle panel) {
+  if (hDiskMenu == panel) hDiskMenu = nullptr;
+}
+
+void End(WindowHandle panel) {
+  Forget(panel);
+  DialogEnd(panel, 0);
+}
+
+// The user leaves the panel without a choice.
+void Dismiss(WindowHandle panel) {
+  if (MenuPanelState != 0) {
+    MenuPanelState = 0;
+    FuncNo = 0;
+    MenuReopenGuard = 0;
+  }
+  End(panel);
+}
+
+void PointerMoved(const Event& event) {
+  MenuCloseCount = kMenuInside;  // from now on the panel closes when the pointer leaves it
+  const Level* level = LevelOnShow();
+  if (!level) return;
+  const int row = RowAt(event.y);
+  if (row >= level->rowCount || row == MenuHiLine) return;
+  MenuHiLine = row;
+  Paint(event.window);
+}
+
+void Pressed(const Event& event) {
+  const Level* level = LevelOnShow();
+  if (!level || (event.keys & kShiftHeld) != 0) return;
+  const int row = RowAt(event.y);
+  if (level->state == kPanelTop) {
+    BoredTimerReset();
+    if (row < kLastRow) MenuHiLine = row;
+  }
+  if (row >= level->rowCount) return;
+  const Row& chosen = level->rows[row];
+  if (chosen.state != kStateStays) MenuPanelState = chosen.state;
+  if (chosen.command != 0) SendCommand(hMainWnd, chosen.command);
+  // A dialog that the command ran has closed the panel long ago. What runs no
+  // dialog only clears the state.
+  if (MenuPanelState == 0 && hDiskMenu == event.window) End(event.window);
+}
+
+bool PanelProc(const Event& event) {
+  switch (event.kind) {
+    case EventKind::Init:
+      Init(event.window);
+      return true;
+    case EventKind::Paint:
+      Paint(event.window);
+      return true;
+    case EventKind::MouseMove:
+      PointerMoved(event);
+      return true;
+    case EventKind::LeftDown:
+      Pressed(event);
+      return true;
+    case EventKind::Char:
+      if (event.key == kEscape) Dismiss(event.window);
+      return true;
+    case EventKind::Command:
+      // From the tick, and from the keyboard: Escape arrives as 2, Enter as 1.
+      if (event.command == 1 || event.command == 2) Dismiss(event.window);
+      return true;
+    case EventKind::Close:
+      End(event.window);
+      return true;
+    case EventKind::Destroy:
+      Forget(event.window);
+      return true;
+    default:
+      return false;
+  }
+}
+
+void OpenTop() {
+  MenuPanelState = kPanelTop;
+  MenuCloseCount = kCloseTicks;
+  if (MenuFrame != 0) {
+    CharaMenuOn();
+    if (StageRedraw != kRedrawNothing) SendCommand(hMainWnd, kRedrawStage);
+  }
+  DialogRun(IDD_DspDiskMenu, hMainWnd, PanelProc);
+  WindowInvalidate(hMainWnd, false);
+}
+
+struct SubPanel {
+  std::uint32_t command;
+  std::int32_t state;  // kStateStays: the level is the one of the moment
+  std::int32_t funcNo;
+};
+constexpr SubPanel kSubPanels[] = {
+    {1902, kPanelFiles, 4},  {1903, kPanelCommunication, 5}, {1904, kPanelSchedule, 8},
+    {1905, kStateStays, 10}, {1906, kPanelApplications, 13}, {1907, kPanelOptions, 19},
+};
+
+void RunSubPanel(const SubPanel& sub) {
+  SendClose(hDiskMenu);
+  FuncNo = sub.funcNo;
+  if (sub.state != kStateStays) MenuPanelState = sub.state;
+  DialogRun(IDD_DspDiskMenu, hMainWnd, PanelProc);
+  // Closed from outside, with nothing chosen: the pointer must be able to open the
+  // panel again, and at this level no tick clears the state.
+  if (hDiskMenu || MenuPanelState != sub.state) return;
+  MenuPanelState = 0;
+  FuncNo = 0;
+}
+
+}  // namespace
+
+void CommandPanelLevel(std::uint32_t number) {
+  for (const SubPanel& sub : kSubPanels) {
+    if (sub.command == number) RunSubPanel(sub);
+  }
+}
+
+void PanelPointerOnStage(const Event& event) {
+  if (MenuPanelState == 0 && MenuReopenGuard == 0) {
+    OpenTop();
+    return;
+  }
+  if (MenuPanelState == kPanelTop) MenuCloseCount = kCloseTicks;
+  if (!WindowHasFocus(hMainWnd)) {
+    TableScrollDirection = ScrollDirection::None;
+  } else if ((event.keys & kLeftHeld) == 0) {
+    TableScrollStop();
+  }
+}

@@ -1,0 +1,135 @@
+#include "shell/popups.h"
+
+#include <gtest/gtest.h>
+
+#include <vector>
+
+#include "clock_calendar/clicked_day.h"
+#include "platform/dialog.h"
+#include "platform/headless/headless.h"
+#include "platform/window.h"
+#include "resources/ids.h"
+#include "shell/commands.h"
+#include "shell/shell.h"
+#include "tests/support/desktop.h"
+
+namespace {
+
+std::vector<std::uint32_t> sentCommands;
+int paints;
+
+bool MainProc(const Event& event) {
+  if (event.kind == EventKind::Command) sentCommands.push_back(event.command);
+  return true;
+}
+
+bool WindowProc(const Event& event) {
+  if (event.kind == EventKind::Paint) ++paints;
+  EXPECT_NE(event.kind, EventKind::Command) << "what was chosen is the main window's";
+  return event.kind != EventKind::Close;
+}
+
+class PopupsTest : public DesktopTest {
+ protected:
+  void SetUp() override {
+    DesktopTest::SetUp();
+    sentCommands.clear();
+    CalenClickedDay = 0;
+    PopupPoint = {12, 34};
+    hMainWnd = MainWindowCreate({"m", "m", 0, 0, 0, MainProc}, 0, 0, 100, 100);
+    window = DialogOpen(IDD_FlyingBat6, hMainWnd, WindowProc);
+    paints = 0;
+  }
+  void TearDown() override {
+    hSclTableWnd = hPlanWnd = hCalenWnd = hClockWnd = nullptr;
+    MainWindowDrop();
+    hMainWnd = nullptr;
+    DesktopTest::TearDown();
+  }
+  WindowHandle window = nullptr;
+};
+using Numbers = std::vector<std::uint32_t>;
+
+TEST_F(PopupsTest, WhatIsChosenForALineOfTheScheduleIsSentToTheMainWindow) {
+  hSclTableWnd = window;
+  for (const std::uint32_t entry : {2209U, 2040U, 2210U, 2211U, 2344U, 2345U}) {
+    sentCommands.clear();
+    ExpectMenu(IDM_SCHEDULE_LINE, entry);
+    CommandSchedulePopup(2039);
+    EXPECT_EQ(sentCommands, Numbers{entry});
+  }
+}
+
+TEST_F(PopupsTest, ThePlanHasTheMenuOfTheSchedule) {
+  hPlanWnd = window;
+  ExpectMenu(IDM_SCHEDULE_LINE, 2211);
+  CommandSchedulePopup(2039);
+  EXPECT_EQ(sentCommands, Numbers{2211});
+}
+
+TEST_F(PopupsTest, WhatIsChosenForADayIsSentAndTheDayStaysClicked) {
+  hCalenWnd = window;
+  for (const std::uint32_t entry : {2276U, 2277U, 2278U}) {
+    sentCommands.clear();
+    CalenClickedDay = 9;
+    ExpectMenu(IDM_CALENDAR_DAY, entry);
+    CommandCalendarPopup(2279);
+    EXPECT_EQ(sentCommands, Numbers{entry});
+    EXPECT_EQ(CalenClickedDay, 9);
+    EXPECT_EQ(paints, 0);
+  }
+}
+
+TEST_F(PopupsTest, WithNothingChosenTheClickedDayIsClearedAndTheCalendarPainted) {
+  hCalenWnd = window;
+  CalenClickedDay = 9;
+  ExpectMenu(IDM_CALENDAR_DAY, 0);
+  CommandCalendarPopup(2279);
+  EXPECT_TRUE(sentCommands.empty());
+  EXPECT_EQ(CalenClickedDay, 0);
+  EXPECT_EQ(paints, 1);
+}
+
+TEST_F(PopupsTest, WhatIsChosenOnTheClockIsSent) {
+  hClockWnd = window;
+  for (const std::uint32_t entry : {2330U, 2339U, 1911U}) {
+    sentCommands.clear();
+    ExpectMenu(IDM_CLOCK, entry);
+    CommandClockPopup(2337);
+    EXPECT_EQ(sentCommands, Numbers{entry});
+    EXPECT_EQ(paints, 0);
+  }
+}
+
+TEST_F(PopupsTest, WithNothingChosenTheClockIsDrawn) {
+  hClockWnd = window;
+  ExpectMenu(IDM_CLOCK, 0);
+  CommandClockPopup(2337);
+  EXPECT_TRUE(sentCommands.empty());
+  EXPECT_EQ(paints, 1);
+}
+
+TEST_F(PopupsTest, WithoutItsWindowNoPopupOpens) {
+  CommandSchedulePopup(2039);
+  CommandCalendarPopup(2279);
+  CommandClockPopup(2337);
+  EXPECT_TRUE(sentCommands.empty());
+}
+
+TEST_F(PopupsTest, APopupMayOpenOnlyWithNoPanelDialogProgressOrPickerOpen) {
+  EXPECT_TRUE(PopupMayOpen());
+  for (WindowHandle* handle :
+       {&hDiskMenu, &hMenuDlg, &hToolDlg, &hSubDlg, &hSnryDlg, &hBackUpDlg, &hSearchDlg, &hFilePickDlg}) {
+    *handle = window;
+    EXPECT_FALSE(PopupMayOpen());
+    *handle = nullptr;
+  }
+  // Modeless feature windows do not matter.
+  for (WindowHandle* handle : {&hClockWnd, &hCalenWnd, &hMailNoticeWnd, &hSclNoticeWnd, &hSclTableWnd}) {
+    *handle = window;
+    EXPECT_TRUE(PopupMayOpen());
+    *handle = nullptr;
+  }
+}
+
+}  // namespace
