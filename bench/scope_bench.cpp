@@ -5,12 +5,22 @@
 //   scope_bench FOLDER [WALKS]
 
 #include <algorithm>
-#include <chrono>
 #include <cstdio>
 #include <cstdlib>
+#include <ctime>
 
 #include "filetools/folder_scope.h"
 #include "platform/posix/posix_paths.h"
+
+namespace {
+
+double Milliseconds() {
+  timespec now{};
+  clock_gettime(CLOCK_MONOTONIC, &now);
+  return static_cast<double>(now.tv_sec) * 1e3 + static_cast<double>(now.tv_nsec) * 1e-6;
+}
+
+}  // namespace
 
 int main(int argc, char** argv) {
   if (argc < 2) {
@@ -21,11 +31,11 @@ int main(int argc, char** argv) {
   const int walks = argc > 2 ? std::max(std::atoi(argv[2]), 1) : 1;
   double best = 0;
   for (int i = 0; i < walks; ++i) {
-    const auto start = std::chrono::steady_clock::now();
+    const double start = Milliseconds();
     areaTotal = 0.0F;
     ScopeFolderSize(folder.c_str());
-    const std::chrono::duration<double, std::milli> took = std::chrono::steady_clock::now() - start;
-    if (i == 0 || took.count() < best) best = took.count();
+    const double took = Milliseconds() - start;
+    if (i == 0 || took < best) best = took;
   }
   std::printf("%.0f bytes, %.1f ms\n", static_cast<double>(areaTotal), best);
   return 0;

@@ -20,6 +20,7 @@ int entries;
 void End(WindowHandle dialog, int count) {
   if (hSearchDlg != dialog) return;
   entries = count;
+  ScopeStepStop();
   progressMode = 0;
   hSearchDlg = nullptr;
   DialogEnd(dialog, 0);
@@ -41,9 +42,10 @@ bool Handle(const Event& event) {
   } else if (command && event.command == kStepCommand) {
     Step(event.window);
   } else if (event.kind == EventKind::Close || (command && (event.command == 1 || event.command == 2))) {
-    ScopeStepStop();
     End(event.window, kStopped);
   } else {
+    // The program may end while a search is running.
+    if (event.kind == EventKind::Destroy) End(event.window, kStopped);
     return false;
   }
   return true;

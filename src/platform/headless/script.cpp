@@ -26,7 +26,10 @@ void Failure(const std::string& text) {
 }
 
 std::string Quoted(const std::string& text) {
-  return "\"" + Cp932ToUtf8(text) + "\"";
+  std::string quoted = "\"";
+  quoted += Cp932ToUtf8(text);
+  quoted += '"';
+  return quoted;
 }
 
 const std::vector<std::string>& HeadlessFailures() {

@@ -27,3 +27,6 @@ std::string PosixDrives();
 
 // The folder that FolderDesktop tells; empty: it cannot be told.
 void PosixDesktopSet(const std::string& folder);
+
+// What DiskSpace tells of every drive that there is; a total of 0: what is true.
+void PosixDiskSpaceSet(unsigned long long total, unsigned long long free);

@@ -1,0 +1,127 @@
+// What the folder scope works on: a drive C: whose room is told, the two work
+// blocks, the shared drawing objects, and a hand that drives the searches.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <string>
+#include <vector>
+
+#include "filetools/folder_scope.h"
+#include "filetools/scope_bars.h"
+#include "filetools/scope_pie.h"
+#include "platform/file.h"
+#include "platform/memory.h"
+#include "platform/posix/posix_paths.h"
+#include "platform/window.h"
+#include "shell/shell.h"
+#include "shell/text.h"
+#include "tests/support/desktop.h"
+
+// A file of that many bytes, without a byte on the disk.
+inline void MakeSized(const std::string& path, std::uintmax_t size) {
+  ASSERT_TRUE(PutFile(path, ""));
+  std::filesystem::resize_file(PosixPath(path.c_str()), size);
+}
+
+inline std::string CurrentOne() {
+  char folder[512];
+  return FolderGetCurrent(folder, sizeof folder) > 0 ? folder : "";
+}
+
+// The names of a folder in the order of the search.
+inline std::vector<std::string> SearchOrder(const std::string& folder) {
+  std::vector<std::string> names;
+  SearchEntry entry;
+  const SearchHandle search = SearchFirst((folder + "\\*.*").c_str(), &entry);
+  for (bool more = search != kNoSearch; more; more = SearchNext(search, &entry)) {
+    if (entry.name[0] != '.') names.emplace_back(entry.name);
+  }
+  SearchClose(search);
+  return names;
+}
+
+class ScopeFixture : public DesktopTest {
+ protected:
+  void SetUp() override {
+    DesktopTest::SetUp();
+    CastBlock = static_cast<unsigned char*>(MemoryAllocate(kCastBlockSize));
+    ScopeBlock = static_cast<unsigned char*>(MemoryAllocate(kScopeBlockSize));
+    for (int i = 0; i < kBrushCount; ++i) Brushes[i] = BrushCreate(kBrushColours[i]);
+    FaceBrush = BrushFace();
+    CharWidth = 8;
+    PosixDiskSpaceSet(8388608, 1048576);
+    ScopeStepReset();
+    scopeFolder[0] = '\0';
+    scopeFolderCount = 0;
+    scopeDriveCount = 0;
+    firstLevelIndex = -1;
+    folderIndex = -1;
+    folderTotal = 0;
+    driveTotal = 0;
+    driveFree = 0;
+    firstLevelTotal = 1;
+    chosenTotal = 0;
+    areaTotal = 0;
+    scopeOverflow = false;
+    scopeBarChart = false;
+    ScopePieDrive.count = 0;
+    ScopePieFolder.count = 0;
+  }
+  void TearDown() override {
+    ScopeStepReset();
+    PosixDiskSpaceSet(0, 0);
+    for (BrushHandle& brush : Brushes) {
+      BrushDelete(brush);
+      brush = nullptr;
+    }
+    FaceBrush = nullptr;
+    MemoryFree(CastBlock);
+    MemoryFree(ScopeBlock);
+    CastBlock = nullptr;
+    ScopeBlock = nullptr;
+    DesktopTest::TearDown();
+  }
+
+  static void Choose(const std::string& folder) {
+    TextCopy(scopeFolder, sizeof scopeFolder, folder.c_str());
+    ScopeSplitPath();
+  }
+
+  // Steps a search to its end; what the last step gave.
+  static int RunSteps(int (*step)()) {
+    int result = 0;
+    while (result == 0) result = step();
+    return result;
+  }
+
+  // As the dialogs do, without them.
+  static void SearchDrive() {
+    ScopeStepReset();
+    scopeDriveCount = RunSteps(ScopeDriveStep) - 1;
+    ScopeSortDrive();
+  }
+  static void SearchFolder() {
+    ScopeStepReset();
+    scopeFolderCount = RunSteps(ScopeFolderStep) - 1;
+    ScopeSortFolder();
+  }
+
+  // The names of an area by rank.
+  static std::vector<std::string> Ranked(ScopeArea area, int count) {
+    std::vector<std::string> names;
+    for (int rank = 0; rank < count; ++rank) {
+      names.emplace_back(ScopeEntryGet(area, ScopeOrder(area, rank)).name);
+    }
+    return names;
+  }
+
+  // The tick's part in a search, until its dialog has closed.
+  static void TicksOfSearch() {
+    while (hSearchDlg) {
+      ASSERT_TRUE(progressMode == 1 || progressMode == 2);
+      SendCommand(hSearchDlg, 2376);
+    }
+  }
+};
