@@ -257,8 +257,7 @@ TEST_F(FolderScopeDialogTest, StopInTheFolderSearchEndsTheStatistics) {
 }
 
 TEST_F(FolderScopeDialogTest, AFolderWith3105EntriesClosesTheStatisticsAtOnceAndSilently) {
-  MakeFolder("C:\\many");
-  for (int i = 0; i < 3105; ++i) PutFile("C:\\many\\" + std::to_string(i), "");
+  MakeMany("C:\\many", 3105);
   Choose("C:\\many");
   Then(TicksOfSearch);
   Then(TicksOfSearch);

@@ -267,8 +267,7 @@ TEST_F(FolderScopeTest, AFolderThatCannotBeSearchedEndsWithACountOfZero) {
 }
 
 TEST_F(FolderScopeTest, AFolderOf3104EntriesIsWhole) {
-  MakeFolder("C:\\many");
-  for (int i = 0; i < 3104; ++i) PutFile("C:\\many\\" + std::to_string(i), "");
+  MakeMany("C:\\many", 3104);
   Choose("C:\\many");
   ScopeStepReset();
   EXPECT_EQ(RunSteps(ScopeFolderStep), 3105);
@@ -280,8 +279,7 @@ TEST_F(FolderScopeTest, AFolderOf3104EntriesIsWhole) {
 }
 
 TEST_F(FolderScopeTest, AFolderOf3105EntriesIsRefused) {
-  MakeFolder("C:\\many");
-  for (int i = 0; i < 3105; ++i) PutFile("C:\\many\\" + std::to_string(i), "");
+  MakeMany("C:\\many", 3105);
   Choose("C:\\many");
   ScopeStepReset();
   EXPECT_EQ(RunSteps(ScopeFolderStep), -1);

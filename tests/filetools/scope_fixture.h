@@ -25,6 +25,15 @@ inline void MakeSized(const std::string& path, std::uintmax_t size) {
   std::filesystem::resize_file(PosixPath(path.c_str()), size);
 }
 
+// A folder with that many empty files, "0" and so on: one file by many names, which
+// is made faster.
+inline void MakeMany(const std::string& folder, int count) {
+  MakeFolder(folder);
+  ASSERT_TRUE(PutFile(folder + "\\0", ""));
+  const std::string path = PosixPath(folder.c_str()) + "/";
+  for (int i = 1; i < count; ++i) std::filesystem::create_hard_link(path + "0", path + std::to_string(i));
+}
+
 inline std::string CurrentOne() {
   char folder[512];
   return FolderGetCurrent(folder, sizeof folder) > 0 ? folder : "";
