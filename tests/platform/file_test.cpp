@@ -1,6 +1,7 @@
 // Files, folders and drives of the native build.
 #include "platform/file.h"
 
+#include <algorithm>
 #include <climits>
 #include <cstring>
 
@@ -21,6 +22,9 @@ std::vector<SearchEntry> FindAll(const char* pattern) {
   const SearchHandle search = SearchFirst(pattern, &entry);
   for (bool more = search != kNoSearch; more; more = SearchNext(search, &entry)) found.push_back(entry);
   SearchClose(search);
+  // Folders tell their entries in an order of their own.
+  std::sort(found.begin(), found.end(),
+            [](const SearchEntry& a, const SearchEntry& b) { return std::strcmp(a.name, b.name) < 0; });
   return found;
 }
 
