@@ -11,6 +11,7 @@ namespace {
 constexpr std::size_t kCharaIndexAt = 20;
 constexpr std::size_t kStageXAt = 84;
 constexpr std::size_t kStageYAt = 88;
+constexpr std::size_t kCharaSetAt = 104;  // its number comes first, low byte first
 
 const std::wstring kSettings = L"mirrell_sys_file.svs";
 
@@ -107,6 +108,7 @@ TEST(Stage, RegionEqualsTheDrawingPixelByPixelForEveryMainCharacter) {
     Companion companion;
     std::vector<unsigned char> settings = ReadWholeFile(companion.File(kSettings));
     PutBig(settings, kCharaIndexAt, character);
+    settings.at(kCharaSetAt) = static_cast<unsigned char>(character + 1);
     WriteWholeFile(companion.File(kSettings), settings);
     companion.Start();
     EXPECT_EQ(RegionDifference(companion, L"Chara" + std::to_wstring(character + 1) + L"_1x.bmp"), 0)
