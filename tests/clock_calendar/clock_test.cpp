@@ -1,0 +1,563 @@
+// The clock's designs, its time and strikes, and its alarms.
+#include "clock_calendar/clock.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <cstring>
+
+#include "scenario/world_list.h"
+#include "shell/text.h"
+#include "tests/support/desktop.h"
+#include "tests/support/records.h"
+
+namespace {
+
+class ClockTest : public DesktopTest {
+ protected:
+  void SetUp() override {
+    DesktopTest::SetUp();
+    ClearRecords();
+  }
+  void TearDown() override {
+    ClearRecords();
+    DesktopTest::TearDown();
+  }
+  // Design 0 with hands of 40 and 60 pixels, made the current one.
+  static void Design(int hand) {
+    ClockDesignFields fields{};
+    fields.hand = hand;
+    fields.hourLength = 40;
+    fields.minuteLength = 60;
+    fields.centreX = 70;
+    fields.centreY = -5;
+    fields.handColour[0] = 1;
+    ClockDesignCount = 1;
+    ClockDesignPut(ClockDesigns[0].record, fields);
+    ClockDesign = 0;
+    ClockReactivate();
+  }
+};
+
+std::string Points(const ClockHandShape& shape, int position) {
+  std::string text;
+  for (int i = 0; i < shape.pointCount; ++i) {
+    const Point& point = shape.points[position][i];
+    text += "(" + std::to_string(point.x) + "," + std::to_string(point.y) + ")";
+  }
+  return text;
+}
+
+// --- Records
+
+TEST_F(ClockTest, ADesignRecordKeepsItsFieldsAtTheirOffsets) {
+  unsigned char record[kClockDesignSize];
+  std::memset(record, 0xEE, sizeof record);
+  ClockDesignFields fields{};
+  fields.hand = 3;
+  fields.repeat = true;
+  fields.strikeMode = 2;
+  fields.soundOn = true;
+  fields.hourLength = 0x1234;
+  fields.minuteLength = 0x2345;
+  fields.centreX = -2;
+  fields.centreY = 300;
+  for (int i = 0; i < 3; ++i) {
+    fields.handColour[i] = static_cast<unsigned char>(10 + i);
+    fields.faceColour[i] = static_cast<unsigned char>(20 + i);
+  }
+  for (int i = 0; i < 7; ++i) fields.strikeDelay[i] = static_cast<std::uint16_t>(1000 + i);
+  for (int hour = 0; hour < 13; ++hour) {
+    for (int i = 0; i < 7; ++i) fields.hourFigures[hour][i] = static_cast<unsigned char>(hour * 7 + i);
+  }
+  TextCopy(fields.sound, sizeof fields.sound, "kan.wav");
+  TextCopy(fields.name, sizeof fields.name, "まるい時計");
+  ClockDesignPut(record, fields);
+  EXPECT_EQ(record[kDesignHand], 3);
+  EXPECT_EQ(record[kDesignHourLength], 0x34);  // low byte first
+  EXPECT_EQ(record[kDesignHourLength + 1], 0x12);
+  EXPECT_EQ(record[kDesignStrikeDelay + 2 * 6], 0xEE);  // 1006 = 0x3EE
+  EXPECT_EQ(record[kDesignStrikeDelay + 2 * 6 + 1], 3);
+  EXPECT_EQ(record[kDesignHourFigures + 12 * 7 + 6], 90);
+  EXPECT_EQ(record[123], 0xEE);  // bytes of no field stay
+  EXPECT_EQ(record[463], 0xEE);
+  const ClockDesignFields back = ClockDesignGet(record);
+  EXPECT_EQ(std::memcmp(&back, &fields, sizeof back), 0);
+}
+
+TEST_F(ClockTest, ADesignRecordOfRandomBytesGivesTerminatedTexts) {
+  unsigned char record[kClockDesignSize];
+  std::memset(record, 0xE5, sizeof record);
+  const ClockDesignFields fields = ClockDesignGet(record);
+  EXPECT_LT(std::strlen(fields.sound), sizeof fields.sound);
+  EXPECT_LT(std::strlen(fields.name), sizeof fields.name);
+  EXPECT_EQ(std::strlen(fields.name) % 2, 0U);  // no pair is split
+}
+
+TEST_F(ClockTest, FiveValuesOfTheListGoIntoEachDesignThatTheListHolds) {
+  ClockDesignCount = 2;
+  ClockListCount = 1;
+  unsigned char* list = ClockList[0];
+  list[0] = 1;
+  list[1] = 2;
+  list[2] = 1;
+  TextCopy(reinterpret_cast<char*>(list + 4), 50, "po2.wav");
+  TextCopy(reinterpret_cast<char*>(list + 54), 50, "鳩時計");
+  for (ClockDesignRow& row : ClockDesigns) {
+    ClockDesignFields old{};
+    old.hand = 4;
+    TextCopy(old.sound, sizeof old.sound, "old.wav");
+    TextCopy(old.name, sizeof old.name, "old");
+    ClockDesignPut(row.record, old);
+  }
+  for (int i = -1; i < kClockDesignMax + 1; ++i) ClockDesignTakeListValues(i);
+  const ClockDesignFields taken = ClockDesignGet(ClockDesigns[0].record);
+  EXPECT_TRUE(taken.repeat);
+  EXPECT_EQ(taken.strikeMode, 2);
+  EXPECT_TRUE(taken.soundOn);
+  EXPECT_STREQ(taken.sound, "po2.wav");
+  EXPECT_STREQ(taken.name, "鳩時計");
+  EXPECT_EQ(taken.hand, 4);
+  EXPECT_STREQ(ClockDesignGet(ClockDesigns[1].record).sound, "old.wav");
+}
+
+TEST_F(ClockTest, TheListTakesTheDesignsAndGivesThemBack) {
+  ClockDesignCount = 2;
+  ClockDesignFields fields{};
+  fields.repeat = true;
+  fields.strikeMode = 1;
+  TextCopy(fields.sound, sizeof fields.sound, "kan.wav");
+  TextCopy(fields.name, sizeof fields.name, std::string(63, 'n').c_str());
+  ClockDesignPut(ClockDesigns[1].record, fields);
+  ClockListTakeDesigns();
+  EXPECT_EQ(ClockListCount, 2);
+  EXPECT_EQ(ClockList[1][kClockListRepeat], 1);
+  EXPECT_EQ(ClockList[1][kClockListStrikeMode], 1);
+  EXPECT_EQ(ClockList[1][kClockListSoundOn], 0);
+  EXPECT_STREQ(reinterpret_cast<const char*>(ClockList[1] + kClockListName), std::string(49, 'n').c_str());
+  std::memset(ClockDesigns[1].record, 0, kClockDesignSize);
+  ClockDesignTakeListValues(1);
+  EXPECT_STREQ(ClockDesignGet(ClockDesigns[1].record).sound, "kan.wav");
+}
+
+TEST_F(ClockTest, AnAlarmSlotKeepsItsFields) {
+  AlarmSlot slot{true, 23, 59, 0x0203, {}};
+  TextCopy(slot.comment, sizeof slot.comment, "起きる");
+  AlarmSlotPut(4, slot);
+  const unsigned char* record = ClockEvents[4];
+  EXPECT_EQ(record[0], 1);
+  EXPECT_EQ(record[1], 23);
+  EXPECT_EQ(record[2], 59);
+  EXPECT_EQ(record[4], 3);
+  EXPECT_EQ(record[5], 2);
+  EXPECT_STREQ(reinterpret_cast<const char*>(record + 6), "起きる");
+  const AlarmSlot back = AlarmSlotGet(4);
+  EXPECT_TRUE(back.enabled);
+  EXPECT_EQ(back.hour, 23);
+  EXPECT_EQ(back.minute, 59);
+  EXPECT_EQ(back.performance, 0x0203);
+  EXPECT_STREQ(back.comment, "起きる");
+  std::memset(ClockEvents[4], 'x', kAlarmSlotSize);
+  EXPECT_EQ(std::strlen(AlarmSlotGet(4).comment), 99U);
+}
+
+// --- The design in force
+
+TEST_F(ClockTest, ActivationTakesKindCentreColoursAndStrikeTables) {
+  ClockDesignFields fields{};
+  fields.hand = kHandArrow;
+  fields.centreX = 11;
+  fields.centreY = 22;
+  const unsigned char hand[3] = {1, 2, 3};
+  const unsigned char face[3] = {4, 5, 6};
+  std::memcpy(fields.handColour, hand, 3);
+  std::memcpy(fields.faceColour, face, 3);
+  fields.strikeDelay[6] = 77;
+  fields.hourFigures[12][6] = 9;
+  ClockDesignCount = 2;
+  ClockDesignPut(ClockDesigns[1].record, fields);
+  ClockWanted = 1;
+  ClockActivate();
+  EXPECT_EQ(ClockDesign, 1);
+  EXPECT_EQ(ClockHandKind, kHandArrow);
+  EXPECT_EQ(ClockCentre.x, 11);
+  EXPECT_EQ(ClockCentre.y, 22);
+  EXPECT_EQ(ClockHandColour, 0x030201U);
+  EXPECT_EQ(ClockFaceColour, 0x060504U);
+  EXPECT_EQ(ClockStrikeDelay[6], 77);
+  EXPECT_EQ(ClockHourFigures[12][6], 9);
+}
+
+TEST_F(ClockTest, EqualHandAndFaceColoursGiveTheFaceItsComplement) {
+  ClockDesignFields fields{};
+  const unsigned char colour[3] = {10, 0, 255};
+  std::memcpy(fields.handColour, colour, 3);
+  std::memcpy(fields.faceColour, colour, 3);
+  ClockDesignCount = 1;
+  ClockDesignPut(ClockDesigns[0].record, fields);
+  ClockWanted = 0;
+  ClockActivate();
+  EXPECT_EQ(ClockHandColour, 0xFF000AU);
+  EXPECT_EQ(ClockFaceColour, 0x00FFF5U);
+}
+
+TEST_F(ClockTest, TheCurrentDesignIsNotActivatedAgainButAReactivationTakesIt) {
+  Design(kHandBar);
+  ClockDesigns[0].record[kDesignHand] = kHandDot;
+  ClockWanted = 0;
+  ClockActivate();
+  EXPECT_EQ(ClockHandKind, kHandBar);
+  ClockReactivate();
+  EXPECT_EQ(ClockHandKind, kHandDot);
+  EXPECT_EQ(ClockDesign, 0);
+}
+
+TEST_F(ClockTest, ANumberWithoutADesignBecomesTheCurrentOneWithNothingToDraw) {
+  Design(kHandBar);
+  for (const int number : {1, 49, 50, 254, 255, -1, 100000}) {
+    ClockDesign = 0;
+    ClockReactivate();
+    ASSERT_EQ(ClockHandKind, kHandBar);
+    ClockWanted = number;
+    ClockActivate();
+    EXPECT_EQ(ClockDesign, number);
+    EXPECT_EQ(ClockHandKind, -1);
+    EXPECT_EQ(ClockHourHand.form, HandForm::None);
+    EXPECT_EQ(ClockMinuteHand.form, HandForm::None);
+    EXPECT_EQ(ClockHourFigures[0][0], 0);
+  }
+  // A count beyond the table does not lead out of it.
+  ClockDesignCount = 1000;
+  ClockWanted = 60;
+  ClockActivate();
+  EXPECT_EQ(ClockHandKind, -1);
+}
+
+TEST_F(ClockTest, EachKindHasItsOutlinesAtTwelve) {
+  const struct {
+    int hand;
+    HandForm hourForm;
+    const char* hour;
+    HandForm minuteForm;
+    const char* minute;
+  } kKinds[] = {
+      {0, HandForm::Line, "(0,0)(0,-40)", HandForm::Line, "(0,0)(0,-60)"},
+      {1, HandForm::Filled, "(3,-3)(0,-40)(-3,-3)(0,0)", HandForm::Filled, "(3,-3)(0,-60)(-3,-3)(0,0)"},
+      {2, HandForm::Arrow, "(0,0)(0,-40)(4,-36)(-4,-36)", HandForm::Line, "(0,0)(0,-60)"},
+      {3, HandForm::Filled, "(2,-13)(0,-40)(-2,-13)", HandForm::None, ""},
+      {4, HandForm::LineDot, "(0,0)(0,-40)", HandForm::Line, "(0,0)(0,-60)"},
+      {5, HandForm::Filled, "(-2,0)(-2,-40)(2,-40)(2,0)", HandForm::Line, "(0,0)(0,-60)"},
+      {6, HandForm::None, "", HandForm::None, ""},
+      {7, HandForm::None, "", HandForm::None, ""},
+      {8, HandForm::None, "", HandForm::None, ""},
+      {255, HandForm::None, "", HandForm::None, ""},
+  };
+  for (const auto& kind : kKinds) {
+    Design(kind.hand);
+    EXPECT_EQ(ClockHourHand.form, kind.hourForm) << kind.hand;
+    EXPECT_EQ(Points(ClockHourHand, 0), kind.hour) << kind.hand;
+    EXPECT_EQ(ClockMinuteHand.form, kind.minuteForm) << kind.hand;
+    EXPECT_EQ(Points(ClockMinuteHand, 0), kind.minute) << kind.hand;
+  }
+}
+
+TEST_F(ClockTest, HandsTurnClockwiseThrough120And60Positions) {
+  Design(kHandDiamond);
+  // A quarter: x goes where minus y was, y where x was.
+  EXPECT_EQ(Points(ClockHourHand, 30), "(3,3)(40,0)(3,-3)(0,0)");
+  EXPECT_EQ(Points(ClockHourHand, 60), "(-3,3)(0,40)(3,3)(0,0)");
+  EXPECT_EQ(Points(ClockHourHand, 90), "(-3,-3)(-40,0)(-3,3)(0,0)");
+  EXPECT_EQ(Points(ClockMinuteHand, 15), "(3,3)(60,0)(3,-3)(0,0)");
+  EXPECT_EQ(Points(ClockMinuteHand, 45), "(-3,-3)(-60,0)(-3,3)(0,0)");
+  Design(kHandLine);
+  // 60 degrees: 40 sin 60 = 34.64, 40 cos 60 = 20; 30 degrees of 60: 30, 51.96.
+  EXPECT_EQ(Points(ClockHourHand, 20), "(0,0)(35,-20)");
+  EXPECT_EQ(Points(ClockMinuteHand, 5), "(0,0)(30,-52)");
+  for (int i = 0; i < 120; ++i) {
+    const Point& tip = ClockHourHand.points[i][1];
+    EXPECT_NEAR(std::hypot(tip.x, tip.y), 40, 0.8) << i;
+  }
+}
+
+TEST_F(ClockTest, HandPositionsFollowHourAndMinute) {
+  EXPECT_EQ(ClockHourPosition(0, 0), 0);
+  EXPECT_EQ(ClockHourPosition(0, 5), 0);
+  EXPECT_EQ(ClockHourPosition(0, 6), 1);
+  EXPECT_EQ(ClockHourPosition(3, 30), 35);
+  EXPECT_EQ(ClockHourPosition(11, 59), 119);
+  EXPECT_EQ(ClockHourPosition(12, 59), 119);
+  EXPECT_EQ(ClockMinutePosition(0), 0);
+  EXPECT_EQ(ClockMinutePosition(59), 59);
+  EXPECT_EQ(ClockMinutePosition(60), 59);
+}
+
+TEST_F(ClockTest, TheDesignDefaultsGoIntoTheSettings) {
+  ClockDesignFields fields{};
+  fields.repeat = true;
+  fields.strikeMode = 2;
+  fields.soundOn = true;
+  TextCopy(fields.sound, sizeof fields.sound, "po2.wav");
+  ClockDesignCount = 1;
+  ClockDesignPut(ClockDesigns[0].record, fields);
+  EXPECT_TRUE(ClockDesignDefaults(0));
+  EXPECT_EQ(ClockStrikeMode, 2);
+  EXPECT_EQ(ClockStrikeSel, 1);
+  EXPECT_EQ(ClockSoundOn, 1);
+  EXPECT_STREQ(ClockSoundName, "po2.wav");
+  ClockStrikeMode = 1;
+  EXPECT_FALSE(ClockDesignDefaults(1));
+  EXPECT_FALSE(ClockDesignDefaults(255));
+  EXPECT_EQ(ClockStrikeMode, 1);
+}
+
+TEST_F(ClockTest, ADesignIsCalledByItsNameOrElseByItsCharacters) {
+  ClockDesignCount = 2;
+  ClockDesignFields fields{};
+  TextCopy(fields.name, sizeof fields.name, "鳩時計");
+  ClockDesignPut(ClockDesigns[0].record, fields);
+  ClockDesigns[1].number = 3;
+  WorldCharaCount = 3;
+  TextCopy(WorldCharas[2].name, sizeof WorldCharas[2].name, "電車");
+  char name[kDesignNameSize + 1];
+  ClockDesignName(0, name);
+  EXPECT_STREQ(name, "鳩時計");
+  ClockDesignName(1, name);
+  EXPECT_STREQ(name, "電車");
+  ClockDesignName(2, name);
+  EXPECT_STREQ(name, "");
+  ClockDesigns[1].number = 4;
+  ClockDesignName(1, name);
+  EXPECT_STREQ(name, "");
+}
+
+// --- Digits
+
+std::string Digits(int hand, int hour, int minute) {
+  char text[kClockTextSize];
+  ClockTimeText(hand, hour, minute, text);
+  return text;
+}
+
+TEST_F(ClockTest, NoonInTheAmPmDesignReadsPmWithHour0AndFivePastMidnightReadsAmWithHour0) {
+  EXPECT_EQ(Digits(kHandAmPm, 12, 0), " PM  0:00");
+  EXPECT_EQ(Digits(kHandAmPm, 0, 5), " AM  0:05");
+  EXPECT_EQ(Digits(kHandAmPm, 11, 59), " AM 11:59");
+  EXPECT_EQ(Digits(kHandAmPm, 23, 10), " PM 11:10");
+}
+
+TEST_F(ClockTest, The24HourDesignReadsTheHourModulo12) {
+  EXPECT_EQ(Digits(kHandDigits, 0, 0), "   0:00");
+  EXPECT_EQ(Digits(kHandDigits, 13, 7), "   1:07");
+  EXPECT_EQ(Digits(kHandDigits, 23, 59), "  11:59");
+}
+
+// --- Redrawing
+
+TEST_F(ClockTest, TheNeedToRedrawIs2ForTheHour1ForTheMinute0Else) {
+  Design(kHandLine);
+  ClockTimeTake(9, 30);
+  EXPECT_EQ(ClockTimeTake(9, 30), 0);
+  EXPECT_EQ(ClockTimeTake(9, 31), 1);
+  EXPECT_EQ(ClockTimeTake(10, 31), 2);
+  EXPECT_EQ(ClockTimeTake(11, 0), 2);
+  // Twelve hours on, the dial is the same.
+  EXPECT_EQ(ClockTimeTake(23, 0), 0);
+  EXPECT_EQ(ClockHour, 23);
+  EXPECT_EQ(ClockHour12, 11);
+}
+
+TEST_F(ClockTest, TheAmPmDesignIsRedrawnForTheHourOfTheDay) {
+  Design(kHandAmPm);
+  ClockTimeTake(11, 0);
+  EXPECT_EQ(ClockTimeTake(23, 0), 2);
+  EXPECT_EQ(ClockTimeTake(23, 0), 0);
+}
+
+// --- Strikes
+
+class ClockStrikeTest : public ClockTest {
+ protected:
+  // Figures 1, 2, 0, 3 at every hour; one tick of wait in each step.
+  void SetUp() override {
+    ClockTest::SetUp();
+    Design(kHandLine);
+    for (auto& delay : ClockStrikeDelay) delay = 1;
+    for (auto& hour : ClockHourFigures) {
+      const unsigned char figures[7] = {1, 2, 0, 3, 0, 0, 0};
+      std::memcpy(hour, figures, 7);
+    }
+    ClockStrikeMode = kStrikeEveryHour;
+    ClockSoundOn = 1;
+    TextCopy(ClockSoundName, sizeof ClockSoundName, "kan.wav");
+  }
+  // The hour strikes; returns the figures tick by tick until the strike is over.
+  static std::string Strike(int hour) {
+    ClockTimeTake((hour + 23) % 24, 59);
+    std::string figures;
+    for (int i = 0; i < 2000; ++i) {
+      ClockTickCheck(hour, 0);
+      if (!ClockStrikeOn) return figures;
+      figures += static_cast<char>('0' + ClockStrikeFigure());
+    }
+    return "endless";
+  }
+  static std::size_t Sounds() { return SoundsPlayed().size(); }
+};
+
+TEST_F(ClockStrikeTest, AStrikeRunsThroughItsSevenStepsWithTheirWaits) {
+  // Each step lasts its wait and the tick that moves on.
+  EXPECT_EQ(Strike(3), "11220033000000");
+  EXPECT_EQ(Sounds(), 1U);
+  EXPECT_EQ(SoundsPlayed()[0], "C:\\mirrell\\サウンド\\kan.wav");
+  ClockStrikeDelay[1] = 4;
+  ClockStrikeDelay[0] = 0;
+  EXPECT_EQ(Strike(4), "1222220033000000");
+}
+
+TEST_F(ClockStrikeTest, Hour0Strikes12TimesWithTheRepeatFlagAndHour1Once) {
+  ClockStrikeSel = 1;
+  std::string twelve;
+  for (int i = 0; i < 12; ++i) twelve += "11220033";
+  EXPECT_EQ(Strike(0), twelve + "000000");
+  EXPECT_EQ(Sounds(), 12U);
+  EXPECT_EQ(Strike(1), "11220033000000");
+  EXPECT_EQ(Sounds(), 13U);
+  EXPECT_EQ(Strike(3), "112200331122003311220033000000");
+  EXPECT_EQ(Sounds(), 16U);
+  EXPECT_EQ(Strike(12), twelve + "000000");
+}
+
+TEST_F(ClockStrikeTest, WithoutTheRepeatFlagEveryHourStrikesOnce) {
+  EXPECT_EQ(Strike(0), "11220033000000");
+  EXPECT_EQ(Strike(11), "11220033000000");
+}
+
+TEST_F(ClockStrikeTest, ARepeatBeginsAtTheFirstStepWithAFigure) {
+  for (auto& hour : ClockHourFigures) {
+    const unsigned char figures[7] = {0, 5, 6, 0, 0, 0, 0};
+    std::memcpy(hour, figures, 7);
+  }
+  ClockStrikeSel = 1;
+  EXPECT_EQ(Strike(2), "005566556600000000");
+}
+
+TEST_F(ClockStrikeTest, StrikeMode0NeverStrikes) {
+  ClockStrikeMode = kStrikeNever;
+  EXPECT_EQ(Strike(12), "");
+  EXPECT_EQ(Sounds(), 0U);
+  EXPECT_EQ(ClockTickCheck(13, 0), 1);  // the dial is drawn all the same
+}
+
+TEST_F(ClockStrikeTest, StrikeMode2StrikesAtTwelveOnly) {
+  ClockStrikeMode = kStrikeAtTwelve;
+  EXPECT_EQ(Strike(11), "");
+  EXPECT_EQ(Strike(12), "11220033000000");
+  EXPECT_EQ(Strike(0), "11220033000000");
+  EXPECT_EQ(Strike(1), "");
+}
+
+TEST_F(ClockStrikeTest, AnyOtherModeStrikesAtTwelveWithoutRepeatsAndEndsAtTheFirstZeroStep) {
+  ClockStrikeMode = 3;
+  ClockStrikeSel = 1;
+  EXPECT_EQ(Strike(12), "1122");
+  EXPECT_EQ(Sounds(), 1U);
+  EXPECT_EQ(Strike(5), "");
+}
+
+TEST_F(ClockStrikeTest, AStrikeBeginsOnlyInMinute0AndOnlyOnce) {
+  ClockTimeTake(2, 58);
+  ClockTickCheck(2, 59);
+  EXPECT_FALSE(ClockStrikeOn);
+  EXPECT_EQ(ClockTickCheck(3, 0), 1);
+  EXPECT_TRUE(ClockStrikeOn);
+  EXPECT_EQ(ClockStrikeFigure(), 1);
+  for (int i = 0; i < 100; ++i) ClockTickCheck(3, 0);
+  EXPECT_FALSE(ClockStrikeOn);
+  EXPECT_EQ(Sounds(), 1U);
+  EXPECT_EQ(ClockTickCheck(3, 0), 0);
+}
+
+TEST_F(ClockStrikeTest, TheClockIsDrawnWhenTheFigureChangesNotBetween) {
+  ClockTimeTake(2, 59);
+  EXPECT_EQ(ClockTickCheck(3, 0), 1);
+  EXPECT_EQ(ClockTickCheck(3, 0), 0);
+  EXPECT_EQ(ClockTickCheck(3, 0), 1);
+  EXPECT_EQ(ClockStrikeFigure(), 2);
+}
+
+TEST_F(ClockStrikeTest, WithTheSoundOffOrWithoutANameNothingIsPlayed) {
+  ClockSoundOn = 0;
+  EXPECT_EQ(Strike(3), "11220033000000");
+  ClockSoundOn = 1;
+  ClockSoundName[0] = '\0';
+  EXPECT_EQ(Strike(3), "11220033000000");
+  EXPECT_EQ(Sounds(), 0U);
+}
+
+TEST_F(ClockStrikeTest, AnHourWithoutFiguresPlaysItsSoundAndEnds) {
+  std::memset(ClockHourFigures, 0, sizeof ClockHourFigures);
+  ClockStrikeSel = 1;
+  EXPECT_EQ(Strike(12), "00000000000000");
+  EXPECT_EQ(Sounds(), 1U);
+}
+
+// --- Alarms
+
+class ClockAlarmTest : public ClockTest {
+ protected:
+  static void Alarm(int slot, int hour, int minute) { AlarmSlotPut(slot, {true, hour, minute, 0, {}}); }
+};
+
+TEST_F(ClockAlarmTest, TheSlotWithThisMinuteFires) {
+  Alarm(3, 7, 30);
+  EXPECT_EQ(ClockAlarmCheck(7, 29), 0);
+  EXPECT_EQ(ClockAlarmSlot, -1);
+  EXPECT_EQ(ClockAlarmCheck(7, 30), 1);
+  EXPECT_EQ(ClockAlarmSlot, 3);
+  EXPECT_EQ(ClockAlarmCheck(7, 30), 0);
+}
+
+TEST_F(ClockAlarmTest, ASlotThatIsNotEnabledDoesNotFire) {
+  AlarmSlotPut(0, {false, 7, 30, 1, {}});
+  EXPECT_EQ(ClockAlarmCheck(7, 30), 0);
+}
+
+TEST_F(ClockAlarmTest, AnAlarmSetToTheCurrentMinuteAfterItsCheckDoesNotFireUntilTheNextDay) {
+  EXPECT_EQ(ClockAlarmCheck(7, 30), 0);
+  Alarm(0, 7, 30);
+  for (int i = 0; i < 1000; ++i) EXPECT_EQ(ClockAlarmCheck(7, 30), 0);
+  EXPECT_EQ(ClockAlarmCheck(7, 31), 0);
+  EXPECT_EQ(ClockAlarmCheck(7, 30), 1);
+}
+
+TEST_F(ClockAlarmTest, OfTwoSlotsWithTheSameTimeTheFirstFiresAndTheNextDayTheSecond) {
+  Alarm(1, 6, 0);
+  Alarm(2, 6, 0);
+  EXPECT_EQ(ClockAlarmCheck(6, 0), 1);
+  EXPECT_EQ(ClockAlarmSlot, 1);
+  EXPECT_EQ(ClockAlarmCheck(6, 1), 0);
+  EXPECT_EQ(ClockAlarmCheck(6, 0), 1);
+  EXPECT_EQ(ClockAlarmSlot, 2);
+  EXPECT_EQ(ClockAlarmCheck(6, 1), 0);
+  EXPECT_EQ(ClockAlarmCheck(6, 0), 1);
+  EXPECT_EQ(ClockAlarmSlot, 1);
+}
+
+TEST_F(ClockAlarmTest, ASlotDoesNotFireTwiceInARowUntilTheDialogWasConfirmed) {
+  Alarm(0, 6, 0);
+  EXPECT_EQ(ClockAlarmCheck(6, 0), 1);
+  EXPECT_EQ(ClockAlarmCheck(6, 1), 0);
+  EXPECT_EQ(ClockAlarmCheck(6, 0), 0);
+  EXPECT_EQ(ClockAlarmCheck(6, 1), 0);
+  ClockAlarmForget();
+  EXPECT_EQ(ClockAlarmCheck(6, 0), 1);
+}
+
+TEST_F(ClockAlarmTest, AfterAResetTheSameMinuteIsComparedAfresh) {
+  EXPECT_EQ(ClockAlarmCheck(6, 0), 0);
+  Alarm(0, 6, 0);
+  ClockAlarmCheckReset();
+  EXPECT_EQ(ClockAlarmCheck(6, 0), 1);
+}
+
+}  // namespace
