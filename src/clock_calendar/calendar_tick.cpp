@@ -5,6 +5,16 @@
 #include "platform/time.h"
 #include "shell/shell.h"
 
+namespace {
+
+void BeginSpanAt(int year) {
+  CalenYearsSet(year);
+  CalenYearsRebuild();
+  CalenYearPos = 0;
+}
+
+}  // namespace
+
 void CalenTakeDefinition() {
   CalenTickerSetup();
   CalenStickersPrepare();
@@ -12,17 +22,20 @@ void CalenTakeDefinition() {
 }
 
 void CalenShowToday() {
-  CalenYearPos = TodayYear - CalenFirstYear;
-  CalenPrepareMonth();
+  const int index = CalenSpanIndex(TodayYear);
+  if (index >= 0) {
+    CalenYearPos = index;
+  } else {
+    BeginSpanAt(TodayYear);
+  }
+  CalenPicturesLoad();
 }
 
 void CalenPrepareMonth() {
   if (CalenYearPos < 0 || CalenYearPos >= std::min<std::int32_t>(CalenYearCount, kCalenYearMax)) {
     const std::int64_t year = std::int64_t{CalenFirstYear} + CalenYearPos;
     // bounded: the settings file may hold any place; today is always a year.
-    CalenYearsSet(year >= 0 && year <= 99 ? static_cast<int>(year) : TodayYear);
-    CalenYearsRebuild();
-    CalenYearPos = 0;
+    BeginSpanAt(year >= 0 && year <= 99 ? static_cast<int>(year) : TodayYear);
   }
   CalenPicturesLoad();
 }

@@ -1,0 +1,412 @@
+#include <gtest/gtest.h>
+#include <unistd.h>
+
+#include <cstring>
+#include <random>
+
+#include "clock_calendar/calendar.h"
+#include "clock_calendar/clock.h"
+#include "platform/posix/faults.h"
+#include "platform/posix/posix_paths.h"
+#include "shell/data_file.h"
+#include "shell/shell.h"
+#include "shell/text.h"
+#include "tests/support/desktop.h"
+#include "tests/support/records.h"
+
+namespace {
+
+const std::string kName = "C:\\mirrell\\mirrell_calen_file.dcd";
+const std::string kMagic = "Mirrell Calender File:";
+
+std::string BE32(std::uint32_t value) {
+  std::string bytes(4, '\0');
+  PutBE32(bytes.data(), value);
+  return bytes;
+}
+
+// Random bytes, the same for the same seed.
+std::string Noise(std::size_t size, std::uint32_t seed) {
+  std::mt19937 random(seed);
+  std::string bytes(size, '\0');
+  for (char& byte : bytes) byte = static_cast<char>(random());
+  return bytes;
+}
+
+// What stands before the sheets; the names are terminated.
+std::string Head(std::uint32_t count) {
+  std::string head = kMagic + BE32(count);
+  for (std::uint32_t i = 0; i < 30; ++i) {
+    std::string name = "calendar " + std::to_string(i);
+    name.resize(129, '\0');
+    head += name;
+  }
+  return head + Noise(30, 1) + Noise(30, 2) + Noise(30, 3);
+}
+
+// A whole file with `count` calendars and `designs` clock design records.
+std::string WholeFile(std::uint32_t count, std::uint32_t designs) {
+  return Head(count) + Noise(count * 56064, 4) + Noise(count * 120, 5) + Noise(count * 26728, 6) +
+         Noise(302, 7) + BE32(designs) + Noise(designs * 104, 8);
+}
+
+template <typename T>
+std::string Bytes(const T& table) {
+  return {reinterpret_cast<const char*>(&table), sizeof table};
+}
+
+class CalendarFileTest : public DesktopTest {
+ protected:
+  void SetUp() override {
+    DesktopTest::SetUp();
+    ClearRecords();
+    // Today, which the reader brings on show, is in the span.
+    TodayYear = 26;
+    CalenFirstYear = 26;
+    CalenYearCount = 1;
+  }
+  void TearDown() override {
+    ClearRecords();
+    DesktopTest::TearDown();
+  }
+};
+
+TEST_F(CalendarFileTest, ThePathIsTheRootFolderAndTheName) {
+  char path[kRootPathSize];
+  CalenFilePath(path, sizeof path);
+  EXPECT_EQ(path, kName);
+}
+
+TEST_F(CalendarFileTest, EveryPartStandsAtItsOffset) {
+  const std::string file = WholeFile(3, 2);
+  ASSERT_EQ(file.size(), 3986U + 3 * (56064 + 120 + 26728) + 302 + 4 + 2 * 104);
+  PutFile(kName, file);
+  EXPECT_EQ(CalenFileRead(), 0);
+  EXPECT_EQ(FileStatus, 0);
+  EXPECT_EQ(CalenCount, 3);
+  for (int i = 0; i < 30; ++i) {
+    EXPECT_STREQ(CalenNames[i], file.substr(26 + 129 * static_cast<std::size_t>(i), 129).c_str()) << i;
+  }
+  EXPECT_EQ(Bytes(CalenKinds), file.substr(3896, 30));
+  EXPECT_EQ(Bytes(CalenParts), file.substr(3926, 30));
+  EXPECT_EQ(Bytes(CalenPictures), file.substr(3956, 30));
+  for (std::size_t i = 0; i < 3; ++i) {
+    EXPECT_TRUE(Bytes(CalenSheets[i]) == file.substr(3986 + 56064 * i, 56064)) << i;
+    EXPECT_TRUE(Bytes(CalenSheetFlags[i]) == file.substr(3986 + 3 * 56064 + 120 * i, 120)) << i;
+    EXPECT_TRUE(Bytes(CalenDefinitions[i]) == file.substr(3986 + 3 * 56184 + 26728 * i, 26728)) << i;
+  }
+  const std::size_t tail = 3986 + 3 * (56064 + 120 + 26728);
+  EXPECT_TRUE(Bytes(CalenStickers) == file.substr(tail, 302));
+  EXPECT_EQ(ClockListCount, 2);
+  EXPECT_TRUE(Bytes(ClockList[0]) + Bytes(ClockList[1]) == file.substr(tail + 306, 208));
+  EXPECT_EQ(CalenDefinitions[3][5], 0);
+}
+
+TEST_F(CalendarFileTest, SavingCopiesTheFirstWorkingYearIntoTheSelectedSheetAndSetsTheFirstPictureSwitch) {
+  PutFile(kName, WholeFile(3, 2));
+  ASSERT_EQ(CalenFileRead(), 0);
+  std::string expected = FileBytes(kName);
+  const std::string year = Noise(sizeof CalenMonths, 9);
+  const std::string flags = Noise(sizeof CalenMonthFlags, 10);
+  std::memcpy(CalenMonths, year.data(), year.size());
+  std::memcpy(CalenMonthFlags, flags.data(), flags.size());
+  CalenPictures[0] = 0;
+  CalenSel = 1;
+  EXPECT_EQ(CalenFileWrite(), 0);
+  expected.replace(3986 + 56064, 56064, year.substr(0, 56064));
+  expected.replace(3986 + 3 * 56064 + 120, 120, flags.substr(0, 120));
+  expected[3956] = 1;
+  EXPECT_TRUE(FileBytes(kName) == expected);
+}
+
+TEST_F(CalendarFileTest, SavingTwiceGivesTheSameFile) {
+  PutFile(kName, WholeFile(2, 1));
+  ASSERT_EQ(CalenFileRead(), 0);
+  ASSERT_EQ(CalenFileWrite(), 0);
+  const std::string first = FileBytes(kName);
+  ASSERT_EQ(CalenFileRead(), 0);
+  ASSERT_EQ(CalenFileWrite(), 0);
+  EXPECT_TRUE(FileBytes(kName) == first);
+}
+
+TEST_F(CalendarFileTest, ASelectionThatIsNoCalendarSavesIntoTheFirstSheet) {
+  CalenCount = 1;
+  CalenMonths[0][0][5] = 77;
+  for (const int sel : {-1, 30, 2147483647}) {
+    CalenSel = sel;
+    CalenSheets[0][0][5] = 0;
+    EXPECT_EQ(CalenFileWrite(), 0);
+    EXPECT_EQ(CalenSheets[0][0][5], 77) << sel;
+  }
+}
+
+TEST_F(CalendarFileTest, ACountOutOfTheSettingsFileIsHeldInsideTheTableWhenWriting) {
+  const struct {
+    std::int32_t count;
+    std::size_t size;
+  } kCases[] = {{-1, 3986 + 306}, {31, 3986 + 30 * 82912 + 306}, {2147483647, 3986 + 30 * 82912 + 306}};
+  for (const auto& item : kCases) {
+    CalenCount = item.count;
+    EXPECT_EQ(CalenFileWrite(), 0);
+    EXPECT_EQ(FileBytes(kName).size(), item.size) << item.count;
+    EXPECT_EQ(CalenFileRead(), 0);
+  }
+}
+
+TEST_F(CalendarFileTest, AMissingFileGivesMinus1AndLeavesTheCalendars) {
+  CalenCount = 5;
+  TextCopy(CalenNames[0], kCalenNameSize, "old");
+  EXPECT_EQ(CalenFileRead(), -1);
+  EXPECT_EQ(FileStatus, -1);
+  EXPECT_EQ(CalenCount, 5);
+  EXPECT_STREQ(CalenNames[0], "old");
+}
+
+TEST_F(CalendarFileTest, AShortMagicGivesFileStatusMinus2AndReturnsMinus1AndAWrongOneGivesMinus2) {
+  PutFile(kName, kMagic.substr(0, 21));
+  EXPECT_EQ(CalenFileRead(), -1);
+  EXPECT_EQ(FileStatus, -2);
+  std::string file = WholeFile(1, 0);
+  file[21] = ';';
+  PutFile(kName, file);
+  EXPECT_EQ(CalenFileRead(), -2);
+  EXPECT_EQ(FileStatus, -2);
+}
+
+TEST_F(CalendarFileTest, CountsBeyondTheTableAreBadContent) {
+  for (const std::uint32_t count : {31U, 0x7FFFFFFFU, 0x80000000U, 0xFFFFFFFFU}) {
+    CalenCount = 4;
+    PutFile(kName, Head(count) + std::string(100000, 'x'));
+    EXPECT_EQ(CalenFileRead(), -2) << count;
+    EXPECT_EQ(FileStatus, -2) << count;
+    EXPECT_EQ(CalenCount, 4) << count;
+  }
+}
+
+TEST_F(CalendarFileTest, AListThatCountsMoreDesignsThanThereCanBeIsNoList) {
+  for (const std::uint32_t designs : {51U, 0xFFFFFFFFU, 0x7FFFFFFFU}) {
+    ClockListCount = 9;
+    PutFile(kName, WholeFile(1, 0).substr(0, 3986 + 82912 + 302) + BE32(designs) + Noise(60 * 104, 1));
+    EXPECT_EQ(CalenFileRead(), 0);
+    EXPECT_EQ(ClockListCount, 0) << designs;
+  }
+  PutFile(kName, WholeFile(1, 50));
+  EXPECT_EQ(CalenFileRead(), 0);
+  EXPECT_EQ(ClockListCount, 50);
+}
+
+TEST_F(CalendarFileTest, ThirtyCalendarsFit) {
+  const std::string file = WholeFile(30, 50);
+  PutFile(kName, file);
+  EXPECT_EQ(CalenFileRead(), 0);
+  EXPECT_EQ(CalenCount, 30);
+  EXPECT_TRUE(Bytes(CalenDefinitions[29]) == file.substr(3986 + 30 * 56184 + 29 * 26728, 26728));
+}
+
+TEST_F(CalendarFileTest, FromTheDefinitionsOnAShortFileIsFilledWithZeros) {
+  const std::string file = WholeFile(2, 1);
+  const std::size_t definitions = 3986 + 2 * 56184;
+  const std::size_t stickers = definitions + 2 * 26728;
+  const auto fill = [] {
+    std::memset(CalenDefinitions, 'o', sizeof CalenDefinitions);
+    std::memset(CalenStickers, 'o', sizeof CalenStickers);
+    std::memset(ClockList, 'o', sizeof ClockList);
+    ClockListCount = 3;
+  };
+  fill();
+  PutFile(kName, file.substr(0, definitions));
+  EXPECT_EQ(CalenFileRead(), 0);
+  EXPECT_TRUE(Bytes(CalenDefinitions[0]) == std::string(26728, '\0'));
+  EXPECT_TRUE(Bytes(CalenDefinitions[1]) == std::string(26728, '\0'));
+  EXPECT_EQ(CalenDefinitions[2][0], 'o');
+  EXPECT_TRUE(Bytes(CalenStickers) == std::string(302, '\0'));
+  EXPECT_EQ(ClockListCount, 0);
+  fill();
+  PutFile(kName, file.substr(0, definitions + 26728 + 100));
+  EXPECT_EQ(CalenFileRead(), 0);
+  EXPECT_TRUE(Bytes(CalenDefinitions[0]) == file.substr(definitions, 26728));
+  EXPECT_TRUE(Bytes(CalenDefinitions[1]) == std::string(26728, '\0'));
+  fill();
+  PutFile(kName, file.substr(0, stickers + 302 + 4 + 103));
+  EXPECT_EQ(CalenFileRead(), 0);
+  EXPECT_TRUE(Bytes(CalenStickers) == file.substr(stickers, 302));
+  EXPECT_EQ(ClockListCount, 1);
+  EXPECT_TRUE(Bytes(ClockList[0]) == std::string(104, '\0'));
+}
+
+TEST_F(CalendarFileTest, EveryTruncationIsToldAndLeavesTheCalendarsUpToTheDefinitions) {
+  const std::string file = WholeFile(1, 2);
+  PutFile(kName, file);
+  const std::string native = PosixPath(kName.c_str());
+  const std::size_t strict = 3986 + 56184;
+  std::vector<std::size_t> sizes;
+  for (std::size_t size = file.size(); size-- > 0;) {
+    // Each byte of the head and of the tail's ends; every 97th of the long blocks.
+    const bool near = size < 4100 || (size > strict - 300 && size < strict + 300) || size > file.size() - 600;
+    if (near || size % 97 == 0) sizes.push_back(size);
+  }
+  std::memset(CalenSheets[0], 'o', sizeof CalenSheets[0]);
+  for (const std::size_t size : sizes) {
+    ASSERT_EQ(truncate(native.c_str(), static_cast<off_t>(size)), 0);
+    if (size < strict) {
+      CalenCount = 7;
+      TextCopy(CalenNames[0], kCalenNameSize, "old");
+      CalenSheets[0][0][0] = CalenSheets[0][11][4671] = 'o';
+      CalenSheetFlags[0][0][0] = 'o';
+    }
+    const int result = CalenFileRead();
+    ASSERT_EQ(result, size >= strict ? 0 : size < 22 ? -1 : -2) << size;
+    ASSERT_EQ(FileStatus, size >= strict ? 0 : -2) << size;
+    if (size < strict) {
+      ASSERT_EQ(CalenCount, 7) << size;
+      ASSERT_STREQ(CalenNames[0], "old") << size;
+      ASSERT_EQ(CalenSheets[0][0][0], 'o') << size;
+      ASSERT_EQ(CalenSheets[0][11][4671], 'o') << size;
+      ASSERT_EQ(CalenSheetFlags[0][0][0], 'o') << size;
+    }
+  }
+}
+
+TEST_F(CalendarFileTest, RandomMutationsStayInsideTheTables) {
+  // With no calendar the file is short and each round cheap; the counts are in it.
+  const std::string image = WholeFile(0, 2);
+  PutFile(kName, image);
+  std::FILE* file = std::fopen(PosixPath(kName.c_str()).c_str(), "r+b");
+  ASSERT_NE(file, nullptr);
+  std::mt19937 random(11);
+  int good = 0;
+  for (int round = 0; round < 100000; ++round) {
+    off_t places[3];
+    for (off_t& place : places) {
+      switch (random() % 8) {
+        case 0:
+          place = 22 + static_cast<off_t>(random() % 4);
+          break;
+        case 1:
+          place = 3986 + 302 + static_cast<off_t>(random() % 4);
+          break;
+        default:
+          place = 26 + static_cast<off_t>(random() % (image.size() - 26));
+      }
+      const char byte = static_cast<char>(random() % 4 == 0 ? random() % 64 : random());
+      ASSERT_EQ(pwrite(fileno(file), &byte, 1, place), 1);
+    }
+    const int result = CalenFileRead();
+    ASSERT_TRUE(result == 0 || result == -2) << round;
+    if (result == 0) ++good;
+    ASSERT_TRUE(CalenCount >= 0 && CalenCount <= kCalenMax) << round;
+    ASSERT_TRUE(ClockListCount >= 0 && ClockListCount <= kClockDesignMax) << round;
+    for (const auto& name : CalenNames) ASSERT_EQ(name[kCalenNameSize - 1], '\0') << round;
+    int chara = 0;
+    int figure = 0;
+    CalenSticker(CalenStickerCount() - 1, &chara, &figure);
+    for (const off_t place : places) {
+      ASSERT_EQ(pwrite(fileno(file), &image[static_cast<std::size_t>(place)], 1, place), 1);
+    }
+  }
+  std::fclose(file);
+  EXPECT_GT(good, 10000);
+}
+
+TEST_F(CalendarFileTest, RandomMutationsOfCalendarsReadAsTheyAre) {
+  const std::string image = WholeFile(2, 2);
+  PutFile(kName, image);
+  std::FILE* file = std::fopen(PosixPath(kName.c_str()).c_str(), "r+b");
+  ASSERT_NE(file, nullptr);
+  std::mt19937 random(12);
+  for (int round = 0; round < 2000; ++round) {
+    const off_t place = 3986 + static_cast<off_t>(random() % (image.size() - 3986 - 306 - 208));
+    const char byte = static_cast<char>(random());
+    ASSERT_EQ(pwrite(fileno(file), &byte, 1, place), 1);
+    CalenSel = static_cast<std::int32_t>(random());
+    ASSERT_EQ(CalenFileRead(), 0);
+    for (int day = 0; day < 31; ++day) CalenHolidayRule(0, round % 12, day, HolidayUse::Drawing);
+    ASSERT_EQ(pwrite(fileno(file), &image[static_cast<std::size_t>(place)], 1, place), 1);
+  }
+  std::fclose(file);
+}
+
+TEST_F(CalendarFileTest, EveryFailingCallOfTheWriterGivesItsResult) {
+  CalenCount = 2;
+  ClockListCount = 1;
+  int calls = 0;
+  for (int nth = 1;; ++nth) {
+    FaultArm(FaultKind::Write, nth);
+    const int result = CalenFileWrite();
+    const bool met = FaultWasMet();
+    FaultClear();
+    if (!met) {
+      EXPECT_EQ(result, 0);
+      break;
+    }
+    EXPECT_EQ(result, -2) << nth;
+    EXPECT_EQ(FileStatus, -2) << nth;
+    ++calls;
+  }
+  // Magic, count, 30 names, three tables; 12 months, 12 records and a definition
+  // for each calendar; stickers, the list's count and its record.
+  EXPECT_EQ(calls, 2 + 30 + 3 + 2 * 25 + 3);
+  FaultArm(FaultKind::Create, 1);
+  EXPECT_EQ(CalenFileWrite(), -1);
+  EXPECT_EQ(FileStatus, -1);
+  FaultClear();
+  EXPECT_FALSE(FileThere(kName));
+  FaultArm(FaultKind::Open, 2);
+  EXPECT_EQ(CalenFileWrite(), -1);
+  EXPECT_EQ(FileStatus, -1);
+}
+
+TEST_F(CalendarFileTest, EveryFailingReadUpToTheDefinitionsLeavesTheCalendars) {
+  PutFile(kName, WholeFile(1, 1));
+  const int strict = 2 + 30 + 3 + 24;
+  for (int nth = 1; nth <= strict; ++nth) {
+    CalenCount = 9;
+    FaultArm(FaultKind::Read, nth);
+    EXPECT_EQ(CalenFileRead(), nth == 1 ? -1 : -2) << nth;
+    EXPECT_EQ(FileStatus, -2) << nth;
+    EXPECT_EQ(CalenCount, 9) << nth;
+  }
+  FaultArm(FaultKind::Read, strict + 1);
+  EXPECT_EQ(CalenFileRead(), 0);
+  FaultClear();
+  EXPECT_EQ(CalenCount, 1);
+}
+
+TEST_F(CalendarFileTest, AfterTheLoadTodaysYearIsOnDisplayWhateverTheSettingsFileSaid) {
+  PutFile(kName, WholeFile(1, 0));
+  for (const std::int32_t first : {20, -2147483647 - 1, 2147483647}) {
+    CalenFirstYear = first;
+    CalenYearPos = 1;
+    EXPECT_EQ(CalenFileRead(), 0);
+    EXPECT_EQ(CalenFirstYear, 26) << first;
+    EXPECT_EQ(CalenYearPos, 0) << first;
+    EXPECT_EQ(CalenMonths[0][10][kMonthFirstWeekday], 6) << first;
+  }
+  CalenYearsSet(25);
+  CalenYearCount = 2;
+  EXPECT_EQ(CalenFileRead(), 0);
+  EXPECT_EQ(CalenFirstYear, 25);
+  EXPECT_EQ(CalenYearPos, 1);
+}
+
+TEST_F(CalendarFileTest, AfterTheLoadTheTickerIsThatOfTheSelectedCalendar) {
+  std::string file = WholeFile(2, 0);
+  const std::size_t definition = 3986 + 2 * 56184 + 26728;
+  file[definition + 26227] = 12;
+  file[definition + 26228] = 4;
+  file[definition + 26229] = static_cast<char>(0x81);
+  file[definition + 26230] = 3;
+  file.replace(definition + 26234, 3, "\x01\x02\x03");
+  PutFile(kName, file);
+  CalenSel = 1;
+  EXPECT_EQ(CalenFileRead(), 0);
+  EXPECT_TRUE(CalenTickerOn);
+  EXPECT_EQ(CalenTickerReach, 7);
+  EXPECT_EQ(CalenTickerStep, 5);
+  EXPECT_EQ(CalenTickerPause, 60);
+  EXPECT_EQ(CalenTickerPlace, 3);
+  EXPECT_EQ(CalenTickerColour[0], 1);
+  EXPECT_EQ(CalenTickerColour[2], 3);
+}
+
+}  // namespace
