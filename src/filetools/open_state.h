@@ -6,14 +6,24 @@
 inline constexpr int kOpnTextSize = 300;
 inline constexpr int kOpnGroupFileMax = 30;
 
-// The part of the open history that the character's walk needs: whether it walks
-// and plays a sound first, the sound's file in the folder "\サウンド", and the
-// walking flags of the character that was chosen last.
+inline constexpr int kOpnFileMax = 200;
+// A new file stands behind the last row before the limit is looked at.
+inline constexpr int kOpnFileRows = kOpnFileMax + 1;
+
+// The known files with the programs chosen for them, and how they are opened. An
+// empty progName is the associated program.
 struct OpnHistoryRec {
-  std::uint8_t animeOn;
-  std::uint8_t soundOn;
+  std::uint8_t fileCount;
+  std::uint8_t openCount[kOpnFileMax];  // kept in the file; nothing raises it
+  char fileName[kOpnFileRows][kOpnTextSize];
+  char filePath[kOpnFileRows][kOpnTextSize];
+  char progName[kOpnFileRows][kOpnTextSize];
+  char progPath[kOpnFileRows][kOpnTextSize];
+  std::uint8_t animeOn;  // the character walks first
+  std::uint8_t soundOn;  // with soundName, a file of the folder "\サウンド"
+  char reservedText[kOpnTextSize];
   char soundName[kOpnTextSize];
-  std::uint8_t balloonFlags;
+  std::uint8_t balloonFlags;  // walking flags of the character that was chosen last
 };
 extern OpnHistoryRec OpnHistory;
 

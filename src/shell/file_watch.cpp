@@ -6,6 +6,7 @@
 #include "character/alarm_images.h"
 #include "character/character.h"
 #include "character/character_file.h"
+#include "character/options.h"
 #include "character/stage.h"
 #include "clock_calendar/calendar.h"
 #include "clock_calendar/clock.h"

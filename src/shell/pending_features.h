@@ -7,12 +7,7 @@
 
 // Notices and the pictures of their characters.
 void SclNoticeFrameStep();
-void AlarmCheckFrameStep();
-int MotionPreviewTick();
 void NoticeCommand(std::uint32_t number);
-
-// Options of the character.
-void OptionPreviewsFree();
 
 // The clock notice.
 bool ClockNoticeWaitIsOver();

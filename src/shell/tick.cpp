@@ -2,6 +2,7 @@
 
 #include "character/motion.h"
 #include "character/notices.h"
+#include "character/options.h"
 #include "character/walk.h"
 #include "clock_calendar/calendar.h"
 #include "clock_calendar/clock.h"

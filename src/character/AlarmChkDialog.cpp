@@ -1,0 +1,62 @@
+// An alarm character plays as a notice would show it.
+
+#include "character/alarm_images.h"
+#include "character/options.h"
+#include "platform/window.h"
+#include "resources/ids.h"
+#include "shell/dialog_family.h"
+#include "shell/shell.h"
+
+namespace {
+
+constexpr int kTemplates[kAlarmRowCount] = {2047, 2048, 2050};  // in DlgIdTool, by row
+constexpr Rect kBox = {10, 10, 290, 170};
+
+AlarmRow checked[kAlarmRowCount];
+int frameNow;
+
+// The row that the open check plays; -1 for none.
+int RowNow() {
+  for (int row = 0; row < kAlarmRowCount; ++row) {
+    if (hToolDlg && DlgIdTool == kTemplates[row]) return row;
+  }
+  return -1;
+}
+
+void Show(int row) {
+  if (checked[row].frameCount > 0) AlarmFrameShow(hToolDlg, kBox, checked[row], frameNow);
+}
+
+bool Proc(const Event& event) {
+  const int row = RowNow();
+  switch (event.kind) {
+    case EventKind::Init:
+      frameNow = kFrameMax;  // the first step goes round to frame 0
+      FrameDivider = 1;
+      return true;
+    case EventKind::Paint:
+      if (row >= 0) Show(row);
+      return true;
+    default:
+      return false;
+  }
+}
+
+}  // namespace
+
+void AlarmCheckRun(WindowHandle owner, int row, int selection) {
+  if (row < 0 || row >= kAlarmRowCount) return;
+  AlarmRowLoad(&checked[row], selection);
+  ToolDialogRun(kTemplates[row], IDD_AlarmChkDialog, owner, Proc);
+}
+
+void AlarmCheckFrameStep() {
+  const int row = RowNow();
+  if (row < 0) return;
+  frameNow = AlarmFrameNext(checked[row], frameNow);
+  Show(row);
+}
+
+void AlarmCheckFree() {
+  for (AlarmRow& row : checked) AlarmRowFree(&row);
+}

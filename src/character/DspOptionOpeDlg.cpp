@@ -1,0 +1,158 @@
+// One motion of a main character, played as the stage would show it.
+
+#include "character/character_tables.h"
+#include "character/frames.h"
+#include "character/motion.h"
+#include "character/options.h"
+#include "platform/canvas.h"
+#include "platform/dialog.h"
+#include "platform/window.h"
+#include "resources/ids.h"
+#include "shell/dialog_family.h"
+#include "shell/dib.h"
+
+namespace {
+
+constexpr int kFirstTemplate = 2021;  // in DlgIdSub, of the menu motion
+constexpr int kTicksOfFrame = 5;
+constexpr int kTextX = 10;
+constexpr int kTextY = 10;
+constexpr int kPictureX = 10;
+constexpr int kPictureBelow = 40;  // of the text
+constexpr int kNoteGap = 16;
+constexpr int kButtonBand = 40;  // pixels at the bottom that the button stands in
+constexpr Colour kRed = MakeColour(255, 0, 0);
+
+struct Texts {
+  const char* name;
+  const char* notSet;
+};
+constexpr Texts kTexts[] = {
+    {"", ""},
+    {"ﾒﾆｭｰ動作", "ﾒﾆｭｰ動作は設定されていません!"},
+    {"瞬き動作", "瞬き動作は設定されていません!"},
+    {"退屈動作1", "退屈動作1は設定されていません!"},
+    {"退屈動作2", "退屈動作2は設定されていません!"},
+};
+
+// What plays: its frames in order with their pictures, and the place on show.
+struct Played {
+  Preview kind = Preview::None;
+  int count = 0;
+  ImageHandle pictures[kBoredLenMax] = {};
+  bool hasOutline[kBoredLenMax] = {};
+  int place = 0;
+  int delay = 0;
+} played;
+
+bool HasOutline(int number, int frame) {
+  static Outline outline;
+  int frameCount = 0;
+  outline.count = 0;
+  OutlineRead(number, frame, &outline, &frameCount);
+  return outline.count > 0;
+}
+
+void Add(int number, int frame) {
+  const bool usable = frame >= 0 && frame < kFrameMax;
+  played.pictures[played.count] = usable ? DibLoad(CharaBmpPath(number, frame)) : nullptr;
+  played.hasOutline[played.count] = usable && HasOutline(number, frame);
+  ++played.count;
+}
+
+void AddPattern(int number, const std::int32_t (&frames)[kBoredFrameCount]) {
+  for (int i = 0; i < kBoredLenMax && frames[i] >= 0; ++i) Add(number, frames[i]);
+}
+
+void Free() {
+  for (ImageHandle picture : played.pictures) DibFree(picture);
+  played = Played{};
+}
+
+void Load(const MainChara& chara, Preview kind) {
+  Free();
+  played.kind = kind;
+  played.delay = kTicksOfFrame;
+  const int number = chara.charaNo - 1;
+  switch (kind) {
+    case Preview::Menu:
+      if (chara.menuFrame > 0) Add(number, chara.menuFrame);
+      break;
+    case Preview::Blink:
+      if (chara.blinkFrame <= 0) break;
+      Add(number, 0);
+      Add(number, chara.blinkFrame);
+      break;
+    case Preview::Bored1:
+      AddPattern(number, chara.bored1Frames);
+      break;
+    case Preview::Bored2:
+      AddPattern(number, chara.bored2Frames);
+      break;
+    case Preview::None:
+      break;
+  }
+}
+
+void Draw(Canvas* canvas, int width, int height) {
+  CanvasBrush(canvas, BrushFace());
+  CanvasPen(canvas, PenNothing());
+  CanvasRectangle(canvas, 0, 0, width + 1, height + 1);
+  CanvasBackTransparent(canvas, true);
+  const Texts& texts = kTexts[static_cast<int>(played.kind)];
+  if (played.count == 0) {
+    CanvasText(canvas, kTextX, kTextY, texts.notSet);
+    return;
+  }
+  CanvasText(canvas, kTextX, kTextY, texts.name);
+  if (!played.hasOutline[played.place]) {
+    CanvasTextColour(canvas, kRed);
+    CanvasText(canvas, kTextX + CanvasTextWidth(canvas, texts.name) + kNoteGap, kTextY, "(枠取りなし)");
+  }
+  DibDraw(canvas, kPictureX, kTextY + kPictureBelow, played.pictures[played.place]);
+}
+
+void Paint(WindowHandle dialog) {
+  Canvas* screen = CanvasGet(dialog);
+  if (!screen) return;
+  const Rect client = WindowClientRect(dialog);
+  const int height = client.bottom > kButtonBand ? client.bottom - kButtonBand : 0;
+  Canvas* memory = CanvasMemory(screen, client.right, height);
+  if (memory) {
+    Draw(memory, client.right, height);
+    CanvasCopy(screen, 0, 0, client.right, height, memory, 0, 0);
+  } else {
+    CanvasClip(screen, {0, 0, client.right, height});
+    Draw(screen, client.right, height);
+  }
+  CanvasRelease(memory);
+  CanvasRelease(screen);
+}
+
+bool Proc(const Event& event) {
+  if (event.kind != EventKind::Paint) return false;
+  Paint(event.window);
+  return true;
+}
+
+}  // namespace
+
+void MotionPreviewRun(WindowHandle owner, int index, Preview kind) {
+  if (index < 0 || index >= kMainCharaMax) return;  // bounded: no such character
+  Load(MainCharas[index], kind);
+  const int id = kFirstTemplate + static_cast<int>(kind) - static_cast<int>(Preview::Menu);
+  SubDialogRun(id, IDD_DspOptionOpeDlg, owner, Proc);
+  Free();
+}
+
+// A menu motion stands still.
+int MotionPreviewTick() {
+  if (played.kind == Preview::None || played.kind == Preview::Menu || played.count == 0) return 0;
+  if (played.delay != 0) {
+    --played.delay;
+    return 0;
+  }
+  played.delay = kTicksOfFrame;
+  played.place = (played.place + 1) % played.count;
+  return 1;
+}

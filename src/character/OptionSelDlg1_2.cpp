@@ -1,0 +1,153 @@
+// The choice of the main character.
+
+#include "character/chara_set.h"
+#include "character/character.h"
+#include "character/character_commands.h"
+#include "character/character_tables.h"
+#include "character/frames.h"
+#include "character/options.h"
+#include "character/stage.h"
+#include "clock_calendar/calendar.h"
+#include "filetools/open_history.h"
+#include "platform/canvas.h"
+#include "platform/dialog.h"
+#include "platform/window.h"
+#include "resources/ids.h"
+#include "scenario/world_list.h"
+#include "shell/dialog_family.h"
+#include "shell/dib.h"
+#include "shell/settings.h"
+#include "shell/shell.h"
+
+namespace {
+
+constexpr int kTemplate = 2013;  // in DlgIdMenu
+constexpr int kList = 100;
+constexpr int kName = 101;
+constexpr int kOk = 1;
+constexpr int kCancel = 2;
+constexpr std::uint32_t kDetail = 2369;
+
+// First frames of the characters that were shown, by their places in the list.
+ImageHandle previews[kMainCharaMax];
+int shown;     // place of the character on show
+bool changed;  // the choice is to be saved
+
+bool IsListed(int place) {
+  return place >= 0 && place < MainCharaCount && place < kMainCharaMax;
+}
+
+const char* NameOf(int place) {
+  return IsListed(place) ? WorldCharaName(MainCharas[place].charaNo) : "";
+}
+
+Rect PreviewArea(WindowHandle dialog) {
+  const Rect client = WindowClientRect(dialog);
+  return {client.right * 140 / 300, client.bottom * 22 / 130, client.right, client.bottom * 100 / 130};
+}
+
+void DrawPreview(WindowHandle dialog) {
+  Canvas* canvas = CanvasGet(dialog);
+  if (!canvas) return;
+  const Rect area = PreviewArea(dialog);
+  CanvasClip(canvas, area);
+  CanvasBrush(canvas, BrushFace());
+  CanvasPen(canvas, PenNothing());
+  CanvasRectangle(canvas, area.left, area.top, area.right + 1, area.bottom + 1);
+  if (IsListed(shown)) DibDraw(canvas, area.left, area.top, previews[shown]);
+  CanvasRelease(canvas);
+}
+
+void Show(WindowHandle dialog, int place) {
+  shown = place;
+  ControlSetText(dialog, kName, NameOf(place));
+  if (IsListed(place) && !previews[place]) {
+    previews[place] = DibLoad(CharaBmpPath(MainCharas[place].charaNo - 1, 0));
+  }
+  DrawPreview(dialog);
+}
+
+void Fill(WindowHandle dialog) {
+  ListClear(dialog, kList);
+  for (int place = 0; place < MainCharaCount; ++place) ListAdd(dialog, kList, NameOf(place));
+  ListSelect(dialog, kList, IsListed(CharaIndex) ? CharaIndex : -1);
+  Show(dialog, CharaIndex);
+}
+
+// The chosen character becomes the current one. Another one than before is loaded
+// onto the stage, saved, and hands its walk on to the opening of files.
+void Take(WindowHandle dialog) {
+  const int place = ListSelected(dialog, kList);
+  OptionPreviewsFree();
+  if (!IsListed(place) || !CharaSelect(place)) return;
+  StageRedraw = kRedrawReload;
+  changed = true;
+  if (WalkRow(CharaSet) != 0) OpnHisTakeWalkSettings();
+}
+
+void Drop() {
+  OptionPreviewsFree();
+  if (!changed) return;
+  changed = false;
+  SysFileRead();
+  CalenFileRead();
+}
+
+bool Command(const Event& event) {
+  switch (event.command) {
+    case kList:
+      if (event.notice == Notice::SelectChange) Show(event.window, ListSelected(event.window, kList));
+      return true;
+    case kDetail:
+      if (IsListed(shown)) CharacterDetailRun(event.window, shown);
+      return true;
+    case kOk:
+      Take(event.window);
+      MenuDialogEnd(event.window, kOk);
+      return true;
+    case kCancel:
+      Drop();
+      MenuDialogEnd(event.window, kCancel);
+      return true;
+    default:
+      return true;
+  }
+}
+
+bool Proc(const Event& event) {
+  switch (event.kind) {
+    case EventKind::Init:
+      Fill(event.window);
+      return true;
+    case EventKind::Command:
+      return Command(event);
+    case EventKind::Paint:
+      DrawPreview(event.window);
+      return true;
+    case EventKind::Close:
+      Drop();
+      return false;
+    default:
+      return false;
+  }
+}
+
+}  // namespace
+
+void OptionPreviewsFree() {
+  for (ImageHandle& preview : previews) {
+    DibFree(preview);
+    preview = nullptr;
+  }
+}
+
+void CommandOptionMainCharacter(std::uint32_t) {
+  SendClose(hDiskMenu);
+  WorldListRead();
+  changed = false;
+  MenuDialogRun(kTemplate, IDD_OptionSelDlg1_2, hMainWnd, Proc);
+  if (changed) SysFileWrite();
+  if (StageRedraw == kRedrawReload) SendCommand(hMainWnd, 2293);
+  FuncNo = 0;
+  MenuPanelState = 0;
+}

@@ -1,0 +1,96 @@
+// The choice of the alarm characters.
+
+#include "character/alarm_images.h"
+#include "character/character.h"
+#include "character/character_commands.h"
+#include "character/character_file.h"
+#include "character/character_tables.h"
+#include "character/options.h"
+#include "platform/dialog.h"
+#include "platform/window.h"
+#include "resources/ids.h"
+#include "scenario/world_list.h"
+#include "shell/dialog_family.h"
+#include "shell/settings.h"
+#include "shell/shell.h"
+
+namespace {
+
+constexpr int kTemplate = 2014;  // in DlgIdMenu
+constexpr int kOk = 1;
+constexpr std::uint32_t kCheckMail = 2289;
+constexpr std::uint32_t kCheckSchedule = 2290;
+constexpr std::uint32_t kCheckNote = 2291;
+
+// Rows that the user chooses, and their combo boxes. Row 0, the mail's, cannot be
+// changed.
+constexpr int kFirstRow = kAlarmSchedule;
+constexpr int kFirstCombo = 100;
+constexpr int ComboOf(int row) {
+  return kFirstCombo + row - kFirstRow;
+}
+
+bool changed;  // the choice is to be saved
+
+void Fill(WindowHandle dialog) {
+  for (int row = kFirstRow; row < kAlarmRowCount; ++row) {
+    const int combo = ComboOf(row);
+    ListClear(dialog, combo);
+    ListAdd(dialog, combo, "未設定");
+    for (int i = 0; i < AlarmCharaCount; ++i) ListAdd(dialog, combo, WorldCharaName(AlarmCharas[i]));
+    const std::int32_t selection = AlarmCharaSel[row];
+    // bounded: a selection beyond the list selects nobody.
+    ListSelect(dialog, combo, selection >= 0 && selection <= AlarmCharaCount ? selection : 0);
+  }
+}
+
+void Take(WindowHandle dialog) {
+  for (int row = kFirstRow; row < kAlarmRowCount; ++row) {
+    const int selection = ListSelected(dialog, ComboOf(row));
+    if (selection >= 0) AlarmCharaSel[row] = selection;
+  }
+  AlarmCharaLoad();
+  changed = true;
+}
+
+bool Command(const Event& event) {
+  switch (event.command) {
+    case kCheckMail:
+      AlarmCheckRun(event.window, kAlarmMail, AlarmCharaSel[kAlarmMail]);
+      return true;
+    case kCheckSchedule:
+      AlarmCheckRun(event.window, kAlarmSchedule, ListSelected(event.window, ComboOf(kAlarmSchedule)));
+      return true;
+    case kCheckNote:
+      AlarmCheckRun(event.window, kAlarmNote, ListSelected(event.window, ComboOf(kAlarmNote)));
+      return true;
+    case kOk:
+      Take(event.window);
+      MenuDialogEnd(event.window, kOk);
+      return true;
+    default:
+      return false;
+  }
+}
+
+bool Proc(const Event& event) {
+  if (event.kind == EventKind::Init) {
+    Fill(event.window);
+    return true;
+  }
+  return event.kind == EventKind::Command && Command(event);
+}
+
+}  // namespace
+
+void CommandOptionAlarmCharacter(std::uint32_t) {
+  SendClose(hDiskMenu);
+  WorldListRead();
+  CharaFileRead();
+  changed = false;
+  MenuDialogRun(kTemplate, IDD_OptionSelDlg2, hMainWnd, Proc);
+  if (changed) SysFileWrite();
+  AlarmCheckFree();
+  FuncNo = 0;
+  MenuPanelState = 0;
+}

@@ -1,0 +1,221 @@
+#include "character/alarm_images.h"
+
+#include <gtest/gtest.h>
+
+#include "character/notices.h"
+#include "mail_music/mail_setting.h"
+#include "platform/canvas.h"
+#include "resources/ids.h"
+#include "scenario/world_list.h"
+#include "tests/character/walk_fixture.h"
+
+namespace {
+
+using Kind = DrawCall::Kind;
+
+class AlarmTest : public WalkFixture {
+ protected:
+  void SetUp() override {
+    WalkFixture::SetUp();
+    Empty();
+    // Character 6 has frames 1 and 3, character 8 frame 1 without a mask.
+    PutBmp(6, 1, BmpFile(50, 40));
+    PutMask(6, 1, BmpFile(50, 40, 255, 255, 255));
+    PutBmp(6, 3, BmpFile(30, 20));
+    PutMask(6, 3, BmpFile(30, 20, 0, 0, 0));
+    PutBmp(8, 1, BmpFile(10, 10));
+    AlarmCharaCount = 2;
+    AlarmCharas[0] = 6;
+    AlarmCharas[1] = 8;
+  }
+  void TearDown() override {
+    Empty();
+    WalkFixture::TearDown();
+  }
+  static void Empty() {
+    for (AlarmRow& row : AlarmRows) AlarmRowFree(&row);
+    WorldCharaCount = 0;
+    for (WorldChara& chara : WorldCharas) chara = WorldChara{};
+  }
+  static void Select(int mail, int schedule, int note) {
+    AlarmCharaSel[0] = mail;
+    AlarmCharaSel[1] = schedule;
+    AlarmCharaSel[2] = note;
+    AlarmCharaLoad();
+  }
+};
+
+TEST_F(AlarmTest, EachRowLoadsThePicturesAndMasksOfItsSelection) {
+  Select(1, 2, 0);
+  EXPECT_EQ(AlarmRows[0].frameCount, 3);
+  EXPECT_EQ(AlarmFrameWidth(AlarmRows[0], 0), 50);
+  EXPECT_EQ(AlarmFrameHeight(AlarmRows[0], 2), 20);
+  EXPECT_EQ(AlarmRows[0].pictures[1], nullptr);
+  EXPECT_NE(AlarmRows[0].masks[0], nullptr);
+  EXPECT_EQ(AlarmRows[1].frameCount, 1);
+  EXPECT_EQ(AlarmRows[1].masks[0], nullptr);
+  EXPECT_EQ(AlarmRows[2].frameCount, 0);
+  EXPECT_EQ(AlarmRows[2].pictures[0], nullptr);
+}
+
+TEST_F(AlarmTest, WhereTheMaskIsWhiteThePictureIsBlack) {
+  Select(1, 0, 0);
+  EXPECT_EQ(DibBits(AlarmRows[0].pictures[0])[0], 0);
+  EXPECT_EQ(DibBits(AlarmRows[0].pictures[2])[0], 10);
+}
+
+TEST_F(AlarmTest, SelectionsBeyondTheListAndNumbersBelow1GiveAnEmptyRow) {
+  AlarmCharas[1] = 0;
+  Select(3, -1, 2);
+  for (const AlarmRow& row : AlarmRows) EXPECT_EQ(row.frameCount, 0);
+  AlarmCharas[1] = -2147483647 - 1;
+  AlarmCharas[0] = 2147483647;
+  Select(1000000, 1, 2);
+  for (const AlarmRow& row : AlarmRows) EXPECT_EQ(row.frameCount, 0);
+}
+
+TEST_F(AlarmTest, LoadingAgainFreesWhatWasThere) {
+  Select(1, 1, 1);
+  const int blocks = DiagnosticsLive().blocks;
+  Select(1, 1, 1);
+  EXPECT_EQ(DiagnosticsLive().blocks, blocks);
+  Select(0, 0, 0);
+  EXPECT_EQ(DiagnosticsLive().blocks, blocks - 12);
+}
+
+TEST_F(AlarmTest, TheWorldListMarksTheFramesInUse) {
+  WorldCharaCount = 6;
+  for (int i = 0; i < 5; ++i) WorldCharas[5].figureIds[i] = 1;
+  Select(1, 0, 0);
+  EXPECT_EQ(AlarmRows[0].frameCount, 5);
+  EXPECT_EQ(AlarmFrameWidth(AlarmRows[0], 4), 0);  // in use, but its picture is missing
+}
+
+TEST_F(AlarmTest, FramesGoRound) {
+  Select(1, 0, 0);
+  EXPECT_EQ(AlarmFrameNext(AlarmRows[0], 0), 1);
+  EXPECT_EQ(AlarmFrameNext(AlarmRows[0], 2), 0);
+  EXPECT_EQ(AlarmFrameNext(AlarmRows[0], 20), 0);
+  EXPECT_EQ(AlarmFrameNext(AlarmRows[0], -5), 0);
+  EXPECT_EQ(AlarmFrameNext(AlarmRows[2], 0), 0);
+}
+
+TEST_F(AlarmTest, APictureIsDrawnThroughItsMaskInTwoPasses) {
+  Select(1, 2, 0);
+  DrawingClear();
+  Canvas* canvas = CanvasGet(hMainWnd);
+  AlarmFrameDraw(canvas, 3, 4, AlarmRows[0], 0);
+  AlarmFrameDraw(canvas, 5, 6, AlarmRows[0], 1);   // missing
+  AlarmFrameDraw(canvas, 5, 6, AlarmRows[0], 20);  // beyond the row
+  AlarmFrameDraw(canvas, 7, 8, AlarmRows[1], 0);   // no mask: the picture alone
+  CanvasRelease(canvas);
+  const auto dibs = DibsDrawn(hMainWnd);
+  ASSERT_EQ(dibs.size(), 3U);
+  EXPECT_EQ(dibs[0].dib, AlarmRows[0].masks[0]);
+  EXPECT_EQ(dibs[0].op, RasterOp::And);
+  EXPECT_EQ(dibs[0].x, 3);
+  EXPECT_EQ(dibs[0].y, 4);
+  EXPECT_EQ(dibs[1].dib, AlarmRows[0].pictures[0]);
+  EXPECT_EQ(dibs[1].op, RasterOp::Or);
+  EXPECT_EQ(dibs[2].dib, AlarmRows[1].pictures[0]);
+  EXPECT_EQ(dibs[2].op, RasterOp::Or);
+}
+
+TEST_F(AlarmTest, ABoxIsClearedAndDrawnInMemoryFirst) {
+  Select(1, 0, 0);
+  DrawingClear();
+  AlarmFrameShow(hMainWnd, {10, 10, 200, 100}, AlarmRows[0], 0);
+  bool copied = false;
+  for (const DrawCall& call : Drawings(hMainWnd)) {
+    if (call.kind == Kind::Rectangle) {
+      EXPECT_EQ(call.brush, FaceColour());
+    }
+    if (call.kind != Kind::Copy) continue;
+    copied = true;
+    EXPECT_EQ(call.x, 10);
+    EXPECT_EQ(call.y, 10);
+    EXPECT_EQ(call.x2, 200);
+    EXPECT_EQ(call.y2, 100);
+  }
+  EXPECT_TRUE(copied);
+  EXPECT_EQ(DibsDrawn(hMainWnd).size(), 2U);
+}
+
+TEST_F(AlarmTest, WithoutMemoryTheBoxIsDrawnStraightAndNothingLeavesIt) {
+  Select(1, 0, 0);
+  DrawingClear();
+  FaultArm(FaultKind::Bitmap, 1);
+  AlarmFrameShow(hMainWnd, {10, 10, 200, 100}, AlarmRows[0], 0);
+  EXPECT_TRUE(FaultWasMet());
+  FaultClear();
+  ASSERT_EQ(DibsDrawn(hMainWnd).size(), 2U);
+  for (const DrawCall& call : Drawings(hMainWnd)) {
+    EXPECT_TRUE(call.clipped);
+    EXPECT_EQ(call.clip.left, 10);
+    EXPECT_EQ(call.clip.bottom, 100);
+  }
+  EXPECT_EQ(DibsDrawn(hMainWnd)[1].x, 10);
+}
+
+// --- The mail notice
+
+TEST_F(AlarmTest, AMailWithNeitherSoundNorAnimationShowsTheNoticeAloneAtTheCorner) {
+  MailNoticeFlag = 1;
+  OpeningState = 1;
+  MailNoticeStart();
+  EXPECT_EQ(MailNoticeFlag, 0);
+  EXPECT_EQ(MailPhase, 3);
+  EXPECT_EQ(OpeningState, 0);
+  ASSERT_NE(hMailNoticeWnd, nullptr);
+  EXPECT_EQ(WindowRect(hMailNoticeWnd).left, 0);
+  EXPECT_EQ(WindowRect(hMailNoticeWnd).top, 0);
+  EXPECT_EQ(RectWidth(WindowRect(hMailNoticeWnd)), 300);
+  EXPECT_EQ(RectHeight(WindowRect(hMailNoticeWnd)), 200);
+  EXPECT_TRUE(IsTopmost(hMailNoticeWnd));
+  EXPECT_TRUE(SoundsPlayed().empty());
+  const WindowHandle first = hMailNoticeWnd;
+  MailNoticeStart();  // one that is up stays
+  EXPECT_EQ(hMailNoticeWnd, first);
+  SendClose(hMailNoticeWnd);
+  EXPECT_EQ(hMailNoticeWnd, nullptr);
+  EXPECT_EQ(MailPhase, 0);
+}
+
+TEST_F(AlarmTest, AMailWithAWalkerWaitsForItsEnd) {
+  MailSetting.animeOn = 1;
+  MailNoticeStart();
+  EXPECT_EQ(MailPhase, 2);
+  EXPECT_EQ(OpeningState, 1);
+  EXPECT_TRUE(WalkActive);
+  EXPECT_EQ(hMailNoticeWnd, nullptr);
+}
+
+TEST_F(AlarmTest, TheMailNoticeSaysItsCommentOrTheStandardTextAndPlaysRow0) {
+  Select(1, 0, 0);
+  FrameDivider = 0;
+  MailNoticeOpen();
+  EXPECT_EQ(FrameDivider, 5);
+  DrawingClear();
+  SendPaint(hMailNoticeWnd);
+  EXPECT_TRUE(TextStands(hMailNoticeWnd, "メール受信のお知らせ", 10, 100));
+  EXPECT_TRUE(DrawnTexts(hMailNoticeWnd)[0].transparent);
+  ASSERT_EQ(DibsDrawn(hMailNoticeWnd).size(), 2U);
+  EXPECT_EQ(DibsDrawn(hMailNoticeWnd)[1].dib, AlarmRows[0].pictures[0]);
+  std::memset(MailSetting.comment, 'm', kMailCommentSize);
+  DrawingClear();
+  MailNoticeFrameStep();  // frame 1 is missing
+  EXPECT_TRUE(TextStands(hMailNoticeWnd, std::string(129, 'm').c_str(), 10, 100));
+  EXPECT_TRUE(DibsDrawn(hMailNoticeWnd).empty());
+  DrawingClear();
+  MailNoticeFrameStep();
+  ASSERT_EQ(DibsDrawn(hMailNoticeWnd).size(), 2U);
+  EXPECT_EQ(DibsDrawn(hMailNoticeWnd)[1].dib, AlarmRows[0].pictures[2]);
+  DrawingClear();
+  MailNoticeFrameStep();  // round
+  EXPECT_EQ(DibsDrawn(hMailNoticeWnd)[1].dib, AlarmRows[0].pictures[0]);
+  Press(hMailNoticeWnd, 1);
+  EXPECT_EQ(hMailNoticeWnd, nullptr);
+  MailNoticeFrameStep();
+}
+
+}  // namespace

@@ -1,0 +1,177 @@
+#include "filetools/open_history.h"
+
+#include <gtest/gtest.h>
+
+#include <cstring>
+
+#include "character/chara_set.h"
+#include "character/character.h"
+#include "character/character_tables.h"
+#include "filetools/open_state.h"
+#include "platform/posix/faults.h"
+#include "shell/data_file.h"
+#include "shell/text.h"
+#include "tests/support/desktop.h"
+
+namespace {
+
+constexpr int kFields = 1 + 1 + 400 + 400 + 5;
+
+class OpenHistoryTest : public DesktopTest {
+ protected:
+  void SetUp() override {
+    DesktopTest::SetUp();
+    Clear();
+    FileStatus = 0;
+  }
+  void TearDown() override {
+    Clear();
+    DesktopTest::TearDown();
+  }
+  static void Clear() {
+    OpnHistory = {};
+    for (unsigned char& byte : CharaSet) byte = 0;
+    for (unsigned char& flags : WalkFlags) flags = 0;
+    for (WalkChara& row : WalkCharas) row = WalkChara{};
+  }
+  static std::string Path() { return InProgram("OpnFileHis.lis"); }
+  // A file whose every field begins with a byte that tells it from its neighbours.
+  static std::string Image() {
+    std::string image(240804, '\0');
+    image[0] = 3;
+    image[1] = 9;
+    image[200] = 8;
+    for (int row = 0; row < 800; ++row)
+      image[static_cast<std::size_t>(201 + 300 * row)] = static_cast<char>(row % 250 + 1);
+    image[240201] = 0;
+    image[240202] = 1;
+    image[240203] = 'r';
+    image[240503] = 's';
+    image[240803] = 6;
+    return image;
+  }
+};
+
+TEST_F(OpenHistoryTest, EveryFieldReachesItsPlace) {
+  ASSERT_TRUE(PutFile(Path(), Image()));
+  EXPECT_EQ(OpnHisLoad(), 0);
+  EXPECT_EQ(OpnHistory.fileCount, 3);
+  EXPECT_EQ(OpnHistory.openCount[0], 9);
+  EXPECT_EQ(OpnHistory.openCount[199], 8);
+  const auto first = [](const char* text) { return static_cast<unsigned char>(text[0]); };
+  EXPECT_EQ(first(OpnHistory.fileName[0]), 1);
+  EXPECT_EQ(first(OpnHistory.filePath[0]), 2);
+  EXPECT_EQ(first(OpnHistory.fileName[199]), 398 % 250 + 1);
+  EXPECT_EQ(first(OpnHistory.progName[0]), 400 % 250 + 1);
+  EXPECT_EQ(first(OpnHistory.progPath[199]), 799 % 250 + 1);
+  EXPECT_EQ(OpnHistory.animeOn, 0);
+  EXPECT_EQ(OpnHistory.soundOn, 1);
+  EXPECT_EQ(OpnHistory.reservedText[0], 'r');
+  EXPECT_EQ(OpnHistory.soundName[0], 's');
+  EXPECT_EQ(OpnHistory.balloonFlags, 6);
+}
+
+TEST_F(OpenHistoryTest, WhatWasReadIsWrittenAsItStood) {
+  ASSERT_TRUE(PutFile(Path(), Image()));
+  ASSERT_EQ(OpnHisLoad(), 0);
+  EXPECT_EQ(OpnHisSave(), 0);
+  EXPECT_EQ(FileBytes(Path()), Image());
+}
+
+TEST_F(OpenHistoryTest, AMissingFileGivesAnEmptyHistoryWithWalkAndSoundOn) {
+  OpnHistory.fileCount = 7;
+  OpnHistory.fileName[200][0] = 'x';
+  OpnHistory.progPath[0][0] = 'x';
+  EXPECT_EQ(OpnHisLoad(), 0);
+  EXPECT_EQ(OpnHistory.fileCount, 0);
+  EXPECT_EQ(OpnHistory.fileName[200][0], '\0');
+  EXPECT_EQ(OpnHistory.progPath[0][0], '\0');
+  EXPECT_EQ(OpnHistory.animeOn, 1);
+  EXPECT_EQ(OpnHistory.soundOn, 1);
+}
+
+TEST_F(OpenHistoryTest, AShortFileFailsAtEveryFieldAndLeavesTheHistory) {
+  const std::string image = Image();
+  std::vector<std::size_t> ends = {0, 1, 2, 200, 201};
+  for (std::size_t row = 0; row < 800; row += 7) {
+    ends.push_back(201 + 300 * row + 150);
+    ends.push_back(201 + 300 * row + 300);
+  }
+  for (const std::size_t end : {240201, 240202, 240203, 240300, 240503, 240600, 240803}) ends.push_back(end);
+  for (const std::size_t end : ends) {
+    ASSERT_TRUE(PutFile(Path(), image.substr(0, end)));
+    OpnHistory.fileCount = 77;
+    OpnHistory.balloonFlags = 78;
+    FileStatus = 0;
+    EXPECT_EQ(OpnHisLoad(), -1) << end;
+    EXPECT_EQ(FileStatus, -2) << end;
+    EXPECT_EQ(OpnHistory.fileCount, 77) << end;
+    EXPECT_EQ(OpnHistory.balloonFlags, 78) << end;
+  }
+}
+
+TEST_F(OpenHistoryTest, ACountBeyond200IsBadContent) {
+  std::string image = Image();
+  for (int count = 0; count < 256; ++count) {
+    image[0] = static_cast<char>(count);
+    ASSERT_TRUE(PutFile(Path(), image));
+    OpnHistory.fileCount = 0;
+    EXPECT_EQ(OpnHisLoad(), count <= 200 ? 0 : -1) << count;
+    EXPECT_EQ(OpnHistory.fileCount, count <= 200 ? count : 0) << count;
+  }
+}
+
+TEST_F(OpenHistoryTest, EveryFailingCallGivesItsResult) {
+  ASSERT_TRUE(PutFile(Path(), Image()));
+  ASSERT_EQ(OpnHisLoad(), 0);
+  for (const int nth : {1, 2, 3, 4, 402, 403, 802, 803, 804, 805, 806, 807, 808}) {
+    FaultArm(FaultKind::Write, nth);
+    const int result = OpnHisSave();
+    EXPECT_EQ(FaultWasMet(), nth <= kFields) << nth;
+    FaultClear();
+    EXPECT_EQ(result, nth <= kFields ? -1 : 0) << nth;
+    EXPECT_EQ(FileStatus, nth <= kFields ? -2 : 0) << nth;
+  }
+  FaultArm(FaultKind::Create, 1);
+  EXPECT_EQ(OpnHisSave(), -1);
+  EXPECT_EQ(FileStatus, -1);
+  FaultClear();
+  ASSERT_EQ(OpnHisSave(), 0);
+  FaultArm(FaultKind::Read, 500);
+  EXPECT_EQ(OpnHisLoad(), -1);
+  EXPECT_EQ(FileStatus, -2);
+}
+
+TEST_F(OpenHistoryTest, TheWalkOfACharacterGoesIntoTheFile) {
+  ASSERT_TRUE(PutFile(Path(), Image()));
+  SetWalkRow(CharaSet, 0, 50);
+  WalkFlags[49] = 3;
+  TextCopy(WalkCharas[49].sound, kWalkSoundSize, "ringout.wav");
+  OpnHisTakeWalkSettings();
+  std::string expected = Image();
+  expected.replace(240503, 12, std::string("ringout.wav") + '\0');
+  expected[240803] = 3;
+  EXPECT_EQ(FileBytes(Path()), expected);
+}
+
+TEST_F(OpenHistoryTest, ACharacterWithoutASoundKeepsTheOneThatWasThere) {
+  ASSERT_TRUE(PutFile(Path(), Image()));
+  SetWalkRow(CharaSet, 0, 1);
+  OpnHisTakeWalkSettings();
+  EXPECT_EQ(OpnHistory.soundName[0], 's');
+  EXPECT_EQ(OpnHistory.balloonFlags, 0);
+}
+
+TEST_F(OpenHistoryTest, WithoutAWalkingRowOrWithADamagedFileNothingIsWritten) {
+  for (const int row : {0, 51, 65535}) {
+    SetWalkRow(CharaSet, 0, row);
+    OpnHisTakeWalkSettings();
+    EXPECT_FALSE(FileThere(Path())) << row;
+  }
+  SetWalkRow(CharaSet, 0, 1);
+  ASSERT_TRUE(PutFile(Path(), "damaged"));
+  OpnHisTakeWalkSettings();
+  EXPECT_EQ(FileBytes(Path()), "damaged");
+}
+
+}  // namespace
