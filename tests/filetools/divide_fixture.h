@@ -1,0 +1,94 @@
+// Dividing and restoring from nothing.
+#pragma once
+
+#include "filetools/divide_dialogs.h"
+#include "filetools/file_divide.h"
+#include "platform/posix/posix_paths.h"
+#include "tests/filetools/divide_model.h"
+#include "tests/filetools/filetools_fixture.h"
+
+class DivideFixture : public FileToolsTest {
+ protected:
+  void SetUp() override {
+    FileToolsTest::SetUp();
+    FileDivide = FileDivideState{};
+    MakeFolder(kPieces);
+    MakeFolder(kRestored);
+  }
+  void TearDown() override {
+    DropFiles();
+    FileToolsTest::TearDown();
+  }
+
+  // Closes what a run has left open: the start of another one does.
+  static void DropFiles() {
+    FaultClear();
+    FileDivide.sourcePath[0] = '\0';
+    stepCounter = 1;
+    FileDivideStep();
+    stepCounter = 0;
+    FileStatus = 0;
+  }
+
+  static constexpr char kPieces[] = "C:\\mirrell\\pieces";
+  static constexpr char kRestored[] = "C:\\mirrell\\restored";
+  static constexpr char kCof[] = "C:\\mirrell\\pieces\\part0.cof";
+
+  // Some bytes, different everywhere.
+  static std::string Bytes(std::size_t size) {
+    std::string bytes(size, '\0');
+    std::uint32_t value = 12345;
+    for (char& byte : bytes) {
+      value = value * 1664525U + 1013904223U;
+      byte = static_cast<char>(value >> 24U);
+    }
+    return bytes;
+  }
+
+  static void SetKeyword(const std::string& keyword) {
+    Set(FileDivide.keyword, sizeof FileDivide.keyword, keyword);
+    FileDivide.keywordLength = static_cast<std::int32_t>(keyword.size());
+  }
+
+  // Makes the source and sets a division up.
+  static void Prepare(const ModelDivision& division) {
+    const std::string path = InProgram(division.sourceName);
+    PutFile(path, division.source);
+    Set(FileDivide.sourcePath, sizeof FileDivide.sourcePath, path);
+    FileDivide.sourceSize = DivFileSize(path.c_str());
+    FileDivide.divideCount = division.count;
+    FileDivide.encryptFlag = division.keyword.empty() ? 0 : 1;
+    SetKeyword(division.keyword);
+    Set(FileDivide.storeDir, sizeof FileDivide.storeDir, kPieces);
+    Set(FileDivide.baseName, sizeof FileDivide.baseName, division.baseName);
+    RandomSeed(division.seed);
+  }
+  static ModelDivision Simple(std::size_t size, int count, const std::string& keyword = "") {
+    return {Bytes(size), "source.bin", "part", count, keyword, 7};
+  }
+
+  // Steps until the run ends or fails; the last result.
+  static int RunSteps(bool restore, const char* cof = kCof) {
+    stepCounter = 1;
+    for (;;) {
+      const int result = restore ? FileRestoreStep(cof) : FileDivideStep();
+      EXPECT_EQ(result, FileStatus);
+      if (result != 0 || stepCounter == 0) return result;
+    }
+  }
+  static int Divide(const ModelDivision& division) {
+    Prepare(division);
+    return RunSteps(false);
+  }
+  static int Restore(const std::string& keyword = "", const char* cof = kCof) {
+    SetKeyword(keyword);
+    Set(FileDivide.storeDir, sizeof FileDivide.storeDir, kRestored);
+    return RunSteps(true, cof);
+  }
+
+  static std::string Piece(const std::string& name) { return FileBytes(std::string(kPieces) + "\\" + name); }
+  static std::string PieceNo(int number) { return Piece("part" + std::to_string(number) + ".div"); }
+  static std::string Target(const std::string& name = "source.bin") {
+    return FileBytes(std::string(kRestored) + "\\" + name);
+  }
+};
