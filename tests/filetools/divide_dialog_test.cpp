@@ -1,0 +1,658 @@
+#include <cstring>
+
+#include "tests/filetools/divide_fixture.h"
+
+namespace {
+
+constexpr char kErrorCaption[] = "分割エラー";
+constexpr char kCannotWrite[] = "分割データファイルに書き込めません";
+constexpr char kCannotRead[] = "分割データファイルが読み込めません";
+
+class DivideDialogTest : public DivideFixture {
+ protected:
+  void SetUp() override {
+    DivideFixture::SetUp();
+    FaceBrush = BrushFace();
+  }
+  // Opens FileDivideSetDlg2 or 3 through the choice, runs the steps that wait and
+  // closes it.
+  static void RunDivide() { RunChoice(IDC_DIVIDE_CHOOSE_DIVIDE); }
+  static void RunRestore() { RunChoice(IDC_DIVIDE_CHOOSE_RESTORE); }
+  static void RunChoice(int button) {
+    DialogSteps steps = std::move(waiting_);
+    waiting_.clear();
+    Then([button] { Press(TopDialog(), button); });
+    for (auto& step : steps) Then(step);
+    Then([] { Press(TopDialog(), 2); });
+    SendCommand(hMainWnd, kCommandDivideMenu);
+  }
+  // Steps inside the dialog.
+  using DialogSteps = std::vector<std::function<void()>>;
+  static void In(std::function<void()> step) { waiting_.push_back(std::move(step)); }
+  static void InPress(int id) {
+    In([id] { Press(TopDialog(), id); });
+  }
+  static void InPick(const std::string& name) {
+    In([name] {
+      Type(TopDialog(), kPickNameId, name.c_str());
+      Press(TopDialog(), 1);
+    });
+  }
+  static void InTicks(int count) {
+    for (int i = 0; i < count; ++i) In(StepTick);
+  }
+  static void InType(int id, const std::string& text) {
+    In([id, text] { Type(TopDialog(), id, text.c_str()); });
+  }
+  static void InKeyword(const std::string& keyword) {
+    In([keyword] {
+      Type(TopDialog(), IDC_DIVIDE_KEYWORD, keyword.c_str());
+      Press(TopDialog(), 1);
+    });
+  }
+  static DialogSteps waiting_;
+};
+DivideDialogTest::DialogSteps DivideDialogTest::waiting_;
+
+std::string Question(const std::string& keyword) {
+  return "重要: キーワード \"" + keyword + "\" はファイル復元時にも必要です。 分割を開始します。";
+}
+
+// --- The choice
+
+TEST_F(DivideDialogTest, TheChoiceOpensFromItsCommandAndCanBeLeft) {
+  MenuPanelState = 401;
+  Then([] {
+    EXPECT_EQ(TemplateOf(TopDialog()), IDD_FileDivideSetDlg);
+    EXPECT_EQ(WindowText(TopDialog()), "ファイル 分割/復元選択");
+    EXPECT_EQ(ControlText(TopDialog(), IDC_DIVIDE_CHOOSE_DIVIDE), "ファイルを分割する");
+    EXPECT_EQ(ControlText(TopDialog(), IDC_DIVIDE_CHOOSE_RESTORE), "分割ファイルを復元する");
+    EXPECT_EQ(DlgIdTool, 2010);
+    EXPECT_EQ(FuncNo, 7);
+    SendClose(TopDialog());
+  });
+  SendCommand(hMainWnd, kCommandDivideMenu);
+  EXPECT_EQ(FuncNo, 0);
+  EXPECT_EQ(MenuPanelState, 0);
+}
+
+TEST_F(DivideDialogTest, TheChoiceClosesAndItsDialogOpens) {
+  In([] {
+    EXPECT_EQ(hToolDlg, nullptr);
+    EXPECT_EQ(TemplateOf(TopDialog()), IDD_FileDivideSetDlg2);
+    EXPECT_EQ(WindowText(TopDialog()), "ファイル 分割");
+    EXPECT_EQ(DlgIdMenu, 2004);
+    EXPECT_EQ(FuncNo, 8);
+    EXPECT_EQ(FindDialog(IDD_FileDivideSetDlg), nullptr);
+  });
+  RunDivide();
+  In([] {
+    EXPECT_EQ(TemplateOf(TopDialog()), IDD_FileDivideSetDlg3);
+    EXPECT_EQ(WindowText(TopDialog()), "ファイル 復元");
+    EXPECT_EQ(DlgIdMenu, 2005);
+    EXPECT_EQ(FuncNo, 9);
+  });
+  RunRestore();
+}
+
+TEST_F(DivideDialogTest, LabelsReadAsTold) {
+  In([] {
+    EXPECT_EQ(ControlText(TopDialog(), IDC_DIVIDE_PICK), "分割するファイルを選択");
+    EXPECT_EQ(ControlText(TopDialog(), IDC_DIVIDE_PICK_FOLDER), "分割ファイル格納先選択");
+    EXPECT_EQ(ControlText(TopDialog(), IDC_DIVIDE_RUN), "ファイル分割を実行");
+    EXPECT_EQ(ControlText(TopDialog(), IDC_DIVIDE_ENCRYPT), "分割時に暗号化する");
+  });
+  RunDivide();
+  In([] {
+    EXPECT_EQ(ControlText(TopDialog(), IDC_DIVIDE_PICK), "合成ファイル選択");
+    EXPECT_EQ(ControlText(TopDialog(), IDC_DIVIDE_PICK_FOLDER), "復元ファイル格納先選択");
+    EXPECT_EQ(ControlText(TopDialog(), IDC_DIVIDE_RUN), "分割ファイルを復元");
+  });
+  RunRestore();
+}
+
+// --- The division's dialog
+
+TEST_F(DivideDialogTest, TheCountFirstShowsNought) {
+  In([] {
+    EXPECT_EQ(ControlText(TopDialog(), IDC_DIVIDE_COUNT), "0");
+    EXPECT_EQ(ControlText(TopDialog(), IDC_DIVIDE_SOURCE), "");
+    EXPECT_FALSE(ControlIsChecked(TopDialog(), IDC_DIVIDE_ENCRYPT));
+    EXPECT_TRUE(TextStands(TopDialog(), "0 Byte", 210, 136));
+    EXPECT_TRUE(TextStands(TopDialog(), "0 Byte", 210, 180));
+  });
+  RunDivide();
+}
+
+TEST_F(DivideDialogTest, APickedSourceShowsWithItsSizeAtOnce) {
+  PutFile(InProgram("表.txt"), Bytes(12345));
+  InPress(IDC_DIVIDE_PICK);
+  InPick("表.txt");
+  In([] {
+    EXPECT_EQ(ControlText(TopDialog(), IDC_DIVIDE_SOURCE), "表.txt [C:\\mirrell\\]");
+    EXPECT_TRUE(TextStands(TopDialog(), "12345 Byte", 210, 136));
+  });
+  RunDivide();
+  EXPECT_STREQ(FileDivide.sourcePath, "C:\\mirrell\\表.txt");
+  EXPECT_EQ(FileDivide.sourceSize, 12345U);
+}
+
+TEST_F(DivideDialogTest, ACancelledPickerChangesNothing) {
+  Set(FileDivide.sourcePath, sizeof FileDivide.sourcePath, "C:\\a");
+  FileDivide.sourceSize = 5;
+  InPress(IDC_DIVIDE_PICK);
+  InPress(kFolderCancelId);
+  InPress(IDC_DIVIDE_PICK_FOLDER);
+  InPress(kFolderCancelId);
+  RunDivide();
+  EXPECT_STREQ(FileDivide.sourcePath, "C:\\a");
+  EXPECT_EQ(FileDivide.sourceSize, 5U);
+  EXPECT_STREQ(FileDivide.storeDir, "");
+}
+
+TEST_F(DivideDialogTest, BothDialogsChooseTheOneFolder) {
+  InPress(IDC_DIVIDE_PICK_FOLDER);
+  In([] {
+    EXPECT_EQ(TemplateOf(TopDialog()), IDD_FileDivFileDlg);
+    EXPECT_EQ(DlgIdTool, 2012);
+    Press(TopDialog(), 1);
+  });
+  In([] { EXPECT_EQ(ControlText(TopDialog(), IDC_DIVIDE_FOLDER), "C:\\mirrell"); });
+  RunDivide();
+  In([] { EXPECT_EQ(ControlText(TopDialog(), IDC_DIVIDE_FOLDER), "C:\\mirrell"); });
+  InPress(IDC_DIVIDE_PICK_FOLDER);
+  In([] {
+    EXPECT_EQ(TemplateOf(TopDialog()), IDD_FileUDivFileDlg);
+    EXPECT_EQ(DlgIdTool, 2015);
+    Press(TopDialog(), 1);
+  });
+  RunRestore();
+}
+
+TEST_F(DivideDialogTest, ADivisionRunsAPieceATickAndTellsTheEnd) {
+  PutFile(InProgram("source.bin"), Bytes(10));
+  Set(FileDivide.storeDir, sizeof FileDivide.storeDir, kPieces);
+  InPress(IDC_DIVIDE_PICK);
+  InPick("source.bin");
+  InType(IDC_DIVIDE_NAME, "part");
+  InType(IDC_DIVIDE_COUNT, "3");
+  InPress(IDC_DIVIDE_RUN);
+  In([] {
+    EXPECT_EQ(TemplateOf(TopDialog()), IDD_FileDivExeDlg);
+    EXPECT_EQ(WindowText(TopDialog()), "ファイル分割中");
+    EXPECT_EQ(ControlText(TopDialog(), 2), "中止");
+    EXPECT_EQ(hSearchDlg, TopDialog());
+    EXPECT_EQ(progressMode, 3);
+    EXPECT_EQ(stepCounter, 2);
+    EXPECT_EQ(FolderNames(kPieces), (Rows{"part0.cof"}));
+    EXPECT_TRUE(TextStands(hMenuDlg, "3 Byte", 210, 180));
+    StepTick();
+    EXPECT_EQ(stepCounter, 3);
+    EXPECT_EQ(FolderNames(kPieces), (Rows{"part0.cof", "part1.div"}));
+  });
+  InTicks(2);
+  ExpectBox("ファイル分割を終了しました", "分割を正常終了");
+  InTicks(1);
+  In([] {
+    EXPECT_EQ(hSearchDlg, nullptr);
+    EXPECT_EQ(progressMode, 0);
+    EXPECT_EQ(stepCounter, 0);
+    EXPECT_EQ(TopDialog(), hMenuDlg);
+  });
+  RunDivide();
+  EXPECT_EQ(PieceNo(1) + PieceNo(2) + PieceNo(3), Bytes(10));
+  EXPECT_EQ(FileDivide.divideCount, 3);
+}
+
+TEST_F(DivideDialogTest, AStepCommandUnderTheLastBoxEndsTheDialogThere) {
+  Prepare(Simple(10, 1));
+  InPress(IDC_DIVIDE_RUN);
+  InTicks(1);
+  ExpectBox("ファイル分割を終了しました", "分割を正常終了", BoxAnswer::Ok, [] {
+    StepTick();
+    EXPECT_EQ(progressMode, 0);
+    EXPECT_EQ(hSearchDlg, nullptr);
+    StepTick();
+  });
+  InTicks(1);
+  In([] { EXPECT_EQ(TopDialog(), hMenuDlg); });
+  RunDivide();
+}
+
+TEST_F(DivideDialogTest, TheCountIsReadFromTwoCharactersAndCutAt200) {
+  const std::pair<const char*, int> counts[] = {{"0", 0},    {"-5", -5}, {"1", 1},    {"12", 12}, {" 7", 7},
+                                                {"123", 12}, {"", 0},    {"zz", 200}, {"-", 0},   {"  3", 0}};
+  for (const auto& [text, count] : counts) {
+    In([text = text] { Type(TopDialog(), IDC_DIVIDE_COUNT, text); });
+    ExpectBox("分割ソースファイルが開けません", kErrorCaption);
+    ExpectBox(kCannotWrite, kErrorCaption);
+    InPress(IDC_DIVIDE_RUN);
+    In([count = count, text = text] { EXPECT_EQ(FileDivide.divideCount, count) << text; });
+  }
+  RunDivide();
+}
+
+TEST_F(DivideDialogTest, TheBannerStandsDuringTheFirstStepAndIsWipedAfterIt) {
+  Prepare(Simple(10, 2));
+  In([] {
+    FileDivide.banner = true;
+    SendPaint(hMenuDlg);
+    const std::vector<DrawCall> texts = DrawnTexts(hMenuDlg);
+    ASSERT_FALSE(texts.empty());
+    EXPECT_EQ(texts.back().text, "ファイル分割中です !");
+    EXPECT_EQ(texts.back().textColour, 0x0000FFU);
+    EXPECT_TRUE(texts.back().transparent);
+    EXPECT_TRUE(TextStands(hMenuDlg, "ファイル分割中です !", 432, 218));
+    FileDivide.banner = false;
+    DrawingClear();
+    SendPaint(hMenuDlg);
+    const DrawCall wipe = Drawings(hMenuDlg).back();
+    EXPECT_EQ(wipe.kind, DrawCall::Kind::Rectangle);
+    EXPECT_EQ(wipe.x, 430);
+    EXPECT_EQ(wipe.y, 216);
+    EXPECT_EQ(wipe.x2, 750);
+    EXPECT_EQ(wipe.y2, 286);
+    EXPECT_FALSE(wipe.edged);
+    DrawingClear();
+  });
+  InType(IDC_DIVIDE_NAME, "part");
+  InPress(IDC_DIVIDE_RUN);
+  In([] {
+    bool shown = false;
+    for (const DrawCall& text : DrawnTexts(hMenuDlg)) shown = shown || text.text == "ファイル分割中です !";
+    EXPECT_TRUE(shown) << "it stood";
+    EXPECT_FALSE(TextStands(hMenuDlg, "ファイル分割中です !", 432, 218)) << "and is gone";
+    Press(TopDialog(), 2);
+  });
+  RunDivide();
+  In([] {
+    FileDivide.banner = true;
+    SendPaint(hMenuDlg);
+    EXPECT_TRUE(TextStands(hMenuDlg, "ファイル合成中です!", 556, 118));
+    FileDivide.banner = false;
+    SendPaint(hMenuDlg);
+    const DrawCall wipe = Drawings(hMenuDlg).back();
+    EXPECT_EQ(wipe.x, 554);
+    EXPECT_EQ(wipe.y, 116);
+    EXPECT_EQ(wipe.x2, 740);
+    EXPECT_EQ(wipe.y2, 186);
+  });
+  RunRestore();
+}
+
+TEST_F(DivideDialogTest, AStoppedDivisionKeepsItsFilesWithoutAWord) {
+  Prepare(Simple(10, 3));
+  InType(IDC_DIVIDE_COUNT, "3");
+  InPress(IDC_DIVIDE_RUN);
+  InTicks(1);
+  InPress(2);
+  In([] {
+    EXPECT_EQ(stepCounter, 0);
+    EXPECT_EQ(progressMode, 0);
+    EXPECT_EQ(hSearchDlg, nullptr);
+    EXPECT_EQ(TopDialog(), hMenuDlg);
+  });
+  RunDivide();
+  EXPECT_EQ(FolderNames(kPieces), (Rows{"part0.cof", "part1.div"}));
+}
+
+TEST_F(DivideDialogTest, ClosingTheProgressWithOkJustEndsIt) {
+  Prepare(Simple(10, 3));
+  InType(IDC_DIVIDE_COUNT, "3");
+  InPress(IDC_DIVIDE_RUN);
+  In([] { SendCommand(TopDialog(), 1); });
+  In([] {
+    EXPECT_EQ(stepCounter, 2) << "the run stays where it is";
+    EXPECT_EQ(hSearchDlg, nullptr);
+    EXPECT_EQ(TopDialog(), hMenuDlg);
+  });
+  RunDivide();
+}
+
+TEST_F(DivideDialogTest, AProgressDialogThatCannotBeMadeStopsTheRun) {
+  Prepare(Simple(10, 3));
+  In([] {
+    FaultArm(FaultKind::Window, 1);
+    Press(TopDialog(), IDC_DIVIDE_RUN);
+    FaultClear();
+    EXPECT_EQ(stepCounter, 0);
+    EXPECT_EQ(progressMode, 0);
+  });
+  RunDivide();
+}
+
+// --- Failures of a division
+
+TEST_F(DivideDialogTest, ASourceThatCannotBeOpenedGivesTwoBoxes) {
+  ExpectBox("分割ソースファイルが開けません", kErrorCaption);
+  ExpectBox(kCannotWrite, kErrorCaption);
+  InPress(IDC_DIVIDE_RUN);
+  In([] {
+    EXPECT_EQ(stepCounter, 0);
+    EXPECT_EQ(TopDialog(), hMenuDlg) << "no progress dialog";
+  });
+  RunDivide();
+  for (const Box& box : BoxesShown()) EXPECT_EQ(box.icon, BoxIcon::Exclamation);
+}
+
+TEST_F(DivideDialogTest, AJoiningFileThatCannotBeMadeGivesTwoBoxes) {
+  Prepare(Simple(10, 2));
+  MakeFolder(kCof);
+  ExpectBox("合成用ファイルが開けません", kErrorCaption);
+  ExpectBox(kCannotWrite, kErrorCaption);
+  InPress(IDC_DIVIDE_RUN);
+  RunDivide();
+}
+
+TEST_F(DivideDialogTest, AShortWriteOfTheHeadGivesTheGeneralBoxAlone) {
+  Prepare(Simple(10, 2));
+  ExpectBox(kCannotWrite, kErrorCaption);
+  In([] {
+    FaultArm(FaultKind::Write, 2);
+    Press(TopDialog(), IDC_DIVIDE_RUN);
+  });
+  RunDivide();
+}
+
+TEST_F(DivideDialogTest, AFailedPieceEndsTheProgressWithItsBox) {
+  Prepare(Simple(10, 3));
+  InType(IDC_DIVIDE_COUNT, "3");
+  InPress(IDC_DIVIDE_RUN);
+  InTicks(1);
+  In([] { MakeFolder("C:\\mirrell\\pieces\\part2.div"); });
+  ExpectBox(kCannotWrite, kErrorCaption, BoxAnswer::Ok, [] {
+    EXPECT_EQ(stepCounter, 0);
+    // Whatever else reads a file meanwhile: the run has failed all the same.
+    FileStatus = 0;
+  });
+  InTicks(1);
+  In([] {
+    EXPECT_EQ(progressMode, 0);
+    EXPECT_EQ(TopDialog(), hMenuDlg);
+  });
+  RunDivide();
+}
+
+TEST_F(DivideDialogTest, AFileErrorOfAnotherFeatureDoesNotFailTheRun) {
+  Prepare(Simple(10, 1));
+  InType(IDC_DIVIDE_COUNT, "1");
+  InPress(IDC_DIVIDE_RUN);
+  In([] {
+    FileStatus = -1;
+    StepTick();
+    FileStatus = -2;
+  });
+  ExpectBox("ファイル分割を終了しました", "分割を正常終了");
+  InTicks(1);
+  RunDivide();
+}
+
+// --- Keywords
+
+TEST_F(DivideDialogTest, AScrambledDivisionAsksForItsKeywordFirst) {
+  Prepare(Simple(10, 1));
+  InPress(IDC_DIVIDE_ENCRYPT);
+  In([] { EXPECT_EQ(FileDivide.encryptFlag, 1); });
+  InPress(IDC_DIVIDE_RUN);
+  In([] {
+    EXPECT_EQ(TemplateOf(TopDialog()), IDD_FileDivKeyWordDlg);
+    EXPECT_EQ(WindowText(TopDialog()), "暗号化キーワード入力");
+    EXPECT_EQ(DlgIdTool, 2043);
+    EXPECT_EQ(ControlText(TopDialog(), IDC_DIVIDE_KEYWORD), "");
+  });
+  ExpectBox(Question("abcd").c_str(), "ファイル分割の実行");
+  InKeyword("abcd");
+  In([] {
+    EXPECT_EQ(TemplateOf(TopDialog()), IDD_FileDivExeDlg);
+    EXPECT_STREQ(FileDivide.keyword, "abcd");
+    EXPECT_EQ(FileDivide.keywordLength, 4);
+    Press(TopDialog(), 2);
+  });
+  RunDivide();
+  EXPECT_EQ(BoxesShown()[0].buttons, BoxButtons::OkCancel);
+}
+
+TEST_F(DivideDialogTest, AKeywordBelowFourBytesIsRefusedAndTheDialogStays) {
+  Prepare(Simple(10, 1, "abcd"));
+  InPress(IDC_DIVIDE_RUN);
+  for (const char* keyword : {"", "a", "abc", "か", "か1"}) {
+    ExpectBox("キーワードは半角4文字以上8文字までで入力します。", "キーワード設定エラー");
+    InKeyword(keyword);
+    In([] { EXPECT_EQ(TemplateOf(TopDialog()), IDD_FileDivKeyWordDlg); });
+  }
+  InPress(2);
+  In([] {
+    EXPECT_EQ(TopDialog(), hMenuDlg) << "without a keyword nothing begins";
+    EXPECT_EQ(FolderNames(kPieces), Rows());
+  });
+  RunDivide();
+}
+
+TEST_F(DivideDialogTest, TwoFullWidthCharactersAreEnough) {
+  Prepare(Simple(10, 1, "abcd"));
+  InPress(IDC_DIVIDE_RUN);
+  ExpectBox(Question("かぎ").c_str(), "ファイル分割の実行");
+  InKeyword("かぎ");
+  InPress(2);
+  RunDivide();
+  EXPECT_EQ(FileDivide.keywordLength, 4);
+}
+
+TEST_F(DivideDialogTest, OfNineTypedBytesEightCountAndTheQuestionShowsThem) {
+  Prepare(Simple(10, 1, "abcd"));
+  InPress(IDC_DIVIDE_RUN);
+  ExpectBox(Question("12345678").c_str(), "ファイル分割の実行");
+  InKeyword("123456789");
+  InPress(2);
+  RunDivide();
+  EXPECT_STREQ(FileDivide.keyword, "12345678");
+  EXPECT_EQ(FileDivide.keywordLength, 8);
+}
+
+TEST_F(DivideDialogTest, ATwoByteCharacterCutAtByteEightStaysCut) {
+  Prepare(Simple(10, 1, "abcd"));
+  const std::string cut = std::string("1234567") + std::string("か").substr(0, 1);
+  InPress(IDC_DIVIDE_RUN);
+  ExpectBox(Question(cut).c_str(), "ファイル分割の実行");
+  InKeyword("1234567か");
+  InPress(2);
+  RunDivide();
+  EXPECT_EQ(std::string(FileDivide.keyword), cut);
+}
+
+TEST_F(DivideDialogTest, AnythingButOkAtTheQuestionLeavesTheDialogOpen) {
+  Prepare(Simple(10, 1, "abcd"));
+  InPress(IDC_DIVIDE_RUN);
+  ExpectBox(Question("wxyz").c_str(), "ファイル分割の実行", BoxAnswer::Cancel);
+  InKeyword("wxyz");
+  In([] {
+    EXPECT_EQ(TemplateOf(TopDialog()), IDD_FileDivKeyWordDlg);
+    EXPECT_EQ(FileDivide.keywordLength, 0);
+  });
+  In([] { SendClose(TopDialog()); });
+  RunDivide();
+  EXPECT_STREQ(FileDivide.keyword, "") << "a cancel clears the keyword";
+}
+
+// --- Restoring
+
+TEST_F(DivideDialogTest, ARestoreRunsAPieceATickAndTellsTheEnd) {
+  ASSERT_EQ(Divide(Simple(10, 2)), 0);
+  Set(FileDivide.storeDir, sizeof FileDivide.storeDir, kRestored);
+  In([] { FolderSetCurrent(kPieces); });
+  InPress(IDC_DIVIDE_PICK);
+  InPick("part0.cof");
+  In([] { EXPECT_EQ(ControlText(TopDialog(), IDC_DIVIDE_SOURCE), "part0.cof [C:\\mirrell\\pieces\\]"); });
+  InPress(IDC_DIVIDE_RUN);
+  In([] {
+    EXPECT_EQ(TemplateOf(TopDialog()), IDD_FileUnDivExeDlg);
+    EXPECT_EQ(WindowText(TopDialog()), "ファイル復元中");
+    EXPECT_EQ(progressMode, 4);
+    EXPECT_EQ(stepCounter, 2);
+  });
+  InTicks(2);
+  ExpectBox("ファイル復元を終了しました", "復元を正常終了");
+  InTicks(1);
+  In([] { EXPECT_EQ(TopDialog(), hMenuDlg); });
+  RunRestore();
+  EXPECT_EQ(Target(), Bytes(10));
+  // The divide dialog's base name made room for the last piece's path.
+  In([] { EXPECT_EQ(ControlText(TopDialog(), IDC_DIVIDE_NAME), "C:\\mirrell\\pieces\\\\part2.div"); });
+  RunDivide();
+}
+
+class RestoreDialogTest : public DivideDialogTest {
+ protected:
+  // A division that stands on the disk, chosen for the restore; no keyword yet.
+  static void Stand(const std::string& keyword, int count = 2) {
+    ASSERT_EQ(Divide(Simple(10, count, keyword)), 0);
+    Set(FileDivide.sourcePath, sizeof FileDivide.sourcePath, kCof);
+    Set(FileDivide.storeDir, sizeof FileDivide.storeDir, kRestored);
+    FileDivide.encryptFlag = 0;
+    FileDivide.keywordLength = 0;
+    std::memset(FileDivide.keyword, 0, sizeof FileDivide.keyword);
+  }
+};
+
+TEST_F(RestoreDialogTest, AScrambledFileAsksForItsKeywordWithoutAQuestion) {
+  Stand("abcd");
+  InPress(IDC_DIVIDE_RUN);
+  In([] {
+    EXPECT_EQ(TemplateOf(TopDialog()), IDD_FileDivKeyWordDlg2);
+    EXPECT_EQ(WindowText(TopDialog()), "暗号化キーワード入力");
+    EXPECT_EQ(DlgIdTool, 2044);
+  });
+  InKeyword("abcd");
+  InTicks(2);
+  ExpectBox("ファイル復元を終了しました", "復元を正常終了");
+  InTicks(1);
+  RunRestore();
+  EXPECT_EQ(Target(), Bytes(10));
+  In([] {
+    EXPECT_TRUE(ControlIsChecked(TopDialog(), IDC_DIVIDE_ENCRYPT)) << "the flag stays as it was read";
+  });
+  RunDivide();
+}
+
+TEST_F(RestoreDialogTest, ACancelWithoutAnyKeywordStopsThere) {
+  Stand("abcd");
+  InPress(IDC_DIVIDE_RUN);
+  InPress(2);
+  In([] { EXPECT_EQ(TopDialog(), hMenuDlg); });
+  RunRestore();
+  EXPECT_FALSE(FileThere("C:\\mirrell\\restored\\source.bin"));
+}
+
+TEST_F(RestoreDialogTest, ACancelLeavesAnEarlierKeywordInForce) {
+  Stand("abcd");
+  SetKeyword("abcd");
+  InPress(IDC_DIVIDE_RUN);
+  ExpectBox("キーワードは半角4文字以上8文字までで入力します。", "キーワード設定エラー");
+  InKeyword("abc");
+  InPress(2);
+  In([] { EXPECT_EQ(TemplateOf(TopDialog()), IDD_FileUnDivExeDlg); });
+  InTicks(2);
+  ExpectBox("ファイル復元を終了しました", "復元を正常終了");
+  InTicks(1);
+  RunRestore();
+  EXPECT_EQ(Target(), Bytes(10));
+}
+
+TEST_F(RestoreDialogTest, AWrongKeywordNeverShowsAKeywordMessage) {
+  Stand("abcd");
+  InPress(IDC_DIVIDE_RUN);
+  InKeyword("abce");
+  ExpectBox(kCannotRead, kErrorCaption);
+  InTicks(1);
+  In([] { EXPECT_EQ(TopDialog(), hMenuDlg); });
+  RunRestore();
+}
+
+TEST_F(RestoreDialogTest, AMissingPieceStopsTheRunWithItsBox) {
+  Stand("");
+  RemoveFile("C:\\mirrell\\pieces\\part2.div");
+  InPress(IDC_DIVIDE_RUN);
+  InTicks(1);
+  ExpectBox(kCannotRead, kErrorCaption);
+  InTicks(1);
+  In([] {
+    EXPECT_EQ(progressMode, 0);
+    EXPECT_EQ(TopDialog(), hMenuDlg);
+  });
+  RunRestore();
+  EXPECT_EQ(Target(), Bytes(10).substr(0, 5));
+}
+
+TEST_F(RestoreDialogTest, AFailedStartShowsItsBoxesAndTheProgressStandsUntilItIsStopped) {
+  Stand("");
+  RemoveFile(kCof);
+  ExpectBox("分割ソースファイルが開けません", kErrorCaption);
+  ExpectBox(kCannotRead, kErrorCaption);
+  InPress(IDC_DIVIDE_RUN);
+  In([] {
+    EXPECT_EQ(TemplateOf(TopDialog()), IDD_FileUnDivExeDlg);
+    EXPECT_EQ(stepCounter, 1);
+  });
+  InTicks(5);
+  In([] { EXPECT_EQ(TemplateOf(TopDialog()), IDD_FileUnDivExeDlg) << "the ticks do nothing"; });
+  InPress(2);
+  In([] {
+    EXPECT_EQ(TopDialog(), hMenuDlg);
+    EXPECT_EQ(stepCounter, 0);
+  });
+  RunRestore();
+}
+
+TEST_F(RestoreDialogTest, ATargetThatCannotBeMadeShowsTheGeneralBoxAlone) {
+  Stand("");
+  MakeFolder("C:\\mirrell\\restored\\source.bin");
+  ExpectBox(kCannotRead, kErrorCaption);
+  InPress(IDC_DIVIDE_RUN);
+  InPress(2);
+  RunRestore();
+}
+
+TEST_F(RestoreDialogTest, AStoppedRestoreKeepsWhatWasRead) {
+  Stand("");
+  InPress(IDC_DIVIDE_RUN);
+  InTicks(1);
+  InPress(2);
+  RunRestore();
+  EXPECT_EQ(Target(), Bytes(10).substr(0, 5));
+}
+
+TEST_F(RestoreDialogTest, AnEmptyJoiningFileIsToldByTheGeneralBox) {
+  Stand("");
+  PutFile(kCof, "");
+  ExpectBox(kCannotRead, kErrorCaption);
+  InPress(IDC_DIVIDE_RUN);
+  InPress(2);
+  RunRestore();
+}
+
+// --- Guards
+
+TEST_F(DivideDialogTest, TheRunCommandNeedsOneOfTheTwoDialogs) {
+  SendCommand(hMainWnd, kCommandDivideRun);
+  EXPECT_EQ(stepCounter, 0);
+}
+
+TEST_F(DivideDialogTest, NoCommandStartsASecondRunUnderTheFirst) {
+  Prepare(Simple(10, 3));
+  InType(IDC_DIVIDE_COUNT, "3");
+  InPress(IDC_DIVIDE_RUN);
+  InTicks(1);
+  In([] {
+    const int windows = OpenWindowCount();
+    for (const int command : {kCommandDivideRun, kCommandDividePick, kCommandRestorePick,
+                              kCommandDivideFolder, kCommandRestoreFolder}) {
+      SendCommand(hMainWnd, static_cast<std::uint32_t>(command));
+    }
+    EXPECT_EQ(OpenWindowCount(), windows);
+    EXPECT_EQ(stepCounter, 3);
+    Press(TopDialog(), 2);
+  });
+  RunDivide();
+}
+
+}  // namespace
