@@ -34,6 +34,7 @@ constexpr int kKeyBelow = 220;
 constexpr int kKeyLeft = 20;
 constexpr int kKeyStep = 20;
 constexpr int kSizeX = 228;
+constexpr int kColumn = 8;  // a half-width character
 
 // The colour of a line of the key and its slice.
 BrushHandle BrushOf(const ScopePieRow& row, int line) {
@@ -60,6 +61,9 @@ void DrawSlices(Canvas* canvas, const Column& column) {
 }
 
 void DrawKey(Canvas* canvas, const Column& column) {
+  // A long name ends with the last whole character in front of the sizes.
+  const int keyX = column.x0 - kKeyLeft;
+  const int nameEnd = keyX + (column.sizeX - keyX) / kColumn * kColumn;
   for (int i = 0; i < column.pie.count; ++i) {
     const ScopePieRow& row = column.pie.rows[i];
     const int y = column.y0 + kKeyBelow + i * kKeyStep;
@@ -73,7 +77,9 @@ void DrawKey(Canvas* canvas, const Column& column) {
     }
     char text[kTextSize];
     StaticsName(text, sizeof text, before, row.name);
-    CanvasText(canvas, column.x0 - kKeyLeft, y, text);
+    CanvasClip(canvas, {keyX, y, nameEnd, y + kKeyStep});
+    CanvasText(canvas, keyX, y, text);
+    CanvasClipNone(canvas);
     TextFormat(text, sizeof text, " %d.%d %s", row.valueInt, row.valueFrac, ScopeUnitText(row.unit));
     CanvasText(canvas, column.sizeX, y, text);
   }
