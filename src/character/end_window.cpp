@@ -45,9 +45,9 @@ void Paint(WindowHandle window, int slot) {
 }  // namespace
 
 void EndWindowsRun() {
-  if (WalkSlots[WalkSlotNow].endWindow) SendClose(WalkSlots[WalkSlotNow].endWindow);
-  DialogOpen(IDD_FlyingBat1, hMainWnd, EndWindowProc);
-  if (!WalkPicture(WalkSlotNow, EndFrame(WalkSlotNow))) SendClose(WalkSlots[WalkSlotNow].endWindow);
+  SendClose(WalkSlots[WalkSlotNow].endWindow);
+  // Without its picture the end has no window.
+  if (WalkPicture(WalkSlotNow, EndFrame(WalkSlotNow))) DialogOpen(IDD_FlyingBat1, hMainWnd, EndWindowProc);
   if (MailPhase != kMailWalking && FuncNo != kFuncMail) {
     DialogRun(IDD_FlyingBat1, hMainWnd, BalloonProc);
   } else if (!hMailNoticeWnd) {

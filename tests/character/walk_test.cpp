@@ -536,6 +536,25 @@ TEST_F(WalkTest, AMailsWalkOpensTheNoticeAndNothingIsLaunched) {
   EXPECT_EQ(MailPhase, 0);
 }
 
+TEST_F(WalkTest, WhileTheMailSettingsAreOpenAWalkEndsWithTheNotice) {
+  FuncNo = 11;
+  ASSERT_EQ(WalkStartOpen(), 0);
+  OpeningState = 3;
+  ThenTicks(15);
+  WalkTicks(1);
+  ASSERT_NE(hMailNoticeWnd, nullptr);
+  EXPECT_EQ(WalkSlots[0].balloonWindow, nullptr);
+  EXPECT_EQ(PlaceOf(hMailNoticeWnd), (Place{0, 0, 300, 200}));
+  const WindowHandle notice = hMailNoticeWnd;
+  WalkAbort();
+  ASSERT_EQ(WalkStartOpen(), 0);
+  ThenTicks(15);
+  WalkTicks(1);
+  EXPECT_EQ(hMailNoticeWnd, notice);  // one that is up stays
+  WalkAbort();
+  SendClose(hMailNoticeWnd);
+}
+
 // --- Abort
 
 TEST_F(WalkTest, AnAbortEndsAWalkWithoutItsEndPhase) {
@@ -609,6 +628,38 @@ TEST_F(WalkTest, ASecondStartInAnotherSlotLeavesTheFirstWindowUntilItsOwnClose) 
   });
   WalkTicks(1);
   EXPECT_EQ(OpenWindowCount(), 1);
+}
+
+// Whatever stands in a record, its walk stays inside the tables and ends.
+TEST_F(WalkTest, RandomRecordsWalkInsideTheTables) {
+  RandomSeed(11);
+  extraCommand = [](std::uint32_t command) {
+    if (command == 2203) {
+      Then([] {
+        WalkTicks(4);
+        WalkAbort();
+      });
+      WalkWindowRun();
+    }
+    if (command == 2208) {
+      Then([] { WalkAbort(); });
+      EndWindowsRun();
+    }
+  };
+  for (int round = 0; round < 1000; ++round) {
+    for (int i = kCharaSetWalkRow; i < kCharaSetSize; ++i) {
+      CharaSet[i] = static_cast<unsigned char>(RandomBelow(4) == 0 ? RandomBelow(256) : RandomBelow(3));
+    }
+    SetWalkRow(CharaSet, 0, RandomBelow(60));
+    SetWalkPeriod(CharaSet, 0, RandomBelow(3));
+    for (unsigned char& flags : WalkFlags) flags = static_cast<unsigned char>(RandomBelow(8));
+    OpeningState = RandomBelow(4);
+    if (WalkStartOpen() != 0) continue;
+    WalkTicks(1);
+    WalkAbort();
+    ASSERT_EQ(StepsLeft(), 0) << round;
+    ASSERT_EQ(OpenWindowCount(), 1) << round;
+  }
 }
 
 TEST_F(WalkTest, SlotsThatAreNotThereDoNothing) {
