@@ -13,7 +13,6 @@
 #include "mail_music/mail_music_commands.h"
 #include "scenario/scenario_commands.h"
 #include "schedule/schedule_commands.h"
-#include "shell/pending_features.h"
 
 namespace {
 

@@ -13,7 +13,6 @@
 #include "filetools/open_history.h"
 #include "platform/file.h"
 #include "platform/window.h"
-#include "shell/pending_features.h"
 #include "shell/settings.h"
 #include "shell/shell.h"
 

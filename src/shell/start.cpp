@@ -20,7 +20,6 @@
 #include "shell/diagnostic_numbers.h"
 #include "shell/file_dialog_defaults.h"
 #include "shell/file_watch.h"
-#include "shell/pending_features.h"
 #include "shell/random.h"
 #include "shell/settings.h"
 #include "shell/shell.h"

@@ -1,8 +1,10 @@
 #include "shell/tick.h"
 
+#include "character/clock_notice.h"
 #include "character/motion.h"
 #include "character/notices.h"
 #include "character/options.h"
+#include "character/scl_notice.h"
 #include "character/walk.h"
 #include "clock_calendar/calendar.h"
 #include "clock_calendar/clock.h"
@@ -18,7 +20,6 @@
 #include "shell/entry.h"
 #include "shell/file_watch.h"
 #include "shell/panel.h"
-#include "shell/pending_features.h"
 #include "shell/shared_time.h"
 #include "shell/shell.h"
 

@@ -459,8 +459,12 @@ TEST_F(FolderScopeDialogTest, TheKeyEndsInFrontOfItsSizes) {
   MakeTree();
   Pies("C:\\data\\photos", [] {
     for (const DrawCall& text : DrawnTexts(TopDialog())) {
-      if (text.text == "1.( 1) data") EXPECT_EQ(text.clip.right, 224);
-      if (text.text == "1.( 1) p1.bin") EXPECT_EQ(text.clip.right, 584);
+      if (text.text == "1.( 1) data") {
+        EXPECT_EQ(text.clip.right, 224);
+      }
+      if (text.text == "1.( 1) p1.bin") {
+        EXPECT_EQ(text.clip.right, 584);
+      }
     }
     EXPECT_TRUE(HasText("1.( 1) p1.bin"));
   });

@@ -1,0 +1,151 @@
+// FlyingBat4, the notice of a line of the schedule or of a note of the calendar.
+#include <algorithm>
+
+#include "character/alarm_images.h"
+#include "character/character_commands.h"
+#include "character/notice_window.h"
+#include "character/scl_notice.h"
+#include "platform/canvas.h"
+#include "platform/dialog.h"
+#include "platform/window.h"
+#include "resources/ids.h"
+#include "shell/shell.h"
+#include "shell/text.h"
+#include "shell/text_lines.h"
+
+SclNoticeItem SclNotice;
+NoteNoticeItem NoteNotices[kNoteNoticeCount];
+std::int32_t SclNoticeKind;
+
+namespace {
+
+constexpr std::int32_t kKindSchedule = 1;
+constexpr std::int32_t kKindNote = 2;  // and the number of the note, 0 to 2
+constexpr std::int32_t kFirstFrameTicks = 50;
+constexpr Point kFigureAt = {10, 10};
+constexpr Rect kBox = {10, 10, 200, 100};
+constexpr int kTextX = 10;
+constexpr int kTextY = 10;
+constexpr int kTextBelowFigure = 100;
+constexpr int kDateDown = 20;
+constexpr int kHeadDown = 44;
+constexpr int kContentDown = 64;
+constexpr int kLineStep = 20;
+constexpr int kColumns = 56;
+
+int sclFrame;
+int noteFrame;
+
+void Init(WindowHandle window) {
+  hSclNoticeWnd = window;
+  FrameDivider = kFirstFrameTicks;
+  sclFrame = 0;
+  noteFrame = 0;
+  NoticeShow(window);
+}
+
+bool IsToday(const SclDate& date) {
+  return date.year == TodayYear && date.month == TodayMonth && date.day == TodayDay;
+}
+
+// "9 時 30 分", of an item's own day; of another day the hour of the table.
+struct TimeOfDay {
+  int hour;
+  int minute;
+};
+TimeOfDay TimeShown(const SclDate& date, int minute, int tableHour) {
+  return IsToday(date) ? TimeOfDay{date.hour, minute} : TimeOfDay{tableHour, 0};
+}
+
+void DrawText(Canvas* canvas, int y, const char* head, const char* date, const char* content) {
+  CanvasBackTransparent(canvas, true);
+  CanvasTextColour(canvas, 0);
+  CanvasText(canvas, kTextX, y, head);
+  CanvasText(canvas, kTextX, y + kDateDown, date);
+  CanvasText(canvas, kTextX, y + kHeadDown, "( 内 容 )");
+  TextLinesDraw(canvas, kTextX, y + kContentDown, kLineStep, content, kSclNoticeTextSize, kColumns);
+}
+
+void PaintSchedule(WindowHandle window, Canvas* canvas) {
+  const AlarmRow& row = AlarmRows[kAlarmSchedule];
+  const bool picture = AlarmFrameHeight(row, sclFrame) != 0;
+  if (picture) AlarmFrameShow(window, kBox, row, sclFrame);
+  const SclNoticeItem& item = SclNotice;
+  const TimeOfDay start = TimeShown(item.start, item.startMinute, item.tableStartHour);
+  const TimeOfDay end = TimeShown(item.end, item.endMinute, item.tableEndHour);
+  char date[100];
+  TextFormat(date, sizeof date, "予定 : %d 時 %d 分 ～ %d 時 %d 分", start.hour, start.minute, end.hour,
+             end.minute);
+  DrawText(canvas, picture ? kTextBelowFigure : kTextY, "-スケジュール表-", date, item.text);
+}
+
+void PaintNote(Canvas* canvas) {
+  const AlarmRow& row = AlarmRows[kAlarmNote];
+  AlarmFrameDraw(canvas, kFigureAt.x, kFigureAt.y, row, noteFrame);
+  const int note = std::clamp(SclNoticeKind - kKindNote, 0, kNoteNoticeCount - 1);
+  const NoteNoticeItem& item = NoteNotices[note];
+  char day[40] = "本日です";
+  if (note != 0) TextFormat(day, sizeof day, "%d日前です", note);
+  char date[100];
+  TextFormat(date, sizeof date, "予定日 : %d年%d月%d日  %s", item.year + 2000, item.monthAndDay + 1,
+             item.monthAndDay + 1, day);
+  const int below = kFigureAt.y + AlarmFrameHeight(row, noteFrame) + kTextY;
+  DrawText(canvas, std::min(below, kTextBelowFigure), "<< カレンダー書き込み >>", date, item.text);
+}
+
+void Paint(WindowHandle window) {
+  Canvas* canvas = CanvasGet(window);
+  if (!canvas) return;
+  if (SclNoticeKind >= kKindNote) {
+    PaintNote(canvas);
+  } else {
+    PaintSchedule(window, canvas);
+  }
+  CanvasRelease(canvas);
+}
+
+bool SclNoticeProc(const Event& event) {
+  if (NoticeEnds(event, &hSclNoticeWnd)) return true;
+  switch (event.kind) {
+    case EventKind::Init:
+      Init(event.window);
+      return true;
+    case EventKind::Paint:
+      Paint(event.window);
+      return true;
+    default:
+      return false;
+  }
+}
+
+void Open(std::int32_t kind) {
+  SclNoticeKind = kind;
+  DialogOpen(IDD_FlyingBat4, hMainWnd, SclNoticeProc);
+}
+
+}  // namespace
+
+void SclNoticeFrameStep() {
+  if (!hSclNoticeWnd) return;
+  if (SclNoticeKind >= kKindNote) {
+    noteFrame = AlarmFrameNext(AlarmRows[kAlarmNote], noteFrame);
+  } else {
+    sclFrame = AlarmFrameNext(AlarmRows[kAlarmSchedule], sclFrame);
+  }
+  SendPaint(hSclNoticeWnd);
+}
+
+void CommandSclNotice(std::uint32_t) {
+  if (!SclNotice.due || !NoticeClosed(&hSclNoticeWnd)) return;
+  Open(kKindSchedule);
+}
+
+void CommandNoteNotice(std::uint32_t) {
+  for (int note = 0; note < kNoteNoticeCount; ++note) {
+    if (!NoteNotices[note].due) continue;
+    if (!NoticeClosed(&hSclNoticeWnd)) return;
+    NoteNotices[note].due = false;
+    Open(kKindNote + note);
+    return;
+  }
+}

@@ -1,0 +1,122 @@
+// FlyingBat5, the clock alarm's notice: the comment of the alarm, and below it the
+// performance.
+#include <algorithm>
+
+#include "character/alarm_images.h"
+#include "character/character_commands.h"
+#include "character/clock_notice.h"
+#include "character/notice_window.h"
+#include "character/performance_figures.h"
+#include "clock_calendar/clock.h"
+#include "clock_calendar/performance.h"
+#include "platform/canvas.h"
+#include "platform/dialog.h"
+#include "platform/window.h"
+#include "resources/ids.h"
+#include "shell/shared_time.h"
+#include "shell/shell.h"
+#include "shell/text.h"
+#include "shell/text_lines.h"
+
+namespace {
+
+constexpr std::uint32_t kNextStep = 2258;
+constexpr int kTextX = 10;
+constexpr int kTextY = 10;
+constexpr int kLineStep = 20;
+constexpr int kTextMargin = 8;
+constexpr int kColumnWidth = 8;
+constexpr int kColumnMax = 128;
+
+char comment[kAlarmCommentSize];
+
+// What the notice says and plays: an alarm's comment and performance, or, with no
+// alarm's slot, only the performance that was chosen.
+void ContentTake() {
+  comment[0] = '\0';
+  if (ClockAlarmSlot < 0 || ClockAlarmSlot >= kAlarmSlotCount) return;
+  const AlarmSlot alarm = AlarmSlotGet(ClockAlarmSlot);
+  TextCopy(comment, sizeof comment, alarm.comment);
+  PerformanceActive = alarm.performance;
+}
+
+void Init(WindowHandle window) {
+  hClockNoticeWnd = window;
+  ContentTake();
+  NoticeShow(window);
+  PerformanceBegin(ClockAlarmSlot >= 0);
+}
+
+void DrawFigure(Canvas* canvas, const Rect& area) {
+  CanvasPen(canvas, PenNothing());
+  CanvasBrush(canvas, BrushFace());
+  CanvasRectangle(canvas, area.left, area.top, area.right + 1, area.bottom + 1);
+  if (!PerformanceShowsFigures()) return;
+  const PerformanceImages figure = PerformanceFigure(PerformanceStep);
+  MaskedDraw(canvas, area.left + (RectWidth(area) - DibWidth(figure.picture)) / 2,
+             area.top + (RectHeight(area) - DibHeight(figure.picture)) / 2, figure.picture, figure.mask);
+}
+
+// Centred in the area, in memory first so that it does not flicker.
+void ShowFigure(Canvas* screen, const Rect& area) {
+  const int width = RectWidth(area);
+  const int height = RectHeight(area);
+  if (width <= 0 || height <= 0) return;
+  Canvas* memory = CanvasMemory(screen, width, height);
+  if (memory) {
+    DrawFigure(memory, {0, 0, width, height});
+    CanvasCopy(screen, area.left, area.top, width, height, memory, 0, 0);
+  } else {
+    CanvasClip(screen, area);
+    DrawFigure(screen, area);
+    CanvasClipNone(screen);
+  }
+  CanvasRelease(memory);
+}
+
+void Paint(WindowHandle window) {
+  Canvas* canvas = CanvasGet(window);
+  if (!canvas) return;
+  const Rect client = WindowClientRect(window);
+  CanvasBackTransparent(canvas, true);
+  CanvasTextColour(canvas, 0);
+  const int columns = std::min((client.right - kTextMargin) / kColumnWidth, kColumnMax);
+  const int below = TextLinesDraw(canvas, kTextX, kTextY, kLineStep, comment, sizeof comment - 1, columns);
+  ShowFigure(canvas, {0, below, client.right, client.bottom});
+  CanvasRelease(canvas);
+}
+
+void NextStep() {
+  PerformanceNext();
+  SendPaint(hClockNoticeWnd);
+}
+
+bool ClockNoticeProc(const Event& event) {
+  if (NoticeEnds(event, &hClockNoticeWnd)) return true;
+  switch (event.kind) {
+    case EventKind::Init:
+      Init(event.window);
+      return true;
+    case EventKind::Paint:
+      Paint(event.window);
+      return true;
+    case EventKind::Command:
+      if (event.command == kNextStep) NextStep();
+      return true;
+    case EventKind::Destroy:
+      PerformanceEnd();
+      return true;
+    default:
+      return false;
+  }
+}
+
+}  // namespace
+
+bool ClockNoticeWaitIsOver() {
+  return PerformanceWaitIsOver(SharedTime);
+}
+
+void CommandClockNotice(std::uint32_t) {
+  if (NoticeClosed(&hClockNoticeWnd)) DialogOpen(IDD_FlyingBat5, hMainWnd, ClockNoticeProc);
+}

@@ -1,0 +1,50 @@
+#include "character/performance_figures.h"
+
+#include "character/character.h"
+#include "character/character_tables.h"
+#include "character/frames.h"
+
+namespace {
+
+constexpr int kClockAlarmRow = 2;  // of AlarmCharaSel
+
+struct Loaded {
+  bool tried;
+  PerformanceImages images;
+};
+Loaded figures[kFrameMax];
+
+// The selected character's number; 0 for none.
+int CharacterNumber() {
+  const std::int32_t place = AlarmCharaSel[kClockAlarmRow] - 1;
+  return place >= 0 && place < AlarmCharaCount && place < kAlarmCharaMax ? AlarmCharas[place] : 0;
+}
+
+PerformanceImages Load(int number, int frame) {
+  PerformanceImages images;
+  images.picture = DibLoad(CharaBmpPath(number - 1, frame));
+  images.mask = DibLoad(CharaMaskPath(number - 1, frame));
+  if (images.picture && images.mask) DibApplyMask(images.picture, images.mask);
+  return images;
+}
+
+}  // namespace
+
+bool PerformanceCharacterIsSelected() {
+  return CharacterNumber() > 0;
+}
+
+PerformanceImages PerformanceFigure(int step) {
+  if (step < 0 || step >= kFrameMax || CharacterNumber() <= 0) return {};
+  Loaded& figure = figures[step];
+  if (!figure.tried) figure = {true, Load(CharacterNumber(), step)};
+  return figure.images;
+}
+
+void PerformanceFiguresFree() {
+  for (Loaded& figure : figures) {
+    DibFree(figure.images.picture);
+    DibFree(figure.images.mask);
+    figure = {};
+  }
+}

@@ -1,0 +1,19 @@
+// The figures of the clock alarm's character, for the performance of the clock
+// notice.
+#pragma once
+
+#include "shell/dib.h"
+
+struct PerformanceImages {
+  ImageHandle picture;
+  ImageHandle mask;
+};
+
+// Whether a character is selected for the clock alarm.
+bool PerformanceCharacterIsSelected();
+
+// The picture and mask of a step, 0 to 19, loaded when first asked for and kept
+// until PerformanceFiguresFree; nulls for what cannot be loaded.
+PerformanceImages PerformanceFigure(int step);
+
+void PerformanceFiguresFree();
