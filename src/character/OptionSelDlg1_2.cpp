@@ -1,4 +1,4 @@
-// The choice of the main character.
+// OptionSelDlg1_2: the choice of the main character.
 
 #include "character/chara_set.h"
 #include "character/character.h"

@@ -1,4 +1,4 @@
-// The choice of the alarm characters.
+// OptionSelDlg2: the choice of the alarm characters.
 
 #include "character/alarm_images.h"
 #include "character/character.h"

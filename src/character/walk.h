@@ -70,7 +70,8 @@ void WalkEndTick(int slot);
 void WalkTickAll();
 void WalkEndTickAll();
 
-// Ends all walks and end phases at once: a trial walk's dialog closes.
+// Ends all walks and end phases at once: SetOpnFileAnimeDlg, which starts trial
+// walks, closes.
 void WalkAbort();
 
 // Bits kWalk* of the current character's walking row; 0 if it has none.
