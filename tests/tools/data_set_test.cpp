@@ -348,6 +348,24 @@ TEST_F(DataSetTest, CheckFindsAFrameThatIsNotThere) {
   EXPECT_TRUE(HasFault("main character 1, menu: character 1 has no frame 17"));
 }
 
+TEST_F(DataSetTest, StickersAreTheFramesOfTheirCharacter) {
+  ASSERT_EQ(CalenFileRead(), 0);
+  ASSERT_EQ(CalenStickerCount(), 20);
+  for (int i = 0; i < 20; ++i) {
+    int chara = 0;
+    int figure = 0;
+    CalenSticker(i, &chara, &figure);
+    EXPECT_EQ(chara, 20);
+    EXPECT_EQ(figure, i);
+  }
+  EXPECT_EQ(ReadHostFile(MadePicture("Chara20.dwc")).size(), 1U + 20U * 4U);
+}
+
+TEST_F(DataSetTest, CheckFindsAMissingSticker) {
+  Remove(MadePicture("Chara20_7.bmp"));
+  EXPECT_TRUE(HasFault("sticker 7: character 20 has no frame 7"));
+}
+
 TEST_F(DataSetTest, CheckFindsAMonthOfAnotherYear) {
   Spoil(Made("mirrell_calen_file.dcd"), 3986 + 1);  // weekday of 1 January
   EXPECT_TRUE(HasFault("calendar 1: month 1 is not one of its year"));

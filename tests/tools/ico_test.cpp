@@ -2,6 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include "newdata/host_file.h"
+#include "shell/big_endian.h"
+
 TEST(IcoFile, DirectoryPicturesAndMasks) {
   // One pixel, half clear, and one clear pixel beside it would not be square: two
   // pictures of one pixel each.
@@ -33,4 +36,16 @@ TEST(ProgramIcon, HoldsFiveSizesAndThePngOfTheLargest) {
   for (int i = 0; i < 5; ++i) EXPECT_EQ(file[6 + 16 * i], sides[i]);
   const Bytes png(file.begin() + 86, file.begin() + 94);
   EXPECT_EQ(png, (Bytes{0x89, 'P', 'N', 'G', 0x0D, 0x0A, 0x1A, 0x0A}));
+}
+
+TEST(ProgramIcon, CommittedFileHoldsItsFivePicturesWhole) {
+  const Bytes file = ReadHostFile(MIRRELL_SOURCE_DIR "/src/resources/mirrell.ico");
+  ASSERT_GT(file.size(), 6U + 5U * 16U);
+  ASSERT_EQ(GetLE16(&file[4]), 5);
+  std::size_t end = 6 + 5 * 16;
+  for (int i = 0; i < 5; ++i) {
+    EXPECT_EQ(GetLE32(&file[6 + 16 * i + 12]), end);
+    end += GetLE32(&file[6 + 16 * i + 8]);
+  }
+  EXPECT_EQ(file.size(), end);
 }

@@ -3,6 +3,7 @@
 #include <string>
 
 #include "clock_calendar/calendar.h"
+#include "newdata/cast.h"
 #include "newdata/holidays.h"
 #include "newdata/pixels.h"
 #include "newdata/tables.h"
@@ -49,6 +50,20 @@ void FillDefinition(unsigned char* definition, int year) {
   PutColour(definition + kDefinitionTickerColour, kTickerColour);
 }
 
+// Every frame of the sticker characters is a sticker. The list holds a character
+// by its number from 1 and a frame from 0.
+void FillStickers() {
+  std::memset(CalenStickers, 0, sizeof CalenStickers);
+  int count = 0;
+  for (const CastMember* member : CastOf(Role::Sticker)) {
+    for (std::size_t frame = 0; frame < member->frames.size() && count < kStickerMax; ++frame, ++count) {
+      PutLE16(CalenStickers + kStickerCharas + 2 * count, static_cast<std::uint16_t>(member->number));
+      CalenStickers[kStickerFigures + count] = static_cast<unsigned char>(frame);
+    }
+  }
+  PutLE16(CalenStickers + kStickerCount, static_cast<std::uint16_t>(count));
+}
+
 // Flags the holidays of a year of the working array that the rules pass over.
 void FlagRemainingHolidays(int yearIndex, int year) {
   const std::int32_t shown = CalenYearPos;
@@ -76,6 +91,7 @@ void FillCalendars(int year) {
   CalenPictureOn = 1;
   std::memset(CalenBackColour, 0, sizeof CalenBackColour);
   PutColour(CalenBackColour, kWhite);
+  FillStickers();
   for (int i = 0; i < CalenCount; ++i) FillDefinition(CalenDefinitions[i], year);
   for (int i = 0; i < kCalenYearMax; ++i) {
     CalenYearInit(i);

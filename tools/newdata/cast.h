@@ -7,7 +7,19 @@
 
 #include "newdata/outline_file.h"
 
-enum class Role { Main, Alarm, Walker, Clock };
+enum class Role {
+  Main,     // stands on the stage
+  Alarm,    // shows itself in notices
+  Walker,   // walks over the screen
+  Clock,    // a clock design
+  Sticker,  // its frames are stuck on days of a calendar
+};
+
+// Stickers are never a window's shape, so they have no outlines and may be in
+// pieces.
+constexpr bool HasOutline(Role role) {
+  return role != Role::Sticker;
+}
 
 // How the windows of a role are shaped.
 constexpr OutlineKind OutlineKindOf(Role role) {

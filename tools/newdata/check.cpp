@@ -29,16 +29,21 @@ struct DibFreer {
 };
 using Dib = std::unique_ptr<unsigned char, DibFreer>;
 
+constexpr OutlineKind kStage = OutlineKind::Stage;
+constexpr OutlineKind kWalker = OutlineKind::Walker;
+constexpr OutlineKind kBare = OutlineKind::Bare;
+
 class Checker {
  public:
   explicit Checker(std::filesystem::path folder) : folder_(std::move(folder)) {}
 
   std::vector<std::string> Run() {
     if (!ReadDataFiles()) return faults_;  // nothing to compare
-    for (int i = 0; i < MainCharaCount; ++i) CheckCharacter(MainCharas[i].charaNo, OutlineKind::Stage);
-    for (int i = 0; i < AlarmCharaCount; ++i) CheckCharacter(AlarmCharas[i], OutlineKind::Bare);
-    for (int i = 0; i < WalkCharaCount; ++i) CheckCharacter(WalkCharas[i].number, OutlineKind::Walker);
-    for (int i = 0; i < ClockDesignCount; ++i) CheckCharacter(ClockDesigns[i].number, OutlineKind::Bare);
+    for (int i = 0; i < MainCharaCount; ++i) CheckCharacter(MainCharas[i].charaNo, &kStage);
+    for (int i = 0; i < AlarmCharaCount; ++i) CheckCharacter(AlarmCharas[i], &kBare);
+    for (int i = 0; i < WalkCharaCount; ++i) CheckCharacter(WalkCharas[i].number, &kWalker);
+    for (int i = 0; i < ClockDesignCount; ++i) CheckCharacter(ClockDesigns[i].number, &kBare);
+    CheckStickers();
     CheckMainCharacters();
     CheckDesigns();
     CheckSettings();
@@ -92,7 +97,7 @@ class Checker {
     return DibBits(image) != nullptr && GetLE16(image + kBitCount) == 24;
   }
 
-  void CheckFrame(int number, int frame, const Outline& outline, OutlineKind kind) {
+  void CheckFrame(int number, int frame, const Outline& outline, const OutlineKind* kind) {
     const std::string name = "character " + std::to_string(number) + " frame " + std::to_string(frame + 1);
     const Dib picture(DibLoad(CharaBmpPath(number - 1, frame)));
     const Dib mask(DibLoad(CharaMaskPath(number - 1, frame)));
@@ -113,10 +118,10 @@ class Checker {
       return;
     }
     const PixelSet figure = ReadMask(mask.get(), name);
-    if (figure.width == 0) return;
+    if (figure.width == 0 || !kind) return;
     Polygon polygon;
     for (int i = 0; i < outline.count; ++i) {
-      polygon.push_back(CornerOfPoint(outline.points[i].x, outline.points[i].y, figure.height, kind));
+      polygon.push_back(CornerOfPoint(outline.points[i].x, outline.points[i].y, figure.height, *kind));
     }
     for (const Probe probe : {Probe::Corner, Probe::Middle}) {
       if (PolygonPixels(polygon, figure.width, figure.height, probe) != figure) {
@@ -126,7 +131,8 @@ class Checker {
     }
   }
 
-  void CheckCharacter(int number, OutlineKind kind) {
+  // `kind` is null for a character without outlines.
+  void CheckCharacter(int number, const OutlineKind* kind) {
     const std::string name = "character " + std::to_string(number);
     if (number < 1) {
       Fault("a character has the number " + std::to_string(number));
@@ -147,6 +153,19 @@ class Checker {
     const Dib picture(frame >= 0 && frame < kFrameMax ? DibLoad(CharaBmpPath(number - 1, frame)) : nullptr);
     Demand(picture != nullptr,
            what + ": character " + std::to_string(number) + " has no frame " + std::to_string(frame + 1));
+  }
+
+  void CheckStickers() {
+    std::set<int> charas;
+    Demand(CalenStickerCount() > 0, "there is no sticker");
+    for (int i = 0; i < CalenStickerCount(); ++i) {
+      int chara = 0;
+      int figure = 0;
+      CalenSticker(i, &chara, &figure);
+      charas.insert(chara);
+      DemandFrame(chara, figure, "sticker " + std::to_string(i + 1));
+    }
+    for (const int chara : charas) CheckCharacter(chara, nullptr);
   }
 
   void CheckMainCharacters() {

@@ -61,7 +61,7 @@ void WriteDataFiles(const DataSetDate& date) {
   FillCalendars(date.year);
   FillAlarms();
   // In this order: the writer of the character file sets values that the settings
-  // file takes over.
+  // file takes over. The settings file comes last: where it is, the set is whole.
   Demand(CharaFileWrite(), "mirrell_chara_file.dcx");
   TakeFirstCharacter();
   Demand(CalenFileWrite(), "mirrell_calen_file.dcd");

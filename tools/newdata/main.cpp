@@ -41,7 +41,7 @@ int DatePart(const std::string& text, std::size_t place, std::size_t digits) {
   int value = 0;
   const char* from = text.data() + place;
   const auto [end, error] = std::from_chars(from, from + digits, value);
-  if (error != std::errc() || end != from + digits) throw std::runtime_error("no date: " + text);
+  if (error != std::errc() || end != from + digits || value < 0) throw std::runtime_error("no date: " + text);
   return value;
 }
 

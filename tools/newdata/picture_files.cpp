@@ -33,8 +33,9 @@ void WriteCharacter(const CastMember& member, const std::filesystem::path& drawi
   Outlines outlines;
   for (int number = 1; number <= frames; ++number) {
     const Frame frame = RenderFrame(drawing, number);
-    outlines[static_cast<std::size_t>(number) - 1] = {OutlineOf(frame, drawing, number),
-                                                      frame.picture.height};
+    if (HasOutline(member.role))
+      outlines[static_cast<std::size_t>(number) - 1] = {OutlineOf(frame, drawing, number),
+                                                        frame.picture.height};
     const std::string picture = stem + "_" + std::to_string(number);
     WriteHostFile(folder / (picture + ".bmp"), BmpFile(frame.picture));
     WriteHostFile(folder / (picture + "x.bmp"), BmpFile(MaskPicture(frame.figure)));

@@ -11,6 +11,6 @@ void FillCharacters();
 void FillClocks();
 
 // Three calendars (month, week and day page) that begin with a year from 2022 on,
-// with the public holidays. The holidays that no rule can tell are flagged in the
-// years of the working array.
+// with the public holidays and the stickers. The holidays that no rule can tell
+// are flagged in the years of the working array.
 void FillCalendars(int year);
