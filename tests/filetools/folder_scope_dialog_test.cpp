@@ -461,8 +461,7 @@ TEST_F(FolderScopeDialogTest, TheKeyEndsInFrontOfItsSizes) {
     for (const DrawCall& text : DrawnTexts(TopDialog())) {
       if (text.text == "1.( 1) data") {
         EXPECT_EQ(text.clip.right, 224);
-      }
-      if (text.text == "1.( 1) p1.bin") {
+      } else if (text.text == "1.( 1) p1.bin") {
         EXPECT_EQ(text.clip.right, 584);
       }
     }

@@ -254,6 +254,7 @@ SearchHandle SearchFirst(const char* pattern, SearchEntry* entry) {
   const std::string full = PosixPath(pattern);
   const std::size_t slash = full.rfind('/');
   const char* mask = slash == std::string::npos ? full.c_str() : full.c_str() + slash + 1;
+  if (mask[0] == '\0') return kNoSearch;
   Search search;
   if (std::strpbrk(mask, "*?")) {
     const std::string folder = slash == std::string::npos ? "." : full.substr(0, slash + 1);
