@@ -15,18 +15,21 @@ constexpr int kDriveSearch = 1;
 constexpr int kFolderSearch = 2;
 constexpr int kStopped = -1;
 
-int entries;
-
-void End(WindowHandle dialog, int count) {
+// Takes the search away from the tick; what it has open is closed.
+void Leave(WindowHandle dialog) {
   if (hSearchDlg != dialog) return;
-  entries = count;
   ScopeStepStop();
   progressMode = 0;
   hSearchDlg = nullptr;
-  DialogEnd(dialog, 0);
+}
+
+void End(WindowHandle dialog, int entries) {
+  Leave(dialog);
+  DialogEnd(dialog, entries);
 }
 
 void Step(WindowHandle dialog) {
+  if (hSearchDlg != dialog) return;
   int result = 0;
   if (progressMode == kDriveSearch) result = ScopeDriveStep();
   if (progressMode == kFolderSearch) result = ScopeFolderStep();
@@ -45,7 +48,7 @@ bool Handle(const Event& event) {
     End(event.window, kStopped);
   } else {
     // The program may end while a search is running.
-    if (event.kind == EventKind::Destroy) End(event.window, kStopped);
+    if (event.kind == EventKind::Destroy) Leave(event.window);
     return false;
   }
   return true;
@@ -54,9 +57,10 @@ bool Handle(const Event& event) {
 }  // namespace
 
 int ScopeSearchRun(WindowHandle owner, int mode) {
-  entries = kStopped;
+  // The tick drives one work at a time; a command from outside may ask for another.
+  if (hSearchDlg) return kStopped;
   progressMode = mode;
-  DialogRun(mode == kDriveSearch ? IDD_SerchDrvDlg : IDD_SerchFolderDlg, owner, Handle);
+  const int entries = DialogRun(mode == kDriveSearch ? IDD_SerchDrvDlg : IDD_SerchFolderDlg, owner, Handle);
   progressMode = 0;
   return entries;
 }

@@ -11,7 +11,7 @@ void FolderStaticsDlg2Run(WindowHandle owner);
 
 // Runs the search of a progress mode, 1 or 2, under SerchDrvDlg or SerchFolderDlg.
 // Returns the number of entries; negative if the user stopped it, there are too
-// many, or the dialog cannot be made.
+// many, other stepped work is running, or the dialog cannot be made.
 int ScopeSearchRun(WindowHandle owner, int mode);
 
 // The part of a statistics dialog that is drawn on: it is left to the code.

@@ -278,8 +278,29 @@ TEST_F(FolderScopeDialogTest, AStepBehindTheEndOfASearchIsPassedOver) {
     SendCommand(dialog, 2376);
     SendCommand(dialog, 2);
   });
-  EXPECT_GE(ScopeSearchRun(nullptr, 1), 1);
+  EXPECT_EQ(ScopeSearchRun(nullptr, 1), 1);
   EXPECT_EQ(progressMode, 0);
+}
+
+TEST_F(FolderScopeDialogTest, ASecondSearchWhileOneIsRunningIsRefused) {
+  Choose("C:\\");
+  Then([] {
+    SendCommand(hSearchDlg, 2376);
+    EXPECT_EQ(ScopeSearchRun(nullptr, 2), -1);
+    EXPECT_EQ(progressMode, 1);
+    TicksOfSearch();
+  });
+  EXPECT_EQ(ScopeSearchRun(nullptr, 1), 1);  // "mirrell"
+}
+
+TEST_F(FolderScopeDialogTest, ASecondScopeWhileOneIsOpenIsRefused) {
+  Then([] {
+    FolderScopeCommand();
+    Press(TopDialog(), 3);
+  });
+  FolderScopeCommand();
+  Then([] { Press(TopDialog(), 3); });
+  FolderScopeCommand();
 }
 
 TEST_F(FolderScopeDialogTest, EachWindowThatCannotBeMadeLeavesNothingBehind) {
