@@ -166,24 +166,16 @@ TEST_F(ShutdownTest, ClosingWithFeatureWindowsOpenLeavesNoSavedState) {
   WindowDestroy(hMailNoticeWnd);
 }
 
-TEST(ProcessEntryTest, ReturnsTheQuitCode) {
-  // Covered by the message loop of the headless backend: the script closes.
-  HeadlessReset();
-  HeadlessResourceFile(MIRRELL_RES_FILE);
+class ProcessEntryTest : public ProgramTest {};
+
+TEST_F(ProcessEntryTest, ReturnsTheQuitCode) {
   Then([] { SendClose(hMainWnd); });
   EXPECT_EQ(ProcessEntry("", 1), 0);
-  EXPECT_TRUE(HeadlessTakeFailures().empty());
-  MainWindowDrop();
-  HeadlessReset();
 }
 
-TEST(ProcessEntryTest, NoWindowGivesZero) {
-  HeadlessReset();
-  HeadlessResourceFile(MIRRELL_RES_FILE);
+TEST_F(ProcessEntryTest, NoWindowGivesZero) {
   FaultArm(FaultKind::Window, 1);
   EXPECT_EQ(ProcessEntry("", 1), 0);
-  FaultClear();
-  HeadlessReset();
 }
 
 }  // namespace
