@@ -13,6 +13,7 @@ constexpr int kButtonExtra = 8;
 constexpr int kCheckExtra = 10;
 constexpr int kCaptionExtra = 12;
 constexpr int kClosedComboHeight = 12;
+constexpr int kLongField = 30;  // narrower ones take short numbers
 
 constexpr std::uint32_t kStyleVisible = 0x10000000;
 constexpr std::uint32_t kStyleCaption = 0x00C00000;
@@ -243,7 +244,7 @@ class Lint {
   }
 
   void Habits(const Control& control) {
-    if (control.controlClass == ControlClass::Edit &&
+    if (control.controlClass == ControlClass::Edit && control.width >= kLongField &&
         (control.style & (kEditMultiline | kEditScrolls)) == 0) {
       Find(Named(control) + ": takes no more text than it shows; it lacks ES_AUTOHSCROLL");
     }

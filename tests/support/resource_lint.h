@@ -16,7 +16,7 @@
 //   controls that leave the dialog
 //   texts that do not fit: 4 units a half-width column, 8 units a line; a
 //   button needs 8 units beside its text, a check box 10, a caption 12
-//   one-line edit fields that stop at their right edge, and list boxes that
+//   one-line edit fields of 30 units and more that stop at their right edge, and list boxes that
 //   report nothing
 std::vector<std::string> LintDialog(const ResourceDialog& dialog);
 
