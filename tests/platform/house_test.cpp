@@ -126,6 +126,28 @@ TEST(HouseTest, ClosedComboBoxIsTwelveHigh) {
   EXPECT_EQ(LintDialog(MakeDialog({combo, Make(ControlClass::Static, 2, "", 0, 11, 8, 8)})).size(), 1U);
 }
 
+TEST(HouseTest, OnlyShortFieldsMayStopAtTheirEdge) {
+  const auto finds = [](int width, std::uint32_t style) {
+    ResourceControl edit = Make(ControlClass::Edit, 1, "", 0, 0, width, 12);
+    edit.style |= style;
+    return LintDialog(MakeDialog({edit})).size();
+  };
+  EXPECT_EQ(finds(29, 0), 0U);
+  EXPECT_EQ(finds(30, 0), 1U);
+  EXPECT_EQ(finds(30, 0x80), 0U);  // scrolls
+  EXPECT_EQ(finds(30, 4), 0U);     // several lines
+}
+
+TEST(HouseTest, HiddenControlsMayLieOnOthers) {
+  ResourceControl below = Make(ControlClass::ListBox, 1, "", 0, 0, 20, 20);
+  ResourceControl above = Make(ControlClass::ListBox, 2, "", 10, 10, 20, 20);
+  below.style |= 1;
+  above.style |= 1;
+  EXPECT_EQ(LintDialog(MakeDialog({below, above})).size(), 1U);
+  above.style &= ~0x10000000U;
+  EXPECT_EQ(LintDialog(MakeDialog({below, above})).size(), 0U);
+}
+
 TEST(HouseTest, SystemHeaderOutsideTheBackendsIsFound) {
   EXPECT_EQ(LintSource("shell/a.cpp", "#include <windows.h>\n").size(), 1U);
   EXPECT_EQ(LintSource("platform/window.h", "#include <unistd.h>\n").size(), 1U);
