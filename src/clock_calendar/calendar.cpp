@@ -42,6 +42,8 @@ std::int32_t CalenFigStep[kFigureCount];
 std::int32_t CalenFigTurn[kFigureCount];
 unsigned char CalenFigDir[kFigureCount][kFigureCopies];
 
+std::int32_t CalenMonthPos;
+
 std::int32_t CalenW;
 std::int32_t CalenH;
 

@@ -288,21 +288,40 @@ void CalenTickerSetup();
 
 // --- The month on show.
 
-// Puts the year of today on display, moving the span there if it lies outside.
-// The calendar window calls it when it opens.
+extern std::int32_t CalenMonthPos;  // the month on display, 0 to 11
+
+// Puts the year and month of today on display, moving the span there if it lies
+// outside, and loads the pictures. The calendar window calls it when it opens.
 void CalenShowToday();
 // Called at each change of the month on show: a year on display outside the span
-// becomes the first of the span; then the month's pictures are loaded.
+// becomes the first of the span; then the month's pictures are loaded, and its
+// figures begin to move from their start.
 void CalenPrepareMonth();
-// Loads the pictures of the month on show and sets the figures moving.
-void CalenPicturesLoad();
-// Loads the pictures of the stickers.
-void CalenStickersPrepare();
 
 // --- The tick.
 
 // Takes a new date over and moves the figures. Returns 1 when the calendar must
 // be drawn again.
 int CalenTickCheck();
-// Moves the figures of the page by one tick. True when one has moved.
-bool CalenFiguresMove();
+
+// --- Announcing notes.
+
+inline constexpr int kNoteDays = 3;  // today, tomorrow, the day after
+
+// A note that waits to be announced.
+struct CalenNote {
+  bool due;
+  std::int32_t year;  // two digits
+  // kept: month and day share one place, and the day is the last to be put there;
+  // both numbers of the announced date are this one + 1.
+  std::int32_t monthAndDay;
+  char text[kNoteSize + 1];
+};
+extern CalenNote CalenNotes[kNoteDays];
+
+// Looks for a note as CalenNoteMode asks and puts it into CalenNotes. Returns 1
+// when there is one, and again until it has been taken. A day's note that has been
+// taken comes back only on another date.
+int CalenNoteCheck();
+// Takes the first waiting note out of CalenNotes. Returns its place, -1 for none.
+int CalenNoteTake();

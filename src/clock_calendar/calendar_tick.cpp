@@ -1,7 +1,7 @@
 // The calendar's part of a tick: a new day, a new month on show.
 #include <algorithm>
 
-#include "clock_calendar/calendar.h"
+#include "clock_calendar/calendar_picture.h"
 #include "platform/time.h"
 #include "shell/shell.h"
 
@@ -13,21 +13,26 @@ void BeginSpanAt(int year) {
   CalenYearPos = 0;
 }
 
-}  // namespace
-
-void CalenTakeDefinition() {
-  CalenTickerSetup();
-  CalenStickersPrepare();
-  CalenShowToday();
-}
-
-void CalenShowToday() {
+void DisplayToday() {
+  CalenMonthPos = std::clamp<std::int32_t>(TodayMonth, 0, kMonthsOfYear - 1);
   const int index = CalenSpanIndex(TodayYear);
   if (index >= 0) {
     CalenYearPos = index;
   } else {
     BeginSpanAt(TodayYear);
   }
+}
+
+}  // namespace
+
+void CalenTakeDefinition() {
+  CalenTickerSetup();
+  CalenShowToday();
+}
+
+void CalenShowToday() {
+  DisplayToday();
+  CalenStickersPrepare();
   CalenPicturesLoad();
 }
 
@@ -37,7 +42,9 @@ void CalenPrepareMonth() {
     // bounded: the settings file may hold any place; today is always a year.
     BeginSpanAt(year >= 0 && year <= 99 ? static_cast<int>(year) : TodayYear);
   }
+  CalenStickersPrepare();
   CalenPicturesLoad();
+  for (int figure = 0; figure < kFigureCount; ++figure) CalenFigurePlace(figure);
 }
 
 int CalenTickCheck() {
@@ -49,7 +56,10 @@ int CalenTickCheck() {
   TodayYear = today.year;
   TodayMonth = today.month;
   TodayDay = today.day;
-  if (otherMonth) CalenShowToday();
+  if (otherMonth) {
+    DisplayToday();
+    CalenPrepareMonth();
+  }
   const bool moved = CalenFiguresMove();
   return otherDay || moved ? 1 : 0;
 }

@@ -319,3 +319,44 @@ int ClockAlarmCheck(int hour, int minute);
 void ClockAlarmCheckReset();
 // Forgets which slot fired last, so that any may fire again.
 void ClockAlarmForget();
+
+// --- Timed events, rows of 138 bytes, for as long as the program runs.
+//
+// offset  size  field
+//      0     1  enabled
+//      1     1  spare
+//      2     2  hour
+//      4     2  minute
+//      6     2  second
+//      8   128  comment
+//    136     2  spare
+
+inline constexpr int kTimedMax = 24;
+inline constexpr int kTimedSize = 138;
+inline constexpr int kTimedEnabled = 0;
+inline constexpr int kTimedHour = 2;
+inline constexpr int kTimedMinute = 4;
+inline constexpr int kTimedSecond = 6;
+inline constexpr int kTimedComment = 8;
+inline constexpr int kTimedCommentSize = 128;
+
+struct TimedEvent {
+  bool enabled;
+  int hour;
+  int minute;
+  int second;
+  char comment[kTimedCommentSize];
+};
+
+extern std::int32_t TimedCount;
+extern unsigned char TimedRows[kTimedMax][kTimedSize];
+// The rows in the order of their times, as their numbers from 0.
+extern std::int32_t TimedOrder[kTimedMax];
+
+TimedEvent TimedGet(int row);
+// Adds a row behind the others. Returns its number, -1 when all 24 are taken.
+int TimedAdd(const TimedEvent& event);
+// False for a row that is not there.
+bool TimedChange(int row, const TimedEvent& event);
+// Deletes a row; those behind it move up by one.
+bool TimedDelete(int row);

@@ -13,7 +13,6 @@ void CalenTickerTick() {}
 void ClockWindowOpen() {}
 void CalenWindowOpen() {}
 void CalenFontDelete() {}
-void CalenStickersFree() {}
 
 void ClockPreviewFree() {
   MemoryFree(previewImage);

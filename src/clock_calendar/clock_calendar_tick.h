@@ -18,4 +18,5 @@ void ClockWindowOpen();
 void CalenWindowOpen();
 
 void CalenFontDelete();
+// Frees the pictures of the stickers and of the month on display.
 void CalenStickersFree();

@@ -1,0 +1,429 @@
+// The pictures of the month on show, the figures that move over it, and the
+// announcement of notes.
+#include <cstring>
+
+#include "clock_calendar/calendar_picture.h"
+#include "clock_calendar/clock_calendar_tick.h"
+#include "platform/posix/test_clock.h"
+#include "scenario/world_list.h"
+#include "shell/random.h"
+#include "tests/character/chara_files.h"
+#include "tests/support/records.h"
+
+namespace {
+
+class CalendarFiguresTest : public CharaFiles {
+ protected:
+  void SetUp() override {
+    CharaFiles::SetUp();
+    ClearRecords();
+    TodayYear = 26;
+    TodayMonth = 10;
+    CalenMonthPos = 10;
+    CalenPictureOn = 1;
+    CalenPageSize = 1;  // the page is 200 wide, its picture 195 high
+    CalenYearsSet(26);
+    CalenYearCount = 1;
+    for (int month = 0; month < 12; ++month) Block(month)[kMonthPictureOn] = 1;
+  }
+  void TearDown() override {
+    CalenStickersFree();
+    ClearRecords();
+    CharaFiles::TearDown();
+  }
+  static unsigned char* Block(int month) { return CalenMonths[0][month]; }
+  // Gives a place of November a figure: frame 0 of a character, start 50, 60.
+  static void Figure(int place, int chara, int frame = 0, int mode = 0) {
+    unsigned char* definition = CalenDefinitions[0];
+    PutLE16(definition + kDefinitionCharas + 2 * (4 * 10 + place), static_cast<std::uint16_t>(chara));
+    definition[kDefinitionFigures + 4 * 10 + place] = static_cast<unsigned char>(frame);
+    definition[kDefinitionFigureModes + 4 * 10 + place] = static_cast<unsigned char>(mode);
+    PutLE32(definition + kDefinitionStartX + 4 * (4 * 10 + place), 50);
+    PutLE32(definition + kDefinitionStartY + 4 * (4 * 10 + place), 60);
+  }
+  // Figure 0 is 20 pixels high and takes a step of its height every 50 ticks.
+  void Walker(int direction, int stepCode = 5) {
+    Put("\\キャラクタ\\Chara5_1.bmp", BmpFile(10, 20));
+    Figure(0, 5);
+    Block(10)[kMonthFigDirection] = static_cast<unsigned char>(direction);
+    Block(10)[kMonthFigStep] = static_cast<unsigned char>(stepCode);
+    CalenPrepareMonth();
+  }
+  // Ticks until the figure's next move; returns whether it moved.
+  static bool Move() {
+    for (int tick = 1; tick < 50; ++tick) {
+      if (CalenFiguresMove()) ADD_FAILURE() << "moved at tick " << tick;
+    }
+    return CalenFiguresMove();
+  }
+  static std::string Place() {
+    return std::to_string(CalenFigPos1[0][0]) + "," + std::to_string(CalenFigPos1[0][1]);
+  }
+};
+
+TEST_F(CalendarFiguresTest, BackgroundAndFiguresOfTheMonthAreLoaded) {
+  MakeFolder(InProgram("背景"));
+  Put("\\背景\\sea.bmp", BmpFile(30, 40));
+  Put("\\キャラクタ\\Chara5_3.bmp", BmpFile(10, 20));
+  Put("\\キャラクタ\\Chara5_3x.bmp", BmpFile(10, 20, 255, 255, 255));
+  Put("\\キャラクタ\\Chara6_1.bmp", BmpFile(11, 21));
+  std::memcpy(Block(10) + kMonthBackground, "sea.bmp", 8);
+  Figure(0, 5, 2);
+  Figure(2, 6);
+  CalenPrepareMonth();
+  EXPECT_EQ(DibWidth(CalenBackground), 30);
+  EXPECT_EQ(DibHeight(CalenFigures[0].picture), 20);
+  EXPECT_NE(CalenFigures[0].mask, nullptr);
+  EXPECT_EQ(DibBits(CalenFigures[0].picture)[0], 0);  // the white mask has blackened it
+  EXPECT_EQ(CalenFigures[1].picture, nullptr);
+  EXPECT_EQ(DibHeight(CalenFigures[2].picture), 21);
+  EXPECT_EQ(CalenFixedFigure.x, 50);
+  EXPECT_EQ(CalenFixedFigure.y, 60);
+  CalenMonthPos = 3;
+  CalenPrepareMonth();
+  EXPECT_EQ(CalenBackground, nullptr);
+  EXPECT_EQ(CalenFigures[0].picture, nullptr);
+}
+
+TEST_F(CalendarFiguresTest, ABackgroundIsTakenByItsFullPathAndNotAtAllWithTheColourFlag) {
+  Put("\\own.bmp", BmpFile(30, 40));
+  std::memcpy(Block(10) + kMonthBackground, "C:\\mirrell\\own.bmp", 19);
+  CalenPrepareMonth();
+  EXPECT_EQ(DibHeight(CalenBackground), 40);
+  Block(10)[kMonthColourOnly] = 1;
+  CalenPrepareMonth();
+  EXPECT_EQ(CalenBackground, nullptr);
+  Block(10)[kMonthColourOnly] = 0;
+  Block(10)[kMonthPictureOn] = 0;
+  CalenPrepareMonth();
+  EXPECT_EQ(CalenBackground, nullptr);
+  // A field without a terminator names no file.
+  Block(10)[kMonthPictureOn] = 1;
+  std::memset(Block(10) + kMonthBackground, 'x', kMonthBackgroundSize);
+  CalenPrepareMonth();
+  EXPECT_EQ(CalenBackground, nullptr);
+}
+
+TEST_F(CalendarFiguresTest, StickersOfTheMonthAreLoadedByTheirDays) {
+  Put("\\キャラクタ\\Chara9_4.bmp", BmpFile(12, 13));
+  PutLE16(CalenStickers, 2);
+  PutLE16(CalenStickers + kStickerCharas + 2, 9);
+  CalenStickers[kStickerFigures + 1] = 3;
+  unsigned char* days = CalenDefinitions[0] + kDefinitionStickers + 32 * 10;
+  days[0] = 2;
+  days[30] = 2;
+  days[5] = 3;  // beyond the list
+  CalenStickersPrepare();
+  EXPECT_EQ(DibWidth(CalenDayStickers[0].picture), 12);
+  EXPECT_EQ(DibWidth(CalenDayStickers[30].picture), 12);
+  EXPECT_EQ(CalenDayStickers[1].picture, nullptr);
+  EXPECT_EQ(CalenDayStickers[5].picture, nullptr);
+}
+
+TEST_F(CalendarFiguresTest, ThePictureHeightFollowsThePageSizeAndIs0WithNoPicture) {
+  const int kHeights[] = {145, 195, 245, 195};
+  for (int size = 0; size < 4; ++size) {
+    CalenPageSize = size;
+    EXPECT_EQ(CalenPictureHeight(), kHeights[size]) << size;
+  }
+  CalenPictureOn = 0;
+  EXPECT_EQ(CalenPictureHeight(), 0);
+}
+
+TEST_F(CalendarFiguresTest, PeriodAndStepCodesHaveTheirValues) {
+  const int kPeriods[] = {50, 100, 1000, 3000, 6000, 18000, 30000, 50};
+  for (int code = 0; code < 8; ++code) EXPECT_EQ(CalenPeriodOf(code), kPeriods[code]) << code;
+  EXPECT_EQ(CalenPeriodOf(255), 50);
+  const int kSteps[] = {0, 10, 30, 50, 70, 100, 200, 300, 400, 500, 1000, 0};
+  for (int code = 0; code < 12; ++code) EXPECT_EQ(CalenStepOf(code, 100), kSteps[code]) << code;
+}
+
+TEST_F(CalendarFiguresTest, EachDirectionMovesItsWayAndAsksForARepaint) {
+  const char* const kPlaces[] = {"50,60", "30,60", "70,60", "50,40", "50,80",
+                                 "30,40", "70,40", "30,80", "70,80"};
+  for (int direction = 1; direction <= 8; ++direction) {
+    Walker(direction);
+    EXPECT_EQ(Place(), "50,60");
+    EXPECT_TRUE(Move()) << direction;
+    EXPECT_EQ(Place(), kPlaces[direction]) << direction;
+    EXPECT_EQ(CalenFigPhase[0][0], 1);
+    EXPECT_TRUE(Move()) << direction;
+    EXPECT_EQ(CalenFigPhase[0][0], 0);
+  }
+}
+
+TEST_F(CalendarFiguresTest, WithoutADirectionAStepAPictureOrTheSwitchNothingMoves) {
+  Walker(0);
+  EXPECT_FALSE(Move());
+  Walker(2, 0);
+  EXPECT_FALSE(Move());
+  Walker(2);
+  CalenPictureOn = 0;
+  EXPECT_FALSE(Move());
+  CalenPictureOn = 1;
+  RemoveFile(InProgram("キャラクタ\\Chara5_1.bmp"));
+  CalenPrepareMonth();
+  EXPECT_FALSE(Move());
+  EXPECT_EQ(Place(), "50,60");
+}
+
+TEST_F(CalendarFiguresTest, ThePeriodOfTheMonthIsWaitedFor) {
+  Block(10)[kMonthFigPeriod] = 1;
+  Walker(2);
+  for (int tick = 1; tick < 100; ++tick) EXPECT_FALSE(CalenFiguresMove()) << tick;
+  EXPECT_TRUE(CalenFiguresMove());
+}
+
+TEST_F(CalendarFiguresTest, AFigureThatWouldLeaveJumpsToMinus300WithoutItsTurnFlag) {
+  Walker(2);
+  CalenFigPos1[0][0] = 180;
+  EXPECT_TRUE(Move());
+  EXPECT_EQ(Place(), "200,60");
+  EXPECT_TRUE(Move());
+  EXPECT_EQ(Place(), "-300,60");
+  EXPECT_TRUE(Move());
+  EXPECT_EQ(Place(), "-280,60");
+  Walker(1);
+  CalenFigPos1[0][0] = 20;
+  EXPECT_TRUE(Move());
+  EXPECT_EQ(Place(), "0,60");
+  EXPECT_TRUE(Move());
+  EXPECT_EQ(Place(), "-300,60");
+  Walker(4);
+  CalenFigPos1[0][1] = 176;
+  EXPECT_TRUE(Move());
+  EXPECT_EQ(Place(), "50,-300");
+}
+
+TEST_F(CalendarFiguresTest, AFigureThatWouldLeaveTurnsBackWithItsTurnFlag) {
+  const struct {
+    int direction, x, y, opposite;
+    const char* place;
+  } kCases[] = {{1, 10, 60, 2, "30,60"},   {2, 190, 60, 1, "170,60"},  {3, 50, 10, 4, "50,30"},
+                {4, 50, 190, 3, "50,170"}, {5, 50, 10, 8, "70,30"},    {6, 190, 60, 7, "170,80"},
+                {7, 10, 60, 6, "30,40"},   {8, 190, 190, 5, "170,170"}};
+  for (const auto& item : kCases) {
+    Walker(item.direction);
+    CalenFigTurn[0] = 1;
+    CalenFigPos1[0][0] = item.x;
+    CalenFigPos1[0][1] = item.y;
+    EXPECT_TRUE(Move()) << item.direction;
+    EXPECT_EQ(CalenFigDir[0][0], item.opposite) << item.direction;
+    EXPECT_EQ(Place(), item.place) << item.direction;
+  }
+}
+
+TEST_F(CalendarFiguresTest, ARandomFigureDrawsADirectionBelow9AtSetupAndOneOf8AtEachStep) {
+  RandomSeed(3);
+  bool still = false;
+  for (int i = 0; i < 200; ++i) {
+    Walker(9);
+    EXPECT_LT(CalenFigDir[0][0], 9);
+    still = still || CalenFigDir[0][0] == 0;
+  }
+  EXPECT_TRUE(still);
+  bool seen[9] = {};
+  for (int i = 0; i < 500; ++i) {
+    CalenFigPos1[0][0] = CalenFigPos1[0][1] = 100;
+    EXPECT_TRUE(Move());
+    ASSERT_TRUE(CalenFigDir[0][0] >= 1 && CalenFigDir[0][0] <= 8);
+    seen[CalenFigDir[0][0]] = true;
+  }
+  for (int direction = 1; direction <= 8; ++direction) EXPECT_TRUE(seen[direction]) << direction;
+}
+
+TEST_F(CalendarFiguresTest, AFigureGoesOnFromWhereItStoodWhenThePicturesAreLoadedAgain) {
+  Walker(2);
+  EXPECT_TRUE(Move());
+  CalenFigDir[0][0] = 1;  // it has turned back
+  CalenShowToday();
+  EXPECT_EQ(Place(), "70,60");
+  EXPECT_EQ(CalenFigDir[0][0], 1);
+  // A direction that the month does not give is not believed.
+  CalenFigDir[0][0] = 3;
+  CalenShowToday();
+  EXPECT_EQ(CalenFigDir[0][0], 2);
+  CalenFigDir[0][0] = 250;
+  CalenShowToday();
+  EXPECT_EQ(CalenFigDir[0][0], 2);
+  // Another month begins at the start.
+  CalenPrepareMonth();
+  EXPECT_EQ(Place(), "50,60");
+}
+
+TEST_F(CalendarFiguresTest, NumbersOutOfTheSettingsFileStayInsideTheTables) {
+  Walker(2);
+  CalenFigCount[0] = CalenFigCount[1] = 255;
+  for (auto& position : CalenFigPos1) position[0] = position[1] = 2147483647;
+  CalenFigStep[0] = 2147483647;
+  EXPECT_TRUE(Move());
+  for (auto& position : CalenFigPos1) position[0] = position[1] = -2147483647 - 1;
+  for (auto& direction : CalenFigDir[0]) direction = 1;
+  CalenFigTurn[0] = 1;
+  EXPECT_TRUE(Move());
+  CalenFigStep[0] = -2147483647 - 1;
+  CalenFigPeriod[0] = -5;
+  for (int i = 0; i < 100; ++i) EXPECT_FALSE(CalenFiguresMove());
+}
+
+// --- The figure that follows the year
+
+class FigureChoiceTest : public CalendarFiguresTest {
+ protected:
+  // Character 2 with so many named frames, every second one of the 20 first.
+  static void Names(int count) {
+    WorldCharaCount = 2;
+    std::memset(static_cast<void*>(&WorldCharas[1]), 0, sizeof WorldCharas[1]);
+    for (int i = 0; i < count; ++i) {
+      const int frame = i < 10 ? 2 * i : 2 * (i - 10) + 1;
+      WorldCharas[1].frameNames[frame][0] = 'n';
+    }
+  }
+};
+
+TEST_F(FigureChoiceTest, Mode0IsTheStoredFigure) {
+  Names(12);
+  EXPECT_EQ(CalenFigureChoice(2, 7, 0), 7);
+  EXPECT_EQ(CalenFigureChoice(2, 7, 3), 7);
+}
+
+TEST_F(FigureChoiceTest, Mode1WithTenFramesTakesTheYearIndexTheFirstYearHavingNoPart) {
+  Names(10);
+  for (const int first : {26, 27, 99}) {
+    CalenFirstYear = first;
+    for (int index = 0; index < 3; ++index) {
+      CalenYearPos = index;
+      EXPECT_EQ(CalenFigureChoice(2, 7, 1), 2 * index) << first << " " << index;
+    }
+  }
+  Names(9);
+  EXPECT_EQ(CalenFigureChoice(2, 7, 1), 7);
+  EXPECT_EQ(CalenFigureChoice(99, 7, 1), 7);
+  CalenFirstYear = -2147483647 - 1;
+  Names(10);
+  EXPECT_GE(CalenFigureChoice(2, 7, 1), 0);
+}
+
+TEST_F(FigureChoiceTest, Mode2WithTwelveFramesTurnsThroughTwelveYears) {
+  Names(12);
+  // The named frames in their order: 0, 1, 2, 3, 4, 6, 8, ...
+  const int kFrames[] = {0, 1, 2, 3, 4, 6, 8, 10, 12, 14, 16, 18};
+  const struct {
+    int year;
+    int entry;
+  } kYears[] = {{8, 0}, {9, 1}, {19, 11}, {20, 0}, {26, 6}, {7, 11}, {6, 10}, {0, 4}};
+  for (const auto& item : kYears) {
+    CalenYears[0] = static_cast<unsigned char>(item.year);
+    EXPECT_EQ(CalenFigureChoice(2, 5, 2), kFrames[item.entry]) << item.year;
+  }
+  Names(11);
+  EXPECT_EQ(CalenFigureChoice(2, 5, 2), 5);
+}
+
+// --- Notes
+
+class CalendarNotesTest : public CalendarFiguresTest {
+ protected:
+  void SetUp() override {
+    CalendarFiguresTest::SetUp();
+    CalenYearCount = 2;
+    for (int i = 0; i < 3; ++i) CalenYearInit(i);
+    CalenNoteMode = 3;
+    Date(2027, 6, 15);  // another date: the marks begin afresh
+    CalenNoteCheck();
+    for (CalenNote& note : CalenNotes) note = CalenNote{};
+  }
+  static void Date(int year, int month, int day) { TestClockSet({year, month, day, 0, 12, 0, 0, 0}); }
+  // Announces until nothing comes: "slot:text:day " each.
+  static std::string Announced() {
+    std::string text;
+    for (int i = 0; i < 10 && CalenNoteCheck() != 0; ++i) {
+      const int slot = CalenNoteTake();
+      if (slot < 0) return text + "lost";
+      text += std::to_string(slot) + ":" + CalenNotes[slot].text + " ";
+    }
+    return text;
+  }
+};
+
+TEST_F(CalendarNotesTest, TheSettingSaysHowManyDaysBefore) {
+  CalenNoteSet(0, 3, 9, "a");
+  CalenNoteSet(0, 3, 10, "b");
+  CalenNoteSet(0, 3, 11, "c");
+  CalenNoteSet(0, 3, 12, "d");
+  const char* const kAnnounced[] = {"", "0:a ", "0:a 1:b ", "0:a 1:b 2:c "};
+  for (int mode = 0; mode <= 3; ++mode) {
+    Date(2026, 5, 1);
+    CalenNoteCheck();
+    CalenNoteMode = mode;
+    Date(2026, 4, 10);
+    EXPECT_EQ(Announced(), kAnnounced[mode]) << mode;
+    EXPECT_EQ(CalenNoteCheck(), 0);
+    CalenNoteMode = 3;
+  }
+}
+
+TEST_F(CalendarNotesTest, TheFirstStepTestsTodaysNoteUntilItHasBeenTaken) {
+  CalenNoteSet(0, 3, 9, "a");
+  Date(2026, 4, 10);
+  EXPECT_EQ(CalenNoteCheck(), 1);
+  EXPECT_EQ(CalenNoteCheck(), 1);
+  CalenNoteSet(0, 3, 9, "changed");
+  EXPECT_EQ(CalenNoteCheck(), 1);
+  EXPECT_EQ(CalenNoteTake(), 0);
+  EXPECT_STREQ(CalenNotes[0].text, "changed");
+  EXPECT_EQ(CalenNoteTake(), -1);
+  EXPECT_EQ(CalenNoteCheck(), 0);
+}
+
+TEST_F(CalendarNotesTest, AClosedAnnouncementComesBackOnlyOnANewDay) {
+  CalenNoteSet(0, 3, 10, "b");
+  Date(2026, 4, 9);
+  EXPECT_EQ(Announced(), "2:b ");
+  EXPECT_EQ(Announced(), "");
+  Date(2026, 4, 10);
+  EXPECT_EQ(Announced(), "1:b ");
+  Date(2026, 4, 11);
+  EXPECT_EQ(Announced(), "0:b ");
+  EXPECT_EQ(Announced(), "");
+}
+
+TEST_F(CalendarNotesTest, TheNoteOfDecember31IsFoundFromDecember30AndJanuary1InTheNextIndexIfItIsInTheSpan) {
+  CalenNoteSet(0, 11, 30, "eve");
+  CalenNoteSet(1, 0, 0, "new");
+  Date(2026, 12, 30);
+  EXPECT_EQ(Announced(), "1:eve 2:new ");
+  EXPECT_EQ(CalenNotes[1].year, 26);
+  EXPECT_EQ(CalenNotes[2].year, 27);
+  Date(2026, 12, 31);
+  EXPECT_EQ(Announced(), "0:eve 1:new ");
+  CalenYearCount = 1;
+  Date(2026, 12, 30);
+  EXPECT_EQ(Announced(), "1:eve ");
+}
+
+TEST_F(CalendarNotesTest, ANoteOfTheNextMonthIsFoundByTheMonthsLength) {
+  CalenNoteSet(0, 2, 0, "march");
+  Date(2026, 2, 27);
+  EXPECT_EQ(Announced(), "2:march ");
+  Date(2026, 2, 28);
+  EXPECT_EQ(Announced(), "1:march ");
+}
+
+TEST_F(CalendarNotesTest, TodayOutOfTheSpanIsNoAnnouncement) {
+  CalenNoteSet(0, 3, 9, "a");
+  for (const int year : {2025, 2028, 1999}) {
+    Date(year, 4, 10);
+    EXPECT_EQ(CalenNoteCheck(), 0) << year;
+  }
+}
+
+TEST_F(CalendarNotesTest, TheDayStandsOverTheMonthInTheDate) {
+  CalenNoteSet(0, 3, 9, "a");
+  Date(2026, 4, 10);
+  EXPECT_EQ(CalenNoteCheck(), 1);
+  EXPECT_EQ(CalenNotes[0].monthAndDay, 9);
+  EXPECT_EQ(CalenNotes[0].year, 26);
+}
+
+}  // namespace
