@@ -7,7 +7,7 @@ packages=(
   cmake ninja-build g++ g++-mingw-w64-x86-64-posix binutils-mingw-w64-x86-64
   libgtest-dev googletest libbenchmark-dev
   librsvg2-dev libcairo2-dev pkg-config
-  wine wine64 xvfb xdotool imagemagick
+  wine wine64 xvfb xdotool imagemagick x11-xserver-utils
   fonts-ipafont-gothic fonts-wine locales python3
 )
 
