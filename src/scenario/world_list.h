@@ -7,9 +7,9 @@
 //      0     4       ignored
 //      4     4       number of characters, big-endian
 //      8     4       number of figures, big-endian
-//     12   142 each  figures: 1 used flag, 128 name, 13 not used here
+//     12   142 each  EdtcFigureRec: 1 used flag, 128 name, 13 not used here
 //
-// EDTCDATA.edf, 1520 bytes for each character
+// EDTCDATA.edf, an EdtcCharRec of 1520 bytes for each character
 // offset  size     field
 //      0     1     kept, no effect
 //      1    64     name
