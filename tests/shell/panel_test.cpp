@@ -596,10 +596,12 @@ TEST_F(PanelTest, ALevelOneClickResetsTheBoredTimerAndMarksTheRow) {
 TEST_F(PanelTest, ALevelOneClickAtOrBeyondRowEightResetsTheBoredTimerAndThenDoesNothing) {
   for (const int y : {170, 189, 190, 199}) {
     BoredHour = BoredMin = 77;
+    MenuHiLine = 2;
     Open({[y] {
       Mouse(TopDialog(), EventKind::LeftDown, 50, y, kLeftHeld);
       EXPECT_EQ(BoredHour, 0) << y;
       EXPECT_EQ(BoredMin, 5) << y;
+      EXPECT_EQ(MenuHiLine, y < 190 ? 8 : 2) << "row 9 is not marked";
       EXPECT_TRUE(sentCommands.empty());
       EXPECT_EQ(MenuPanelState, 1);
       EXPECT_EQ(hDiskMenu, TopDialog());
