@@ -1,23 +1,65 @@
 #include "filetools/filetools_commands.h"
 
+#include "filetools/open_choice.h"
+#include "filetools/open_controls.h"
+#include "filetools/open_dialogs.h"
+#include "filetools/open_groups.h"
+#include "filetools/open_history.h"
+#include "filetools/open_programs.h"
 #include "platform/window.h"
+#include "shell/feature_dialog.h"
 #include "shell/shell.h"
 
 namespace {
 
-// A tool that has no dialog yet: all that is left of its entry is that the panel
-// closes.
-void NoDialog() {
-  SendClose(hDiskMenu);
-  MenuPanelState = 0;
+constexpr int kFuncNo = 1;
+constexpr std::uint32_t kGroupSetCommand = 2008;
+
+bool tablesRead;
+
+void TablesRead() {
+  if (OpnHisLoad() != 0) {
+    OpnTell(hMainWnd, "オープンファイル履歴が失われました", "履歴ファイルの読み込みエラー");
+    OpnHisReset();
+  }
+  OpnBuildProgList();
+  OpnGroupLoad();
+  OpnWorkReset();
+  tablesRead = true;
+}
+
+int FileOpen() {
+  TablesRead();
+  return FileOpnDialogRun() ? 1 : 0;
+}
+
+int GroupSet() {
+  // Without FileOpnDialog before it, an empty table would be saved over the file.
+  if (!tablesRead) TablesRead();
+  FileOpnGrpSetDlgRun();
+  return 0;
 }
 
 }  // namespace
 
 void CommandFileOpen(std::uint32_t) {
-  NoDialog();
+  if (hMenuDlg || hToolDlg) return;  // one of these dialogs is up, with its tables in work
+  if (FeatureDialogRun(kFuncNo, FileOpen) != 0) SendCommand(hMainWnd, kGroupSetCommand);
 }
-void CommandOpenAddFile(std::uint32_t) {}
-void CommandOpenAddProgram(std::uint32_t) {}
-void CommandOpenGroupSet(std::uint32_t) {}
-void CommandOpenLaunch(std::uint32_t) {}
+
+void CommandOpenAddFile(std::uint32_t) {
+  FileOpnDialogAddFile();
+}
+
+void CommandOpenAddProgram(std::uint32_t) {
+  FileOpnDialogAddProgram();
+}
+
+void CommandOpenGroupSet(std::uint32_t) {
+  if (hToolDlg) return;
+  if (FileOpnDialogIsOpen()) {
+    FileOpnDialogLeaveForGroups();
+  } else {
+    FeatureDialogRun(kFuncNo, GroupSet);
+  }
+}

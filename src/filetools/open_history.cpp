@@ -1,11 +1,14 @@
 #include "filetools/open_history.h"
 
 #include <cstring>
+#include <initializer_list>
 
 #include "character/chara_set.h"
 #include "character/character.h"
 #include "character/character_tables.h"
+#include "filetools/open_choice.h"
 #include "filetools/open_state.h"
+#include "filetools/open_text.h"
 #include "shell/data_file.h"
 #include "shell/shell.h"
 #include "shell/text.h"
@@ -14,8 +17,10 @@ namespace {
 
 constexpr char kName[] = "\\OpnFileHis.lis";
 
-// A file is read into this copy first, so that a damaged one changes nothing.
-OpnHistoryRec staged;
+constexpr int kFileSize = 240804;
+
+// The file's bytes, read in one go; a damaged file changes nothing.
+unsigned char image[kFileSize];
 
 // Reader and writer go through the one list of fields; `field` moves a block.
 template <class Field>
@@ -41,10 +46,16 @@ int OpnHisLoad() {
     OpnHisReset();
     return 0;
   }
-  const bool whole = Fields(staged, [&](void* to, int size) { return DataRead(data, to, size); });
-  if (!whole || staged.fileCount > kOpnFileMax) return DataFailShort(data);
+  const bool whole = DataRead(data, image, kFileSize);
+  if (!whole || image[0] > kOpnFileMax) return DataFailShort(data);
   DataClose(data);
-  OpnHistory = staged;
+  const unsigned char* at = image;
+  Fields(OpnHistory, [&](void* to, int size) {
+    std::memcpy(to, at, static_cast<std::size_t>(size));
+    at += size;
+    return true;
+  });
+  OpnWork.fileCount = OpnHistory.fileCount;
   return 0;
 }
 
@@ -63,6 +74,7 @@ int OpnHisSave() {
 
 void OpnHisReset() {
   OpnHistory.fileCount = 0;
+  OpnWork.fileCount = 0;
   std::memset(OpnHistory.openCount, 0, sizeof OpnHistory.openCount);
   for (int i = 0; i < kOpnFileRows; ++i) {
     OpnHistory.fileName[i][0] = OpnHistory.filePath[i][0] = '\0';
@@ -73,10 +85,43 @@ void OpnHisReset() {
   OpnHistory.soundName[0] = '\0';
 }
 
+void OpnHisRemove(int row) {
+  if (row < 0 || row >= OpnHistory.fileCount) return;
+  for (auto* column : {OpnHistory.fileName, OpnHistory.filePath, OpnHistory.progName, OpnHistory.progPath}) {
+    OpnRowRemove(column, row, kOpnFileRows);
+  }
+  std::memmove(OpnHistory.openCount + row, OpnHistory.openCount + row + 1,
+               static_cast<std::size_t>(kOpnFileMax - row - 1));
+  --OpnHistory.fileCount;
+  --OpnWork.fileCount;
+}
+
+void OpnHisToTop(int row) {
+  if (row < 0 || row >= kOpnFileMax) return;
+  for (auto* column : {OpnHistory.fileName, OpnHistory.filePath, OpnHistory.progName, OpnHistory.progPath}) {
+    OpnRowToTop(column, row);
+  }
+  const std::uint8_t kept = OpnHistory.openCount[row];
+  std::memmove(OpnHistory.openCount + 1, OpnHistory.openCount, static_cast<std::size_t>(row));
+  OpnHistory.openCount[0] = kept;
+}
+
+void OpnHisClear() {
+  OpnHistory.fileCount = 0;
+  OpnWork.fileCount = 0;
+  std::memset(OpnHistory.openCount, 0, sizeof OpnHistory.openCount);
+  for (auto* column : {OpnHistory.fileName, OpnHistory.filePath, OpnHistory.progName, OpnHistory.progPath}) {
+    std::memset(column, 0, sizeof OpnHistory.fileName);
+  }
+}
+
 void OpnHisTakeWalkSettings() {
   const int row = WalkRow(CharaSet);
   if (row < 1 || row > kWalkCharaMax) return;  // bounded: walking rows end there
-  if (OpnHisLoad() != 0) return;
+  // A browsed file that waits for its start stands in memory only: reading again
+  // would lose it, and the rest of memory is what the file holds.
+  const bool waits = OpnWork.fileCount != OpnHistory.fileCount;
+  if (!waits && OpnHisLoad() != 0) return;
   OpnHistory.balloonFlags = WalkFlags[row - 1];
   const char* sound = WalkCharas[row - 1].sound;
   if (sound[0] != '\0') TextCopy(OpnHistory.soundName, kWalkSoundSize, sound);

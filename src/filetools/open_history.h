@@ -24,6 +24,16 @@ int OpnHisSave();
 // Empties the history: no rows, walk and sound on.
 void OpnHisReset();
 
+// Takes a row out: those behind it, a browsed one among them, move up. A row that is
+// not there is passed over.
+void OpnHisRemove(int row);
+
+// Moves a row, 0 to 199, to the top.
+void OpnHisToTop(int row);
+
+// Takes all rows out, the spare one too; walk and sound stay.
+void OpnHisClear();
+
 // Carries the current character's walk, the sound and the flags of its walking
 // row, into the history file after another character was chosen. Nothing happens
 // for a character without a walking row, or while the file is damaged.

@@ -4,6 +4,7 @@
 
 OpnHistoryRec OpnHistory;
 OpnSelectionRec OpnSelection;
+OpnSelectionRec OpnSelectionSave;
 const OpnGroupRec* OpnPendingGroup;
 
 int OpnPendingCount() {

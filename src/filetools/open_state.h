@@ -27,15 +27,20 @@ struct OpnHistoryRec {
 };
 extern OpnHistoryRec OpnHistory;
 
-// The current choice: a file and the program that opens it. An empty progName
-// stands for the associated program. Folders end with a backslash.
+// A file and the program that opens it. An empty progName stands for the associated
+// program. Folders end with a backslash.
 struct OpnSelectionRec {
   char fileName[kOpnTextSize];
   char filePath[kOpnTextSize];
   char progName[kOpnTextSize];
   char progPath[kOpnTextSize];
 };
+// The current choice, filled before anything is started.
 extern OpnSelectionRec OpnSelection;
+// Where the current choice waits while a group's files go through OpnSelection.
+extern OpnSelectionRec OpnSelectionSave;
+
+inline constexpr int kOpnCommentSize = 256;
 
 // A group of files that are opened together.
 struct OpnGroupRec {
@@ -44,7 +49,8 @@ struct OpnGroupRec {
   char filePath[kOpnGroupFileMax][kOpnTextSize];
   char progName[kOpnGroupFileMax][kOpnTextSize];
   char progPath[kOpnGroupFileMax][kOpnTextSize];
-  char comment[256];
+  char reserved[602];             // travels with the record
+  char comment[kOpnCommentSize];  // 255 bytes are used
 };
 
 // The group that is being opened; null for none.

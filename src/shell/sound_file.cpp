@@ -8,6 +8,8 @@ void SoundFilePlay(const char* name) {
   constexpr int kNameMost = 299;
   char path[kRootSize + kNameMost + 20];
   RootPath(path, sizeof path, "\\サウンド\\");
-  TextAppend(path, sizeof path, name);
+  char terminated[kNameMost + 1];  // a name from a file may fill its field
+  TextCopy(terminated, sizeof terminated, name);
+  TextAppend(path, sizeof path, terminated);
   SoundPlay(path);
 }

@@ -1,0 +1,97 @@
+// DelListOpnFileHisDlg: takes files out of the history.
+
+#include "filetools/open_controls.h"
+#include "filetools/open_dialogs.h"
+#include "filetools/open_history.h"
+#include "filetools/open_programs.h"
+#include "filetools/open_text.h"
+#include "platform/dialog.h"
+#include "resources/ids.h"
+#include "shell/dialog_family.h"
+#include "shell/text.h"
+
+namespace {
+
+constexpr int kDialogId = 2032;
+
+bool changed;
+
+void FieldShow(WindowHandle dialog, int id, const char* field) {
+  char text[kOpnTextUsed + 1];
+  TextCopy(text, sizeof text, field);
+  ControlSetText(dialog, id, text);
+}
+
+// The chosen row of the history, -1 for none.
+int Row(WindowHandle dialog) {
+  const int row = ListSelected(dialog, IDC_OPN_FILE);
+  return row < OpnHistory.fileCount ? row : -1;
+}
+
+void DetailsShow(WindowHandle dialog) {
+  const int row = Row(dialog);
+  const OpnHistoryRec& h = OpnHistory;
+  FieldShow(dialog, IDC_OPN_NAME, row < 0 ? "" : h.fileName[row]);
+  FieldShow(dialog, IDC_OPN_FOLDER, row < 0 ? "" : h.filePath[row]);
+  const char* program = row < 0 ? "" : h.progName[row][0] != '\0' ? h.progName[row] : "関連プログラム";
+  FieldShow(dialog, IDC_OPN_PROGRAM_NAME, program);
+}
+
+void Show(WindowHandle dialog) {
+  ListClear(dialog, IDC_OPN_FILE);
+  for (int row = 0; row < OpnHistory.fileCount; ++row) {
+    char text[kOpnRowSize];
+    OpnRowText(text, sizeof text, OpnHistory.fileName[row], OpnHistory.filePath[row]);
+    ListAdd(dialog, IDC_OPN_FILE, text);
+  }
+  DetailsShow(dialog);
+}
+
+void Remove(WindowHandle dialog) {
+  const int row = Row(dialog);
+  if (row < 0) return;
+  char text[kOpnTextUsed + 60];
+  TextFormat(text, sizeof text, "%.*sのオープンを履歴から削除します", kOpnTextUsed, OpnHistory.fileName[row]);
+  if (!OpnAsk(dialog, text, "履歴削除の確認")) return;
+  OpnHisRemove(row);
+  changed = true;
+  Show(dialog);
+}
+
+void RemoveAll(WindowHandle dialog) {
+  if (!OpnAsk(dialog, "ファイルとプログラム全ての履歴登録を削除します", "全履歴削除の確認")) return;
+  OpnHisClear();
+  OpnProgList.progCount = 0;
+  OpnProgListBuilt = false;
+  changed = true;
+  Show(dialog);
+}
+
+bool Handle(const Event& event) {
+  if (event.kind == EventKind::Init) {
+    Show(event.window);
+    return true;
+  }
+  if (event.kind != EventKind::Command) return false;
+  switch (event.command) {
+    case IDC_OPN_FILE:
+      if (event.notice == Notice::SelectChange) DetailsShow(event.window);
+      return true;
+    case IDC_OPN_REMOVE:
+      Remove(event.window);
+      return true;
+    case IDC_OPN_REMOVE_ALL:
+      RemoveAll(event.window);
+      return true;
+    default:
+      return false;
+  }
+}
+
+}  // namespace
+
+bool DelListOpnFileHisDlgRun(WindowHandle owner) {
+  changed = false;
+  ToolDialogRun(kDialogId, IDD_DelListOpnFileHisDlg, owner, Handle);
+  return changed;
+}

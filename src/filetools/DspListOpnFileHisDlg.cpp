@@ -1,0 +1,50 @@
+// DspListOpnFileHisDlg: the history in full.
+
+#include "filetools/open_dialogs.h"
+#include "filetools/open_text.h"
+#include "platform/dialog.h"
+#include "resources/ids.h"
+#include "shell/dialog_family.h"
+#include "shell/text.h"
+
+namespace {
+
+constexpr int kDialogId = 2013;
+constexpr int kLineSize = kOpnTextUsed + 40;
+
+void Open(WindowHandle dialog) {
+  const OpnHistoryRec& h = OpnHistory;
+  char line[kLineSize];
+  // Fields may lack a terminator: each goes through a text of its own.
+  const auto text = [](const char* field) {
+    static char copy[kOpnTextUsed + 1];
+    TextCopy(copy, sizeof copy, field);
+    return copy;
+  };
+  const auto add = [&] { ListAdd(dialog, IDC_OPN_LINES, line); };
+  for (int row = 0; row < h.fileCount; ++row) {
+    TextFormat(line, sizeof line, "--項目 No. %d--", row + 1);
+    add();
+    TextFormat(line, sizeof line, "   ファイル名: %s", text(h.fileName[row]));
+    add();
+    TextFormat(line, sizeof line, "   ファイルパス: %s", text(h.filePath[row]));
+    add();
+    if (h.progName[row][0] == '\0') continue;
+    TextFormat(line, sizeof line, "   プログラム名: %s", text(h.progName[row]));
+    add();
+    TextFormat(line, sizeof line, "   プログラムパス: %s", text(h.progPath[row]));
+    add();
+  }
+}
+
+bool Handle(const Event& event) {
+  if (event.kind != EventKind::Init) return false;
+  Open(event.window);
+  return true;
+}
+
+}  // namespace
+
+void DspListOpnFileHisDlgRun(WindowHandle owner) {
+  SubDialogRun(kDialogId, IDD_DspListOpnFileHisDlg, owner, Handle);
+}

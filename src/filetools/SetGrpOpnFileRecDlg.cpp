@@ -1,0 +1,58 @@
+// SetGrpOpnFileRecDlg: puts the open record into a group.
+
+#include "filetools/open_controls.h"
+#include "filetools/open_dialogs.h"
+#include "filetools/open_groups.h"
+#include "platform/dialog.h"
+#include "resources/ids.h"
+#include "shell/dialog_family.h"
+#include "shell/text.h"
+
+namespace {
+
+constexpr int kDialogId = 2030;
+
+void Open(WindowHandle dialog) {
+  ControlSetLimit(dialog, IDC_OPN_COMMENT, kOpnCommentSize - 1);
+  OpnGroupsShow(dialog, 0);
+  OpnGroupShow(dialog, 0);
+  OpnRecordShow(dialog);
+}
+
+void Register(WindowHandle dialog) {
+  const int group = OpnGroupOfList(dialog);
+  char text[80];
+  TextFormat(text, sizeof text, "オープン記録をグループ%dに追加登録します", group + 1);
+  if (!OpnAsk(dialog, text, "グループへの登録")) return;
+  OpnCommentTake(dialog, group);
+  const bool over = OpnGroupAddRecord(group) != 0;
+  OpnGroupsShow(dialog, group);
+  OpnGroupShow(dialog, group);
+  // kept: a refusal saves nothing, but the files stay in the group in memory.
+  if (over && !OpnAsk(dialog, "1グループのファイル数=最大30個をオーバーしました。登録しますか?",
+                      "ファイル登録数オーバー")) {
+    return;
+  }
+  OpnGroupSave();
+}
+
+bool Handle(const Event& event) {
+  if (event.kind == EventKind::Init) {
+    Open(event.window);
+    return true;
+  }
+  if (event.kind != EventKind::Command) return false;
+  if (event.command == IDC_OPN_GROUP) {
+    if (event.notice == Notice::SelectChange) OpnGroupShow(event.window, OpnGroupOfList(event.window));
+    return true;
+  }
+  if (event.command != IDC_OPN_GROUP_REGISTER) return false;
+  Register(event.window);
+  return true;
+}
+
+}  // namespace
+
+void SetGrpOpnFileRecDlgRun(WindowHandle owner) {
+  ToolDialogRun(kDialogId, IDD_SetGrpOpnFileRecDlg, owner, Handle);
+}

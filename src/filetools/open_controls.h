@@ -1,0 +1,32 @@
+// Lists and fields that several of the open dialogs have.
+#pragma once
+
+#include "platform/types.h"
+
+// The files of the history and the program lists, with the rows that OpnWork has
+// chosen.
+void OpnFilesShow(WindowHandle dialog);
+void OpnProgramsShow(WindowHandle dialog);
+
+// Fills OpnSelection from the two chosen rows. False when no file is chosen.
+bool OpnSelectionFromLists(WindowHandle dialog);
+
+// All groups, one of them chosen.
+void OpnGroupsShow(WindowHandle dialog, int group);
+
+// The chosen group; 0 if there is none.
+int OpnGroupOfList(WindowHandle dialog);
+
+// A group's files, and its comment too.
+void OpnGroupFilesShow(WindowHandle dialog, int group);
+void OpnGroupShow(WindowHandle dialog, int group);
+
+// Takes the comment field over into a group. True if it was another one.
+bool OpnCommentTake(WindowHandle dialog, int group);
+
+// The open record.
+void OpnRecordShow(WindowHandle dialog);
+
+// A box with OK, and a question: true for OK.
+void OpnTell(WindowHandle dialog, const char* text, const char* caption);
+bool OpnAsk(WindowHandle dialog, const char* text, const char* caption);
