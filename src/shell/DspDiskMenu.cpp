@@ -180,7 +180,7 @@ void Pressed(const Event& event) {
   if (chosen.command != 0) SendCommand(hMainWnd, chosen.command);
   // A dialog that the command ran has closed the panel long ago. What runs no
   // dialog only clears the state.
-  
+  if (MenuPanelState == 0 && hDiskMenu == event.window) End(event.window);
 }
 
 bool PanelProc(const Event& event) {
