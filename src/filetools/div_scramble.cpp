@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <numeric>
 
 #include "filetools/file_divide.h"
 
@@ -9,23 +10,47 @@ namespace {
 
 // The keyword repeats after 1 to 8 bytes and the table after 160, so that what
 // is added to the bytes repeats after a number of bytes that divides this one,
-// for every length of keyword.
-constexpr std::int32_t kPeriod = 3360;
+// for every length of keyword. Whole rounds of the adding loop fill it, too.
+constexpr std::int32_t kPeriod = 6720;
 
-// Bytes added at once; the inner loop has a fixed length so that it becomes a
-// few vector instructions.
-constexpr std::int32_t kStride = 96;
-static_assert(kPeriod % kStride == 0);
+// Bytes that one instruction adds, each to its own.
+using Lanes = std::uint8_t __attribute__((vector_size(16)));
+constexpr std::int32_t kLanes = sizeof(Lanes);
+
+void AddLanes(const std::uint8_t* in, std::uint8_t* out, const std::uint8_t* pattern) {
+  Lanes bytes;
+  Lanes added;
+  std::memcpy(&bytes, in, kLanes);
+  std::memcpy(&added, pattern, kLanes);
+  bytes += added;
+  std::memcpy(out, &bytes, kLanes);
+}
 
 void Add(std::int32_t length, const std::uint8_t* in, std::uint8_t* out, const std::uint8_t* pattern) {
   std::int32_t at = 0;
-  for (; at + kStride <= length; at += kStride) {
-    std::uint8_t bytes[kStride];
-    std::memcpy(bytes, in + at, kStride);
-    for (int i = 0; i < kStride; ++i) bytes[i] = static_cast<std::uint8_t>(bytes[i] + pattern[at + i]);
-    std::memcpy(out + at, bytes, kStride);
+  for (; at + 4 * kLanes <= length; at += 4 * kLanes) {
+    AddLanes(in + at, out + at, pattern + at);
+    AddLanes(in + at + kLanes, out + at + kLanes, pattern + at + kLanes);
+    AddLanes(in + at + 2 * kLanes, out + at + 2 * kLanes, pattern + at + 2 * kLanes);
+    AddLanes(in + at + 3 * kLanes, out + at + 3 * kLanes, pattern + at + 3 * kLanes);
   }
   for (; at < length; ++at) out[at] = static_cast<std::uint8_t>(in[at] + pattern[at]);
+}
+
+// What is added to each of `length` bytes. Keyword and table meet again after
+// `repeat` bytes; from there on the pattern is copied.
+void MakePattern(bool forward, std::int32_t keyPos, std::int32_t cursor, std::int32_t keyLength,
+                 std::int32_t length, std::uint8_t* pattern) {
+  const std::int32_t repeat = std::lcm(keyLength, kDivTableSize);
+  for (std::int32_t i = 0; i < std::min(length, repeat); ++i) {
+    const int add = static_cast<std::uint8_t>(FileDivide.keyword[keyPos]) - FileDivide.scrambleTable[cursor];
+    pattern[i] = static_cast<std::uint8_t>(forward ? add : -add);
+    if (++keyPos >= keyLength) keyPos = 0;
+    if (++cursor >= kDivTableSize) cursor = 0;
+  }
+  for (std::int32_t i = repeat; i < length; i += repeat) {
+    std::memcpy(pattern + i, pattern, static_cast<std::size_t>(std::min(repeat, length - i)));
+  }
 }
 
 std::int32_t Transform(bool forward, std::int32_t keyPos, std::int32_t length, const std::uint8_t* in,
@@ -38,26 +63,14 @@ std::int32_t Transform(bool forward, std::int32_t keyPos, std::int32_t length, c
   // bounded: a joining file may turn the flag on while no keyword is set; its
   // bytes then meet the empty keyword's terminator.
   const std::int32_t keyLength = std::clamp(FileDivide.keywordLength, 1, kDivKeywordMax);
-  std::int32_t cursor = tableCursor;
+  if (keyPos >= keyLength) keyPos = 0;
   std::uint8_t pattern[kPeriod];
-  for (std::int32_t i = 0; i < std::min(length, kPeriod); ++i) {
-    if (keyPos >= keyLength) keyPos = 0;
-    const int add = static_cast<std::uint8_t>(FileDivide.keyword[keyPos]) - FileDivide.scrambleTable[cursor];
-    pattern[i] = static_cast<std::uint8_t>(forward ? add : -add);
-    ++keyPos;
-    if (++cursor >= kDivTableSize) cursor = 0;
-  }
+  MakePattern(forward, keyPos, tableCursor, keyLength, std::min(length, kPeriod), pattern);
   for (std::int32_t at = 0; at < length; at += std::min(kPeriod, length - at)) {
     Add(std::min(kPeriod, length - at), in + at, out + at, pattern);
   }
-  if (length > kPeriod) {
-    // The pattern ended where it began; only the rest past its last whole round counts.
-    const std::int32_t rest = length % kPeriod;
-    keyPos = (keyPos - 1 + rest) % keyLength + 1;
-    cursor = (cursor + rest) % kDivTableSize;
-  }
-  tableCursor = cursor;
-  return keyPos;
+  tableCursor = (tableCursor + length % kDivTableSize) % kDivTableSize;
+  return (keyPos + (length - 1) % keyLength) % keyLength + 1;
 }
 
 }  // namespace

@@ -292,8 +292,8 @@ TEST_F(ScrambleTest, EveryLengthPositionAndCursorAgreesWithTheModel) {
   const std::string bytes = Bytes(20000);
   for (const char* keyword : {"abcd", "abcde", "abcdef", "abcdefg", "abcdefgh", "秘密の鍵"}) {
     SetKeyword(keyword);
-    for (const int length :
-         {0, 1, 2, 3, 4, 7, 8, 95, 96, 97, 159, 160, 161, 3359, 3360, 3361, 5000, 6720, 10000}) {
+    for (const int length : {0,   1,    2,    3,    4,    7,    8,    95,   96,    97,    159,  160,
+                             161, 3359, 3360, 3361, 5000, 6719, 6720, 6721, 10000, 13440, 13441}) {
       for (int keyPos = 0; keyPos <= 8; keyPos += 2) {
         for (const int start : {0, 1, 79, 158, 159}) {
           const std::string in = bytes.substr(0, static_cast<std::size_t>(length));
