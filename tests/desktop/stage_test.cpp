@@ -4,74 +4,9 @@
 #include <set>
 
 #include "tests/desktop/companion.h"
+#include "tests/desktop/data_set.h"
 
 namespace {
-
-// Offsets in the settings file.
-constexpr std::size_t kCharaIndexAt = 20;
-constexpr std::size_t kStageXAt = 84;
-constexpr std::size_t kStageYAt = 88;
-constexpr std::size_t kCharaSetAt = 104;  // its number comes first, low byte first
-
-const std::wstring kSettings = L"mirrell_sys_file.svs";
-
-// A mask or picture of the data set: 24 bits, rows from the bottom.
-struct Picture {
-  int width = 0;
-  int height = 0;
-  std::vector<std::uint32_t> pixels;  // 0xRRGGBB, row by row from the top
-};
-
-Picture LoadPicture(const Companion& companion, const std::wstring& name) {
-  const std::vector<unsigned char> file = ReadWholeFile(companion.File(L"キャラクタ\\" + name));
-  Picture picture;
-  if (file.size() < 54) return picture;
-  const auto little = [&](std::size_t at) {
-    return static_cast<int>(file[at] | (file[at + 1] << 8U) | (file[at + 2] << 16U) | (file[at + 3] << 24U));
-  };
-  picture.width = little(18);
-  picture.height = little(22);
-  const auto start = static_cast<std::size_t>(little(10));
-  const std::size_t row = (static_cast<std::size_t>(picture.width) * 3 + 3) / 4 * 4;
-  for (int y = 0; y < picture.height; ++y) {
-    for (int x = 0; x < picture.width; ++x) {
-      const std::size_t at =
-          start + row * static_cast<std::size_t>(picture.height - 1 - y) + 3 * static_cast<std::size_t>(x);
-      picture.pixels.push_back(
-          static_cast<std::uint32_t>(file[at] | (file[at + 1] << 8U) | (file[at + 2] << 16U)));
-    }
-  }
-  return picture;
-}
-
-// The picture's place in the window: behind the border of one pixel and the menu
-// bar.
-int LeftMargin() {
-  return 1;
-}
-int TopMargin() {
-  return 1 + GetSystemMetrics(SM_CYMENU);
-}
-
-// How many pixels of the window's region differ from the black pixels of a mask.
-int RegionDifference(const Companion& companion, const std::wstring& mask) {
-  const Picture picture = LoadPicture(companion, mask);
-  int width = 0;
-  int height = 0;
-  const std::vector<bool> region = RegionPixels(companion.Window(), &width, &height);
-  if (region.empty() || picture.pixels.empty()) return -1;
-  int differ = 0;
-  for (int y = 0; y < height; ++y) {
-    for (int x = 0; x < width; ++x) {
-      const int px = x - LeftMargin();
-      const int py = y - TopMargin();
-      const bool inside = px >= 0 && py >= 0 && px < picture.width && py < picture.height &&
-                          picture.pixels[static_cast<std::size_t>(py * picture.width + px)] == 0;
-      if (region[static_cast<std::size_t>(y * width + x)] != inside) ++differ;
-    }
-  }
-  return differ;
-}
 
 std::vector<unsigned char> RegionData(HWND window) {
   HRGN region = CreateRectRgn(0, 0, 0, 0);
@@ -111,7 +46,7 @@ TEST(Stage, RegionEqualsTheDrawingPixelByPixelForEveryMainCharacter) {
     settings.at(kCharaSetAt) = static_cast<unsigned char>(character + 1);
     WriteWholeFile(companion.File(kSettings), settings);
     companion.Start();
-    EXPECT_EQ(RegionDifference(companion, L"Chara" + std::to_wstring(character + 1) + L"_1x.bmp"), 0)
+    EXPECT_EQ(StageDifference(companion, L"Chara" + std::to_wstring(character + 1) + L"_1x.bmp"), 0)
         << "main character " << character + 1;
     EXPECT_EQ(companion.Close(), 0);
   }
@@ -136,8 +71,8 @@ TEST(Stage, NothingButTheDesktopAroundTheCharacter) {
   int wrongOutside = 0;
   for (int sy = 0; sy < height; ++sy) {
     for (int sx = 0; sx < width; ++sx) {
-      const int px = sx - 20 - LeftMargin();
-      const int py = sy - 20 - TopMargin();
+      const int px = sx - 20 - kStageLeft;
+      const int py = sy - 20 - StageTop();
       const auto at = static_cast<std::size_t>(sy * width + sx);
       const bool inPicture = px >= 0 && py >= 0 && px < picture.width && py < picture.height;
       const auto pixel = static_cast<std::size_t>(py * picture.width + px);
@@ -193,7 +128,7 @@ TEST(Stage, BoredPatternChangesTheRegionAndComesBackToFrame0) {
     const int frame = companion.Value(kShowCharaFrame);
     if (motion == 3 && frame != 0 && frames.insert(frame).second) {
       shapeChanged = shapeChanged || RegionData(companion.Window()) != atRest;
-      EXPECT_EQ(RegionDifference(companion, L"Chara1_" + std::to_wstring(frame + 1) + L"x.bmp"), 0)
+      EXPECT_EQ(StageDifference(companion, L"Chara1_" + std::to_wstring(frame + 1) + L"x.bmp"), 0)
           << "frame " << frame;
     }
     cameBack = !frames.empty() && motion == 0;
@@ -221,14 +156,14 @@ TEST(Stage, WithNoDataFilesItComesUpAtItsDefaultPlaceAndTheTimerRuns) {
 TEST(Stage, ReplacedCharacterFileIsPickedUpByTheFileWatch) {
   Companion companion;
   companion.Start();
-  EXPECT_EQ(RegionDifference(companion, L"Chara1_1x.bmp"), 0);
+  EXPECT_EQ(StageDifference(companion, L"Chara1_1x.bmp"), 0);
   std::vector<unsigned char> file = ReadWholeFile(companion.File(L"mirrell_chara_file.dcx"));
   // The first record's number stands behind the magic of 23 bytes and the count.
   ASSERT_EQ(GetBig(file, 27), 1U);
   PutBig(file, 27, 3);
   WriteWholeFile(companion.File(L"mirrell_chara_file.dcx"), file);
   companion.Tick(202);
-  EXPECT_TRUE(WaitFor([&] { return RegionDifference(companion, L"Chara3_1x.bmp") == 0; }, 5000));
+  EXPECT_TRUE(WaitFor([&] { return StageDifference(companion, L"Chara3_1x.bmp") == 0; }, 5000));
   EXPECT_EQ(companion.Close(), 0);
 }
 

@@ -1,0 +1,39 @@
+#include <windows.h>
+
+#include "tests/desktop/pointer.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "tests/desktop/companion.h"
+
+namespace {
+
+// Runs the tool that speaks to the display.
+void Act(const std::string& arguments) {
+  std::string line = "Z:\\usr\\bin\\xdotool " + arguments;
+  STARTUPINFOA startup{};
+  startup.cb = sizeof startup;
+  PROCESS_INFORMATION process{};
+  ASSERT_TRUE(CreateProcessA("Z:\\usr\\bin\\xdotool", line.data(), nullptr, nullptr, FALSE, 0, nullptr,
+                             nullptr, &startup, &process))
+      << "xdotool cannot be started";
+  WaitForSingleObject(process.hProcess, 5000);
+  CloseHandle(process.hProcess);
+  CloseHandle(process.hThread);
+}
+
+}  // namespace
+
+void PointerTo(int x, int y) {
+  Act("mousemove " + std::to_string(x) + " " + std::to_string(y));
+}
+
+void PointerClick() {
+  Act("click 1");
+}
+
+void KeyPress(const char* name) {
+  Act(std::string("key ") + name);
+}

@@ -1,0 +1,10 @@
+// The pointer of the display, moved the way a hand would: the events come to the
+// programs from the display itself.
+#pragma once
+
+// Puts the pointer to a place on the screen and waits until it is there.
+void PointerTo(int x, int y);
+// A press and release of the left button where the pointer is.
+void PointerClick();
+// A key goes down and up, by its name ("Escape").
+void KeyPress(const char* name);
