@@ -5,6 +5,7 @@
 #include <commdlg.h>
 
 #include "platform/win32/border.h"
+#include "platform/win32/late.h"
 #include "platform/window.h"
 
 namespace {
@@ -81,7 +82,8 @@ bool FileDialog(bool save, WindowHandle owner, const char* title, const char* fi
   dialog.lpstrTitle = wideTitle.empty() ? nullptr : wideTitle.c_str();
   dialog.lpstrInitialDir = folder.empty() ? nullptr : folder.c_str();
   dialog.Flags = OFN_HIDEREADONLY;
-  const BOOL good = save ? GetSaveFileNameW(&dialog) : GetOpenFileNameW(&dialog);
+  auto* run = save ? LATE("comdlg32.dll", GetSaveFileNameW) : LATE("comdlg32.dll", GetOpenFileNameW);
+  const BOOL good = run ? run(&dialog) : FALSE;
   if (good) CopyNarrow(name, path, size);
   return good != FALSE;
 }

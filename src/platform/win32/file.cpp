@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "platform/win32/border.h"
+#include "platform/win32/late.h"
 
 namespace {
 
@@ -116,11 +117,14 @@ bool FolderSetCurrent(const char* path) {
 }
 
 bool FolderDesktop(char* buffer, int size) {
+  auto* locate = LATE("shell32.dll", SHGetSpecialFolderLocation);
+  auto* pathOf = LATE("shell32.dll", SHGetPathFromIDListW);
+  auto* release = LATE("ole32.dll", CoTaskMemFree);
   LPITEMIDLIST list = nullptr;
-  if (FAILED(SHGetSpecialFolderLocation(nullptr, CSIDL_DESKTOPDIRECTORY, &list))) return false;
+  if (!locate || !pathOf || !release || FAILED(locate(nullptr, CSIDL_DESKTOPDIRECTORY, &list))) return false;
   wchar_t path[MAX_PATH];
-  const bool good = SHGetPathFromIDListW(list, path) != FALSE;
-  CoTaskMemFree(list);
+  const bool good = pathOf(list, path) != FALSE;
+  release(list);
   if (good) CopyNarrow(path, buffer, size);
   return good;
 }

@@ -5,6 +5,7 @@
 #include <shellapi.h>
 
 #include "platform/win32/border.h"
+#include "platform/win32/late.h"
 
 ProcessHandle ProcessStart(const char* commandLine) {
   std::wstring line = Wide(commandLine);
@@ -29,8 +30,9 @@ void ProcessClose(ProcessHandle process) {
 
 bool AssociationFind(const char* file, const char* folder, char* program, int size) {
   wchar_t found[MAX_PATH] = L"";
-  const auto result =
-      reinterpret_cast<INT_PTR>(FindExecutableW(Wide(file).c_str(), Wide(folder).c_str(), found));
+  auto* find = LATE("shell32.dll", FindExecutableW);
+  if (!find) return false;
+  const auto result = reinterpret_cast<INT_PTR>(find(Wide(file).c_str(), Wide(folder).c_str(), found));
   CopyNarrow(found, program, size);
   return result > 32;
 }
