@@ -15,8 +15,6 @@ namespace {
 constexpr int kFuncNo = 1;
 constexpr std::uint32_t kGroupSetCommand = 2008;
 
-bool tablesRead;
-
 void TablesRead() {
   if (OpnHisLoad() != 0) {
     OpnTell(hMainWnd, "オープンファイル履歴が失われました", "履歴ファイルの読み込みエラー");
@@ -25,7 +23,6 @@ void TablesRead() {
   OpnBuildProgList();
   OpnGroupLoad();
   OpnWorkReset();
-  tablesRead = true;
 }
 
 int FileOpen() {
@@ -35,7 +32,7 @@ int FileOpen() {
 
 int GroupSet() {
   // Without FileOpnDialog before it, an empty table would be saved over the file.
-  if (!tablesRead) TablesRead();
+  if (!OpnProgListBuilt) TablesRead();
   FileOpnGrpSetDlgRun();
   return 0;
 }

@@ -1,15 +1,23 @@
 #include "filetools/open_history.h"
 
+#include <fcntl.h>
 #include <gtest/gtest.h>
+#include <unistd.h>
 
 #include <cstring>
+#include <random>
 
 #include "character/chara_set.h"
 #include "character/character.h"
 #include "character/character_tables.h"
+#include "filetools/open_choice.h"
+#include "filetools/open_record.h"
 #include "filetools/open_state.h"
+#include "filetools/open_text.h"
 #include "platform/posix/faults.h"
+#include "platform/posix/posix_paths.h"
 #include "shell/data_file.h"
+#include "shell/sound_file.h"
 #include "shell/text.h"
 #include "tests/support/desktop.h"
 
@@ -30,6 +38,7 @@ class OpenHistoryTest : public DesktopTest {
   }
   static void Clear() {
     OpnHistory = {};
+    OpnWork = {};
     for (unsigned char& byte : CharaSet) byte = 0;
     for (unsigned char& flags : WalkFlags) flags = 0;
     for (WalkChara& row : WalkCharas) row = WalkChara{};
@@ -124,7 +133,7 @@ TEST_F(OpenHistoryTest, ACountBeyond200IsBadContent) {
 TEST_F(OpenHistoryTest, EveryFailingCallGivesItsResult) {
   ASSERT_TRUE(PutFile(Path(), Image()));
   ASSERT_EQ(OpnHisLoad(), 0);
-  for (const int nth : {1, 2, 3, 4, 402, 403, 802, 803, 804, 805, 806, 807, 808}) {
+  for (int nth = 1; nth <= kFields + 1; ++nth) {
     FaultArm(FaultKind::Write, nth);
     const int result = OpnHisSave();
     EXPECT_EQ(FaultWasMet(), nth <= kFields) << nth;
@@ -137,7 +146,7 @@ TEST_F(OpenHistoryTest, EveryFailingCallGivesItsResult) {
   EXPECT_EQ(FileStatus, -1);
   FaultClear();
   ASSERT_EQ(OpnHisSave(), 0);
-  FaultArm(FaultKind::Read, 500);
+  FaultArm(FaultKind::Read, 1);
   EXPECT_EQ(OpnHisLoad(), -1);
   EXPECT_EQ(FileStatus, -2);
 }
@@ -172,6 +181,75 @@ TEST_F(OpenHistoryTest, WithoutAWalkingRowOrWithADamagedFileNothingIsWritten) {
   ASSERT_TRUE(PutFile(Path(), "damaged"));
   OpnHisTakeWalkSettings();
   EXPECT_EQ(FileBytes(Path()), "damaged");
+}
+
+TEST_F(OpenHistoryTest, ABrowsedFileThatWaitsOutlastsTheWalkOfACharacter) {
+  std::string image = Image();
+  ASSERT_TRUE(PutFile(Path(), image));
+  ASSERT_EQ(OpnHisLoad(), 0);
+  OpnBrowseFile("C:\\new.txt");
+  SetWalkRow(CharaSet, 0, 1);
+  WalkFlags[0] = 5;
+  OpnHisTakeWalkSettings();
+  EXPECT_EQ(OpnWork.fileCount, 4);
+  EXPECT_STREQ(OpnHistory.fileName[3], "new.txt");
+  EXPECT_EQ(FileBytes(Path())[240803], 5);
+  EXPECT_EQ(FileBytes(Path())[0], 3);
+}
+
+TEST_F(OpenHistoryTest, ASoundNameThatFillsItsFieldIsPlayedWith299Bytes) {
+  std::string image = Image();
+  image.replace(240503, 300, std::string(300, 'n'));
+  image[240803] = 'x';
+  ASSERT_TRUE(PutFile(Path(), image));
+  ASSERT_EQ(OpnHisLoad(), 0);
+  SoundFilePlay(OpnHistory.soundName);
+  EXPECT_EQ(SoundsPlayed(), std::vector<std::string>{"C:\\mirrell\\サウンド\\" + std::string(299, 'n')});
+}
+
+// All that is done with a history of any bytes.
+void UseEverything(std::mt19937& random) {
+  const auto any = [&](int below) { return static_cast<int>(random() % static_cast<unsigned>(below)); };
+  OpnProgListBuilt = false;
+  OpnBuildProgList();
+  OpnWorkReset();
+  OpnBrowseFile(any(2) == 0 ? "C:\\x\\new.txt" : "C:\\x\\other.txt");
+  OpnBrowseProgram("C:\\x\\new.exe");
+  OpnWorkChoose(any(201));
+  if (OpnSelectionFill(OpnWork.fileSel, OpnWork.progSel)) {
+    OpnHisUpdate();
+    OpnRecordAdd();
+  }
+  char text[kOpnRowSize];
+  for (int row = 0; row < OpnWork.fileCount; ++row) {
+    OpnRowText(text, sizeof text, OpnHistory.fileName[row], OpnHistory.filePath[row]);
+  }
+  OpnHisRemove(any(201));
+}
+
+TEST_F(OpenHistoryTest, RandomChangesOfTheFileHarmNothing) {
+  ASSERT_TRUE(PutFile(Path(), Image()));
+  const int file = open(PosixPath(Path().c_str()).c_str(), O_RDWR);
+  const auto put = [&](std::size_t at, std::size_t value) {
+    const auto byte = static_cast<unsigned char>(value);
+    return pwrite(file, &byte, 1, static_cast<off_t>(at)) == 1;
+  };
+  std::mt19937 random(20261121);
+  // 1000 rounds of 100 changes; one round in two has a count of any value too.
+  for (int round = 0; round < 1000; ++round) {
+    for (int change = 0; change < 100; ++change) {
+      ASSERT_TRUE(put(random() % 240803 + 1, random()));
+    }
+    const std::size_t count = round % 2 == 0 ? random() % 201 : random() % 256;
+    ASSERT_TRUE(put(0, count));
+    ASSERT_EQ(OpnHisLoad(), count <= 200 ? 0 : -1);
+    if (round % 10 == 0) UseEverything(random);
+    ASSERT_LE(OpnHistory.fileCount, 200);
+  }
+  close(file);
+  OpnRecord.recCount = 0;
+  OpnProgList.progCount = 0;
+  OpnProgListBuilt = false;
 }
 
 }  // namespace

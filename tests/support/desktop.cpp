@@ -8,7 +8,7 @@
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
-#include <iterator>
+#include <sstream>
 
 #include "platform/posix/faults.h"
 #include "platform/posix/posix_paths.h"
@@ -69,8 +69,9 @@ void DesktopTest::TearDown() {
 }
 
 std::string FileBytes(const std::string& path) {
-  std::ifstream file(PosixPath(path.c_str()), std::ios::binary);
-  return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+  std::ostringstream bytes;
+  bytes << std::ifstream(PosixPath(path.c_str()), std::ios::binary).rdbuf();
+  return bytes.str();
 }
 
 bool PutFile(const std::string& path, const std::string& bytes) {

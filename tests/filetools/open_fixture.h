@@ -1,0 +1,174 @@
+// The whole program with empty open tables, and a user for its open dialogs.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <cstring>
+#include <string>
+#include <vector>
+
+#include "character/character.h"
+#include "character/character_tables.h"
+#include "character/walk.h"
+#include "filetools/group_open.h"
+#include "filetools/open_choice.h"
+#include "filetools/open_dialogs.h"
+#include "filetools/open_groups.h"
+#include "filetools/open_history.h"
+#include "filetools/open_launch.h"
+#include "filetools/open_record.h"
+#include "filetools/open_search.h"
+#include "filetools/open_text.h"
+#include "mail_music/mail_setting.h"
+#include "platform/posix/faults.h"
+#include "platform/window.h"
+#include "resources/ids.h"
+#include "shell/data_file.h"
+#include "shell/file_picker.h"
+#include "shell/folder_list.h"
+#include "shell/shell.h"
+#include "shell/text.h"
+#include "shell/tick.h"
+#include "tests/support/program.h"
+
+using Rows = std::vector<std::string>;
+
+constexpr int kOk = 1;
+constexpr int kCancel = 2;
+
+class OpenFixture : public ProgramTest {
+ protected:
+  void SetUp() override {
+    ProgramTest::SetUp();
+    Clear();
+    StartProgram();
+    SetPointer(0, 0);
+  }
+  void TearDown() override {
+    EXPECT_EQ(hMenuDlg, nullptr);
+    EXPECT_EQ(hToolDlg, nullptr);
+    EXPECT_EQ(hSubDlg, nullptr);
+    EXPECT_EQ(DlgIdMenu, 0);
+    EXPECT_EQ(DlgIdTool, 0);
+    EXPECT_EQ(DlgIdSub, 0);
+    EXPECT_EQ(FuncNo, 0);
+    EXPECT_EQ(MenuPanelState, 0);
+    ProgramTest::TearDown();
+    Clear();
+  }
+
+  static void Clear() {
+    OpnHistory = {};
+    OpnHisReset();
+    OpnWork = {};
+    OpnProgList.progCount = 0;
+    OpnProgListBuilt = false;
+    OpnRecord.recCount = 0;
+    OpnSelection = {};
+    OpnSelectionSave = {};
+    OpnPendingGroup = nullptr;
+    std::memset(OpnGroupTable, 0, sizeof OpnGroupTable);
+    MailSetting = {};
+    for (WalkSlot& slot : WalkSlots) slot = WalkSlot{};
+    WalkActive = WalkEndActive = false;
+    WalkSlotNow = WalkLastX = WalkLastY = 0;
+    WalkCharaCount = 0;
+    for (WalkChara& row : WalkCharas) row = WalkChara{};
+    for (unsigned char& flags : WalkFlags) flags = 0;
+  }
+
+  static std::string HistoryPath() { return InProgram("OpnFileHis.lis"); }
+  static std::string GroupPath() { return InProgram("OpnGrpFile.lis"); }
+
+  // --- Tables
+
+  static void AddHistory(const std::string& name, const std::string& folder, const std::string& program = "",
+                         const std::string& programFolder = "") {
+    const int row = OpnHistory.fileCount++;
+    OpnTextSet(OpnHistory.fileName[row], name.c_str());
+    OpnTextSet(OpnHistory.filePath[row], folder.c_str());
+    OpnTextSet(OpnHistory.progName[row], program.c_str());
+    OpnTextSet(OpnHistory.progPath[row], programFolder.c_str());
+  }
+  // name0.txt, name1.txt ... of "C:\data\".
+  static void AddHistories(int count) {
+    for (int i = 0; i < count; ++i) AddHistory("name" + std::to_string(i) + ".txt", "C:\\data\\");
+  }
+  static void SaveHistory() { ASSERT_EQ(OpnHisSave(), 0); }
+
+  static void Select(const std::string& name, const std::string& folder, const std::string& program = "",
+                     const std::string& programFolder = "") {
+    OpnSelectionSet(OpnSelection, name.c_str(), folder.c_str(), program.c_str(), programFolder.c_str());
+  }
+  static void AddToGroup(int group, const std::string& name, const std::string& folder = "C:\\data\\",
+                         const std::string& program = "", const std::string& programFolder = "") {
+    const OpnSelectionRec kept = OpnSelection;
+    Select(name, folder, program, programFolder);
+    EXPECT_EQ(OpnGroupAddFile(group), 0);
+    OpnSelection = kept;
+  }
+  static void SaveGroups() { ASSERT_EQ(OpnGroupSave(), 0); }
+  // The group's files as "name [folder]", then " name" of the program if there is one.
+  static Rows GroupFiles(int group) {
+    Rows rows;
+    const OpnGroupRec& g = OpnGroupTable[group];
+    for (int row = 0; row < g.fileCount; ++row) {
+      const std::string program = g.progName[row];
+      rows.push_back(std::string(g.fileName[row]) + " [" + g.filePath[row] + "]" +
+                     (program.empty() ? "" : " " + program));
+    }
+    return rows;
+  }
+  static Rows HistoryFiles() {
+    Rows rows;
+    for (int row = 0; row < OpnHistory.fileCount; ++row) rows.emplace_back(OpnHistory.fileName[row]);
+    return rows;
+  }
+  static Rows Started() {
+    Rows lines;
+    for (const StartedProcess& process : ProcessesStarted()) lines.push_back(process.commandLine);
+    return lines;
+  }
+
+  // --- A character that walks: one step, then an end picture of two ticks.
+  static void PutWalker() {
+    WalkCharaCount = 1;
+    WalkCharas[0].number = 10;
+    SetWalkRow(CharaSet, 0, 1);
+    SetWalkPeriod(CharaSet, 0, 1);
+    SetWalkCount(CharaSet, 0, 1);
+    SetWalkFrames(CharaSet, 0, 0, 1);
+    SetEndFrames(CharaSet, 0, 0, 1);
+    SetEndWait(CharaSet, 0, 2);
+  }
+  // Lets the walk of PutWalker go through: the tick that opens its window, and three
+  // inside of its windows' loops.
+  static void WalkThrough() {
+    for (int i = 0; i < 3; ++i) Then([] { Ticks(1); });
+    Ticks(1);
+  }
+
+  // --- The user
+
+  // Runs FileOpnDialog with the steps that were scripted.
+  static void OpenDialog() { SendCommand(hMainWnd, 1900); }
+  static void ThenPress(int id) {
+    Then([id] { Press(TopDialog(), id); });
+  }
+  static void ThenChoose(int id, int row) {
+    Then([id, row] { ChooseRow(TopDialog(), id, row); });
+  }
+  static void ThenType(int id, const std::string& text) {
+    Then([id, text] { Type(TopDialog(), id, text.c_str()); });
+  }
+  static void ThenExpect(std::function<void()> check) { Then(std::move(check)); }
+  // In the picker that is up then: types the path and presses OK.
+  static void ThenPick(const std::string& name) {
+    Then([name] {
+      Type(TopDialog(), kPickNameId, name.c_str());
+      Press(TopDialog(), kOk);
+    });
+  }
+  static Rows RowsOf(int id) { return ListRows(TopDialog(), id); }
+  static int ChosenOf(int id) { return ListSelected(TopDialog(), id); }
+};
