@@ -1,31 +1,36 @@
 #!/usr/bin/env bash
 # Takes a picture of every window and dialog of the real companion, on a virtual
 # display: out/gallery/NAME.png and all of them on one sheet, out/gallery.png.
-set -euo pipefail
+set -uo pipefail
 cd "$(dirname "$0")/.."
 . scripts/wine_env.sh
 . scripts/hand.sh
 
 pictures=out/gallery
-program=build/gallery/program
-rm -rf "$pictures" build/gallery
+# In a drive of its own, so that the folder scope has a small one to measure.
+program=$WINEPREFIX/drive_c/MIRRELL
+rm -rf "$pictures"
 mkdir -p "$pictures"
-scripts/program_folder.sh "$program"
-example_files "$program/見本"
 missing=()
 
 # shot NAME TITLE: a row of the table. "-" is the topmost window without a title.
 shot() { window_shot "$pictures" "$1" "$2" || missing+=("$1"); }
+# brief NAME TITLE OWNER ID: of one that stays for moments after ID of OWNER.
+brief() { brief_shot "$pictures" "$1" "$2" press "$3" "$4" || missing+=("$1"); }
 # dialog NAME TITLE [ID]: the same, and closes it again (by that button).
-dialog() { shot "$1" "$2"; leave "${@:2}" || true; }
-# at NAME TITLE: presses ID of OWNER first.
-pressed() { press "$3" "$4" || true; dialog "$1" "$2" "${@:5}"; }
+dialog() { shot "$1" "$2"; leave "${@:2}"; }
+# pressed NAME TITLE OWNER ID [ID]: and is opened by the button ID of OWNER.
+pressed() { press "$3" "$4"; dialog "$1" "$2" "${@:5}"; }
 
 trap display_stop EXIT
 display_start 1280x960
 wine_prefix
-xsetroot -solid '#3a6ea5' 2>/dev/null || true
+rm -rf "$program"
+scripts/program_folder.sh "$program"
+example_files "$program/見本"
 companion_start "$program"
+# Nothing is to look touched.
+xdotool mousemove 2 2
 sleep 1
 
 # --- The stage, and all frames of the data set as they are on the disk.
@@ -35,25 +40,24 @@ for number in 0 1 2 3; do
   send 2281
   choose "$main" 100 "$number"
   shot "OptionSelDlg1_2_$number" "$main"
-  press "$main" 2369
-  for motion in 2285 2286 2287 2288; do
-    press '動作の確認' "$motion"
-    sleep 0.3
-    dialog "DspOptionOpeDlg_${number}_$motion" '動作の確認'
-  done
-  dialog "OptionSelDlg1_1_2_$number" '動作の確認'
+  if [ "$number" = 0 ]; then
+    press "$main" 2369
+    for motion in 2285 2286 2287 2288; do
+      press '動作の確認' "$motion"
+      sleep 0.3
+      dialog "DspOptionOpeDlg_$motion" '動作の確認'
+    done
+    dialog OptionSelDlg1_1_2 '動作の確認'
+  fi
   leave "$main" 1
   sleep 0.5
   area_shot "$pictures/stage_$number.png" $(hand stage)
 done
-(
-  cd "$program"
-  for first in キャラクタ/Chara*_0.bmp; do
-    name=$(basename "${first%_0.bmp}")
-    montage $(ls "${first%_0.bmp}"_*.bmp | grep -v 'x\.bmp$' | sort -V) -background '#3a6ea5' -geometry '+4+4' -tile 8x \
-      "$OLDPWD/$pictures/frames_$name.png"
-  done
-)
+for first in "$program"/キャラクタ/Chara*_1.bmp; do
+  frames=${first%_1.bmp}
+  montage $(ls "$frames"_*.bmp | grep -v 'x\.bmp$' | sort -V) -background '#3a6ea5' -geometry '+4+4' -tile 5x \
+    "$pictures/frames_$(basename "$frames").png"
+done
 
 # --- The panel at each level.
 xdotool mousemove $(hand stage | awk '{ print $1 + $3 / 2, $2 + $4 / 2 }')
@@ -77,26 +81,62 @@ leave 'アラームキャラクタ'
 send 2283
 dialog OptionSelDlg3 'レイアウト設定'
 
-# --- A walk, its end picture and the balloon.
-send 2004
-shot FlyingBat1_walk -
-sleep 4
-screenshot "$pictures/FlyingBat1_end.png"
-hand gone - || true
-
 # --- Notices.
 send 2336
 dialog FlyingBat5 '時計 アラーム'
 
+# --- Opening files.
+picker='ファイルのロード'
+open='ファイル オープン'
+send 1900
+pick() { press "$open" 2002; choose "$picker" 103 "$1"; leave "$picker" 1; }
+press "$open" 2002
+double "$picker" 2 '[見本]'
+sleep 0.3
+leave "$picker" 3
+pick 'メ'
+shot FileOpnDialog "$open"
+press "$open" 2008
+group='グループ登録'
+fill "$group" 105 '毎朝開くもの'
+press "$group" 126
+sleep 0.3
+shot FileOpnGrpSetDlg "$group"
+pressed DspListOpnFileHisDlg '詳細表示' "$group" 128
+press "$group" 1
+dialog box_group '登録の確認' 1
+sleep 0.3
+send 1900
+press "$open" 125
+dialog SetOpnFileAnimeDlg 'ファイルオープン アニメーション/サウンド設定' 2
+press "$open" 120
+group='グループ呼び出し'
+choose "$group" 103 0
+shot TakeOpnGrpSetDlg "$group"
+fill "$group" 109 '毎朝'
+press "$group" 131
+dialog SerchOpnFileGrpSelDlg '検索したグループの選択' 2
+leave "$group" 2
+pressed DspListOpnFileRecDlg '記録確認' "$open" 122
+pressed DelListOpnFileHisDlg 'オープン履歴削除' "$open" 124
+pressed SetGrpOpnFileRecDlg '記録をグループ化' "$open" 121
+pick 'メ'
+press "$open" 1
+shot FlyingBat1_walk -
+# The end picture and the balloon beside it, which is at least 300 by 200.
+for _ in $(seq 60); do
+  hand list | grep -q '^"" .* 300 200' && break
+  sleep 0.1
+done
+screenshot "$pictures/FlyingBat1_end.png"
+hand gone -
+
 # --- Back-up.
 backup='ファイル バックアップ'
-picker='ファイルのロード'
 send 1901
 shot FileBackUpSetDlg_empty "$backup"
 pressed box_back_up_none 'ファイル未設定' "$backup" 114 1
 press "$backup" 110
-double "$picker" 2 '[見本]'
-sleep 0.5
 choose "$picker" 103 '大'
 shot FileSelectForLoadDlg "$picker"
 leave "$picker" 1
@@ -118,8 +158,7 @@ shot FileSelectForSaveDlg "$save"
 leave "$save" 3
 pressed FileBackUpDateDlg 'バックアップファイル日付比較' "$backup" 115 1
 pressed box_back_up_contents '内容で比較エラー' "$backup" 116 1
-press "$backup" 114
-shot BackUpDlg 'バックアップ実行中'
+brief BackUpDlg 'バックアップ実行中' "$backup" 114
 dialog box_back_up_done 'ファイルバックアップ完了' 1
 printf 'x' >>"$program/見本/見本007.txt"
 pressed FileBackUpContentDlg 'バックアップファイル内容比較' "$backup" 116 1
@@ -139,20 +178,48 @@ leave "$picker" 1
 press "$divide" 111
 folder='分割ファイル格納先ディレクトリ選択'
 double "$folder" 2 '[音楽]'
+sleep 0.3
 dialog FileDivFileDlg "$folder" 1
 fill "$divide" 104 '分割見本'
 fill "$divide" 103 '90'
 press "$divide" 105
 shot FileDivideSetDlg2 "$divide"
+press "$divide" 112
+fill "$keyword" 101 'かぎ12'
+shot FileDivKeyWordDlg "$keyword"
+press "$keyword" 1
+shot box_divide_begins 'ファイル分割の実行'
+brief FileDivExeDlg 'ファイル分割中' 'ファイル分割の実行' 1
+shot FileDivideSetDlg2_running "$divide"
+dialog box_divided '分割を正常終了' 1
+shot FileDivideSetDlg2_done "$divide"
 leave "$divide"
 send 2067
+press "$restore" 110
+choose "$picker" 103 '分割'
+leave "$picker" 1
+press "$restore" 111
+folder='合成ファイル格納先ディレクトリ選択'
+dialog FileUDivFileDlg "$folder" 1
 shot FileDivideSetDlg3 "$restore"
+press "$restore" 112
+fill "$keyword" 101 'かぎ12'
+shot FileDivKeyWordDlg2 "$keyword"
+brief FileUnDivExeDlg 'ファイル復元中' "$keyword" 1
+dialog box_restored '復元を正常終了' 1
 leave "$restore"
 
-# --- Folder scope.
+# --- Folder scope: a folder of a folder, so that both pies and all rows show.
 scope='フォルダースコープ'
 send 1914
 shot FolderScopeSetDlg "$scope"
+brief SerchDrvDlg '指定ドライブ検索中' "$scope" 110
+hand find '指定フォルダ検索中' >/dev/null
+hand gone '指定フォルダ検索中'
+dialog FolderStaticsDlg 'フォルダー統計 円グラフ'
+brief SerchFolderDlg '指定フォルダ検索中' "$scope" 111
+hand gone '指定フォルダ検索中'
+dialog FolderStaticsDlg2 'フォルダー統計 棒グラフ'
 leave "$scope"
 
 # --- Desktop tidy.

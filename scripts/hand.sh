@@ -25,10 +25,7 @@ choose() { hand choose "$1" "$2" "$3"; }
 double() { hand double "$1" "$2" "$3"; }
 fill() { hand type "$1" "$2" "$3"; }
 # leave TITLE [ID]: closes a window, by a button if one is named, and waits.
-leave() {
-  if [ -n "${2:-}" ]; then hand press "$1" "$2"; else hand close "$1"; fi
-  hand gone "$1"
-}
+leave() { hand leave "$@"; }
 
 # shot FOLDER NAME TITLE: FOLDER/NAME.png is the window with that title.
 window_shot() {
@@ -37,6 +34,24 @@ window_shot() {
   # Let it paint.
   sleep 0.25
   area_shot "$1/$2.png" $place
+}
+
+# brief_shot FOLDER NAME TITLE DEED...: of a window that stays only for moments after
+# the deed: the companion is held still meanwhile.
+brief_shot() {
+  local file=$1/$2.png title=$3 place waits
+  place=$(mktemp)
+  hand hold "$title" >"$place" &
+  waits=$!
+  sleep 0.6
+  "${@:4}"
+  if wait "$waits"; then
+    area_shot "$file" $(cat "$place")
+    waits=0
+  fi
+  hand release -
+  rm -f "$place"
+  [ "$waits" = 0 ]
 }
 
 # area_shot FILE X Y WIDTH HEIGHT

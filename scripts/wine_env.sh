@@ -38,6 +38,8 @@ display_start() {
   rm -f "$pipe"
   [ -n "$number" ] || { echo "no virtual display could be started" >&2; return 1; }
   export DISPLAY=":$number"
+  # A plain colour behind the character shows that nothing else is drawn around it.
+  xsetroot -solid '#3a6ea5' 2>/dev/null || true
 }
 
 display_stop() {

@@ -5,14 +5,16 @@
 //   mirrell-hand find TITLE               waits for a window; prints its x y width height
 //   mirrell-hand part TITLE ID            the same of one of its controls
 //   mirrell-hand press TITLE ID           presses a button or a check box
+//   mirrell-hand row TITLE ID TEXT        the number of the row that begins so, from the top one on show
 //   mirrell-hand choose TITLE ID ROW      selects a row by number or by its beginning
 //   mirrell-hand double TITLE ID ROW      and double clicks it
 //   mirrell-hand type TITLE ID TEXT       fills an edit field
 //   mirrell-hand key TITLE CODE           gives the window a character
-//   mirrell-hand close TITLE              asks it to close
-//   mirrell-hand gone TITLE               waits until it is closed
-//   mirrell-hand list                     the windows there are
-//   mirrell-hand stage                    the place of the stage
+//   mirrell-hand leave TITLE [ID]         closes it, by that button if one is named, and waits
+//   mirrell-hand gone TITLE               waits until no window has the title
+//   mirrell-hand hold TITLE               holds the companion still when the window has come, and prints its
+//   place mirrell-hand release -                lets it go on mirrell-hand list                     the
+//   windows there are mirrell-hand stage                    the place of the stage
 //
 // TITLE is a window's whole caption; "-" is the topmost window without one.
 // Everything waits a few seconds for its window; the exit code is 1 if it did not
@@ -21,6 +23,7 @@
 
 #include <cstdio>
 #include <cstdlib>
+#include <functional>
 #include <string>
 
 namespace {
@@ -28,6 +31,7 @@ namespace {
 constexpr wchar_t kStage[] = L"ミルレール";
 constexpr DWORD kPatience = 6000;  // milliseconds
 constexpr DWORD kPause = 10;
+constexpr DWORD kPaintTime = 60;
 
 struct Search {
   DWORD process;
@@ -98,9 +102,9 @@ HWND Await(const wchar_t* title) {
   return nullptr;
 }
 
-bool AwaitGone(const wchar_t* title) {
+bool AwaitGone(const std::function<bool()>& isThere) {
   for (DWORD waited = 0; waited < kPatience; waited += kPause) {
-    if (!Look(title)) return true;
+    if (!isThere()) return true;
     Sleep(kPause);
   }
   return false;
@@ -112,14 +116,16 @@ void Tell(HWND window, HWND control, int notice) {
                reinterpret_cast<LPARAM>(control));
 }
 
+LRESULT RowOf(HWND control, const wchar_t* text) {
+  const UINT find = HasClass(control, L"ComboBox") ? CB_FINDSTRING : LB_FINDSTRING;
+  return SendMessageW(control, find, static_cast<WPARAM>(-1), reinterpret_cast<LPARAM>(text));
+}
+
 bool Choose(HWND window, HWND control, const wchar_t* row, bool twice) {
   const bool combo = HasClass(control, L"ComboBox");
   wchar_t* end = nullptr;
   LRESULT at = static_cast<LRESULT>(std::wcstol(row, &end, 10));
-  if (*end != L'\0') {
-    at = SendMessageW(control, combo ? CB_FINDSTRING : LB_FINDSTRING, static_cast<WPARAM>(-1),
-                      reinterpret_cast<LPARAM>(row));
-  }
+  if (*end != L'\0') at = RowOf(control, row);
   if (at < 0) return false;
   SendMessageW(control, combo ? CB_SETCURSEL : LB_SETCURSEL, static_cast<WPARAM>(at), 0);
   if (combo) {
@@ -131,12 +137,41 @@ bool Choose(HWND window, HWND control, const wchar_t* row, bool twice) {
   return true;
 }
 
+// Stops all threads of the companion, or lets them go on.
+int Hold(bool still) {
+  DWORD process = 0;
+  GetWindowThreadProcessId(Stage(), &process);
+  HANDLE handle = OpenProcess(PROCESS_SUSPEND_RESUME, FALSE, process);
+  if (!handle) return 1;
+  using Call = LONG(WINAPI*)(HANDLE);
+  const auto call = reinterpret_cast<Call>(reinterpret_cast<void*>(
+      GetProcAddress(GetModuleHandleW(L"ntdll.dll"), still ? "NtSuspendProcess" : "NtResumeProcess")));
+  const LONG status = call ? call(handle) : -1;
+  CloseHandle(handle);
+  return status >= 0 ? 0 : 1;
+}
+
+int Leave(HWND window, const wchar_t* button) {
+  HWND control = button ? GetDlgItem(window, static_cast<int>(std::wcstol(button, nullptr, 10))) : nullptr;
+  if (control) {
+    Tell(window, control, BN_CLICKED);
+  } else {
+    PostMessageW(window, WM_CLOSE, 0, 0);
+  }
+  return AwaitGone([window] { return IsWindowVisible(window) != FALSE; }) ? 0 : 1;
+}
+
 int Do(const std::wstring& deed, HWND window, int count, wchar_t** arguments) {
   if (deed == L"find") {
     PrintPlace(window);
     return 0;
   }
-  if (deed == L"close") return PostMessageW(window, WM_CLOSE, 0, 0) ? 0 : 1;
+  if (deed == L"hold") {
+    Sleep(kPaintTime);
+    PrintPlace(window);
+    return Hold(true);
+  }
+  if (deed == L"leave") return Leave(window, count > 3 ? arguments[3] : nullptr);
   if (count < 4) return 2;
   if (deed == L"key") {
     return PostMessageW(window, WM_CHAR, static_cast<WPARAM>(std::wcstol(arguments[3], nullptr, 10)), 0) ? 0
@@ -156,6 +191,11 @@ int Do(const std::wstring& deed, HWND window, int count, wchar_t** arguments) {
     return 0;
   }
   if (count < 5) return 2;
+  if (deed == L"row") {
+    const LRESULT row = RowOf(control, arguments[4]);
+    std::printf("%d\n", static_cast<int>(row - SendMessageW(control, LB_GETTOPINDEX, 0, 0)));
+    return row < 0 ? 1 : 0;
+  }
   if (deed == L"choose") return Choose(window, control, arguments[4], false) ? 0 : 1;
   if (deed == L"double") return Choose(window, control, arguments[4], true) ? 0 : 1;
   if (deed == L"type") {
@@ -186,7 +226,8 @@ int wmain(int count, wchar_t** arguments) {
                ? 0
                : 1;
   }
-  if (deed == L"gone") return AwaitGone(arguments[2]) ? 0 : 1;
+  if (deed == L"release") return Hold(false);
+  if (deed == L"gone") return AwaitGone([&] { return Look(arguments[2]) != nullptr; }) ? 0 : 1;
   HWND window = Await(arguments[2]);
   if (!window) {
     std::fprintf(stderr, "mirrell-hand: no window \"%s\"\n", Utf8(arguments[2]).c_str());

@@ -1,0 +1,190 @@
+#!/usr/bin/env bash
+# Walks through the companion's windows as a user would, with a pointer that moves
+# and clicks on a virtual display. Each step leaves a picture in out/tour/.
+set -euo pipefail
+cd "$(dirname "$0")/.."
+. scripts/wine_env.sh
+. scripts/hand.sh
+
+pictures=out/tour
+program=$WINEPREFIX/drive_c/MIRRELL
+rm -rf "$pictures"
+mkdir -p "$pictures"
+
+step=0
+# picture NAME: the whole display, numbered.
+picture() {
+  step=$((step + 1))
+  sleep 0.4
+  screenshot "$pictures/$(printf '%02d_%s' "$step" "$1").png"
+}
+
+# point X Y: moves the pointer there in a few small moves, as a hand does.
+point() {
+  local x y i
+  eval "$(xdotool getmouselocation --shell | grep -E '^[XY]=')"
+  for i in 1 2 3 4 5 6; do
+    x=$((X + ($1 - X) * i / 6)) y=$((Y + ($2 - Y) * i / 6))
+    xdotool mousemove "$x" "$y"
+    sleep 0.03
+  done
+}
+click() { point "$1" "$2"; sleep 0.1; xdotool click 1; }
+double_click() { point "$1" "$2"; xdotool click --repeat 2 --delay 80 1; }
+
+# into X Y WIDTH HEIGHT [PART OF WIDTH IN %]: a point in a rectangle.
+into() { echo $(($1 + $3 * ${5:-50} / 100)) $(($2 + $4 / 2)); }
+# push TITLE ID: clicks the button.
+push() { click $(into $(hand part "$1" "$2")); }
+
+# touch_stage: moves the pointer onto the character, which opens the panel.
+touch_stage() {
+  point 6 6
+  hand gone -
+  point $(into $(hand stage))
+  hand find - >/dev/null
+}
+# row NUMBER: clicks a row of the panel.
+row() {
+  local place=($(hand find -))
+  point $((place[0] + 80)) $((place[1] + 20 + 20 * $1))
+  [ -z "${2:-}" ] || picture "$2"
+  xdotool click 1
+  sleep 0.3
+}
+# list_row TITLE ID ROW: the place of a row of a list.
+list_row() {
+  local place=($(hand part "$1" "$2"))
+  echo $((place[0] + 40)) $((place[1] + 10 + 16 * $3))
+}
+
+trap display_stop EXIT
+display_start 1280x960
+wine_prefix
+rm -rf "$program"
+scripts/program_folder.sh "$program"
+example_files "$program/見本"
+xdotool mousemove 6 6
+companion_start "$program"
+sleep 1
+picture desktop
+
+# --- The panel and its levels.
+touch_stage
+picture panel
+row 6
+picture panel_options
+row 0
+main='ミルレールキャラクタ'
+picture main_character
+click $(list_row "$main" 100 2)
+picture main_character_chosen
+push "$main" 2369
+push '動作の確認' 2285
+picture motion_of_the_menu
+leave '動作の確認'
+leave '動作の確認'
+push "$main" 1
+picture main_character_taken
+
+touch_stage
+row 6
+row 1
+alarm='アラームキャラクタ'
+picture alarm_characters
+push "$alarm" 2290
+picture alarm_character_plays
+push 'アラーム動作の確認' 2
+push "$alarm" 2
+
+# --- The layout, dragged.
+touch_stage
+row 6
+row 2
+layout='レイアウト設定'
+picture layout
+# The stage's rectangle in the image of the screen, which is a fifth of it.
+stage=($(hand stage))
+client=($(hand part "$layout" 2292))
+left=$((client[0] - 12 + 10)) top=$((client[1] - 284 + 34))
+point $((left + stage[0] / 5 + 12)) $((top + stage[1] / 5 + 16))
+xdotool mousedown 1
+point $((left + 60)) $((top + 60))
+picture layout_dragged
+xdotool mouseup 1
+push "$layout" 1
+picture layout_applied
+
+# --- Back-up.
+touch_stage
+row 1
+backup='ファイル バックアップ'
+picker='ファイルのロード'
+picture back_up
+push "$backup" 110
+double_click $(list_row "$picker" 2 "$(hand row "$picker" 2 '[見本]')")
+sleep 0.5
+click $(list_row "$picker" 103 2)
+picture back_up_source
+push "$picker" 1
+push "$backup" 111
+folder='バックアップ先ディレクトリ指定'
+double_click $(list_row "$folder" 2 "$(hand row "$folder" 2 '[写真]')")
+sleep 0.5
+picture back_up_folder
+push "$folder" 1
+push "$backup" 114
+hand find 'ファイルバックアップ完了' >/dev/null
+picture back_up_done
+push 'ファイルバックアップ完了' 1
+push "$backup" 2
+
+# --- Dividing.
+touch_stage
+row 2
+picture panel_files
+row 1
+picture divide_or_restore
+push 'ファイル 分割/復元選択' 110
+divide='ファイル 分割'
+push "$divide" 110
+click $(list_row "$picker" 103 0)
+push "$picker" 1
+push "$divide" 111
+push '分割ファイル格納先ディレクトリ選択' 1
+click $(into $(hand part "$divide" 104))
+xdotool type 'pieces'
+click $(into $(hand part "$divide" 103))
+xdotool key End BackSpace BackSpace
+xdotool type '12'
+picture divide
+push "$divide" 112
+hand find '分割を正常終了' >/dev/null
+picture divide_done
+push '分割を正常終了' 1
+push "$divide" 2
+
+# --- The folder scope.
+touch_stage
+row 2
+row 0
+scope='フォルダースコープ'
+picture folder_scope
+push "$scope" 110
+hand find 'フォルダー統計 円グラフ' >/dev/null
+hand gone '指定ドライブ検索中'
+sleep 0.2
+hand gone '指定フォルダ検索中'
+picture folder_scope_pies
+push 'フォルダー統計 円グラフ' 2
+push "$scope" 3
+
+# --- The end, that is put off.
+touch_stage
+row 7 panel_exit
+hand find 'プログラム終了' >/dev/null
+picture exit_question
+push 'プログラム終了' 2
+picture exit_cancelled
+
+echo "the tour: out/tour, $step pictures"
