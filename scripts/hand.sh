@@ -6,7 +6,7 @@
 companion_start() {
   local folder=$1 window=
   hand_program=$PWD/build/windows/tools/hand/mirrell-hand.exe
-  ( cd "$folder" && exec wine mirrell.exe ) &
+  ( cd "$folder" && exec wine mirrell.exe 2>/dev/null ) &
   companion_pid=$!
   for _ in $(seq 200); do
     window=$(xdotool search --onlyvisible --name '^ミルレール$' 2>/dev/null | head -n 1) && [ -n "$window" ] && break

@@ -289,6 +289,13 @@ TEST_F(DataSetTest, CheckFindsAMovedOutlinePoint) {
   EXPECT_TRUE(HasFault("character 10 frame 1: the outline is not that of the mask"));
 }
 
+TEST_F(DataSetTest, CheckFindsAWalkerUnderItsWindowsFrame) {
+  // A black pixel in the lowest row of the mask, which the file begins with.
+  const fs::path mask = MadePicture("Chara11_1x.bmp");
+  for (std::size_t i = 0; i < 3; ++i) Spoil(mask, 54 + 30 + i, 1);
+  EXPECT_TRUE(HasFault("character 11 frame 1: the window's frame covers a part of the figure"));
+}
+
 TEST_F(DataSetTest, CheckFindsAMissingPicture) {
   Remove(MadePicture("Chara3_3.bmp"));
   EXPECT_TRUE(HasFault("character 3 frame 3: no picture or no mask of 24 bits"));

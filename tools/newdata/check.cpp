@@ -119,6 +119,7 @@ class Checker {
     }
     const PixelSet figure = ReadMask(mask.get(), name);
     if (figure.width == 0 || !kind) return;
+    if (*kind == OutlineKind::Walker) CheckRoomForFrame(figure, name);
     Polygon polygon;
     for (int i = 0; i < outline.count; ++i) {
       polygon.push_back(CornerOfPoint(outline.points[i].x, outline.points[i].y, figure.height, *kind));
@@ -126,6 +127,19 @@ class Checker {
     for (const Probe probe : {Probe::Corner, Probe::Middle}) {
       if (PolygonPixels(polygon, figure.width, figure.height, probe) != figure) {
         Fault(name + ": the outline is not that of the mask");
+        return;
+      }
+    }
+  }
+
+  // A walker's window is as large as its picture and has its frame inside: what
+  // stands in the last rows and columns would be frame, not figure.
+  void CheckRoomForFrame(const PixelSet& figure, const std::string& name) {
+    for (int y = 0; y < figure.height; ++y) {
+      for (int x = 0; x < figure.width; ++x) {
+        const bool hidden = x >= figure.width - 2 * kWalkerFrame || y >= figure.height - 2 * kWalkerFrame;
+        if (!hidden || !figure.At(x, y)) continue;
+        Fault(name + ": the window's frame covers a part of the figure");
         return;
       }
     }
