@@ -121,8 +121,7 @@ pressed DspListOpnFileRecDlg '記録確認' "$open" 122
 pressed DelListOpnFileHisDlg 'オープン履歴削除' "$open" 124
 pressed SetGrpOpnFileRecDlg '記録をグループ化' "$open" 121
 pick 'メ'
-press "$open" 1
-shot FlyingBat1_walk -
+brief FlyingBat1_walk - "$open" 1
 # The end picture and the balloon beside it, which is at least 300 by 200.
 for _ in $(seq 60); do
   hand list | grep -q '^"" .* 300 200' && break
@@ -180,8 +179,8 @@ folder='分割ファイル格納先ディレクトリ選択'
 double "$folder" 2 '[音楽]'
 sleep 0.3
 dialog FileDivFileDlg "$folder" 1
-fill "$divide" 104 '分割見本'
-fill "$divide" 103 '90'
+fill "$divide" 103 '分割見本'
+fill "$divide" 104 '90'
 press "$divide" 105
 shot FileDivideSetDlg2 "$divide"
 press "$divide" 112
@@ -228,14 +227,10 @@ dialog FileDesktopClrDlg 'デスクトップの整理'
 send 1922
 dialog DesktopIconSetDlg 'デスクトップ カバー設定'
 
-# --- Message boxes and popup menus.
+# --- The exit question.
 send 1908
 dialog box_exit 'プログラム終了' 2
-send 2337
-shot menu_clock -
-send 50
-
-montage -label '%t' "$pictures"/*.png -background '#d8d8d8' -geometry '+8+8' -tile 6x out/gallery.png
+montage -font /usr/share/fonts/opentype/ipafont-gothic/ipag.ttf -label '%t' "$pictures"/*.png -background '#d8d8d8' -geometry '+8+8' -tile 6x out/gallery.png
 echo "the gallery: out/gallery.png, $(ls "$pictures" | wc -l) pictures"
 if [ ${#missing[@]} -gt 0 ]; then
   echo "did not appear: ${missing[*]}" >&2

@@ -152,9 +152,9 @@ click $(list_row "$picker" 103 0)
 push "$picker" 1
 push "$divide" 111
 push '分割ファイル格納先ディレクトリ選択' 1
-click $(into $(hand part "$divide" 104))
-xdotool type 'pieces'
 click $(into $(hand part "$divide" 103))
+xdotool type 'pieces'
+click $(into $(hand part "$divide" 104))
 xdotool key End BackSpace BackSpace
 xdotool type '12'
 picture divide

@@ -19,6 +19,8 @@ wine_prefix() {
   for face in 'MS UI Gothic' 'MS PGothic' 'ＭＳ Ｐゴシック' 'MS Shell Dlg' 'MS Shell Dlg 2'; do
     wine reg add 'HKCU\Software\Wine\Fonts\Replacements' /v "$face" /d IPAPGothic /f >/dev/null 2>&1
   done
+  # The signs on the buttons of captions.
+  cp /usr/share/wine/fonts/marlett.ttf "$WINEPREFIX/drive_c/windows/Fonts/" 2>/dev/null || true
   wineserver -w
   touch "$WINEPREFIX/mirrell-ready"
 }
@@ -28,7 +30,7 @@ wine_prefix() {
 display_start() {
   local size=${1:-1280x960} number pipe
   pipe=$(mktemp)
-  Xvfb -displayfd 3 -screen 0 "${size}x24" -nolisten tcp 3>"$pipe" >/dev/null 2>&1 &
+  Xvfb -displayfd 3 -screen 0 "${size}x24" -nolisten tcp -noreset 3>"$pipe" >/dev/null 2>&1 &
   display_pid=$!
   for _ in $(seq 100); do
     number=$(cat "$pipe")

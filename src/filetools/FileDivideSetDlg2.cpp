@@ -25,21 +25,18 @@ struct Kind {
   std::uint32_t pickCommand;
   std::uint32_t folderCommand;
   const char* banner;
-  Point bannerAt;
-  Rect bannerBox;  // wiped when there is no banner
+  Rect bannerBox;  // in dialog units; wiped when there is no banner
 };
 constexpr Kind kDivide{kDivideDialogId,      IDD_FileDivideSetDlg2,  kCommandDividePick,
-                       kCommandDivideFolder, "ファイル分割中です !", {432, 218},
-                       {430, 216, 750, 286}};
+                       kCommandDivideFolder, "ファイル分割中です !", {215, 108, 375, 143}};
 constexpr Kind kRestore{kRestoreDialogId,      IDD_FileDivideSetDlg3, kCommandRestorePick,
-                        kCommandRestoreFolder, "ファイル合成中です!", {556, 118},
-                        {554, 116, 740, 186}};
+                        kCommandRestoreFolder, "ファイル合成中です!", {277, 58, 370, 93}};
+constexpr int kBannerInset = 2;
 
-// The two sizes of a division.
-constexpr Point kSizesAt{210, 136};
-constexpr int kSizeStep = 44;
-constexpr int kSizeWidth = 120;  // of the longest one
-constexpr int kSizeHeight = 16;
+// The two sizes of a division, in dialog units: beside their labels, as wide as the
+// longest one.
+constexpr Rect kSourceSize{105, 68, 165, 76};
+constexpr Rect kPieceSize{105, 90, 165, 98};
 
 // The kind that is open; null if none is.
 const Kind* OpenKind() {
@@ -54,19 +51,19 @@ void Wipe(Canvas* canvas, const Rect& box) {
   CanvasRectangle(canvas, box.left, box.top, box.right, box.bottom);
 }
 
-void DrawSize(Canvas* canvas, int y, std::uint32_t size) {
+void DrawSize(Canvas* canvas, const Rect& at, std::uint32_t size) {
   char text[24];
   TextFormat(text, sizeof text, "%u Byte", static_cast<unsigned>(size));
-  Wipe(canvas, {kSizesAt.x, y, kSizesAt.x + kSizeWidth + 1, y + kSizeHeight + 1});
-  CanvasText(canvas, kSizesAt.x, y, text);
+  Wipe(canvas, {at.left, at.top, at.right + 1, at.bottom + 1});
+  CanvasText(canvas, at.left, at.top, text);
 }
 
-void DrawBanner(Canvas* canvas, const Kind& kind) {
+void DrawBanner(Canvas* canvas, const char* banner, const Rect& box) {
   if (FileDivide.banner) {
     CanvasTextColour(canvas, kRed);
-    CanvasText(canvas, kind.bannerAt.x, kind.bannerAt.y, kind.banner);
+    CanvasText(canvas, box.left + kBannerInset, box.top + kBannerInset, banner);
   } else {
-    Wipe(canvas, kind.bannerBox);
+    Wipe(canvas, box);
   }
 }
 
@@ -77,10 +74,10 @@ void Paint(WindowHandle dialog, const Kind& kind) {
   CanvasPen(canvas, PenNothing());
   CanvasBackTransparent(canvas, true);
   if (kind.dialogId == kDivideDialogId) {
-    DrawSize(canvas, kSizesAt.y, FileDivide.sourceSize);
-    DrawSize(canvas, kSizesAt.y + kSizeStep, FileDivide.pieceSize);
+    DrawSize(canvas, DialogUnits(dialog, kSourceSize), FileDivide.sourceSize);
+    DrawSize(canvas, DialogUnits(dialog, kPieceSize), FileDivide.pieceSize);
   }
-  DrawBanner(canvas, kind);
+  DrawBanner(canvas, kind.banner, DialogUnits(dialog, kind.bannerBox));
   CanvasRelease(canvas);
 }
 

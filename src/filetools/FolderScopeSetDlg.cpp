@@ -18,7 +18,7 @@ namespace {
 constexpr int kDlgId = 2009;
 constexpr int kFuncNo = 6;
 constexpr int kMargin = 12;
-constexpr int kListBottom = 320;  // where the template's file list ends too
+constexpr int kListBottom = 160;  // dialog units, where the template's file list ends too
 
 FolderList folders;
 static_assert(kFolderSize == kScopePathSize);
@@ -36,7 +36,7 @@ void Open(WindowHandle dialog) {
   FilterFill(dialog, IDC_SCOPE_FILTER);
   ListSelect(dialog, IDC_SCOPE_FILTER, kFilterAll);
   const Rect place{kMargin, FolderListTop(dialog), WindowClientRect(dialog).right / 2 - kMargin / 2,
-                   kListBottom};
+                   DialogUnits(dialog, {0, 0, 0, kListBottom}).bottom};
   FolderListOpenWide(folders, dialog, place, scopeFolder, "", FolderChanged);
   FolderChanged();
 }
