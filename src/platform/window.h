@@ -43,6 +43,9 @@ void TimerStop(WindowHandle window, int id);
 bool WindowIsOpen(WindowHandle window);
 void WindowMove(WindowHandle window, int x, int y, int width, int height, bool repaint);
 void WindowShow(WindowHandle window, bool show);
+// A window that is not enabled gets nothing from pointer and keyboard. A modal
+// dialog disables its owner until it ends.
+void WindowEnable(WindowHandle window, bool enable);
 // Puts the window above all others and shows it, place and size unchanged.
 void WindowSetTopmost(WindowHandle window);
 void WindowInvalidate(WindowHandle window, bool erase);

@@ -135,6 +135,8 @@ void Init(WindowHandle panel) {
   const Point at = PlaceFor(width, height);
   WindowMove(panel, at.x, at.y, width, height, false);
   MenuPanelRect = {at.x, at.y, at.x + width, at.y + height};
+  // The stage goes on hearing the pointer, which keeps the top level from timing out.
+  if (MenuPanelState == kPanelTop) WindowEnable(hMainWnd, true);
 }
 
 void Forget(WindowHandle panel) {

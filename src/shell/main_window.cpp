@@ -51,6 +51,7 @@ void Char(const Event& event) {
   MenuPanelState = 0;
   FuncNo = 0;
   MenuReopenGuard = 0;
+  SendClose(hDiskMenu);  // the stage may have the keyboard while its panel is open
 }
 
 void Nothing(const Event&) {}

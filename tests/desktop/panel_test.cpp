@@ -26,7 +26,7 @@ class PanelTest : public testing::Test {
  protected:
   // The stage at a place, nothing else on the desktop, the pointer far from it.
   void StartAt(int x, int y) {
-    PointerTo(2, 2);
+    PointerAway();
     SettingsChange(companion_)
         .Number(kStageXAt, x)
         .Number(kStageYAt, y)
@@ -53,6 +53,8 @@ class PanelTest : public testing::Test {
   // The pointer touches the stage; the panel that opens.
   HWND Touch() const {
     const POINT at = OnStage();
+    // In two steps, as a pointer that is back where it was has not moved.
+    PointerTo(static_cast<int>(at.x) + 1, static_cast<int>(at.y));
     PointerTo(static_cast<int>(at.x), static_cast<int>(at.y));
     HWND panel = nullptr;
     WaitFor([&] { return (panel = FindPanel(companion_)) != nullptr; }, 5000);
@@ -107,7 +109,7 @@ TEST_F(PanelTest, OpensBesideTheStageWhenThePointerTouchesItAndCloses40TicksAfte
   EXPECT_EQ(panel.top, stage.top);
   EXPECT_EQ(panel.right - panel.left, kPanelWidth);
   EXPECT_EQ(panel.bottom - panel.top, 200);
-  PointerTo(2, 2);
+  PointerAway();
   int closed = 0;
   ASSERT_TRUE(WaitFor([&] {
     closed = companion_.Value(kShowTicks);
@@ -128,7 +130,7 @@ TEST_F(PanelTest, StaysWhileThePointerMovesOnTheStage) {
     PointerTo(static_cast<int>(at.x), static_cast<int>(at.y) + i % 2);
   EXPECT_EQ(FindPanel(companion_), panel);
   EXPECT_EQ(companion_.Value(kShowMenuPanelState), 1);
-  PointerTo(2, 2);
+  PointerAway();
   EXPECT_TRUE(Closes());
 }
 
@@ -141,7 +143,7 @@ TEST_F(PanelTest, StaysWithThePointerInsideAndClosesAtOnceWhenItLeaves) {
   EXPECT_EQ(FindPanel(companion_), panel);
   EXPECT_EQ(companion_.Value(kShowMenuCloseCount), kInside);
   const int before = companion_.Value(kShowTicks);
-  PointerTo(2, 2);
+  PointerAway();
   ASSERT_TRUE(Closes());
   EXPECT_LT(companion_.Value(kShowTicks) - before, 30);
   EXPECT_EQ(companion_.Value(kShowMenuPanelState), 0);
@@ -192,6 +194,15 @@ TEST_F(PanelTest, EscapeClosesItWithTheRealKeyboard) {
   EXPECT_EQ(companion_.Value(kShowMenuPanelState), 0);
 }
 
+TEST_F(PanelTest, EscapeClosesItAfterAClickOnTheStageToo) {
+  StartAt(200, 300);
+  const HWND panel = Touch();
+  ASSERT_TRUE(panel);
+  PointerClick();
+  KeyPress("Escape");
+  EXPECT_TRUE(WaitFor([&] { return !IsWindow(panel); }, 900)) << "before its time is over";
+}
+
 TEST_F(PanelTest, AClickWithShiftHeldOrBelowTheRowsDoesNothing) {
   StartAt(200, 300);
   const HWND panel = Touch();
@@ -218,7 +229,7 @@ TEST_F(PanelTest, SubLevelsHaveTheirSizesDoNotTimeOutAndCloseByTheirLastRow) {
     ASSERT_TRUE(panel) << level.state;
     EXPECT_EQ(companion_.Value(kShowMenuPanelState), level.state);
     EXPECT_EQ(RectOf(panel).bottom - RectOf(panel).top, level.height);
-    PointerTo(2, 2);
+    PointerAway();
     companion_.Tick(100);
     EXPECT_EQ(FindPanel(companion_), panel) << level.state;
     Press(panel, level.lastRow);
@@ -234,7 +245,7 @@ TEST_F(PanelTest, EscapeLeavesASubLevel) {
   KeyPress("Escape");
   EXPECT_TRUE(Closes());
   EXPECT_EQ(companion_.Value(kShowMenuPanelState), 0);
-  PointerTo(2, 2);
+  PointerAway();
   EXPECT_TRUE(Touch()) << "the stage opens it again";
 }
 
@@ -247,8 +258,8 @@ TEST_F(PanelTest, ARealClickOnTheLastRowAsksCancelStaysAndOkEndsTheProgram) {
     PointerClick();
     const HWND box = companion_.Dialog(L"プログラム終了", 5000);
     ASSERT_TRUE(box);
-    EXPECT_FALSE(IsWindow(panel)) << "the panel has closed by then";
-    PointerTo(2, 2);
+    EXPECT_FALSE(IsWindowVisible(panel)) << "the panel has closed by then";
+    PointerAway();
     PostButton(box, answer);
     if (answer == IDCANCEL) {
       ASSERT_TRUE(WaitFor([&] { return companion_.Value(kShowMenuPanelState) == 0; }));

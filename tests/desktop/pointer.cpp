@@ -30,6 +30,13 @@ void PointerTo(int x, int y) {
   Act("mousemove " + std::to_string(x) + " " + std::to_string(y));
 }
 
+void PointerAway() {
+  constexpr int kCorner = 2;
+  PointerTo(kCorner, kCorner);
+  // Where no window of a Windows program is, none is told of the move.
+  SetCursorPos(kCorner, kCorner);
+}
+
 void PointerClick() {
   Act("click 1");
 }

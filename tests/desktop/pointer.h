@@ -4,6 +4,8 @@
 
 // Puts the pointer to a place on the screen and waits until it is there.
 void PointerTo(int x, int y);
+// Puts it into the corner of the screen, where no window is.
+void PointerAway();
 // A press and release of the left button where the pointer is.
 void PointerClick();
 // A key goes down and up, by its name ("Escape").

@@ -520,7 +520,7 @@ TEST_F(PanelTest, ThePointerOnTheStageKeepsThePanel) {
   TimerStart(hMainWnd, kTickTimer, kTickMilliseconds);
   Open({[] {
     Tick(39);
-    PanelPointerOnStage(MoveOnStage());
+    Mouse(hMainWnd, EventKind::MouseMove, 5, 5);  // the stage hears it, though it owns the panel
     EXPECT_EQ(MenuCloseCount, 40);
     Tick(39);
     EXPECT_EQ(hDiskMenu, TopDialog());

@@ -273,6 +273,10 @@ void WindowShow(WindowHandle window, bool show) {
   if (const WindowPointer found = WindowUse(window, "WindowShow"); found) WindowSetVisible(found, show);
 }
 
+void WindowEnable(WindowHandle window, bool enable) {
+  if (const WindowPointer found = WindowUse(window, "WindowEnable"); found) found->enabled = enable;
+}
+
 void WindowSetTopmost(WindowHandle window) {
   const WindowPointer found = WindowUse(window, "WindowSetTopmost");
   if (!found) return;

@@ -142,6 +142,10 @@ void WindowShow(WindowHandle window, bool show) {
   ShowWindow(Hwnd(window), show ? SW_SHOW : SW_HIDE);
 }
 
+void WindowEnable(WindowHandle window, bool enable) {
+  EnableWindow(Hwnd(window), enable ? TRUE : FALSE);
+}
+
 void WindowSetTopmost(WindowHandle window) {
   SetWindowPos(Hwnd(window), HWND_TOPMOST, 0, 0, 0, 0, SWP_NOSIZE | SWP_NOMOVE | SWP_SHOWWINDOW);
 }
