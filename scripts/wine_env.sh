@@ -1,14 +1,15 @@
 # Sourced by whoever starts Wine: a Japanese locale, a private prefix under
-# build/, a display. Ends what it started when the shell ends.
+# build/, a display. Ends what it started when the shell ends. (The driver of USB
+# devices is left out: it outlives its server.)
 
 export LANG=ja_JP.UTF-8 LC_ALL=ja_JP.UTF-8
-export WINEDLLOVERRIDES="mscoree=;mshtml=" WINEDEBUG="${WINEDEBUG:--all}"
+export WINEDLLOVERRIDES="mscoree=;mshtml=;wineusb.sys=" WINEDEBUG="${WINEDEBUG:--all}"
 export WINEPREFIX="${MIRRELL_WINEPREFIX:-$PWD/build/wine}"
 
 # wine_prefix: makes the prefix once. Without a window manager Wine itself
 # draws captions and handles focus.
 wine_prefix() {
-  [ -e "$WINEPREFIX/mirrell-ready" ] && return 0
+  [ -e "$WINEPREFIX/mirrell-ready" ] && { wine_folders; return 0; }
   rm -rf "$WINEPREFIX"
   mkdir -p "$(dirname "$WINEPREFIX")"
   wine wineboot --init >/dev/null 2>&1
@@ -22,7 +23,19 @@ wine_prefix() {
   # The signs on the buttons of captions.
   cp /usr/share/wine/fonts/marlett.ttf "$WINEPREFIX/drive_c/windows/Fonts/" 2>/dev/null || true
   wineserver -w
+  wine_folders
   touch "$WINEPREFIX/mirrell-ready"
+}
+
+# wine_folders: the desktop and its like are folders of the prefix, no links into
+# the developer's home, which a test would tidy up otherwise.
+wine_folders() {
+  local folder
+  for folder in "$WINEPREFIX"/drive_c/users/*/*; do
+    [ -L "$folder" ] || continue
+    rm "$folder"
+    mkdir "$folder"
+  done
 }
 
 # display_start WIDTHxHEIGHT: a virtual display of our own; sets DISPLAY and
