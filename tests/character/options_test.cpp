@@ -90,7 +90,8 @@ TEST_F(OptionsTest, NamesAreEmptyForNumbersThatTheWorldListDoesNotHold) {
   CommandOptionMainCharacter(2281);
 }
 
-// The client area is 600 by 260: the preview runs from 280 to 600 and 44 to 200.
+// The client area is 600 by 368: the preview runs from 600 * 140 / 300 = 280 to 600
+// and from 368 * 22 / 130 = 62 to 368 * 100 / 130 = 283.
 TEST_F(OptionsTest, ASelectionShowsTheFirstFrameInThePreviewArea) {
   Then([] {
     DrawingClear();
@@ -99,11 +100,11 @@ TEST_F(OptionsTest, ASelectionShowsTheFirstFrameInThePreviewArea) {
     ASSERT_EQ(DibsDrawn(hMenuDlg).size(), 1U);
     const DrawCall call = DibsDrawn(hMenuDlg)[0];
     EXPECT_EQ(call.x, 280);
-    EXPECT_EQ(call.y, 44);
+    EXPECT_EQ(call.y, 62);
     EXPECT_EQ(call.x2 - call.x, 20);
     EXPECT_TRUE(call.clipped);
     EXPECT_EQ(call.clip.right, 600);
-    EXPECT_EQ(call.clip.bottom, 200);
+    EXPECT_EQ(call.clip.bottom, 283);
     DrawingClear();
     ChooseRow(hMenuDlg, 100, 2);  // no picture: the area is cleared
     EXPECT_TRUE(DibsDrawn(hMenuDlg).empty());
