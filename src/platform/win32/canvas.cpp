@@ -3,6 +3,7 @@
 #include "platform/canvas.h"
 
 #include <algorithm>
+#include <cstdlib>
 #include <cstring>
 #include <vector>
 
@@ -161,6 +162,18 @@ void CanvasEllipse(Canvas* canvas, int left, int top, int right, int bottom) {
   Ellipse(canvas->dc, left, top, right, bottom);
 }
 void CanvasPie(Canvas* canvas, int left, int top, int right, int bottom, int x1, int y1, int x2, int y2) {
+  // Pie may take two rays that meet the ellipse in one pixel for the same ray, and
+  // draw all of the ellipse. So a slice of a pixel or two is drawn by its corners.
+  constexpr int kThin = 2;
+  const POINT centre = {(left + right) / 2, (top + bottom) / 2};
+  const bool meet = std::abs(x1 - x2) <= kThin && std::abs(y1 - y2) <= kThin;
+  const auto turn = static_cast<std::int64_t>(x1 - centre.x) * (y2 - centre.y) -
+                    static_cast<std::int64_t>(y1 - centre.y) * (x2 - centre.x);
+  if (meet && turn < 0) {  // else the slice is nearly the whole
+    const POINT corners[] = {centre, {x1, y1}, {x2, y2}};
+    Polygon(canvas->dc, corners, 3);
+    return;
+  }
   Pie(canvas->dc, left, top, right, bottom, x1, y1, x2, y2);
 }
 void CanvasPolygon(Canvas* canvas, const Point* points, int count) {
