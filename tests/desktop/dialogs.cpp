@@ -63,7 +63,7 @@ bool TickUntil(const Companion& companion, const std::function<bool()>& conditio
   return WaitFor(
       [&] {
         // Asking for a value waits until the ticks before it are done with.
-        for (int i = 0; i < 4; ++i) PostMessageW(companion.Window(), WM_TIMER, 1, 0);
+        for (int i = 0; i < 32; ++i) PostMessageW(companion.Window(), WM_TIMER, 1, 0);
         companion.Value(kShowTicks);
         return condition();
       },
