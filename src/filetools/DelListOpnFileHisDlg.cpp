@@ -16,12 +16,6 @@ constexpr int kDialogId = 2032;
 
 bool changed;
 
-void FieldShow(WindowHandle dialog, int id, const char* field) {
-  char text[kOpnTextUsed + 1];
-  TextCopy(text, sizeof text, field);
-  ControlSetText(dialog, id, text);
-}
-
 // The chosen row of the history, -1 for none.
 int Row(WindowHandle dialog) {
   const int row = ListSelected(dialog, IDC_OPN_FILE);
@@ -31,10 +25,10 @@ int Row(WindowHandle dialog) {
 void DetailsShow(WindowHandle dialog) {
   const int row = Row(dialog);
   const OpnHistoryRec& h = OpnHistory;
-  FieldShow(dialog, IDC_OPN_NAME, row < 0 ? "" : h.fileName[row]);
-  FieldShow(dialog, IDC_OPN_FOLDER, row < 0 ? "" : h.filePath[row]);
+  ControlSetText(dialog, IDC_OPN_NAME, OpnText(row < 0 ? "" : h.fileName[row]).text);
+  ControlSetText(dialog, IDC_OPN_FOLDER, OpnText(row < 0 ? "" : h.filePath[row]).text);
   const char* program = row < 0 ? "" : h.progName[row][0] != '\0' ? h.progName[row] : "関連プログラム";
-  FieldShow(dialog, IDC_OPN_PROGRAM_NAME, program);
+  ControlSetText(dialog, IDC_OPN_PROGRAM_NAME, OpnText(program).text);
 }
 
 void Show(WindowHandle dialog) {
@@ -51,7 +45,7 @@ void Remove(WindowHandle dialog) {
   const int row = Row(dialog);
   if (row < 0) return;
   char text[kOpnTextUsed + 60];
-  TextFormat(text, sizeof text, "%.*sのオープンを履歴から削除します", kOpnTextUsed, OpnHistory.fileName[row]);
+  TextFormat(text, sizeof text, "%sのオープンを履歴から削除します", OpnText(OpnHistory.fileName[row]).text);
   if (!OpnAsk(dialog, text, "履歴削除の確認")) return;
   OpnHisRemove(row);
   changed = true;

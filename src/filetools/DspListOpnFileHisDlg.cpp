@@ -15,24 +15,18 @@ constexpr int kLineSize = kOpnTextUsed + 40;
 void Open(WindowHandle dialog) {
   const OpnHistoryRec& h = OpnHistory;
   char line[kLineSize];
-  // Fields may lack a terminator: each goes through a text of its own.
-  const auto text = [](const char* field) {
-    static char copy[kOpnTextUsed + 1];
-    TextCopy(copy, sizeof copy, field);
-    return copy;
-  };
   const auto add = [&] { ListAdd(dialog, IDC_OPN_LINES, line); };
   for (int row = 0; row < h.fileCount; ++row) {
     TextFormat(line, sizeof line, "--項目 No. %d--", row + 1);
     add();
-    TextFormat(line, sizeof line, "   ファイル名: %s", text(h.fileName[row]));
+    TextFormat(line, sizeof line, "   ファイル名: %s", OpnText(h.fileName[row]).text);
     add();
-    TextFormat(line, sizeof line, "   ファイルパス: %s", text(h.filePath[row]));
+    TextFormat(line, sizeof line, "   ファイルパス: %s", OpnText(h.filePath[row]).text);
     add();
     if (h.progName[row][0] == '\0') continue;
-    TextFormat(line, sizeof line, "   プログラム名: %s", text(h.progName[row]));
+    TextFormat(line, sizeof line, "   プログラム名: %s", OpnText(h.progName[row]).text);
     add();
-    TextFormat(line, sizeof line, "   プログラムパス: %s", text(h.progPath[row]));
+    TextFormat(line, sizeof line, "   プログラムパス: %s", OpnText(h.progPath[row]).text);
     add();
   }
 }

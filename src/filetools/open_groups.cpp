@@ -160,6 +160,8 @@ void OpnGroupRowText(int group, char* text, int size) {
   if (g.fileCount == 0) {
     TextFormat(text, room, "  %2d", group + 1);
   } else {
-    TextFormat(text, room, "* %2d (%.*s)", group + 1, kOpnCommentSize - 1, g.comment);
+    char comment[kOpnCommentSize];
+    TextCopy(comment, sizeof comment, g.comment);
+    TextFormat(text, room, "* %2d (%s)", group + 1, comment);
   }
 }

@@ -4,6 +4,10 @@
 
 #include "shell/text.h"
 
+OpnText::OpnText(const char* field) {
+  TextCopy(text, sizeof text, field);
+}
+
 void OpnTextSet(char (&field)[kOpnTextSize], const char* text) {
   const std::size_t length = TextCopy(field, kOpnTextUsed + 1, text);
   std::memset(field + length, 0, sizeof field - length);
@@ -14,7 +18,7 @@ bool OpnTextSame(const char* a, const char* b) {
 }
 
 void OpnRowText(char* text, int size, const char* name, const char* folder) {
-  TextFormat(text, static_cast<std::size_t>(size), "%.*s [%.*s]", kOpnTextUsed, name, kOpnTextUsed, folder);
+  TextFormat(text, static_cast<std::size_t>(size), "%s [%s]", OpnText(name).text, OpnText(folder).text);
 }
 
 bool OpnSelectionSame(const OpnSelectionRec& a, const OpnSelectionRec& b) {

@@ -9,6 +9,12 @@
 
 inline constexpr int kOpnTextUsed = 256;
 
+// A field as terminated text.
+struct OpnText {
+  explicit OpnText(const char* field);
+  char text[kOpnTextUsed + 1];
+};
+
 // Room for a row of OpnRowText.
 inline constexpr int kOpnRowSize = 2 * kOpnTextUsed + 4;
 

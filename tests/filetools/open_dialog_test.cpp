@@ -291,6 +291,51 @@ TEST_F(OpenDialogTest, ASecondPickerDoesNotOpenOverTheFirst) {
   OpenDialog();
 }
 
+TEST_F(OpenDialogTest, DialogsShowFilesWhoseFieldsHaveNoEnd) {
+  // Every text fills its field with lead bytes; only the counts are good.
+  std::string history(240804, '\x81');
+  history[0] = static_cast<char>(200);
+  std::string groups(7371800, '\x81');
+  for (std::size_t group = 0; group < 200; ++group) groups[group * 36859] = 30;
+  ASSERT_TRUE(PutFile(HistoryPath(), history));
+  ASSERT_TRUE(PutFile(GroupPath(), groups));
+  const std::string text(256, '\x81');
+  const std::string row = text + " [" + text + "]";
+  ThenExpect([row] {
+    EXPECT_EQ(RowsOf(IDC_OPN_FILE), Rows(200, row));
+    EXPECT_EQ(RowsOf(IDC_OPN_PROGRAM), (Rows{kAssociated, row}));
+  });
+  ThenPress(IDC_OPN_DELETE_HISTORY);
+  ThenChoose(IDC_OPN_FILE, 199);
+  ExpectBox((text + "のオープンを履歴から削除します").c_str(), "履歴削除の確認", BoxAnswer::Ok);
+  ThenPress(IDC_OPN_REMOVE);
+  ThenPress(kCancel);
+  ThenPress(IDC_OPN_ANIMATION);
+  ThenPress(IDC_OPN_CHECK);
+  ThenPress(kOk);
+  ThenPress(IDC_OPN_TAKE_GROUP);
+  ThenExpect([row] {
+    EXPECT_EQ(RowsOf(IDC_OPN_GROUP)[199], "* 200 (" + std::string(255, '\x81') + ")");
+    EXPECT_EQ(RowsOf(IDC_OPN_GROUP_FILES), Rows(30, row));
+    EXPECT_EQ(ControlText(TopDialog(), IDC_OPN_COMMENT), std::string(255, '\x81'));
+    Type(TopDialog(), IDC_OPN_NAME_WORDS, "\x81\x81");
+  });
+  ThenPress(IDC_OPN_SEARCH_NAMES);
+  ThenPress(kCancel);
+  ThenPress(kCancel);
+  ThenPress(IDC_OPN_GROUP_SET);
+  ThenPress(IDC_OPN_DETAILS);
+  ThenPress(kOk);
+  ThenPress(IDC_OPN_GROUP_ADD);  // the group holds it
+  ExpectBox("変更をキャンセルしてもよろしいですか ?", "キャンセルの確認", BoxAnswer::Ok);
+  ThenPress(kCancel);
+  OpenDialog();
+  // And it opens: the line holds the first 256 bytes of each text.
+  ThenPress(kOk);
+  OpenDialog();
+  EXPECT_EQ(Started(), Rows{text + text + " \"" + text + text + "\""});
+}
+
 // --- The record
 
 TEST_F(OpenDialogTest, TheRecordIsShownInItsColumns) {

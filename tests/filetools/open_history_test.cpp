@@ -100,23 +100,25 @@ TEST_F(OpenHistoryTest, AMissingFileGivesAnEmptyHistoryWithWalkAndSoundOn) {
 }
 
 TEST_F(OpenHistoryTest, AShortFileFailsAtEveryFieldAndLeavesTheHistory) {
-  const std::string image = Image();
-  std::vector<std::size_t> ends = {0, 1, 2, 200, 201};
-  for (std::size_t row = 0; row < 800; row += 7) {
-    ends.push_back(201 + 300 * row + 150);
-    ends.push_back(201 + 300 * row + 300);
+  ASSERT_TRUE(PutFile(Path(), Image()));
+  const std::string path = PosixPath(Path().c_str());
+  std::vector<off_t> ends = {0, 1, 201};
+  for (off_t row = 1; row <= 800; ++row) ends.push_back(201 + 300 * row);
+  for (const off_t end : {240202, 240203, 240503, 240803, 240804}) ends.push_back(end);
+  OpnHistory.fileCount = 77;
+  OpnHistory.balloonFlags = 78;
+  // From the end to the start: one byte less than each field's end, and the end itself.
+  for (auto at = ends.rbegin(); at != ends.rend(); ++at) {
+    for (const off_t end : {*at, *at - 1}) {
+      if (end == 240804 || end < 0) continue;
+      ASSERT_EQ(truncate(path.c_str(), end), 0);
+      FileStatus = 0;
+      ASSERT_EQ(OpnHisLoad(), -1) << end;
+      ASSERT_EQ(FileStatus, -2) << end;
+    }
   }
-  for (const std::size_t end : {240201, 240202, 240203, 240300, 240503, 240600, 240803}) ends.push_back(end);
-  for (const std::size_t end : ends) {
-    ASSERT_TRUE(PutFile(Path(), image.substr(0, end)));
-    OpnHistory.fileCount = 77;
-    OpnHistory.balloonFlags = 78;
-    FileStatus = 0;
-    EXPECT_EQ(OpnHisLoad(), -1) << end;
-    EXPECT_EQ(FileStatus, -2) << end;
-    EXPECT_EQ(OpnHistory.fileCount, 77) << end;
-    EXPECT_EQ(OpnHistory.balloonFlags, 78) << end;
-  }
+  EXPECT_EQ(OpnHistory.fileCount, 77);
+  EXPECT_EQ(OpnHistory.balloonFlags, 78);
 }
 
 TEST_F(OpenHistoryTest, ACountBeyond200IsBadContent) {
