@@ -1,5 +1,7 @@
 #include "character/motion.h"
 
+#include <algorithm>
+
 #include "character/character.h"
 #include "character/frames.h"
 #include "character/stage.h"
@@ -162,6 +164,12 @@ int CharaMotionTick() {
   if (CharaMotion != kMotionMenu || !PanelIsClosed()) return 0;
   CharaMenuOff();
   return 1;
+}
+
+int CharaMotionDue() {
+  // The end of the menu state is looked for in every tick.
+  if (CharaMotion == kMotionMenu) return 1;
+  return std::max(kTicksBetweenSteps + 1 - CharaStepCount, 1);
 }
 
 void CharaMenuOn() {

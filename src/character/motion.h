@@ -31,6 +31,9 @@ extern bool BlinkDone;            // the blink frame has been shown
 // One tick. Returns 1 when the stage should be redrawn (command 2293), else 0.
 int CharaMotionTick();
 
+// In how many ticks CharaMotionTick has more to do than to count, at least 1.
+int CharaMotionDue();
+
 // Into the menu state and back to idle; StageRedraw then tells what command 2293
 // is to do.
 void CharaMenuOn();

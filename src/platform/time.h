@@ -24,5 +24,9 @@ bool TimeSetLocal(const LocalTime* time);
 // A file time (100 ns since 1601, UTC) as local time. False on failure.
 bool TimeFromFileTime(std::uint64_t fileTime, LocalTime* time);
 
+// Milliseconds since some moment before the start. Setting the machine's clock does
+// not change it.
+std::uint64_t TimeMilliseconds();
+
 // Seconds since 1970, for seeding the random generator.
 std::int64_t TimeSeconds();

@@ -39,6 +39,8 @@ void SendDestroy(WindowHandle window);
 // A repeating timer on a window. False when no timer is to be had.
 bool TimerStart(WindowHandle window, int id, int milliseconds);
 void TimerStop(WindowHandle window, int id);
+// Gives a running timer another period, which begins now.
+void TimerPeriodSet(WindowHandle window, int id, int milliseconds);
 
 bool WindowIsOpen(WindowHandle window);
 void WindowMove(WindowHandle window, int x, int y, int width, int height, bool repaint);

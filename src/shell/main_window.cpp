@@ -10,7 +10,7 @@
 #include "shell/shutdown.h"
 #include "shell/start.h"
 #include "shell/text_figures.h"
-#include "shell/tick.h"
+#include "shell/tick_timer.h"
 
 std::int32_t MainClientWidth;
 std::int32_t MainClientHeight;
@@ -69,7 +69,7 @@ constexpr Row kRows[] = {
     {EventKind::Close, Close},
     {EventKind::Size, Size},
     {EventKind::Paint, Paint},
-    {EventKind::Timer, [](const Event&) { MainTick(); }},
+    {EventKind::Timer, [](const Event&) { TickTimerFired(); }},
     {EventKind::Command, [](const Event& event) { CommandRoute(event.command); }},
     {EventKind::MouseMove, PanelPointerOnStage},
     {EventKind::LeftUp, [](const Event&) { TableScrollStop(); }},
@@ -88,6 +88,7 @@ constexpr Row kRows[] = {
 }  // namespace
 
 bool MainWindowProc(const Event& event) {
+  if (event.kind != EventKind::Timer) TickTimerWake();
   for (const Row& row : kRows) {
     if (row.kind != event.kind) continue;
     row.action(event);

@@ -30,9 +30,6 @@ void CommandFocusStage(std::uint32_t) {
 // Popups go away by themselves here; the number stays known.
 void CommandDropPopup(std::uint32_t) {}
 
-// Loading and saving of the first data format, which no file of today has.
-void CommandOldData(std::uint32_t) {}
-
 // The bats' switch is set by nothing, so there is nothing to open.
 void CommandBat(std::uint32_t) {}
 

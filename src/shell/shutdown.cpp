@@ -6,9 +6,10 @@
 #include "platform/window.h"
 #include "schedule/application_list.h"
 #include "schedule/schedule_run.h"
+#include "shell/old_data.h"
 #include "shell/shell.h"
 #include "shell/start.h"
-#include "shell/tick.h"
+#include "shell/tick_timer.h"
 
 namespace {
 
@@ -20,12 +21,13 @@ void BlockFree(unsigned char*& block) {
 }  // namespace
 
 void Shutdown() {
-  TimerStop(hMainWnd, kTickTimer);
+  TickTimerStop();
   BlockFree(ScopeBlock);
   ClockPreviewFree();
   BlockFree(CastBlock);
   ApliListFree();
   SclMapFree();
+  OldDataFree();
   DrawingObjectsDelete();
   CalenFontDelete();
   MailSocketsClose();

@@ -25,7 +25,7 @@
 #include "shell/shell.h"
 #include "shell/text.h"
 #include "shell/text_figures.h"
-#include "shell/tick.h"
+#include "shell/tick_timer.h"
 
 namespace {
 
@@ -35,8 +35,8 @@ void FoldersTake() {
   for (auto& folder : PickerStartFolders) TextCopy(folder, sizeof folder, PickFolder);
 }
 
-void TickTimerStart() {
-  if (TimerStart(hMainWnd, kTickTimer, kTickMilliseconds)) return;
+void TimerBegin() {
+  if (TickTimerStart()) return;
   // The program's name is the text and the error the caption, as in all boxes of
   // this kind here.
   MessageBoxRun(hMainWnd, "ミルレール", "タイマー設定できません", BoxButtons::Ok, BoxIcon::Exclamation);
@@ -63,7 +63,7 @@ void StartSequence(WindowHandle window) {
   RandomSeed(1);
   RandomSeed(static_cast<std::uint32_t>(TimeSeconds()));
   FoldersTake();
-  TickTimerStart();
+  TimerBegin();
 
   SclDefaults();
   CalenStartDefaults();

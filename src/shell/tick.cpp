@@ -1,5 +1,8 @@
 #include "shell/tick.h"
 
+#include <algorithm>
+#include <limits>
+
 #include "character/clock_notice.h"
 #include "character/motion.h"
 #include "character/notices.h"
@@ -10,10 +13,12 @@
 #include "clock_calendar/clock.h"
 #include "clock_calendar/clock_calendar_tick.h"
 #include "filetools/group_open.h"
+#include "filetools/open_groups.h"
 #include "mail_music/mail.h"
 #include "platform/screen.h"
 #include "platform/time.h"
 #include "platform/window.h"
+#include "schedule/application_list.h"
 #include "schedule/hand_off.h"
 #include "schedule/schedule_run.h"
 #include "schedule/table_scroll.h"
@@ -128,18 +133,71 @@ void FileWatchStep() {
   FileWatch();
 }
 
+// --- What each step waits for: in how many ticks it may have something to do.
+
+constexpr int kNever = std::numeric_limits<int>::max();
+
+int NextIf(bool active) {
+  return active ? 1 : kNever;
+}
+
+int PanelDue() {
+  return NextIf(MenuPanelState == kPanelTop);
+}
+
+int MailDue() {
+  if (!MailCheckOn) return kNever;
+  if (MailMinuteCount == 0 || MailNoticeFlag == 1) return 1;
+  return kMailUnitTicks - MailTickCount;
+}
+
+int ClockDue() {
+  return NextIf(hToolDlg || hClockWnd || hCalenWnd || SclIsRunning());
+}
+
+// The divider goes on running when the last notice has closed, for nobody.
+int FrameDividerDue() {
+  return NextIf(FrameDivider > 0 && (hMailNoticeWnd || hSclNoticeWnd || hToolDlg));
+}
+
+struct TickStep {
+  void (*run)();
+  int (*due)();
+};
+
 // The order is part of the design: alarms and clock checks use the time that the
 // clock's step reads, and the character moves after the alarms, so that a menu or
 // an alarm that began in this tick draws first.
-constexpr void (*kSteps[])() = {
-    CommandLineStep,  BackUpStepTell, SteppedWorkTell, HandOffStep,      ReopenGuardStep, PanelCountStep,
-    PanelPointerStep, MailStep,       OpnGroupTick,    WalkTickAll,      WalkEndTickAll,  ClockPreviewStep,
-    ClockStep,        MotionStep,     PreviewStep,     FrameDividerStep, TableScrollTick, FileWatchStep,
+constexpr TickStep kSteps[] = {
+    {CommandLineStep, [] { return NextIf(PendingCommandLine[0] != '\0'); }},
+    {BackUpStepTell, [] { return NextIf(BackUpActive); }},
+    {SteppedWorkTell, [] { return NextIf(progressMode != 0); }},
+    {HandOffStep, [] { return NextIf(ApliStarted != 0); }},
+    {ReopenGuardStep, [] { return NextIf(MenuReopenGuard > 0); }},
+    {PanelCountStep, PanelDue},
+    {PanelPointerStep, PanelDue},
+    {MailStep, MailDue},
+    {OpnGroupTick, [] { return NextIf(OpnPendingGroup != nullptr); }},
+    {WalkTickAll, [] { return NextIf(WalkActive); }},
+    {WalkEndTickAll, [] { return NextIf(WalkEndActive); }},
+    {ClockPreviewStep, [] { return NextIf(hToolDlg != nullptr); }},
+    {ClockStep, ClockDue},
+    {MotionStep, CharaMotionDue},
+    {PreviewStep, [] { return NextIf(hSubDlg != nullptr); }},
+    {FrameDividerStep, FrameDividerDue},
+    {TableScrollTick, [] { return NextIf(hSclTableWnd || hPlanWnd); }},
+    {FileWatchStep, [] { return kFileWatchTicks - FileWatchCount; }},
 };
 
 }  // namespace
 
 void MainTick() {
   ++TickCount;
-  for (const auto step : kSteps) step();
+  for (const TickStep& step : kSteps) step.run();
+}
+
+int TicksUntilDue() {
+  int first = kNever;
+  for (const TickStep& step : kSteps) first = std::min(first, step.due());
+  return std::max(first, 1);
 }

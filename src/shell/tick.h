@@ -15,3 +15,7 @@ extern std::int32_t TickCount;
 // suspended tick goes on with its remaining steps when that window has closed.
 // So no step keeps state in locals across a send.
 void MainTick();
+
+// How many ticks from now the first one falls that has more to do than to count: 1
+// when the very next one may. Only counts are looked at, no clock and no file.
+int TicksUntilDue();

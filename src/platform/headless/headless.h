@@ -104,6 +104,7 @@ std::string ControlText(WindowHandle dialog, int id);
 std::vector<std::string> ListRows(WindowHandle dialog, int id);
 std::string WindowText(WindowHandle window);
 bool TimerIsRunning(WindowHandle window, int id);
+int TimerPeriod(WindowHandle window, int id);  // milliseconds; 0 when it is not running
 struct ScrollState {
   int lines = 0;
   int page = 0;

@@ -34,7 +34,7 @@ struct HeadlessWindow {
   bool wasShown = false;
   bool dirty = false;  // a Paint is due
   bool alive = true;
-  std::set<int> timers;
+  std::map<int, int> timers;  // number, milliseconds
   RegionHandle region = nullptr;
   int regionSets = 0;
 

@@ -212,7 +212,7 @@ void Tick(int times) {
     PaintDue();
     std::vector<std::pair<WindowHandle, int>> due;
     for (const auto& [number, window] : Windows().All()) {
-      for (const int id : window->timers) due.emplace_back(window->handle, id);
+      for (const auto& [id, period] : window->timers) due.emplace_back(window->handle, id);
     }
     for (const auto& [handle, id] : due) {
       if (!TimerIsRunning(handle, id)) continue;

@@ -236,8 +236,8 @@ void SendDestroy(WindowHandle window) {
 bool TimerStart(WindowHandle window, int id, int milliseconds) {
   if (FaultMeets(FaultKind::Timer)) return false;
   const WindowPointer found = WindowUse(window, "TimerStart");
-  if (!found || milliseconds < 0) return false;
-  if (found->timers.insert(id).second) ++PosixLive().timers;
+  if (!found || milliseconds <= 0) return false;
+  if (found->timers.insert_or_assign(id, milliseconds).second) ++PosixLive().timers;
   return true;
 }
 
@@ -246,9 +246,18 @@ void TimerStop(WindowHandle window, int id) {
   if (found && found->timers.erase(id) > 0) --PosixLive().timers;
 }
 
+void TimerPeriodSet(WindowHandle window, int id, int milliseconds) {
+  const WindowPointer found = WindowUse(window, "TimerPeriodSet");
+  if (found && found->timers.contains(id)) found->timers[id] = milliseconds;
+}
+
 bool TimerIsRunning(WindowHandle window, int id) {
+  return TimerPeriod(window, id) > 0;
+}
+
+int TimerPeriod(WindowHandle window, int id) {
   const WindowPointer found = Windows().Find(window);
-  return found && found->timers.contains(id);
+  return found && found->timers.contains(id) ? found->timers[id] : 0;
 }
 
 bool WindowIsOpen(WindowHandle window) {

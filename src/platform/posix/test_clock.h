@@ -6,5 +6,8 @@
 // From now on the local time is this one and stands still.
 void TestClockSet(const LocalTime& time);
 
+// While the clock is set, milliseconds pass only by this.
+void TestClockPass(unsigned milliseconds);
+
 // Back to the machine's clock.
 void TestClockClear();

@@ -9,6 +9,7 @@
 namespace {
 bool fixed = false;
 LocalTime fixedTime{};
+std::uint64_t fixedMilliseconds = 0;
 
 void FromTm(const tm& from, int millisecond, LocalTime* to) {
   *to = {from.tm_year + 1900, from.tm_mon + 1, from.tm_mday, from.tm_wday,
@@ -19,6 +20,10 @@ void FromTm(const tm& from, int millisecond, LocalTime* to) {
 void TestClockSet(const LocalTime& time) {
   fixed = true;
   fixedTime = time;
+}
+
+void TestClockPass(unsigned milliseconds) {
+  fixedMilliseconds += milliseconds;
 }
 
 void TestClockClear() {
@@ -52,6 +57,13 @@ bool TimeFromFileTime(std::uint64_t fileTime, LocalTime* time) {
   localtime_r(&seconds, &local);
   FromTm(local, static_cast<int>(since % 10000000ULL / 10000ULL), time);
   return true;
+}
+
+std::uint64_t TimeMilliseconds() {
+  if (fixed) return fixedMilliseconds;
+  timespec now{};
+  clock_gettime(CLOCK_MONOTONIC, &now);
+  return static_cast<std::uint64_t>(now.tv_sec) * 1000U + static_cast<std::uint64_t>(now.tv_nsec) / 1000000U;
 }
 
 std::int64_t TimeSeconds() {

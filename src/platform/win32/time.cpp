@@ -41,6 +41,10 @@ bool TimeFromFileTime(std::uint64_t fileTime, LocalTime* time) {
   return true;
 }
 
+std::uint64_t TimeMilliseconds() {
+  return GetTickCount64();
+}
+
 std::int64_t TimeSeconds() {
   return static_cast<std::int64_t>(std::time(nullptr));
 }

@@ -120,6 +120,7 @@ void SendDestroy(WindowHandle window) {
 }
 
 bool TimerStart(WindowHandle window, int id, int milliseconds) {
+  TimerStop(window, id);  // one that runs is begun anew and counts once
   const bool good =
       SetTimer(Hwnd(window), static_cast<UINT_PTR>(id), static_cast<UINT>(milliseconds), nullptr) != 0;
   if (good) ++Live().timers;
@@ -128,6 +129,10 @@ bool TimerStart(WindowHandle window, int id, int milliseconds) {
 
 void TimerStop(WindowHandle window, int id) {
   if (KillTimer(Hwnd(window), static_cast<UINT_PTR>(id))) --Live().timers;
+}
+
+void TimerPeriodSet(WindowHandle window, int id, int milliseconds) {
+  SetTimer(Hwnd(window), static_cast<UINT_PTR>(id), static_cast<UINT>(milliseconds), nullptr);
 }
 
 bool WindowIsOpen(WindowHandle window) {

@@ -1,0 +1,106 @@
+#include "shell/old_data.h"
+
+#include "platform/dialog.h"
+#include "platform/memory.h"
+#include "shell/commands.h"
+#include "shell/data_file.h"
+#include "shell/shell.h"
+#include "shell/text.h"
+
+unsigned char* OldData;
+std::int32_t OldDataSize;
+
+namespace {
+
+constexpr int kShort = -2;
+constexpr int kPicking = 1;
+constexpr int kTooLarge = 2;
+constexpr int kNoMemory = 3;
+
+struct Path {
+  char text[600];
+};
+Path blockPath;  // where the block came from or went to last
+
+// Loading and saving ask under the same title; `path` goes in as a proposal.
+template <typename FileDialog>
+bool Ask(FileDialog* dialog, Path& path) {
+  FileStatus = kPicking;
+  return dialog(hMainWnd, "ﾌｧｲﾙﾛｰﾄﾞ", "Files (*.*)", "*.*", RootFolder, path.text, sizeof path.text);
+}
+
+// The program's name is the text and the error the caption, as in all boxes of
+// this kind here.
+void Fail(int status, const char* error) {
+  FileStatus = status;
+  MessageBoxRun(hMainWnd, "ミルレール", error, BoxButtons::Ok, BoxIcon::Exclamation);
+}
+
+// Takes the whole open file as the block.
+void Take(DataFile& data) {
+  std::uint32_t high = 0;
+  const std::uint32_t size = FileSize(data.file, &high);
+  if (high != 0 || size > kOldDataMax) return Fail(kTooLarge, "DATA Size over 64k byte");
+  auto* block = static_cast<unsigned char*>(MemoryAllocate(size));
+  if (!block) return Fail(kNoMemory, "Not enough Memory");
+  if (!DataRead(data, block, static_cast<int>(size))) {
+    MemoryFree(block);
+    return Fail(kShort, "Read DATA Error");
+  }
+  OldDataFree();
+  OldData = block;
+  OldDataSize = static_cast<std::int32_t>(size);
+  FileStatus = 0;
+}
+
+void Write(const Path& path) {
+  DataFile data;
+  if (!DataReplace(data, path.text)) return Fail(-1, "Coud not open MOT file");
+  const bool whole = DataWrite(data, OldData, OldDataSize);
+  DataClose(data);
+  if (!whole) return Fail(kShort, "Write DATA Error");
+  blockPath = path;
+  FileStatus = 0;
+}
+
+}  // namespace
+
+void OldDataLoad() {
+  Path path = blockPath;
+  if (!Ask(FileDialogLoad, path)) return;
+  DataFile data;
+  if (!DataOpenRead(data, path.text, OpenMode::ReadDenyWrite)) return Fail(-1, "Coud not open MOT file");
+  Take(data);
+  DataClose(data);
+  if (FileStatus == 0) blockPath = path;
+}
+
+void OldDataSave() {
+  if (blockPath.text[0] == '\0') return OldDataSaveAs();
+  if (OldData) Write(blockPath);
+}
+
+void OldDataSaveAs() {
+  if (!OldData) return;
+  Path path = blockPath;
+  if (Ask(FileDialogSave, path)) Write(path);
+}
+
+void OldDataFree() {
+  MemoryFree(OldData);
+  OldData = nullptr;
+  OldDataSize = 0;
+  blockPath.text[0] = '\0';
+}
+
+void CommandOldData(std::uint32_t number) {
+  constexpr std::uint32_t kLoad = 5;
+  constexpr std::uint32_t kSave = 6;
+  if (number == kLoad) {
+    OldDataLoad();
+  } else if (number == kSave) {
+    OldDataSave();
+  } else {
+    OldDataSaveAs();
+  }
+}

@@ -1,0 +1,22 @@
+// The first data format of the program: one block of bytes, kept as it came. No
+// feature of today reads what is in it; who still has such a file can load it and
+// save it again, by the commands 5, 6 and 9 that nothing sends.
+#pragma once
+
+#include <cstdint>
+
+inline constexpr int kOldDataMax = 65536;
+
+extern unsigned char* OldData;    // the block; null until one is loaded
+extern std::int32_t OldDataSize;  // its bytes, 0 to kOldDataMax
+
+// Load asks for a file; Save writes the block under the name it has, SaveAs asks
+// for one. With no block there is nothing to save. What went wrong is told in a box
+// and left in FileStatus: 0 done, -1 the file does not open, -2 short transfer,
+// 1 no file was picked, 2 the file is too large, 3 no memory. The block in memory
+// stays as it is unless another was read whole.
+void OldDataLoad();
+void OldDataSave();
+void OldDataSaveAs();
+
+void OldDataFree();

@@ -1,0 +1,20 @@
+// The one timer, which fires the ticks.
+//
+// A companion that only stands there has nothing to do in most of its ticks but to
+// count. Then the timer rests: it fires once for all ticks up to the next one that
+// has something to do, and these run one after the other. A person sees the same;
+// the machine is woken twice a second instead of 33 times. Whatever happens to the
+// main window ends the rest first, so that its handlers find all counts as they
+// are at that time.
+#pragma once
+
+// Starts the timer on the main window. False when no timer is to be had.
+bool TickTimerStart();
+void TickTimerStop();
+
+// The timer has fired: runs the ticks that are due and rests if it may.
+void TickTimerFired();
+
+// Something other than the timer reaches the main window: runs the ticks that have
+// passed in a rest and goes on tick by tick.
+void TickTimerWake();
