@@ -45,9 +45,10 @@ void AlarmRowLoad(AlarmRow* row, int selection) {
   if (selection < 1 || selection > AlarmCharaCount || selection > kAlarmCharaMax) return;
   const int number = AlarmCharas[selection - 1];
   if (number < 1) return;
+  const FrameFiles files = FrameFilesFind(number - 1);
   for (int frame = 0; frame < kFrameMax; ++frame) {
-    row->pictures[frame] = DibLoad(CharaBmpPath(number - 1, frame));
-    row->masks[frame] = DibLoad(CharaMaskPath(number - 1, frame));
+    if (files.picture[frame]) row->pictures[frame] = DibLoad(CharaBmpPath(number - 1, frame));
+    if (files.mask[frame]) row->masks[frame] = DibLoad(CharaMaskPath(number - 1, frame));
     DibApplyMask(row->pictures[frame], row->masks[frame]);
   }
   row->frameCount = FrameCountOf(*row, number);

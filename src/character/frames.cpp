@@ -1,5 +1,6 @@
 #include "character/frames.h"
 
+#include "platform/file.h"
 #include "shell/shell.h"
 #include "shell/text.h"
 
@@ -13,7 +14,38 @@ bool IsRow(int row) {
   return row >= 0 && row < kFrameRowCount;
 }
 
+// Frame and kind of "Chara<number>_<frame>.bmp" or "..x.bmp", what stands behind the
+// underscore; false when it is no such name.
+bool FrameOfName(const char* text, int* frame, bool* mask) {
+  int value = 0;
+  int digits = 0;
+  for (; *text >= '0' && *text <= '9' && digits < 3; ++text, ++digits) value = value * 10 + (*text - '0');
+  *mask = *text == 'x' || *text == 'X';
+  *frame = value - 1;
+  return digits > 0 && value >= 1 && value <= kFrameMax && text[*mask ? 1 : 0] == '.';
+}
+
 }  // namespace
+
+FrameFiles FrameFilesFind(int number) {
+  FrameFiles files{};
+  if (number < 0) return files;
+  char head[24];
+  const int headLength = TextFormat(head, sizeof head, "Chara%d_", number + 1);
+  TextFormat(pathBuffer, sizeof pathBuffer, "%s\\キャラクタ\\%s*.bmp", RootFolder, head);
+  SearchEntry entry;
+  const SearchHandle search = SearchFirst(pathBuffer, &entry);
+  for (bool found = search != kNoSearch; found; found = SearchNext(search, &entry)) {
+    int frame = 0;
+    bool mask = false;
+    // A search also finds files by their old short names.
+    if (TextLength(entry.name, sizeof entry.name) <= static_cast<std::size_t>(headLength)) continue;
+    if (FrameOfName(entry.name + headLength, &frame, &mask))
+      (mask ? files.mask : files.picture)[frame] = true;
+  }
+  SearchClose(search);
+  return files;
+}
 
 ImageHandle FramePicture(int row, int frame) {
   return IsRow(row) && frame >= 0 && frame < kFrameMax ? FrameTable[row][frame] : nullptr;
@@ -21,9 +53,10 @@ ImageHandle FramePicture(int row, int frame) {
 
 void FramesLoad(int row, int number) {
   if (!IsRow(row)) return;
+  const FrameFiles files = FrameFilesFind(number);
   for (int frame = 0; frame < kFrameMax; ++frame) {
     DibFree(FrameTable[row][frame]);
-    FrameTable[row][frame] = DibLoad(CharaBmpPath(number, frame));
+    FrameTable[row][frame] = files.picture[frame] ? DibLoad(CharaBmpPath(number, frame)) : nullptr;
   }
 }
 

@@ -14,6 +14,16 @@ extern ImageHandle FrameTable[kFrameRowCount][kFrameMax];
 // The picture of a frame; null for none and for a row or frame beyond the table.
 ImageHandle FramePicture(int row, int frame);
 
+// Which pictures and masks of a character have a file, by frame. Its folder is asked
+// once for all of them: most frames have none, and to ask for a file that is not
+// there costs as much as to open one that is.
+struct FrameFiles {
+  bool picture[kFrameMax];
+  bool mask[kFrameMax];
+};
+// Of a character by its number minus 1; none for a number below 0.
+FrameFiles FrameFilesFind(int number);
+
 // Frees a row's pictures and loads those of a character (its number minus 1). A
 // file that is missing or no bitmap leaves its frame empty.
 void FramesLoad(int row, int number);
