@@ -214,4 +214,23 @@ TEST_F(FramesTest, RowsAndFramesBeyondTheTableHaveNoPicture) {
   EXPECT_EQ(FramePicture(51, 0), nullptr);
 }
 
+TEST_F(FramesTest, TheFolderTellsWhichPicturesAndMasksThereAre) {
+  for (const char* name :
+       {"Chara3_1.bmp", "Chara3_1x.bmp", "CHARA3_7.BMP", "chara3_20X.bmp", "Chara3_20.bmp"}) {
+    PutFile(InProgram("キャラクタ\\") + name, "");
+  }
+  // None of these is a frame of character 3.
+  for (const char* name : {"Chara3_0.bmp", "Chara3_21.bmp", "Chara3_x.bmp", "Chara3_2xx.bmp", "Chara3_2.bmq",
+                           "Chara3_1111.bmp", "Chara33_5.bmp", "Chara3_5", "Chara3.dwc"}) {
+    PutFile(InProgram("キャラクタ\\") + name, "");
+  }
+  const FrameFiles files = FrameFilesFind(2);
+  for (int frame = 0; frame < kFrameMax; ++frame) {
+    EXPECT_EQ(files.picture[frame], frame == 0 || frame == 6 || frame == 19) << frame;
+    EXPECT_EQ(files.mask[frame], frame == 0 || frame == 19) << frame;
+  }
+  EXPECT_FALSE(FrameFilesFind(-1).picture[0]);
+  EXPECT_FALSE(FrameFilesFind(3).picture[0]);
+}
+
 }  // namespace
