@@ -151,6 +151,7 @@ TEST(HouseTest, HiddenControlsMayLieOnOthers) {
 TEST(HouseTest, SystemHeaderOutsideTheBackendsIsFound) {
   EXPECT_EQ(LintSource("shell/a.cpp", "#include <windows.h>\n").size(), 1U);
   EXPECT_EQ(LintSource("platform/window.h", "#include <unistd.h>\n").size(), 1U);
+  EXPECT_EQ(LintSource("resources/house_style.h", "#include <windows.h>\n").size(), 1U);
   EXPECT_EQ(LintSource("platform/win32/a.cpp", "#include <windows.h>\n").size(), 0U);
   EXPECT_EQ(LintSource("shell/a.cpp", "#include <cstring>\n#include \"platform/file.h\"\n").size(), 0U);
 }
