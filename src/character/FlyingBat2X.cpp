@@ -1,6 +1,7 @@
 // The mail notice.
 
 #include "character/alarm_images.h"
+#include "character/notice_window.h"
 #include "character/notices.h"
 #include "character/walk.h"
 #include "mail_music/mail_setting.h"
@@ -32,6 +33,15 @@ Point Place() {
   return {WalkLastX, WalkLastY + (s.endWindow ? DibHeight(WalkPicture(WalkSlotNow, frame)) : 0)};
 }
 
+void Init(WindowHandle window) {
+  hMailNoticeWnd = window;
+  const Point place = Place();
+  WindowMove(window, place.x, place.y, kWidth, kHeight, false);
+  WindowSetTopmost(window);
+  FrameDivider = kTicksOfFrame;
+  frameNow = 0;
+}
+
 void Paint(WindowHandle window) {
   AlarmFrameShow(window, kPictureBox, AlarmRows[kAlarmMail], frameNow);
   Canvas* canvas = CanvasGet(window);
@@ -47,28 +57,15 @@ void Paint(WindowHandle window) {
 }
 
 bool Proc(const Event& event) {
+  if (NoticeEnds(event, &hMailNoticeWnd)) return true;
   switch (event.kind) {
-    case EventKind::Init: {
-      hMailNoticeWnd = event.window;
-      const Point place = Place();
-      WindowMove(event.window, place.x, place.y, kWidth, kHeight, false);
-      WindowSetTopmost(event.window);
-      FrameDivider = kTicksOfFrame;
-      frameNow = 0;
+    case EventKind::Init:
+      Init(event.window);
       return true;
-    }
     case EventKind::Paint:
       Paint(event.window);
       return true;
-    case EventKind::Command:
-      if (event.command != 1 && event.command != 2) return false;
-      WindowDestroy(event.window);
-      return true;
-    case EventKind::Close:
-      WindowDestroy(event.window);
-      return true;
     case EventKind::Destroy:
-      if (hMailNoticeWnd == event.window) hMailNoticeWnd = nullptr;
       MailPhase = 0;
       return true;
     default:

@@ -99,8 +99,7 @@ void Paint(WindowHandle window) {
 bool BalloonProc(const Event& event) {
   if (event.kind == EventKind::Init) WalkSlots[WalkSlotNow].balloonWindow = event.window;
   WalkSlot& s = WalkSlots[SlotOf(event.window)];
-  const bool button = event.kind == EventKind::Command && (event.command == 1 || event.command == 2);
-  if (button || event.kind == EventKind::Close || event.kind == EventKind::Destroy) {
+  if (EndIsAsked(event) || event.kind == EventKind::Destroy) {
     if (s.balloonWindow == event.window) s.balloonWindow = nullptr;
     if (event.kind != EventKind::Destroy) DialogEnd(event.window, 0);
     return true;

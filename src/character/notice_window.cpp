@@ -10,8 +10,7 @@ void NoticeShow(WindowHandle window) {
 
 bool NoticeEnds(const Event& event, WindowHandle* handle) {
   if (event.kind == EventKind::Destroy && *handle == event.window) *handle = nullptr;
-  const bool button = event.kind == EventKind::Command && (event.command == 1 || event.command == 2);
-  if (!button && event.kind != EventKind::Close) return false;
+  if (!EndIsAsked(event)) return false;
   *handle = nullptr;
   WindowDestroy(event.window);
   return true;

@@ -1,10 +1,11 @@
-// What the notices that stand at the notice rectangle have in common.
+// What the notices have in common.
 #pragma once
 
 #include "platform/event.h"
 #include "platform/types.h"
 
-// Moves the window to NoticeX, NoticeY with its size and puts it above all others.
+// Moves the window to the notice rectangle, NoticeX and so on, and puts it above all
+// others.
 void NoticeShow(WindowHandle window);
 
 // Buttons 1 and 2 and Close end a notice: its handle is cleared and the window

@@ -31,14 +31,13 @@ void Step(WindowHandle dialog) {
 }
 
 bool Handle(const Event& event) {
-  const bool command = event.kind == EventKind::Command;
   if (event.kind == EventKind::Init) {
     hBackUpDlg = event.window;
     BackUp.fileCursor = 0;
     BackUpActive = true;
-  } else if (command && event.command == kStepCommand) {
+  } else if (event.kind == EventKind::Command && event.command == kStepCommand) {
     Step(event.window);
-  } else if (event.kind == EventKind::Close || (command && (event.command == 1 || event.command == 2))) {
+  } else if (EndIsAsked(event)) {
     End(event.window);
   } else {
     return false;

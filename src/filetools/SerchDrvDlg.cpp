@@ -38,13 +38,12 @@ void Step(WindowHandle dialog) {
 }
 
 bool Handle(const Event& event) {
-  const bool command = event.kind == EventKind::Command;
   if (event.kind == EventKind::Init) {
     hSearchDlg = event.window;
     ScopeStepReset();
-  } else if (command && event.command == kStepCommand) {
+  } else if (event.kind == EventKind::Command && event.command == kStepCommand) {
     Step(event.window);
-  } else if (event.kind == EventKind::Close || (command && (event.command == 1 || event.command == 2))) {
+  } else if (EndIsAsked(event)) {
     End(event.window, kStopped);
   } else {
     // The program may end while a search is running.

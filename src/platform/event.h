@@ -58,6 +58,13 @@ struct Event {
   WindowHandle control = nullptr;
 };
 
+// True for what ends a window by its default: button 1 or 2, whose numbers Enter
+// and Escape send too, and Close.
+inline bool EndIsAsked(const Event& event) {
+  const bool button = event.kind == EventKind::Command && (event.command == 1 || event.command == 2);
+  return button || event.kind == EventKind::Close;
+}
+
 // Handles the events of one window. True: the event is done with; false: the
 // platform does what it does by default. A handler may run nested in itself:
 // it keeps no state in locals across a send, a modal dialog or a message box.

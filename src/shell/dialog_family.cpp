@@ -49,9 +49,8 @@ bool Proc(Family& family, const Event& event) {
   }
   const EventHandler handler = HandlerOf(family, event.window);
   bool done = handler && handler(event);
-  const bool button = event.kind == EventKind::Command && (event.command == 1 || event.command == 2);
-  if (!done && (button || event.kind == EventKind::Close)) {
-    End(family, event.window, button && event.command == 1 ? 1 : 2);
+  if (!done && EndIsAsked(event)) {
+    End(family, event.window, event.command == 1 ? 1 : 2);
     done = true;
   }
   if (event.kind == EventKind::Destroy) {
