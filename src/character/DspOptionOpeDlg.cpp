@@ -10,6 +10,7 @@
 #include "resources/ids.h"
 #include "shell/dialog_family.h"
 #include "shell/dib.h"
+#include "shell/painting.h"
 
 namespace {
 
@@ -94,10 +95,8 @@ void Load(const MainChara& chara, Preview kind) {
   }
 }
 
-void Draw(Canvas* canvas, int width, int height) {
-  CanvasBrush(canvas, BrushFace());
-  CanvasPen(canvas, PenNothing());
-  CanvasRectangle(canvas, 0, 0, width + 1, height + 1);
+void Draw(Canvas* canvas, const Rect& area) {
+  FillArea(canvas, BrushFace(), area);
   CanvasBackTransparent(canvas, true);
   const Texts& texts = kTexts[static_cast<int>(played.kind)];
   if (played.count == 0) {
@@ -117,15 +116,7 @@ void Paint(WindowHandle dialog) {
   if (!screen) return;
   const Rect client = WindowClientRect(dialog);
   const int height = client.bottom > kButtonBand ? client.bottom - kButtonBand : 0;
-  Canvas* memory = CanvasMemory(screen, client.right, height);
-  if (memory) {
-    Draw(memory, client.right, height);
-    CanvasCopy(screen, 0, 0, client.right, height, memory, 0, 0);
-  } else {
-    CanvasClip(screen, {0, 0, client.right, height});
-    Draw(screen, client.right, height);
-  }
-  CanvasRelease(memory);
+  DrawSteady(screen, {0, 0, client.right, height}, Draw);
   CanvasRelease(screen);
 }
 

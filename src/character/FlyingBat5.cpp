@@ -13,6 +13,7 @@
 #include "platform/dialog.h"
 #include "platform/window.h"
 #include "resources/ids.h"
+#include "shell/painting.h"
 #include "shell/shared_time.h"
 #include "shell/shell.h"
 #include "shell/text.h"
@@ -47,31 +48,13 @@ void Init(WindowHandle window) {
   PerformanceBegin(ClockAlarmSlot >= 0);
 }
 
+// Centred in the area.
 void DrawFigure(Canvas* canvas, const Rect& area) {
-  CanvasPen(canvas, PenNothing());
-  CanvasBrush(canvas, BrushFace());
-  CanvasRectangle(canvas, area.left, area.top, area.right + 1, area.bottom + 1);
+  FillArea(canvas, BrushFace(), area);
   if (!PerformanceShowsFigures()) return;
   const PerformanceImages figure = PerformanceFigure(PerformanceStep);
   MaskedDraw(canvas, area.left + (RectWidth(area) - DibWidth(figure.picture)) / 2,
              area.top + (RectHeight(area) - DibHeight(figure.picture)) / 2, figure.picture, figure.mask);
-}
-
-// Centred in the area, in memory first so that it does not flicker.
-void ShowFigure(Canvas* screen, const Rect& area) {
-  const int width = RectWidth(area);
-  const int height = RectHeight(area);
-  if (width <= 0 || height <= 0) return;
-  Canvas* memory = CanvasMemory(screen, width, height);
-  if (memory) {
-    DrawFigure(memory, {0, 0, width, height});
-    CanvasCopy(screen, area.left, area.top, width, height, memory, 0, 0);
-  } else {
-    CanvasClip(screen, area);
-    DrawFigure(screen, area);
-    CanvasClipNone(screen);
-  }
-  CanvasRelease(memory);
 }
 
 void Paint(WindowHandle window) {
@@ -82,7 +65,9 @@ void Paint(WindowHandle window) {
   CanvasTextColour(canvas, 0);
   const int columns = std::min((client.right - kTextMargin) / kColumnWidth, kColumnMax);
   const int below = TextLinesDraw(canvas, kTextX, kTextY, kLineStep, comment, sizeof comment - 1, columns);
-  ShowFigure(canvas, {0, below, client.right, client.bottom});
+  if (client.right > 0 && client.bottom > below) {
+    DrawSteady(canvas, {0, below, client.right, client.bottom}, DrawFigure);
+  }
   CanvasRelease(canvas);
 }
 

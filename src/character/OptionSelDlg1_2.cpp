@@ -16,6 +16,7 @@
 #include "scenario/world_list.h"
 #include "shell/dialog_family.h"
 #include "shell/dib.h"
+#include "shell/painting.h"
 #include "shell/settings.h"
 #include "shell/shell.h"
 
@@ -51,9 +52,7 @@ void DrawPreview(WindowHandle dialog) {
   if (!canvas) return;
   const Rect area = PreviewArea(dialog);
   CanvasClip(canvas, area);
-  CanvasBrush(canvas, BrushFace());
-  CanvasPen(canvas, PenNothing());
-  CanvasRectangle(canvas, area.left, area.top, area.right + 1, area.bottom + 1);
+  FillArea(canvas, BrushFace(), area);
   if (IsListed(shown)) DibDraw(canvas, area.left, area.top, previews[shown]);
   CanvasRelease(canvas);
 }

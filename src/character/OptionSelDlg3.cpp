@@ -10,6 +10,7 @@
 #include "platform/window.h"
 #include "resources/ids.h"
 #include "shell/dialog_family.h"
+#include "shell/painting.h"
 #include "shell/settings.h"
 #include "shell/shell.h"
 
@@ -57,36 +58,29 @@ void Init(WindowHandle dialog) {
   MakeRoom(dialog);
 }
 
-void DrawItem(Canvas* canvas, Point image, int item) {
-  const int left = image.x + LayoutPos[item].x;
-  const int top = image.y + LayoutPos[item].y;
+void DrawItem(Canvas* canvas, const Rect& image, int item) {
+  const int left = image.left + LayoutPos[item].x;
+  const int top = image.top + LayoutPos[item].y;
   CanvasRectangle(canvas, left, top, left + LayoutSize[item].width, top + LayoutSize[item].height);
   CanvasText(canvas, left + kLabelInset, top + kLabelInset, kLabels[item]);
 }
 
 // The stage is drawn last, on top.
-void Draw(Canvas* canvas, Point image) {
-  const Rect screen = {image.x, image.y, image.x + LayoutScreen.width, image.y + LayoutScreen.height};
-  CanvasRectangle(canvas, screen.left, screen.top, screen.right, screen.bottom);
-  CanvasClip(canvas, screen);
+void Draw(Canvas* canvas, const Rect& image) {
+  CanvasRectangle(canvas, image.left, image.top, image.right, image.bottom);
+  CanvasClip(canvas, image);
   for (int item = kLayoutItemCount - 1; item >= 0; --item) DrawItem(canvas, image, item);
   CanvasClipNone(canvas);
   CanvasBrush(canvas, BrushNothing());
-  CanvasRectangle(canvas, screen.left, screen.top, screen.right, screen.bottom);
+  CanvasRectangle(canvas, image.left, image.top, image.right, image.bottom);
 }
 
-// Drawn in memory first, so that a dragged item does not flicker.
 void Paint(WindowHandle dialog) {
   Canvas* screen = CanvasGet(dialog);
   if (!screen) return;
-  Canvas* memory = CanvasMemory(screen, LayoutScreen.width, LayoutScreen.height);
-  if (memory) {
-    Draw(memory, {0, 0});
-    CanvasCopy(screen, kImageAt.x, kImageAt.y, LayoutScreen.width, LayoutScreen.height, memory, 0, 0);
-  } else {
-    Draw(screen, kImageAt);
-  }
-  CanvasRelease(memory);
+  const int right = kImageAt.x + LayoutScreen.width;
+  const int bottom = kImageAt.y + LayoutScreen.height;
+  DrawSteady(screen, {kImageAt.x, kImageAt.y, right, bottom}, Draw);
   CanvasRelease(screen);
 }
 

@@ -4,6 +4,7 @@
 #include "character/frames.h"
 #include "platform/canvas.h"
 #include "scenario/world_list.h"
+#include "shell/painting.h"
 
 AlarmRow AlarmRows[kAlarmRowCount];
 
@@ -24,13 +25,6 @@ int FrameCountOf(const AlarmRow& row, int number) {
     if (row.pictures[frame]) pictured = frame + 1;
   }
   return marked != 0 ? marked : pictured;
-}
-
-void DrawBox(Canvas* canvas, int x, int y, const Rect& box, const AlarmRow& row, int frame) {
-  CanvasBrush(canvas, BrushFace());
-  CanvasPen(canvas, PenNothing());
-  CanvasRectangle(canvas, x, y, x + RectWidth(box) + 1, y + RectHeight(box) + 1);
-  AlarmFrameDraw(canvas, x, y, row, frame);
 }
 
 }  // namespace
@@ -87,14 +81,9 @@ void MaskedDraw(Canvas* canvas, int x, int y, ImageHandle picture, ImageHandle m
 void AlarmFrameShow(WindowHandle window, const Rect& box, const AlarmRow& row, int frame) {
   Canvas* screen = CanvasGet(window);
   if (!screen) return;
-  Canvas* memory = CanvasMemory(screen, RectWidth(box), RectHeight(box));
-  if (memory) {
-    DrawBox(memory, 0, 0, box, row, frame);
-    CanvasCopy(screen, box.left, box.top, RectWidth(box), RectHeight(box), memory, 0, 0);
-  } else {
-    CanvasClip(screen, box);
-    DrawBox(screen, box.left, box.top, box, row, frame);
-  }
-  CanvasRelease(memory);
+  DrawSteady(screen, box, [&](Canvas* canvas, const Rect& at) {
+    FillArea(canvas, BrushFace(), at);
+    AlarmFrameDraw(canvas, at.left, at.top, row, frame);
+  });
   CanvasRelease(screen);
 }

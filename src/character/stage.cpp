@@ -9,6 +9,7 @@
 #include "platform/screen.h"
 #include "platform/window.h"
 #include "shell/dib.h"
+#include "shell/painting.h"
 #include "shell/shell.h"
 
 std::int32_t CharaFrame;
@@ -72,11 +73,7 @@ void DrawFrame(Canvas* canvas) {
 }
 
 void DrawStage(Canvas* canvas, int width, int height) {
-  if (CurrentOutline.count == 0) {
-    CanvasBrush(canvas, BrushFace());
-    CanvasPen(canvas, PenNothing());
-    CanvasRectangle(canvas, 0, 0, width + 1, height + 1);
-  }
+  if (CurrentOutline.count == 0) FillArea(canvas, BrushFace(), {0, 0, width, height});
   DrawFrame(canvas);
 }
 

@@ -8,6 +8,7 @@
 #include "platform/dialog.h"
 #include "platform/window.h"
 #include "resources/ids.h"
+#include "shell/painting.h"
 #include "shell/shell.h"
 #include "shell/text.h"
 
@@ -72,10 +73,7 @@ void StaticsPaint(WindowHandle dialog, void (*draw)(Canvas* canvas, const Rect& 
   Canvas* memory = CanvasMemory(screen, area.right, area.bottom);
   Canvas* canvas = memory ? memory : screen;
   const PenHandle black = PenCreate(PenStyle::Solid, 1, 0);
-  CanvasBrush(canvas, FaceBrush);
-  CanvasPen(canvas, PenNothing());
-  // Without a pen the last row and column are left out.
-  CanvasRectangle(canvas, area.left, area.top, area.right + 1, area.bottom + 1);
+  FillArea(canvas, FaceBrush, area);
   CanvasPen(canvas, black);
   CanvasBackTransparent(canvas, true);
   CanvasTextColour(canvas, 0);

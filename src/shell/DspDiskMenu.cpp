@@ -11,6 +11,7 @@
 #include "resources/ids.h"
 #include "schedule/table_scroll.h"
 #include "shell/commands.h"
+#include "shell/painting.h"
 #include "shell/panel.h"
 #include "shell/shell.h"
 
@@ -97,22 +98,15 @@ int RowTop(int row) {
   return kTop + row * kRowHeight;
 }
 
-// Fills without an edge.
-void Fill(Canvas* canvas, BrushHandle brush, const Rect& rect) {
-  CanvasPen(canvas, PenNothing());
-  CanvasBrush(canvas, brush);
-  CanvasRectangle(canvas, rect.left, rect.top, rect.right + 1, rect.bottom + 1);
-}
-
 void Paint(WindowHandle panel) {
   const Level* level = LevelOnShow();
   Canvas* canvas = level ? CanvasGet(panel) : nullptr;
   if (!canvas) return;
-  Fill(canvas, FaceBrush, {0, 0, kWidth, kDrawnHeight});
+  FillArea(canvas, FaceBrush, {0, 0, kWidth, kDrawnHeight});
   // kept: a new panel begins with the row that was marked in the one before, even
   // if it has no such row.
   const int top = RowTop(MenuHiLine);
-  Fill(canvas, Brushes[kBrushC8C800], {0, top, kWidth, top + kRowHeight});
+  FillArea(canvas, Brushes[kBrushC8C800], {0, top, kWidth, top + kRowHeight});
   CanvasBackTransparent(canvas, true);
   CanvasTextColour(canvas, 0);
   for (int row = 0; row < level->rowCount; ++row)

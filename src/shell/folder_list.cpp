@@ -4,6 +4,7 @@
 #include "platform/dialog.h"
 #include "platform/file.h"
 #include "platform/window.h"
+#include "shell/painting.h"
 #include "shell/path.h"
 #include "shell/shell.h"
 #include "shell/text.h"
@@ -109,11 +110,8 @@ void FolderListPaint(const FolderList& list) {
   if (!canvas) return;
   char text[kFolderSize + 8];
   TextFormat(text, sizeof text, "Path: %s", list.folder);
-  CanvasBrush(canvas, BrushFace());
-  CanvasPen(canvas, PenNothing());
   CanvasClip(canvas, list.band);
-  // Without a pen the last row and column are left out.
-  CanvasRectangle(canvas, list.band.left, list.band.top, list.band.right + 1, list.band.bottom + 1);
+  FillArea(canvas, BrushFace(), list.band);
   CanvasBackTransparent(canvas, true);
   CanvasText(canvas, list.band.left, list.band.top + kTextInset, text);
   CanvasClipNone(canvas);

@@ -1,0 +1,26 @@
+// What several windows do when they draw.
+#pragma once
+
+#include "platform/canvas.h"
+
+// Fills an area without an edge.
+void FillArea(Canvas* canvas, BrushHandle brush, const Rect& area);
+
+// Draws an area of the screen in memory first, so that it does not flicker; straight
+// onto the screen, cut to the area, if the memory is not to be had. `draw` is given
+// the canvas and where the area lies on it.
+template <class Draw>
+void DrawSteady(Canvas* screen, const Rect& area, Draw draw) {
+  const int width = RectWidth(area);
+  const int height = RectHeight(area);
+  Canvas* memory = CanvasMemory(screen, width, height);
+  if (memory) {
+    draw(memory, Rect{0, 0, width, height});
+    CanvasCopy(screen, area.left, area.top, width, height, memory, 0, 0);
+  } else {
+    CanvasClip(screen, area);
+    draw(screen, area);
+    CanvasClipNone(screen);
+  }
+  CanvasRelease(memory);
+}
