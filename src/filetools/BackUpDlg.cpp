@@ -4,6 +4,7 @@
 #include "filetools/back_up_dialogs.h"
 #include "platform/dialog.h"
 #include "resources/ids.h"
+#include "shell/boxes.h"
 #include "shell/shell.h"
 
 namespace {
@@ -24,8 +25,7 @@ void Step(WindowHandle dialog) {
   if (result == 0) return;
   completed = result > 0;
   if (!completed) {
-    MessageBoxRun(dialog, "ファイルをコピーできません", "ファイルバックアップエラー", BoxButtons::Ok,
-                  BoxIcon::Exclamation);
+    BoxTell(dialog, "ファイルをコピーできません", "ファイルバックアップエラー");
   }
   End(dialog);
 }

@@ -7,6 +7,7 @@
 #include "filetools/open_text.h"
 #include "platform/dialog.h"
 #include "resources/ids.h"
+#include "shell/boxes.h"
 #include "shell/dialog_family.h"
 #include "shell/text.h"
 
@@ -46,14 +47,14 @@ void Remove(WindowHandle dialog) {
   if (row < 0) return;
   char text[kOpnTextUsed + 60];
   TextFormat(text, sizeof text, "%sのオープンを履歴から削除します", OpnText(OpnHistory.fileName[row]).text);
-  if (!OpnAsk(dialog, text, "履歴削除の確認")) return;
+  if (!BoxAsk(dialog, text, "履歴削除の確認")) return;
   OpnHisRemove(row);
   changed = true;
   Show(dialog);
 }
 
 void RemoveAll(WindowHandle dialog) {
-  if (!OpnAsk(dialog, "ファイルとプログラム全ての履歴登録を削除します", "全履歴削除の確認")) return;
+  if (!BoxAsk(dialog, "ファイルとプログラム全ての履歴登録を削除します", "全履歴削除の確認")) return;
   OpnHisClear();
   OpnProgList.progCount = 0;
   OpnProgListBuilt = false;

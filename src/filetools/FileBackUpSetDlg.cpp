@@ -9,6 +9,7 @@
 #include "platform/dialog.h"
 #include "platform/window.h"
 #include "resources/ids.h"
+#include "shell/boxes.h"
 #include "shell/dialog_family.h"
 #include "shell/path.h"
 #include "shell/shell.h"
@@ -23,50 +24,42 @@ bool IsOpen() {
   return hMenuDlg && DlgIdMenu == kDialogId;
 }
 
-void Tell(const char* text, const char* caption) {
-  MessageBoxRun(hMenuDlg, text, caption, BoxButtons::Ok, BoxIcon::Exclamation);
-}
-
-bool Ask(const char* text, const char* caption) {
-  return MessageBoxRun(hMenuDlg, text, caption, BoxButtons::OkCancel, BoxIcon::Question) == BoxAnswer::Ok;
-}
-
 void Remove() {
   const int row = ListSelected(hMenuDlg, IDC_BACKUP_SOURCES);
   if (row < 0 || row >= BackUp.fileCount) return;
   char text[kRowSize];
   PathSplit(BackUp.sourcePath[row]);
   TextFormat(text, sizeof text, "ソースから%sの選択を除きます。", PathName);
-  if (!Ask(text, "バックアップソース選択を解除")) return;
+  if (!BoxAsk(hMenuDlg, text, "バックアップソース選択を解除")) return;
   BackUpRemoveSource(row);
   FileBackUpSetDlgShowLists();
 }
 
 void Clear() {
-  if (!Ask("全バックアップソース選択を解除します", "全バックアップソース選択の解除")) return;
+  if (!BoxAsk(hMenuDlg, "全バックアップソース選択を解除します", "全バックアップソース選択の解除")) return;
   BackUpClearSources();
   FileBackUpSetDlgShowLists();
 }
 
 void Run() {
   if (BackUp.fileCount == 0) {
-    Tell("バックアップファイルが設定されていません", "ファイル未設定");
+    BoxTell(hMenuDlg, "バックアップファイルが設定されていません", "ファイル未設定");
   } else if (BackUpDlgRun(hMenuDlg)) {
-    Tell("バックアップ先にファイルをコピーしました", "ファイルバックアップ完了");
+    BoxTell(hMenuDlg, "バックアップ先にファイルをコピーしました", "ファイルバックアップ完了");
   }
 }
 
 void CompareDates() {
   if (BackUp.fileCount == 0) {
-    Tell("バックアップファイルが指定されていません!", "日付で比較");
+    BoxTell(hMenuDlg, "バックアップファイルが指定されていません!", "日付で比較");
     return;
   }
   switch (BackUpCompareDate()) {
     case 0:
-      Tell("ファイルの日付に違いはありません", "日付で比較");
+      BoxTell(hMenuDlg, "ファイルの日付に違いはありません", "日付で比較");
       break;
     case -1:
-      Tell("バックアップ ソース ファイルがありません", "日付で比較エラー");
+      BoxTell(hMenuDlg, "バックアップ ソース ファイルがありません", "日付で比較エラー");
       break;
     default:
       FileBackUpDateDlgRun(hMenuDlg);
@@ -75,18 +68,18 @@ void CompareDates() {
 
 void CompareContents() {
   if (BackUp.fileCount == 0) {
-    Tell("バックアップファイルが指定されていません!", "内容で比較");
+    BoxTell(hMenuDlg, "バックアップファイルが指定されていません!", "内容で比較");
     return;
   }
   switch (BackUpCompareContent()) {
     case 0:
-      Tell("ファイル内容に違いはありません", "内容で比較");
+      BoxTell(hMenuDlg, "ファイル内容に違いはありません", "内容で比較");
       break;
     case -1:
-      Tell("バックアップ ソース ファイルがありません", "内容で比較エラー");
+      BoxTell(hMenuDlg, "バックアップ ソース ファイルがありません", "内容で比較エラー");
       break;
     case -2:
-      Tell("バックアップ先ファイルがありません", "内容で比較エラー");
+      BoxTell(hMenuDlg, "バックアップ先ファイルがありません", "内容で比較エラー");
       break;
     default:
       FileBackUpContentDlgRun(hMenuDlg);

@@ -5,6 +5,7 @@
 #include "filetools/file_divide.h"
 #include "platform/dialog.h"
 #include "resources/ids.h"
+#include "shell/boxes.h"
 #include "shell/data_file.h"
 #include "shell/shell.h"
 
@@ -45,10 +46,6 @@ void End(WindowHandle dialog) {
   DialogEnd(dialog, 0);
 }
 
-void Tell(WindowHandle dialog, const char* text, const char* caption) {
-  MessageBoxRun(dialog, text, caption, BoxButtons::Ok, BoxIcon::Exclamation);
-}
-
 // A step command that comes while a box of the dialog is up finds stepCounter at
 // 0 and ends the dialog under the box.
 void Step(WindowHandle dialog) {
@@ -56,9 +53,9 @@ void Step(WindowHandle dialog) {
     const Kind& kind = progressMode == kDivide.mode ? kDivide : kRestore;
     if (kind.step() != 0) stepCounter = 0;
     if (FileStatus != 0) {
-      Tell(dialog, kind.failed, "分割エラー");
+      BoxTell(dialog, kind.failed, "分割エラー");
     } else if (stepCounter == 0) {
-      Tell(dialog, kind.finished, kind.finishedCaption);
+      BoxTell(dialog, kind.finished, kind.finishedCaption);
     }
   }
   if (stepCounter == 0) {

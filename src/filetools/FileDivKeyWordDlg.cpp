@@ -6,6 +6,7 @@
 #include "filetools/file_divide.h"
 #include "platform/dialog.h"
 #include "resources/ids.h"
+#include "shell/boxes.h"
 #include "shell/dialog_family.h"
 #include "shell/shell.h"
 #include "shell/text.h"
@@ -28,8 +29,7 @@ bool Confirmed(WindowHandle dialog, const char* keyword) {
   char text[160];
   TextFormat(text, sizeof text, "重要: キーワード \"%s\" はファイル復元時にも必要です。 分割を開始します。",
              keyword);
-  return MessageBoxRun(dialog, text, "ファイル分割の実行", BoxButtons::OkCancel, BoxIcon::Question) ==
-         BoxAnswer::Ok;
+  return BoxAsk(dialog, text, "ファイル分割の実行");
 }
 
 void Accept(WindowHandle dialog) {
@@ -38,8 +38,7 @@ void Accept(WindowHandle dialog) {
   ControlGetText(dialog, IDC_DIVIDE_KEYWORD, keyword, sizeof keyword);
   const std::size_t length = TextLength(keyword, kDivKeywordMax);
   if (length < kDivKeywordMin) {
-    MessageBoxRun(dialog, "キーワードは半角4文字以上8文字までで入力します。", "キーワード設定エラー",
-                  BoxButtons::Ok, BoxIcon::Exclamation);
+    BoxTell(dialog, "キーワードは半角4文字以上8文字までで入力します。", "キーワード設定エラー");
     return;
   }
   if (Dividing() && !Confirmed(dialog, keyword)) return;

@@ -9,6 +9,7 @@
 #include "platform/dialog.h"
 #include "platform/window.h"
 #include "resources/ids.h"
+#include "shell/boxes.h"
 #include "shell/data_file.h"
 #include "shell/dialog_family.h"
 #include "shell/file_picker.h"
@@ -52,7 +53,7 @@ void ShowRecord() {
 }
 
 void ClearRecord() {
-  if (OpnAsk(hMenuDlg, "オープン記録を全てクリアします。よろしいですか ?", "オープン記録クリアの確認")) {
+  if (BoxAsk(hMenuDlg, "オープン記録を全てクリアします。よろしいですか ?", "オープン記録クリアの確認")) {
     OpnRecord.recCount = 0;
   }
 }
@@ -154,7 +155,7 @@ void FileOpnDialogAddFile() {
   if (!Pick(path)) return;
   const bool fits = OpnBrowseFile(path);
   FileOpnDialogRefresh();
-  if (!fits) OpnTell(hMenuDlg, "オープンファイル登録最大数は２００個です", "ファイル登録リミット");
+  if (!fits) BoxTell(hMenuDlg, "オープンファイル登録最大数は２００個です", "ファイル登録リミット");
 }
 
 void FileOpnDialogAddProgram() {
@@ -162,5 +163,5 @@ void FileOpnDialogAddProgram() {
   if (!Pick(path)) return;
   const bool fits = OpnBrowseProgram(path);
   FileOpnDialogRefresh();
-  if (!fits) OpnTell(hMenuDlg, "オープンプログラム登録最大数は１９９個です", "プログラム登録リミット");
+  if (!fits) BoxTell(hMenuDlg, "オープンプログラム登録最大数は１９９個です", "プログラム登録リミット");
 }

@@ -7,6 +7,7 @@
 #include "filetools/open_groups.h"
 #include "platform/dialog.h"
 #include "resources/ids.h"
+#include "shell/boxes.h"
 #include "shell/dialog_family.h"
 #include "shell/shell.h"
 
@@ -57,7 +58,7 @@ void Add(WindowHandle dialog) {
   OpnSelection = OpnSelectionSave;
   if (!chosen) return;
   if (full) {
-    OpnTell(dialog, "グループにはファイルを３０個まで登録できます", "ファイル最大登録数をオーバー");
+    BoxTell(dialog, "グループにはファイルを３０個まで登録できます", "ファイル最大登録数をオーバー");
   } else {
     FilesChanged(dialog);
   }
@@ -66,20 +67,20 @@ void Add(WindowHandle dialog) {
 void Remove(WindowHandle dialog) {
   const int row = ListSelected(dialog, IDC_OPN_GROUP_FILES);
   if (row < 0 || row >= OpnGroupTable[shown].fileCount) return;
-  if (!OpnAsk(dialog, "グループから削除しますか?", "グループから削除")) return;
+  if (!BoxAsk(dialog, "グループから削除しますか?", "グループから削除")) return;
   OpnGroupRemoveFile(shown, row);
   FilesChanged(dialog);
 }
 
 void Set(WindowHandle dialog) {
-  if (dirty && !OpnAsk(dialog, "変更内容を登録して終了します。よろしいですか ?", "登録の確認")) return;
+  if (dirty && !BoxAsk(dialog, "変更内容を登録して終了します。よろしいですか ?", "登録の確認")) return;
   OpnCommentTake(dialog, shown);
   OpnGroupSave();
   ToolDialogEnd(dialog, 1);
 }
 
 void Cancel(WindowHandle dialog) {
-  if (dirty && !OpnAsk(dialog, "変更をキャンセルしてもよろしいですか ?", "キャンセルの確認")) return;
+  if (dirty && !BoxAsk(dialog, "変更をキャンセルしてもよろしいですか ?", "キャンセルの確認")) return;
   OpnGroupsBack();
   ToolDialogEnd(dialog, 2);
 }

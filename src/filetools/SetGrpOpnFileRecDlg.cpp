@@ -5,6 +5,7 @@
 #include "filetools/open_groups.h"
 #include "platform/dialog.h"
 #include "resources/ids.h"
+#include "shell/boxes.h"
 #include "shell/dialog_family.h"
 #include "shell/text.h"
 
@@ -23,13 +24,13 @@ void Register(WindowHandle dialog) {
   const int group = OpnGroupOfList(dialog);
   char text[80];
   TextFormat(text, sizeof text, "オープン記録をグループ%dに追加登録します", group + 1);
-  if (!OpnAsk(dialog, text, "グループへの登録")) return;
+  if (!BoxAsk(dialog, text, "グループへの登録")) return;
   OpnCommentTake(dialog, group);
   const bool over = OpnGroupAddRecord(group) != 0;
   OpnGroupsShow(dialog, group);
   OpnGroupShow(dialog, group);
   // kept: a refusal saves nothing, but the files stay in the group in memory.
-  if (over && !OpnAsk(dialog, "1グループのファイル数=最大30個をオーバーしました。登録しますか?",
+  if (over && !BoxAsk(dialog, "1グループのファイル数=最大30個をオーバーしました。登録しますか?",
                       "ファイル登録数オーバー")) {
     return;
   }

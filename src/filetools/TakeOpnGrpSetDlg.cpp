@@ -6,6 +6,7 @@
 #include "filetools/open_search.h"
 #include "platform/dialog.h"
 #include "resources/ids.h"
+#include "shell/boxes.h"
 #include "shell/dialog_family.h"
 
 namespace {
@@ -29,7 +30,7 @@ void SearchRun(WindowHandle dialog, const Search& search) {
   char text[kOpnSearchSize];
   ControlGetText(dialog, search.field, text, sizeof text);
   if (search.run(text) == 0) {
-    OpnTell(dialog, "一致するグループは見つかりませんでした", search.failed);
+    BoxTell(dialog, "一致するグループは見つかりませんでした", search.failed);
     return;
   }
   const int group = SerchOpnFileGrpSelDlgRun(dialog);

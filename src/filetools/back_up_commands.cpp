@@ -2,8 +2,8 @@
 
 #include "filetools/back_up.h"
 #include "filetools/back_up_dialogs.h"
-#include "platform/dialog.h"
 #include "resources/ids.h"
+#include "shell/boxes.h"
 #include "shell/data_file.h"
 #include "shell/feature_dialog.h"
 #include "shell/file_picker.h"
@@ -21,7 +21,7 @@ WindowHandle Owner() {
 }
 
 void Tell(const char* text, const char* caption) {
-  MessageBoxRun(Owner(), text, caption, BoxButtons::Ok, BoxIcon::Exclamation);
+  BoxTell(Owner(), text, caption);
 }
 
 void Add() {

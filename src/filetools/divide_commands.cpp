@@ -2,9 +2,9 @@
 
 #include "filetools/divide_dialogs.h"
 #include "filetools/file_divide.h"
-#include "platform/dialog.h"
 #include "platform/window.h"
 #include "resources/ids.h"
+#include "shell/boxes.h"
 #include "shell/data_file.h"
 #include "shell/feature_dialog.h"
 #include "shell/file_picker.h"
@@ -63,7 +63,7 @@ void PickRestoreFolder() {
 }
 
 void Tell(const char* text) {
-  MessageBoxRun(Owner(), text, "分割エラー", BoxButtons::Ok, BoxIcon::Exclamation);
+  BoxTell(Owner(), text, "分割エラー");
 }
 
 // kept: a source or joining file that does not open, or a joining file that

@@ -7,6 +7,7 @@
 #include "filetools/open_history.h"
 #include "filetools/open_programs.h"
 #include "platform/window.h"
+#include "shell/boxes.h"
 #include "shell/feature_dialog.h"
 #include "shell/shell.h"
 
@@ -17,7 +18,7 @@ constexpr std::uint32_t kGroupSetCommand = 2008;
 
 void TablesRead() {
   if (OpnHisLoad() != 0) {
-    OpnTell(hMainWnd, "オープンファイル履歴が失われました", "履歴ファイルの読み込みエラー");
+    BoxTell(hMainWnd, "オープンファイル履歴が失われました", "履歴ファイルの読み込みエラー");
     OpnHisReset();
   }
   OpnBuildProgList();

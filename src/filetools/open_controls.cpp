@@ -83,11 +83,3 @@ void OpnRecordShow(WindowHandle dialog) {
     ListAdd(dialog, IDC_OPN_RECORD, text);
   }
 }
-
-void OpnTell(WindowHandle dialog, const char* text, const char* caption) {
-  MessageBoxRun(dialog, text, caption, BoxButtons::Ok, BoxIcon::Exclamation);
-}
-
-bool OpnAsk(WindowHandle dialog, const char* text, const char* caption) {
-  return MessageBoxRun(dialog, text, caption, BoxButtons::OkCancel, BoxIcon::Question) == BoxAnswer::Ok;
-}

@@ -26,7 +26,3 @@ bool OpnCommentTake(WindowHandle dialog, int group);
 
 // The open record.
 void OpnRecordShow(WindowHandle dialog);
-
-// A box with OK, and a question: true for OK.
-void OpnTell(WindowHandle dialog, const char* text, const char* caption);
-bool OpnAsk(WindowHandle dialog, const char* text, const char* caption);

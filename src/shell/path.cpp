@@ -2,8 +2,8 @@
 
 #include <cstring>
 
-#include "platform/dialog.h"
 #include "platform/file.h"
+#include "shell/boxes.h"
 #include "shell/data_file.h"
 #include "shell/text.h"
 
@@ -41,8 +41,7 @@ int FileExists(const char* path) {
 }
 
 bool OverwriteAllowed(WindowHandle owner, const char* path) {
-  return FileExists(path) == 0 || MessageBoxRun(owner, "同一ﾌｧｲﾙが存在しますが、ｾｰﾌﾞしますか?", "ﾌｧｲﾙｾｰﾌﾞ",
-                                                BoxButtons::OkCancel, BoxIcon::Question) == BoxAnswer::Ok;
+  return FileExists(path) == 0 || BoxAsk(owner, "同一ﾌｧｲﾙが存在しますが、ｾｰﾌﾞしますか?", "ﾌｧｲﾙｾｰﾌﾞ");
 }
 
 bool PathCanGoUp(const char* folder) {
