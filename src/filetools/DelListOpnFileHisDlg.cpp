@@ -35,9 +35,7 @@ void DetailsShow(WindowHandle dialog) {
 void Show(WindowHandle dialog) {
   ListClear(dialog, IDC_OPN_FILE);
   for (int row = 0; row < OpnHistory.fileCount; ++row) {
-    char text[kOpnRowSize];
-    OpnRowText(text, sizeof text, OpnHistory.fileName[row], OpnHistory.filePath[row]);
-    ListAdd(dialog, IDC_OPN_FILE, text);
+    OpnRowAdd(dialog, IDC_OPN_FILE, OpnHistory.fileName[row], OpnHistory.filePath[row]);
   }
   DetailsShow(dialog);
 }

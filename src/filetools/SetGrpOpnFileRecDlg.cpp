@@ -43,10 +43,7 @@ bool Handle(const Event& event) {
     return true;
   }
   if (event.kind != EventKind::Command) return false;
-  if (event.command == IDC_OPN_GROUP) {
-    if (event.notice == Notice::SelectChange) OpnGroupShow(event.window, OpnGroupOfList(event.window));
-    return true;
-  }
+  if (OpnGroupListEvent(event)) return true;
   if (event.command != IDC_OPN_GROUP_REGISTER) return false;
   Register(event.window);
   return true;

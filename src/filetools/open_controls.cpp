@@ -8,20 +8,16 @@
 #include "resources/ids.h"
 #include "shell/text.h"
 
-namespace {
-
-void AddRow(WindowHandle dialog, int list, const char* name, const char* folder) {
+void OpnRowAdd(WindowHandle dialog, int list, const char* name, const char* folder) {
   char text[kOpnRowSize];
   OpnRowText(text, sizeof text, name, folder);
   ListAdd(dialog, list, text);
 }
 
-}  // namespace
-
 void OpnFilesShow(WindowHandle dialog) {
   ListClear(dialog, IDC_OPN_FILE);
   for (int row = 0; row < OpnWork.fileCount; ++row) {
-    AddRow(dialog, IDC_OPN_FILE, OpnHistory.fileName[row], OpnHistory.filePath[row]);
+    OpnRowAdd(dialog, IDC_OPN_FILE, OpnHistory.fileName[row], OpnHistory.filePath[row]);
   }
   ListSelect(dialog, IDC_OPN_FILE, OpnWork.fileSel);
 }
@@ -30,7 +26,7 @@ void OpnProgramsShow(WindowHandle dialog) {
   ListClear(dialog, IDC_OPN_PROGRAM);
   ListAdd(dialog, IDC_OPN_PROGRAM, "関連づけプログラム");
   for (int row = 0; row < OpnWork.progCount; ++row) {
-    AddRow(dialog, IDC_OPN_PROGRAM, OpnProgList.progName[row], OpnProgList.progPath[row]);
+    OpnRowAdd(dialog, IDC_OPN_PROGRAM, OpnProgList.progName[row], OpnProgList.progPath[row]);
   }
   ListSelect(dialog, IDC_OPN_PROGRAM, OpnWork.progSel);
 }
@@ -58,7 +54,7 @@ void OpnGroupFilesShow(WindowHandle dialog, int group) {
   const OpnGroupRec& g = OpnGroupTable[group];
   ListClear(dialog, IDC_OPN_GROUP_FILES);
   for (int row = 0; row < g.fileCount; ++row) {
-    AddRow(dialog, IDC_OPN_GROUP_FILES, g.fileName[row], g.filePath[row]);
+    OpnRowAdd(dialog, IDC_OPN_GROUP_FILES, g.fileName[row], g.filePath[row]);
   }
 }
 
@@ -67,6 +63,12 @@ void OpnGroupShow(WindowHandle dialog, int group) {
   TextCopy(comment, sizeof comment, OpnGroupTable[group].comment);
   ControlSetText(dialog, IDC_OPN_COMMENT, comment);
   OpnGroupFilesShow(dialog, group);
+}
+
+bool OpnGroupListEvent(const Event& event) {
+  if (event.command != IDC_OPN_GROUP) return false;
+  if (event.notice == Notice::SelectChange) OpnGroupShow(event.window, OpnGroupOfList(event.window));
+  return true;
 }
 
 bool OpnCommentTake(WindowHandle dialog, int group) {

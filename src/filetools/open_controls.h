@@ -1,7 +1,11 @@
 // Lists and fields that several of the open dialogs have.
 #pragma once
 
+#include "platform/event.h"
 #include "platform/types.h"
+
+// Adds the row of a file or a program, "name [folder]", to a list.
+void OpnRowAdd(WindowHandle dialog, int list, const char* name, const char* folder);
 
 // The files of the history and the program lists, with the rows that OpnWork has
 // chosen.
@@ -20,6 +24,10 @@ int OpnGroupOfList(WindowHandle dialog);
 // A group's files, and its comment too.
 void OpnGroupFilesShow(WindowHandle dialog, int group);
 void OpnGroupShow(WindowHandle dialog, int group);
+
+// For a dialog's Command: shows the group that is chosen in the list. True if the
+// list sent it.
+bool OpnGroupListEvent(const Event& event);
 
 // Takes the comment field over into a group. True if it was another one.
 bool OpnCommentTake(WindowHandle dialog, int group);
