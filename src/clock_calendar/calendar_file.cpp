@@ -88,11 +88,6 @@ void ReadTail(DataFile& data) {
   for (int i = 0; i < ClockListCount; ++i) ReadOrZero(data, ClockList[i], kClockListSize);
 }
 
-int FailShort(DataFile& data) {
-  DataFailShort(data);
-  return FileStatus;
-}
-
 }  // namespace
 
 int CalenFilePath(char* buffer, int size) {
@@ -107,7 +102,7 @@ int CalenFileRead() {
   if (!DataOpenRead(data, path, OpenMode::ReadDenyWrite)) return FileStatus;
   char magic[kMagicSize + 1] = {};
   if (!DataRead(data, magic, kMagicSize)) return DataFailShort(data);
-  if (std::strcmp(magic, kMagic) != 0 || !ReadCalendars(data)) return FailShort(data);
+  if (std::strcmp(magic, kMagic) != 0 || !ReadCalendars(data)) return DataFailStatus(data);
   TakeCalendars();
   ReadTail(data);
   DataClose(data);
@@ -147,7 +142,7 @@ int CalenFileWrite() {
   DataWrite(data, CalenStickers, kStickerListSize);
   DataWriteBE32(data, static_cast<std::uint32_t>(ClockListCount));
   for (int i = 0; i < ClockListCount; ++i) DataWrite(data, ClockList[i], kClockListSize);
-  if (data.failed) return FailShort(data);
+  if (data.failed) return DataFailStatus(data);
   DataClose(data);
   return 0;
 }

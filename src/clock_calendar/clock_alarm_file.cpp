@@ -46,11 +46,6 @@ void PutDefaults() {
   }
 }
 
-int FailShort(DataFile& data) {
-  DataFailShort(data);
-  return FileStatus;
-}
-
 }  // namespace
 
 void PerformanceSound(const unsigned char* record, char (&to)[kPerformanceSoundSize + 1]) {
@@ -77,11 +72,11 @@ int ClockAlarmFileRead() {
   std::int32_t count = 0;
   if (!DataRead(data, magic, kMagicSize) || std::strcmp(magic, kMagic) != 0 || !DataReadBE32(data, count) ||
       count < 0 || count > kPerformanceMax) {
-    return FailShort(data);
+    return DataFailStatus(data);
   }
   unsigned char record[kPerformanceSize];
   for (int i = 0; i < count; ++i) DataRead(data, record, kPerformanceSize);
-  if (data.failed) return FailShort(data);
+  if (data.failed) return DataFailStatus(data);
   DataClose(data);
   PutDefaults();
   return 0;
@@ -97,7 +92,7 @@ int ClockAlarmFileWrite() {
   DataWrite(data, kMagic, kMagicSize);
   DataWriteBE32(data, static_cast<std::uint32_t>(ClockPerformanceCount));
   for (int i = 0; i < ClockPerformanceCount; ++i) DataWrite(data, ClockPerformances[i], kPerformanceSize);
-  if (data.failed) return FailShort(data);
+  if (data.failed) return DataFailStatus(data);
   DataClose(data);
   return 0;
 }

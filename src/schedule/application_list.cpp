@@ -34,11 +34,6 @@ void Path(char* buffer, int size) {
   RootPath(buffer, size, "\\mirrell_apli_list_file.ali");
 }
 
-int ReadFail(DataFile& data) {
-  DataFailShort(data);
-  return -2;
-}
-
 bool EntriesAllocate(char*& list, int count) {
   auto* block = static_cast<char*>(MemoryAllocate(static_cast<std::size_t>(count) * kApliPathSize));
   if (!block) return false;
@@ -70,7 +65,7 @@ int ApliListRead() {
   DataFile data;
   if (!DataOpenRead(data, path, OpenMode::Read)) return -1;
   char magic[kMagicSize];
-  if (!DataRead(data, magic, kMagicSize)) return ReadFail(data);
+  if (!DataRead(data, magic, kMagicSize)) return DataFailStatus(data);
   if (std::memcmp(magic, kMagic, kMagicSize) != 0) {
     DataClose(data);
     FileStatus = -2;
@@ -83,8 +78,9 @@ int ApliListRead() {
   DataReadBE32(data, second);
   DataReadBE32(data, selected);
   // bounded: a list longer than the program ever writes is bad content.
-  if (data.failed || count < 0 || count > kApliMax || second < 0 || second > kApliMax) return ReadFail(data);
-  if (!EntriesAllocate(entries, count + 1)) return ReadFail(data);
+  if (data.failed || count < 0 || count > kApliMax || second < 0 || second > kApliMax)
+    return DataFailStatus(data);
+  if (!EntriesAllocate(entries, count + 1)) return DataFailStatus(data);
   ApliCount = count;
   ApliSecondCount = second;
   ApliSelected = selected >= 0 && selected <= count ? selected : 0;
@@ -96,7 +92,7 @@ int ApliListRead() {
   DataRead(data, ApliSchedulePath, kApliPathSize);
   ApliSchedulePath[kApliPathSize - 1] = '\0';
   if (second > 0 && EntriesAllocate(secondList, second)) DataRead(data, secondList, second * kApliPathSize);
-  if (data.failed) return ReadFail(data);
+  if (data.failed) return DataFailStatus(data);
   DataClose(data);
   return 0;
 }
@@ -114,7 +110,7 @@ int ApliListSave() {
   if (ApliCount > 0) DataWrite(data, entries, ApliCount * kApliPathSize);
   DataWrite(data, ApliSchedulePath, kApliPathSize);
   // kept: the second list is counted but not written; its count is 0.
-  if (data.failed) return ReadFail(data);
+  if (data.failed) return DataFailStatus(data);
   DataClose(data);
   return 0;
 }

@@ -35,6 +35,11 @@ int DataFailShort(DataFile& data) {
   return -1;
 }
 
+int DataFailStatus(DataFile& data) {
+  DataFailShort(data);
+  return FileStatus;
+}
+
 bool DataRead(DataFile& data, void* to, int size) {
   if (!data.failed) data.failed = FileRead(data.file, to, size) != size;
   return !data.failed;

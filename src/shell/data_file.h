@@ -36,6 +36,10 @@ void DataClose(DataFile& data);
 // short transfer.
 int DataFailShort(DataFile& data);
 
+// The same, but returns -2 as FileStatus does: the formats that give their callers the
+// status.
+int DataFailStatus(DataFile& data);
+
 bool DataRead(DataFile& data, void* to, int size);
 bool DataReadByte(DataFile& data, std::uint8_t& to);
 bool DataReadBE16(DataFile& data, std::uint16_t& to);
