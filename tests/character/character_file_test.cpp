@@ -10,6 +10,7 @@
 #include "clock_calendar/clock.h"
 #include "platform/diagnostics.h"
 #include "tests/character/chara_files.h"
+#include "tests/support/failing_writes.h"
 
 namespace {
 
@@ -371,22 +372,8 @@ TEST_F(CharacterFileTest, WhatWasReadIsWrittenAsItStood) {
 TEST_F(CharacterFileTest, EveryFailingCallOfTheWriterGivesItsResult) {
   Put(kName, SmallFile());
   ASSERT_EQ(CharaFileRead(), 0);
-  int writes = 0;
-  for (int nth = 1;; ++nth) {
-    FaultArm(FaultKind::Write, nth);
-    const int result = CharaFileWrite();
-    const bool met = FaultWasMet();
-    FaultClear();
-    if (!met) {
-      EXPECT_EQ(result, 0);
-      break;
-    }
-    EXPECT_EQ(result, -1) << nth;
-    EXPECT_EQ(FileStatus, -2) << nth;
-    ++writes;
-  }
   // magic, N, 2 * 17, A, 3, 2, W, 2, 2, C, 1, 1, flags, 2
-  EXPECT_EQ(writes, 53);
+  EXPECT_EQ(FailingWrites(CharaFileWrite, -1), 53);
   FaultArm(FaultKind::Create, 1);
   EXPECT_EQ(CharaFileWrite(), -1);
   EXPECT_EQ(FileStatus, -1);

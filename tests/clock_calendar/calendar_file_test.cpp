@@ -11,7 +11,7 @@
 #include "shell/data_file.h"
 #include "shell/shell.h"
 #include "shell/text.h"
-#include "tests/support/desktop.h"
+#include "tests/support/failing_writes.h"
 #include "tests/support/records.h"
 
 namespace {
@@ -55,19 +55,14 @@ std::string Bytes(const T& table) {
   return {reinterpret_cast<const char*>(&table), sizeof table};
 }
 
-class CalendarFileTest : public DesktopTest {
+class CalendarFileTest : public RecordsTest {
  protected:
   void SetUp() override {
-    DesktopTest::SetUp();
-    ClearRecords();
+    RecordsTest::SetUp();
     // Today, which the reader brings on show, is in the span.
     TodayYear = 26;
     CalenFirstYear = 26;
     CalenYearCount = 1;
-  }
-  void TearDown() override {
-    ClearRecords();
-    DesktopTest::TearDown();
   }
 };
 
@@ -329,20 +324,7 @@ TEST_F(CalendarFileTest, RandomMutationsOfCalendarsReadAsTheyAre) {
 TEST_F(CalendarFileTest, EveryFailingCallOfTheWriterGivesItsResult) {
   CalenCount = 2;
   ClockListCount = 1;
-  int calls = 0;
-  for (int nth = 1;; ++nth) {
-    FaultArm(FaultKind::Write, nth);
-    const int result = CalenFileWrite();
-    const bool met = FaultWasMet();
-    FaultClear();
-    if (!met) {
-      EXPECT_EQ(result, 0);
-      break;
-    }
-    EXPECT_EQ(result, -2) << nth;
-    EXPECT_EQ(FileStatus, -2) << nth;
-    ++calls;
-  }
+  const int calls = FailingWrites(CalenFileWrite, -2);
   // Magic, count, 30 names, three tables; 12 months, 12 records and a definition
   // for each calendar; stickers, the list's count and its record.
   EXPECT_EQ(calls, 2 + 30 + 3 + 2 * 25 + 3);

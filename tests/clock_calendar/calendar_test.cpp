@@ -8,21 +8,12 @@
 #include "platform/posix/test_clock.h"
 #include "shell/shell.h"
 #include "shell/text.h"
-#include "tests/support/desktop.h"
 #include "tests/support/records.h"
 
 namespace {
 
-class CalendarTest : public DesktopTest {
+class CalendarTest : public RecordsTest {
  protected:
-  void SetUp() override {
-    DesktopTest::SetUp();
-    ClearRecords();
-  }
-  void TearDown() override {
-    ClearRecords();
-    DesktopTest::TearDown();
-  }
   static void Span(int firstYear, int count) {
     CalenYearsSet(firstYear);
     CalenYearCount = count;

@@ -8,7 +8,7 @@
 #include "platform/posix/faults.h"
 #include "platform/posix/posix_paths.h"
 #include "shell/data_file.h"
-#include "tests/support/desktop.h"
+#include "tests/support/failing_writes.h"
 #include "tests/support/records.h"
 
 namespace {
@@ -50,16 +50,8 @@ std::string DefaultFile() {
   return kMagic + BE32(3) + DefaultRecords();
 }
 
-class ClockAlarmFileTest : public DesktopTest {
+class ClockAlarmFileTest : public RecordsTest {
  protected:
-  void SetUp() override {
-    DesktopTest::SetUp();
-    ClearRecords();
-  }
-  void TearDown() override {
-    ClearRecords();
-    DesktopTest::TearDown();
-  }
   static std::string Table(int count = 3) {
     return {reinterpret_cast<const char*>(ClockPerformances), static_cast<std::size_t>(2008 * count)};
   }
@@ -182,21 +174,7 @@ TEST_F(ClockAlarmFileTest, RandomMutationsGive0OrMinus2AndTheTableHoldsTheDefaul
 }
 
 TEST_F(ClockAlarmFileTest, EveryFailingCallOfTheWriterGivesItsResult) {
-  int calls = 0;
-  for (int nth = 1;; ++nth) {
-    FaultArm(FaultKind::Write, nth);
-    const int result = ClockAlarmFileWrite();
-    const bool met = FaultWasMet();
-    FaultClear();
-    if (!met) {
-      EXPECT_EQ(result, 0);
-      break;
-    }
-    EXPECT_EQ(result, -2) << nth;
-    EXPECT_EQ(FileStatus, -2) << nth;
-    ++calls;
-  }
-  EXPECT_EQ(calls, 5);  // magic, count, three records
+  EXPECT_EQ(FailingWrites(ClockAlarmFileWrite, -2), 5);  // magic, count, three records
   FaultArm(FaultKind::Create, 1);
   EXPECT_EQ(ClockAlarmFileWrite(), -1);
   FaultClear();

@@ -8,21 +8,12 @@
 
 #include "scenario/world_list.h"
 #include "shell/text.h"
-#include "tests/support/desktop.h"
 #include "tests/support/records.h"
 
 namespace {
 
-class ClockTest : public DesktopTest {
+class ClockTest : public RecordsTest {
  protected:
-  void SetUp() override {
-    DesktopTest::SetUp();
-    ClearRecords();
-  }
-  void TearDown() override {
-    ClearRecords();
-    DesktopTest::TearDown();
-  }
   // Design 0 with hands of 40 and 60 pixels, made the current one.
   static void Design(int hand) {
     ClockDesignFields fields{};

@@ -10,7 +10,6 @@
 #include "platform/posix/posix_paths.h"
 #include "shell/big_endian.h"
 #include "shell/data_file.h"
-#include "tests/support/desktop.h"
 #include "tests/support/records.h"
 
 namespace {
@@ -47,16 +46,11 @@ std::string Chara(const std::string& name, const std::string& frame, std::uint32
   return record;
 }
 
-class WorldListTest : public DesktopTest {
+class WorldListTest : public RecordsTest {
  protected:
   void SetUp() override {
-    DesktopTest::SetUp();
-    ClearRecords();
+    RecordsTest::SetUp();
     MakeFolder(InProgram("キャラクタ"));
-  }
-  void TearDown() override {
-    ClearRecords();
-    DesktopTest::TearDown();
   }
   static void Put(const std::string& flags, const std::string& data) {
     char path[400];

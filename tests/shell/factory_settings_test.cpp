@@ -10,22 +10,11 @@
 #include "shell/settings.h"
 #include "shell/shell.h"
 #include "shell/text.h"
-#include "tests/support/desktop.h"
 #include "tests/support/records.h"
 
 namespace {
 
-class FactorySettingsTest : public DesktopTest {
- protected:
-  void SetUp() override {
-    DesktopTest::SetUp();
-    ClearRecords();
-  }
-  void TearDown() override {
-    ClearRecords();
-    DesktopTest::TearDown();
-  }
-};
+class FactorySettingsTest : public RecordsTest {};
 
 TEST_F(FactorySettingsTest, FourMainCharactersStandReadyWithTheFirstOneAt500And300) {
   CharaIndex = 3;

@@ -18,7 +18,7 @@
 #include "shell/data_file.h"
 #include "shell/shell.h"
 #include "shell/text.h"
-#include "tests/support/desktop.h"
+#include "tests/support/failing_writes.h"
 #include "tests/support/records.h"
 
 namespace {
@@ -183,19 +183,14 @@ int FirstDifference(const std::string& a, const std::string& b, int from = 0, in
   return -1;
 }
 
-class SettingsTest : public DesktopTest {
+class SettingsTest : public RecordsTest {
  protected:
   void SetUp() override {
-    DesktopTest::SetUp();
-    ClearRecords();
+    RecordsTest::SetUp();
     char path[kRootPathSize];
     SysFilePath(path);
     path_ = path;
     native_ = PosixPath(path);
-  }
-  void TearDown() override {
-    ClearRecords();
-    DesktopTest::TearDown();
   }
   // A file with all fields; the variables hold its values too.
   std::string PutDistinct(std::uint32_t seed) {
@@ -500,23 +495,8 @@ TEST_F(SettingsTest, RandomMutationsNeverLeaveTheVariables) {
 
 TEST_F(SettingsTest, EveryWriteCallThatFailsGivesMinus1AndFileStatusMinus2) {
   FillDistinct(21);
-  int calls = 0;
-  for (int nth = 1;; ++nth) {
-    FaultArm(FaultKind::Write, nth);
-    FileStatus = 0;
-    const int result = SysFileWrite();
-    const bool met = FaultWasMet();
-    FaultClear();
-    if (!met) {
-      EXPECT_EQ(result, 0);
-      break;
-    }
-    EXPECT_EQ(result, -1) << nth;
-    EXPECT_EQ(FileStatus, -2) << nth;
-    calls = nth;
-  }
   // The magic, and one call for each element.
-  EXPECT_EQ(calls, static_cast<int>(Boundaries().size()) - 1);
+  EXPECT_EQ(FailingWrites(SysFileWrite, -1), static_cast<int>(Boundaries().size()) - 1);
 }
 
 TEST_F(SettingsTest, EveryReadCallThatFailsGivesMinus1ButTheLast) {

@@ -70,3 +70,13 @@ void ClearRecords() {
   FileStatus = 0;
   RandomSeed(1);
 }
+
+void RecordsTest::SetUp() {
+  DesktopTest::SetUp();
+  ClearRecords();
+}
+
+void RecordsTest::TearDown() {
+  ClearRecords();
+  DesktopTest::TearDown();
+}

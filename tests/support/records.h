@@ -2,5 +2,14 @@
 // counted for tests of the files that hold them.
 #pragma once
 
+#include "tests/support/desktop.h"
+
 // Everything as it stands before the program has read or set anything.
 void ClearRecords();
+
+// A desktop on which they are so, before each test and behind it.
+class RecordsTest : public DesktopTest {
+ protected:
+  void SetUp() override;
+  void TearDown() override;
+};
