@@ -21,7 +21,6 @@ constexpr Rect kPictureBox = {10, 10, 200, 100};
 constexpr int kTextX = 10;
 constexpr int kTextY = 100;
 constexpr std::int32_t kTicksOfFrame = 5;
-constexpr std::int32_t kMailAlone = 3;  // MailPhase of a notice that nobody brings
 
 int frameNow;
 
@@ -78,7 +77,7 @@ bool Proc(const Event& event) {
 void MailNoticeStart() {
   MailNoticeFlag = 0;
   const bool walks = WalkStartMail() == 0;
-  OpeningState = walks ? 1 : 0;
+  OpeningState = walks ? kOpeningFile : 0;
   MailPhase = walks ? kMailWalking : kMailAlone;
   if (!walks && !hMailNoticeWnd) MailNoticeOpen();
 }

@@ -146,7 +146,7 @@ void CommandOptionMainCharacter(std::uint32_t) {
   changed = false;
   MenuDialogRun(kTemplate, IDD_OptionSelDlg1_2, hMainWnd, Proc);
   if (changed) SysFileWrite();
-  if (StageRedraw == kRedrawReload) SendCommand(hMainWnd, 2293);
+  if (StageRedraw == kRedrawReload) SendCommand(hMainWnd, kStageRedrawCommand);
   FuncNo = 0;
   MenuPanelState = 0;
 }

@@ -17,7 +17,6 @@
 namespace {
 
 constexpr int kDlgId = 2015;
-constexpr std::uint32_t kApplyCommand = 2374;
 constexpr int kOk = 1;
 constexpr int kCancel = 2;
 constexpr int kDefault = 2292;
@@ -180,7 +179,7 @@ void CommandOptionLayout(std::uint32_t) {
   MenuDialogRun(kDlgId, IDD_OptionSelDlg3, hMainWnd, OptionSelDlg3Proc);
   if (LayoutChange != 0) {
     SysFileWrite();
-    SendCommand(hMainWnd, kApplyCommand);
+    SendCommand(hMainWnd, kLayoutApplyCommand);
   }
   FuncNo = 0;
   MenuPanelState = 0;

@@ -26,7 +26,6 @@ constexpr int kSingleY = 20;
 constexpr int kGroupY = 4;
 constexpr int kLineStep = 18;
 constexpr int kGroupLineHeight = 20;
-constexpr std::int32_t kOpeningGroup = 2;
 
 bool IsGroup() {
   return OpeningState == kOpeningGroup;

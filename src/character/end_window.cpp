@@ -12,8 +12,6 @@
 
 namespace {
 
-constexpr std::int32_t kFuncMail = 11;
-
 int EndFrame(int slot) {
   return WalkFrameOf(WalkSlots[slot].endFrames[0]);
 }

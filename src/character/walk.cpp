@@ -180,12 +180,9 @@ void WalkEndTick(int slot) {
   s.ending = false;
   WalkEndActive =
       std::any_of(WalkSlots, WalkSlots + kWalkSlotMax, [](const WalkSlot& other) { return other.ending; });
-  if (OpeningState == 1) {
-    OpeningState = 0;
-    SendCommand(hMainWnd, kCarryOutCommand);
-  } else {
-    OpeningState = 0;
-  }
+  const bool opens = OpeningState == kOpeningFile;
+  OpeningState = 0;
+  if (opens) SendCommand(hMainWnd, kCarryOutCommand);
 }
 
 void WalkTickAll() {
@@ -236,7 +233,7 @@ RegionHandle WalkRegion(int frame) {
 }
 
 void WalkForOpening() {
-  OpeningState = 1;
+  OpeningState = kOpeningFile;
   if (WalkStartOpen() == 0) return;
   OpeningState = 0;
   SendCommand(hMainWnd, kCarryOutCommand);

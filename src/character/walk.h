@@ -18,9 +18,6 @@ inline constexpr int kWalkListMax = 5;  // frames of a walk, and of its end
 // A walk has at most that many steps, and so trail windows.
 inline constexpr int kTrailMax = 65535;
 
-// MailPhase while the walk of a mail is on its way.
-inline constexpr std::int32_t kMailWalking = 2;
-
 struct WalkSlot {
   bool active;     // walking
   bool ending;     // the end picture stands

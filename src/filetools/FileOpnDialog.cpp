@@ -21,7 +21,6 @@ constexpr int kDialogId = 2000;
 constexpr int kCancelled = 2;
 constexpr int kLeftForGroups = 2008;
 constexpr std::uint32_t kOpenCommand = 2004;
-constexpr std::int32_t kWalkOfGroup = 2;  // OpeningState
 
 // What the lists show is chosen in OpnWork too.
 void ChoiceTake() {
@@ -44,7 +43,7 @@ void Open() {
 
 void TakeGroup() {
   if (!TakeOpnGrpSetDlgRun(hMenuDlg)) return;
-  OpeningState = WalkStartOpen() == 0 ? kWalkOfGroup : 0;
+  OpeningState = WalkStartOpen() == 0 ? kOpeningGroup : 0;
   MenuDialogEnd(hMenuDlg, 0);
 }
 

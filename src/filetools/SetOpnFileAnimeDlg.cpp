@@ -20,8 +20,6 @@
 namespace {
 
 constexpr int kDialogId = 2014;
-constexpr std::int32_t kFuncMail = 11;
-constexpr std::int32_t kWalkOfCheck = 3;  // OpeningState
 
 // What a walk begins with.
 struct Settings {
@@ -102,7 +100,7 @@ void Check(WindowHandle dialog) {
   Store(FromControls(dialog));
   const int started = IsMail() ? WalkStartMail() : WalkStartOpen();
   Store(stored);
-  if (started == 0) OpeningState = kWalkOfCheck;
+  if (started == 0) OpeningState = kOpeningCheck;
 }
 
 // Walks open their windows on top of this dialog's own loop: they are ended with it.

@@ -7,7 +7,6 @@
 
 namespace {
 
-constexpr std::int32_t kWalkOfGroup = 2;  // OpeningState
 constexpr std::int32_t kGap = 50;
 
 int cursor;  // the next file of the pending group
@@ -21,7 +20,7 @@ void OpnGroupStart(int group) {
 }
 
 void OpnGroupTick() {
-  if (!OpnPendingGroup || OpeningState == kWalkOfGroup) return;
+  if (!OpnPendingGroup || OpeningState == kOpeningGroup) return;
   if (GroupOpenDelay > 0) {
     --GroupOpenDelay;
     return;

@@ -18,7 +18,6 @@
 namespace {
 
 constexpr std::int32_t kCloseTicks = 40;  // from the pointer's last move on the stage
-constexpr std::uint32_t kRedrawStage = 2293;
 constexpr int kEscape = 27;
 
 constexpr int kWidth = 200;
@@ -216,7 +215,7 @@ void OpenTop() {
   MenuCloseCount = kCloseTicks;
   if (MenuFrame != 0) {
     CharaMenuOn();
-    if (StageRedraw != kRedrawNothing) SendCommand(hMainWnd, kRedrawStage);
+    if (StageRedraw != kRedrawNothing) SendCommand(hMainWnd, kStageRedrawCommand);
   }
   DialogRun(IDD_DspDiskMenu, hMainWnd, PanelProc);
   WindowInvalidate(hMainWnd, false);

@@ -107,7 +107,7 @@ void CharacterAnswer() {
   OptionPreviewsFree();
   if (CharaSelect(CharaIndex)) OpnHisTakeWalkSettings();
   StageRedraw = kRedrawReload;
-  SendCommand(hMainWnd, 2293);
+  SendCommand(hMainWnd, kStageRedrawCommand);
 }
 
 void ClockAnswer() {

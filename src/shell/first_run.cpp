@@ -18,5 +18,5 @@ void CommandFirstRun(std::uint32_t) {
   ApliListSetFirst(program);
   ApliListSave();
   SysFileWrite();
-  SendCommand(hMainWnd, 2374);
+  SendCommand(hMainWnd, kLayoutApplyCommand);
 }

@@ -128,8 +128,10 @@ inline constexpr std::int32_t kMenuInside = -1;
 
 extern std::int32_t MenuPanelState;  // 0 no panel, 1 top level, 4 to 8 a level, others an entry in work
 extern std::int32_t MenuHiLine;      // the highlighted row
-extern std::int32_t FuncNo;          // the active feature; only 11 (mail) is tested
+extern std::int32_t FuncNo;          // the active feature; only the mail's is asked for
 extern Rect MenuPanelRect;           // the panel's place on the screen
+
+inline constexpr std::int32_t kFuncMail = 11;  // FuncNo of the mail notice's settings
 
 // --- Stepped work, driven by the tick.
 
@@ -142,10 +144,17 @@ extern bool BackUpActive;  // a back-up run copies a file a tick
 
 extern bool MailCheckOn;
 extern std::int32_t MailNoticeFlag;  // 1: a mail has come, its walk is wanted
-extern std::int32_t MailPhase;       // 0 none, 1 check wanted, 2 walking, 3 walk could not start
+extern std::int32_t MailPhase;       // 0: none
+extern std::int32_t OpeningState;    // 0: idle
 
-// Opening state: 0 idle, 1 file opening, 2 group opening, 3 a check run.
-extern std::int32_t OpeningState;
+// MailPhase; 1 is a check that is wanted.
+inline constexpr std::int32_t kMailWalking = 2;
+inline constexpr std::int32_t kMailAlone = 3;  // the walk could not start
+
+// OpeningState: a walk is on its way for a file, for a group, or to be looked at.
+inline constexpr std::int32_t kOpeningFile = 1;
+inline constexpr std::int32_t kOpeningGroup = 2;
+inline constexpr std::int32_t kOpeningCheck = 3;
 
 // Today: year minus 2000, month minus 1, day minus 1.
 extern std::int32_t TodayYear;
