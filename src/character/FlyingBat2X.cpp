@@ -32,8 +32,7 @@ Point Place() {
   return {WalkLastX, WalkLastY + (s.endWindow ? DibHeight(WalkPicture(WalkSlotNow, frame)) : 0)};
 }
 
-void Init(WindowHandle window) {
-  hMailNoticeWnd = window;
+void Begin(WindowHandle window) {
   const Point place = Place();
   WindowMove(window, place.x, place.y, kWidth, kHeight, false);
   WindowSetTopmost(window);
@@ -55,21 +54,11 @@ void Paint(WindowHandle window) {
   CanvasRelease(canvas);
 }
 
+constexpr NoticeWindow kNotice{&hMailNoticeWnd, Begin, Paint};
+
 bool Proc(const Event& event) {
-  if (NoticeEnds(event, &hMailNoticeWnd)) return true;
-  switch (event.kind) {
-    case EventKind::Init:
-      Init(event.window);
-      return true;
-    case EventKind::Paint:
-      Paint(event.window);
-      return true;
-    case EventKind::Destroy:
-      MailPhase = 0;
-      return true;
-    default:
-      return false;
-  }
+  if (event.kind == EventKind::Destroy) MailPhase = 0;
+  return NoticeEvent(kNotice, event);
 }
 
 }  // namespace

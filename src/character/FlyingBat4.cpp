@@ -36,8 +36,7 @@ constexpr int kColumns = 56;
 int sclFrame;
 int noteFrame;
 
-void Init(WindowHandle window) {
-  hSclNoticeWnd = window;
+void Begin(WindowHandle window) {
   FrameDivider = kFirstFrameTicks;
   sclFrame = 0;
   noteFrame = 0;
@@ -104,18 +103,10 @@ void Paint(WindowHandle window) {
   CanvasRelease(canvas);
 }
 
+constexpr NoticeWindow kNotice{&hSclNoticeWnd, Begin, Paint};
+
 bool SclNoticeProc(const Event& event) {
-  if (NoticeEnds(event, &hSclNoticeWnd)) return true;
-  switch (event.kind) {
-    case EventKind::Init:
-      Init(event.window);
-      return true;
-    case EventKind::Paint:
-      Paint(event.window);
-      return true;
-    default:
-      return false;
-  }
+  return NoticeEvent(kNotice, event);
 }
 
 void Open(std::int32_t kind) {

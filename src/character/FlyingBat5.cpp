@@ -41,8 +41,7 @@ void ContentTake() {
   PerformanceActive = alarm.performance;
 }
 
-void Init(WindowHandle window) {
-  hClockNoticeWnd = window;
+void Begin(WindowHandle window) {
   ContentTake();
   NoticeShow(window);
   PerformanceBegin(ClockAlarmSlot >= 0);
@@ -76,24 +75,13 @@ void NextStep() {
   SendPaint(hClockNoticeWnd);
 }
 
+constexpr NoticeWindow kNotice{&hClockNoticeWnd, Begin, Paint};
+
 bool ClockNoticeProc(const Event& event) {
-  if (NoticeEnds(event, &hClockNoticeWnd)) return true;
-  switch (event.kind) {
-    case EventKind::Init:
-      Init(event.window);
-      return true;
-    case EventKind::Paint:
-      Paint(event.window);
-      return true;
-    case EventKind::Command:
-      if (event.command == kNextStep) NextStep();
-      return true;
-    case EventKind::Destroy:
-      PerformanceEnd();
-      return true;
-    default:
-      return false;
-  }
+  if (NoticeEvent(kNotice, event)) return true;
+  if (event.kind == EventKind::Command && event.command == kNextStep) NextStep();
+  if (event.kind == EventKind::Destroy) PerformanceEnd();
+  return event.kind == EventKind::Command || event.kind == EventKind::Destroy;
 }
 
 }  // namespace

@@ -8,11 +8,20 @@ void NoticeShow(WindowHandle window) {
   WindowSetTopmost(window);
 }
 
-bool NoticeEnds(const Event& event, WindowHandle* handle) {
-  if (event.kind == EventKind::Destroy && *handle == event.window) *handle = nullptr;
-  if (!EndIsAsked(event)) return false;
-  *handle = nullptr;
-  WindowDestroy(event.window);
+bool NoticeEvent(const NoticeWindow& notice, const Event& event) {
+  if (event.kind == EventKind::Init) {
+    *notice.handle = event.window;
+    notice.begin(event.window);
+  } else if (event.kind == EventKind::Paint) {
+    notice.paint(event.window);
+  } else if (EndIsAsked(event)) {
+    *notice.handle = nullptr;
+    WindowDestroy(event.window);
+  } else {
+    // A window that goes away by itself.
+    if (event.kind == EventKind::Destroy && *notice.handle == event.window) *notice.handle = nullptr;
+    return false;
+  }
   return true;
 }
 

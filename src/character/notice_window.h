@@ -8,10 +8,16 @@
 // others.
 void NoticeShow(WindowHandle window);
 
-// Buttons 1 and 2 and Close end a notice: its handle is cleared and the window
-// destroyed. True when the event was one of them. A window that goes away by
-// itself has its handle cleared too.
-bool NoticeEnds(const Event& event, WindowHandle* handle);
+struct NoticeWindow {
+  WindowHandle* handle;
+  void (*begin)(WindowHandle window);  // at Init; the handle is set
+  void (*paint)(WindowHandle window);
+};
+
+// Handles what happens to a notice: its beginning, its painting and its end. Buttons
+// 1 and 2 and Close clear the handle and destroy the window. False for what the
+// notice may have more to do about, the Destroy above all.
+bool NoticeEvent(const NoticeWindow& notice, const Event& event);
 
 // Asks an open notice to close. False when it stays open.
 bool NoticeClosed(const WindowHandle* handle);
