@@ -52,13 +52,6 @@ int BalloonHeight() {
                   OpnPendingCount() * kGroupLineHeight + ScreenMetric(Metric::CaptionHeight) + kTextMargin);
 }
 
-int SlotOf(WindowHandle window) {
-  for (int slot = 0; slot < kWalkSlotMax; ++slot) {
-    if (WalkSlots[slot].balloonWindow == window) return slot;
-  }
-  return WalkSlotNow;
-}
-
 void Open(WindowHandle window) {
   const WalkSlot& s = WalkSlots[WalkSlotNow];
   int x = std::max(WalkLastX - kLeastWidth, 0);
@@ -97,7 +90,7 @@ void Paint(WindowHandle window) {
 
 bool BalloonProc(const Event& event) {
   if (event.kind == EventKind::Init) WalkSlots[WalkSlotNow].balloonWindow = event.window;
-  WalkSlot& s = WalkSlots[SlotOf(event.window)];
+  WalkSlot& s = WalkSlots[WalkSlotOf(&WalkSlot::balloonWindow, event.window)];
   if (EndIsAsked(event) || event.kind == EventKind::Destroy) {
     if (s.balloonWindow == event.window) s.balloonWindow = nullptr;
     if (event.kind != EventKind::Destroy) DialogEnd(event.window, 0);

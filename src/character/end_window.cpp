@@ -16,13 +16,6 @@ int EndFrame(int slot) {
   return WalkFrameOf(WalkSlots[slot].endFrames[0]);
 }
 
-int SlotOf(WindowHandle window) {
-  for (int slot = 0; slot < kWalkSlotMax; ++slot) {
-    if (WalkSlots[slot].endWindow == window) return slot;
-  }
-  return WalkSlotNow;
-}
-
 void Stand(WindowHandle window, int slot) {
   const int frame = EndFrame(slot);
   ImageHandle picture = WalkPicture(slot, frame);
@@ -55,7 +48,7 @@ void EndWindowsRun() {
 
 bool EndWindowProc(const Event& event) {
   if (event.kind == EventKind::Init) WalkSlots[WalkSlotNow].endWindow = event.window;
-  const int slot = SlotOf(event.window);
+  const int slot = WalkSlotOf(&WalkSlot::endWindow, event.window);
   switch (event.kind) {
     case EventKind::Init:
       Stand(event.window, slot);

@@ -32,14 +32,6 @@ bool Flag(unsigned flag) {
   return (WalkFlagsNow() & flag) != 0;
 }
 
-// The slot that a window walks for; trail windows belong to the slot that runs.
-int SlotOf(WindowHandle window) {
-  for (int slot = 0; slot < kWalkSlotMax; ++slot) {
-    if (WalkSlots[slot].walkWindow == window) return slot;
-  }
-  return WalkSlotNow;
-}
-
 int FrameNow(int slot) {
   return WalkFrameOf(WalkSlots[slot].frames[WalkSlots[slot].place]);
 }
@@ -109,13 +101,20 @@ bool Proc(const Event& event, int slot) {
 
 }  // namespace
 
+int WalkSlotOf(WindowHandle WalkSlot::*kind, WindowHandle window) {
+  for (int slot = 0; slot < kWalkSlotMax; ++slot) {
+    if (WalkSlots[slot].*kind == window) return slot;
+  }
+  return WalkSlotNow;
+}
+
 void WalkWindowRun() {
   DialogRun(IDD_FlyingBat1, hMainWnd, WalkWindowProc);
 }
 
 bool WalkWindowProc(const Event& event) {
   if (event.kind == EventKind::Init) WalkSlots[WalkSlotNow].walkWindow = event.window;
-  const int slot = SlotOf(event.window);
+  const int slot = WalkSlotOf(&WalkSlot::walkWindow, event.window);
   if (event.kind == EventKind::Close || event.kind == EventKind::Destroy) {
     if (WalkSlots[slot].walkWindow == event.window) WalkSlots[slot].walkWindow = nullptr;
     if (event.kind == EventKind::Close) DialogEnd(event.window, 0);
@@ -124,6 +123,7 @@ bool WalkWindowProc(const Event& event) {
   return Proc(event, slot);
 }
 
+// A trail belongs to the slot in work.
 bool TrailWindowProc(const Event& event) {
   if (event.kind == EventKind::Close) {
     WindowDestroy(event.window);

@@ -1,6 +1,7 @@
 // The windows of a walk, all made from FlyingBat1.
 #pragma once
 
+#include "character/walk.h"
 #include "platform/event.h"
 
 // Sent to a walking window: take the place of the step.
@@ -20,6 +21,10 @@ void EndWindowsRun();
 // Adds a trail window of the walk: a copy of the walking window at its new place.
 void TrailWindowOpen();
 void TrailWindowsClose();
+
+// The slot whose window of a kind (&WalkSlot::walkWindow and so on) this is; the slot
+// in work if there is none.
+int WalkSlotOf(WindowHandle WalkSlot::*kind, WindowHandle window);
 
 // walk_window.cpp, end_window.cpp, balloon.cpp
 bool WalkWindowProc(const Event& event);
