@@ -1,0 +1,168 @@
+// What the rows of the tool menu panel do: entries and sub-levels.
+#include "platform/dialog.h"
+#include "resources/ids.h"
+#include "tests/shell/panel_fixture.h"
+
+namespace {
+
+// --- Entries
+
+TEST_F(PanelTest, ALevelOneClickResetsTheBoredTimerAndMarksTheRow) {
+  onCommand = nullptr;
+  BoredDelaySel = 4;  // 1 hour 30 minutes
+  BoredHour = BoredMin = 77;
+  Open({[] {
+          Click(5);
+          EXPECT_EQ(BoredHour, 1);
+          EXPECT_EQ(BoredMin, 30);
+          EXPECT_EQ(MenuHiLine, 5);
+        },
+        Escape});
+}
+
+TEST_F(PanelTest, ALevelOneClickAtOrBeyondRowEightResetsTheBoredTimerAndThenDoesNothing) {
+  for (const int y : {170, 189, 190, 199}) {
+    BoredHour = BoredMin = 77;
+    MenuHiLine = 2;
+    Open({[y] {
+      Mouse(TopDialog(), EventKind::LeftDown, 50, y, kLeftHeld);
+      EXPECT_EQ(BoredHour, 0) << y;
+      EXPECT_EQ(BoredMin, 5) << y;
+      EXPECT_EQ(MenuHiLine, y < 190 ? 8 : 2) << "row 9 is not marked";
+      EXPECT_TRUE(sentCommands.empty());
+      EXPECT_EQ(MenuPanelState, 1);
+      EXPECT_EQ(hDiskMenu, TopDialog());
+      Escape();
+    }});
+  }
+}
+
+TEST_F(PanelTest, ASubLevelClickLeavesTheBoredTimerAndTheMarkAlone) {
+  onCommand = nullptr;
+  BoredHour = 77;
+  OpenLevel(1904, {[] {
+                     Click(2);
+                     EXPECT_EQ(BoredHour, 77);
+                     EXPECT_EQ(MenuHiLine, 0);
+                   },
+                   Escape});
+}
+
+TEST_F(PanelTest, TheThirdRowOfTheApplicationsLevelClosesThePanel) {
+  OpenLevel(1906, {[] {
+              Click(2);
+              EXPECT_EQ(hDiskMenu, nullptr);
+              EXPECT_EQ(MenuPanelState, 0);
+            }});
+  EXPECT_TRUE(sentCommands.empty());
+}
+
+TEST_F(PanelTest, ARowWhoseCommandOnlyClearsTheStateClosesThePanel) {
+  // The manual and the other programs beside this one do no more than that.
+  onCommand = [](std::uint32_t) { MenuPanelState = 0; };
+  Open({[] {
+    Click(3);
+    EXPECT_EQ(hDiskMenu, nullptr);
+  }});
+  EXPECT_EQ(sentCommands, (std::vector<Sent>{{2377, 1}}));
+  sentCommands.clear();
+  OpenLevel(1906, {[] {
+              Click(0);
+              EXPECT_EQ(hDiskMenu, nullptr);
+            }});
+  EXPECT_EQ(sentCommands, (std::vector<Sent>{{2365, 702}}));
+}
+
+// --- Sub-levels
+
+TEST_F(PanelTest, ASubLevelTakesThePlaceOfTheTopLevel) {
+  static WindowHandle top;
+  Open({[] {
+          top = TopDialog();
+          Click(4);
+        },
+        [] {
+          EXPECT_NE(TopDialog(), top);
+          EXPECT_EQ(hDiskMenu, TopDialog());
+          EXPECT_FALSE(IsVisible(top));
+          EXPECT_EQ(MenuPanelState, 6);
+          EXPECT_EQ(FuncNo, 8);
+          Click(3);
+        }});
+  EXPECT_EQ(MenuPanelState, 0);
+  EXPECT_EQ(TopDialog(), nullptr);
+}
+
+TEST_F(PanelTest, ASubLevelBeginsWithTheMarkOfTheLevelBefore) {
+  Open({[] { Click(6); },
+        [] {
+          const std::vector<DrawCall> drawn = Drawings(TopDialog());
+          ASSERT_GE(drawn.size(), 2U);
+          EXPECT_EQ(drawn[1].y, 10 + 20 * 6);
+          Escape();
+        }});
+}
+
+TEST_F(PanelTest, ALevelWithTheStateAsItStandsDrawsTheLevelOfTheMoment) {
+  Open({[] { SendCommand(hMainWnd, 1905); },
+        [] {
+          EXPECT_EQ(FuncNo, 10);
+          EXPECT_EQ(MenuPanelState, 1);
+          EXPECT_EQ(DrawnTexts(TopDialog()).size(), 8U);
+          Escape();
+        }});
+}
+
+TEST_F(PanelTest, ALevelWithNoStateHasNoRowsAndTheKeyboardClosesIt) {
+  OpenLevel(1905, {[] {
+              EXPECT_EQ(FuncNo, 10);
+              EXPECT_EQ(MenuPanelState, 0);
+              EXPECT_TRUE(DrawnTexts(TopDialog()).empty());
+              Click(0);
+              MoveTo(1);
+              EXPECT_TRUE(sentCommands.empty());
+              EXPECT_EQ(MenuHiLine, 0);
+              Escape();
+            }});
+}
+
+TEST_F(PanelTest, ASubLevelThatIsClosedFromOutsideLetsThePointerOpenThePanelAgain) {
+  OpenLevel(1907, {[] { SendClose(TopDialog()); }});
+  EXPECT_EQ(MenuPanelState, 0);
+  EXPECT_EQ(FuncNo, 0);
+  Open({[] {
+    EXPECT_EQ(MenuPanelState, 1);
+    Escape();
+  }});
+}
+
+// A feature's dialog opens from a command that the panel sent from within its own
+// mouse handler: panel and stage are still on the stack.
+bool FeatureProc(const Event& event) {
+  if (event.kind != EventKind::Command) return false;
+  DialogEnd(event.window, 0);
+  return true;
+}
+
+TEST_F(PanelTest, AFeaturesDialogRunsInsideThePanelsHandler) {
+  onCommand = [](std::uint32_t number) {
+    PanelCommandsOnly(number);
+    if (number != 1914) return;
+    SendClose(hDiskMenu);
+    DialogRun(IDD_FlyingBat4, hMainWnd, FeatureProc);
+    FuncNo = 0;
+    MenuPanelState = 0;
+  };
+  Open({[] { Click(2); }, [] { Click(0); },
+        [] {
+          EXPECT_EQ(TemplateOf(TopDialog()), IDD_FlyingBat4);
+          EXPECT_EQ(hDiskMenu, nullptr);
+          EXPECT_EQ(MenuPanelState, 400);
+          SendCommand(TopDialog(), 2);
+        }});
+  EXPECT_EQ(MenuPanelState, 0);
+  EXPECT_EQ(TopDialog(), nullptr);
+  EXPECT_EQ(sentCommands, (std::vector<Sent>{{1902, 4}, {1914, 400}}));
+}
+
+}  // namespace
