@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <cstring>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -171,4 +172,21 @@ class OpenFixture : public ProgramTest {
   }
   static Rows RowsOf(int id) { return ListRows(TopDialog(), id); }
   static int ChosenOf(int id) { return ListSelected(TopDialog(), id); }
+};
+
+// A user who works through FileOpnDialog.
+class OpenDialogTest : public OpenFixture {
+ protected:
+  void SetUp() override {
+    OpenFixture::SetUp();
+    MakeFolder("C:\\data");
+  }
+  // Presses the button that leads to a dialog, lets `steps` script that one, and
+  // cancels FileOpnDialog.
+  static void In(int button, const std::function<void()>& steps) {
+    ThenPress(button);
+    steps();
+    ThenPress(kCancel);
+    OpenDialog();
+  }
 };
