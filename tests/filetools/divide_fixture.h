@@ -92,3 +92,51 @@ class DivideFixture : public FileToolsTest {
     return FileBytes(std::string(kRestored) + "\\" + name);
   }
 };
+
+class DivideTest : public DivideFixture {};
+
+// A user who divides and restores through the dialogs.
+class DivideDialogTest : public DivideFixture {
+ protected:
+  void SetUp() override {
+    DivideFixture::SetUp();
+    FaceBrush = BrushFace();
+  }
+  // Opens FileDivideSetDlg2 or 3 through the choice, runs the steps that wait and
+  // closes it.
+  static void RunDivide() { RunChoice(IDC_DIVIDE_CHOOSE_DIVIDE); }
+  static void RunRestore() { RunChoice(IDC_DIVIDE_CHOOSE_RESTORE); }
+  static void RunChoice(int button) {
+    DialogSteps steps = std::move(waiting_);
+    waiting_.clear();
+    Then([button] { Press(TopDialog(), button); });
+    for (auto& step : steps) Then(step);
+    Then([] { Press(TopDialog(), 2); });
+    SendCommand(hMainWnd, kCommandDivideMenu);
+  }
+  // Steps inside the dialog.
+  using DialogSteps = std::vector<std::function<void()>>;
+  static void In(std::function<void()> step) { waiting_.push_back(std::move(step)); }
+  static void InPress(int id) {
+    In([id] { Press(TopDialog(), id); });
+  }
+  static void InPick(const std::string& name) {
+    In([name] {
+      Type(TopDialog(), kPickNameId, name.c_str());
+      Press(TopDialog(), 1);
+    });
+  }
+  static void InTicks(int count) {
+    for (int i = 0; i < count; ++i) In(StepTick);
+  }
+  static void InType(int id, const std::string& text) {
+    In([id, text] { Type(TopDialog(), id, text.c_str()); });
+  }
+  static void InKeyword(const std::string& keyword) {
+    In([keyword] {
+      Type(TopDialog(), IDC_DIVIDE_KEYWORD, keyword.c_str());
+      Press(TopDialog(), 1);
+    });
+  }
+  static inline DialogSteps waiting_;
+};
