@@ -4,7 +4,7 @@
 #include "filetools/divide_dialogs.h"
 #include "filetools/file_divide.h"
 #include "platform/posix/posix_paths.h"
-#include "tests/filetools/divide_model.h"
+#include "tests/filetools/divide_draws.h"
 #include "tests/filetools/filetools_fixture.h"
 
 class DivideFixture : public FileToolsTest {
@@ -79,6 +79,9 @@ class DivideFixture : public FileToolsTest {
   static int Divide(const ModelDivision& division) {
     Prepare(division);
     return RunSteps(false);
+  }
+  static ModelResult Model(const ModelDivision& division) {
+    return ModelDivide(division, ModelDraw(division));
   }
   static int Restore(const std::string& keyword = "", const char* cof = kCof) {
     SetKeyword(keyword);

@@ -12,8 +12,7 @@ const char* const kKeywords[] = {"", "abcd", "abcde", "secret6", "abcdefgh", "�
 
 // --- Against the model
 
-void ExpectModel(const ModelDivision& division, const std::string& folder) {
-  const ModelResult model = ModelDivide(division);
+void ExpectModel(const ModelResult& model, const std::string& folder) {
   std::set<std::string> names{"part0.cof"};
   EXPECT_TRUE(FileBytes(folder + "\\part0.cof") == model.cof);
   for (const auto& [name, bytes] : model.pieces) {
@@ -33,7 +32,7 @@ TEST_F(DivideTest, PiecesAndJoiningFileEqualTheModelAndComeBack) {
         division.seed = seed++;
         for (const std::string& name : FolderNames(kPieces)) RemoveFile(std::string(kPieces) + "\\" + name);
         ASSERT_EQ(Divide(division), 0);
-        ExpectModel(division, kPieces);
+        ExpectModel(Model(division), kPieces);
         FileDivide.encryptFlag = 0;
         std::memset(FileDivide.scrambleTable, 0xEE, sizeof FileDivide.scrambleTable);
         ASSERT_EQ(Restore(keyword), 0);
@@ -47,11 +46,25 @@ TEST_F(DivideTest, AFileOfSeveralTransfersEqualsTheModelAndComesBack) {
   for (const char* keyword : {"", "abcdefg"}) {
     const ModelDivision division = Simple(2565001, 1, keyword);
     ASSERT_EQ(Divide(division), 0);
-    const ModelResult model = ModelDivide(division);
+    const ModelResult model = Model(division);
     EXPECT_TRUE(FileBytes(kCof) == model.cof);
     for (const auto& [name, bytes] : model.pieces) EXPECT_TRUE(Piece(name) == bytes);
     ASSERT_EQ(Restore(keyword), 0);
     EXPECT_TRUE(Target() == division.source);
+  }
+}
+
+TEST_F(DivideTest, AFileOf64MebibytesEqualsTheModelAndComesBack) {
+  const std::pair<const char*, int> runs[] = {{"", 2}, {"秘密の鍵", 99}};
+  ModelDivision division = Simple(std::size_t{64} << 20U, 0);
+  for (const auto& [keyword, count] : runs) {
+    for (const std::string& name : FolderNames(kPieces)) RemoveFile(std::string(kPieces) + "\\" + name);
+    division.keyword = keyword;
+    division.count = count;
+    ASSERT_EQ(Divide(division), 0);
+    ExpectModel(Model(division), kPieces);
+    ASSERT_EQ(Restore(keyword), 0);
+    ASSERT_TRUE(Target() == division.source) << keyword << " " << count;
   }
 }
 
@@ -60,7 +73,7 @@ TEST_F(DivideTest, JapaneseNamesArePartOfTheFormat) {
   division.sourceName = "表計算ソ.txt";  // its trail bytes hold the code of a backslash
   division.baseName = "分割表";
   ASSERT_EQ(Divide(division), 0);
-  const ModelResult model = ModelDivide(division);
+  const ModelResult model = Model(division);
   EXPECT_TRUE(Piece("分割表0.cof") == model.cof);
   ASSERT_EQ(Restore("かぎ", "C:\\mirrell\\pieces\\分割表0.cof"), 0);
   EXPECT_TRUE(Target("表計算ソ.txt") == division.source);
