@@ -26,7 +26,6 @@ namespace {
 
 constexpr std::uint32_t kWalkWindowCommand = 2203;
 constexpr std::uint32_t kEndWindowsCommand = 2208;
-constexpr std::uint32_t kCarryOutCommand = 2202;
 constexpr int kMailFlagsCleared = 10;
 
 bool abortAll;

@@ -12,6 +12,7 @@
 #include "mail_music/mail_setting.h"
 #include "platform/dialog.h"
 #include "platform/file.h"
+#include "platform/window.h"
 #include "resources/ids.h"
 #include "scenario/world_list.h"
 #include "shell/dialog_family.h"
@@ -104,11 +105,14 @@ void Check(WindowHandle dialog) {
 }
 
 // Walks open their windows on top of this dialog's own loop: they are ended with it.
-// A walk that ends before its time leaves nobody to end the opening state.
+// A walk that ends before its time leaves nobody to end the opening state; a file
+// that waits for its end, asked for from outside while this dialog stood, is opened.
 void End(WindowHandle dialog, int result) {
   SubDialogEnd(dialog, result);
   WalkAbort();
+  const bool fileWaits = OpeningState == kOpeningFile && MailPhase != kMailWalking;
   OpeningState = 0;
+  if (fileWaits) SendCommand(hMainWnd, kCarryOutCommand);
 }
 
 void Set(WindowHandle dialog) {
