@@ -155,6 +155,8 @@ int RestoreStart(const char* cofPath) {
   CofRecord head;
   if (!DivReadRecord(FileDivide.cofFile, head)) return FailClosed(kDivTransferShort);
   FileDivide.pieceTotal = head.value;
+  // A joining file may come from anywhere: its names reach no other folder.
+  if (!PathIsBareName(head.name)) return FailClosed(kDivNotCreated);
   char path[kPathSize];
   TextFormat(path, sizeof path, "%s\\%s", FileDivide.storeDir, head.name);
   const int made = MakeFile(path, FileDivide.sourceFile, kDivNotCreated, kDivNotReopened);
@@ -171,6 +173,7 @@ int RestorePiece(std::int32_t index) {
   // kept: cofDir ends in a backslash already, and the base name of the divide
   // dialog makes room for the piece's path.
   TextFormat(FileDivide.baseName, sizeof FileDivide.baseName, "%s\\%s", FileDivide.cofDir, piece.name);
+  if (!PathIsBareName(piece.name)) return FailClosed(kDivCannotOpen);
   FileDivide.pieceFile = FileOpen(FileDivide.baseName, OpenMode::ReadDenyWrite);
   if (FileDivide.pieceFile == kNoFile) return FailClosed(kDivCannotOpen);
   const Copied copied = CopyBody(FileDivide.pieceFile, FileDivide.sourceFile, piece.value, DivUnscramble);

@@ -33,6 +33,20 @@ void PathSplit(const char* path) {
   std::memset(name, 0, std::strlen(name));
 }
 
+bool PathIsBareName(const char* name) {
+  // Asked strictly: only what the system's code page takes for a pair hides a
+  // backslash, and no pair has a slash or a colon.
+  const auto leads = [](char byte) {
+    const auto b = static_cast<unsigned char>(byte);
+    return (b > 0x80 && b < 0xA0) || (b >= 0xE0 && b < 0xFD);
+  };
+  for (const char* at = name; *at != '\0'; ++at) {
+    if (*at == '\\' || *at == '/' || *at == ':') return false;
+    if (leads(*at) && at[1] != '\0' && at[1] != '/' && at[1] != ':') ++at;
+  }
+  return name[0] != '\0';
+}
+
 int FileExists(const char* path) {
   FileStatus = 0;
   const int file = FileOpen(path, OpenMode::ReadWrite);

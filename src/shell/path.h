@@ -15,6 +15,10 @@ extern char PathName[kPathSplitSize + 1];
 // folder is the whole and the name is empty.
 void PathSplit(const char* path);
 
+// True if a name from a foreign file names a file of the folder it is put behind: it is
+// not empty and holds no backslash, slash or colon.
+bool PathIsBareName(const char* name);
+
 // 1 if the file can be opened for read and write, else 0. Clears FileStatus.
 int FileExists(const char* path);
 

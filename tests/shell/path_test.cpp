@@ -52,6 +52,16 @@ TEST_F(PathTest, ANameThatHoldsADoubleByteCharacterWhoseSecondByteIs5CIsNotSplit
   EXPECT_STREQ(PathName, "");
 }
 
+TEST_F(PathTest, ABareNameIsNotEmptyAndHoldsNoSeparator) {
+  for (const char* name : {"a", "a.txt", "..", "\x95\x5C.txt", "\xFC\x5C", "\xB1\x83\x5C", "\x83\x83x"}) {
+    EXPECT_TRUE(PathIsBareName(name)) << name;
+  }
+  for (const char* name : {"", "\\", "a\\", "\\a", "a\\b", "/", "a/b", "a:b", "C:", "\x95\x5C\\",
+                           "\x83\x83\\", "\xB1\\", "\x80\\", "\xA0\\", "\xFD\\", "\x81/", "\x81:"}) {
+    EXPECT_FALSE(PathIsBareName(name)) << name;
+  }
+}
+
 TEST_F(PathTest, HalfWidthKatakanaStandAlone) {
   // 0xB1 is a character of one byte: the backslash behind it separates.
   PathSplit("C:\\\xB1\\x");
