@@ -97,6 +97,11 @@ bool Handle(const Event& event) {
 }
 
 void Run(const Kind& kind, WindowHandle owner) {
+  // The tick drives one work at a time; a command from outside may ask for another.
+  if (hSearchDlg) {
+    FileDivideStop();
+    return;
+  }
   progressMode = kind.mode;
   if (DialogRun(kind.templateId, owner, Handle) < 0) FileDivideStop();
   progressMode = 0;

@@ -118,6 +118,7 @@ void Restore() {
 }
 
 void RunOpenDialog() {
+  if (hSearchDlg) return;  // a search is running; no file is replaced for a run that cannot go on
   if (DlgIdMenu == kDivideDialogId) Divide();
   if (DlgIdMenu == kRestoreDialogId) Restore();
 }

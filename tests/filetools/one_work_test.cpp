@@ -1,0 +1,56 @@
+// The tick drives one work at a time: a division that is asked for while the search of
+// the folder scope is running.
+#include "filetools/folder_scope.h"
+#include "filetools/scope_dialogs.h"
+#include "tests/filetools/divide_fixture.h"
+
+namespace {
+
+class OneWorkTest : public DivideFixture {
+ protected:
+  void SetUp() override {
+    DivideFixture::SetUp();
+    FaceBrush = BrushFace();
+  }
+  // Runs a step while a folder search is up, then lets the user stop the search.
+  static void DuringASearch(std::function<void()> step) {
+    Set(scopeFolder, sizeof scopeFolder, "C:\\mirrell");
+    ScopeSplitPath();
+    Then([step] {
+      const WindowHandle search = TopDialog();
+      ASSERT_EQ(TemplateOf(search), IDD_SerchFolderDlg);
+      step();
+      EXPECT_EQ(TopDialog(), search);
+      EXPECT_EQ(hSearchDlg, search);
+      EXPECT_EQ(progressMode, 2);
+      EXPECT_EQ(stepCounter, 0);
+      Press(search, 2);
+    });
+    EXPECT_EQ(ScopeSearchRun(hMainWnd, 2), -1);
+  }
+};
+
+TEST_F(OneWorkTest, TheProgressOfADivisionDoesNotTakeTheTickFromASearch) {
+  const int files = DiagnosticsLive().files;
+  for (auto* run : {FileDivExeDlgRun, FileUnDivExeDlgRun}) {
+    DuringASearch([run, files] {
+      Prepare(Simple(10, 2));
+      stepCounter = 1;
+      ASSERT_EQ(FileDivideStep(), 0);
+      run(hMainWnd);
+      EXPECT_EQ(DiagnosticsLive().files, files) << "the run is over, its files closed";
+    });
+  }
+}
+
+TEST_F(OneWorkTest, TheRunCommandTouchesNoFileWhileASearchIsRunning) {
+  Prepare(Simple(10, 2));
+  Then([] {
+    DuringASearch([] { SendCommand(hMainWnd, kCommandDivideRun); });
+    Press(FindDialog(IDD_FileDivideSetDlg2), 2);
+  });
+  SendCommand(hMainWnd, kCommandDivide);
+  EXPECT_EQ(FolderNames(kPieces), Rows());
+}
+
+}  // namespace
