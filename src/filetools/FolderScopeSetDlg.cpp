@@ -72,10 +72,5 @@ int Run() {
 }  // namespace
 
 void FolderScopeCommand() {
-  // A second one would take the folder away under the first.
-  static bool open = false;
-  if (open) return;
-  open = true;
   FeatureDialogRun(kFuncNo, Run);
-  open = false;
 }

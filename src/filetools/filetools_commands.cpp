@@ -41,7 +41,6 @@ int GroupSet() {
 }  // namespace
 
 void CommandFileOpen(std::uint32_t) {
-  if (hMenuDlg || hToolDlg) return;  // one of these dialogs is up, with its tables in work
   if (FeatureDialogRun(kFuncNo, FileOpen) != 0) SendCommand(hMainWnd, kGroupSetCommand);
 }
 
@@ -54,7 +53,7 @@ void CommandOpenAddProgram(std::uint32_t) {
 }
 
 void CommandOpenGroupSet(std::uint32_t) {
-  if (hToolDlg) return;
+  if (hToolDlg) return;  // FileOpnDialog is not left under a dialog of its own
   if (FileOpnDialogIsOpen()) {
     FileOpnDialogLeaveForGroups();
   } else {

@@ -4,6 +4,7 @@
 #include "shell/shell.h"
 
 int FeatureDialogRun(int funcNo, int (*dialog)()) {
+  if (hMenuDlg || hToolDlg || hSubDlg || hSnryDlg) return 0;
   SendClose(hDiskMenu);
   FuncNo = funcNo;
   const int result = dialog();

@@ -2,5 +2,7 @@
 #pragma once
 
 // Closes the panel, marks the feature as active by its number, runs `dialog` and
-// takes the mark and the panel's state back. Returns what `dialog` returned.
+// takes the mark and the panel's state back. Returns what `dialog` returned. One
+// feature at a time: while a dialog of the four families is up, a command from outside
+// does nothing, and 0 is returned.
 int FeatureDialogRun(int funcNo, int (*dialog)());

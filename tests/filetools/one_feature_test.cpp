@@ -1,0 +1,57 @@
+// Commands from outside that would open the dialog of a feature over the one of
+// another.
+#include "tests/filetools/open_fixture.h"
+
+namespace {
+
+struct Feature {
+  std::uint32_t command;
+  int templateId;
+};
+constexpr Feature kFeatures[] = {
+    {1900, IDD_FileOpnDialog},    {1901, IDD_FileBackUpSetDlg},  {1914, IDD_FolderScopeSetDlg},
+    {1915, IDD_FileDivideSetDlg}, {1920, IDD_FileDesktopClrDlg}, {1922, IDD_DesktopIconSetDlg},
+    {2008, IDD_FileOpnGrpSetDlg}, {2066, IDD_FileDivideSetDlg2}, {2067, IDD_FileDivideSetDlg3},
+};
+
+using OneFeatureTest = OpenFixture;
+
+TEST_F(OneFeatureTest, NoFeatureOpensOverAnother) {
+  for (const Feature& first : kFeatures) {
+    Then([first] {
+      const WindowHandle dialog = TopDialog();
+      ASSERT_EQ(TemplateOf(dialog), first.templateId);
+      const int windows = OpenWindowCount();
+      const WindowHandle menu = hMenuDlg;
+      const WindowHandle tool = hToolDlg;
+      const std::vector<std::int32_t> marks = {DlgIdMenu, DlgIdTool, FuncNo};
+      for (const Feature& second : kFeatures) {
+        // FileOpnDialog has the groups as a button of its own.
+        if (first.command == 1900 && second.command == 2008) continue;
+        SendCommand(hMainWnd, second.command);
+        EXPECT_EQ(OpenWindowCount(), windows) << second.command << " over " << first.command;
+        EXPECT_EQ(TopDialog(), dialog);
+        EXPECT_EQ(hMenuDlg, menu);
+        EXPECT_EQ(hToolDlg, tool);
+        EXPECT_EQ((std::vector<std::int32_t>{DlgIdMenu, DlgIdTool, FuncNo}), marks);
+      }
+      SendClose(dialog);
+    });
+    SendCommand(hMainWnd, first.command);
+    EXPECT_EQ(FuncNo, 0);
+  }
+}
+
+TEST_F(OneFeatureTest, EachFeatureOpensAgainWhenTheOtherHasClosed) {
+  for (int round = 0; round < 2; ++round) {
+    for (const Feature& feature : kFeatures) {
+      Then([feature] {
+        EXPECT_EQ(TemplateOf(TopDialog()), feature.templateId);
+        SendClose(TopDialog());
+      });
+      SendCommand(hMainWnd, feature.command);
+    }
+  }
+}
+
+}  // namespace
