@@ -49,11 +49,11 @@ bool FileCopy(const char* from, const char* to, bool failIfExists);
 bool FolderCreate(const char* path);
 
 // The current folder, without a trailing backslash unless it is a drive root.
-// Returns the length, 0 on failure.
+// Returns the length, 0 on failure and when it does not fit.
 int FolderGetCurrent(char* buffer, int size);
 bool FolderSetCurrent(const char* path);
 
-// The user's desktop folder. False when it cannot be told.
+// The user's desktop folder. False when it cannot be told or does not fit.
 bool FolderDesktop(char* buffer, int size);
 
 inline constexpr std::uint32_t kAttributeFolder = 16;

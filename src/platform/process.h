@@ -17,5 +17,6 @@ void ProcessClose(ProcessHandle process);
 // The program that opens `file` of `folder`. False if none is registered.
 bool AssociationFind(const char* file, const char* folder, char* program, int size);
 
-// The unnamed value of a key of the file classes. False if it cannot be read.
+// The unnamed value of a key of the file classes, at most 600 bytes with its
+// terminator. False if it cannot be read or does not fit.
 bool ClassValue(const char* key, char* value, int size);

@@ -34,6 +34,13 @@ int CopyNarrow(const wchar_t* text, char* buffer, int size) {
   return length;
 }
 
+bool CopyNarrowWhole(const wchar_t* text, char* buffer, int size) {
+  const std::string narrow = Narrow(text);
+  if (static_cast<int>(narrow.size()) >= size) return false;
+  std::memcpy(buffer, narrow.c_str(), narrow.size() + 1);
+  return true;
+}
+
 LiveObjects& Live() {
   static LiveObjects live{};
   return live;

@@ -16,6 +16,9 @@ std::string Narrow(const wchar_t* text, int length = -1);
 // Copies at most size - 1 bytes and terminates. Returns the length copied.
 int CopyNarrow(const wchar_t* text, char* buffer, int size);
 
+// All of it or nothing: false, with `buffer` as it was, when it does not fit.
+bool CopyNarrowWhole(const wchar_t* text, char* buffer, int size);
+
 inline HWND Hwnd(WindowHandle window) {
   return reinterpret_cast<HWND>(window);
 }

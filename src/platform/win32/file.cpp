@@ -4,6 +4,7 @@
 
 #include <shlobj.h>
 
+#include <cstring>
 #include <vector>
 
 #include "platform/win32/border.h"
@@ -108,8 +109,10 @@ bool FolderCreate(const char* path) {
 
 int FolderGetCurrent(char* buffer, int size) {
   wchar_t path[MAX_PATH];
-  if (GetCurrentDirectoryW(MAX_PATH, path) == 0) return 0;
-  return CopyNarrow(path, buffer, size);
+  // For a longer one the call tells the room it would need and writes nothing.
+  const DWORD length = GetCurrentDirectoryW(MAX_PATH, path);
+  if (length == 0 || length >= MAX_PATH || !CopyNarrowWhole(path, buffer, size)) return 0;
+  return static_cast<int>(std::strlen(buffer));
 }
 
 bool FolderSetCurrent(const char* path) {
@@ -125,8 +128,7 @@ bool FolderDesktop(char* buffer, int size) {
   wchar_t path[MAX_PATH];
   const bool good = pathOf(list, path) != FALSE;
   release(list);
-  if (good) CopyNarrow(path, buffer, size);
-  return good;
+  return good && CopyNarrowWhole(path, buffer, size);
 }
 
 SearchHandle SearchFirst(const char* pattern, SearchEntry* entry) {

@@ -41,13 +41,15 @@ bool ClassValue(const char* key, char* value, int size) {
   HKEY opened = nullptr;
   if (RegOpenKeyExW(HKEY_CLASSES_ROOT, Wide(key).c_str(), 0, KEY_READ, &opened) != ERROR_SUCCESS)
     return false;
-  wchar_t text[600] = L"";
+  // As many characters as the longest value has bytes, and a terminator where the
+  // value has none.
+  constexpr int kLongest = 600;
+  wchar_t text[kLongest + 1] = L"";
   DWORD bytes = sizeof text - sizeof text[0];
   DWORD type = 0;
   const bool good = RegQueryValueExW(opened, nullptr, nullptr, &type, reinterpret_cast<BYTE*>(text),
                                      &bytes) == ERROR_SUCCESS &&
                     (type == REG_SZ || type == REG_EXPAND_SZ);
   RegCloseKey(opened);
-  if (good) CopyNarrow(text, value, size);
-  return good;
+  return good && CopyNarrowWhole(text, value, size);
 }
