@@ -45,7 +45,7 @@ struct StepState {
   bool begun = false;
   SearchHandle search = kNoSearch;
   int count = 0;
-  char back[260] = "";  // the folder that was current
+  char back[600] = "";  // the folder that was current
 };
 StepState step;
 

@@ -10,13 +10,19 @@ enum class FaultKind {
   Delete,
   Move,
   Copy,
-  Folder,   // FolderCreate
-  Memory,   // MemoryAllocate gives null
-  Bitmap,   // CanvasMemory gives null
-  Region,   // a region cannot be made
-  Window,   // a window or dialog cannot be made
-  Timer,    // TimerStart
-  Process,  // ProcessStart
+  Folder,       // FolderCreate
+  FolderGet,    // FolderGetCurrent
+  FolderSet,    // FolderSetCurrent
+  SearchFirst,  // nothing matches
+  SearchNext,   // the search is spent
+  DiskSpace,
+  FileTime,  // FileWriteTime
+  Memory,    // MemoryAllocate gives null
+  Bitmap,    // CanvasMemory gives null
+  Region,    // a region cannot be made
+  Window,    // a window or dialog cannot be made
+  Timer,     // TimerStart
+  Process,   // ProcessStart
   Count
 };
 

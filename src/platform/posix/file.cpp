@@ -180,6 +180,7 @@ std::uint32_t FileSize(int file, std::uint32_t* high) {
 }
 
 bool FileWriteTime(int file, std::uint64_t* time) {
+  if (FaultMeets(FaultKind::FileTime)) return false;
   struct stat status {};
   if (file == kNoFile || fstat(file, &status) != 0) return false;
   *time = FileTimeOf(status.st_mtim);
@@ -234,6 +235,7 @@ bool FolderCreate(const char* path) {
 }
 
 int FolderGetCurrent(char* buffer, int size) {
+  if (FaultMeets(FaultKind::FolderGet)) return 0;
   char path[4096];
   if (!getcwd(path, sizeof path)) return 0;
   const std::string text = PosixToProgram(path);
@@ -241,7 +243,7 @@ int FolderGetCurrent(char* buffer, int size) {
 }
 
 bool FolderSetCurrent(const char* path) {
-  if (path[0] == '\0') return false;
+  if (FaultMeets(FaultKind::FolderSet) || path[0] == '\0') return false;
   return chdir(PosixPath(path).c_str()) == 0;
 }
 
@@ -251,6 +253,7 @@ bool FolderDesktop(char* buffer, int size) {
 }
 
 SearchHandle SearchFirst(const char* pattern, SearchEntry* entry) {
+  if (FaultMeets(FaultKind::SearchFirst)) return kNoSearch;
   const std::string full = PosixPath(pattern);
   const std::size_t slash = full.rfind('/');
   const char* mask = slash == std::string::npos ? full.c_str() : full.c_str() + slash + 1;
@@ -276,6 +279,7 @@ SearchHandle SearchFirst(const char* pattern, SearchEntry* entry) {
 }
 
 bool SearchNext(SearchHandle handle, SearchEntry* entry) {
+  if (FaultMeets(FaultKind::SearchNext)) return false;
   if (handle < 0 || static_cast<std::size_t>(handle) >= searches.size()) return false;
   const Search& search = searches[static_cast<std::size_t>(handle)];
   return search.folder && NextOf(search, entry);
@@ -294,6 +298,7 @@ bool DiskSpace(const char* root, std::uint64_t* total, std::uint64_t* free) {
   struct statvfs status {};
   *total = 0;
   *free = 0;
+  if (FaultMeets(FaultKind::DiskSpace)) return false;
   if (statvfs(PosixPath(root).c_str(), &status) != 0) return false;
   *total = static_cast<std::uint64_t>(status.f_blocks) * status.f_frsize;
   *free = static_cast<std::uint64_t>(status.f_bfree) * status.f_frsize;
