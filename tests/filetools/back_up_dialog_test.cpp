@@ -1,3 +1,4 @@
+#include "platform/file.h"
 #include "platform/time.h"
 #include "tests/filetools/back_up_fixture.h"
 
@@ -420,6 +421,63 @@ TEST_F(BackUpDialogTest, WhileAPickerIsOpenNoOtherOpens) {
   });
   ThenCancelPicker();
   RunDialog();
+}
+
+TEST_F(BackUpDialogTest, EachCallForFoldersAndSearchesFailingInTurnLosesNothing) {
+  MakeFolder("C:\\mirrell\\sub");
+  const auto current = [] {
+    char folder[64] = "";
+    FolderGetCurrent(folder, sizeof folder);
+    return std::string(folder);
+  };
+  for (const FaultKind kind :
+       {FaultKind::FolderGet, FaultKind::FolderSet, FaultKind::SearchFirst, FaultKind::SearchNext}) {
+    for (int nth = 1;; ++nth) {
+      std::memset(&BackUp, 0, sizeof BackUp);
+      FolderSetCurrent("C:\\mirrell");
+      AddSource("a.txt", "one");
+      CopyTo("C:\\mirrell\\copies");
+      ThenPress(IDC_BACKUP_ADD);
+      ThenPick("b.txt");
+      ThenPress(IDC_BACKUP_FOLDER);
+      ThenPickFolder("[sub]");
+      FaultArm(kind, nth);
+      RunDialog();
+      const bool met = FaultWasMet();
+      FaultClear();
+      EXPECT_EQ(DiagnosticsLive().searches, 0);
+      ASSERT_EQ(BackUp.fileCount, 2);
+      EXPECT_STREQ(BackUp.sourcePath[0], "C:\\mirrell\\a.txt");
+      EXPECT_EQ(FileBytes(InProgram("a.txt")), "one");
+      // What was chosen is what stood there to be chosen.
+      const std::string folder = BackUp.destDir;
+      EXPECT_TRUE(folder == "C:\\mirrell\\sub" || folder == "C:\\mirrell") << folder;
+      EXPECT_EQ(current(), folder);
+      EXPECT_EQ(BackUp.destPath[0], folder + "\\a.txt");
+      if (!met) {
+        EXPECT_STREQ(BackUp.sourcePath[1], "C:\\mirrell\\b.txt");
+        EXPECT_EQ(folder, "C:\\mirrell\\sub");
+        EXPECT_GT(nth, 1);
+        break;
+      }
+    }
+  }
+}
+
+TEST_F(BackUpDialogTest, AFolderThatCannotBeToldIsNoChoice) {
+  AddSource("a.txt", "one");
+  CopyTo("C:\\mirrell\\copies");
+  Then([] {
+    FaultArm(FaultKind::FolderGet, 1);
+    Press(TopDialog(), IDC_BACKUP_FOLDER);
+  });
+  Then([] {
+    EXPECT_TRUE(FaultWasMet());
+    Press(TopDialog(), 1);
+  });
+  RunDialog();
+  EXPECT_STREQ(BackUp.destDir, "C:\\mirrell\\copies");
+  EXPECT_STREQ(BackUp.destPath[0], "C:\\mirrell\\copies\\a.txt");
 }
 
 TEST_F(BackUpDialogTest, CommandsWithoutTheDialogWorkOnTheList) {

@@ -1,7 +1,9 @@
 // Desktop tidy: the run, its dialog, and the cover's dialog without logic.
 #include "filetools/desktop_tidy.h"
 
+#include <algorithm>
 #include <cstring>
+#include <filesystem>
 #include <map>
 
 #include "filetools/tidy_commands.h"
@@ -181,6 +183,127 @@ TEST_F(DesktopTidyTest, AFolderThatCannotBeMadeEndsTheRunWithoutAWord) {
   EXPECT_TRUE(FileThere("C:\\desk\\a.txt"));
 }
 
+// Every call for folders and searches failing in turn: what was not asked about stays
+// where it is, and nothing is anywhere else.
+class TidyFaultsTest : public DesktopTidyTest {
+ protected:
+  // Four items on the desktop beside an empty tidy folder.
+  static void Begin() {
+    for (const char* name : {"a", "b", "c"}) {
+      RemoveFile(std::string(kTidy) + "\\" + name);
+      Put(name);
+    }
+    std::filesystem::remove_all(PosixPath((std::string(kTidy) + "\\box").c_str()));
+    MakeFolder(kTidy);
+    MakeFolder("C:\\desk\\box");
+    PutFile("C:\\desk\\box\\inside", "inside");
+    FolderSetCurrent("C:\\mirrell");
+  }
+  // The desktop in the order of the search, with what is left out.
+  static Names Entries() {
+    Names names;
+    SearchEntry entry;
+    const SearchHandle search = SearchFirst("C:\\desk\\*.*", &entry);
+    for (bool more = search != kNoSearch; more; more = SearchNext(search, &entry)) {
+      names.emplace_back(entry.name);
+    }
+    SearchClose(search);
+    return names;
+  }
+  static std::string Current() {
+    char current[64] = "";
+    FolderGetCurrent(current, sizeof current);
+    return current;
+  }
+
+  // Runs with a fault; those in `moved` are asked about, in that order, and go. True
+  // if the fault was met.
+  static bool Run(FaultKind kind, int nth, const Names& moved, int result) {
+    for (const std::string& name : moved) ExpectAsk(name, BoxAnswer::Yes);
+    FaultArm(kind, nth);
+    EXPECT_EQ(TidyRun(nullptr), result) << nth;
+    const bool met = FaultWasMet();
+    FaultClear();
+    EXPECT_EQ(BoxesLeft(), 0) << nth;
+    EXPECT_EQ(DiagnosticsLive().searches, 0);
+    for (const char* name : {"a", "b", "box", "c"}) {
+      const bool went = std::find(moved.begin(), moved.end(), name) != moved.end();
+      const std::string place = std::string(went ? kTidy : kDesktop) + "\\" + name;
+      const bool isBox = std::strcmp(name, "box") == 0;
+      EXPECT_EQ(FileBytes(isBox ? place + "\\inside" : place), isBox ? "inside" : name) << nth;
+    }
+    return met;
+  }
+};
+
+TEST_F(TidyFaultsTest, AFolderThatIsThereButCannotBeGoneToEndsTheRun) {
+  Begin();
+  EXPECT_TRUE(Run(FaultKind::FolderSet, 1, {}, -1));
+  EXPECT_EQ(Current(), "C:\\mirrell");
+  EXPECT_FALSE(Run(FaultKind::FolderSet, 2, Items(), 0));
+  EXPECT_EQ(Current(), kTidy);
+}
+
+TEST_F(TidyFaultsTest, ASearchThatDoesNotBeginEndsTheRunThere) {
+  bool met = true;
+  for (int nth = 1; met; ++nth) {
+    Begin();
+    // Each search finds the next entry.
+    Names moved;
+    int searches = 0;
+    for (const std::string& name : Entries()) {
+      if (name[0] == '.') continue;
+      if (++searches == nth) break;
+      if (name != tidyFolderName) moved.push_back(name);
+    }
+    met = Run(FaultKind::SearchFirst, nth, moved, 0);
+    EXPECT_EQ(Current(), kTidy);
+    EXPECT_EQ(met, nth <= 6) << "four items, their folder, and one that finds no more";
+  }
+}
+
+TEST_F(TidyFaultsTest, ASearchThatBreaksOffEndsTheRunThere) {
+  bool met = true;
+  for (int nth = 1; met; ++nth) {
+    Begin();
+    Names entries = Entries();
+    Names moved;
+    int steps = 0;
+    std::size_t leftOut = 0;
+    // One search after the other, each to the first entry that is neither left out by
+    // its name nor passed over before.
+    for (bool found = true; found;) {
+      found = false;
+      std::size_t pass = leftOut;
+      for (std::size_t at = 0; at < entries.size() && !found; ++at) {
+        if (at > 0 && ++steps == nth) break;
+        if (entries[at][0] == '.' || pass-- > 0) continue;
+        found = true;
+        if (entries[at] == tidyFolderName) {
+          ++leftOut;
+        } else {
+          moved.push_back(entries[at]);
+          entries.erase(entries.begin() + static_cast<std::ptrdiff_t>(at));
+        }
+      }
+      if (steps == nth) break;
+    }
+    met = Run(FaultKind::SearchNext, nth, moved, 0);
+    EXPECT_EQ(Current(), kTidy);
+    EXPECT_TRUE(met || moved.size() == 4);
+  }
+}
+
+TEST_F(DesktopTidyTest, ADesktopPathThatDoesNotFitIsNotCut) {
+  const std::string deep = "C:\\" + std::string(180, 'd') + "\\" + std::string(180, 'e');
+  MakeFolder(deep);
+  PutFile(deep + "\\a", "a");
+  PosixDesktopSet(PosixPath(deep.c_str()));
+  EXPECT_EQ(TidyRun(nullptr), 0);
+  EXPECT_STREQ(desktopPath, "");
+  EXPECT_EQ(FolderNames(deep), Names{"a"});
+}
+
 TEST_F(DesktopTidyTest, AnItemWhoseNameBeginsWithADotIsSkippedWithoutAQuestion) {
   Put(".hidden");
   Put("shown");
@@ -328,6 +451,31 @@ TEST_F(DesktopTidyTest, TheRunTakesTheNameFromTheField) {
     Press(TopDialog(), 2);
   });
   DesktopTidyCommand();
+}
+
+TEST_F(DesktopTidyTest, WithAnotherNameInTheFieldTheOldFolderIsAnItemLikeAnyOther) {
+  MakeFolder(kTidy);
+  PutFile(std::string(kTidy) + "\\old", "old");
+  Put("a.txt");
+  Names asked;
+  Then([&] {
+    EXPECT_EQ(ControlText(TopDialog(), IDC_TIDY_FOLDER), "整理用フォルダー");
+    Type(TopDialog(), IDC_TIDY_FOLDER, "新しい");
+    // The new folder is made by the run; then the search has its order.
+    MakeFolder("C:\\desk\\新しい");
+    std::strcpy(tidyFolderName, "新しい");
+    asked = Items();
+    TidyReset();
+    for (const std::string& name : asked) ExpectAsk(name, BoxAnswer::Yes);
+    std::filesystem::remove(PosixPath("C:\\desk\\新しい"));
+    Press(TopDialog(), IDC_TIDY_RUN);
+    Press(TopDialog(), 2);
+  });
+  DesktopTidyCommand();
+  EXPECT_EQ(asked.size(), 2U);
+  EXPECT_EQ(FolderNames(kDesktop), Names{"新しい"});
+  EXPECT_EQ(FolderNames("C:\\desk\\新しい"), (Names{"a.txt", "整理用フォルダー"}));
+  EXPECT_EQ(FileBytes("C:\\desk\\新しい\\整理用フォルダー\\old"), "old");
 }
 
 TEST_F(DesktopTidyTest, TheNameIsReadUpTo255Bytes) {
