@@ -320,6 +320,27 @@ TEST_F(BackUpTest, ARowShowsBothTimesInLocalTime) {
   EXPECT_STREQ(row, expected);
 }
 
+TEST_F(BackUpTest, EachFileTimeFailingInTurnIsADifference) {
+  CopyTo("C:\\mirrell\\copies");
+  AddSource("a", "one");
+  AddSource("b", "two");
+  RunSteps();
+  for (int nth = 1; nth <= 5; ++nth) {
+    FaultArm(FaultKind::FileTime, nth);
+    EXPECT_EQ(BackUpCompareDate(), nth <= 4 ? 1 : 0) << nth;
+    EXPECT_EQ(FaultWasMet(), nth <= 4) << nth;
+  }
+  char row[160];
+  for (int nth = 1; nth <= 3; ++nth) {
+    FaultArm(FaultKind::FileTime, nth);
+    EXPECT_EQ(BackUpListDate(0, row, sizeof row), nth <= 2) << nth;
+    EXPECT_EQ(std::string(row).substr(0, 3), "a (");
+  }
+  FaultClear();
+  EXPECT_EQ(FileBytes(InProgram("copies\\a")), "one");
+  EXPECT_EQ(FileBytes(InProgram("b")), "two");
+}
+
 TEST_F(BackUpTest, AMissingFileStandsAsStarsInItsRow) {
   CopyTo("C:\\mirrell\\copies");
   EXPECT_EQ(BackUpAddSource("C:\\mirrell\\gone"), 0);
@@ -409,6 +430,42 @@ TEST_F(BackUpTest, ASettingsFileCutAnywhereIsBadAndKeepsWhatCame) {
                                             ? bytes.substr(119749, size > 119749 ? size - 119749 : 0).c_str()
                                             : "C:\\from\\99")
         << size;
+  }
+}
+
+TEST_F(BackUpTest, ASettingsFileCutAtAnyFieldsEndKeepsTheBytesThatCame) {
+  // Magic, count, folder, a hundred copies and a hundred sources, comment.
+  std::vector<int> ends = {45, 49, 349};
+  for (int path = 1; path <= 200; ++path) ends.push_back(349 + 600 * path);
+  ends.push_back(120605);
+  ASSERT_EQ(ends[202], 120349);
+  std::string bytes = SettingsBytes(100);
+  // No byte of a field is nought, so that each one tells whether it came.
+  for (std::size_t at = 49; at < bytes.size(); ++at) {
+    if (bytes[at] == '\0') bytes[at] = static_cast<char>('a' + at % 26);
+  }
+  const std::string path = PosixPath(InProgram("a.BUP").c_str());
+  PutFile(InProgram("a.BUP"), bytes + "+");
+  for (auto end = ends.rbegin(); end != ends.rend(); ++end) {
+    for (const int size : {*end + 1, *end, *end - 1}) {
+      ASSERT_EQ(truncate(path.c_str(), size), 0);
+      std::memset(&BackUp, 0, sizeof BackUp);
+      BackUp.fileCount = 55;
+      const bool whole = size >= 120605;
+      ASSERT_EQ(BackUpLoad(InProgram("a.BUP").c_str()), whole ? 0 : -2) << size;
+      ASSERT_EQ(FileStatus, whole ? 0 : -2) << size;
+      ASSERT_EQ(BackUp.fileCount, size < 49 ? 55 : 100) << size;
+      std::string came = bytes.substr(49, static_cast<std::size_t>(std::max(0, size - 49)));
+      came.resize(120605 - 49, '\0');
+      // Every text ends inside its field.
+      came[299] = '\0';
+      for (std::size_t field = 1; field <= 200; ++field) came[300 + 600 * field - 1] = '\0';
+      came.back() = '\0';
+      ASSERT_EQ(std::memcmp(BackUp.destDir, came.data(), 300), 0) << size;
+      ASSERT_EQ(std::memcmp(BackUp.destPath, came.data() + 300, 60000), 0) << size;
+      ASSERT_EQ(std::memcmp(BackUp.sourcePath, came.data() + 60300, 60000), 0) << size;
+      ASSERT_EQ(std::memcmp(BackUp.comment, came.data() + 120300, 256), 0) << size;
+    }
   }
 }
 
