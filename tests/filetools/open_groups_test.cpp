@@ -2,6 +2,7 @@
 #include <fcntl.h>
 #include <unistd.h>
 
+#include <filesystem>
 #include <random>
 
 #include "platform/posix/posix_paths.h"
@@ -132,35 +133,87 @@ TEST_F(OpenGroupsTest, ACountBeyond30IsBadContent) {
   close(file);
 }
 
+// Ends of a record's fields: count, names, folders, programs, their folders, what is
+// reserved, comment.
+constexpr std::size_t kFieldEnds[] = {1, 9001, 18001, 27001, 36001, 36603, 36859};
+
+TEST_F(OpenGroupsTest, AFileThatEndsAroundAnyFieldsStartLeavesTheTableAsItWas) {
+  FillTable();
+  SaveGroups();
+  OpnGroupSetComment(5, "kept");
+  const std::string table = TableBytes();
+  const std::string path = PosixPath(GroupPath().c_str());
+  const int files = DiagnosticsLive().files;
+  for (const std::size_t record : {199, 100, 1, 0}) {
+    for (int field = 6; field >= -1; --field) {
+      const std::size_t start = record * kRecord + (field < 0 ? 0 : kFieldEnds[field]);
+      for (const std::size_t end : {start + 1, start, start - 1}) {
+        if (end >= kWhole) continue;  // behind the last field, and before the first
+        ASSERT_EQ(truncate(path.c_str(), static_cast<off_t>(end)), 0);
+        FileStatus = 0;
+        ASSERT_EQ(OpnGroupLoad(), -1) << end;
+        ASSERT_EQ(FileStatus, -2) << end;
+      }
+    }
+    ASSERT_TRUE(TableBytes() == table) << record;
+  }
+  EXPECT_EQ(DiagnosticsLive().files, files);
+}
+
 TEST_F(OpenGroupsTest, EveryWriteThatFailsGivesItsResult) {
   FillTable();
-  // All fields of the first, a middle and the last record; 1400 writes in all.
-  std::vector<int> writes;
-  for (const int record : {0, 100, 199}) {
-    for (int field = 1; field <= 7; ++field) writes.push_back(7 * record + field);
-  }
-  writes.push_back(1401);
-  for (const int nth : writes) {
-    FaultArm(FaultKind::Write, nth);
+  const std::string table = TableBytes();
+  const std::string path = PosixPath(GroupPath().c_str());
+  const int files = DiagnosticsLive().files;
+  // Seven fields of two hundred records; the last round meets no fault.
+  for (std::size_t nth = 1; nth <= 1401; ++nth) {
+    FaultArm(FaultKind::Write, static_cast<int>(nth));
     FileStatus = 5;
     const int result = OpnGroupSave();
-    EXPECT_EQ(FaultWasMet(), nth <= 1400) << nth;
+    const bool met = FaultWasMet();
     FaultClear();
-    EXPECT_EQ(result, nth <= 1400 ? -1 : 0) << nth;
-    EXPECT_EQ(FileStatus, nth <= 1400 ? -2 : 0) << nth;
+    ASSERT_EQ(met, nth <= 1400) << nth;
+    ASSERT_EQ(result, met ? -1 : 0) << nth;
+    ASSERT_EQ(FileStatus, met ? -2 : 0) << nth;
+    // Nothing is written behind the field that came a byte short.
+    const std::size_t end = (nth - 1) / 7 * kRecord + kFieldEnds[(nth - 1) % 7];
+    ASSERT_EQ(std::filesystem::file_size(path), met ? end - 1 : kWhole) << nth;
   }
-  FaultArm(FaultKind::Create, 1);
-  EXPECT_EQ(OpnGroupSave(), -1);
-  EXPECT_EQ(FileStatus, -1);
-  FaultClear();
-  FaultArm(FaultKind::Open, 2);
-  EXPECT_EQ(OpnGroupSave(), -1);
-  EXPECT_EQ(FileStatus, -1);
-  FaultClear();
+  EXPECT_TRUE(TableBytes() == table);
+  EXPECT_TRUE(FileBytes(GroupPath()) == FilledImage());
+  EXPECT_EQ(DiagnosticsLive().files, files);
+}
+
+TEST_F(OpenGroupsTest, EveryOtherCallThatFailsGivesItsResult) {
+  FillTable();
+  const auto save = [](FaultKind kind, int nth) {
+    PutFile(GroupPath(), std::string(8000000, 'o'));
+    FileStatus = 5;
+    FaultArm(kind, nth);
+    const int result = OpnGroupSave();
+    EXPECT_TRUE(FaultWasMet());
+    FaultClear();
+    EXPECT_EQ(FileStatus, result);
+    return result;
+  };
+  EXPECT_EQ(save(FaultKind::Open, 1), 0) << "a file that does not open is made anew";
+  EXPECT_TRUE(FileBytes(GroupPath()) == FilledImage());
+  EXPECT_EQ(save(FaultKind::Delete, 1), 0) << "the create empties what could not be deleted";
+  EXPECT_TRUE(FileBytes(GroupPath()) == FilledImage());
+  EXPECT_EQ(save(FaultKind::Open, 2), -1);
+  EXPECT_EQ(FileBytes(GroupPath()), "") << "the old file is gone by then";
+  EXPECT_EQ(save(FaultKind::Create, 1), -1);
+  EXPECT_FALSE(FileThere(GroupPath()));
+
   SaveGroups();
+  const std::string table = TableBytes();
+  FaultArm(FaultKind::Open, 1);
+  EXPECT_EQ(OpnGroupLoad(), -1);
+  EXPECT_EQ(FileStatus, -1);
   FaultArm(FaultKind::Read, 1);
   EXPECT_EQ(OpnGroupLoad(), -1);
   EXPECT_EQ(FileStatus, -2);
+  EXPECT_TRUE(TableBytes() == table);
 }
 
 // Everything that can be done with a table of any bytes.

@@ -143,10 +143,24 @@ TEST_F(OpenHistoryTest, EveryFailingCallGivesItsResult) {
     EXPECT_EQ(result, nth <= kFields ? -1 : 0) << nth;
     EXPECT_EQ(FileStatus, nth <= kFields ? -2 : 0) << nth;
   }
-  FaultArm(FaultKind::Create, 1);
-  EXPECT_EQ(OpnHisSave(), -1);
-  EXPECT_EQ(FileStatus, -1);
-  FaultClear();
+  const auto save = [](FaultKind kind, int nth) {
+    PutFile(Path(), std::string(300000, 'o'));
+    FileStatus = 5;
+    FaultArm(kind, nth);
+    const int result = OpnHisSave();
+    EXPECT_TRUE(FaultWasMet());
+    FaultClear();
+    EXPECT_EQ(FileStatus, result);
+    return result;
+  };
+  EXPECT_EQ(save(FaultKind::Open, 1), 0) << "a file that does not open is made anew";
+  EXPECT_EQ(FileBytes(Path()), Image());
+  EXPECT_EQ(save(FaultKind::Delete, 1), 0) << "the create empties what could not be deleted";
+  EXPECT_EQ(FileBytes(Path()), Image());
+  EXPECT_EQ(save(FaultKind::Open, 2), -1);
+  EXPECT_EQ(FileBytes(Path()), "") << "the old file is gone by then";
+  EXPECT_EQ(save(FaultKind::Create, 1), -1);
+  EXPECT_FALSE(FileThere(Path()));
   ASSERT_EQ(OpnHisSave(), 0);
   FaultArm(FaultKind::Read, 1);
   EXPECT_EQ(OpnHisLoad(), -1);
