@@ -278,14 +278,33 @@ TEST_F(FolderScopeTest, AFolderOf3104EntriesIsWhole) {
   EXPECT_EQ(Ranked(ScopeArea::Folder, 3104), SearchOrder("C:\\many"));
 }
 
-TEST_F(FolderScopeTest, AFolderOf3105EntriesIsRefused) {
-  MakeMany("C:\\many", 3105);
-  Choose("C:\\many");
-  ScopeStepReset();
-  EXPECT_EQ(RunSteps(ScopeFolderStep), -1);
-  EXPECT_TRUE(scopeOverflow);
-  EXPECT_EQ(DiagnosticsLive().searches, 0);
-  EXPECT_EQ(CurrentOne(), "C:\\mirrell");
+TEST_F(FolderScopeTest, AFolderOf3105EntriesOrMoreIsRefused) {
+  for (const int count : {3105, 3106, 4000}) {
+    const std::string folder = "C:\\many" + std::to_string(count);
+    MakeMany(folder, count);
+    Choose(folder);
+    scopeOverflow = false;
+    ScopeStepReset();
+    EXPECT_EQ(RunSteps(ScopeFolderStep), -1) << count;
+    EXPECT_TRUE(scopeOverflow);
+    EXPECT_EQ(DiagnosticsLive().searches, 0);
+    EXPECT_EQ(CurrentOne(), "C:\\mirrell");
+  }
+}
+
+TEST_F(FolderScopeTest, ADriveWith3105EntriesOrMoreOnItsFirstLevelIsRefused) {
+  for (const int count : {3104, 3105, 3106, 4000}) {
+    const std::string folder = "C:\\drive" + std::to_string(count);
+    MakeMany(folder, count);
+    PosixDriveSet('E', PosixPath(folder.c_str()));
+    Choose("E:\\");
+    scopeOverflow = false;
+    ScopeStepReset();
+    EXPECT_EQ(RunSteps(ScopeDriveStep), count == 3104 ? 3105 : -1) << count;
+    EXPECT_EQ(scopeOverflow, count != 3104);
+    EXPECT_EQ(DiagnosticsLive().searches, 0);
+    EXPECT_EQ(CurrentOne(), "C:\\mirrell");
+  }
 }
 
 TEST_F(FolderScopeTest, WithoutItsBlockASearchIsRefused) {
