@@ -314,6 +314,47 @@ TEST_F(FileTest, OtherCallsFailWithoutATrace) {
   EXPECT_EQ(FolderNames("C:\\mirrell"), Names{"a"});
 }
 
+TEST_F(FileTest, CallsForFoldersSearchesRoomAndTimesFailOnceAndThenWork) {
+  PutFile("a", "1");
+  MakeFolder("C:\\mirrell\\sub");
+  char folder[64] = "as it was";
+  FaultArm(FaultKind::FolderGet, 1);
+  EXPECT_EQ(FolderGetCurrent(folder, sizeof folder), 0);
+  EXPECT_STREQ(folder, "as it was");
+  EXPECT_GT(FolderGetCurrent(folder, sizeof folder), 0);
+  FaultArm(FaultKind::FolderSet, 1);
+  EXPECT_FALSE(FolderSetCurrent("sub"));
+  EXPECT_TRUE(FileThere("a"));
+  EXPECT_TRUE(FolderSetCurrent("sub"));
+  EXPECT_TRUE(FolderSetCurrent(".."));
+
+  SearchEntry entry;
+  FaultArm(FaultKind::SearchFirst, 1);
+  EXPECT_EQ(SearchFirst("*.*", &entry), kNoSearch);
+  EXPECT_EQ(DiagnosticsLive().searches, 0);
+  const SearchHandle search = SearchFirst("*.*", &entry);
+  ASSERT_NE(search, kNoSearch);
+  FaultArm(FaultKind::SearchNext, 1);
+  EXPECT_FALSE(SearchNext(search, &entry));
+  EXPECT_TRUE(SearchNext(search, &entry));
+  SearchClose(search);
+
+  std::uint64_t total = 1;
+  std::uint64_t free = 1;
+  FaultArm(FaultKind::DiskSpace, 1);
+  EXPECT_FALSE(DiskSpace("C:\\", &total, &free));
+  EXPECT_EQ(total, 0U);
+  EXPECT_EQ(free, 0U);
+  EXPECT_TRUE(DiskSpace("C:\\", &total, &free));
+  std::uint64_t time = 1;
+  const int file = FileOpen("a", OpenMode::Read);
+  FaultArm(FaultKind::FileTime, 1);
+  EXPECT_FALSE(FileWriteTime(file, &time));
+  EXPECT_EQ(time, 1U);
+  EXPECT_TRUE(FileWriteTime(file, &time));
+  FileClose(file);
+}
+
 TEST_F(FileTest, RunWithoutMeetingTheFaultSaysSo) {
   PutFile("a", "1");
   FaultArm(FaultKind::Open, 5);
