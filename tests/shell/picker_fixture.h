@@ -4,12 +4,14 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cstdio>
 #include <string>
 #include <vector>
 
 #include "platform/dialog.h"
 #include "platform/headless/headless.h"
 #include "platform/window.h"
+#include "shell/file_picker.h"
 #include "shell/folder_list.h"
 #include "shell/shell.h"
 #include "tests/shell/folders.h"
@@ -63,4 +65,45 @@ class PickerFixture : public DesktopTest {
   }
 
   static void Escape() { SendCommand(TopDialog(), 2); }
+};
+
+// A user of the file picker.
+class FilePickerTest : public PickerFixture {
+ protected:
+  void TearDown() override {
+    EXPECT_EQ(hFilePickDlg, nullptr);
+    EXPECT_EQ(PickActive, 0);
+    EXPECT_STREQ(PickStartFolder, "");
+    EXPECT_STREQ(PickName, "");
+    PickerFixture::TearDown();
+  }
+
+  static Rows Files() {
+    Rows rows = ListRows(TopDialog(), kPickFilesId);
+    std::sort(rows.begin(), rows.end());
+    return rows;
+  }
+  static std::string Name() { return ControlText(TopDialog(), kPickNameId); }
+  static void ChooseFile(const std::string& name, bool twice = false) {
+    const Rows rows = ListRows(TopDialog(), kPickFilesId);
+    const auto at = std::find(rows.begin(), rows.end(), name);
+    ASSERT_NE(at, rows.end()) << name;
+    (twice ? DoubleClickRow : ChooseRow)(TopDialog(), kPickFilesId, static_cast<int>(at - rows.begin()));
+  }
+  static void TypeName(const char* name) { Type(TopDialog(), kPickNameId, name); }
+  static void PressOk() { Press(TopDialog(), 1); }
+  static void PressCancel() { Press(TopDialog(), kFolderCancelId); }
+
+  int Load(const char* filter = "*.*") { return PickFileForLoad(nullptr, filter, path); }
+  int Save(const char* filter = "*.*") { return PickFileForSave(nullptr, filter, path); }
+  void Propose(const char* text) { std::snprintf(path, sizeof path, "%s", text); }
+  // Saves under a name that the user types.
+  std::string SaveAs(const char* name, const char* filter) {
+    Then([=] { TypeName(name); });
+    Then(PressOk);
+    EXPECT_EQ(Save(filter), 1);
+    return path;
+  }
+
+  char path[kPickPathSize] = "";
 };
