@@ -78,3 +78,19 @@ class WalkFixture : public StageFixture {
 
   static WindowHandle WalkWindow() { return WalkSlots[0].walkWindow; }
 };
+
+class WalkTest : public WalkFixture {};
+
+struct Place {
+  int left, top, width, height;
+  bool operator==(const Place&) const = default;
+};
+inline Place PlaceOf(WindowHandle window) {
+  const Rect rect = WindowRect(window);
+  return {rect.left, rect.top, RectWidth(rect), RectHeight(rect)};
+}
+inline std::ostream& operator<<(std::ostream& out, const Place& place) {
+  return out << place.left << "," << place.top << " " << place.width << "x" << place.height;
+}
+
+inline const std::vector<std::uint32_t> kWholeWalk = {2203, 2208, 2202};

@@ -1,0 +1,132 @@
+// What a walking row may add to a walk: trail, wipe and shake.
+#include <set>
+
+#include "shell/random.h"
+#include "tests/character/walk_fixture.h"
+
+namespace {
+
+TEST_F(WalkTest, WithTheTrailOnTheFirstWindowResetsTheTrailAndTheTrailClosesAtTheWalksEnd) {
+  WalkFlags[0] = kWalkTrail;
+  SetWalkPeriod(CharaSet, 0, 0);
+  WalkForOpening();
+  Then([] {
+    EXPECT_EQ(OpenWindowCount(), 2);
+    EXPECT_EQ(PlaceOf(WalkWindow()), (Place{486, 338, 60, 50}));
+  });
+  for (int i = 1; i < 5; ++i) {
+    ThenTicks(1);
+    Then([i] {
+      EXPECT_EQ(OpenWindowCount(), 2 + i);
+      EXPECT_EQ(PlaceOf(WalkWindow()), (Place{486, 338, 60, 50}));  // stays where it is
+      EXPECT_EQ(PlaceOf(FindDialog(IDD_FlyingBat1)), (Place{486 - 14 * i, 338 - 12 * i, 60, 50}));
+      EXPECT_TRUE(IsVisible(FindDialog(IDD_FlyingBat1)));
+    });
+  }
+  Then([] {
+    WalkTicks(1);
+    EXPECT_EQ(OpenWindowCount(), 2);  // nothing but the walk's own loop, which is ending
+  });
+  // The balloon and the end picture are up inside the step above.
+  Then([] { EXPECT_EQ(OpenWindowCount(), 4); });
+  ThenTicks(4);
+  WalkTicks(1);
+  EXPECT_EQ(commands, kWholeWalk);
+  EXPECT_EQ(OpenWindowCount(), 1);
+}
+
+TEST_F(WalkTest, ATrailWindowThatCannotBeMadeIsLeftOut) {
+  WalkFlags[0] = kWalkTrail;
+  SetWalkPeriod(CharaSet, 0, 0);
+  ASSERT_EQ(WalkStartOpen(), 0);
+  Then([] {
+    FaultArm(FaultKind::Window, 1);
+    WalkTicks(1);
+    FaultClear();
+    EXPECT_EQ(OpenWindowCount(), 2);
+    WalkTicks(1);
+    EXPECT_EQ(OpenWindowCount(), 3);
+    WalkAbort();
+    EXPECT_EQ(OpenWindowCount(), 2);
+  });
+  WalkTicks(1);
+  EXPECT_EQ(OpenWindowCount(), 1);
+}
+
+// The picture is 60 wide and the end wait 4: slices of 15. The wipe count is 1 when
+// the window opens and goes up with each step.
+TEST_F(WalkTest, WithTheWipeOnThePictureIsRevealedFromTheRightInEqualSlices) {
+  WalkFlags[0] = kWalkWipe;
+  SetWalkPeriod(CharaSet, 0, 0);
+  ASSERT_EQ(WalkStartOpen(), 0);
+  for (int i = 0; i < 4; ++i) {
+    Then([i] {
+      DrawingClear();
+      SendPaint(WalkWindow());
+      ASSERT_EQ(DibsDrawn(WalkWindow()).size(), 1U);
+      const DrawCall call = DibsDrawn(WalkWindow())[0];
+      EXPECT_EQ(call.clipped, i < 3);
+      if (call.clipped) {
+        EXPECT_EQ(call.clip.left, 60 - 15 * (i + 1));
+        EXPECT_EQ(call.clip.right, 60);
+        EXPECT_EQ(call.clip.top, 0);
+        EXPECT_EQ(call.clip.bottom, 50);
+      }
+    });
+    ThenTicks(1);
+  }
+  Then([] { WalkAbort(); });
+  WalkTicks(1);
+}
+
+TEST_F(WalkTest, WithoutAnEndWaitTheWipeHasThreeSlices) {
+  WalkFlags[0] = kWalkWipe;
+  SetEndWait(CharaSet, 0, 0);
+  ASSERT_EQ(WalkStartOpen(), 0);
+  Then([] {
+    DrawingClear();
+    SendPaint(WalkWindow());
+    ASSERT_EQ(DibsDrawn(WalkWindow()).size(), 1U);
+    EXPECT_EQ(DibsDrawn(WalkWindow())[0].clip.left, 40);
+    WalkAbort();
+  });
+  WalkTicks(1);
+}
+
+TEST_F(WalkTest, WithTheShakeOnEachStepJumpsByUpTo49PixelsAndTheWalkItselfDoesNot) {
+  RandomSeed(3);
+  WalkFlags[0] = kWalkShake;
+  SetWalkPeriod(CharaSet, 0, 0);
+  SetWalkCount(CharaSet, 0, 200);
+  SetWalkStep(CharaSet, 0, 0, 0);
+  ASSERT_EQ(WalkStartOpen(), 0);
+  Then([] {
+    EXPECT_EQ(PlaceOf(WalkWindow()).top, 350);  // not when it opens
+    std::set<int> tops;
+    for (int i = 0; i < 199; ++i) {
+      WalkTicks(1);
+      const int top = PlaceOf(WalkWindow()).top;
+      EXPECT_TRUE(top >= 350 - 49 && top <= 350 + 49) << top;
+      EXPECT_EQ(top, WalkLastY);
+      EXPECT_EQ(WalkSlots[0].y, 350);
+      tops.insert(top);
+    }
+    EXPECT_GT(tops.size(), 20U);
+    WalkAbort();
+  });
+  WalkTicks(1);
+}
+
+TEST_F(WalkTest, TheFlagsAreThoseOfTheWalkingRow) {
+  WalkFlags[0] = 1;
+  WalkFlags[49] = 4;
+  EXPECT_EQ(WalkFlagsNow(), 1U);
+  SetWalkRow(CharaSet, 0, 50);
+  EXPECT_EQ(WalkFlagsNow(), 4U);
+  for (const int row : {0, 51, 65535}) {
+    SetWalkRow(CharaSet, 0, row);
+    EXPECT_EQ(WalkFlagsNow(), 0U) << row;
+  }
+}
+
+}  // namespace
