@@ -1,0 +1,138 @@
+// A program with alarm characters, and the notices that show them.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cstring>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "character/alarm_images.h"
+#include "character/character.h"
+#include "character/character_tables.h"
+#include "character/scl_notice.h"
+#include "clock_calendar/clock.h"
+#include "clock_calendar/performance.h"
+#include "platform/window.h"
+#include "shell/shell.h"
+#include "shell/text.h"
+#include "tests/character/chara_files.h"
+#include "tests/support/program.h"
+
+inline constexpr std::uint32_t kSclNotice = 2265;
+inline constexpr std::uint32_t kNoteNotice = 2294;
+inline constexpr std::uint32_t kClockNotice = 2336;
+inline constexpr std::uint32_t kNextStep = 2258;
+
+inline constexpr int kSclCharacter = 8;
+inline constexpr int kClockCharacter = 9;
+
+class NoticesTest : public ProgramTest {
+ protected:
+  void SetUp() override {
+    ProgramTest::SetUp();
+    StartProgram();
+    MakeFolder("C:\\mirrell\\キャラクタ");
+    AlarmCharaCount = 2;
+    AlarmCharas[0] = kSclCharacter;
+    AlarmCharas[1] = kClockCharacter;
+    TodayYear = 26;
+    TodayMonth = 10;
+    TodayDay = 20;
+    NoticeX = 400;
+    NoticeY = 100;
+    NoticeW = 480;
+    NoticeH = 300;
+    SclNotice = SclNoticeItem{};
+    for (NoteNoticeItem& note : NoteNotices) note = NoteNoticeItem{};
+    ClockAlarmSlot = -1;
+    PerformanceActive = 0;
+    std::memset(ClockEvents, 0, sizeof ClockEvents);
+  }
+  void TearDown() override {
+    SendClose(hSclNoticeWnd);
+    SendClose(hClockNoticeWnd);
+    std::fill_n(AlarmCharaSel, kAlarmRowCount, 0);
+    AlarmCharaLoad();
+    AlarmCharaCount = 0;
+    ClockAlarmSlot = -1;
+    ProgramTest::TearDown();
+  }
+
+  static void PutFrame(int character, int frame, int width, int height, bool mask = true) {
+    const std::string name =
+        "C:\\mirrell\\キャラクタ\\Chara" + std::to_string(character) + "_" + std::to_string(frame);
+    PutFile(name + ".bmp", BmpFile(width, height));
+    if (mask) PutFile(name + "x.bmp", BmpFile(width, height, 0, 0, 0));
+  }
+  // Rows 1 and 2 with so many frames of 40 by 30 pixels.
+  static void LoadRows(int sclFrames, int clockFrames) {
+    for (int frame = 1; frame <= sclFrames; ++frame) PutFrame(kSclCharacter, frame, 40, 30);
+    for (int frame = 1; frame <= clockFrames; ++frame) PutFrame(kClockCharacter, frame, 40, 30);
+    AlarmCharaSel[1] = 1;
+    AlarmCharaSel[2] = 2;
+    AlarmCharaLoad();
+  }
+  static void ItemDue(const char* text) {
+    SclNotice.due = true;
+    SclNotice.start = {26, 10, 20, 9};
+    SclNotice.startMinute = 30;
+    SclNotice.end = {26, 10, 20, 12};
+    SclNotice.endMinute = 5;
+    SclNotice.tableStartHour = 8;
+    SclNotice.tableEndHour = 18;
+    TextCopy(SclNotice.text, sizeof SclNotice.text, text);
+  }
+  static void NoteDue(int note, const char* text) {
+    NoteNotices[note].due = true;
+    NoteNotices[note].year = 26;
+    NoteNotices[note].monthAndDay = 20;
+    TextCopy(NoteNotices[note].text, sizeof NoteNotices[note].text, text);
+  }
+  static void Send(std::uint32_t command) { SendCommand(hMainWnd, command); }
+  // Draws the window afresh.
+  static void Repaint(WindowHandle window) {
+    DrawingClear();
+    SendPaint(window);
+  }
+  static std::vector<DrawCall> Dibs(WindowHandle window) {
+    std::vector<DrawCall> drawn = Drawings(window);
+    std::erase_if(drawn, [](const DrawCall& call) { return call.kind != DrawCall::Kind::Dib; });
+    return drawn;
+  }
+  // A picture through its mask at a place: the mask first, then the picture.
+  static void ExpectMasked(WindowHandle window, int x, int y, const void* picture, const void* mask) {
+    const std::vector<DrawCall> dibs = Dibs(window);
+    ASSERT_EQ(dibs.size(), 2U);
+    EXPECT_EQ(dibs[0].dib, mask);
+    EXPECT_EQ(dibs[0].op, RasterOp::And);
+    EXPECT_EQ(dibs[1].dib, picture);
+    EXPECT_EQ(dibs[1].op, RasterOp::Or);
+    for (const DrawCall& dib : dibs) {
+      EXPECT_EQ(dib.x, x);
+      EXPECT_EQ(dib.y, y);
+    }
+  }
+  static void ExpectText(WindowHandle window, const std::vector<std::pair<int, std::string>>& lines) {
+    const std::vector<DrawCall> texts = DrawnTexts(window);
+    ASSERT_EQ(texts.size(), lines.size());
+    for (std::size_t i = 0; i < lines.size(); ++i) {
+      EXPECT_EQ(texts[i].x, 10);
+      EXPECT_EQ(texts[i].y, lines[i].first) << i;
+      EXPECT_EQ(texts[i].text, lines[i].second);
+      EXPECT_TRUE(texts[i].transparent);
+      EXPECT_EQ(texts[i].textColour, 0U);
+    }
+  }
+  static void ExpectPlace(WindowHandle window) {
+    const Rect rect = WindowRect(window);
+    EXPECT_EQ(rect.left, 400);
+    EXPECT_EQ(rect.top, 100);
+    EXPECT_EQ(RectWidth(rect), 480);
+    EXPECT_EQ(RectHeight(rect), 300);
+    EXPECT_TRUE(IsTopmost(window));
+    EXPECT_TRUE(IsVisible(window));
+  }
+};
