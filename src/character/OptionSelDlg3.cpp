@@ -176,7 +176,8 @@ bool OptionSelDlg3Proc(const Event& event) {
 void CommandOptionLayout(std::uint32_t) {
   SendClose(hDiskMenu);
   LayoutChange = 0;
-  MenuDialogRun(kDlgId, IDD_OptionSelDlg3, hMainWnd, OptionSelDlg3Proc);
+  // The program may end while the dialog is up: then nothing was confirmed.
+  if (MenuDialogRun(kDlgId, IDD_OptionSelDlg3, hMainWnd, OptionSelDlg3Proc) != kOk) LayoutChange = 0;
   if (LayoutChange != 0) {
     SysFileWrite();
     SendCommand(hMainWnd, kLayoutApplyCommand);

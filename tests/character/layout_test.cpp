@@ -406,6 +406,16 @@ TEST_F(LayoutTest, CancelAfterTheDefaultRollsBack) {
   }
 }
 
+TEST_F(LayoutTest, WhenTheProgramEndsWhileTheDialogIsUpNothingIsSaved) {
+  RunDialog({[] {
+    Press(TopDialog(), kDefaultButton);
+    SendClose(hMainWnd);
+  }});
+  EXPECT_TRUE(QuitWasAsked());
+  EXPECT_EQ(LayoutChange, 0);
+  EXPECT_FALSE(FileThere("C:\\mirrell\\mirrell_sys_file.svs"));
+}
+
 TEST_F(LayoutTest, CancelAfterADragOnlyForgetsIt) {
   StageX = 303;
   RunDialog({[] {
