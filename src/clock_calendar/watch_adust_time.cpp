@@ -5,6 +5,13 @@
 #include "shell/shell.h"
 #include "shell/text.h"
 
+namespace {
+constexpr int kX = 20;
+constexpr int kY = 86;
+constexpr int kBoxWidth = 100;
+constexpr int kBoxHeight = 20;
+}  // namespace
+
 void WatchAdustTimeDraw() {
   static int drawn = -1;
   const int seconds = (SharedTime.hour * 60 + SharedTime.minute) * 60 + SharedTime.second;
@@ -14,10 +21,11 @@ void WatchAdustTimeDraw() {
   if (!canvas) return;
   CanvasBrush(canvas, FaceBrush);
   CanvasPen(canvas, PenNothing());
-  CanvasRectangle(canvas, 20, 86, 20 + 100, 86 + 20);
+  // Without a pen the last row and column are left out.
+  CanvasRectangle(canvas, kX, kY, kX + kBoxWidth + 1, kY + kBoxHeight + 1);
   char text[32];
   TextFormat(text, sizeof text, "%2d : %2d . %2d", SharedTime.hour, SharedTime.minute, SharedTime.second);
   CanvasBackTransparent(canvas, true);
-  CanvasText(canvas, 20, 86, text);
+  CanvasText(canvas, kX, kY, text);
   CanvasRelease(canvas);
 }
