@@ -77,6 +77,9 @@ BoxAnswer MessageBoxRun(WindowHandle owner, const char* text, const char* captio
 // is sent anything; without, `window` is sent the command and 0 comes back.
 std::uint32_t MenuPopup(int menuId, WindowHandle window, int x, int y, bool asCommand);
 
+// Takes away a popup menu that is still up; nothing is chosen then.
+void MenuPopupEnd();
+
 // --- String resources
 
 // Loads a string, terminated at size; the length, 0 if there is none.

@@ -27,8 +27,9 @@ void CommandFocusStage(std::uint32_t) {
   WindowSetFocus(hMainWnd);
 }
 
-// Popups go away by themselves here; the number stays known.
-void CommandDropPopup(std::uint32_t) {}
+void CommandDropPopup(std::uint32_t) {
+  MenuPopupEnd();
+}
 
 // The bats' switch is set by nothing, so there is nothing to open.
 void CommandBat(std::uint32_t) {}

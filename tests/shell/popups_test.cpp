@@ -109,6 +109,18 @@ TEST_F(PopupsTest, WithNothingChosenTheClockIsDrawn) {
   EXPECT_EQ(paints, 1);
 }
 
+TEST_F(PopupsTest, Command50TakesAPopupAwayThatIsStillUp) {
+  hClockWnd = window;
+  ExpectMenu(IDM_CLOCK, 2330, [] { CommandRoute(50); });
+  CommandClockPopup(2337);
+  EXPECT_TRUE(sentCommands.empty());
+  EXPECT_EQ(paints, 1) << "as with nothing chosen";
+  CommandRoute(50);  // with none up it does nothing
+  ExpectMenu(IDM_CLOCK, 2330);
+  CommandClockPopup(2337);
+  EXPECT_EQ(sentCommands, Numbers{2330});
+}
+
 TEST_F(PopupsTest, WithoutItsWindowNoPopupOpens) {
   CommandSchedulePopup(2039);
   CommandCalendarPopup(2279);

@@ -18,11 +18,13 @@ struct ExpectedBox {
 struct ExpectedMenu {
   int menuId;
   std::uint32_t command;
+  std::function<void()> meanwhile;
 };
 
 std::deque<ExpectedBox> expectedBoxes;
 std::deque<std::string> expectedFiles;
 std::deque<ExpectedMenu> expectedMenus;
+bool menuIsUp = false;
 std::vector<Box> boxesShown;
 std::vector<FileDialogCall> fileDialogs;
 
@@ -144,8 +146,13 @@ std::uint32_t MenuPopup(int menuId, WindowHandle window, int x, int y, bool asCo
     Failure("nobody expected " + name);
     return 0;
   }
-  const std::uint32_t command = expectedMenus.front().command;
+  const ExpectedMenu expected = expectedMenus.front();
   expectedMenus.pop_front();
+  menuIsUp = true;
+  if (expected.meanwhile) expected.meanwhile();
+  if (!menuIsUp) return 0;
+  menuIsUp = false;
+  const std::uint32_t command = expected.command;
   if (command == 0) return 0;
   const ResourceMenuItem* item = FindCommand(menu->second[0].items, command);
   if (!item || item->grayed) {
@@ -157,8 +164,12 @@ std::uint32_t MenuPopup(int menuId, WindowHandle window, int x, int y, bool asCo
   return 0;
 }
 
-void ExpectMenu(int menuId, std::uint32_t command) {
-  expectedMenus.push_back({menuId, command});
+void MenuPopupEnd() {
+  menuIsUp = false;
+}
+
+void ExpectMenu(int menuId, std::uint32_t command, std::function<void()> meanwhile) {
+  expectedMenus.push_back({menuId, command, std::move(meanwhile)});
 }
 
 int StringLoad(int id, char* buffer, int size) {
@@ -194,6 +205,7 @@ void BoxesReset() {
   expectedBoxes.clear();
   expectedFiles.clear();
   expectedMenus.clear();
+  menuIsUp = false;
   boxesShown.clear();
   fileDialogs.clear();
 }

@@ -71,8 +71,9 @@ int BoxesLeft();
 const std::vector<Box>& BoxesShown();
 // The next file dialog of the platform ends with this path, or is cancelled by "".
 void ExpectFileDialog(const char* path);
-// The next popup menu must be this one; `command` is chosen, 0 for none.
-void ExpectMenu(int menuId, std::uint32_t command);
+// The next popup menu must be this one; `command` is chosen, 0 for none, unless
+// `meanwhile`, which runs while the menu is up, takes it away.
+void ExpectMenu(int menuId, std::uint32_t command, std::function<void()> meanwhile = nullptr);
 // File dialogs and menus that are expected and have not come.
 int DialogsExpected();
 struct FileDialogCall {

@@ -246,6 +246,10 @@ std::uint32_t MenuPopup(int menuId, WindowHandle window, int x, int y, bool asCo
   return asCommand ? static_cast<std::uint32_t>(chosen) : 0;
 }
 
+void MenuPopupEnd() {
+  EndMenu();
+}
+
 int StringLoad(int id, char* buffer, int size) {
   wchar_t text[1024] = L"";
   LoadStringW(GetModuleHandleW(nullptr), static_cast<UINT>(id), text, 1024);
