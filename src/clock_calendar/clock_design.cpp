@@ -173,8 +173,10 @@ void ClockListTakeDesigns() {
   }
 }
 
-void ClockActivate() {
-  if (ClockDesign == ClockWanted) return;
+namespace {
+
+// Makes the wanted design the current one; of none there is nothing to draw.
+void TakeWanted() {
   ClockDesign = ClockWanted;
   ClockDesignFields fields{};
   const ClockDesignRow* row = DesignAt(ClockDesign);
@@ -194,10 +196,15 @@ void ClockActivate() {
   Turn(MinuteOutline(ClockHandKind, fields.minuteLength), kMinutePositions, ClockMinuteHand);
 }
 
+}  // namespace
+
+void ClockActivate() {
+  if (ClockDesign != ClockWanted) TakeWanted();
+}
+
 void ClockReactivate() {
   ClockWanted = ClockDesign;
-  ClockDesign = kClockNone;
-  ClockActivate();
+  TakeWanted();
 }
 
 bool ClockDesignDefaults(int place) {

@@ -203,6 +203,18 @@ TEST_F(ClockTest, TheCurrentDesignIsNotActivatedAgainButAReactivationTakesIt) {
   EXPECT_EQ(ClockDesign, 0);
 }
 
+TEST_F(ClockTest, AReactivationOfNoDesignLeavesNothingOfTheOneBefore) {
+  Design(kHandBar);
+  ASSERT_EQ(ClockHourHand.form, HandForm::Filled);
+  ClockDesign = kClockNone;  // as the settings file may hold it
+  ClockReactivate();
+  EXPECT_EQ(ClockDesign, kClockNone);
+  EXPECT_EQ(ClockWanted, kClockNone);
+  EXPECT_EQ(ClockHandKind, -1);
+  EXPECT_EQ(ClockHourHand.form, HandForm::None);
+  EXPECT_EQ(ClockMinuteHand.form, HandForm::None);
+}
+
 TEST_F(ClockTest, ANumberWithoutADesignBecomesTheCurrentOneWithNothingToDraw) {
   Design(kHandBar);
   for (const int number : {1, 49, 50, 254, 255, -1, 100000}) {
