@@ -56,6 +56,16 @@ void GoIdle() {
   CharaMotion = kMotionIdle;
 }
 
+std::int32_t PatternLength() {
+  return BoredPattern == 0 ? BoredLen1 : BoredLen2;
+}
+
+// The first frame of a pass is waited for like the others.
+void BeginPass() {
+  BoredLeft = PatternLength();
+  BoredHold = BoredSpeedValue(BoredSpeedSel);
+}
+
 void ChoosePattern() {
   if (BoredLen1 > 0 && BoredLen2 > 0) {
     BoredPattern = RandomBelow(2);
@@ -63,8 +73,7 @@ void ChoosePattern() {
     BoredPattern = BoredLen1 > 0 ? 0 : 1;
   }
   BoredRepeat = BoredRepeatValue(BoredRepeatSel);
-  BoredLeft = BoredPattern == 0 ? BoredLen1 : BoredLen2;
-  BoredHold = BoredSpeedValue(BoredSpeedSel);
+  BeginPass();
 }
 
 void EnterBlink() {
@@ -112,14 +121,13 @@ void StepBlink() {
 
 Step StepBored() {
   const bool first = BoredPattern == 0;
-  const std::int32_t length = first ? BoredLen1 : BoredLen2;
   if (BoredLeft == 0 && BoredRepeat != 0) {
-    BoredLeft = length;
+    BeginPass();
     // kept: an endless repeat is a count below 0 that is counted down like any other.
     BoredRepeat = static_cast<std::int32_t>(static_cast<std::uint32_t>(BoredRepeat) - 1U);
     return Step::Nothing;
   }
-  const std::int32_t place = length - BoredLeft;
+  const std::int32_t place = PatternLength() - BoredLeft;
   // bounded: the pattern in play may have been cut short by another character.
   if (BoredLeft <= 0 || place < 0 || place >= kBoredLenMax) {
     GoIdle();

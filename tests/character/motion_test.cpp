@@ -152,9 +152,8 @@ TEST_F(MotionTest, AnHourOfBoredomIs3781Steps) {
   EXPECT_EQ(CharaMotion, kMotionBored);
 }
 
-// Hold 1 between frames, two passes more. With step 0 the choice: wait, frame,
-// wait, frame, wait, frame, wait, new pass; a new pass shows its first frame at
-// the next step.
+// Hold 1 before each frame, two passes more. With step 0 the choice: wait, frame,
+// wait, frame, wait, frame, wait, new pass; a new pass begins as the first one did.
 TEST_F(MotionTest, ABoredPatternHoldsEachFrameAndRunsItsPasses) {
   Patterns({3, 4, 5});
   BoredSpeedSel = 1;
@@ -172,8 +171,9 @@ TEST_F(MotionTest, ABoredPatternHoldsEachFrameAndRunsItsPasses) {
   EXPECT_EQ(Step(), 1);
   EXPECT_EQ(CharaFrame, 5);
   EXPECT_EQ(BoredLeft, 0);
-  // From here step 7 of the whole: wait, new pass, and so on up to step 22.
-  EXPECT_EQ(Steps(16), (std::vector<int>{3, 5, 7, 10, 12, 14, 16}));
+  // Each pass from here: wait, new pass, and three times wait and frame. Then wait,
+  // frame 0.
+  EXPECT_EQ(Steps(18), (std::vector<int>{4, 6, 8, 12, 14, 16, 18}));
   EXPECT_EQ(CharaFrame, 0);
   EXPECT_EQ(CharaMotion, kMotionIdle);
 }
