@@ -14,7 +14,7 @@
 //   order  size     field
 //     1    23       magic "Mirrell Character File:"
 //     2    4        N, number of main characters
-//     3    N * 756  main character records
+//     3    N * 740  main character records
 //     4    4        A, number of alarm characters
 //     5    4 * A    their character numbers
 //     6    4 * N    second number list of the main characters
@@ -27,7 +27,7 @@
 //    13    50       WalkFlags, always all of them
 //    14    4 * N    BlinkSpeedSel of the main characters; older files end here
 //
-// A main character record, 756 bytes:
+// A main character record, 740 bytes:
 //     0    4        CharaNo, kept as 16 bits
 //     4    4        MenuFrame
 //     8    4        BlinkFrame
@@ -60,7 +60,9 @@ struct Tables {
   ClockDesignRow designs[kClockDesignMax];
 };
 
-// A file is read into this copy first, so that a broken one changes nothing.
+// A file is read into this copy first, so that a broken one changes nothing. Rows
+// behind a file's counts keep what they held: a current character that is no longer
+// listed stays as it was.
 Tables staged;
 
 void CopyIn(Tables& to) {
@@ -151,21 +153,11 @@ bool Fields(Transfer& t, Tables& f) {
   return good && t.Block(f.walkFlags, kWalkCharaMax);
 }
 
-// Rows behind the counts hold nothing, so that a number of theirs is 0.
-void ClearUnusedRows(Tables& f) {
-  for (int i = f.mainCount; i < kMainCharaMax; ++i) f.mains[i] = MainChara{};
-  for (int i = f.alarmCount; i < kAlarmCharaMax; ++i) f.alarms[i] = 0;
-  for (int i = f.walkCount; i < kWalkCharaMax; ++i) f.walks[i] = WalkChara{};
-  for (int i = f.designCount; i < kClockDesignMax; ++i) f.designs[i] = ClockDesignRow{};
-}
-
-// Field 14. Nothing is taken unless all of it is there.
+// Field 14, an interval at a time: those that are there are taken.
 bool ReadBlinkSpeeds(DataFile& data) {
-  std::int32_t speeds[kMainCharaMax];
   for (int i = 0; i < MainCharaCount; ++i) {
-    if (!DataReadBE32(data, speeds[i])) return false;
+    if (!DataReadBE32(data, MainCharas[i].blinkSpeedSel)) return false;
   }
-  for (int i = 0; i < MainCharaCount; ++i) MainCharas[i].blinkSpeedSel = speeds[i];
   return true;
 }
 
@@ -208,7 +200,6 @@ int CharaFileRead() {
     DataFailShort(t.data);
     return bad ? -2 : -1;
   }
-  ClearUnusedRows(staged);
   CopyOut(staged);
   const bool whole = ReadBlinkSpeeds(t.data);
   DataClose(t.data);

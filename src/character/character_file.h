@@ -13,8 +13,8 @@ int CharaFilePath(char* buffer);
 // FileStatus -1 when it cannot be opened and with FileStatus -2 when it ends too
 // early; -2 with FileStatus -2 when the magic is another one or a count is beyond
 // its table. The tables are taken over only with result 0. A file of an older
-// release ends before the blink intervals: it reads with 0, the intervals and the
-// clock designs' list values stay as they were.
+// release ends before the blink intervals: it reads with 0, the intervals that are
+// missing and the clock designs' list values stay as they were.
 int CharaFileRead();
 
 // Puts the fixed values of a new data set into the tables and writes the file. It

@@ -28,7 +28,7 @@ int DesignsTaken() {
   return count;
 }
 
-// One main character record, 756 bytes; the numbers count up from `base`.
+// One main character record, 740 bytes; the numbers count up from `base`.
 std::string MainRecord(int base) {
   std::string record;
   for (int i = 0; i < 16; ++i) record += BE32(base + i);
@@ -149,14 +149,25 @@ TEST_F(CharacterFileTest, EveryFieldReachesItsTable) {
   EXPECT_EQ(DesignsTaken(), 1);
 }
 
-TEST_F(CharacterFileTest, RowsBehindTheCountsAreEmptyAfterARead) {
+TEST_F(CharacterFileTest, RowsBehindTheCountsKeepWhatTheyHeld) {
   Fill();
   Put(kName, SmallFile());
   EXPECT_EQ(CharaFileRead(), 0);
-  EXPECT_EQ(MainCharas[2].menuFrame, 0);
-  EXPECT_EQ(AlarmCharas[3], 0);
-  EXPECT_EQ(WalkCharas[4].sound[0], '\0');
-  EXPECT_EQ(ClockDesigns[5].number, 0);
+  EXPECT_EQ(MainCharaCount, 2);
+  EXPECT_EQ(MainCharas[2].menuFrame, 1234);
+  EXPECT_EQ(AlarmCharas[3], 55);
+  EXPECT_STREQ(WalkCharas[4].sound, "old.wav");
+  EXPECT_EQ(ClockDesigns[5].number, 99);
+}
+
+TEST_F(CharacterFileTest, AFileThatEndsAmongTheBlinkIntervalsGivesThoseThatAreThere) {
+  MainCharas[0].blinkSpeedSel = 4;
+  MainCharas[1].blinkSpeedSel = 5;
+  Put(kName, SmallFile().substr(0, kEndOf13 + 4 + 3));
+  EXPECT_EQ(CharaFileRead(), 0);
+  EXPECT_EQ(MainCharas[0].blinkSpeedSel, 9);
+  EXPECT_EQ(MainCharas[1].blinkSpeedSel, 5);
+  EXPECT_EQ(DesignsTaken(), 0);
 }
 
 TEST_F(CharacterFileTest, AMissingFileGivesMinus1AndLeavesTheTables) {
@@ -196,12 +207,13 @@ TEST_F(CharacterFileTest, EveryTruncationIsToldAndLeavesTheTables) {
   for (std::size_t size = file.size(); size-- > 0;) {
     ASSERT_EQ(truncate(native.c_str(), static_cast<off_t>(size)), 0);
     Fill();
+    MainCharas[0].blinkSpeedSel = 0;
     FileStatus = 0;
     const int result = CharaFileRead();
     if (size >= kEndOf13) {
       EXPECT_EQ(result, 0) << size;
       EXPECT_EQ(MainCharaCount, 2) << size;
-      EXPECT_EQ(MainCharas[0].blinkSpeedSel, 0) << size;
+      EXPECT_EQ(MainCharas[0].blinkSpeedSel, size >= kEndOf13 + 4 ? 9 : 0) << size;
       EXPECT_EQ(DesignsTaken(), 0) << size;
     } else {
       EXPECT_EQ(result, -1) << size;
