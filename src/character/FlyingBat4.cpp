@@ -7,6 +7,7 @@
 #include "character/scl_notice.h"
 #include "platform/canvas.h"
 #include "platform/dialog.h"
+#include "platform/time.h"
 #include "platform/window.h"
 #include "resources/ids.h"
 #include "shell/shell.h"
@@ -43,8 +44,11 @@ void Begin(WindowHandle window) {
   NoticeShow(window);
 }
 
+// By the machine's date: the shared one stands still while the calendar is off.
 bool IsToday(const SclDate& date) {
-  return date.year == TodayYear && date.month == TodayMonth && date.day == TodayDay;
+  LocalTime now{};
+  TimeGetLocal(&now);
+  return date.year == now.year - 2000 && date.month == now.month - 1 && date.day == now.day - 1;
 }
 
 // "9 時 30 分", of an item's own day; of another day the hour of the table.
