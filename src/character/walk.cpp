@@ -184,15 +184,19 @@ void WalkEndTick(int slot) {
   if (opens) SendCommand(hMainWnd, kCarryOutCommand);
 }
 
+// The common flag counts for the whole round: a walk that ends in it leaves the
+// others their step.
 void WalkTickAll() {
+  if (!WalkActive) return;
   for (int slot = 0; slot < kWalkSlotMax; ++slot) {
-    if (WalkActive && WalkSlots[slot].active) WalkTick(slot);
+    if (WalkSlots[slot].active) WalkTick(slot);
   }
 }
 
 void WalkEndTickAll() {
+  if (!WalkEndActive) return;
   for (int slot = 0; slot < kWalkSlotMax; ++slot) {
-    if (WalkEndActive && WalkSlots[slot].ending) WalkEndTick(slot);
+    if (WalkSlots[slot].ending) WalkEndTick(slot);
   }
 }
 
@@ -203,6 +207,7 @@ void WalkAbort() {
     WalkSlots[slot].WalkLeft = 0;
     WalkSlots[slot].WalkWait = 0;
     WalkTick(slot);
+    WalkSlots[slot].active = false;  // a walk without frames does not end by its tick
   }
   WalkActive = false;
   for (int slot = 0; slot < kWalkSlotMax; ++slot) {
