@@ -55,7 +55,7 @@ bool HasOutline(int number, int frame) {
 }
 
 void Add(int number, int frame) {
-  const bool usable = frame >= 0 && frame < kFrameMax;
+  const bool usable = number >= 0 && frame >= 0 && frame < kFrameMax;
   played.pictures[played.count] = usable ? DibLoad(CharaBmpPath(number, frame)) : nullptr;
   played.hasOutline[played.count] = usable && HasOutline(number, frame);
   ++played.count;

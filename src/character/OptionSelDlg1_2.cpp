@@ -7,7 +7,6 @@
 #include "character/frames.h"
 #include "character/options.h"
 #include "character/stage.h"
-#include "clock_calendar/calendar.h"
 #include "filetools/open_history.h"
 #include "platform/canvas.h"
 #include "platform/dialog.h"
@@ -60,7 +59,7 @@ void DrawPreview(WindowHandle dialog) {
 void Show(WindowHandle dialog, int place) {
   shown = place;
   ControlSetText(dialog, kName, NameOf(place));
-  if (IsListed(place) && !previews[place]) {
+  if (IsListed(place) && !previews[place] && MainCharas[place].charaNo >= 1) {
     previews[place] = DibLoad(CharaBmpPath(MainCharas[place].charaNo - 1, 0));
   }
   DrawPreview(dialog);
@@ -84,12 +83,10 @@ void Take(WindowHandle dialog) {
   if (WalkRow(CharaSet) != 0) OpnHisTakeWalkSettings();
 }
 
-void Drop() {
+// Until OK nothing but the previews has changed, so there is nothing to roll back.
+void Leave(WindowHandle dialog) {
   OptionPreviewsFree();
-  if (!changed) return;
-  changed = false;
-  SysFileRead();
-  CalenFileRead();
+  MenuDialogEnd(dialog, kCancel);
 }
 
 bool Command(const Event& event) {
@@ -105,8 +102,7 @@ bool Command(const Event& event) {
       MenuDialogEnd(event.window, kOk);
       return true;
     case kCancel:
-      Drop();
-      MenuDialogEnd(event.window, kCancel);
+      Leave(event.window);
       return true;
     default:
       return true;
@@ -124,8 +120,8 @@ bool Proc(const Event& event) {
       DrawPreview(event.window);
       return true;
     case EventKind::Close:
-      Drop();
-      return false;
+      Leave(event.window);
+      return true;
     default:
       return false;
   }

@@ -18,6 +18,10 @@ namespace {
 
 constexpr int kWalkerMargin = 4;  // of the dialog template
 
+int OpenDwc(int number) {
+  return number < 0 ? kNoFile : FileOpen(CharaDwcPath(number), OpenMode::Read);
+}
+
 // One frame, from where the file stands.
 int ReadFrame(int file, Outline* outline) {
   outline->count = 0;
@@ -52,7 +56,7 @@ int ReadUpTo(int file, int frame, Outline* outline, int* frameCount) {
 }  // namespace
 
 int OutlineRead(int number, int frame, Outline* outline, int* frameCount) {
-  const int file = FileOpen(CharaDwcPath(number), OpenMode::Read);
+  const int file = OpenDwc(number);
   if (file == kNoFile) return -1;
   const int result = ReadUpTo(file, frame, outline, frameCount);
   FileClose(file);
@@ -61,7 +65,7 @@ int OutlineRead(int number, int frame, Outline* outline, int* frameCount) {
 
 int OutlineReadAll(int number, Outline (&outlines)[kFrameMax]) {
   for (Outline& outline : outlines) outline.count = 0;
-  const int file = FileOpen(CharaDwcPath(number), OpenMode::Read);
+  const int file = OpenDwc(number);
   if (file == kNoFile) return -1;
   unsigned char ignored = 0;
   int result = FileRead(file, &ignored, 1) == 1 ? 0 : -2;

@@ -16,7 +16,8 @@ struct Outline {
 };
 
 // Reads the outline of one frame (0 to 19) of a character (its number minus 1)
-// and the file's frame count. Returns 0; -1 when the file cannot be opened,
+// and the file's frame count. Returns 0; -1 when the file cannot be opened, or for
+// a number below 0, which has none;
 // nothing is changed then; -2 when the file does not reach the frame or a count is
 // beyond its table; -3 when it ends among the frame's points. With -2 and -3 the
 // points that were read stay.

@@ -29,7 +29,8 @@ constexpr int kMarginX = 20;
 constexpr int kMarginY = 10;
 constexpr int kSquare = 200;
 
-// The current main character's number minus 1; -1 when the list does not hold it.
+// The current main character's number minus 1; -1 when the list does not hold it,
+// or holds no character there.
 int StageCharaNumber() {
   const int place = CharaSetNo(CharaSet) - 1;
   return place >= 0 && place < kMainCharaMax ? MainCharas[place].charaNo - 1 : -1;
@@ -104,7 +105,7 @@ int CharaLoadStage() {
   const int number = StageCharaNumber();
   for (Outline& outline : StageOutlines) outline.count = 0;
   LoadIdleOutline(number);
-  FramesLoad(kStageRow, number);
+  if (number >= 0) FramesLoad(kStageRow, number);
   ImageHandle picture = FramePicture(kStageRow, 0);
   StageSizeFrom(picture);
   OutlineFlipForStage(&CurrentOutline, DibHeight(picture));

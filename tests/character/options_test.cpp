@@ -179,6 +179,22 @@ TEST_F(OptionsTest, CancelAndCloseLeaveTheCharacter) {
   }
 }
 
+TEST_F(OptionsTest, ForACharacterNumberOf0NoFileIsLookedFor) {
+  MainCharas[1].charaNo = 0;
+  MainCharas[1].menuFrame = 2;
+  PutBmp(0, 1, BmpFile(20, 20));
+  PutBmp(0, 3, BmpFile(20, 20));
+  Then([] {
+    FaultClear();
+    ChooseRow(hMenuDlg, 100, 1);
+    MotionPreviewRun(hMenuDlg, 1, Preview::Menu);
+    EXPECT_EQ(FaultCalls(FaultKind::Open), 0);
+    Press(hMenuDlg, 2);
+  });
+  Then([] { Press(hSubDlg, 2); });
+  CommandOptionMainCharacter(2281);
+}
+
 TEST_F(OptionsTest, AnEmptyListTakesNothingOver) {
   MainCharaCount = 0;
   Then([] {
@@ -374,6 +390,24 @@ TEST_F(AlarmOptionsTest, OkStoresBothSelectionsLoadsTheRowsAndSaves) {
   EXPECT_EQ(AlarmFrameWidth(AlarmRows[1], 0), 80);
   EXPECT_EQ(AlarmFrameWidth(AlarmRows[2], 0), 90);
   EXPECT_TRUE(SettingsWritten());
+}
+
+TEST_F(AlarmOptionsTest, NumbersThatTheWorldListDoesNotHoldShowEmptyRows) {
+  std::string file = Get("\\mirrell_chara_file.dcx");
+  // Behind the magic, the count and the main characters: the alarm list, of which 6
+  // becomes 0 and 9 becomes 13.
+  const std::size_t alarms = 23 + 4 + 3 * 740 + 4;
+  ASSERT_EQ(file.substr(alarms, 12), BE32(6) + BE32(8) + BE32(9));
+  file.replace(alarms, 12, BE32(0) + BE32(8) + BE32(13));
+  Put("\\mirrell_chara_file.dcx", file);
+  Then([] {
+    const std::vector<std::string> rows = {"未設定", "", "chara8", ""};
+    EXPECT_EQ(ListRows(hMenuDlg, 100), rows);
+    EXPECT_EQ(ListRows(hMenuDlg, 101), rows);
+    EXPECT_EQ(ListSelected(hMenuDlg, 100), 1);
+    Press(hMenuDlg, 2);
+  });
+  CommandOptionAlarmCharacter(2282);
 }
 
 TEST_F(AlarmOptionsTest, SelectionsBeyondTheListShowNobody) {

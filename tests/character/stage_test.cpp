@@ -164,6 +164,33 @@ TEST_F(StageTest, IndexesBeyondTheListTakeNothingOver) {
   EXPECT_EQ(CharaIndex, 0);
 }
 
+TEST_F(StageTest, ARowBehindTheListedCharactersIsTakenOverWithWhatItHolds) {
+  MainCharaCount = 2;
+  for (const int row : {2, 3, 49}) {
+    MainCharas[row].menuFrame = 10 + row;
+    MainCharas[row].bored1Frames[0] = 4;
+    MainCharas[row].bored1Frames[1] = -1;
+    MainCharas[row].bored2Frames[0] = -1;
+    CharaTakeCurrent(row);
+    EXPECT_EQ(MenuFrame, 10 + row);
+    EXPECT_EQ(BoredLen1, 1);
+    EXPECT_EQ(BoredLen2, 0);
+  }
+}
+
+TEST_F(StageTest, ForACharacterNumberOf0NoFileIsLookedFor) {
+  PutMain(7, {kTriangle});
+  PutDwc(0, DwcFile({kTriangle}));
+  PutBmp(0, 1, BmpFile(40, 30));
+  MainCharas[0].charaNo = 0;
+  FaultClear();
+  EXPECT_EQ(CharaLoadStage(), 0);
+  EXPECT_EQ(FaultCalls(FaultKind::Open), 0);
+  EXPECT_EQ(FramePicture(kStageRow, 0), nullptr);
+  EXPECT_EQ(CurrentOutline.count, 0);
+  EXPECT_EQ(StageFrameCount, 20);
+}
+
 TEST_F(StageTest, SelectingACharacterCopiesItsRecordAndTellsWhetherItIsAnother) {
   MainCharas[1].charaSet[100] = 77;
   MainCharas[1].menuFrame = 5;
@@ -293,6 +320,28 @@ TEST_F(RedrawTest, AFullReloadLoadsTheCharacterAndCutsTheWindowAnew) {
   EXPECT_EQ(RectWidth(WindowRect(hMainWnd)), 80);
   ASSERT_EQ(DibsDrawn(hMainWnd).size(), 1U);
   EXPECT_EQ(DibsDrawn(hMainWnd)[0].x2, 60);
+}
+
+// A frame without a picture sets no region, so that what is due afterwards comes from
+// the move alone.
+TEST_F(RedrawTest, ANewSizeAsksForARepaintOnlyWithoutAnOutline) {
+  // The drawings of a Paint that is due; a box lets it come.
+  const auto due = [] {
+    DrawingClear();
+    ExpectBox("t", "c", BoxAnswer::Ok, [] {});
+    MessageBoxRun(hMainWnd, "t", "c", BoxButtons::Ok, BoxIcon::Exclamation);
+    return DibsDrawn(hMainWnd).size();
+  };
+  due();
+  CharaFrame = 9;
+  for (const int points : {3, 0, 3}) {
+    CurrentOutline.count = points;
+    StageAppliedWidth = 1;
+    StageRedraw = 1;
+    CommandRedrawStage();
+    EXPECT_EQ(StageAppliedWidth, StageWidth);
+    EXPECT_EQ(due(), points == 0 ? 1U : 0U) << points;
+  }
 }
 
 TEST_F(RedrawTest, AFullReloadWithoutACharacterLeavesTheWindow) {
