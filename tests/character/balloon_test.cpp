@@ -102,8 +102,10 @@ TEST_F(BalloonTest, AGroupOf30FilesGivesATallBalloonWithEveryNameOnItsOwnLine) {
   WithBalloon([](WindowHandle balloon) {
     EXPECT_EQ(RectHeight(WindowRect(balloon)), 30 * 20 + ScreenMetric(Metric::CaptionHeight) + 24);
     EXPECT_EQ(DrawnTexts(balloon).size(), 31U);
-    EXPECT_TRUE(TextStands(balloon, "\"file0\"", 10, 4));
-    EXPECT_TRUE(TextStands(balloon, "\"file29\"", 10, 4 + 29 * 18));
+    for (int i = 0; i < 30; ++i) {
+      const std::string name = "\"file" + std::to_string(i) + "\"";
+      EXPECT_TRUE(TextStands(balloon, name.c_str(), 10, 4 + i * 18)) << i;
+    }
     EXPECT_TRUE(TextStands(balloon, " をオープン", 10, 4 + 30 * 18));
   });
 }
