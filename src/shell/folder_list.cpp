@@ -16,6 +16,7 @@ constexpr int kBandHeight = 20;
 constexpr int kBandGap = 2;
 constexpr int kUpHeight = 22;
 constexpr int kTextInset = 2;
+constexpr int kAnyFolderSize = 1024;
 
 int UpWidth() {
   return 2 * CharWidth;
@@ -28,17 +29,32 @@ void UpdateUp(const FolderList& list) {
   ControlEnable(list.dialog, kFolderUpId, up);
 }
 
-void ReadCurrent(const FolderList& list) {
-  char current[kFolderSize];
-  if (FolderGetCurrent(current, sizeof current) > 0) TextCopy(list.folder, kFolderSize, current);
+// False for a current folder that is too long for its owner's buffer.
+bool ReadCurrent(const FolderList& list) {
+  char current[kAnyFolderSize];
+  const int length = FolderGetCurrent(current, sizeof current);
+  if (length <= 0 || length >= kFolderSize) return false;
+  TextCopy(list.folder, kFolderSize, current);
+  return true;
 }
 
-// To list.folder, as far as that can be done: what is shown is where we are.
+// What is shown is where we are: in `folder`, or where we were if that cannot be gone
+// to or is too long. One that was too long before gives way to what it lies in.
+void GoTo(const FolderList& list, const char* folder) {
+  char before[kAnyFolderSize] = "";
+  FolderGetCurrent(before, sizeof before);
+  FolderSetCurrent(folder);
+  if (ReadCurrent(list)) return;
+  FolderSetCurrent(before);
+  while (!ReadCurrent(list) && FolderSetCurrent("..")) {
+  }
+}
+
+// To list.folder, as far as that can be done.
 void Go(const FolderList& list) {
-  FolderSetCurrent(list.folder);
+  GoTo(list, list.folder);
   ListClear(list.dialog, kFolderListId);
   ListFolders(list.dialog, kFolderListId);
-  ReadCurrent(list);
   FolderListPaint(list);
   if (list.changed) list.changed();
   UpdateUp(list);
@@ -82,9 +98,8 @@ void FolderListOpen(FolderList& list, WindowHandle dialog, const Rect& place, in
   ControlCreate(dialog, ControlKind::ListBox, kFolderListId, place, "");
   ControlCreate(dialog, ControlKind::Button, kFolderUpId,
                 {upLeft, bandTop, upLeft + UpWidth(), bandTop + kUpHeight}, "↑");
-  if (start[0] != '\0') FolderSetCurrent(start);
   folder[0] = '\0';
-  ReadCurrent(list);
+  GoTo(list, start);
   ListFolders(dialog, kFolderListId);
   UpdateUp(list);
 }
