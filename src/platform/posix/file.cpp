@@ -12,6 +12,7 @@
 #include <string>
 #include <vector>
 
+#include "platform/common/cp932.h"
 #include "platform/posix/faults.h"
 #include "platform/posix/live_counts.h"
 #include "platform/posix/posix_paths.h"
@@ -60,7 +61,7 @@ void FillName(const char* name, SearchEntry* entry) {
     return;
   }
   const std::string text = PosixToCp932(name);
-  length = std::min(text.size(), sizeof entry->name - 1);
+  length = Cp932Cut(text, sizeof entry->name - 1);
   std::memcpy(entry->name, text.c_str(), length);
   entry->name[length] = '\0';
 }

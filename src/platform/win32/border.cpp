@@ -1,7 +1,8 @@
 #include "platform/win32/border.h"
 
-#include <algorithm>
 #include <cstring>
+
+#include "platform/common/cp932.h"
 
 namespace {
 constexpr UINT kCodePage = 932;
@@ -28,10 +29,10 @@ std::string Narrow(const wchar_t* text, int length) {
 int CopyNarrow(const wchar_t* text, char* buffer, int size) {
   if (size <= 0) return 0;
   const std::string narrow = Narrow(text);
-  const int length = std::min(static_cast<int>(narrow.size()), size - 1);
-  std::memcpy(buffer, narrow.data(), static_cast<std::size_t>(length));
+  const std::size_t length = Cp932Cut(narrow, static_cast<std::size_t>(size) - 1);
+  std::memcpy(buffer, narrow.data(), length);
   buffer[length] = '\0';
-  return length;
+  return static_cast<int>(length);
 }
 
 bool CopyNarrowWhole(const wchar_t* text, char* buffer, int size) {
