@@ -26,6 +26,7 @@ constexpr int kTextX = 10;
 constexpr int kTop = 10;
 constexpr int kRowHeight = 20;
 constexpr int kLastRow = 9;
+constexpr std::int32_t kFarAway = 0x1000000;
 constexpr int kStageOverlap = 50;  // a panel on the right covers that much of the stage
 
 constexpr int kRowMax = 8;
@@ -115,9 +116,12 @@ void Paint(WindowHandle panel) {
 
 // Beside the stage, on the side where the screen has more room.
 Point PlaceFor(int width, int height) {
-  const bool stageIsLeft = ScreenWidth / 2 > StageX + StageWidth / 2;
-  return {stageIsLeft ? StageX + StageWidth - kStageOverlap : StageX - width,
-          ScreenHeight <= StageY + height ? ScreenHeight - height : StageY};
+  // bounded: the settings file may hold any place.
+  const int x = std::clamp(StageX, -kFarAway, kFarAway);
+  const int y = std::clamp(StageY, -kFarAway, kFarAway);
+  const bool stageIsLeft = ScreenWidth / 2 > x + StageWidth / 2;
+  return {stageIsLeft ? x + StageWidth - kStageOverlap : x - width,
+          ScreenHeight <= y + height ? ScreenHeight - height : y};
 }
 
 void Init(WindowHandle panel) {

@@ -17,6 +17,7 @@ int quitCode = 0;
 namespace {
 
 constexpr int kDeepestNesting = 100;
+constexpr int kFarthest = 0x8000000;  // no window stands farther away
 int nesting = 0;
 
 WindowHandle mainWindow = nullptr;
@@ -268,7 +269,9 @@ void WindowMove(WindowHandle window, int x, int y, int width, int height, bool r
   const WindowPointer found = WindowUse(window, "WindowMove");
   if (!found) return;
   const Rect before = WindowClientRect(window);
-  found->rect = {x, y, x + std::max(width, 0), y + std::max(height, 0)};
+  const int left = std::clamp(x, -kFarthest, kFarthest);
+  const int top = std::clamp(y, -kFarthest, kFarthest);
+  found->rect = {left, top, left + std::max(width, 0), top + std::max(height, 0)};
   found->dirty = found->dirty || (repaint && found->visible);
   const Rect after = WindowClientRect(window);
   if (!found->wasShown || (before.right == after.right && before.bottom == after.bottom)) return;
