@@ -1,7 +1,7 @@
 #include "schedule/table_scroll.h"
 
-#include "platform/dialog.h"
 #include "platform/window.h"
+#include "shell/scroll_set.h"
 #include "shell/shell.h"
 
 TableView SclTableView;
@@ -14,7 +14,7 @@ constexpr std::int32_t kRepeatTicks = 5;
 
 void Show(WindowHandle window, TableView& view) {
   SendPaint(window);
-  ScrollBarSet(view.scrollBar, view.lines, view.pageLines - 1, view.firstLine);
+  ScrollSet(window, 0, kTableLineHeight, view.lines, view.firstLine, view.scrollBar);
   AutoScrollDelay = kRepeatTicks;
 }
 

@@ -172,6 +172,21 @@ TEST_F(TableScrollTest, DownMovesALineEverySixTicksUntilTheLastPage) {
   EXPECT_EQ(TableScrollDirection, ScrollDirection::None);
 }
 
+// The bar's own height tells its page, in lines of 20 pixels, whatever the table has.
+TEST_F(TableScrollTest, TheBarHasThePageOfItsHeightAndIsOffWhenAllLinesFit) {
+  WindowMove(SclTableView.scrollBar, 0, 0, 16, 160, false);
+  TableScrollDirection = ScrollDirection::Down;
+  MainTick();
+  EXPECT_EQ(ScrollBarState(SclTableView.scrollBar).lines, 12);
+  EXPECT_EQ(ScrollBarState(SclTableView.scrollBar).page, 7);
+  EXPECT_EQ(ScrollBarState(SclTableView.scrollBar).position, 1);
+  EXPECT_TRUE(ScrollBarState(SclTableView.scrollBar).enabled);
+  WindowMove(SclTableView.scrollBar, 0, 0, 16, 240, false);
+  Ticks(6);
+  EXPECT_EQ(SclTableView.firstLine, 2);
+  EXPECT_FALSE(ScrollBarState(SclTableView.scrollBar).enabled);
+}
+
 TEST_F(TableScrollTest, UpMovesALineUntilTheFirst) {
   TableScrollDirection = ScrollDirection::Up;
   SclTableView.firstLine = 1;
