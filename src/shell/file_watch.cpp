@@ -41,10 +41,16 @@ bool StampRead(WatchedFile file, std::uint64_t* stamp) {
   return true;
 }
 
-// A missing file is no change.
-bool HasChanged(WatchedFile file) {
-  std::uint64_t stamp = 0;
-  return StampRead(file, &stamp) && stamp != stamps[static_cast<int>(file)];
+// True for a file that is there with another stamp than the stored one; that stamp
+// is stored. It is the one from before the file is read, so that what is written
+// meanwhile is a change of its own.
+bool ChangeTake(WatchedFile file) {
+  std::uint64_t& stored = stamps[static_cast<int>(file)];
+  std::uint64_t stamp = stored;
+  StampRead(file, &stamp);
+  if (stamp == stored) return false;
+  stored = stamp;
+  return true;
 }
 
 // What the schedule program knows of the selected calendar.
@@ -63,10 +69,9 @@ bool CalendarSnapshotDiffers() {
 
 void CalendarLook() {
   // The dialogs that edit the calendars hold their changes in memory.
-  if (DlgIdMenu == 2007 || DlgIdMenu == 2009 || !HasChanged(WatchedFile::Calendar)) return;
+  if (DlgIdMenu == 2007 || DlgIdMenu == 2009 || !ChangeTake(WatchedFile::Calendar)) return;
   CalendarSnapshotTake();
   CalenFileRead();
-  FileWatchStampTake(WatchedFile::Calendar);
   calendarReload = true;
   clockRestart = true;
   calendarTell = CalendarSnapshotDiffers();
@@ -86,9 +91,8 @@ void CalendarAnswer() {
 
 void CharacterLook() {
   // The dialogs that choose characters work on the tables.
-  if (DlgIdMenu == 2013 || DlgIdMenu == 2014 || !HasChanged(WatchedFile::Character)) return;
+  if (DlgIdMenu == 2013 || DlgIdMenu == 2014 || !ChangeTake(WatchedFile::Character)) return;
   CharaFileRead();
-  FileWatchStampTake(WatchedFile::Character);
   alarmReload = true;
   characterReload = true;
   clockRestart = true;
@@ -117,9 +121,7 @@ void ClockAnswer() {
 }
 
 void ClockAlarmLook() {
-  if (!HasChanged(WatchedFile::ClockAlarm)) return;
-  ClockAlarmFileRead();
-  FileWatchStampTake(WatchedFile::ClockAlarm);
+  if (ChangeTake(WatchedFile::ClockAlarm)) ClockAlarmFileRead();
 }
 
 }  // namespace
@@ -129,11 +131,10 @@ void FileWatchStampTake(WatchedFile file) {
 }
 
 void FileWatch() {
-  CalendarLook();
-  CalendarAnswer();
-  CharacterLook();
-  AlarmAnswer();
-  CharacterAnswer();
-  ClockAnswer();
-  ClockAlarmLook();
+  constexpr void (*kSteps[])() = {CalendarLook,    CalendarAnswer, CharacterLook, AlarmAnswer,
+                                  CharacterAnswer, ClockAnswer,    ClockAlarmLook};
+  for (const auto step : kSteps) {
+    if (Quitting) return;  // a box of an answer may have been up at the end of the program
+    step();
+  }
 }

@@ -36,6 +36,7 @@ Colour FaceBrushColour;
 
 unsigned char* CastBlock;
 unsigned char* ScopeBlock;
+bool Quitting;
 
 int CharWidth;
 int LineHeight;

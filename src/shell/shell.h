@@ -84,6 +84,10 @@ inline constexpr int kScopeBlockSize = 4700000;  // folder statistics, second ta
 extern unsigned char* CastBlock;
 extern unsigned char* ScopeBlock;
 
+// The shutdown has run, perhaps from inside a modal loop of a tick: what that tick
+// has left to do stays undone.
+extern bool Quitting;
+
 // --- Text and screen figures.
 
 extern int CharWidth;    // average width of a column of the text font

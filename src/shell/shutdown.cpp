@@ -21,6 +21,7 @@ void BlockFree(unsigned char*& block) {
 }  // namespace
 
 void Shutdown() {
+  Quitting = true;
   TickTimerStop();
   BlockFree(ScopeBlock);
   ClockPreviewFree();

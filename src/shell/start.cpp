@@ -53,6 +53,7 @@ void ScreenFiguresTake() {
 
 void StartSequence(WindowHandle window) {
   hMainWnd = window;
+  Quitting = false;
   DiagnosticsShowAll();
   FileDialogDefaultsSet();
   TextFiguresTake(window);

@@ -193,7 +193,10 @@ constexpr TickStep kSteps[] = {
 
 void MainTick() {
   ++TickCount;
-  for (const TickStep& step : kSteps) step.run();
+  for (const TickStep& step : kSteps) {
+    if (Quitting) return;
+    step.run();
+  }
 }
 
 int TicksUntilDue() {

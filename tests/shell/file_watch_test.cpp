@@ -1,7 +1,11 @@
 // The watch on the files that sibling programs write.
+#include "shell/file_watch.h"
+
+#include "character/chara_set.h"
 #include "character/character.h"
 #include "character/character_file.h"
 #include "character/character_tables.h"
+#include "character/frames.h"
 #include "character/stage.h"
 #include "clock_calendar/calendar.h"
 #include "clock_calendar/clock.h"
@@ -10,6 +14,7 @@
 #include "schedule/application_list.h"
 #include "shell/settings.h"
 #include "shell/shell.h"
+#include "tests/character/chara_files.h"
 #include "tests/support/program.h"
 
 namespace {
@@ -38,6 +43,14 @@ class FileWatchTest : public ProgramTest {
     FileWatchCount = 0;
   }
   static void MainTick1() { Ticks(1); }
+
+  // The first note of January of the first calendar: names and switches take 3986
+  // bytes, notes begin at 34 of the month block.
+  static void ChangeNote() {
+    std::string file = FileBytes(kCalendarFile);
+    file.at(3986 + 34) = 'x';
+    ASSERT_TRUE(PutFile(kCalendarFile, file));
+  }
 
   // A sibling gives the first main character another number.
   static void ChangeCharacterFile(unsigned char number) {
@@ -99,12 +112,85 @@ TEST_F(FileWatchTest, AStampThatCannotBeReadLeavesTheStoredStampAsItIs) {
   EXPECT_EQ(MainCharas[0].charaNo, 3);
 }
 
-TEST_F(FileWatchTest, ACharacterChangeMarksTheStageForAReload) {
+TEST_F(FileWatchTest, ACharacterChangeLoadsTheStageAnewAndRestartsTheClock) {
+  MakeFolder("C:\\mirrell\\キャラクタ");
+  ASSERT_TRUE(PutFile("C:\\mirrell\\キャラクタ\\Chara3_1.bmp", BmpFile(40, 30)));
   ChangeCharacterFile(3);
-  Ticks(201);
-  // Command 2293 has run by then and found nothing to draw for a set without
-  // pictures.
+  ListenToEverything();
+  Ticks(200);
+  EXPECT_EQ(TakeHeard(), Words{});
+  Ticks(1);
+  EXPECT_EQ(TakeHeard(), (Words{"main 2293", "main 2254"}));
+  EXPECT_NE(FramePicture(kStageRow, 0), nullptr);
   EXPECT_EQ(StageRedraw, kRedrawNothing);
+}
+
+// Offsets in the history: 240503 the sound, 240803 the flags of the walk.
+TEST_F(FileWatchTest, AnotherSelectedCharacterIsCarriedIntoTheOpenHistory) {
+  const char history[] = "C:\\mirrell\\OpnFileHis.lis";
+  ChangeCharacterFile(2);
+  Ticks(201);
+  EXPECT_FALSE(FileThere(history)) << "the selected character is the same one";
+  SetCharaSetNo(CharaSet, 2);
+  std::string file = FileBytes(kCharacterFile);
+  // The flags of the walking rows stand before the four blink intervals.
+  file.at(file.size() - 16 - 50) = 5;
+  // The first main character walks with row 1: 64 bytes of numbers, then its record.
+  file.at(kFirstNumber + 64 + kCharaSetWalkRow) = 1;
+  ASSERT_TRUE(PutFile(kCharacterFile, file));
+  SetFileTime(kCharacterFile, 3000000);
+  Ticks(201);
+  ASSERT_TRUE(FileThere(history));
+  EXPECT_STREQ(FileBytes(history).c_str() + 240503, "旗印.wav");
+  EXPECT_EQ(FileBytes(history).at(240803), 5);
+  EXPECT_EQ(CharaSetNo(CharaSet), 1);
+}
+
+TEST_F(FileWatchTest, ACalendarChangeIsAnsweredInItsOrder) {
+  ApliCount = 1;
+  ApliSelected = 1;
+  CalenShow = 1;
+  hCalenWnd = OpenListener("calendar");
+  ChangeNote();
+  SetFileTime(kCalendarFile, 2000000);
+  ExpectBox("予定表でカレンダー変更を有効にするには、予定表を起動しセーブする必要があります",
+            "カレンダーが変更されました(ミルレール)");
+  ListenToEverything();
+  FileWatch();
+  EXPECT_EQ(TakeHeard(), (Words{"main 2381", "calendar close", "main 2379", "main 2382", "main 2254"}));
+  CalenShow = 0;
+  SetFileTime(kCalendarFile, 3000000);
+  FileWatch();
+  EXPECT_EQ(TakeHeard(), (Words{"main 2381", "calendar close", "main 2254"}));
+  WindowDestroy(hCalenWnd);
+}
+
+// A sibling writes twice; the second time while the first is being read.
+TEST_F(FileWatchTest, AWriteWhileTheFileIsReadIsAChangeOfItsOwn) {
+  ChangeCharacterFile(3);
+  FaultMeanwhile(FaultKind::Read, 1, [] { SetFileTime(kCharacterFile, 5000000); });
+  Ticks(201);
+  ASSERT_TRUE(FaultWasMet());
+  FaultClear();
+  RemoveFile(kSettingsFile);
+  ListenToEverything();
+  Ticks(201);
+  EXPECT_EQ(TakeHeard(), (Words{"main 2293", "main 2254"}));
+  Ticks(201);
+  EXPECT_EQ(TakeHeard(), Words{});
+}
+
+TEST_F(FileWatchTest, WhenTheProgramEndsInABoxOfTheWatchTheRestIsLeft) {
+  ApliCount = 1;
+  ApliSelected = 1;
+  ChangeNote();
+  SetFileTime(kCalendarFile, 2000000);
+  ChangeCharacterFile(3);
+  ExpectBox("予定表でカレンダー変更を有効にするには、予定表を起動しセーブする必要があります",
+            "カレンダーが変更されました(ミルレール)", BoxAnswer::Ok, [] { SendClose(hMainWnd); });
+  Ticks(201);
+  EXPECT_TRUE(QuitWasAsked());
+  EXPECT_EQ(MainCharas[0].charaNo, 1);
 }
 
 TEST_F(FileWatchTest, AChangedCalendarTellsTheScheduleProgramOnlyWhenTheSelectedOneDiffers) {
@@ -114,11 +200,7 @@ TEST_F(FileWatchTest, AChangedCalendarTellsTheScheduleProgramOnlyWhenTheSelected
   Ticks(201);
   EXPECT_TRUE(BoxesShown().empty()) << "the same content under a new time";
 
-  std::string file = FileBytes(kCalendarFile);
-  // The first note of January of the first calendar: names and switches take 3986
-  // bytes, notes begin at 34 of the month block.
-  file.at(3986 + 34) = 'x';
-  ASSERT_TRUE(PutFile(kCalendarFile, file));
+  ChangeNote();
   SetFileTime(kCalendarFile, 3000000);
   ExpectBox("予定表でカレンダー変更を有効にするには、予定表を起動しセーブする必要があります",
             "カレンダーが変更されました(ミルレール)");
@@ -134,7 +216,10 @@ TEST_F(FileWatchTest, TheCalendarIsLeftAloneWhileItsDialogsAreOpen) {
     Ticks(201);
     EXPECT_FALSE(FileThere(kSettingsFile));
     DlgIdMenu = 0;
-    Ticks(201);
+    ASSERT_EQ(FileWatchCount, 0);
+    Ticks(200);
+    EXPECT_FALSE(FileThere(kSettingsFile));
+    Ticks(1);
     EXPECT_TRUE(FileThere(kSettingsFile)) << "rebuilding the years saves the settings";
   }
 }

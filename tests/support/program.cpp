@@ -1,6 +1,7 @@
 #include "tests/support/program.h"
 
 #include <cstring>
+#include <map>
 
 #include "character/character.h"
 #include "character/character_tables.h"
@@ -26,23 +27,37 @@
 namespace {
 
 std::vector<std::string> heard;
+std::map<WindowHandle, std::string> names;  // of the listeners that have one, with a blank
 bool started = false;
+bool everything = false;   // main window and programs are listened to
+std::size_t programs = 0;  // that were heard of
+
+void Hear(const std::string& text) {
+  for (; everything && programs < ProcessesStarted().size(); ++programs) heard.emplace_back("start");
+  heard.push_back(text);
+}
 
 bool Listen(const Event& event) {
+  const std::string name = names.contains(event.window) ? names[event.window] : "";
   switch (event.kind) {
     case EventKind::Command:
-      heard.push_back("command " + std::to_string(event.command));
+      Hear(name + "command " + std::to_string(event.command));
       break;
     case EventKind::Paint:
-      heard.push_back("paint");
+      Hear(name + "paint");
       break;
     case EventKind::Close:
-      heard.push_back("close");
+      Hear(name + "close");
       break;
     default:
       break;
   }
-  return false;
+  return everything && event.kind == EventKind::Close;  // else a dialog is sent 2
+}
+
+bool MainListened(const Event& event) {
+  if (everything && event.kind == EventKind::Command) Hear("main " + std::to_string(event.command));
+  return MainWindowProc(event);
 }
 
 template <typename Table>
@@ -65,6 +80,7 @@ void ShellReset() {
     *counter = 0;
   }
   BackUpActive = false;
+  Quitting = false;
   MailCheckOn = false;
   PendingCommandLine[0] = '\0';
   CommandLine[0] = '\0';
@@ -103,6 +119,8 @@ void ProgramTest::SetUp() {
   ShellReset();
   CharacterReset();
   heard.clear();
+  names.clear();
+  everything = false;
   started = false;
 }
 
@@ -116,7 +134,7 @@ void ProgramTest::TearDown() {
 void ProgramTest::StartProgram(const char* commandLine) {
   char name[100];
   StringLoad(IDR_MAIN, name, sizeof name);
-  const MainWindowClass mainClass{name, name, IDI_MAIN, IDI_SMALL, IDR_MAIN, MainWindowProc};
+  const MainWindowClass mainClass{name, name, IDI_MAIN, IDI_SMALL, IDR_MAIN, MainListened};
   started = true;
   const WindowHandle window = MainWindowCreate(mainClass, 500, 300, 120, 160);
   ASSERT_NE(window, nullptr);
@@ -128,12 +146,18 @@ void Ticks(int times) {
   for (int i = 0; i < times; ++i) MainTick();
 }
 
-WindowHandle OpenListener() {
+WindowHandle OpenListener(const char* name) {
   HeadlessResourceFile(MIRRELL_TEST_RES_FILE);
   const WindowHandle dialog = DialogOpen(IDD_TestControls, nullptr, Listen);
   HeadlessResourceFile(MIRRELL_RES_FILE);
   heard.clear();
+  if (name[0] != '\0') names[dialog] = std::string(name) + " ";
   return dialog;
+}
+
+void ListenToEverything() {
+  everything = true;
+  programs = ProcessesStarted().size();
 }
 
 std::vector<std::string> TakeHeard() {

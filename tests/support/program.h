@@ -17,7 +17,11 @@ class ProgramTest : public DesktopTest {
 // Runs the tick handler `times` times.
 void Ticks(int times);
 
-// Opens a modeless test dialog with controls; its handler keeps what it hears.
-WindowHandle OpenListener();
-// What listeners heard since the last call: "command 2375", "paint", "close" ...
+// Opens a modeless test dialog with controls; its handler keeps what it hears, with
+// the listener's name in front if it has one.
+WindowHandle OpenListener(const char* name = "");
+// From now on the commands of the main window are heard too ("main 2293"), and what
+// programs were started in between ("start").
+void ListenToEverything();
+// What was heard since the last call: "command 2375", "paint", "close" ...
 std::vector<std::string> TakeHeard();

@@ -1,10 +1,13 @@
 #include "platform/posix/faults.h"
 
+#include <utility>
+
 namespace {
 struct Plan {
   int calls = 0;
   int nth = 0;  // 0: none
   bool andAfter = false;
+  std::function<void()> act;  // instead of a failure
 };
 Plan plans[static_cast<int>(FaultKind::Count)];
 bool met = false;
@@ -15,12 +18,17 @@ Plan& PlanOf(FaultKind kind) {
 }  // namespace
 
 void FaultArm(FaultKind kind, int nth) {
-  PlanOf(kind) = {0, nth, false};
+  PlanOf(kind) = {0, nth, false, nullptr};
   met = false;
 }
 
 void FaultArmFrom(FaultKind kind, int nth) {
-  PlanOf(kind) = {0, nth, true};
+  PlanOf(kind) = {0, nth, true, nullptr};
+  met = false;
+}
+
+void FaultMeanwhile(FaultKind kind, int nth, std::function<void()> act) {
+  PlanOf(kind) = {0, nth, false, std::move(act)};
   met = false;
 }
 
@@ -40,7 +48,9 @@ bool FaultWasMet() {
 bool FaultMeets(FaultKind kind) {
   Plan& plan = PlanOf(kind);
   ++plan.calls;
-  const bool fails = plan.nth > 0 && (plan.andAfter ? plan.calls >= plan.nth : plan.calls == plan.nth);
-  met = met || fails;
-  return fails;
+  const bool meets = plan.nth > 0 && (plan.andAfter ? plan.calls >= plan.nth : plan.calls == plan.nth);
+  met = met || meets;
+  if (!meets || !plan.act) return meets;
+  plan.act();
+  return false;
 }

@@ -2,6 +2,8 @@
 // a run goes through without meeting it.
 #pragma once
 
+#include <functional>
+
 enum class FaultKind {
   Open,    // FileOpen gives kNoFile
   Create,  // FileCreate gives kNoFile
@@ -31,6 +33,10 @@ void FaultArm(FaultKind kind, int nth);
 
 // Lets every call of that kind from the `nth` on fail.
 void FaultArmFrom(FaultKind kind, int nth);
+
+// Runs `act` at the `nth` call (from 1) of that kind, which does not fail: what another
+// process does meanwhile.
+void FaultMeanwhile(FaultKind kind, int nth, std::function<void()> act);
 
 // Takes every fault back and sets the counts to 0.
 void FaultClear();

@@ -1,0 +1,235 @@
+// The order of the tick's steps, the commands that they send, and the end of the
+// program from inside one of them.
+#include <algorithm>
+#include <memory>
+
+#include "character/character.h"
+#include "character/character_file.h"
+#include "character/character_tables.h"
+#include "character/motion.h"
+#include "character/options.h"
+#include "character/scl_notice.h"
+#include "character/walk.h"
+#include "clock_calendar/clock.h"
+#include "filetools/open_state.h"
+#include "mail_music/mail.h"
+#include "platform/dialog.h"
+#include "platform/window.h"
+#include "resources/ids.h"
+#include "schedule/table_scroll.h"
+#include "shell/settings.h"
+#include "shell/shell.h"
+#include "shell/text.h"
+#include "shell/tick.h"
+#include "tests/support/program.h"
+
+namespace {
+
+using Words = std::vector<std::string>;
+
+class TickOrderTest : public ProgramTest {
+ protected:
+  void SetUp() override {
+    ProgramTest::SetUp();
+    SetFactorySettings();
+    ASSERT_EQ(CharaFileWrite(), 0);
+    StartProgram("hello");
+    group_ = std::make_unique<OpnGroupRec>();
+  }
+  void TearDown() override {
+    for (WalkSlot& slot : WalkSlots) slot = WalkSlot{};
+    WalkActive = WalkEndActive = false;
+    OpnPendingGroup = nullptr;
+    for (const WindowHandle window : OpenWindows()) {
+      if (window != hMainWnd && WindowIsOpen(window)) WindowDestroy(window);
+    }
+    AlarmSlotPut(0, AlarmSlot{});
+    ClockAlarmForget();
+    ClockAlarmSlot = -1;
+    BlinkFrame = 0;
+    ProgramTest::TearDown();
+  }
+  void GroupPending() {
+    group_->fileCount = 1;
+    TextCopy(group_->fileName[0], kOpnTextSize, "a.txt");
+    TextCopy(group_->progName[0], kOpnTextSize, "edit.exe");
+    OpnPendingGroup = group_.get();
+  }
+  // An alarm at the clock's 9:30.
+  static void AlarmNow() {
+    AlarmSlot alarm{};
+    alarm.enabled = true;
+    alarm.hour = 9;
+    alarm.minute = 30;
+    AlarmSlotPut(0, alarm);
+    ClockAlarmCheckReset();
+  }
+  // The next step of the motion shows frame 0 again.
+  static void MotionDue() {
+    CharaMotion = kMotionBlink;
+    BlinkDone = true;
+    BoredHold = 0;
+    CharaStepCount = 16;
+  }
+  static void WalkStepDue(WindowHandle window) {
+    WalkActive = true;
+    WalkSlots[0].active = true;
+    WalkSlots[0].frameCount = 1;
+    WalkSlots[0].WalkLeft = 2;
+    WalkSlots[0].walkWindow = window;
+  }
+  static void WalkEndDue(WindowHandle window) {
+    WalkEndActive = true;
+    WalkSlots[1].ending = true;
+    WalkSlots[1].endWait = 1;
+    WalkSlots[1].endWindow = window;
+  }
+  static void TableScrolls(WindowHandle table) {
+    hSclTableWnd = table;
+    SclTableView.lines = 12;
+    SclTableView.pageLines = 10;
+    SclTableView.scrollBar = ControlCreate(table, ControlKind::VerticalScrollBar, 900, {0, 0, 16, 200}, "");
+    TableScrollDirection = ScrollDirection::Down;
+  }
+  // The character file as a sibling leaves it.
+  static void CharacterFileChanges() {
+    SetFileTime("C:\\mirrell\\mirrell_chara_file.dcx", 4000000000);
+    FileWatchCount = 200;
+  }
+  std::unique_ptr<OpnGroupRec> group_;
+};
+
+// Everything that can be due at once, in one tick. The listeners stand for the windows.
+TEST_F(TickOrderTest, TheStepsOfATickRunInTheirOrder) {
+  hBackUpDlg = OpenListener("back-up");
+  hSearchDlg = OpenListener("search");
+  hDiskMenu = OpenListener("panel");
+  hClockWnd = OpenListener("clock");
+  hClockNoticeWnd = nullptr;
+  hMailNoticeWnd = OpenListener("mail");
+  hSclNoticeWnd = OpenListener("notice");
+  WalkStepDue(OpenListener("walk"));
+  WalkEndDue(OpenListener("end"));
+  TableScrolls(OpenListener("table"));
+  const WindowHandle preview = OpenListener("preview");
+  hCalenWnd = OpenListener("calendar");
+
+  BackUpActive = true;
+  progressMode = 1;
+  MenuPanelState = 1;
+  MenuCloseCount = 1;
+  MailCheckOn = true;
+  MailMinuteCount = 0;
+  MailInterval = 10;
+  GroupPending();
+  ClockHour12 = 3;  // the clock has another hour to show
+  AlarmNow();
+  MotionDue();
+  FrameDivider = 1;
+  CharacterFileChanges();
+
+  // The preview plays as long as its dialog is open; its paint goes to the listener.
+  MainCharas[0].blinkFrame = 1;
+  Words heard;
+  Then([&] {
+    for (int i = 0; i < 5; ++i) ASSERT_EQ(MotionPreviewTick(), 0);
+    const WindowHandle dialog = hSubDlg;
+    hSubDlg = preview;
+    TakeHeard();
+    ListenToEverything();
+    MainTick();
+    heard = TakeHeard();
+    hSubDlg = dialog;
+    SendClose(dialog);
+  });
+  MotionPreviewRun(hMainWnd, 0, Preview::Blink);
+
+  std::erase(heard, "panel close");  // what answers 2079 closes the panel
+  EXPECT_EQ(heard, (Words{
+                       "main 2373",             // 1
+                       "back-up command 2375",  // 2
+                       "search command 2376",   // 3
+                       "panel command 2",       // 6
+                       "main 2079",             // 8
+                       "start",                 // 9
+                       "walk command 2258",     // 10
+                       "end close",             // 11
+                       "clock paint",           // 13
+                       "main 2336",
+                       "main 2293",      // 14
+                       "preview paint",  // 15
+                       "mail paint",     // 16
+                       "notice paint",
+                       "table paint",  // 17
+                       "main 2293",    // 18
+                       "main 2254",
+                   }));
+}
+
+TEST_F(TickOrderTest, AMatchingAlarmIsSent2336OnceInItsMinute) {
+  Ticks(1);
+  hCalenWnd = OpenListener();
+  AlarmNow();
+  ListenToEverything();
+  Ticks(3);
+  EXPECT_EQ(TakeHeard(), Words{"main 2336"});
+  EXPECT_NE(hClockNoticeWnd, nullptr);
+}
+
+TEST_F(TickOrderTest, WithNeitherCalendarNorClockNoticeNoAlarmIsLookedFor) {
+  Ticks(1);
+  hClockWnd = OpenListener();
+  AlarmNow();
+  ListenToEverything();
+  Ticks(1);
+  const Words heard = TakeHeard();
+  EXPECT_EQ(std::count(heard.begin(), heard.end(), "main 2336"), 0);
+}
+
+TEST_F(TickOrderTest, TheMailIsAskedForWhenItsCountIsOver) {
+  Ticks(1);
+  MailCheckOn = true;
+  MailInterval = 1;
+  MailMinuteCount = 1;
+  ListenToEverything();
+  Ticks(5999);
+  EXPECT_EQ(TakeHeard(), Words{});
+  Ticks(1);
+  EXPECT_EQ(TakeHeard(), Words{"main 2079"});
+}
+
+TEST_F(TickOrderTest, ANewFrameOfTheCharacterIsSent2293) {
+  Ticks(1);
+  MotionDue();
+  ListenToEverything();
+  Ticks(1);
+  EXPECT_EQ(TakeHeard(), Words{"main 2293"});
+  Ticks(17);
+  EXPECT_EQ(TakeHeard(), Words{});
+}
+
+// --- The end of the program from inside a tick
+
+bool EndsTheProgram(const Event& event) {
+  if (event.kind == EventKind::Command && event.command == 2375) SendClose(hMainWnd);
+  return false;
+}
+
+TEST_F(TickOrderTest, AfterTheShutdownTheRestOfTheTickIsNotRun) {
+  Ticks(1);
+  hBackUpDlg = DialogOpen(IDD_FlyingBat4, hMainWnd, EndsTheProgram);
+  BackUpActive = true;
+  hSearchDlg = OpenListener();
+  progressMode = 1;
+  MenuReopenGuard = 5;
+  CharacterFileChanges();
+  ListenToEverything();
+  MainTick();
+  EXPECT_TRUE(QuitWasAsked());
+  EXPECT_EQ(TakeHeard(), Words{});
+  EXPECT_EQ(MenuReopenGuard, 5);
+  EXPECT_EQ(FileWatchCount, 200);
+  EXPECT_FALSE(FileThere("C:\\mirrell\\mirrell_sys_file.svs"));
+}
+
+}  // namespace
