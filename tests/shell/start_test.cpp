@@ -1,16 +1,24 @@
 // The start sequence and the end of the program.
 #include "shell/start.h"
 
+#include <map>
+
+#include "character/alarm_images.h"
 #include "character/character.h"
+#include "character/character_file.h"
+#include "character/character_tables.h"
+#include "character/options.h"
 #include "character/stage.h"
 #include "clock_calendar/calendar.h"
 #include "clock_calendar/clock.h"
+#include "platform/canvas.h"
 #include "platform/posix/faults.h"
 #include "platform/window.h"
 #include "shell/entry.h"
 #include "shell/settings.h"
 #include "shell/shell.h"
 #include "shell/tick.h"
+#include "tests/character/chara_files.h"
 #include "tests/support/program.h"
 
 namespace {
@@ -35,14 +43,99 @@ TEST_F(StartTest, WithNoSystemFileTheStageComesUpAtTheDefaultPlaceAndTheTimerRun
   EXPECT_EQ(TickCount, before + 3);
 }
 
+// A data set whose settings want the clock and an alarm character for the mail, which
+// is character 6 with one picture.
+class StartDataTest : public StartTest {
+ protected:
+  void SetUp() override {
+    StartTest::SetUp();
+    SetFactorySettings();
+    ASSERT_EQ(CharaFileWrite(), 0);  // alarm characters 6, 8, 9; selections 1, 1, 0
+    MakeFolder("C:\\mirrell\\キャラクタ");
+    ASSERT_TRUE(PutFile("C:\\mirrell\\キャラクタ\\Chara6_1.bmp", BmpFile(20, 20)));
+    ClockShow = 1;
+    CalenShow = 1;
+    ListenToEverything();
+  }
+  void TearDown() override {
+    for (AlarmRow& row : AlarmRows) AlarmRowFree(&row);
+    StartTest::TearDown();
+  }
+};
+
+TEST_F(StartDataTest, WithASystemFileTheAlarmImagesAreLoadedAndTheClockIsOpened) {
+  ASSERT_EQ(SysFileWrite(), 0);
+  StartProgram();
+  EXPECT_NE(AlarmRows[0].pictures[0], nullptr);
+  EXPECT_NE(AlarmRows[1].pictures[0], nullptr);
+  EXPECT_EQ(TakeHeard(), Words{"main 2254"});
+}
+
+TEST_F(StartDataTest, WithNoSystemFileThereAreNoAlarmImagesAndNoClock) {
+  StartProgram();
+  ASSERT_EQ(AlarmCharaSel[0], 1);
+  ASSERT_EQ(AlarmCharaCount, 3);
+  EXPECT_EQ(AlarmRows[0].pictures[0], nullptr);
+  EXPECT_EQ(TakeHeard(), Words{});
+  EXPECT_EQ(hCalenWnd, nullptr);
+}
+
+// The settings count as read, so the start goes to its end with the state as it was.
+TEST_F(StartDataTest, SettingsWithAnotherMagicLetTheStartGoOn) {
+  ASSERT_EQ(SysFileWrite(), 0);
+  std::string file = FileBytes("C:\\mirrell\\mirrell_sys_file.svs");
+  file.at(0) = 'm';
+  ASSERT_TRUE(PutFile("C:\\mirrell\\mirrell_sys_file.svs", file));
+  StageX = 77;
+  MainCharaCount = 0;
+  StartProgram();
+  EXPECT_EQ(StageX, 77);
+  EXPECT_EQ(MainCharaCount, 4);
+  EXPECT_TRUE(FileThere("C:\\mirrell\\mirrell_apli_list_file.ali"));
+  EXPECT_NE(AlarmRows[0].pictures[0], nullptr);
+  EXPECT_EQ(TakeHeard(), Words{"main 2254"});
+  EXPECT_EQ(FileBytes("C:\\mirrell\\mirrell_sys_file.svs"), file);
+}
+
 TEST_F(StartTest, BrushesAndPensAreMadeInOrder) {
+  constexpr Colour kBrushesInOrder[] = {0xBEBEBE, 0xC8C8C8, 0xC8C800, 0xFFFFFF, 0xFFFF00, 0xFF8080,
+                                        0x0000E6, 0x00C800, 0x8CE6F0, 0x00F0F0, 0xF000F0, 0xFF0000};
+  constexpr struct {
+    bool dotted;
+    int width;
+    Colour colour;
+  } kPensInOrder[] = {{false, 1, 0xF0F0F0}, {false, 1, 0x646464}, {true, 1, 0x646464},  {true, 1, 0x6464F0},
+                      {true, 1, 0xC8C800},  {false, 1, 0xE6E6E6}, {false, 1, 0x646464}, {false, 1, 0xFFFFFF},
+                      {false, 1, 0x0000FF}, {false, 3, 0x000000}, {false, 3, 0x0000FF}};
   const LiveObjects before = DiagnosticsLive();
   DrawingObjectsCreate();
   EXPECT_EQ(DiagnosticsLive().brushes - before.brushes, 12);
   EXPECT_EQ(DiagnosticsLive().pens - before.pens, 11);
-  EXPECT_EQ(kBrushColours[kBrushC8C800], 0xC8C800U);
-  EXPECT_EQ(kBrushColours[kBrush0000E6], 0x0000E6U);
-  EXPECT_EQ(kBrushColours[kBrushFF0000], 0xFF0000U);
+  const WindowHandle window = OpenListener();
+  DrawingClear();
+  Canvas* canvas = CanvasGet(window);
+  for (BrushHandle brush : Brushes) {
+    CanvasBrush(canvas, brush);
+    CanvasRectangle(canvas, 0, 0, 9, 9);
+  }
+  for (PenHandle pen : Pens) {
+    CanvasPen(canvas, pen);
+    CanvasRectangle(canvas, 0, 0, 9, 9);
+  }
+  CanvasRelease(canvas);
+  const std::vector<DrawCall> drawn = Drawings(window);
+  ASSERT_EQ(drawn.size(), 12U + 11U);
+  for (std::size_t i = 0; i < 12; ++i) {
+    EXPECT_TRUE(drawn[i].filled) << i;
+    EXPECT_EQ(drawn[i].brush, kBrushesInOrder[i]) << i;
+  }
+  for (std::size_t i = 0; i < 11; ++i) {
+    EXPECT_EQ(drawn[12 + i].dotted, kPensInOrder[i].dotted) << i;
+    EXPECT_EQ(drawn[12 + i].penWidth, kPensInOrder[i].width) << i;
+    EXPECT_EQ(drawn[12 + i].pen, kPensInOrder[i].colour) << i;
+  }
+  EXPECT_EQ(FaceBrushColour, FaceColour());
+  WindowDestroy(window);
   DrawingObjectsDelete();
   EXPECT_EQ(LiveText(DiagnosticsLive()), LiveText(before));
 }
@@ -164,6 +257,51 @@ TEST_F(ShutdownTest, ClosingWithFeatureWindowsOpenLeavesNoSavedState) {
   EXPECT_EQ(TakeHeard(), Words{}) << "feature windows end with the process, unasked";
   EXPECT_TRUE(WindowIsOpen(hMailNoticeWnd));
   WindowDestroy(hMailNoticeWnd);
+}
+
+// Every file of the program folder with its content.
+std::map<std::string, std::string> ProgramFiles() {
+  std::map<std::string, std::string> files;
+  for (const std::string& name : FolderNames("C:\\mirrell")) files[name] = FileBytes("C:\\mirrell\\" + name);
+  return files;
+}
+
+// A dialog, and how a user changes something in it.
+struct Touched {
+  std::uint32_t command;
+  void (*touch)();
+};
+constexpr Touched kTouched[] = {
+    {2283, [] { Press(TopDialog(), 2292); }},
+    {2281, [] { ChooseRow(TopDialog(), 100, 1); }},
+    {2282, [] { ChooseRow(TopDialog(), 101, 2); }},
+    {1901, [] { Type(TopDialog(), 103, "comment"); }},
+};
+
+TEST_F(ShutdownTest, ClosingWithATouchedDialogOpenLeavesTheFilesAsTheyWere) {
+  for (const Touched& touched : kTouched) {
+    SetFactorySettings();
+    ASSERT_EQ(CharaFileWrite(), 0);
+    CalenStartDefaults();
+    ASSERT_EQ(CalenFileWrite(), 0);
+    ASSERT_EQ(SysFileWrite(), 0);
+    StartProgram();
+    const auto before = ProgramFiles();
+    bool open = false;
+    Then([&] {
+      open = hMenuDlg != nullptr;
+      touched.touch();
+      EXPECT_EQ(ProgramFiles(), before) << "nothing is confirmed yet";
+      SendClose(hMainWnd);
+    });
+    SendCommand(hMainWnd, touched.command);
+    EXPECT_TRUE(open) << touched.command;
+    EXPECT_TRUE(QuitWasAsked());
+    EXPECT_EQ(ProgramFiles(), before) << touched.command;
+    OptionPreviewsFree();
+    TearDown();
+    SetUp();
+  }
 }
 
 class ProcessEntryTest : public ProgramTest {};
