@@ -1,12 +1,19 @@
 #include "platform/win32/border.h"
 
+#include <algorithm>
 #include <cstring>
 
 #include "platform/common/cp932.h"
 
 namespace {
 constexpr UINT kCodePage = 932;
+
+int CopyStart(const std::string& text, std::size_t length, char* buffer) {
+  std::memcpy(buffer, text.data(), length);
+  buffer[length] = '\0';
+  return static_cast<int>(length);
 }
+}  // namespace
 
 std::wstring Wide(const char* text, int length) {
   if (length < 0) length = static_cast<int>(std::strlen(text));
@@ -29,10 +36,13 @@ std::string Narrow(const wchar_t* text, int length) {
 int CopyNarrow(const wchar_t* text, char* buffer, int size) {
   if (size <= 0) return 0;
   const std::string narrow = Narrow(text);
-  const std::size_t length = Cp932Cut(narrow, static_cast<std::size_t>(size) - 1);
-  std::memcpy(buffer, narrow.data(), length);
-  buffer[length] = '\0';
-  return static_cast<int>(length);
+  return CopyStart(narrow, Cp932Cut(narrow, static_cast<std::size_t>(size) - 1), buffer);
+}
+
+int CopyNarrowBytes(const wchar_t* text, char* buffer, int size) {
+  if (size <= 0) return 0;
+  const std::string narrow = Narrow(text);
+  return CopyStart(narrow, std::min(narrow.size(), static_cast<std::size_t>(size) - 1), buffer);
 }
 
 bool CopyNarrowWhole(const wchar_t* text, char* buffer, int size) {

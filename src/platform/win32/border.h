@@ -13,8 +13,12 @@
 std::wstring Wide(const char* text, int length = -1);
 std::string Narrow(const wchar_t* text, int length = -1);
 
-// Copies at most size - 1 bytes and terminates. Returns the length copied.
+// Copies at most size - 1 bytes and terminates, with no double-byte pair cut in two.
+// Returns the length copied.
 int CopyNarrow(const wchar_t* text, char* buffer, int size);
+
+// The same to the byte: what is typed into a control is cut wherever its room ends.
+int CopyNarrowBytes(const wchar_t* text, char* buffer, int size);
 
 // All of it or nothing: false, with `buffer` as it was, when it does not fit.
 bool CopyNarrowWhole(const wchar_t* text, char* buffer, int size);

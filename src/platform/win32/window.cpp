@@ -176,7 +176,7 @@ int WindowGetText(WindowHandle window, char* buffer, int size) {
   std::wstring text(static_cast<std::size_t>(GetWindowTextLengthW(Hwnd(window))) + 1, L'\0');
   const int length = GetWindowTextW(Hwnd(window), text.data(), static_cast<int>(text.size()));
   text.resize(static_cast<std::size_t>(length));
-  return CopyNarrow(text.c_str(), buffer, size);
+  return CopyNarrowBytes(text.c_str(), buffer, size);
 }
 
 Rect WindowRect(WindowHandle window) {
