@@ -7,6 +7,7 @@
 #include <iterator>
 #include <random>
 
+#include "resources/ids.h"
 #include "tests/support/test_dialogs.h"
 
 namespace {
@@ -136,6 +137,8 @@ TEST(ResourceFileTest, ProductsOwnResourcesAreRead) {
   EXPECT_EQ(ResourceLoad(MIRRELL_RES_FILE, &set), nullptr);
   EXPECT_FALSE(set.strings.empty());
   EXPECT_FALSE(set.menus.empty());
+  // Nothing opens these two; they stand in the templates all the same.
+  for (const int id : {IDD_OptionSelDlg1, IDD_OptionSelDlg1_1}) EXPECT_TRUE(set.dialogs.contains(id)) << id;
 }
 
 TEST(ResourceFileTest, FileThatIsNotThereOrNoResourceFileIsTold) {
