@@ -27,7 +27,9 @@ namespace {
 
 constexpr int kMainCharaDialog = 2013;  // OptionSelDlg1_2
 constexpr std::int32_t kTicksBetweenSteps = 16;
-constexpr std::int32_t kStepsOfCount = 60;  // of one count of the idle timer's next level
+// Steps of one count of the idle timer's next level.
+// kept: they are no seconds, and the labels of the delays are nominal: "5分" is 365 steps.
+constexpr std::int32_t kStepsOfCount = 60;
 
 // What a step comes to.
 enum class Step {

@@ -92,6 +92,7 @@ void DrawBuffered() {
   CanvasRelease(screen);
 }
 
+// kept: a frame without an outline makes the window rectangular as long as it shows.
 void ShapeStage() {
   WindowSetRegion(hMainWnd, RegionPolygon(CurrentOutline.points, CurrentOutline.count), true);
 }

@@ -138,6 +138,7 @@ int WalkCharaLoad(int slot) {
   return 0;
 }
 
+// kept: the slot is the place of the main character in its own list.
 int WalkStartOpen() {
   if (OpnHistory.soundOn) SoundFilePlay(OpnHistory.soundName);
   return OpnHistory.animeOn ? WalkStart(CharaIndex, kWalkSlotMax) : -1;

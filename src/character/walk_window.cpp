@@ -144,7 +144,8 @@ void TrailWindowOpen() {
   SendCommand(window, kWalkMoveCommand);
 }
 
-// No window of an earlier trail is left behind by a new one.
+// kept: what an abandoned walk has left of its trail goes when the next walk opens its
+// first window.
 void TrailWindowsClose() {
   while (trailCount > 0) SendClose(trail[--trailCount]);
 }

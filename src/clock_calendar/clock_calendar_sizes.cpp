@@ -22,6 +22,7 @@ PictureSize DesignSize(std::int32_t design) {
 }
 
 // Pages are square; 0, 1 and 2 are the sizes of the settings.
+// kept: the first of them, which the list calls " 大", is the smallest.
 int PageWidth() {
   if (CalenPageSize == 0) return 150;
   return CalenPageSize == 2 ? 250 : 200;

@@ -32,6 +32,7 @@ bool Confirmed(WindowHandle dialog, const char* keyword) {
   return BoxAsk(dialog, text, "ファイル分割の実行");
 }
 
+// kept: whether a keyword is the right one is never tested.
 void Accept(WindowHandle dialog) {
   // kept: a double-byte character at the eighth byte is cut in two.
   char keyword[kDivKeywordMax + 1] = {};

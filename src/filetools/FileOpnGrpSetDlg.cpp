@@ -73,6 +73,7 @@ void Remove(WindowHandle dialog) {
 }
 
 void Set(WindowHandle dialog) {
+  // kept: of comments alone nobody is asked.
   if (dirty && !BoxAsk(dialog, "変更内容を登録して終了します。よろしいですか ?", "登録の確認")) return;
   OpnCommentTake(dialog, shown);
   OpnGroupSave();

@@ -27,8 +27,9 @@ constexpr int kPartBytes = 256;
 // Bytes of a name in the lists of the comparisons.
 constexpr int kNameBytes = 24;
 
-// True if the path begins with the row. kept: a row counts as equal though the
-// path goes on behind it, so that "a.txt" in the list refuses "a.txt.bak".
+// True if the path begins with the row.
+// kept: a row counts as equal though the path goes on behind it, so that "a.txt" in the
+// list refuses "a.txt.bak".
 bool RowRefuses(const char* row, const char* path) {
   const std::size_t length = TextLength(row, kPathBytes);
   return std::strncmp(row, path, length) == 0;

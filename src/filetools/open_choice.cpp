@@ -78,6 +78,7 @@ bool OpnBrowseFile(const char* path) {
   OpnTextSet(OpnHistory.progName[row], "");
   OpnTextSet(OpnHistory.progPath[row], "");
   if (row < kOpnFileMax) OpnHistory.openCount[row] = 0;
+  // kept: a file behind the two hundredth is dropped, and the last one chosen.
   const bool fits = row < kOpnFileMax;
   OpnWork.fileCount = fits ? row + 1 : kOpnFileMax;
   OpnWork.fileSel = OpnWork.fileCount - 1;

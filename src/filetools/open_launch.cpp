@@ -16,6 +16,7 @@ constexpr unsigned kIdleWait = 5000;
 constexpr int kProgramSize = 600;
 constexpr int kLineSize = kProgramSize + 4 * kOpnTextSize;
 
+// kept: the program stands without quotes.
 void CommandLineMake(char* line, std::size_t size) {
   const OpnSelectionRec& s = OpnSelection;
   if (s.progName[0] != '\0') {

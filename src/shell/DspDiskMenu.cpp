@@ -60,7 +60,7 @@ constexpr Level kLevels[] = {
       {" オプション  ", kPanelOptions, 1907},
       {" プログラム終了 ", kStateStays, 1908}}},
     {kPanelFiles, 80, 3, {{" フォルダースコープ ", 400, 1914}, {" ファイル分割  ", 401, 1915}, kCancel}},
-    // No row leads here: the level is reached by command 1903.
+    // kept: no row leads here, but command 1903 does.
     {kPanelCommunication, 60, 2, {{" メール受信連絡 ", 500, 1918}, {"BGM自動演奏設定 ", 501, 1921}}},
     {kPanelSchedule,
      100,
@@ -69,6 +69,7 @@ constexpr Level kLevels[] = {
       {" 時計表示  ", 601, 1911},
       {" カレンダー表示  ", 603, 1913},
       kCancel}},
+    // kept: the last row counts as a fourth one, with nothing in the third's place.
     {kPanelApplications,
      80,
      3,
@@ -260,6 +261,7 @@ void PanelPointerOnStage(const Event& event) {
     OpenTop();
     return;
   }
+  // kept: back from the panel to the stage, the pointer is counted as never inside.
   if (MenuPanelState == kPanelTop) MenuCloseCount = kCloseTicks;
   if (!WindowHasFocus(hMainWnd)) {
     TableScrollDirection = ScrollDirection::None;

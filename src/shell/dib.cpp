@@ -144,6 +144,7 @@ int DibWidth(ImageHandle image) {
   return MemorySize(image) >= 6 ? GetLE16(image + 4) : 0;
 }
 
+// kept: the low 16 bits count, of a negative height too.
 int DibHeight(ImageHandle image) {
   if (MemorySize(image) < 10) return 0;
   return GetLE16(image + (IsCore(image) ? 6 : 8));

@@ -51,7 +51,8 @@ void Char(const Event& event) {
   MenuPanelState = 0;
   FuncNo = 0;
   MenuReopenGuard = 0;
-  SendClose(hDiskMenu);  // the stage may have the keyboard while its panel is open
+  // kept: the stage may have the keyboard while its panel is open, and closes it too.
+  SendClose(hDiskMenu);
 }
 
 void Nothing(const Event&) {}

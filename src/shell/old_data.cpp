@@ -29,8 +29,8 @@ bool Ask(FileDialog* dialog, Path& path) {
   return dialog(hMainWnd, "ﾌｧｲﾙﾛｰﾄﾞ", "Files (*.*)", "*.*", RootFolder, path.text, sizeof path.text);
 }
 
-// The program's name is the text and the error the caption, as in all boxes of
-// this kind here.
+// kept: the program's name is the text and the error the caption, as in all boxes of
+// this kind here, and the errors keep their letters.
 void Fail(int status, const char* error) {
   FileStatus = status;
   MessageBoxRun(hMainWnd, "ミルレール", error, BoxButtons::Ok, BoxIcon::Exclamation);

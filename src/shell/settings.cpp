@@ -99,6 +99,7 @@ constexpr Field Block(void* at, int size, int count = 1) {
 constexpr Field Text(void* at, int size, int count = 1) {
   return {Kind::Text, at, size, count};
 }
+// kept: in the middle of every save and load the clock takes its design afresh.
 constexpr Field ActivateClock() {
   return {Kind::Clock, nullptr, 0, 0};
 }

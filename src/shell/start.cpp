@@ -37,7 +37,7 @@ void FoldersTake() {
 
 void TimerBegin() {
   if (TickTimerStart()) return;
-  // The program's name is the text and the error the caption, as in all boxes of
+  // kept: the program's name is the text and the error the caption, as in all boxes of
   // this kind here.
   MessageBoxRun(hMainWnd, "ミルレール", "タイマー設定できません", BoxButtons::Ok, BoxIcon::Exclamation);
 }
