@@ -1,0 +1,92 @@
+// mirrell-notices: the companion, with something to tell. For the pictures of the
+// notices and popup menus, whose own occasions (a mail, a line of the schedule, a
+// note of the calendar, an alarm, a click on the clock) cannot be had at will.
+//
+// It starts as the companion does, in the current folder, and fills in what the
+// occasions would. A mail comes at once. The rest waits for its command: 2265, 2294
+// three times, 2336; and 2039, 2279 and 2337 for the menus.
+#include <windows.h>
+
+#include <cstdint>
+
+#include "character/alarm_images.h"
+#include "character/scl_notice.h"
+#include "clock_calendar/clock.h"
+#include "mail_music/mail_setting.h"
+#include "platform/dialog.h"
+#include "platform/window.h"
+#include "resources/ids.h"
+#include "shell/entry.h"
+#include "shell/popups.h"
+#include "shell/shell.h"
+#include "shell/text.h"
+
+namespace {
+
+constexpr UINT kSoon = 10;  // milliseconds
+
+void FillMail() {
+  TextCopy(MailSetting.comment, sizeof MailSetting.comment, "新しいお便りが届いています");
+  MailSetting.animeOn = 1;
+  MailMinuteCount = INT32_MAX;  // no server is asked
+  MailCheckOn = true;
+  MailNoticeFlag = 1;
+}
+
+void FillSchedule() {
+  const SclDate morning{TodayYear, TodayMonth, TodayDay, 9};
+  const SclDate noon{TodayYear, TodayMonth, TodayDay, 12};
+  SclNotice = {true, morning, noon, 30, 0, 8, 18, {}};
+  TextCopy(SclNotice.text, sizeof SclNotice.text,
+           "会議の資料を三部印刷し、二階の会議室へ運ぶ。Projectorの電源と、お茶の用意も忘れずに。");
+}
+
+void FillNotes() {
+  constexpr const char* kTexts[kNoteNoticeCount] = {
+      "歯医者 10:30",
+      "図書館に本を返す。「花と庭」「星の本」の二冊。",
+      "おばあさんの誕生日。花屋さんに花束を頼み、電車の切符も前の日までに買っておく。",
+  };
+  for (int note = 0; note < kNoteNoticeCount; ++note) {
+    NoteNotices[note] = {true, TodayYear, 9 + note, {}};
+    TextCopy(NoteNotices[note].text, sizeof NoteNotices[note].text, kTexts[note]);
+  }
+}
+
+void FillAlarm() {
+  ClockAlarmSlot = 0;
+  AlarmSlot alarm{false, 7, 0, 1, {}};
+  TextCopy(alarm.comment, sizeof alarm.comment,
+           "おはようございます。今日は燃えるごみの日です。八時までに出してから、植木に水をやりましょう。");
+  AlarmSlotPut(ClockAlarmSlot, alarm);
+}
+
+// A hidden window in the place of one that is not open, for a menu to belong to.
+void StandIn(WindowHandle& window, int templateId) {
+  if (!window) window = DialogOpen(templateId, hMainWnd, [](const Event&) { return false; });
+  WindowShow(window, false);
+}
+
+void FillMenus() {
+  StandIn(hSclTableWnd, IDD_FlyingBat2);
+  StandIn(hCalenWnd, IDD_FlyingBat3);
+  StandIn(hClockWnd, IDD_FlyingBat6);
+  PopupPoint = {40, 40};
+}
+
+// Runs once, as soon as the start is over.
+void CALLBACK Fill(HWND, UINT, UINT_PTR timer, DWORD) {
+  KillTimer(nullptr, timer);
+  FillSchedule();
+  FillNotes();
+  FillAlarm();
+  FillMenus();
+  FillMail();
+}
+
+}  // namespace
+
+int WINAPI wWinMain(HINSTANCE, HINSTANCE, LPWSTR, int showMode) {
+  SetTimer(nullptr, 0, kSoon, Fill);
+  return ProcessEntry("", showMode);
+}
