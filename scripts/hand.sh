@@ -1,22 +1,41 @@
 # Sourced after wine_env.sh by whoever drives the companion's windows: the deeds of
-# mirrell-hand, and pictures of single windows.
+# mirrell-hand, and pictures of single windows. What fails ends the script, with a
+# word about it and a picture of the display.
 
-# companion_start PROGRAM_FOLDER: starts the companion there and waits until it
-# stands on the desktop. Sets companion_pid.
+set -Eeuo pipefail
+
+failed() {
+  [ "$BASH_SUBSHELL" = 0 ] || return 0
+  echo "$0 failed, line ${BASH_LINENO[-2]}; see out/failed.png" >&2
+  screenshot out/failed.png || true
+}
+trap failed ERR
+rm -f out/failed.png
+
+# companion_start FOLDER [PROGRAM]: starts the companion there and waits until it
+# stands on the desktop.
 companion_start() {
-  local folder=$1 window=
+  local folder=$1 program=${2:-mirrell.exe} window=
   hand_program=$PWD/build/windows/tools/hand/mirrell-hand.exe
-  ( cd "$folder" && exec wine mirrell.exe 2>/dev/null ) &
+  ( cd "$folder" && exec wine "$program" 2>/dev/null ) &
   companion_pid=$!
   for _ in $(seq 200); do
-    window=$(xdotool search --onlyvisible --name '^ミルレール$' 2>/dev/null | head -n 1) && [ -n "$window" ] && break
+    window=$(xdotool search --onlyvisible --name '^ミルレール$' 2>/dev/null | head -n 1) || true
+    [ -z "$window" ] || return 0
     sleep 0.1
   done
-  [ -n "$window" ] || { echo "the companion did not appear" >&2; return 1; }
+  echo "the companion did not appear" >&2
+  return 1
+}
+
+# companion_end: closes the companion, as its own menu does, and waits.
+companion_end() {
+  send 8
+  wait "$companion_pid"
 }
 
 # hand DEED ...: see tools/hand/main.cpp.
-hand() { wine "$hand_program" "$@" | tr -d '\r'; return "${PIPESTATUS[0]}"; }
+hand() { wine "$hand_program" "$@" | tr -d '\r'; }
 
 # send NUMBER
 send() { hand send "$1"; }
@@ -27,35 +46,42 @@ fill() { hand type "$1" "$2" "$3"; }
 # leave TITLE [ID]: closes a window, by a button if one is named, and waits.
 leave() { hand leave "$@"; }
 
-# shot FOLDER NAME TITLE: FOLDER/NAME.png is the window with that title.
+# window_shot FILE TITLE: the window with that title.
 window_shot() {
   local place
-  place=$(hand find "$3") || return 1
+  place=$(hand find "$2")
   # Let it paint.
   sleep 0.25
-  area_shot "$1/$2.png" $place
+  area_shot "$1" $place
 }
 
-# brief_shot FOLDER NAME TITLE DEED...: of a window that stays only for moments after
-# the deed: the companion is held still meanwhile.
+# held_shot FILE TITLE [COUNT]: the whole display at the moment when COUNT windows of
+# that title have come; the companion is held still meanwhile.
+held_shot() {
+  hand hold "${@:2}" >/dev/null
+  screenshot "$1"
+  hand release -
+}
+
+# brief_shot FILE TITLE DEED...: a window that stays only for moments after the deed.
 brief_shot() {
-  local file=$1/$2.png title=$3 place waits
+  local file=$1 title=$2 place waits
   place=$(mktemp)
   hand hold "$title" >"$place" &
   waits=$!
   sleep 0.6
-  "${@:4}"
-  if wait "$waits"; then
-    area_shot "$file" $(cat "$place")
-    waits=0
-  fi
+  "${@:3}"
+  wait "$waits"
+  area_shot "$file" $(cat "$place")
   hand release -
   rm -f "$place"
-  [ "$waits" = 0 ]
 }
 
 # area_shot FILE X Y WIDTH HEIGHT
-area_shot() { import -window root -crop "$4x$5+$2+$3" +repage "$1"; }
+area_shot() {
+  [ "$4" -gt 0 ]
+  import -window root -crop "$4x$5+$2+$3" +repage "$1"
+}
 
 # example_files FOLDER: files of many sizes, some of them in folders, to show.
 example_files() {
@@ -68,5 +94,6 @@ example_files() {
   head -c 90M /dev/zero >"$1/大きなファイル.bin"
   head -c 40M /dev/zero >"$1/写真/海の写真.bmp"
   head -c 25M /dev/zero >"$1/音楽/とても長い名前の付いた夏の歌の録音.wav"
-  printf 'メモ\n' >"$1/メモ.txt"
+  printf '牛乳\r\n卵\r\n青い糸\r\n' | iconv -t CP932 >"$1/メモ.txt"
+  printf '一、玉ねぎを炒める。\r\n二、水を入れて煮る。\r\n' | iconv -t CP932 >"$1/カレーの作り方.txt"
 }

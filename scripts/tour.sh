@@ -30,6 +30,12 @@ point() {
   done
 }
 click() { point "$1" "$2"; sleep 0.1; xdotool click 1; }
+drag() {
+  point "$1" "$2"
+  xdotool mousedown 1
+  point "$3" "$4"
+  xdotool mouseup 1
+}
 double_click() { point "$1" "$2"; xdotool click --repeat 2 --delay 80 1; }
 
 # into X Y WIDTH HEIGHT [PART OF WIDTH IN %]: a point in a rectangle.
@@ -46,16 +52,35 @@ touch_stage() {
 }
 # row NUMBER: clicks a row of the panel.
 row() {
-  local place=($(hand find -))
+  local place
+  place=($(hand find -))
   point $((place[0] + 80)) $((place[1] + 20 + 20 * $1))
   [ -z "${2:-}" ] || picture "$2"
   xdotool click 1
   sleep 0.3
 }
-# list_row TITLE ID ROW: the place of a row of a list.
-list_row() {
-  local place=($(hand part "$1" "$2"))
-  echo $((place[0] + 40)) $((place[1] + 10 + 16 * $3))
+# pick TITLE ID ROW: clicks a row of a list; go likewise, twice.
+pick() { click $(into $(hand row "$@") 20); }
+go() { double_click $(into $(hand row "$@") 20); sleep 0.5; }
+# drop TITLE ID ROW: a row of a combo box.
+drop() {
+  push "$1" "$2"
+  sleep 0.3
+  pick "$@"
+}
+# held NAME [COUNT]: a picture at the moment when so many windows without a title
+# have come: a walking character is one, its end picture and balloon are two.
+held() {
+  hand hold - "${2:-1}" >/dev/null
+  picture "$1"
+  hand release -
+}
+# shut TEXT: closes the program whose caption begins so, by the sign on its caption.
+shut() {
+  local place
+  place=($(hand find "other:$1"))
+  click $((place[0] + place[2] - 13)) $((place[1] + 13))
+  hand gone "other:$1"
 }
 
 trap display_stop EXIT
@@ -77,7 +102,7 @@ picture panel_options
 row 0
 main='ミルレールキャラクタ'
 picture main_character
-click $(list_row "$main" 100 2)
+pick "$main" 100 2
 picture main_character_chosen
 push "$main" 2369
 push '動作の確認' 2285
@@ -115,22 +140,82 @@ xdotool mouseup 1
 push "$layout" 1
 picture layout_applied
 
+# --- A file is opened: the character walks, says so, and the program comes up.
+touch_stage
+row 0
+open='ファイル オープン'
+picker='ファイルのロード'
+picture file_open
+push "$open" 2002
+go "$picker" 2 '[見本]'
+pick "$picker" 103 'メモ'
+picture file_open_file
+push "$picker" 1
+push "$open" 2003
+for folder in '[..]' '[..]' '[windows]'; do go "$picker" 2 "$folder"; done
+pick "$picker" 103 'notepad'
+picture file_open_program
+push "$picker" 1
+picture file_open_chosen
+push "$open" 1
+held walk_begins
+sleep 1.5
+held walk_goes_on
+held walk_ends 2
+hand find 'other:メモ' >/dev/null
+picture program_started
+shut 'メモ'
+picture program_closed
+
+# --- Two files are made a group, and the group is called.
+touch_stage
+row 0
+push "$open" 2002
+for folder in '[..]' '[MIRRELL]' '[見本]'; do go "$picker" 2 "$folder"; done
+pick "$picker" 103 'カレー'
+push "$picker" 1
+push "$open" 2008
+group='グループ登録'
+push "$group" 105
+xdotool type 'asa'
+push "$group" 126
+drop "$group" 101 'メモ'
+push "$group" 126
+picture group_files
+# The first one again, with a program of its own: it moves to the end.
+drop "$group" 101 'カレー'
+drop "$group" 102 1
+push "$group" 126
+picture group_registered
+push "$group" 1
+push '登録の確認' 1
+touch_stage
+row 0
+push "$open" 120
+group='グループ呼び出し'
+picture group_called
+push "$group" 1
+held group_walk_ends 2
+for file in 'メモ' 'カレー'; do hand find "other:$file" >/dev/null; done
+# They stand in one place: the upper one is drawn aside by its caption.
+drag 400 13 720 253
+picture group_started
+shut 'カレー'
+shut 'メモ'
+
 # --- Back-up.
 touch_stage
 row 1
 backup='ファイル バックアップ'
-picker='ファイルのロード'
 picture back_up
 push "$backup" 110
-double_click $(list_row "$picker" 2 "$(hand row "$picker" 2 '[見本]')")
-sleep 0.5
-click $(list_row "$picker" 103 2)
+for folder in '[..]' '[MIRRELL]' '[見本]'; do go "$picker" 2 "$folder"; done
+pick "$picker" 103 '見本001'
 picture back_up_source
 push "$picker" 1
 push "$backup" 111
 folder='バックアップ先ディレクトリ指定'
-double_click $(list_row "$folder" 2 "$(hand row "$folder" 2 '[写真]')")
-sleep 0.5
+go "$folder" 2 '[写真]'
 picture back_up_folder
 push "$folder" 1
 push "$backup" 114
@@ -148,7 +233,7 @@ picture divide_or_restore
 push 'ファイル 分割/復元選択' 110
 divide='ファイル 分割'
 push "$divide" 110
-click $(list_row "$picker" 103 0)
+pick "$picker" 103 0
 push "$picker" 1
 push "$divide" 111
 push '分割ファイル格納先ディレクトリ選択' 1

@@ -5,20 +5,24 @@
 //   mirrell-hand find TITLE               waits for a window; prints its x y width height
 //   mirrell-hand part TITLE ID            the same of one of its controls
 //   mirrell-hand press TITLE ID           presses a button or a check box
-//   mirrell-hand row TITLE ID TEXT        the number of the row that begins so, from the top one on show
-//   mirrell-hand choose TITLE ID ROW      selects a row by number or by its beginning
+//   mirrell-hand row TITLE ID ROW         the place of a row of a list, or of a list that is dropped down
+//   mirrell-hand choose TITLE ID ROW      selects a row
 //   mirrell-hand double TITLE ID ROW      and double clicks it
 //   mirrell-hand type TITLE ID TEXT       fills an edit field
 //   mirrell-hand key TITLE CODE           gives the window a character
 //   mirrell-hand leave TITLE [ID]         closes it, by that button if one is named, and waits
 //   mirrell-hand gone TITLE               waits until no window has the title
-//   mirrell-hand hold TITLE               holds the companion still when the window has come, and prints its
-//   place mirrell-hand release -                lets it go on mirrell-hand list                     the
-//   windows there are mirrell-hand stage                    the place of the stage
+//   mirrell-hand hold TITLE [COUNT]       holds the companion still when COUNT windows (1) have come,
+//                                         and prints the place of the topmost
+//   mirrell-hand release -                lets it go on
+//   mirrell-hand list                     the windows there are
+//   mirrell-hand stage                    the place of the stage
 //
-// TITLE is a window's whole caption; "-" is the topmost window without one.
-// Everything waits a few seconds for its window; the exit code is 1 if it did not
-// come.
+// ROW is a number from 0 or the beginning of its text.
+// TITLE is a window's whole caption; "-" is a window without one. "other:TEXT" is a
+// window of another program, one that the companion has started, whose caption
+// begins with TEXT. Of several windows the topmost is meant. Everything waits a few
+// seconds for its window; the exit code is 1 if it did not come.
 #include <windows.h>
 
 #include <cstdio>
@@ -29,15 +33,20 @@
 namespace {
 
 constexpr wchar_t kStage[] = L"ミルレール";
+constexpr wchar_t kCombo[] = L"ComboBox";
+const std::wstring kOther = L"other:";
 constexpr DWORD kPatience = 6000;  // milliseconds
 constexpr DWORD kPause = 10;
 constexpr DWORD kPaintTime = 60;
 
+// What windows are looked for, and those that there are.
 struct Search {
-  DWORD process;
+  DWORD companion;
   std::wstring title;
-  HWND found;
+  bool other;  // of another program; the title is the beginning of the caption
   bool print;
+  HWND topmost = nullptr;
+  int count = 0;
 };
 
 bool HasClass(HWND window, const wchar_t* wanted) {
@@ -46,10 +55,10 @@ bool HasClass(HWND window, const wchar_t* wanted) {
   return lstrcmpiW(name, wanted) == 0;
 }
 
+// What is on record: a window that is about to go, or is held still, answers nothing.
 std::wstring Caption(HWND window) {
   wchar_t text[256] = L"";
-  DWORD_PTR got = 0;
-  SendMessageTimeoutW(window, WM_GETTEXT, 256, reinterpret_cast<LPARAM>(text), SMTO_ABORTIFHUNG, 1000, &got);
+  InternalGetWindowText(window, text, 256);
   return text;
 }
 
@@ -59,10 +68,18 @@ std::string Utf8(const std::wstring& text) {
   return bytes;
 }
 
+void PrintRect(const RECT& at) {
+  std::printf("%ld %ld %ld %ld\n", at.left, at.top, at.right - at.left, at.bottom - at.top);
+}
+
 void PrintPlace(HWND window) {
   RECT at{};
   GetWindowRect(window, &at);
-  std::printf("%ld %ld %ld %ld\n", at.left, at.top, at.right - at.left, at.bottom - at.top);
+  PrintRect(at);
+}
+
+bool IsMeant(const Search& search, const std::wstring& caption) {
+  return search.other ? caption.rfind(search.title, 0) == 0 : caption == search.title;
 }
 
 // The windows come from the topmost down.
@@ -70,33 +87,40 @@ BOOL CALLBACK LookAt(HWND window, LPARAM parameter) {
   auto& search = *reinterpret_cast<Search*>(parameter);
   DWORD process = 0;
   GetWindowThreadProcessId(window, &process);
-  if (process != search.process || !IsWindowVisible(window) || HasClass(window, kStage)) return TRUE;
+  if ((process != search.companion) != search.other || !IsWindowVisible(window) || HasClass(window, kStage)) {
+    return TRUE;
+  }
   const std::wstring caption = Caption(window);
+  if (!IsWindow(window)) return TRUE;
   if (search.print) {
     std::printf("\"%s\" ", Utf8(caption).c_str());
     PrintPlace(window);
-    return TRUE;
   }
-  if (caption != search.title) return TRUE;
-  search.found = window;
-  return FALSE;
+  if (!IsMeant(search, caption)) return TRUE;
+  if (!search.topmost) search.topmost = window;
+  ++search.count;
+  return TRUE;
 }
 
 HWND Stage() {
   return FindWindowW(kStage, nullptr);
 }
 
-HWND Look(const wchar_t* title, bool print = false) {
-  Search search{0, std::wstring(title) == L"-" ? L"" : title, nullptr, print};
-  GetWindowThreadProcessId(Stage(), &search.process);
+Search Look(const std::wstring& title, bool print = false) {
+  const bool other = title.rfind(kOther, 0) == 0;
+  Search search{0, title, other, print};
+  if (other) search.title = title.substr(kOther.size());
+  if (title == L"-") search.title.clear();
+  GetWindowThreadProcessId(Stage(), &search.companion);
   EnumWindows(LookAt, reinterpret_cast<LPARAM>(&search));
-  return search.found;
+  return search;
 }
 
-// The window, or nullptr if it is not there in time.
-HWND Await(const wchar_t* title) {
+// The topmost of the windows, or nullptr if there are fewer in time.
+HWND Await(const wchar_t* title, int count) {
   for (DWORD waited = 0; waited < kPatience; waited += kPause) {
-    if (HWND window = Look(title)) return window;
+    const Search search = Look(title);
+    if (search.count >= count) return search.topmost;
     Sleep(kPause);
   }
   return nullptr;
@@ -116,24 +140,44 @@ void Tell(HWND window, HWND control, int notice) {
                reinterpret_cast<LPARAM>(control));
 }
 
-LRESULT RowOf(HWND control, const wchar_t* text) {
-  const UINT find = HasClass(control, L"ComboBox") ? CB_FINDSTRING : LB_FINDSTRING;
-  return SendMessageW(control, find, static_cast<WPARAM>(-1), reinterpret_cast<LPARAM>(text));
+LRESULT RowOf(HWND control, const wchar_t* row) {
+  wchar_t* end = nullptr;
+  const auto number = static_cast<LRESULT>(std::wcstol(row, &end, 10));
+  if (*end == L'\0') return number;
+  const UINT find = HasClass(control, kCombo) ? CB_FINDSTRING : LB_FINDSTRING;
+  return SendMessageW(control, find, static_cast<WPARAM>(-1), reinterpret_cast<LPARAM>(row));
+}
+
+BOOL CALLBACK LookAtDropped(HWND window, LPARAM parameter) {
+  if (!IsWindowVisible(window) || !HasClass(window, L"ComboLBox")) return TRUE;
+  *reinterpret_cast<HWND*>(parameter) = window;
+  return FALSE;
+}
+
+int PrintRow(HWND control, const wchar_t* row) {
+  HWND list = control;
+  if (HasClass(control, kCombo)) {
+    list = nullptr;
+    EnumWindows(LookAtDropped, reinterpret_cast<LPARAM>(&list));
+  }
+  RECT at{};
+  const LRESULT number = RowOf(list, row);
+  if (number < 0 || SendMessageW(list, LB_GETITEMRECT, static_cast<WPARAM>(number),
+                                 reinterpret_cast<LPARAM>(&at)) == LB_ERR) {
+    return 1;
+  }
+  MapWindowPoints(list, nullptr, reinterpret_cast<POINT*>(&at), 2);
+  PrintRect(at);
+  return 0;
 }
 
 bool Choose(HWND window, HWND control, const wchar_t* row, bool twice) {
-  const bool combo = HasClass(control, L"ComboBox");
-  wchar_t* end = nullptr;
-  LRESULT at = static_cast<LRESULT>(std::wcstol(row, &end, 10));
-  if (*end != L'\0') at = RowOf(control, row);
+  const bool combo = HasClass(control, kCombo);
+  const LRESULT at = RowOf(control, row);
   if (at < 0) return false;
   SendMessageW(control, combo ? CB_SETCURSEL : LB_SETCURSEL, static_cast<WPARAM>(at), 0);
-  if (combo) {
-    Tell(window, control, CBN_SELCHANGE);
-  } else {
-    Tell(window, control, LBN_SELCHANGE);
-    if (twice) Tell(window, control, LBN_DBLCLK);
-  }
+  Tell(window, control, combo ? CBN_SELCHANGE : LBN_SELCHANGE);
+  if (twice) Tell(window, control, LBN_DBLCLK);
   return true;
 }
 
@@ -191,11 +235,7 @@ int Do(const std::wstring& deed, HWND window, int count, wchar_t** arguments) {
     return 0;
   }
   if (count < 5) return 2;
-  if (deed == L"row") {
-    const LRESULT row = RowOf(control, arguments[4]);
-    std::printf("%d\n", static_cast<int>(row - SendMessageW(control, LB_GETTOPINDEX, 0, 0)));
-    return row < 0 ? 1 : 0;
-  }
+  if (deed == L"row") return PrintRow(control, arguments[4]);
   if (deed == L"choose") return Choose(window, control, arguments[4], false) ? 0 : 1;
   if (deed == L"double") return Choose(window, control, arguments[4], true) ? 0 : 1;
   if (deed == L"type") {
@@ -227,8 +267,9 @@ int wmain(int count, wchar_t** arguments) {
                : 1;
   }
   if (deed == L"release") return Hold(false);
-  if (deed == L"gone") return AwaitGone([&] { return Look(arguments[2]) != nullptr; }) ? 0 : 1;
-  HWND window = Await(arguments[2]);
+  if (deed == L"gone") return AwaitGone([&] { return Look(arguments[2]).count > 0; }) ? 0 : 1;
+  const bool many = deed == L"hold" && count > 3;
+  HWND window = Await(arguments[2], many ? static_cast<int>(std::wcstol(arguments[3], nullptr, 10)) : 1);
   if (!window) {
     std::fprintf(stderr, "mirrell-hand: no window \"%s\"\n", Utf8(arguments[2]).c_str());
     return 1;
