@@ -2,7 +2,6 @@
 
 #include "character/alarm_images.h"
 #include "character/options.h"
-#include "platform/window.h"
 #include "resources/ids.h"
 #include "shell/dialog_family.h"
 #include "shell/shell.h"

@@ -5,7 +5,6 @@
 #include "character/motion.h"
 #include "character/options.h"
 #include "platform/canvas.h"
-#include "platform/dialog.h"
 #include "platform/window.h"
 #include "resources/ids.h"
 #include "shell/dialog_family.h"

@@ -2,7 +2,6 @@
 // about to be opened.
 
 #include <algorithm>
-#include <cstring>
 
 #include "character/walk.h"
 #include "character/walk_windows.h"

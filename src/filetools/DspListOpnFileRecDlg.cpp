@@ -2,7 +2,6 @@
 
 #include "filetools/open_controls.h"
 #include "filetools/open_dialogs.h"
-#include "platform/dialog.h"
 #include "resources/ids.h"
 #include "shell/dialog_family.h"
 

@@ -1,7 +1,5 @@
 // FileBackUpSetDlg, "ファイル バックアップ".
 
-#include <cstring>
-
 #include "filetools/back_up.h"
 #include "filetools/back_up_commands.h"
 #include "filetools/back_up_dialogs.h"

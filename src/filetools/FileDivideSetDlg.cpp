@@ -2,7 +2,6 @@
 
 #include "filetools/divide_commands.h"
 #include "filetools/divide_dialogs.h"
-#include "platform/dialog.h"
 #include "resources/ids.h"
 #include "shell/dialog_family.h"
 #include "shell/shell.h"

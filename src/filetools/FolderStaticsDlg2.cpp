@@ -2,7 +2,6 @@
 // first, as bars that scroll.
 
 #include <algorithm>
-#include <cstring>
 
 #include "filetools/folder_scope.h"
 #include "filetools/scope_bars.h"

@@ -1,7 +1,6 @@
 #include "filetools/filetools_commands.h"
 
 #include "filetools/open_choice.h"
-#include "filetools/open_controls.h"
 #include "filetools/open_dialogs.h"
 #include "filetools/open_groups.h"
 #include "filetools/open_history.h"

@@ -2,7 +2,6 @@
 
 #include <cmath>
 #include <cstdlib>
-#include <iterator>
 
 #include "filetools/folder_scope.h"
 #include "filetools/scope_unit.h"

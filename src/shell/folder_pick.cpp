@@ -5,7 +5,6 @@
 #include "platform/window.h"
 #include "shell/dialog_family.h"
 #include "shell/folder_list.h"
-#include "shell/path.h"
 #include "shell/text.h"
 
 namespace {

@@ -5,7 +5,6 @@
 #include "character/notices.h"
 #include "mail_music/mail_setting.h"
 #include "platform/canvas.h"
-#include "resources/ids.h"
 #include "scenario/world_list.h"
 #include "tests/character/walk_fixture.h"
 

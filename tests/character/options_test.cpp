@@ -5,9 +5,7 @@
 #include "character/alarm_images.h"
 #include "character/character_commands.h"
 #include "character/character_file.h"
-#include "filetools/open_history.h"
 #include "scenario/world_list.h"
-#include "shell/settings.h"
 #include "tests/character/walk_fixture.h"
 
 namespace {

@@ -7,7 +7,6 @@
 
 #include "platform/posix/test_clock.h"
 #include "shell/shell.h"
-#include "shell/text.h"
 #include "tests/support/records.h"
 
 namespace {

@@ -1,14 +1,12 @@
 // The performance that the clock notice plays: its steps, passes, sound and waits.
 #include "clock_calendar/performance.h"
 
-#include <algorithm>
 #include <cstring>
 
 #include "character/character.h"
 #include "character/character_tables.h"
 #include "character/performance_figures.h"
 #include "clock_calendar/clock.h"
-#include "platform/posix/test_clock.h"
 #include "tests/character/chara_files.h"
 #include "tests/support/desktop.h"
 

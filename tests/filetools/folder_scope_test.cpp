@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cstring>
-#include <set>
 
 #include "platform/diagnostics.h"
 #include "shell/big_endian.h"

@@ -1,7 +1,6 @@
 #include "filetools/scope_bars.h"
 
 #include <bit>
-#include <cstring>
 
 #include "shell/big_endian.h"
 #include "tests/filetools/scope_fixture.h"

@@ -1,7 +1,5 @@
 #include "filetools/scope_pie.h"
 
-#include <cstring>
-
 #include "tests/filetools/scope_fixture.h"
 
 namespace {

@@ -4,7 +4,6 @@
 #include <memory>
 
 #include "platform/posix/faults.h"
-#include "platform/posix/live_counts.h"
 #include "platform/window.h"
 #include "tests/platform/machinery.h"
 #include "tests/support/test_dialogs.h"

@@ -2,7 +2,6 @@
 #include "platform/file.h"
 
 #include <algorithm>
-#include <climits>
 #include <cstring>
 
 #include "platform/posix/faults.h"

@@ -4,10 +4,8 @@
 #include <set>
 
 #include "platform/headless/resource_file.h"
-#include "platform/window.h"
 #include "resources/ids.h"
 #include "shell/commands.h"
-#include "shell/panel.h"
 #include "shell/shell.h"
 #include "tests/support/program.h"
 

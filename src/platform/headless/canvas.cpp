@@ -1,6 +1,5 @@
 #include "platform/canvas.h"
 
-#include <algorithm>
 #include <cstring>
 
 #include "platform/headless/drawing_objects.h"

@@ -1,4 +1,3 @@
-#include <algorithm>
 
 #include "platform/dialog.h"
 #include "platform/headless/state.h"
