@@ -46,8 +46,8 @@ void GoTo(const FolderList& list, const char* folder) {
   FolderSetCurrent(folder);
   if (ReadCurrent(list)) return;
   FolderSetCurrent(before);
-  while (!ReadCurrent(list) && FolderSetCurrent("..")) {
-  }
+  // A path has no more levels than half its bytes; the root lies in itself.
+  for (int up = 0; up < kAnyFolderSize / 2 && !ReadCurrent(list); ++up) FolderSetCurrent("..");
 }
 
 // To list.folder, as far as that can be done.

@@ -468,11 +468,12 @@ TEST_F(BackUpDialogTest, AFolderThatCannotBeToldIsNoChoice) {
   AddSource("a.txt", "one");
   CopyTo("C:\\mirrell\\copies");
   Then([] {
-    FaultArm(FaultKind::FolderGet, 1);
+    FaultArmFrom(FaultKind::FolderGet, 1);
     Press(TopDialog(), IDC_BACKUP_FOLDER);
   });
   Then([] {
     EXPECT_TRUE(FaultWasMet());
+    FaultClear();
     Press(TopDialog(), 1);
   });
   RunDialog();
