@@ -18,6 +18,11 @@ class CalendarTest : public RecordsTest {
     CalenYearCount = count;
     for (int i = 0; i < kCalenYearMax; ++i) CalenYearInit(i);
   }
+  static void Today(int year, int month, int day) {
+    TodayYear = year;
+    TodayMonth = month;
+    TodayDay = day;
+  }
   static std::string Note(int yearIndex, int month, int day) {
     char note[kNoteSize + 1];
     CalenNoteGet(yearIndex, month, day, note);
@@ -422,9 +427,7 @@ TEST_F(CalendarHolidayTest, RulesWithWildParametersAreHarmless) {
 
 TEST_F(CalendarTest, ANewDayIsTakenOverOnce) {
   Span(26, 1);
-  TodayYear = 26;
-  TodayMonth = 10;
-  TodayDay = 20;
+  Today(26, 10, 20);
   EXPECT_EQ(CalenTickCheck(), 0);
   TestClockSet({2026, 11, 22, 0, 0, 0, 0, 0});
   EXPECT_EQ(CalenTickCheck(), 1);
@@ -434,9 +437,7 @@ TEST_F(CalendarTest, ANewDayIsTakenOverOnce) {
 
 TEST_F(CalendarTest, ANewMonthIsTakenOver) {
   Span(26, 1);
-  TodayYear = 26;
-  TodayMonth = 10;
-  TodayDay = 29;
+  Today(26, 10, 29);
   TestClockSet({2026, 12, 1, 2, 0, 0, 0, 0});
   EXPECT_EQ(CalenTickCheck(), 1);
   EXPECT_EQ(TodayMonth, 11);
@@ -446,9 +447,7 @@ TEST_F(CalendarTest, ANewMonthIsTakenOver) {
 
 TEST_F(CalendarTest, ANewYearInsideTheSpanGoesOnDisplay) {
   Span(26, 2);
-  TodayYear = 26;
-  TodayMonth = 11;
-  TodayDay = 30;
+  Today(26, 11, 30);
   TestClockSet({2027, 1, 1, 5, 0, 0, 0, 0});
   EXPECT_EQ(CalenTickCheck(), 1);
   EXPECT_EQ(TodayYear, 27);
@@ -458,9 +457,7 @@ TEST_F(CalendarTest, ANewYearInsideTheSpanGoesOnDisplay) {
 
 TEST_F(CalendarTest, ANewYearOutsideTheSpanBecomesItsFirstYear) {
   Span(26, 1);
-  TodayYear = 26;
-  TodayMonth = 11;
-  TodayDay = 30;
+  Today(26, 11, 30);
   TestClockSet({2027, 1, 1, 5, 0, 0, 0, 0});
   EXPECT_EQ(CalenTickCheck(), 1);
   EXPECT_EQ(CalenYearPos, 0);

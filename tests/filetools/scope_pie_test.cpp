@@ -1,5 +1,7 @@
 #include "filetools/scope_pie.h"
 
+#include <array>
+
 #include "tests/filetools/scope_fixture.h"
 
 namespace {
@@ -251,6 +253,13 @@ ScopePie PieOf(const std::vector<std::pair<Point, Point>>& arcs) {
   return pie;
 }
 
+using Leaders = std::array<ScopeLeader, kScopePieRows>;
+Leaders LeadersOf(const ScopeLeaderRule& rule, const std::vector<std::pair<Point, Point>>& arcs) {
+  ScopeLeader leaders[kScopePieRows];
+  ScopePieLeaders(PieOf(arcs), rule, leaders);
+  return std::to_array(leaders);
+}
+
 void Leader(const ScopeLeader& leader, int x, int y, int endX, Point number) {
   EXPECT_EQ(leader.x, x);
   EXPECT_EQ(leader.y, y);
@@ -260,17 +269,15 @@ void Leader(const ScopeLeader& leader, int x, int y, int endX, Point number) {
 }
 
 TEST(ScopeLeadersTest, CloseLinesStepOutAndTheLeftSideStartsOver) {
-  const ScopePie pie = PieOf({{{230, 229}, {160, 200}},
-                              {{260, 300}, {230, 229}},
-                              {{240, 310}, {260, 300}},
-                              {{238, 316}, {240, 310}},
-                              {{235, 320}, {238, 316}},
-                              {{89, 370}, {235, 320}},
-                              {{60, 300}, {89, 370}},
-                              {{60, 298}, {60, 300}},
-                              {{60, 296}, {60, 298}}});
-  ScopeLeader leaders[kScopePieRows];
-  ScopePieLeaders(pie, kDriveLeaders, leaders);
+  const Leaders leaders = LeadersOf(kDriveLeaders, {{{230, 229}, {160, 200}},
+                                                    {{260, 300}, {230, 229}},
+                                                    {{240, 310}, {260, 300}},
+                                                    {{238, 316}, {240, 310}},
+                                                    {{235, 320}, {238, 316}},
+                                                    {{89, 370}, {235, 320}},
+                                                    {{60, 300}, {89, 370}},
+                                                    {{60, 298}, {60, 300}},
+                                                    {{60, 296}, {60, 298}}});
   Leader(leaders[0], 195, 214, 270, {272, 210});
   Leader(leaders[1], 245, 264, 270, {272, 260});
   Leader(leaders[2], 250, 305, 270, {272, 301});
@@ -283,12 +290,10 @@ TEST(ScopeLeadersTest, CloseLinesStepOutAndTheLeftSideStartsOver) {
 }
 
 TEST(ScopeLeadersTest, ADistanceOfTenTakesTheStepBack) {
-  const ScopePie pie = PieOf({{{250, 210}, {250, 210}},
-                              {{250, 215}, {250, 215}},
-                              {{250, 225}, {250, 225}},
-                              {{250, 230}, {250, 230}}});
-  ScopeLeader leaders[kScopePieRows];
-  ScopePieLeaders(pie, kDriveLeaders, leaders);
+  const Leaders leaders = LeadersOf(kDriveLeaders, {{{250, 210}, {250, 210}},
+                                                    {{250, 215}, {250, 215}},
+                                                    {{250, 225}, {250, 225}},
+                                                    {{250, 230}, {250, 230}}});
   EXPECT_EQ(leaders[0].endX, 270);
   EXPECT_EQ(leaders[1].endX, 280);
   EXPECT_EQ(leaders[2].endX, 270);
@@ -296,17 +301,15 @@ TEST(ScopeLeadersTest, ADistanceOfTenTakesTheStepBack) {
 }
 
 TEST(ScopeLeadersTest, TheFirstLineOnTheLeftIsNeverShifted) {
-  const ScopePie pie = PieOf({{{250, 300}, {250, 300}}, {{250, 395}, {250, 395}}, {{150, 398}, {150, 398}}});
-  ScopeLeader leaders[kScopePieRows];
-  ScopePieLeaders(pie, kDriveLeaders, leaders);
+  const Leaders leaders = LeadersOf(
+      kDriveLeaders, {{{250, 300}, {250, 300}}, {{250, 395}, {250, 395}}, {{150, 398}, {150, 398}}});
   EXPECT_EQ(leaders[2].endX, 40);
 }
 
 TEST(ScopeLeadersTest, OfTheDriveTheFirstTwoRowsGoRightEvenFromTheLeftHalf) {
-  const ScopePie pie = PieOf(
+  const Leaders leaders = LeadersOf(
+      kDriveLeaders,
       {{{89, 370}, {160, 200}}, {{80, 340}, {89, 370}}, {{60, 300}, {80, 340}}, {{160, 200}, {60, 300}}});
-  ScopeLeader leaders[kScopePieRows];
-  ScopePieLeaders(pie, kDriveLeaders, leaders);
   Leader(leaders[0], 210, 285, 270, {272, 281});
   Leader(leaders[1], 210, 355, 270, {272, 351});
   Leader(leaders[2], 70, 320, 40, {22, 316});
@@ -314,10 +317,9 @@ TEST(ScopeLeadersTest, OfTheDriveTheFirstTwoRowsGoRightEvenFromTheLeftHalf) {
 }
 
 TEST(ScopeLeadersTest, OfTheFolderOnlyTheFirstGoesRightAndLinesToTheLeftBeginLeftOfTheCentre) {
-  const ScopePie pie = PieOf(
+  const Leaders leaders = LeadersOf(
+      kFolderLeaders,
       {{{230, 229}, {160, 200}}, {{89, 370}, {230, 229}}, {{160, 200}, {89, 370}}, {{160, 200}, {160, 200}}});
-  ScopeLeader leaders[kScopePieRows];
-  ScopePieLeaders(pie, kFolderLeaders, leaders);
   Leader(leaders[0], 195, 214, 270, {272, 210});
   Leader(leaders[1], 150, 398, 40, {22, 394});
   Leader(leaders[2], 124, 285, 40, {22, 281});
@@ -325,9 +327,8 @@ TEST(ScopeLeadersTest, OfTheFolderOnlyTheFirstGoesRightAndLinesToTheLeftBeginLef
 }
 
 TEST(ScopeLeadersTest, ASliceAcrossTwelveIsMetAtItsTop) {
-  const ScopePie pie = PieOf({{{250, 300}, {250, 300}}, {{250, 280}, {250, 280}}, {{200, 210}, {100, 220}}});
-  ScopeLeader leaders[kScopePieRows];
-  ScopePieLeaders(pie, kDriveLeaders, leaders);
+  const Leaders leaders = LeadersOf(
+      kDriveLeaders, {{{250, 300}, {250, 300}}, {{250, 280}, {250, 280}}, {{200, 210}, {100, 220}}});
   Leader(leaders[2], 160, 202, 40, {22, 198});
 }
 
