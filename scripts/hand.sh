@@ -79,7 +79,7 @@ brief_shot() {
 
 # area_shot FILE X Y WIDTH HEIGHT
 area_shot() {
-  [ "$4" -gt 0 ]
+  [ "${4:-0}" -gt 0 ]
   import -window root -crop "$4x$5+$2+$3" +repage "$1"
 }
 

@@ -22,6 +22,7 @@ picture() {
 # point X Y: moves the pointer there in a few small moves, as a hand does.
 point() {
   local x y i
+  [ $# = 2 ]
   eval "$(xdotool getmouselocation --shell | grep -E '^[XY]=')"
   for i in 1 2 3 4 5 6; do
     x=$((X + ($1 - X) * i / 6)) y=$((Y + ($2 - Y) * i / 6))
@@ -29,17 +30,17 @@ point() {
     sleep 0.03
   done
 }
-click() { point "$1" "$2"; sleep 0.1; xdotool click 1; }
+click() { point "$@"; sleep 0.1; xdotool click 1; }
 drag() {
   point "$1" "$2"
   xdotool mousedown 1
   point "$3" "$4"
   xdotool mouseup 1
 }
-double_click() { point "$1" "$2"; xdotool click --repeat 2 --delay 80 1; }
+double_click() { point "$@"; xdotool click --repeat 2 --delay 80 1; }
 
-# into X Y WIDTH HEIGHT [PART OF WIDTH IN %]: a point in a rectangle.
-into() { echo $(($1 + $3 * ${5:-50} / 100)) $(($2 + $4 / 2)); }
+# into X Y WIDTH HEIGHT [PART OF WIDTH IN %]: a point in a rectangle; nothing without one.
+into() { [ $# -lt 4 ] || echo $(($1 + $3 * ${5:-50} / 100)) $(($2 + $4 / 2)); }
 # push TITLE ID: clicks the button.
 push() { click $(into $(hand part "$1" "$2")); }
 
