@@ -64,10 +64,6 @@ void AlarmFrameDraw(Canvas* canvas, int x, int y, const AlarmRow& row, int frame
   if (IsFrame(frame)) MaskedDraw(canvas, x, y, row.pictures[frame], row.masks[frame]);
 }
 
-int AlarmFrameWidth(const AlarmRow& row, int frame) {
-  return IsFrame(frame) ? DibWidth(row.pictures[frame]) : 0;
-}
-
 int AlarmFrameHeight(const AlarmRow& row, int frame) {
   return IsFrame(frame) ? DibHeight(row.pictures[frame]) : 0;
 }

@@ -32,8 +32,7 @@ int AlarmFrameNext(const AlarmRow& row, int frame);
 // Draws a frame of a row; one that is missing or beyond the row draws nothing.
 void AlarmFrameDraw(Canvas* canvas, int x, int y, const AlarmRow& row, int frame);
 
-// Width and height of a frame, 0 for one that is missing.
-int AlarmFrameWidth(const AlarmRow& row, int frame);
+// The height of a frame, 0 for one that is missing.
 int AlarmFrameHeight(const AlarmRow& row, int frame);
 
 // Draws a picture over any background: what its mask leaves white stays. The

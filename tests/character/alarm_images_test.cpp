@@ -47,7 +47,7 @@ class AlarmTest : public WalkFixture {
 TEST_F(AlarmTest, EachRowLoadsThePicturesAndMasksOfItsSelection) {
   Select(1, 2, 0);
   EXPECT_EQ(AlarmRows[0].frameCount, 3);
-  EXPECT_EQ(AlarmFrameWidth(AlarmRows[0], 0), 50);
+  EXPECT_EQ(DibWidth(AlarmRows[0].pictures[0]), 50);
   EXPECT_EQ(AlarmFrameHeight(AlarmRows[0], 2), 20);
   EXPECT_EQ(AlarmRows[0].pictures[1], nullptr);
   EXPECT_NE(AlarmRows[0].masks[0], nullptr);
@@ -87,7 +87,7 @@ TEST_F(AlarmTest, TheWorldListMarksTheFramesInUse) {
   for (int i = 0; i < 5; ++i) WorldCharas[5].figureIds[i] = 1;
   Select(1, 0, 0);
   EXPECT_EQ(AlarmRows[0].frameCount, 5);
-  EXPECT_EQ(AlarmFrameWidth(AlarmRows[0], 4), 0);  // in use, but its picture is missing
+  EXPECT_EQ(AlarmFrameHeight(AlarmRows[0], 4), 0);  // in use, but its picture is missing
 }
 
 TEST_F(AlarmTest, FramesGoRound) {

@@ -385,8 +385,8 @@ TEST_F(AlarmOptionsTest, OkStoresBothSelectionsLoadsTheRowsAndSaves) {
   EXPECT_EQ(AlarmCharaSel[0], 1);
   EXPECT_EQ(AlarmCharaSel[1], 2);
   EXPECT_EQ(AlarmCharaSel[2], 3);
-  EXPECT_EQ(AlarmFrameWidth(AlarmRows[1], 0), 80);
-  EXPECT_EQ(AlarmFrameWidth(AlarmRows[2], 0), 90);
+  EXPECT_EQ(DibWidth(AlarmRows[1].pictures[0]), 80);
+  EXPECT_EQ(DibWidth(AlarmRows[2].pictures[0]), 90);
   EXPECT_TRUE(SettingsWritten());
 }
 
