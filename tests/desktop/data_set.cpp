@@ -26,7 +26,14 @@ SettingsChange& SettingsChange::LowFirst32(std::size_t at, int value) {
 }
 
 int SettingsNumber(const Companion& companion, std::size_t at) {
-  return static_cast<int>(GetBig(ReadWholeFile(companion.File(kSettings)), at));
+  // The companion may be writing the file anew at this moment.
+  constexpr std::size_t kSettingsSize = 172720;
+  std::vector<unsigned char> bytes;
+  const bool whole = WaitFor([&] {
+    bytes = ReadWholeFile(companion.File(kSettings));
+    return bytes.size() == kSettingsSize;
+  });
+  return whole ? static_cast<int>(GetBig(bytes, at)) : -1;
 }
 
 Picture LoadPicture(const Companion& companion, const std::wstring& name) {
