@@ -30,7 +30,7 @@ memory_of() { awk '/^Pss:/ {sum += $2} END {print sum}' "/proc/$1/smaps_rollup";
 
 ( cd "$program" && exec wine mirrell.exe ) &
 sleep 5
-companion=$(pgrep -f 'mirrell\.exe$' | head -n 1)
+companion=$(pgrep -n -f 'mirrell\.exe$')  # the newest: another may run elsewhere
 PATH=$PATH:/usr/games
 oneko & oneko_pid=$!
 xpenguins & xpenguins_pid=$!

@@ -13,6 +13,7 @@ struct Canvas {
   HDC dc;
   HWND window;     // of a window's canvas
   HBITMAP bitmap;  // of a canvas in memory
+  bool hasFont;    // one has been selected
 };
 
 namespace {
@@ -36,9 +37,19 @@ void Drop(Handle handle, int& count) {
 
 Canvas* Begin(HDC dc, HWND window, HBITMAP bitmap) {
   SaveDC(dc);
-  SelectObject(dc, TextFont());
   ++Live().canvases;
-  return new Canvas{dc, window, bitmap};
+  return new Canvas{dc, window, bitmap, false};
+}
+
+void FontSelect(Canvas* canvas, HGDIOBJ font) {
+  SelectObject(canvas->dc, font);
+  canvas->hasFont = true;
+}
+
+// The text font is there until another is chosen. It is selected at the first need:
+// most canvases show pictures only, and a font costs more than a picture.
+void NeedFont(Canvas* canvas) {
+  if (!canvas->hasFont) FontSelect(canvas, TextFont());
 }
 
 int LengthOf(const char* text, int length) {
@@ -143,7 +154,7 @@ void CanvasPen(Canvas* canvas, PenHandle pen) {
   SelectObject(canvas->dc, Object(pen));
 }
 void CanvasFont(Canvas* canvas, FontHandle font) {
-  SelectObject(canvas->dc, font ? Object(font) : static_cast<HGDIOBJ>(TextFont()));
+  FontSelect(canvas, font ? Object(font) : static_cast<HGDIOBJ>(TextFont()));
 }
 void CanvasTextColour(Canvas* canvas, Colour colour) {
   SetTextColor(canvas->dc, colour);
@@ -188,11 +199,13 @@ void CanvasLine(Canvas* canvas, int x1, int y1, int x2, int y2) {
 }
 
 void CanvasText(Canvas* canvas, int x, int y, const char* text, int length) {
+  NeedFont(canvas);
   const std::wstring wide = Wide(text, LengthOf(text, length));
   TextOutW(canvas->dc, x, y, wide.c_str(), static_cast<int>(wide.size()));
 }
 
 int CanvasTextWidth(Canvas* canvas, const char* text, int length) {
+  NeedFont(canvas);
   const std::wstring wide = Wide(text, LengthOf(text, length));
   SIZE size{};
   GetTextExtentPoint32W(canvas->dc, wide.c_str(), static_cast<int>(wide.size()), &size);
@@ -200,6 +213,7 @@ int CanvasTextWidth(Canvas* canvas, const char* text, int length) {
 }
 
 TextMetrics CanvasTextMetrics(Canvas* canvas) {
+  NeedFont(canvas);
   TEXTMETRICW metrics{};
   GetTextMetricsW(canvas->dc, &metrics);
   return {static_cast<int>(metrics.tmAveCharWidth), static_cast<int>(metrics.tmHeight),
