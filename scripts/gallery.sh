@@ -71,8 +71,8 @@ for first in "$program"/キャラクタ/Chara*_1.bmp; do
 done
 
 # --- The panel at each level.
-xdotool mousemove $(hand stage | awk '{ print $1 + $3 / 2, $2 + $4 / 2 }')
-shot DspDiskMenu_1 -
+brief_shot "$pictures/DspDiskMenu_1.png" - \
+  xdotool mousemove $(hand stage | awk '{ print $1 + $3 / 2, $2 + $4 / 2 }')
 xdotool mousemove 20 20
 hand gone -
 for level in 4:1902 5:1903 6:1904 7:1906 8:1907; do

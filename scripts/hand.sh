@@ -6,7 +6,7 @@ set -Eeuo pipefail
 
 failed() {
   [ "$BASH_SUBSHELL" = 0 ] || return 0
-  echo "$0 failed, line ${BASH_LINENO[-2]}; see out/failed.png" >&2
+  echo "$0 failed: $BASH_COMMAND (lines ${BASH_LINENO[*]}); see out/failed.png" >&2
   screenshot out/failed.png || true
 }
 trap failed ERR

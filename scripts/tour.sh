@@ -44,12 +44,21 @@ into() { [ $# -lt 4 ] || echo $(($1 + $3 * ${5:-50} / 100)) $(($2 + $4 / 2)); }
 # push TITLE ID: clicks the button.
 push() { click $(into $(hand part "$1" "$2")); }
 
-# touch_stage: moves the pointer onto the character, which opens the panel.
+# touch_stage: moves the pointer onto the character, which opens the panel, and into
+# the panel before that closes again: someone looks out for it from before it opens.
 touch_stage() {
+  local stage panel lookout
   point 6 6
   hand gone -
-  point $(into $(hand stage))
-  hand find - >/dev/null
+  stage=$(hand stage)
+  panel=$(mktemp)
+  hand find - >"$panel" &
+  lookout=$!
+  sleep 0.5
+  point $(into $stage)
+  wait "$lookout"
+  xdotool mousemove $(into $(cat "$panel"))
+  rm -f "$panel"
 }
 # row NUMBER: clicks a row of the panel.
 row() {

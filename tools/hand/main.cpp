@@ -126,12 +126,14 @@ HWND Await(const wchar_t* title, int count) {
   return nullptr;
 }
 
-bool AwaitGone(const std::function<bool()>& isThere) {
+// Whether what is there is gone in time; 0 or the exit code 1.
+int AwaitGone(const wchar_t* title, const std::function<bool()>& isThere) {
   for (DWORD waited = 0; waited < kPatience; waited += kPause) {
-    if (!isThere()) return true;
+    if (!isThere()) return 0;
     Sleep(kPause);
   }
-  return false;
+  std::fprintf(stderr, "mirrell-hand: window \"%s\" stays\n", Utf8(title).c_str());
+  return 1;
 }
 
 // Posted: what it opens may be modal.
@@ -195,14 +197,14 @@ int Hold(bool still) {
   return status >= 0 ? 0 : 1;
 }
 
-int Leave(HWND window, const wchar_t* button) {
+int Leave(HWND window, const wchar_t* title, const wchar_t* button) {
   HWND control = button ? GetDlgItem(window, static_cast<int>(std::wcstol(button, nullptr, 10))) : nullptr;
   if (control) {
     Tell(window, control, BN_CLICKED);
   } else {
     PostMessageW(window, WM_CLOSE, 0, 0);
   }
-  return AwaitGone([window] { return IsWindowVisible(window) != FALSE; }) ? 0 : 1;
+  return AwaitGone(title, [window] { return IsWindowVisible(window) != FALSE; });
 }
 
 int Do(const std::wstring& deed, HWND window, int count, wchar_t** arguments) {
@@ -215,7 +217,7 @@ int Do(const std::wstring& deed, HWND window, int count, wchar_t** arguments) {
     PrintPlace(window);
     return Hold(true);
   }
-  if (deed == L"leave") return Leave(window, count > 3 ? arguments[3] : nullptr);
+  if (deed == L"leave") return Leave(window, arguments[2], count > 3 ? arguments[3] : nullptr);
   if (count < 4) return 2;
   if (deed == L"key") {
     return PostMessageW(window, WM_CHAR, static_cast<WPARAM>(std::wcstol(arguments[3], nullptr, 10)), 0) ? 0
@@ -267,7 +269,7 @@ int wmain(int count, wchar_t** arguments) {
                : 1;
   }
   if (deed == L"release") return Hold(false);
-  if (deed == L"gone") return AwaitGone([&] { return Look(arguments[2]).count > 0; }) ? 0 : 1;
+  if (deed == L"gone") return AwaitGone(arguments[2], [&] { return Look(arguments[2]).count > 0; });
   const bool many = deed == L"hold" && count > 3;
   HWND window = Await(arguments[2], many ? static_cast<int>(std::wcstol(arguments[3], nullptr, 10)) : 1);
   if (!window) {
