@@ -7,6 +7,9 @@ else()
   find_program(MIRRELL_WINDRES NAMES x86_64-w64-mingw32-windres REQUIRED)
 endif()
 
+# The names of styles and keys come from the resource compiler's own header.
+list(APPEND MIRRELL_WINDRES -c 65001 --preprocessor-arg=-include --preprocessor-arg=windows.h)
+
 set(MIRRELL_RESOURCE_DIR ${PROJECT_SOURCE_DIR}/src/resources)
 file(GLOB MIRRELL_RESOURCE_PARTS CONFIGURE_DEPENDS ${MIRRELL_RESOURCE_DIR}/*)
 if(WIN32)
@@ -18,7 +21,7 @@ else()
 endif()
 add_custom_command(
   OUTPUT ${MIRRELL_RESOURCE_OUT}
-  COMMAND ${MIRRELL_WINDRES} -c 65001 -O ${_format} -I ${MIRRELL_RESOURCE_DIR}
+  COMMAND ${MIRRELL_WINDRES} -O ${_format} -I ${MIRRELL_RESOURCE_DIR}
           -i ${MIRRELL_RESOURCE_DIR}/mirrell.rc -o ${MIRRELL_RESOURCE_OUT}
   DEPENDS ${MIRRELL_RESOURCE_PARTS}
   VERBATIM)
