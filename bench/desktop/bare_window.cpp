@@ -24,8 +24,8 @@ int WINAPI wWinMain(HINSTANCE instance, HINSTANCE, LPWSTR, int showMode) {
   windowClass.hbrBackground = static_cast<HBRUSH>(GetStockObject(WHITE_BRUSH));
   windowClass.lpszClassName = L"bare";
   RegisterClassExW(&windowClass);
-  HWND window = CreateWindowExW(0, L"bare", L"bare", WS_POPUP | WS_BORDER, 500, 300, 120, 160, nullptr, nullptr,
-                                instance, nullptr);
+  HWND window = CreateWindowExW(0, L"bare", L"bare", WS_POPUP | WS_BORDER, 500, 300, 120, 160, nullptr,
+                                nullptr, instance, nullptr);
   SetTimer(window, 1, 30, nullptr);
   ShowWindow(window, showMode);
   UpdateWindow(window);

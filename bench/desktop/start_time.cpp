@@ -27,7 +27,8 @@ double StartOnce(const std::wstring& program) {
   startup.cb = sizeof startup;
   PROCESS_INFORMATION process{};
   const double begin = Now();
-  if (!CreateProcessW(nullptr, line.data(), nullptr, nullptr, FALSE, 0, nullptr, folder.c_str(), &startup, &process)) {
+  if (!CreateProcessW(nullptr, line.data(), nullptr, nullptr, FALSE, 0, nullptr, folder.c_str(), &startup,
+                      &process)) {
     std::fprintf(stderr, "cannot start the program\n");
     std::exit(1);
   }
@@ -66,7 +67,7 @@ int wmain(int count, wchar_t** arguments) {
     b.push_back(second);
     ratios.push_back(first / second);
   }
-  std::printf("A %.1f ms, B %.1f ms, ratio A/B %.3f (medians of %d pairs)\n", Median(a), Median(b), Median(ratios),
-              rounds);
+  std::printf("A %.1f ms, B %.1f ms, ratio A/B %.3f (medians of %d pairs)\n", Median(a), Median(b),
+              Median(ratios), rounds);
   return 0;
 }
