@@ -63,7 +63,7 @@ void DrawSlices(Canvas* canvas, const Column& column) {
 void DrawKey(Canvas* canvas, const Column& column) {
   // A long name ends with the last whole character in front of the sizes.
   const int keyX = column.x0 - kKeyLeft;
-  const int nameEnd = keyX + (column.sizeX - keyX) / kColumn * kColumn;
+  const int columns = (column.sizeX - keyX) / kColumn;
   for (int i = 0; i < column.pie.count; ++i) {
     const ScopePieRow& row = column.pie.rows[i];
     const int y = column.y0 + kKeyBelow + i * kKeyStep;
@@ -77,7 +77,8 @@ void DrawKey(Canvas* canvas, const Column& column) {
     }
     char text[kTextSize];
     StaticsName(text, sizeof text, before, row.name);
-    CanvasClip(canvas, {keyX, y, nameEnd, y + kKeyStep});
+    const auto whole = static_cast<int>(TextPrefix(text, columns));
+    CanvasClip(canvas, {keyX, y, keyX + whole * kColumn, y + kKeyStep});
     CanvasText(canvas, keyX, y, text);
     CanvasClipNone(canvas);
     TextFormat(text, sizeof text, " %d.%d %s", row.valueInt, row.valueFrac, ScopeUnitText(row.unit));

@@ -154,16 +154,22 @@ TEST_F(FolderScopeDialogTest, NamesAreCutAfter23BytesWithTheirPairsWhole) {
 }
 
 TEST_F(FolderScopeDialogTest, TheKeyEndsInFrontOfItsSizes) {
-  MakeTree();
-  Pies("C:\\data\\photos", [] {
+  // 23 columns on the left, 28 on the right; the lines' heads take 8 and 7 of them, and
+  // a character of two columns is whole or not there.
+  MakeFolder("C:\\data\\春夏秋冬東西南北上下");
+  MakeSized("C:\\data\\春夏秋冬東西南北上下\\一二三四五六七八九十百千", 4096);
+  Pies("C:\\data\\春夏秋冬東西南北上下", [] {
+    int seen = 0;
     for (const DrawCall& text : DrawnTexts(TopDialog())) {
-      if (text.text == "1.( 1) data") {
-        EXPECT_EQ(text.clip.right, 224);
-      } else if (text.text == "1.( 1) p1.bin") {
-        EXPECT_EQ(text.clip.right, 584);
+      if (text.text.starts_with("2.C:\\..\\春夏")) {
+        EXPECT_EQ(text.clip.right, 40 + (8 + 7 * 2) * 8);
+        ++seen;
+      } else if (text.text.starts_with("1.( 1) 一二")) {
+        EXPECT_EQ(text.clip.right, 360 + (7 + 10 * 2) * 8);
+        ++seen;
       }
     }
-    EXPECT_TRUE(HasText("1.( 1) p1.bin"));
+    EXPECT_EQ(seen, 2);
   });
 }
 
