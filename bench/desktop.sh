@@ -25,7 +25,8 @@ echo "start to first paint, companion (A) against a bare window (B):"
 wine build/windows/bench/desktop/start_time.exe 20 \
   "$(windows_path $program/mirrell.exe)" "$(windows_path build/windows/bench/desktop/bare_window.exe)"
 
-ticks_of() { awk '{print $14 + $15}' "/proc/$1/stat"; }
+# Time on a core of all threads of a process, in nanoseconds.
+run_time_of() { cat "/proc/$1/task"/*/schedstat | awk '{sum += $1} END {printf "%.0f", sum}'; }
 memory_of() { awk '/^Pss:/ {sum += $2} END {print sum}' "/proc/$1/smaps_rollup"; }
 
 ( cd "$program" && exec wine mirrell.exe ) &
@@ -37,13 +38,12 @@ xpenguins & xpenguins_pid=$!
 sleep 5
 
 declare -A before
-for pid in "$companion" "$oneko_pid" "$xpenguins_pid"; do before[$pid]=$(ticks_of "$pid"); done
+for pid in "$companion" "$oneko_pid" "$xpenguins_pid"; do before[$pid]=$(run_time_of "$pid"); done
 sleep "$seconds"
-hertz=$(getconf CLK_TCK)
 report() {
-  local used=$(( $(ticks_of "$2") - ${before[$2]} ))
-  awk -v n="$1" -v u="$used" -v h="$hertz" -v s="$seconds" -v m="$(memory_of "$2")" \
-    'BEGIN { printf "%-12s %.3f %% of a core, %.1f MB (proportional)\n", n, 100 * u / h / s, m / 1024 }'
+  local used=$(( $(run_time_of "$2") - ${before[$2]} ))
+  awk -v n="$1" -v u="$used" -v s="$seconds" -v m="$(memory_of "$2")" \
+    'BEGIN { printf "%-12s %.3f %% of a core, %.1f MB (proportional)\n", n, 100 * u / 1e9 / s, m / 1024 }'
 }
 echo "idle for $seconds s on one display:"
 report companion "$companion"

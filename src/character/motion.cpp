@@ -142,6 +142,16 @@ Step StepBored() {
   return Step::Redraw;
 }
 
+// Steps from now that only count down, to the blink and to boredom.
+std::int32_t QuietSteps() {
+  if (CharaMotion != kMotionIdle) return 0;
+  constexpr std::int32_t kMany = 1000;
+  std::int32_t steps = kMany;
+  if (BlinkIsUsable()) steps = std::min(steps, BlinkCount);
+  if (BoredLen1 != 0 || BoredLen2 != 0) steps = std::min(steps, BoredSec);
+  return std::max(steps, 0);
+}
+
 Step StepMotion() {
   if (CharaMotion == kMotionIdle) {
     StepIdle();
@@ -179,7 +189,8 @@ int CharaMotionTick() {
 int CharaMotionDue() {
   // The end of the menu state is looked for in every tick.
   if (CharaMotion == kMotionMenu) return 1;
-  return std::max(kTicksBetweenSteps + 1 - CharaStepCount, 1);
+  constexpr std::int32_t kTicksOfStep = kTicksBetweenSteps + 1;
+  return std::max(kTicksOfStep - CharaStepCount, 1) + QuietSteps() * kTicksOfStep;
 }
 
 void CharaMenuOn() {

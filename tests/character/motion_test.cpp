@@ -298,4 +298,29 @@ TEST_F(MotionTest, FramesBeyondTheTableAreShownAsFrame0) {
   EXPECT_EQ(DibsDrawn(hMainWnd)[0].dib, FramePicture(kStageRow, 0));
 }
 
+// The timer may leave out looking at the ticks before the one that is due.
+TEST_F(MotionTest, UntilTheTickThatIsDueNothingIsShownAndNoStateChanges) {
+  BlinkFrame = 5;
+  BlinkSpeedSel = 0;
+  Patterns({2, 3}, {4});
+  BoredSec = 2;
+  BoredMin = 1;
+  BoredHour = 0;
+  int waited = 0;
+  for (int ticks = 0; ticks < 20000;) {
+    const int due = CharaMotionDue();
+    ASSERT_GE(due, 1);
+    const std::int32_t state = CharaMotion;
+    for (int tick = 1; tick < due; ++tick) {
+      ASSERT_EQ(CharaMotionTick(), 0) << ticks + tick;
+      ASSERT_EQ(CharaMotion, state) << ticks + tick;
+    }
+    CharaMotionTick();
+    ticks += due;
+    ++waited;
+  }
+  // 20,000 ticks are 1,176 steps; most of them only count.
+  EXPECT_LT(waited, 600);
+}
+
 }  // namespace

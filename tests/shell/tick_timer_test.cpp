@@ -30,6 +30,9 @@ class TickTimerTest : public ProgramTest {
     TickCount = 0;
     CharaStepCount = 0;
     FileWatchCount = 0;
+    // In every step there is something to do, and nothing comes of it.
+    CharaMotion = kMotionBored;
+    BoredHold = 100000;
   }
 
   static int Period() { return TimerPeriod(hMainWnd, kTickTimer); }
@@ -46,7 +49,26 @@ TEST_F(TickTimerTest, TheFirstTickComesAfter30Milliseconds) {
   EXPECT_EQ(TickCount, 0);
 }
 
-TEST_F(TickTimerTest, AnIdleCompanionRestsUntilTheCharactersNextStep) {
+TEST_F(TickTimerTest, ACharacterThatOnlyCountsDownIsLeftAloneUntilItsCountIsOver) {
+  CharaMotion = kMotionIdle;
+  BoredLen1 = 1;
+  BoredSec = 5;
+  BoredMin = 3;
+  CharaStepCount = 4;
+  // Five steps count the seconds down, the sixth takes a minute.
+  EXPECT_EQ(TicksUntilDue(), 6 * kStep - 4);
+  Ticks(6 * kStep - 5);
+  EXPECT_EQ(BoredSec, 0);
+  EXPECT_EQ(BoredMin, 3);
+  MainTick();
+  EXPECT_EQ(BoredSec, 60);
+  EXPECT_EQ(BoredMin, 2);
+  BoredLen1 = 0;
+  BoredLen2 = 0;
+  EXPECT_EQ(TicksUntilDue(), kWatch - FileWatchCount) << "a character that does nothing at all";
+}
+
+TEST_F(TickTimerTest, AMovingCompanionRestsUntilTheCharactersNextStep) {
   Fire();
   EXPECT_EQ(TickCount, 1);
   EXPECT_EQ(CharaStepCount, 1);
@@ -147,7 +169,7 @@ TEST_F(TickTimerTest, WorkInTheTickKeepsThePace) {
       {"a pending group", [] { OpnPendingGroup = &group; }, [] { OpnPendingGroup = nullptr; }},
       {"a walk", [] { WalkActive = true; }, [] { WalkActive = false; }},
       {"an end phase", [] { WalkEndActive = true; }, [] { WalkEndActive = false; }},
-      {"the menu motion", [] { CharaMotion = kMotionMenu; }, [] { CharaMotion = kMotionIdle; }},
+      {"the menu motion", [] { CharaMotion = kMotionMenu; }, [] { CharaMotion = kMotionBored; }},
   };
   for (const Busy& kind : kinds) {
     EXPECT_GT(TicksUntilDue(), 1) << kind.what;
