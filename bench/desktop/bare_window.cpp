@@ -1,6 +1,6 @@
-// The least that a program of this kind can be: a popup window of the same style
-// with a timer of the same rate, that paints a rectangle. The measure for the
-// companion's start.
+// The least that a program of this kind can be: a popup window of the same style,
+// with a menu of one item and a timer of the same rate, that paints a rectangle. The
+// measure for the companion's start.
 #include <windows.h>
 
 static LRESULT CALLBACK WindowProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
@@ -24,8 +24,12 @@ int WINAPI wWinMain(HINSTANCE instance, HINSTANCE, LPWSTR, int showMode) {
   windowClass.hbrBackground = static_cast<HBRUSH>(GetStockObject(WHITE_BRUSH));
   windowClass.lpszClassName = L"bare";
   RegisterClassExW(&windowClass);
-  HWND window = CreateWindowExW(0, L"bare", L"bare", WS_POPUP | WS_BORDER, 500, 300, 120, 160, nullptr,
-                                nullptr, instance, nullptr);
+  HMENU items = CreatePopupMenu();
+  AppendMenuW(items, MF_STRING, 8, L"アプリケーション終了");
+  HMENU menu = CreateMenu();
+  AppendMenuW(menu, MF_POPUP, reinterpret_cast<UINT_PTR>(items), L"ファイル");
+  HWND window = CreateWindowExW(0, L"bare", L"bare", WS_POPUP | WS_BORDER, 500, 300, 120, 160, nullptr, menu,
+                                instance, nullptr);
   SetTimer(window, 1, 30, nullptr);
   ShowWindow(window, showMode);
   UpdateWindow(window);
