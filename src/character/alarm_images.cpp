@@ -1,5 +1,7 @@
 #include "character/alarm_images.h"
 
+#include <algorithm>
+
 #include "character/character_tables.h"
 #include "character/frames.h"
 #include "platform/canvas.h"
@@ -27,10 +29,31 @@ int FrameCountOf(const AlarmRow& row, int number) {
   return marked != 0 ? marked : pictured;
 }
 
+bool CopyInto(ImageHandle* to, ImageHandle from) {
+  *to = DibCopy(from);
+  return *to || !from;
+}
+
+// False when the memory does not suffice; the row is then partly filled.
+bool RowCopy(AlarmRow* to, const AlarmRow& from) {
+  to->frameCount = from.frameCount;
+  for (int frame = 0; frame < kFrameMax; ++frame) {
+    if (!CopyInto(&to->pictures[frame], from.pictures[frame])) return false;
+    if (!CopyInto(&to->masks[frame], from.masks[frame])) return false;
+  }
+  return true;
+}
+
 }  // namespace
 
 void AlarmCharaLoad() {
-  for (int i = 0; i < kAlarmRowCount; ++i) AlarmRowLoad(&AlarmRows[i], AlarmCharaSel[i]);
+  for (AlarmRow& row : AlarmRows) AlarmRowFree(&row);
+  for (int i = 0; i < kAlarmRowCount; ++i) {
+    const auto* before = std::find(AlarmCharaSel, AlarmCharaSel + i, AlarmCharaSel[i]);
+    // Rows of one character read its files once.
+    if (before == AlarmCharaSel + i || !RowCopy(&AlarmRows[i], AlarmRows[before - AlarmCharaSel]))
+      AlarmRowLoad(&AlarmRows[i], AlarmCharaSel[i]);
+  }
 }
 
 void AlarmRowLoad(AlarmRow* row, int selection) {

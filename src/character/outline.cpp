@@ -38,14 +38,19 @@ int ReadFrame(int file, Outline* outline) {
   return got == wanted ? 0 : -3;
 }
 
+// False when there is no count, or it is beyond the table.
+bool ReadFrameCount(int file, int* frameCount) {
+  unsigned char count = 0;
+  if (FileRead(file, &count, 1) != 1) return false;
+  *frameCount = std::min<int>(count, kFrameMax);
+  return count <= kFrameMax;
+}
+
 // The frames before the wanted one are walked over: their sizes are known only
 // from their counts.
 int ReadUpTo(int file, int frame, Outline* outline, int* frameCount) {
   outline->count = 0;
-  unsigned char count = 0;
-  if (FileRead(file, &count, 1) != 1) return -2;
-  *frameCount = std::min<int>(count, kFrameMax);
-  if (count > kFrameMax || frame >= count) return -2;
+  if (!ReadFrameCount(file, frameCount) || frame >= *frameCount) return -2;
   static Outline passed;
   for (int i = 0; i < frame; ++i) {
     if (ReadFrame(file, &passed) != 0) return -2;
@@ -59,6 +64,16 @@ int OutlineRead(int number, int frame, Outline* outline, int* frameCount) {
   const int file = OpenDwc(number);
   if (file == kNoFile) return -1;
   const int result = ReadUpTo(file, frame, outline, frameCount);
+  FileClose(file);
+  return result;
+}
+
+int OutlineReadCounted(int number, Outline (&outlines)[kFrameMax], int* frameCount) {
+  const int file = OpenDwc(number);
+  if (file == kNoFile) return -1;
+  for (Outline& outline : outlines) outline.count = 0;
+  int result = ReadFrameCount(file, frameCount) ? 0 : -2;
+  for (int i = 0; result == 0 && i < *frameCount; ++i) result = ReadFrame(file, &outlines[i]);
   FileClose(file);
   return result;
 }

@@ -23,6 +23,10 @@ struct Outline {
 // points that were read stay.
 int OutlineRead(int number, int frame, Outline* outline, int* frameCount);
 
+// Reads the outlines of the frames that the file counts, each as OutlineRead does,
+// in one pass. Results as above; frames behind one that failed have none.
+int OutlineReadCounted(int number, Outline (&outlines)[kFrameMax], int* frameCount);
+
 // Reads the outlines of all 20 frames, whatever the file's frame count says.
 // Results as above; with -2 and -3 the frames that were read stay and the others
 // have no outline.

@@ -46,26 +46,32 @@ void StageSizeFrom(ImageHandle picture) {
   StageHeight += kMarginY;
 }
 
+// The outlines of the stage's character as its file has them, read once for the idle
+// frame and all motions.
+Outline fileOutlines[kFrameMax];
+
 void LoadIdleOutline(int number) {
-  if (OutlineRead(number, 0, &CurrentOutline, &StageFrameCount) == -1) {
+  if (OutlineReadCounted(number, fileOutlines, &StageFrameCount) == -1) {
     StageFrameCount = kFrameMax;
     CurrentOutline = Outline{0, {{0, 0}, {kSquare, 0}, {kSquare, kSquare}, {0, kSquare}}};
+    for (Outline& outline : fileOutlines) outline.count = 0;
+    return;
   }
+  OutlineCopy(&CurrentOutline, fileOutlines[0]);
 }
 
-void LoadMotionOutline(int number, int frame, int slot) {
+void LoadMotionOutline(int frame, int slot) {
   ImageHandle picture = FramePicture(kStageRow, frame);
   if (!picture) return;
-  int frameCount = 0;
-  OutlineRead(number, frame, &StageOutlines[slot], &frameCount);
+  OutlineCopy(&StageOutlines[slot], fileOutlines[frame]);
   OutlineFlipForStage(&StageOutlines[slot], DibHeight(picture));
 }
 
-void LoadMotionOutlines(int number) {
-  if (MenuFrame != 0) LoadMotionOutline(number, MenuFrame, kOutlineMenu);
-  if (BlinkFrame != 0) LoadMotionOutline(number, BlinkFrame, kOutlineBlink);
-  for (int i = 0; i < BoredLen1; ++i) LoadMotionOutline(number, Bored1Frames[i], kOutlineBored1 + i);
-  for (int i = 0; i < BoredLen2; ++i) LoadMotionOutline(number, Bored2Frames[i], kOutlineBored2 + i);
+void LoadMotionOutlines() {
+  if (MenuFrame != 0) LoadMotionOutline(MenuFrame, kOutlineMenu);
+  if (BlinkFrame != 0) LoadMotionOutline(BlinkFrame, kOutlineBlink);
+  for (int i = 0; i < BoredLen1; ++i) LoadMotionOutline(Bored1Frames[i], kOutlineBored1 + i);
+  for (int i = 0; i < BoredLen2; ++i) LoadMotionOutline(Bored2Frames[i], kOutlineBored2 + i);
 }
 
 void DrawFrame(Canvas* canvas) {
@@ -111,7 +117,7 @@ int CharaLoadStage() {
   StageSizeFrom(picture);
   OutlineFlipForStage(&CurrentOutline, DibHeight(picture));
   OutlineCopy(&StageOutlines[kOutlineIdle], CurrentOutline);
-  LoadMotionOutlines(number);
+  LoadMotionOutlines();
   return 0;
 }
 

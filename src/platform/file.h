@@ -42,6 +42,9 @@ std::uint32_t FileSize(int file, std::uint32_t* high);
 // failure.
 bool FileWriteTime(int file, std::uint64_t* time);
 
+// The same of a file by its path, without opening it.
+bool FileLastWrite(const char* path, std::uint64_t* time);
+
 bool FileDelete(const char* path);
 bool FileMove(const char* from, const char* to);  // fails if `to` exists
 bool FileCopy(const char* from, const char* to, bool failIfExists);

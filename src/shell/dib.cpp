@@ -136,6 +136,13 @@ ImageHandle DibLoad(const char* path) {
   return image;
 }
 
+ImageHandle DibCopy(ImageHandle image) {
+  const std::size_t size = MemorySize(image);
+  auto* copy = size == 0 ? nullptr : static_cast<unsigned char*>(MemoryAllocate(size));
+  if (copy) std::copy_n(image, size, copy);
+  return copy;
+}
+
 void DibFree(ImageHandle image) {
   MemoryFree(image);
 }

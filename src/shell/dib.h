@@ -13,6 +13,10 @@ using ImageHandle = unsigned char*;
 // bitmap, is shorter than it says, or does not fit into memory.
 ImageHandle DibLoad(const char* path);
 
+// A picture of one's own, the same as `image`. Null for null, and when it does not fit
+// into memory.
+ImageHandle DibCopy(ImageHandle image);
+
 void DibFree(ImageHandle image);
 
 // Width and height in pixels, the low 16 bits of the header's fields: 0 to 65535.

@@ -33,12 +33,7 @@ bool characterReload;
 bool StampRead(WatchedFile file, std::uint64_t* stamp) {
   char path[kRootSize + 64];
   RootPath(path, sizeof path, kNames[static_cast<int>(file)]);
-  SearchEntry entry;
-  const SearchHandle search = SearchFirst(path, &entry);
-  if (search == kNoSearch) return false;
-  SearchClose(search);
-  *stamp = entry.lastWriteTime;
-  return true;
+  return FileLastWrite(path, stamp);
 }
 
 // True for a file that is there with another stamp than the stored one; that stamp

@@ -82,6 +82,36 @@ TEST_F(AlarmTest, LoadingAgainFreesWhatWasThere) {
   EXPECT_EQ(DiagnosticsLive().blocks, blocks - 12);
 }
 
+TEST_F(AlarmTest, RowsOfOneCharacterReadItsFilesOnceAndHoldPicturesOfTheirOwn) {
+  FaultClear();
+  Select(1, 2, 1);
+  // Two pictures and two masks of the first character, the picture of the second.
+  EXPECT_EQ(FaultCalls(FaultKind::Open), 5);
+  EXPECT_EQ(AlarmRows[2].frameCount, 3);
+  for (const int frame : {0, 2}) {
+    ASSERT_NE(AlarmRows[2].pictures[frame], nullptr);
+    EXPECT_NE(AlarmRows[2].pictures[frame], AlarmRows[0].pictures[frame]);
+    EXPECT_EQ(DibWidth(AlarmRows[2].pictures[frame]), DibWidth(AlarmRows[0].pictures[frame]));
+    EXPECT_EQ(DibBits(AlarmRows[2].pictures[frame])[0], DibBits(AlarmRows[0].pictures[frame])[0]);
+    EXPECT_NE(AlarmRows[2].masks[frame], AlarmRows[0].masks[frame]);
+  }
+}
+
+TEST_F(AlarmTest, WithoutMemoryPicturesAreMissingAndNothingElse) {
+  Select(1, 2, 1);
+  const int blocks = DiagnosticsLive().blocks;
+  for (int nth = 1;; ++nth) {
+    FaultArm(FaultKind::Memory, nth);
+    AlarmCharaLoad();
+    const bool met = FaultWasMet();
+    FaultClear();
+    if (!met) break;
+    // A copy that fails is made up for by the files.
+    EXPECT_EQ(DiagnosticsLive().blocks, nth <= 5 ? blocks - (nth <= 4 ? 2 : 1) : blocks) << nth;
+  }
+  EXPECT_EQ(DiagnosticsLive().blocks, blocks);
+}
+
 TEST_F(AlarmTest, TheWorldListMarksTheFramesInUse) {
   WorldCharaCount = 6;
   for (int i = 0; i < 5; ++i) WorldCharas[5].figureIds[i] = 1;

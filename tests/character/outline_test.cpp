@@ -110,6 +110,39 @@ TEST_F(OutlineTest, EveryTruncationKeepsThePointsThatWereRead) {
   EXPECT_EQ(all_[3].count, 0);
 }
 
+// The same file, read in one pass as the stage does.
+TEST_F(OutlineTest, OnePassOverTheCountedFramesKeepsThePointsThatWereRead) {
+  const std::string file = DwcFile({{{1, 2}, {3, 4}}, {}, {{5, 6}}});
+  for (std::size_t size = 0; size <= file.size(); ++size) {
+    PutDwc(1, file.substr(0, size));
+    all_[2].count = all_[19].count = 7;
+    const int result = OutlineReadCounted(0, all_, &frameCount_);
+    EXPECT_EQ(result, size == 25 ? 0 : (size >= 5 && size < 13) || size >= 21 ? -3 : -2) << size;
+    EXPECT_EQ(all_[0].count, size < 9 ? 0 : size < 13 ? 1 : 2) << size;
+    EXPECT_EQ(all_[2].count, size < 25 ? 0 : 1) << size;
+    EXPECT_EQ(all_[19].count, 0) << size;
+    if (size >= 1) {
+      EXPECT_EQ(frameCount_, 3);
+    }
+  }
+  ExpectPoints(all_[2], {{5, 6}});
+}
+
+TEST_F(OutlineTest, OnePassRefusesACountBeyondTheTableAndLeavesAllAloneWithoutAFile) {
+  std::string file = DwcFile({{{1, 2}}});
+  file[0] = 21;
+  PutDwc(1, file);
+  EXPECT_EQ(OutlineReadCounted(0, all_, &frameCount_), -2);
+  EXPECT_EQ(all_[0].count, 0);
+  EXPECT_EQ(frameCount_, 20);
+  all_[3].count = 7;
+  frameCount_ = 9;
+  EXPECT_EQ(OutlineReadCounted(1, all_, &frameCount_), -1);
+  EXPECT_EQ(OutlineReadCounted(-1, all_, &frameCount_), -1);
+  EXPECT_EQ(all_[3].count, 7);
+  EXPECT_EQ(frameCount_, 9);
+}
+
 TEST_F(OutlineTest, RandomMutationsNeverGoBeyondTheTables) {
   const std::string file = DwcFile({{{1, 2}, {3, 4}}, {}, {{5, 6}}});
   PutDwc(1, file);
@@ -127,6 +160,9 @@ TEST_F(OutlineTest, RandomMutationsNeverGoBeyondTheTables) {
     ASSERT_TRUE(frameCount_ >= 0 && frameCount_ <= kFrameMax);
     const int all = OutlineReadAll(0, all_);
     ASSERT_TRUE(all == 0 || all == -2 || all == -3);
+    for (const Outline& outline : all_) ASSERT_TRUE(outline.count >= 0 && outline.count <= kOutlinePointMax);
+    const int counted = OutlineReadCounted(0, all_, &frameCount_);
+    ASSERT_TRUE(counted == 0 || counted == -2 || counted == -3);
     for (const Outline& outline : all_) ASSERT_TRUE(outline.count >= 0 && outline.count <= kOutlinePointMax);
   }
   close(native);

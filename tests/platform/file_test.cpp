@@ -206,6 +206,20 @@ TEST_F(FileTest, CopyKeepsTheTime) {
   FileClose(file);
 }
 
+TEST_F(FileTest, TheTimeOfAPathNeedsNoOpenFile) {
+  PutFile("a", "content");
+  SetFileTime("a", 1234567890);
+  std::uint64_t time = 0;
+  EXPECT_TRUE(FileLastWrite("a", &time));
+  EXPECT_EQ(time, 116444736000000000ULL + 1234567890ULL * 10000000ULL);
+  time = 5;
+  EXPECT_FALSE(FileLastWrite("b", &time));
+  EXPECT_EQ(time, 5U);
+  FaultArm(FaultKind::FileTime, 1);
+  EXPECT_FALSE(FileLastWrite("a", &time));
+  EXPECT_EQ(time, 5U);
+}
+
 TEST_F(FileTest, CopyOverAFileOnlyWhenAllowed) {
   PutFile("a", "new");
   PutFile("b", "older");

@@ -18,7 +18,7 @@ enum class FaultKind {
   SearchFirst,  // nothing matches
   SearchNext,   // the search is spent
   DiskSpace,
-  FileTime,  // FileWriteTime
+  FileTime,  // FileWriteTime, FileLastWrite
   Memory,    // MemoryAllocate gives null
   Bitmap,    // CanvasMemory gives null
   Region,    // a region cannot be made

@@ -188,6 +188,14 @@ bool FileWriteTime(int file, std::uint64_t* time) {
   return true;
 }
 
+bool FileLastWrite(const char* path, std::uint64_t* time) {
+  if (FaultMeets(FaultKind::FileTime)) return false;
+  struct stat status {};
+  if (stat(PosixPath(path).c_str(), &status) != 0) return false;
+  *time = FileTimeOf(status.st_mtim);
+  return true;
+}
+
 bool FileDelete(const char* path) {
   if (FaultMeets(FaultKind::Delete)) return false;
   return unlink(PosixPath(path).c_str()) == 0;

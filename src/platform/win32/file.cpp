@@ -91,6 +91,13 @@ bool FileWriteTime(int file, std::uint64_t* time) {
   return true;
 }
 
+bool FileLastWrite(const char* path, std::uint64_t* time) {
+  WIN32_FILE_ATTRIBUTE_DATA data{};
+  if (!GetFileAttributesExW(Wide(path).c_str(), GetFileExInfoStandard, &data)) return false;
+  *time = TimeOf(data.ftLastWriteTime);
+  return true;
+}
+
 bool FileDelete(const char* path) {
   return DeleteFileW(Wide(path).c_str()) != FALSE;
 }
