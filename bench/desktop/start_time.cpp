@@ -1,7 +1,7 @@
 // start_time ROUNDS PROGRAM_A PROGRAM_B: starts the two programs in turn, each in
 // its own folder, and measures from the call that starts it until it has painted
-// and waits for input. Prints the medians in milliseconds and the median of the
-// pairs' ratios.
+// and waits for input. Prints the medians in milliseconds, the median of the pairs'
+// ratios, and the fastest start of each.
 #include <windows.h>
 
 #include <algorithm>
@@ -69,5 +69,10 @@ int wmain(int count, wchar_t** arguments) {
   }
   std::printf("A %.1f ms, B %.1f ms, ratio A/B %.3f (medians of %d pairs)\n", Median(a), Median(b),
               Median(ratios), rounds);
+  // What else the machine does can only make a start longer.
+  const double fastestA = *std::min_element(a.begin(), a.end());
+  const double fastestB = *std::min_element(b.begin(), b.end());
+  std::printf("A %.1f ms, B %.1f ms, ratio A/B %.3f (the fastest of each)\n", fastestA, fastestB,
+              fastestA / fastestB);
   return 0;
 }

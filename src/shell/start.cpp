@@ -69,8 +69,6 @@ void StartSequence(WindowHandle window) {
   SclDefaults();
   CalenStartDefaults();
   TidyReset();
-  ScreenWidth = ScreenMetric(Metric::FullScreenWidth);
-  ScreenHeight = ScreenMetric(Metric::FullScreenHeight);
   SetDateDefaults();
   StageWidth = 300;
   StageHeight = 200;

@@ -67,7 +67,9 @@ WindowHandle MainWindowCreate(const MainWindowClass& windowClass, int x, int y, 
   registered.lpfnWndProc = MainWindowProc;
   registered.hInstance = instance;
   registered.hIcon = LoadIconW(instance, MAKEINTRESOURCEW(windowClass.iconId));
-  registered.hIconSm = LoadIconW(instance, MAKEINTRESOURCEW(windowClass.smallIconId));
+  registered.hIconSm =
+      static_cast<HICON>(LoadImageW(instance, MAKEINTRESOURCEW(windowClass.smallIconId), IMAGE_ICON,
+                                    GetSystemMetrics(SM_CXSMICON), GetSystemMetrics(SM_CYSMICON), LR_SHARED));
   registered.hCursor = LoadCursorW(nullptr, IDC_ARROW);
   registered.hbrBackground = reinterpret_cast<HBRUSH>(static_cast<INT_PTR>(5));  // the window colour
   registered.lpszMenuName = MAKEINTRESOURCEW(windowClass.menuId);
