@@ -66,6 +66,7 @@ void Show(WindowHandle dialog, int place) {
 }
 
 void Fill(WindowHandle dialog) {
+  const ListQuiet quiet(dialog, kList);
   ListClear(dialog, kList);
   for (int place = 0; place < MainCharaCount; ++place) ListAdd(dialog, kList, NameOf(place));
   ListSelect(dialog, kList, IsListed(CharaIndex) ? CharaIndex : -1);

@@ -33,6 +33,7 @@ void DetailsShow(WindowHandle dialog) {
 }
 
 void Show(WindowHandle dialog) {
+  const ListQuiet quiet(dialog, IDC_OPN_FILE);
   ListClear(dialog, IDC_OPN_FILE);
   for (int row = 0; row < OpnHistory.fileCount; ++row) {
     OpnRowAdd(dialog, IDC_OPN_FILE, OpnHistory.fileName[row], OpnHistory.filePath[row]);

@@ -13,6 +13,7 @@ constexpr int kDialogId = 2013;
 constexpr int kLineSize = kOpnTextUsed + 40;
 
 void Open(WindowHandle dialog) {
+  const ListQuiet quiet(dialog, IDC_OPN_LINES);
   const OpnHistoryRec& h = OpnHistory;
   char line[kLineSize];
   const auto add = [&] { ListAdd(dialog, IDC_OPN_LINES, line); };

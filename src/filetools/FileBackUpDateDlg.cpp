@@ -17,6 +17,7 @@ constexpr int kRowSize = 160;
 bool Handle(const Event& event) {
   if (event.kind != EventKind::Init) return false;
   const auto list = DlgIdTool == kDateDialogId ? BackUpListDate : BackUpListContent;
+  const ListQuiet quiet(event.window, IDC_BACKUP_ROWS);
   for (int row = 0; row < BackUp.fileCount; ++row) {
     char text[kRowSize];
     if (list(row, text, sizeof text)) ListAdd(event.window, IDC_BACKUP_ROWS, text);

@@ -138,6 +138,7 @@ int FileBackUpSetDlgRun() {
 
 void FileBackUpSetDlgShowLists() {
   if (!IsOpen()) return;
+  const ListQuiet quiet(hMenuDlg, IDC_BACKUP_SOURCES);
   ListClear(hMenuDlg, IDC_BACKUP_SOURCES);
   for (int row = 0; row < BackUp.fileCount; ++row) AddRow(IDC_BACKUP_SOURCES, BackUp.sourcePath[row]);
   FileBackUpSetDlgShowCopies();
@@ -145,6 +146,7 @@ void FileBackUpSetDlgShowLists() {
 
 void FileBackUpSetDlgShowCopies() {
   if (!IsOpen()) return;
+  const ListQuiet quiet(hMenuDlg, IDC_BACKUP_COPIES);
   ListClear(hMenuDlg, IDC_BACKUP_COPIES);
   for (int row = 0; row < BackUp.fileCount; ++row) {
     if (BackUp.destPath[row][0] != '\0') AddRow(IDC_BACKUP_COPIES, BackUp.destPath[row]);

@@ -14,6 +14,7 @@ constexpr int kChoose = 1;
 int chosen;
 
 void Open(WindowHandle dialog) {
+  const ListQuiet quiet(dialog, IDC_OPN_GROUP);
   for (int i = 0; i < OpnSearchResult.count; ++i) {
     char text[kOpnGroupRowSize];
     OpnGroupRowText(OpnSearchResult.groups[i], text, sizeof text);

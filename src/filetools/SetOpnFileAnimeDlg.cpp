@@ -65,6 +65,7 @@ Settings FromControls(WindowHandle dialog) {
 }
 
 void SoundsShow(WindowHandle dialog, const char* current) {
+  const ListQuiet quiet(dialog, IDC_OPN_SOUND_FILE);
   char pattern[kRootPathSize];
   RootPath(pattern, sizeof pattern, "\\サウンド\\*.*");
   SearchEntry entry;

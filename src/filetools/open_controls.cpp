@@ -15,6 +15,7 @@ void OpnRowAdd(WindowHandle dialog, int list, const char* name, const char* fold
 }
 
 void OpnFilesShow(WindowHandle dialog) {
+  const ListQuiet quiet(dialog, IDC_OPN_FILE);
   ListClear(dialog, IDC_OPN_FILE);
   for (int row = 0; row < OpnWork.fileCount; ++row) {
     OpnRowAdd(dialog, IDC_OPN_FILE, OpnHistory.fileName[row], OpnHistory.filePath[row]);
@@ -23,6 +24,7 @@ void OpnFilesShow(WindowHandle dialog) {
 }
 
 void OpnProgramsShow(WindowHandle dialog) {
+  const ListQuiet quiet(dialog, IDC_OPN_PROGRAM);
   ListClear(dialog, IDC_OPN_PROGRAM);
   ListAdd(dialog, IDC_OPN_PROGRAM, "関連づけプログラム");
   for (int row = 0; row < OpnWork.progCount; ++row) {
@@ -36,6 +38,7 @@ bool OpnSelectionFromLists(WindowHandle dialog) {
 }
 
 void OpnGroupsShow(WindowHandle dialog, int group) {
+  const ListQuiet quiet(dialog, IDC_OPN_GROUP);
   ListClear(dialog, IDC_OPN_GROUP);
   for (int i = 0; i < kOpnGroupMax; ++i) {
     char text[kOpnGroupRowSize];
@@ -52,6 +55,7 @@ int OpnGroupOfList(WindowHandle dialog) {
 
 void OpnGroupFilesShow(WindowHandle dialog, int group) {
   const OpnGroupRec& g = OpnGroupTable[group];
+  const ListQuiet quiet(dialog, IDC_OPN_GROUP_FILES);
   ListClear(dialog, IDC_OPN_GROUP_FILES);
   for (int row = 0; row < g.fileCount; ++row) {
     OpnRowAdd(dialog, IDC_OPN_GROUP_FILES, g.fileName[row], g.filePath[row]);
@@ -78,6 +82,7 @@ bool OpnCommentTake(WindowHandle dialog, int group) {
 }
 
 void OpnRecordShow(WindowHandle dialog) {
+  const ListQuiet quiet(dialog, IDC_OPN_RECORD);
   ListClear(dialog, IDC_OPN_RECORD);
   for (int row = 0; row < OpnRecord.recCount; ++row) {
     char text[kOpnRecordRowSize];

@@ -41,6 +41,8 @@ bool ControlIsChecked(WindowHandle dialog, int id);
 // List boxes and the lists of combo boxes.
 void ListClear(WindowHandle dialog, int id);
 int ListAdd(WindowHandle dialog, int id, const char* text);  // the new row
+// Whether a list draws each change of its rows; when that is on again, all is drawn.
+void ListDraw(WindowHandle dialog, int id, bool on);
 int ListCount(WindowHandle dialog, int id);
 int ListSelected(WindowHandle dialog, int id);          // -1 for none
 void ListSelect(WindowHandle dialog, int id, int row);  // -1 for none; tells nobody
@@ -49,6 +51,20 @@ int ListText(WindowHandle dialog, int id, int row, char* buffer, int size);
 // Fills a list box with the folders ("[name]", "[..]") and drives ("[-c-]") of
 // the current folder.
 void ListFolders(WindowHandle dialog, int id);
+
+// Keeps a list from drawing as long as it stands: for whoever adds many rows, each of
+// which would cost a drawing.
+class ListQuiet {
+ public:
+  ListQuiet(WindowHandle dialog, int id) : dialog_(dialog), id_(id) { ListDraw(dialog_, id_, false); }
+  ~ListQuiet() { ListDraw(dialog_, id_, true); }
+  ListQuiet(const ListQuiet&) = delete;
+  ListQuiet& operator=(const ListQuiet&) = delete;
+
+ private:
+  WindowHandle dialog_;
+  int id_;
+};
 
 enum class ControlKind { Button, ListBox, VerticalScrollBar };
 

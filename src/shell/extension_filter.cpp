@@ -67,6 +67,7 @@ bool FilterMatch(int row, const char* caller, const char* name) {
 }
 
 void FilterListFiles(WindowHandle dialog, int listId, const char* folder, int row, const char* caller) {
+  const ListQuiet quiet(dialog, listId);
   ListClear(dialog, listId);
   FolderSetCurrent(folder);
   char pattern[300];

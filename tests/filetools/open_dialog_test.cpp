@@ -162,6 +162,19 @@ TEST_F(OpenDialogTest, ACancelledPickerChangesNothing) {
   OpenDialog();
 }
 
+TEST_F(OpenDialogTest, FullListsAreDrawnOnceAndNotForEachRow) {
+  AddHistories(200);
+  SaveHistory();
+  ThenExpect([] {
+    const WindowHandle dialog = FindDialog(IDD_FileOpnDialog);
+    EXPECT_EQ(ListRows(dialog, IDC_OPN_FILE).size(), 200U);
+    EXPECT_EQ(ListDrawings(dialog, IDC_OPN_FILE), 1);
+    EXPECT_EQ(ListDrawings(dialog, IDC_OPN_PROGRAM), 1);
+  });
+  ThenPress(kCancel);
+  OpenDialog();
+}
+
 TEST_F(OpenDialogTest, With200FilesANewOneIsToldOfAndDropped) {
   AddHistories(200);
   SaveHistory();

@@ -182,6 +182,7 @@ TEST_F(ControlTest, ControlThatIsNotThereIsPassedOver) {
   EXPECT_STREQ(buffer, "");
   EXPECT_FALSE(ControlIsChecked(dialog_, 999));
   EXPECT_EQ(Control(dialog_, 999), nullptr);
+  ListDraw(dialog_, 999, false);
   EXPECT_EQ(ListAdd(dialog_, 999, "a"), -1);
   EXPECT_EQ(ListCount(dialog_, 999), 0);
   EXPECT_EQ(ListSelected(dialog_, 999), -1);
@@ -197,6 +198,24 @@ TEST_F(ControlTest, ChosenRowIsSelectedAndReported) {
   ChooseRow(dialog_, 40, 1);
   EXPECT_EQ(ListSelected(dialog_, 40), 1);
   EXPECT_EQ(heard, Names{"command 40 select"});
+}
+
+TEST_F(ControlTest, AQuietListDrawsItsRowsOnceAndLeavesTheOthersAlone) {
+  const int before = ListDrawings(dialog_, 40);
+  ListAdd(dialog_, 40, "a");
+  EXPECT_EQ(ListDrawings(dialog_, 40), before + 1);
+  {
+    const ListQuiet quiet(dialog_, 40);
+    ListClear(dialog_, 40);
+    for (int i = 0; i < 100; ++i) ListAdd(dialog_, 40, "b");
+    EXPECT_EQ(ListDrawings(dialog_, 40), before + 1);
+    ListAdd(dialog_, 50, "c");
+    EXPECT_EQ(ListDrawings(dialog_, 50), 1);
+  }
+  EXPECT_EQ(ListDrawings(dialog_, 40), before + 2);
+  EXPECT_EQ(ListCount(dialog_, 40), 100);
+  ListAdd(dialog_, 40, "d");
+  EXPECT_EQ(ListDrawings(dialog_, 40), before + 3);
 }
 
 TEST_F(ControlTest, DoubleClickSelectsFirst) {

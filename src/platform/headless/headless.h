@@ -103,6 +103,9 @@ bool ControlIsEnabled(WindowHandle dialog, int id);
 bool ControlIsVisible(WindowHandle dialog, int id);
 std::string ControlText(WindowHandle dialog, int id);
 std::vector<std::string> ListRows(WindowHandle dialog, int id);
+
+// How often a list has drawn its rows.
+int ListDrawings(WindowHandle dialog, int id);
 std::string WindowText(WindowHandle window);
 bool TimerIsRunning(WindowHandle window, int id);
 int TimerPeriod(WindowHandle window, int id);  // milliseconds; 0 when it is not running

@@ -37,6 +37,10 @@ WindowPointer ListUse(WindowHandle dialog, int id, const char* call) {
   return list && HasRows(*list) ? list : nullptr;
 }
 
+void Drawn(HeadlessWindow& list) {
+  if (list.draws) ++list.drawings;
+}
+
 }  // namespace
 
 bool HasRows(const HeadlessWindow& control) {
@@ -57,6 +61,7 @@ void ListClear(WindowHandle dialog, int id) {
   if (!list) return;
   list->rows.clear();
   RowSelect(list, -1);
+  Drawn(*list);
 }
 
 int ListAdd(WindowHandle dialog, int id, const char* text) {
@@ -71,7 +76,20 @@ int ListAdd(WindowHandle dialog, int id, const char* text) {
   const int row = static_cast<int>(at - list->rows.begin());
   list->rows.insert(at, text);
   if (list->selected >= row) ++list->selected;
+  Drawn(*list);
   return row;
+}
+
+void ListDraw(WindowHandle dialog, int id, bool on) {
+  const WindowPointer list = ListUse(dialog, id, "ListDraw");
+  if (!list) return;
+  list->draws = on;
+  Drawn(*list);
+}
+
+int ListDrawings(WindowHandle dialog, int id) {
+  const WindowPointer list = ListUse(dialog, id, "ListDrawings");
+  return list ? list->drawings : 0;
 }
 
 int ListCount(WindowHandle dialog, int id) {

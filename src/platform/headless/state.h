@@ -49,6 +49,8 @@ struct HeadlessWindow {
   bool checked = false;
   std::vector<std::string> rows;
   int selected = -1;
+  bool draws = true;  // each change of the rows
+  int drawings = 0;
   int limit = 32767;
   ScrollState scroll;
 };

@@ -50,10 +50,19 @@ bool IsComboBox(HWND control) {
   return lstrcmpiW(name, L"ComboBox") == 0;
 }
 
+// A dialog's list. The one asked for last is remembered: who fills a list asks for it
+// with every row, and each search for a control's number goes through the dialog's windows.
+HWND ListControl(WindowHandle dialog, int id) {
+  static HWND last = nullptr;
+  const bool same = last && IsWindow(last) && GetParent(last) == Hwnd(dialog) && GetDlgCtrlID(last) == id;
+  if (!same) last = GetDlgItem(Hwnd(dialog), id);
+  return last;
+}
+
 // Sends the message that a list of either kind knows for the same thing.
 LRESULT ListSend(WindowHandle dialog, int id, UINT forListBox, UINT forComboBox, WPARAM wParam,
                  LPARAM lParam) {
-  HWND control = GetDlgItem(Hwnd(dialog), id);
+  HWND control = ListControl(dialog, id);
   if (!control) return -1;
   return SendMessageW(control, IsComboBox(control) ? forComboBox : forListBox, wParam, lParam);
 }
@@ -160,6 +169,13 @@ void ListClear(WindowHandle dialog, int id) {
 int ListAdd(WindowHandle dialog, int id, const char* text) {
   return static_cast<int>(
       ListSend(dialog, id, LB_ADDSTRING, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(Wide(text).c_str())));
+}
+
+void ListDraw(WindowHandle dialog, int id, bool on) {
+  HWND control = ListControl(dialog, id);
+  if (!control) return;
+  SendMessageW(control, WM_SETREDRAW, on ? TRUE : FALSE, 0);
+  if (on) InvalidateRect(control, nullptr, TRUE);
 }
 
 int ListCount(WindowHandle dialog, int id) {
