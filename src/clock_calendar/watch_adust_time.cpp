@@ -1,6 +1,7 @@
 // The running time in WatchAdustDlg.
 #include "clock_calendar/clock_calendar_tick.h"
 #include "platform/canvas.h"
+#include "shell/painting.h"
 #include "shell/shared_time.h"
 #include "shell/shell.h"
 #include "shell/text.h"
@@ -19,10 +20,7 @@ void WatchAdustTimeDraw() {
   drawn = seconds;
   Canvas* canvas = CanvasGet(hToolDlg);
   if (!canvas) return;
-  CanvasBrush(canvas, FaceBrush);
-  CanvasPen(canvas, PenNothing());
-  // Without a pen the last row and column are left out.
-  CanvasRectangle(canvas, kX, kY, kX + kBoxWidth + 1, kY + kBoxHeight + 1);
+  FillArea(canvas, FaceBrush, {kX, kY, kX + kBoxWidth, kY + kBoxHeight});
   char text[32];
   TextFormat(text, sizeof text, "%2d : %2d . %2d", SharedTime.hour, SharedTime.minute, SharedTime.second);
   CanvasBackTransparent(canvas, true);

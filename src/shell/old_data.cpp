@@ -2,6 +2,7 @@
 
 #include "platform/dialog.h"
 #include "platform/memory.h"
+#include "shell/boxes.h"
 #include "shell/commands.h"
 #include "shell/data_file.h"
 #include "shell/shell.h"
@@ -33,7 +34,7 @@ bool Ask(FileDialog* dialog, Path& path) {
 // this kind here, and the errors keep their letters.
 void Fail(int status, const char* error) {
   FileStatus = status;
-  MessageBoxRun(hMainWnd, "ミルレール", error, BoxButtons::Ok, BoxIcon::Exclamation);
+  BoxTell(hMainWnd, "ミルレール", error);
 }
 
 // Takes the whole open file as the block.

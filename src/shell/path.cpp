@@ -2,6 +2,7 @@
 
 #include <cstring>
 
+#include "platform/cp932.h"
 #include "platform/file.h"
 #include "shell/boxes.h"
 #include "shell/data_file.h"
@@ -36,13 +37,9 @@ void PathSplit(const char* path) {
 bool PathIsBareName(const char* name) {
   // Asked strictly: only what the system's code page takes for a pair hides a
   // backslash, and no pair has a slash or a colon.
-  const auto leads = [](char byte) {
-    const auto b = static_cast<unsigned char>(byte);
-    return (b > 0x80 && b < 0xA0) || (b >= 0xE0 && b < 0xFD);
-  };
   for (const char* at = name; *at != '\0'; ++at) {
     if (*at == '\\' || *at == '/' || *at == ':') return false;
-    if (leads(*at) && at[1] != '\0' && at[1] != '/' && at[1] != ':') ++at;
+    if (Cp932Leads(*at) && at[1] != '\0' && at[1] != '/' && at[1] != ':') ++at;
   }
   return name[0] != '\0';
 }

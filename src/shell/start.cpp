@@ -8,7 +8,6 @@
 #include "clock_calendar/clock_calendar_tick.h"
 #include "filetools/desktop_tidy.h"
 #include "mail_music/mail.h"
-#include "platform/dialog.h"
 #include "platform/file.h"
 #include "platform/memory.h"
 #include "platform/screen.h"
@@ -17,6 +16,7 @@
 #include "scenario/world_list.h"
 #include "schedule/application_list.h"
 #include "schedule/schedule_run.h"
+#include "shell/boxes.h"
 #include "shell/diagnostic_numbers.h"
 #include "shell/file_dialog_defaults.h"
 #include "shell/file_watch.h"
@@ -39,7 +39,7 @@ void TimerBegin() {
   if (TickTimerStart()) return;
   // kept: the program's name is the text and the error the caption, as in all boxes of
   // this kind here.
-  MessageBoxRun(hMainWnd, "ミルレール", "タイマー設定できません", BoxButtons::Ok, BoxIcon::Exclamation);
+  BoxTell(hMainWnd, "ミルレール", "タイマー設定できません");
 }
 
 void ScreenFiguresTake() {

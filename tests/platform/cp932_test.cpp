@@ -1,4 +1,4 @@
-#include "platform/common/cp932.h"
+#include "platform/cp932.h"
 
 #include <gtest/gtest.h>
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <map>
 
+#include "platform/cp932.h"
 #include "platform/posix/posix_paths.h"
 
 namespace {
@@ -72,11 +73,6 @@ bool HasPrefix(const Control& c) {
          (IsLabel(c) && (c.style & kStaticNoPrefix) == 0);
 }
 
-bool IsLead(char c) {
-  const auto byte = static_cast<unsigned char>(c);
-  return (byte >= 0x81 && byte <= 0x9F) || (byte >= 0xE0 && byte <= 0xFC);
-}
-
 // The text without the marks of its mnemonics; `mnemonic` takes the letter, 0
 // for none.
 std::string Shown(const Control& control, char* mnemonic) {
@@ -85,7 +81,7 @@ std::string Shown(const Control& control, char* mnemonic) {
   std::string shown;
   for (std::size_t i = 0; i < control.text.size(); ++i) {
     char c = control.text[i];
-    if (IsLead(c) && i + 1 < control.text.size()) {
+    if (Cp932Leads(c) && i + 1 < control.text.size()) {
       shown += c;
       shown += control.text[++i];
       continue;
@@ -111,7 +107,7 @@ int LinesOf(const std::string& text, int columns, bool wraps) {
       continue;
     }
     if (text[i] == '\r') continue;
-    const int width = IsLead(text[i]) && i + 1 < text.size() ? 2 : 1;
+    const int width = Cp932Leads(text[i]) && i + 1 < text.size() ? 2 : 1;
     if (width == 2) ++i;
     if (used + width > columns) {
       if (!wraps || width > columns) return -1;

@@ -1,6 +1,7 @@
 #include "newdata/data_set.h"
 
 #include <algorithm>
+#include <cstring>
 #include <stdexcept>
 
 #include "character/character_file.h"
@@ -50,11 +51,20 @@ void TakeFirstCharacter() {
   std::copy_n(main.charaSet, kCharaSetSize, CharaSet);
 }
 
+// Nothing has begun to move on the calendar; a data set that was read before would have
+// left its figures.
+void StillFigures() {
+  const auto clear = [](auto&... tables) { (std::memset(tables, 0, sizeof tables), ...); };
+  clear(CalenFigPhase, CalenFigCount, CalenFigPos1, CalenFigPos2, CalenFigPeriod, CalenFigStep, CalenFigTurn,
+        CalenFigDir);
+}
+
 void WriteDataFiles(const DataSetDate& date) {
   TestClockSet(LocalTime{date.year, date.month, date.day, 0, 0, 0, 0, 0});
   SetDateDefaults();
   CalenStartDefaults();
   SetFactorySettings();
+  StillFigures();
   TestClockClear();
   FillCharacters();
   FillClocks();

@@ -2,6 +2,7 @@
 #include <algorithm>
 #include <cstring>
 
+#include "platform/cp932.h"
 #include "platform/dialog.h"
 #include "platform/file.h"
 #include "platform/headless/state.h"
@@ -21,12 +22,11 @@ bool Sorts(const HeadlessWindow& list) {
 std::string Folded(const std::string& text) {
   std::string folded = text;
   for (std::size_t i = 0; i < folded.size(); ++i) {
-    const auto byte = static_cast<unsigned char>(folded[i]);
-    const bool lead = (byte >= 0x81 && byte <= 0x9F) || (byte >= 0xE0 && byte <= 0xFC);
-    if (lead) {
+    char& letter = folded[i];
+    if (Cp932Leads(letter)) {
       ++i;
-    } else if (byte >= 'A' && byte <= 'Z') {
-      folded[i] = static_cast<char>(byte - 'A' + 'a');
+    } else if (letter >= 'A' && letter <= 'Z') {
+      letter = static_cast<char>(letter - 'A' + 'a');
     }
   }
   return folded;

@@ -1,6 +1,7 @@
 // What the scripted user does.
 #include <cctype>
 
+#include "platform/cp932.h"
 #include "platform/headless/state.h"
 #include "platform/window.h"
 
@@ -72,8 +73,7 @@ std::string Taken(const HeadlessWindow& edit, const char* text) {
   int count = 0;
   for (const char* at = text; *at != '\0' && count < edit.limit;) {
     const auto byte = static_cast<unsigned char>(*at);
-    const bool lead = (byte >= 0x81 && byte <= 0x9F) || (byte >= 0xE0 && byte <= 0xFC);
-    const std::size_t size = lead && at[1] != '\0' ? 2 : 1;
+    const std::size_t size = Cp932Leads(*at) && at[1] != '\0' ? 2 : 1;
     const bool control = byte < 0x20 && !lines;
     const bool letter = digits && std::isdigit(byte) == 0;
     if (!control && !letter) {

@@ -12,7 +12,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/common/cp932.h"
+#include "platform/cp932.h"
 #include "platform/posix/faults.h"
 #include "platform/posix/live_counts.h"
 #include "platform/posix/posix_paths.h"

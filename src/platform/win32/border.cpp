@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cstring>
 
-#include "platform/common/cp932.h"
+#include "platform/cp932.h"
 
 namespace {
 constexpr UINT kCodePage = 932;

@@ -1,17 +1,21 @@
-// Texts of code page 932, as all backends hand them out.
+// Texts of code page 932.
 #pragma once
 
 #include <cstddef>
 #include <string>
+
+// True for a byte that begins a double-byte pair.
+inline bool Cp932Leads(char byte) {
+  const auto b = static_cast<unsigned char>(byte);
+  return (b >= 0x81 && b <= 0x9F) || (b >= 0xE0 && b <= 0xFC);
+}
 
 // How many bytes of `text` go into `most` bytes, with no double-byte pair cut in two.
 inline std::size_t Cp932Cut(const std::string& text, std::size_t most) {
   if (text.size() <= most) return text.size();
   std::size_t at = 0;
   while (at < most) {
-    const auto c = static_cast<unsigned char>(text[at]);
-    const bool lead = (c >= 0x81 && c <= 0x9F) || (c >= 0xE0 && c <= 0xFC);
-    const std::size_t step = lead ? 2 : 1;
+    const std::size_t step = Cp932Leads(text[at]) ? 2 : 1;
     if (at + step > most) break;
     at += step;
   }
