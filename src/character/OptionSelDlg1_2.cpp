@@ -15,6 +15,7 @@
 #include "scenario/world_list.h"
 #include "shell/dialog_family.h"
 #include "shell/dib.h"
+#include "shell/feature_dialog.h"
 #include "shell/painting.h"
 #include "shell/settings.h"
 #include "shell/shell.h"
@@ -138,12 +139,12 @@ void OptionPreviewsFree() {
 }
 
 void CommandOptionMainCharacter(std::uint32_t) {
-  SendClose(hDiskMenu);
-  WorldListRead();
-  changed = false;
-  MenuDialogRun(kTemplate, IDD_OptionSelDlg1_2, hMainWnd, Proc);
-  if (changed) SysFileWrite();
-  if (StageRedraw == kRedrawReload) SendCommand(hMainWnd, kStageRedrawCommand);
-  FuncNo = 0;
-  MenuPanelState = 0;
+  FeatureDialogRun(FuncNo, [] {
+    WorldListRead();
+    changed = false;
+    MenuDialogRun(kTemplate, IDD_OptionSelDlg1_2, hMainWnd, Proc);
+    if (changed) SysFileWrite();
+    if (StageRedraw == kRedrawReload) SendCommand(hMainWnd, kStageRedrawCommand);
+    return 0;
+  });
 }

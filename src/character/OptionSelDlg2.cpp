@@ -11,6 +11,7 @@
 #include "resources/ids.h"
 #include "scenario/world_list.h"
 #include "shell/dialog_family.h"
+#include "shell/feature_dialog.h"
 #include "shell/settings.h"
 #include "shell/shell.h"
 
@@ -84,13 +85,13 @@ bool Proc(const Event& event) {
 }  // namespace
 
 void CommandOptionAlarmCharacter(std::uint32_t) {
-  SendClose(hDiskMenu);
-  WorldListRead();
-  CharaFileRead();
-  changed = false;
-  MenuDialogRun(kTemplate, IDD_OptionSelDlg2, hMainWnd, Proc);
-  if (changed) SysFileWrite();
-  AlarmCheckFree();
-  FuncNo = 0;
-  MenuPanelState = 0;
+  FeatureDialogRun(FuncNo, [] {
+    WorldListRead();
+    CharaFileRead();
+    changed = false;
+    MenuDialogRun(kTemplate, IDD_OptionSelDlg2, hMainWnd, Proc);
+    if (changed) SysFileWrite();
+    AlarmCheckFree();
+    return 0;
+  });
 }

@@ -10,6 +10,7 @@
 #include "platform/window.h"
 #include "resources/ids.h"
 #include "shell/dialog_family.h"
+#include "shell/feature_dialog.h"
 #include "shell/painting.h"
 #include "shell/settings.h"
 #include "shell/shell.h"
@@ -174,14 +175,14 @@ bool OptionSelDlg3Proc(const Event& event) {
 }  // namespace
 
 void CommandOptionLayout(std::uint32_t) {
-  SendClose(hDiskMenu);
-  LayoutChange = 0;
-  // The program may end while the dialog is up: then nothing was confirmed.
-  if (MenuDialogRun(kDlgId, IDD_OptionSelDlg3, hMainWnd, OptionSelDlg3Proc) != kOk) LayoutChange = 0;
-  if (LayoutChange != 0) {
-    SysFileWrite();
-    SendCommand(hMainWnd, kLayoutApplyCommand);
-  }
-  FuncNo = 0;
-  MenuPanelState = 0;
+  FeatureDialogRun(FuncNo, [] {
+    LayoutChange = 0;
+    // The program may end while the dialog is up: then nothing was confirmed.
+    if (MenuDialogRun(kDlgId, IDD_OptionSelDlg3, hMainWnd, OptionSelDlg3Proc) != kOk) LayoutChange = 0;
+    if (LayoutChange != 0) {
+      SysFileWrite();
+      SendCommand(hMainWnd, kLayoutApplyCommand);
+    }
+    return 0;
+  });
 }

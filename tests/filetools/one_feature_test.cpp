@@ -12,6 +12,7 @@ constexpr Feature kFeatures[] = {
     {1900, IDD_FileOpnDialog},    {1901, IDD_FileBackUpSetDlg},  {1914, IDD_FolderScopeSetDlg},
     {1915, IDD_FileDivideSetDlg}, {1920, IDD_FileDesktopClrDlg}, {1922, IDD_DesktopIconSetDlg},
     {2008, IDD_FileOpnGrpSetDlg}, {2066, IDD_FileDivideSetDlg2}, {2067, IDD_FileDivideSetDlg3},
+    {2281, IDD_OptionSelDlg1_2},  {2282, IDD_OptionSelDlg2},     {2283, IDD_OptionSelDlg3},
 };
 
 using OneFeatureTest = OpenFixture;
