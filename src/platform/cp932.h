@@ -5,9 +5,9 @@
 #include <string>
 
 // True for a byte that begins a double-byte pair.
-inline bool Cp932Leads(char byte) {
-  const auto b = static_cast<unsigned char>(byte);
-  return (b >= 0x81 && b <= 0x9F) || (b >= 0xE0 && b <= 0xFC);
+inline bool Cp932Leads(char first) {
+  const auto value = static_cast<unsigned char>(first);
+  return (value >= 0x81 && value <= 0x9F) || (value >= 0xE0 && value <= 0xFC);
 }
 
 // How many bytes of `text` go into `most` bytes, with no double-byte pair cut in two.
