@@ -45,18 +45,12 @@ struct Played {
   int delay = 0;
 } played;
 
-bool HasOutline(int number, int frame) {
-  static Outline outline;
-  int frameCount = 0;
-  outline.count = 0;
-  OutlineRead(number, frame, &outline, &frameCount);
-  return outline.count > 0;
-}
+Outline outlines[kFrameMax];  // of the character that plays
 
 void Add(int number, int frame) {
   const bool usable = number >= 0 && frame >= 0 && frame < kFrameMax;
   played.pictures[played.count] = usable ? DibLoad(CharaBmpPath(number, frame)) : nullptr;
-  played.hasOutline[played.count] = usable && HasOutline(number, frame);
+  played.hasOutline[played.count] = usable && outlines[frame].count > 0;
   ++played.count;
 }
 
@@ -74,6 +68,8 @@ void Load(const MainChara& chara, Preview kind) {
   played.kind = kind;
   played.delay = kTicksOfFrame;
   const int number = chara.charaNo - 1;
+  int ignored = 0;
+  OutlineReadCounted(number, outlines, &ignored);
   switch (kind) {
     case Preview::Menu:
       if (chara.menuFrame > 0) Add(number, chara.menuFrame);

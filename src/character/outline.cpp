@@ -38,42 +38,26 @@ int ReadFrame(int file, Outline* outline) {
   return got == wanted ? 0 : -3;
 }
 
-// False when there is no count, or it is beyond the table.
-bool ReadFrameCount(int file, int* frameCount) {
-  unsigned char count = 0;
-  if (FileRead(file, &count, 1) != 1) return false;
-  *frameCount = std::min<int>(count, kFrameMax);
-  return count <= kFrameMax;
-}
-
-// The frames before the wanted one are walked over: their sizes are known only
+// The frames of an open file in turn, up to one that fails; their sizes are known only
 // from their counts.
-int ReadUpTo(int file, int frame, Outline* outline, int* frameCount) {
-  outline->count = 0;
-  if (!ReadFrameCount(file, frameCount) || frame >= *frameCount) return -2;
-  static Outline passed;
-  for (int i = 0; i < frame; ++i) {
-    if (ReadFrame(file, &passed) != 0) return -2;
-  }
-  return ReadFrame(file, outline);
+int ReadFrames(int file, int frames, Outline (&outlines)[kFrameMax]) {
+  int result = 0;
+  for (int i = 0; result == 0 && i < frames; ++i) result = ReadFrame(file, &outlines[i]);
+  return result;
 }
 
 }  // namespace
 
-int OutlineRead(int number, int frame, Outline* outline, int* frameCount) {
-  const int file = OpenDwc(number);
-  if (file == kNoFile) return -1;
-  const int result = ReadUpTo(file, frame, outline, frameCount);
-  FileClose(file);
-  return result;
-}
-
 int OutlineReadCounted(int number, Outline (&outlines)[kFrameMax], int* frameCount) {
+  for (Outline& outline : outlines) outline.count = 0;
   const int file = OpenDwc(number);
   if (file == kNoFile) return -1;
-  for (Outline& outline : outlines) outline.count = 0;
-  int result = ReadFrameCount(file, frameCount) ? 0 : -2;
-  for (int i = 0; result == 0 && i < *frameCount; ++i) result = ReadFrame(file, &outlines[i]);
+  unsigned char count = 0;
+  int result = -2;
+  if (FileRead(file, &count, 1) == 1) {
+    *frameCount = std::min<int>(count, kFrameMax);
+    if (count <= kFrameMax) result = ReadFrames(file, count, outlines);
+  }
   FileClose(file);
   return result;
 }
@@ -83,8 +67,7 @@ int OutlineReadAll(int number, Outline (&outlines)[kFrameMax]) {
   const int file = OpenDwc(number);
   if (file == kNoFile) return -1;
   unsigned char ignored = 0;
-  int result = FileRead(file, &ignored, 1) == 1 ? 0 : -2;
-  for (int i = 0; result == 0 && i < kFrameMax; ++i) result = ReadFrame(file, &outlines[i]);
+  const int result = FileRead(file, &ignored, 1) == 1 ? ReadFrames(file, kFrameMax, outlines) : -2;
   FileClose(file);
   return result;
 }

@@ -15,21 +15,14 @@ struct Outline {
   Point points[kOutlinePointMax];
 };
 
-// Reads the outline of one frame (0 to 19) of a character (its number minus 1)
-// and the file's frame count. Returns 0; -1 when the file cannot be opened, or for
-// a number below 0, which has none;
-// nothing is changed then; -2 when the file does not reach the frame or a count is
-// beyond its table; -3 when it ends among the frame's points. With -2 and -3 the
-// points that were read stay.
-int OutlineRead(int number, int frame, Outline* outline, int* frameCount);
-
-// Reads the outlines of the frames that the file counts, each as OutlineRead does,
-// in one pass. Results as above; frames behind one that failed have none.
+// Reads the outlines of the frames that a character's file counts (its number minus 1;
+// below 0 there is none), and that count, at most 20. Returns 0; -1 when the file cannot
+// be opened; -2 when it ends before a frame's points or a count is beyond its table; -3
+// when it ends among a frame's points. The frames before the failure and the points that
+// were read stay; all others have no outline. A count that could not be read is left.
 int OutlineReadCounted(int number, Outline (&outlines)[kFrameMax], int* frameCount);
 
-// Reads the outlines of all 20 frames, whatever the file's frame count says.
-// Results as above; with -2 and -3 the frames that were read stay and the others
-// have no outline.
+// The same of all 20 frames, whatever the file's count says.
 int OutlineReadAll(int number, Outline (&outlines)[kFrameMax]);
 
 // y of the stage: below the window's menu line.

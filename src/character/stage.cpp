@@ -54,7 +54,6 @@ void LoadIdleOutline(int number) {
   if (OutlineReadCounted(number, fileOutlines, &StageFrameCount) == -1) {
     StageFrameCount = kFrameMax;
     CurrentOutline = Outline{0, {{0, 0}, {kSquare, 0}, {kSquare, kSquare}, {0, kSquare}}};
-    for (Outline& outline : fileOutlines) outline.count = 0;
     return;
   }
   OutlineCopy(&CurrentOutline, fileOutlines[0]);

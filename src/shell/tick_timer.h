@@ -2,10 +2,10 @@
 //
 // A companion that only stands there has nothing to do in most of its ticks but to
 // count. Then the timer rests: it fires once for all ticks up to the next one that
-// has something to do, and these run one after the other. A person sees the same;
-// the machine is woken every few seconds instead of 33 times a second. Whatever happens to the
-// main window ends the rest first, so that its handlers find all counts as they
-// are at that time.
+// has something to do, and these run one after the other. A person sees the same; the
+// machine is woken every few seconds instead of 33 times a second. Whatever happens
+// to the main window ends the rest first, so that its handlers find all counts as
+// they are at that time.
 #pragma once
 
 // Starts the timer on the main window. False when no timer is to be had.

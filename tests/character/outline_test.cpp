@@ -30,49 +30,52 @@ FilePoints ManyPoints(int count) {
   return points;
 }
 
-TEST_F(OutlineTest, FramesAreWalkedOverUpToTheWantedOne) {
+TEST_F(OutlineTest, FramesAreWalkedOverByTheirCounts) {
   PutDwc(3, DwcFile({{{1, 2}, {3, 4}}, {}, {{65535, 0}, {256, 255}, {7, 8}}}));
-  EXPECT_EQ(OutlineRead(2, 0, &outline_, &frameCount_), 0);
+  EXPECT_EQ(OutlineReadCounted(2, all_, &frameCount_), 0);
   EXPECT_EQ(frameCount_, 3);
-  ExpectPoints(outline_, {{1, 2}, {3, 4}});
-  EXPECT_EQ(OutlineRead(2, 1, &outline_, &frameCount_), 0);
-  EXPECT_EQ(outline_.count, 0);
-  EXPECT_EQ(OutlineRead(2, 2, &outline_, &frameCount_), 0);
-  ExpectPoints(outline_, {{65535, 0}, {256, 255}, {7, 8}});
+  ExpectPoints(all_[0], {{1, 2}, {3, 4}});
+  EXPECT_EQ(all_[1].count, 0);
+  ExpectPoints(all_[2], {{65535, 0}, {256, 255}, {7, 8}});
 }
 
-TEST_F(OutlineTest, AFrameBeyondTheFrameCountFailsWithMinus2) {
-  PutDwc(1, DwcFile({{{1, 2}}}));
-  EXPECT_EQ(OutlineRead(0, 1, &outline_, &frameCount_), -2);
-  EXPECT_EQ(outline_.count, 0);
+TEST_F(OutlineTest, AFrameBeyondTheFrameCountHasNoOutline) {
+  PutDwc(1, DwcFile({{{1, 2}}}) + BE32(1) + BE16(4) + BE16(5));
+  all_[1].count = 7;
+  EXPECT_EQ(OutlineReadCounted(0, all_, &frameCount_), 0);
+  ExpectPoints(all_[0], {{1, 2}});
+  EXPECT_EQ(all_[1].count, 0);
   EXPECT_EQ(frameCount_, 1);
 }
 
-TEST_F(OutlineTest, AFileThatCannotBeOpenedChangesNothing) {
-  outline_.count = 5;
-  EXPECT_EQ(OutlineRead(0, 0, &outline_, &frameCount_), -1);
-  EXPECT_EQ(outline_.count, 5);
-  EXPECT_EQ(frameCount_, -7);
-  EXPECT_EQ(OutlineReadAll(0, all_), -1);
+TEST_F(OutlineTest, WithoutAFileNoFrameHasAnOutlineAndTheFrameCountStays) {
+  for (const int number : {0, -1}) {
+    all_[0].count = 5;
+    all_[19].count = 5;
+    EXPECT_EQ(OutlineReadCounted(number, all_, &frameCount_), -1);
+    EXPECT_EQ(all_[0].count, 0);
+    EXPECT_EQ(all_[19].count, 0);
+    EXPECT_EQ(frameCount_, -7);
+    EXPECT_EQ(OutlineReadAll(number, all_), -1);
+  }
 }
 
 TEST_F(OutlineTest, A1024PointOutlineIsReadWholeAndOnePointMoreIsBadContent) {
   PutDwc(1, DwcFile({ManyPoints(1024)}));
-  EXPECT_EQ(OutlineRead(0, 0, &outline_, &frameCount_), 0);
-  ExpectPoints(outline_, ManyPoints(1024));
+  EXPECT_EQ(OutlineReadCounted(0, all_, &frameCount_), 0);
+  ExpectPoints(all_[0], ManyPoints(1024));
   PutDwc(1, DwcFile({ManyPoints(1025)}));
-  EXPECT_EQ(OutlineRead(0, 0, &outline_, &frameCount_), -2);
-  EXPECT_EQ(outline_.count, 0);
+  EXPECT_EQ(OutlineReadCounted(0, all_, &frameCount_), -2);
+  EXPECT_EQ(all_[0].count, 0);
   PutDwc(1, std::string("\x14", 1) + BE32(0xFFFFFFFF));
-  EXPECT_EQ(OutlineRead(0, 0, &outline_, &frameCount_), -2);
-  EXPECT_EQ(OutlineRead(0, 1, &outline_, &frameCount_), -2);
+  EXPECT_EQ(OutlineReadCounted(0, all_, &frameCount_), -2);
   EXPECT_EQ(OutlineReadAll(0, all_), -2);
 }
 
 TEST_F(OutlineTest, AFrameCountBeyond20IsBadContent) {
   PutDwc(1, std::string("\x15", 1) + BE32(1) + BE16(4) + BE16(5));
-  EXPECT_EQ(OutlineRead(0, 0, &outline_, &frameCount_), -2);
-  EXPECT_EQ(outline_.count, 0);
+  EXPECT_EQ(OutlineReadCounted(0, all_, &frameCount_), -2);
+  EXPECT_EQ(all_[0].count, 0);
   EXPECT_EQ(frameCount_, 20);
 }
 
@@ -94,53 +97,22 @@ TEST_F(OutlineTest, EveryTruncationKeepsThePointsThatWereRead) {
   ASSERT_EQ(file.size(), 25U);
   for (std::size_t size = 0; size < file.size(); ++size) {
     PutDwc(1, file.substr(0, size));
-    const int first = OutlineRead(0, 0, &outline_, &frameCount_);
-    EXPECT_EQ(first, size < 5 ? -2 : size < 13 ? -3 : 0) << size;
-    EXPECT_EQ(outline_.count, size < 9 ? 0 : size < 13 ? 1 : 2) << size;
-    const int third = OutlineRead(0, 2, &outline_, &frameCount_);
-    EXPECT_EQ(third, size < 21 ? -2 : -3) << size;
-    EXPECT_EQ(outline_.count, 0) << size;
-    const int all = OutlineReadAll(0, all_);
-    EXPECT_EQ(all, (size >= 5 && size < 13) || size >= 21 ? -3 : -2) << size;
+    const int expected = (size >= 5 && size < 13) || size >= 21 ? -3 : -2;
+    all_[2].count = all_[19].count = 7;
+    EXPECT_EQ(OutlineReadCounted(0, all_, &frameCount_), expected) << size;
+    EXPECT_EQ(frameCount_, size < 1 ? -7 : 3) << size;
+    EXPECT_EQ(all_[0].count, size < 9 ? 0 : size < 13 ? 1 : 2) << size;
+    EXPECT_EQ(all_[2].count, 0) << size;
+    EXPECT_EQ(all_[19].count, 0) << size;
+    EXPECT_EQ(OutlineReadAll(0, all_), expected) << size;
     EXPECT_EQ(all_[0].count, size < 9 ? 0 : size < 13 ? 1 : 2) << size;
   }
   PutDwc(1, file);
+  EXPECT_EQ(OutlineReadCounted(0, all_, &frameCount_), 0);
+  ExpectPoints(all_[2], {{5, 6}});
   EXPECT_EQ(OutlineReadAll(0, all_), -2);  // three frames of the twenty
   ExpectPoints(all_[2], {{5, 6}});
   EXPECT_EQ(all_[3].count, 0);
-}
-
-// The same file, read in one pass as the stage does.
-TEST_F(OutlineTest, OnePassOverTheCountedFramesKeepsThePointsThatWereRead) {
-  const std::string file = DwcFile({{{1, 2}, {3, 4}}, {}, {{5, 6}}});
-  for (std::size_t size = 0; size <= file.size(); ++size) {
-    PutDwc(1, file.substr(0, size));
-    all_[2].count = all_[19].count = 7;
-    const int result = OutlineReadCounted(0, all_, &frameCount_);
-    EXPECT_EQ(result, size == 25 ? 0 : (size >= 5 && size < 13) || size >= 21 ? -3 : -2) << size;
-    EXPECT_EQ(all_[0].count, size < 9 ? 0 : size < 13 ? 1 : 2) << size;
-    EXPECT_EQ(all_[2].count, size < 25 ? 0 : 1) << size;
-    EXPECT_EQ(all_[19].count, 0) << size;
-    if (size >= 1) {
-      EXPECT_EQ(frameCount_, 3);
-    }
-  }
-  ExpectPoints(all_[2], {{5, 6}});
-}
-
-TEST_F(OutlineTest, OnePassRefusesACountBeyondTheTableAndLeavesAllAloneWithoutAFile) {
-  std::string file = DwcFile({{{1, 2}}});
-  file[0] = 21;
-  PutDwc(1, file);
-  EXPECT_EQ(OutlineReadCounted(0, all_, &frameCount_), -2);
-  EXPECT_EQ(all_[0].count, 0);
-  EXPECT_EQ(frameCount_, 20);
-  all_[3].count = 7;
-  frameCount_ = 9;
-  EXPECT_EQ(OutlineReadCounted(1, all_, &frameCount_), -1);
-  EXPECT_EQ(OutlineReadCounted(-1, all_, &frameCount_), -1);
-  EXPECT_EQ(all_[3].count, 7);
-  EXPECT_EQ(frameCount_, 9);
 }
 
 TEST_F(OutlineTest, RandomMutationsNeverGoBeyondTheTables) {
@@ -153,16 +125,12 @@ TEST_F(OutlineTest, RandomMutationsNeverGoBeyondTheTables) {
     std::string changed = file;
     for (int k = 0; k < 3; ++k) changed[random() % changed.size()] = static_cast<char>(random());
     ASSERT_EQ(pwrite(native, changed.data(), changed.size(), 0), static_cast<ssize_t>(changed.size()));
-    const int frame = static_cast<int>(random() % kFrameMax);
-    const int one = OutlineRead(0, frame, &outline_, &frameCount_);
-    ASSERT_TRUE(one == 0 || one == -2 || one == -3);
-    ASSERT_TRUE(outline_.count >= 0 && outline_.count <= kOutlinePointMax);
-    ASSERT_TRUE(frameCount_ >= 0 && frameCount_ <= kFrameMax);
     const int all = OutlineReadAll(0, all_);
     ASSERT_TRUE(all == 0 || all == -2 || all == -3);
     for (const Outline& outline : all_) ASSERT_TRUE(outline.count >= 0 && outline.count <= kOutlinePointMax);
     const int counted = OutlineReadCounted(0, all_, &frameCount_);
     ASSERT_TRUE(counted == 0 || counted == -2 || counted == -3);
+    ASSERT_TRUE(frameCount_ >= 0 && frameCount_ <= kFrameMax);
     for (const Outline& outline : all_) ASSERT_TRUE(outline.count >= 0 && outline.count <= kOutlinePointMax);
   }
   close(native);
@@ -172,14 +140,15 @@ TEST_F(OutlineTest, EveryFailingReadGivesItsResult) {
   PutDwc(1, DwcFile({{{1, 2}}, {{3, 4}}}));
   for (int nth = 1;; ++nth) {
     FaultArm(FaultKind::Read, nth);
-    const int result = OutlineRead(0, 1, &outline_, &frameCount_);
+    const int result = OutlineReadCounted(0, all_, &frameCount_);
     const bool met = FaultWasMet();
     FaultClear();
     if (!met) break;
-    EXPECT_EQ(result, nth == 5 ? -3 : -2) << nth;
+    // The frame count, then a count and the points of each frame.
+    EXPECT_EQ(result, nth == 3 || nth == 5 ? -3 : -2) << nth;
   }
   FaultArm(FaultKind::Open, 1);
-  EXPECT_EQ(OutlineRead(0, 1, &outline_, &frameCount_), -1);
+  EXPECT_EQ(OutlineReadCounted(0, all_, &frameCount_), -1);
 }
 
 // With a menu line of 19 pixels and a picture of 100 rows the bottom row (y 0)
