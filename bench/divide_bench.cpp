@@ -18,11 +18,11 @@
 #include <string>
 #include <vector>
 
-#include "filetools/back_up.h"
-#include "filetools/file_divide.h"
+#include "filetools/back_up/back_up.h"
+#include "filetools/divide/file_divide.h"
+#include "filetools/stepped_work.h"
 #include "platform/posix/posix_paths.h"
-#include "shell/shell.h"
-#include "shell/text.h"
+#include "services/text.h"
 
 namespace {
 
@@ -74,15 +74,15 @@ void SetUp(bool scrambled) {
 
 void Divide(bool scrambled) {
   SetUp(scrambled);
-  stepCounter = 1;
-  while (stepCounter != 0) Check(FileDivideStep() == 0, "dividing");
+  Stepped.stepCounter = 1;
+  while (Stepped.stepCounter != 0) Check(FileDivideStep() == 0, "dividing");
 }
 
 void Restore() {
   TextCopy(FileDivide.storeDir, sizeof FileDivide.storeDir, ProgramPath(room / "restored").c_str());
   const std::string cof = ProgramPath(room / "pieces" / "part0.cof");
-  stepCounter = 1;
-  while (stepCounter != 0) Check(FileRestoreStep(cof.c_str()) == 0, "restoring");
+  Stepped.stepCounter = 1;
+  while (Stepped.stepCounter != 0) Check(FileRestoreStep(cof.c_str()) == 0, "restoring");
 }
 
 void Compare() {

@@ -9,7 +9,7 @@
 #include <cstdlib>
 #include <ctime>
 
-#include "filetools/folder_scope.h"
+#include "filetools/scope/folder_scope.h"
 #include "platform/posix/posix_paths.h"
 
 namespace {
@@ -32,11 +32,11 @@ int main(int argc, char** argv) {
   double best = 0;
   for (int i = 0; i < walks; ++i) {
     const double start = Milliseconds();
-    areaTotal = 0.0F;
+    Scope.areaTotal = 0.0F;
     ScopeFolderSize(folder.c_str());
     const double took = Milliseconds() - start;
     if (i == 0 || took < best) best = took;
   }
-  std::printf("%.0f bytes, %.1f ms\n", static_cast<double>(areaTotal), best);
+  std::printf("%.0f bytes, %.1f ms\n", static_cast<double>(Scope.areaTotal), best);
   return 0;
 }

@@ -3,8 +3,8 @@
 #include "character/alarm_images.h"
 #include "character/options.h"
 #include "resources/ids.h"
-#include "shell/dialog_family.h"
-#include "shell/shell.h"
+#include "services/dialog_family.h"
+#include "services/five_ticks.h"
 
 namespace {
 
@@ -17,13 +17,13 @@ int frameNow;
 // The row that the open check plays; -1 for none.
 int RowNow() {
   for (int row = 0; row < kAlarmRowCount; ++row) {
-    if (hToolDlg && DlgIdTool == kTemplates[row]) return row;
+    if (Dialogs.hToolDlg && Dialogs.DlgIdTool == kTemplates[row]) return row;
   }
   return -1;
 }
 
 void Show(int row) {
-  if (checked[row].frameCount > 0) AlarmFrameShow(hToolDlg, kBox, checked[row], frameNow);
+  if (checked[row].frameCount > 0) AlarmFrameShow(Dialogs.hToolDlg, kBox, checked[row], frameNow);
 }
 
 bool Proc(const Event& event) {
@@ -31,7 +31,7 @@ bool Proc(const Event& event) {
   switch (event.kind) {
     case EventKind::Init:
       frameNow = kFrameMax;  // the first step goes round to frame 0
-      FrameDivider = 1;
+      FiveTicks.FrameDivider = 1;
       return true;
     case EventKind::Paint:
       if (row >= 0) Show(row);

@@ -7,9 +7,9 @@
 #include "platform/canvas.h"
 #include "platform/window.h"
 #include "resources/ids.h"
-#include "shell/dialog_family.h"
-#include "shell/dib.h"
-#include "shell/painting.h"
+#include "services/dialog_family.h"
+#include "services/dib.h"
+#include "services/painting.h"
 
 namespace {
 
@@ -125,7 +125,7 @@ bool Proc(const Event& event) {
 
 void MotionPreviewRun(WindowHandle owner, int index, Preview kind) {
   if (index < 0 || index >= kMainCharaMax) return;  // bounded: no such character
-  Load(MainCharas[index], kind);
+  Load(CharaTables.MainCharas[index], kind);
   const int id = kFirstTemplate + static_cast<int>(kind) - static_cast<int>(Preview::Menu);
   SubDialogRun(id, IDD_DspOptionOpeDlg, owner, Proc);
   Free();

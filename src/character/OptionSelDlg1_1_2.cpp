@@ -2,7 +2,7 @@
 
 #include "character/options.h"
 #include "resources/ids.h"
-#include "shell/dialog_family.h"
+#include "services/dialog_family.h"
 
 namespace {
 

@@ -7,18 +7,19 @@
 #include "character/frames.h"
 #include "character/options.h"
 #include "character/stage.h"
-#include "filetools/open_history.h"
+#include "filetools/open/open_history.h"
 #include "platform/canvas.h"
 #include "platform/dialog.h"
 #include "platform/window.h"
 #include "resources/ids.h"
-#include "scenario/world_list.h"
-#include "shell/dialog_family.h"
-#include "shell/dib.h"
-#include "shell/feature_dialog.h"
-#include "shell/painting.h"
+#include "services/dialog_family.h"
+#include "services/dib.h"
+#include "services/feature_dialog.h"
+#include "services/painting.h"
+#include "services/program.h"
+#include "shell/panel.h"
 #include "shell/settings.h"
-#include "shell/shell.h"
+#include "world/world_list.h"
 
 namespace {
 
@@ -35,11 +36,11 @@ int shown;     // place of the character on show
 bool changed;  // the choice is to be saved
 
 bool IsListed(int place) {
-  return place >= 0 && place < MainCharaCount && place < kMainCharaMax;
+  return place >= 0 && place < CharaTables.MainCharaCount && place < kMainCharaMax;
 }
 
 const char* NameOf(int place) {
-  return IsListed(place) ? WorldCharaName(MainCharas[place].charaNo) : "";
+  return IsListed(place) ? WorldCharaName(CharaTables.MainCharas[place].charaNo) : "";
 }
 
 Rect PreviewArea(WindowHandle dialog) {
@@ -60,8 +61,8 @@ void DrawPreview(WindowHandle dialog) {
 void Show(WindowHandle dialog, int place) {
   shown = place;
   ControlSetText(dialog, kName, NameOf(place));
-  if (IsListed(place) && !previews[place] && MainCharas[place].charaNo >= 1) {
-    previews[place] = DibLoad(CharaBmpPath(MainCharas[place].charaNo - 1, 0));
+  if (IsListed(place) && !previews[place] && CharaTables.MainCharas[place].charaNo >= 1) {
+    previews[place] = DibLoad(CharaBmpPath(CharaTables.MainCharas[place].charaNo - 1, 0));
   }
   DrawPreview(dialog);
 }
@@ -69,9 +70,9 @@ void Show(WindowHandle dialog, int place) {
 void Fill(WindowHandle dialog) {
   const ListQuiet quiet(dialog, kList);
   ListClear(dialog, kList);
-  for (int place = 0; place < MainCharaCount; ++place) ListAdd(dialog, kList, NameOf(place));
-  ListSelect(dialog, kList, IsListed(CharaIndex) ? CharaIndex : -1);
-  Show(dialog, CharaIndex);
+  for (int place = 0; place < CharaTables.MainCharaCount; ++place) ListAdd(dialog, kList, NameOf(place));
+  ListSelect(dialog, kList, IsListed(Character.CharaIndex) ? Character.CharaIndex : -1);
+  Show(dialog, Character.CharaIndex);
 }
 
 // The chosen character becomes the current one. Another one than before is loaded
@@ -80,9 +81,9 @@ void Take(WindowHandle dialog) {
   const int place = ListSelected(dialog, kList);
   OptionPreviewsFree();
   if (!IsListed(place) || !CharaSelect(place)) return;
-  StageRedraw = kRedrawReload;
+  Stage.StageRedraw = kRedrawReload;
   changed = true;
-  if (WalkRow(CharaSet) != 0) OpnHisTakeWalkSettings();
+  if (WalkRow(Character.CharaSet) != 0) OpnHisTakeWalkSettings();
 }
 
 // Until OK nothing but the previews has changed, so there is nothing to roll back.
@@ -139,12 +140,12 @@ void OptionPreviewsFree() {
 }
 
 void CommandOptionMainCharacter(std::uint32_t) {
-  FeatureDialogRun(FuncNo, [] {
+  FeatureDialogRun(Panel.FuncNo, [] {
     WorldListRead();
     changed = false;
-    MenuDialogRun(kTemplate, IDD_OptionSelDlg1_2, hMainWnd, Proc);
+    MenuDialogRun(kTemplate, IDD_OptionSelDlg1_2, Program.hMainWnd, Proc);
     if (changed) SysFileWrite();
-    if (StageRedraw == kRedrawReload) SendCommand(hMainWnd, kStageRedrawCommand);
+    if (Stage.StageRedraw == kRedrawReload) SendCommand(Program.hMainWnd, kStageRedrawCommand);
     return 0;
   });
 }

@@ -9,11 +9,12 @@
 #include "platform/dialog.h"
 #include "platform/window.h"
 #include "resources/ids.h"
-#include "scenario/world_list.h"
-#include "shell/dialog_family.h"
-#include "shell/feature_dialog.h"
+#include "services/dialog_family.h"
+#include "services/feature_dialog.h"
+#include "services/program.h"
+#include "shell/panel.h"
 #include "shell/settings.h"
-#include "shell/shell.h"
+#include "world/world_list.h"
 
 namespace {
 
@@ -38,17 +39,18 @@ void Fill(WindowHandle dialog) {
     const int combo = ComboOf(row);
     ListClear(dialog, combo);
     ListAdd(dialog, combo, "未設定");
-    for (int i = 0; i < AlarmCharaCount; ++i) ListAdd(dialog, combo, WorldCharaName(AlarmCharas[i]));
-    const std::int32_t selection = AlarmCharaSel[row];
+    for (int i = 0; i < CharaTables.AlarmCharaCount; ++i)
+      ListAdd(dialog, combo, WorldCharaName(CharaTables.AlarmCharas[i]));
+    const std::int32_t selection = Character.AlarmCharaSel[row];
     // bounded: a selection beyond the list selects nobody.
-    ListSelect(dialog, combo, selection >= 0 && selection <= AlarmCharaCount ? selection : 0);
+    ListSelect(dialog, combo, selection >= 0 && selection <= CharaTables.AlarmCharaCount ? selection : 0);
   }
 }
 
 void Take(WindowHandle dialog) {
   for (int row = kFirstRow; row < kAlarmRowCount; ++row) {
     const int selection = ListSelected(dialog, ComboOf(row));
-    if (selection >= 0) AlarmCharaSel[row] = selection;
+    if (selection >= 0) Character.AlarmCharaSel[row] = selection;
   }
   AlarmCharaLoad();
   changed = true;
@@ -57,7 +59,7 @@ void Take(WindowHandle dialog) {
 bool Command(const Event& event) {
   switch (event.command) {
     case kCheckMail:
-      AlarmCheckRun(event.window, kAlarmMail, AlarmCharaSel[kAlarmMail]);
+      AlarmCheckRun(event.window, kAlarmMail, Character.AlarmCharaSel[kAlarmMail]);
       return true;
     case kCheckSchedule:
       AlarmCheckRun(event.window, kAlarmSchedule, ListSelected(event.window, ComboOf(kAlarmSchedule)));
@@ -85,11 +87,11 @@ bool Proc(const Event& event) {
 }  // namespace
 
 void CommandOptionAlarmCharacter(std::uint32_t) {
-  FeatureDialogRun(FuncNo, [] {
+  FeatureDialogRun(Panel.FuncNo, [] {
     WorldListRead();
     CharaFileRead();
     changed = false;
-    MenuDialogRun(kTemplate, IDD_OptionSelDlg2, hMainWnd, Proc);
+    MenuDialogRun(kTemplate, IDD_OptionSelDlg2, Program.hMainWnd, Proc);
     if (changed) SysFileWrite();
     AlarmCheckFree();
     return 0;

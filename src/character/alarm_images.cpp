@@ -2,13 +2,14 @@
 
 #include <algorithm>
 
+#include "character/character.h"
 #include "character/character_tables.h"
 #include "character/frames.h"
 #include "platform/canvas.h"
-#include "scenario/world_list.h"
-#include "shell/painting.h"
+#include "services/painting.h"
+#include "world/world_list.h"
 
-AlarmRow AlarmRows[kAlarmRowCount];
+AlarmImagesState AlarmImages;
 
 namespace {
 
@@ -22,8 +23,8 @@ int FrameCountOf(const AlarmRow& row, int number) {
   int marked = 0;
   int pictured = 0;
   for (int frame = 0; frame < kFrameMax; ++frame) {
-    const bool listed = number >= 1 && number <= WorldCharaCount && number <= kWorldCharaMax;
-    if (listed && WorldCharas[number - 1].figureIds[frame] != 0) marked = frame + 1;
+    const bool listed = number >= 1 && number <= World.WorldCharaCount && number <= kWorldCharaMax;
+    if (listed && World.WorldCharas[number - 1].figureIds[frame] != 0) marked = frame + 1;
     if (row.pictures[frame]) pictured = frame + 1;
   }
   return marked != 0 ? marked : pictured;
@@ -47,20 +48,22 @@ bool RowCopy(AlarmRow* to, const AlarmRow& from) {
 }  // namespace
 
 void AlarmCharaLoad() {
-  for (AlarmRow& row : AlarmRows) AlarmRowFree(&row);
+  for (AlarmRow& row : AlarmImages.AlarmRows) AlarmRowFree(&row);
   for (int i = 0; i < kAlarmRowCount; ++i) {
-    const auto* before = std::find(AlarmCharaSel, AlarmCharaSel + i, AlarmCharaSel[i]);
+    const auto* before =
+        std::find(Character.AlarmCharaSel, Character.AlarmCharaSel + i, Character.AlarmCharaSel[i]);
     // Rows of one character read its files once.
-    if (before == AlarmCharaSel + i || !RowCopy(&AlarmRows[i], AlarmRows[before - AlarmCharaSel]))
-      AlarmRowLoad(&AlarmRows[i], AlarmCharaSel[i]);
+    if (before == Character.AlarmCharaSel + i ||
+        !RowCopy(&AlarmImages.AlarmRows[i], AlarmImages.AlarmRows[before - Character.AlarmCharaSel]))
+      AlarmRowLoad(&AlarmImages.AlarmRows[i], Character.AlarmCharaSel[i]);
   }
 }
 
 void AlarmRowLoad(AlarmRow* row, int selection) {
   AlarmRowFree(row);
   // bounded: a selection may lie beyond the list.
-  if (selection < 1 || selection > AlarmCharaCount || selection > kAlarmCharaMax) return;
-  const int number = AlarmCharas[selection - 1];
+  if (selection < 1 || selection > CharaTables.AlarmCharaCount || selection > kAlarmCharaMax) return;
+  const int number = CharaTables.AlarmCharas[selection - 1];
   if (number < 1) return;
   const FrameFiles files = FrameFilesFind(number - 1);
   for (int frame = 0; frame < kFrameMax; ++frame) {

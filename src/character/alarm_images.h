@@ -5,7 +5,7 @@
 #include "character/character.h"
 #include "character/outline.h"
 #include "platform/types.h"
-#include "shell/dib.h"
+#include "services/dib.h"
 
 // Rows of AlarmRows, as AlarmCharaSel counts them.
 inline constexpr int kAlarmMail = 0;
@@ -17,7 +17,10 @@ struct AlarmRow {
   ImageHandle masks[kFrameMax];
   int frameCount;  // 0 to 20; 0: the row is empty
 };
-extern AlarmRow AlarmRows[kAlarmRowCount];
+struct AlarmImagesState {
+  AlarmRow AlarmRows[kAlarmRowCount] = {};
+};
+extern AlarmImagesState AlarmImages;
 
 // Frees the three rows and loads them as AlarmCharaSel selects.
 void AlarmCharaLoad();

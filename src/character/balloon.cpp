@@ -5,14 +5,14 @@
 
 #include "character/walk.h"
 #include "character/walk_windows.h"
-#include "filetools/open_state.h"
+#include "filetools/open/open_state.h"
 #include "platform/canvas.h"
 #include "platform/dialog.h"
 #include "platform/screen.h"
 #include "platform/window.h"
-#include "shell/dib.h"
-#include "shell/shell.h"
-#include "shell/text.h"
+#include "services/dib.h"
+#include "services/screen_figures.h"
+#include "services/text.h"
 
 namespace {
 
@@ -27,12 +27,12 @@ constexpr int kLineStep = 18;
 constexpr int kGroupLineHeight = 20;
 
 bool IsGroup() {
-  return OpeningState == kOpeningGroup;
+  return Walk.OpeningState == kOpeningGroup;
 }
 
 int QuotedWidth(const char* name) {
   const auto length = static_cast<int>(TextLength(name, kOpnTextSize)) + 2;
-  return length * CharWidth + kTextMargin;
+  return length * Screen.CharWidth + kTextMargin;
 }
 
 int BalloonWidth() {
@@ -52,12 +52,12 @@ int BalloonHeight() {
 }
 
 void Open(WindowHandle window) {
-  const WalkSlot& s = WalkSlots[WalkSlotNow];
-  int x = std::max(WalkLastX - kLeastWidth, 0);
-  int y = std::max(WalkLastY - kLeastHeight, 0);
+  const WalkSlot& s = Walk.WalkSlots[Walk.WalkSlotNow];
+  int x = std::max(Walk.WalkLastX - kLeastWidth, 0);
+  int y = std::max(Walk.WalkLastY - kLeastHeight, 0);
   if (s.endWindow) {
-    x = WalkLastX;
-    y = WalkLastY + DibHeight(WalkPicture(WalkSlotNow, WalkFrameOf(s.endFrames[0])));
+    x = Walk.WalkLastX;
+    y = Walk.WalkLastY + DibHeight(WalkPicture(Walk.WalkSlotNow, WalkFrameOf(s.endFrames[0])));
   }
   WindowMove(window, x, y, BalloonWidth(), BalloonHeight(), false);
   WindowSetTopmost(window);
@@ -88,8 +88,8 @@ void Paint(WindowHandle window) {
 }  // namespace
 
 bool BalloonProc(const Event& event) {
-  if (event.kind == EventKind::Init) WalkSlots[WalkSlotNow].balloonWindow = event.window;
-  WalkSlot& s = WalkSlots[WalkSlotOf(&WalkSlot::balloonWindow, event.window)];
+  if (event.kind == EventKind::Init) Walk.WalkSlots[Walk.WalkSlotNow].balloonWindow = event.window;
+  WalkSlot& s = Walk.WalkSlots[WalkSlotOf(&WalkSlot::balloonWindow, event.window)];
   if (EndIsAsked(event) || event.kind == EventKind::Destroy) {
     if (s.balloonWindow == event.window) s.balloonWindow = nullptr;
     if (event.kind != EventKind::Destroy) DialogEnd(event.window, 0);

@@ -34,7 +34,7 @@
 
 #include <cstdint>
 
-#include "shell/big_endian.h"
+#include "services/big_endian.h"
 
 inline constexpr int kCharaSetSize = 676;
 inline constexpr int kCharaSetUses = 10;

@@ -10,18 +10,21 @@
 inline constexpr int kBoredFrameCount = 5;
 inline constexpr int kAlarmRowCount = 3;
 
-extern std::int32_t CharaIndex;  // place of the current main character in the list, from 0
-extern std::int32_t MenuFrame;   // frame shown while the panel is open
-extern std::int32_t BlinkFrame;  // 0: no blink
-extern std::int32_t Bored1Frames[kBoredFrameCount];  // a negative number ends the list
-extern std::int32_t Bored2Frames[kBoredFrameCount];
-extern std::int32_t BoredDelaySel;
-extern std::int32_t BoredSpeedSel;
-extern std::int32_t BoredRepeatSel;
-extern std::int32_t BlinkSpeedSel;
-extern std::int32_t StageX;
-extern std::int32_t StageY;
-// Row 0 the mail notice, 1 the schedule alarm, 2 the clock alarm and calendar
-// note; 0 for none, else 1 + place in the alarm list.
-extern std::int32_t AlarmCharaSel[kAlarmRowCount];
-extern unsigned char CharaSet[kCharaSetSize];  // the current character's record, as it stands in the files
+struct CharacterState {
+  std::int32_t CharaIndex = 0;  // place of the current main character in the list, from 0
+  std::int32_t MenuFrame = 0;   // frame shown while the panel is open
+  std::int32_t BlinkFrame = 0;  // 0: no blink
+  std::int32_t Bored1Frames[kBoredFrameCount] = {};  // a negative number ends the list
+  std::int32_t Bored2Frames[kBoredFrameCount] = {};
+  std::int32_t BoredDelaySel = 0;
+  std::int32_t BoredSpeedSel = 0;
+  std::int32_t BoredRepeatSel = 0;
+  std::int32_t BlinkSpeedSel = 0;
+  std::int32_t StageX = 500;
+  std::int32_t StageY = 300;
+  // Row 0 the mail notice, 1 the schedule alarm, 2 the clock alarm and calendar
+  // note; 0 for none, else 1 + place in the alarm list.
+  std::int32_t AlarmCharaSel[kAlarmRowCount] = {};
+  unsigned char CharaSet[kCharaSetSize] = {};  // the current character's record, as it stands in the files
+};
+extern CharacterState Character;

@@ -5,10 +5,10 @@
 #include "character/chara_set.h"
 #include "character/character.h"
 #include "character/character_tables.h"
-#include "clock_calendar/clock.h"
-#include "shell/data_file.h"
-#include "shell/shell.h"
-#include "shell/text.h"
+#include "clock_calendar/clock/clock.h"
+#include "services/data_file.h"
+#include "services/program.h"
+#include "services/text.h"
 
 // The file, all numbers big-endian:
 //   order  size     field
@@ -66,27 +66,27 @@ struct Tables {
 Tables staged;
 
 void CopyIn(Tables& to) {
-  to.mainCount = MainCharaCount;
-  std::memcpy(to.mains, MainCharas, sizeof MainCharas);
-  to.alarmCount = AlarmCharaCount;
-  std::memcpy(to.alarms, AlarmCharas, sizeof AlarmCharas);
-  to.walkCount = WalkCharaCount;
-  std::memcpy(to.walks, WalkCharas, sizeof WalkCharas);
-  std::memcpy(to.walkFlags, WalkFlags, sizeof WalkFlags);
-  to.designCount = ClockDesignCount;
-  std::memcpy(to.designs, ClockDesigns, sizeof ClockDesigns);
+  to.mainCount = CharaTables.MainCharaCount;
+  std::memcpy(to.mains, CharaTables.MainCharas, sizeof CharaTables.MainCharas);
+  to.alarmCount = CharaTables.AlarmCharaCount;
+  std::memcpy(to.alarms, CharaTables.AlarmCharas, sizeof CharaTables.AlarmCharas);
+  to.walkCount = CharaTables.WalkCharaCount;
+  std::memcpy(to.walks, CharaTables.WalkCharas, sizeof CharaTables.WalkCharas);
+  std::memcpy(to.walkFlags, CharaTables.WalkFlags, sizeof CharaTables.WalkFlags);
+  to.designCount = CharaTables.ClockDesignCount;
+  std::memcpy(to.designs, CharaTables.ClockDesigns, sizeof CharaTables.ClockDesigns);
 }
 
 void CopyOut(const Tables& from) {
-  MainCharaCount = from.mainCount;
-  std::memcpy(MainCharas, from.mains, sizeof MainCharas);
-  AlarmCharaCount = from.alarmCount;
-  std::memcpy(AlarmCharas, from.alarms, sizeof AlarmCharas);
-  WalkCharaCount = from.walkCount;
-  std::memcpy(WalkCharas, from.walks, sizeof WalkCharas);
-  std::memcpy(WalkFlags, from.walkFlags, sizeof WalkFlags);
-  ClockDesignCount = from.designCount;
-  std::memcpy(ClockDesigns, from.designs, sizeof ClockDesigns);
+  CharaTables.MainCharaCount = from.mainCount;
+  std::memcpy(CharaTables.MainCharas, from.mains, sizeof CharaTables.MainCharas);
+  CharaTables.AlarmCharaCount = from.alarmCount;
+  std::memcpy(CharaTables.AlarmCharas, from.alarms, sizeof CharaTables.AlarmCharas);
+  CharaTables.WalkCharaCount = from.walkCount;
+  std::memcpy(CharaTables.WalkCharas, from.walks, sizeof CharaTables.WalkCharas);
+  std::memcpy(CharaTables.WalkFlags, from.walkFlags, sizeof CharaTables.WalkFlags);
+  CharaTables.ClockDesignCount = from.designCount;
+  std::memcpy(CharaTables.ClockDesigns, from.designs, sizeof CharaTables.ClockDesigns);
 }
 
 struct ReadTransfer {
@@ -155,8 +155,8 @@ bool Fields(Transfer& t, Tables& f) {
 
 // Field 14, an interval at a time: those that are there are taken.
 bool ReadBlinkSpeeds(DataFile& data) {
-  for (int i = 0; i < MainCharaCount; ++i) {
-    if (!DataReadBE32(data, MainCharas[i].blinkSpeedSel)) return false;
+  for (int i = 0; i < CharaTables.MainCharaCount; ++i) {
+    if (!DataReadBE32(data, CharaTables.MainCharas[i].blinkSpeedSel)) return false;
   }
   return true;
 }
@@ -165,19 +165,19 @@ bool ReadBlinkSpeeds(DataFile& data) {
 void SetFixedValues() {
   constexpr std::int32_t kAlarms[] = {6, 8, 9};
   constexpr std::int32_t kAlarmSelections[kAlarmRowCount] = {1, 1, 0};
-  AlarmCharaCount = 3;
-  std::memcpy(AlarmCharas, kAlarms, sizeof kAlarms);
-  std::memcpy(AlarmCharaSel, kAlarmSelections, sizeof kAlarmSelections);
-  MainCharas[3].secondNumber = 4;
+  CharaTables.AlarmCharaCount = 3;
+  std::memcpy(CharaTables.AlarmCharas, kAlarms, sizeof kAlarms);
+  std::memcpy(Character.AlarmCharaSel, kAlarmSelections, sizeof kAlarmSelections);
+  CharaTables.MainCharas[3].secondNumber = 4;
   for (int i = 2; i <= 3; ++i) {
-    unsigned char* set = MainCharas[i].charaSet;
+    unsigned char* set = CharaTables.MainCharas[i].charaSet;
     SetWalkStep(set, 0, -28, -24);
     SetWalkPeriod(set, 0, 4);
     SetWalkCount(set, 0, 24);
   }
-  for (int row = 0; row <= 3; ++row) WalkFlags[row] = 0;
-  TextCopy(WalkCharas[1].sound, kWalkSoundSize, "foot1.wav");
-  TextCopy(WalkCharas[2].sound, kWalkSoundSize, "foot2.wav");
+  for (int row = 0; row <= 3; ++row) CharaTables.WalkFlags[row] = 0;
+  TextCopy(CharaTables.WalkCharas[1].sound, kWalkSoundSize, "foot1.wav");
+  TextCopy(CharaTables.WalkCharas[2].sound, kWalkSoundSize, "foot2.wav");
 }
 
 }  // namespace
@@ -204,7 +204,7 @@ int CharaFileRead() {
   const bool whole = ReadBlinkSpeeds(t.data);
   DataClose(t.data);
   if (whole) {
-    for (int i = 0; i < ClockDesignCount; ++i) ClockDesignTakeListValues(i);
+    for (int i = 0; i < CharaTables.ClockDesignCount; ++i) ClockDesignTakeListValues(i);
   }
   return 0;
 }
@@ -214,11 +214,12 @@ int CharaFileWrite() {
   CopyIn(staged);
   char path[kCharaFilePathSize];
   CharaFilePath(path);
-  FileStatus = 0;
+  FileResult.FileStatus = 0;
   WriteTransfer t;
   if (!DataReplace(t.data, path)) return -1;
   bool good = t.Block(kMagic, kMagicSize) && Fields(t, staged);
-  for (int i = 0; good && i < MainCharaCount; ++i) good = t.Number(MainCharas[i].blinkSpeedSel);
+  for (int i = 0; good && i < CharaTables.MainCharaCount; ++i)
+    good = t.Number(CharaTables.MainCharas[i].blinkSpeedSel);
   if (!good) return DataFailShort(t.data);
   DataClose(t.data);
   return 0;

@@ -32,13 +32,6 @@ struct MainChara {
   unsigned char charaSet[kCharaSetSize];
 };
 
-extern std::int32_t MainCharaCount;
-extern MainChara MainCharas[kMainCharaMax];
-
-// Characters of the notices, chosen by AlarmCharaSel.
-extern std::int32_t AlarmCharaCount;
-extern std::int32_t AlarmCharas[kAlarmCharaMax];
-
 // Characters that walk over the screen, with the sound file in the folder
 // "\サウンド" that goes with the walk.
 struct WalkChara {
@@ -46,11 +39,6 @@ struct WalkChara {
   char sound[kWalkSoundSize];
 };
 
-extern std::int32_t WalkCharaCount;
-extern WalkChara WalkCharas[kWalkCharaMax];
-
-// Flags of each walking row, bits kWalk*. The file always holds all of them.
-extern unsigned char WalkFlags[kWalkCharaMax];
 inline constexpr unsigned kWalkTrail = 1;  // each step leaves a copy of the window
 inline constexpr unsigned kWalkWipe = 2;   // the picture is revealed from the right
 inline constexpr unsigned kWalkShake = 4;  // each step jumps up or down by up to 49 pixels
@@ -62,5 +50,17 @@ struct ClockDesignRow {
   unsigned char record[kClockDesignSize];
 };
 
-extern std::int32_t ClockDesignCount;
-extern ClockDesignRow ClockDesigns[kClockDesignMax];
+struct CharaTablesState {
+  std::int32_t MainCharaCount = 0;
+  MainChara MainCharas[kMainCharaMax] = {};
+  // Characters of the notices, chosen by AlarmCharaSel.
+  std::int32_t AlarmCharaCount = 0;
+  std::int32_t AlarmCharas[kAlarmCharaMax] = {};
+  std::int32_t WalkCharaCount = 0;
+  WalkChara WalkCharas[kWalkCharaMax] = {};
+  // Flags of each walking row, bits kWalk*. The file always holds all of them.
+  unsigned char WalkFlags[kWalkCharaMax] = {};
+  std::int32_t ClockDesignCount = 0;
+  ClockDesignRow ClockDesigns[kClockDesignMax] = {};
+};
+extern CharaTablesState CharaTables;

@@ -3,17 +3,19 @@
 #include "character/notices.h"
 #include "character/walk.h"
 #include "character/walk_windows.h"
+#include "mail_music/mail/mail.h"
 #include "platform/canvas.h"
 #include "platform/dialog.h"
 #include "platform/window.h"
 #include "resources/ids.h"
-#include "shell/dib.h"
-#include "shell/shell.h"
+#include "services/dib.h"
+#include "services/program.h"
+#include "shell/panel.h"
 
 namespace {
 
 int EndFrame(int slot) {
-  return WalkFrameOf(WalkSlots[slot].endFrames[0]);
+  return WalkFrameOf(Walk.WalkSlots[slot].endFrames[0]);
 }
 
 void Stand(WindowHandle window, int slot) {
@@ -22,7 +24,7 @@ void Stand(WindowHandle window, int slot) {
   const int width = DibWidth(picture);
   const int height = DibHeight(picture);
   WindowSetRegion(window, WalkRegion(frame), true);
-  WindowMove(window, WalkLastX, WalkLastY, width != 0 ? width : kWalkWindowWidth,
+  WindowMove(window, Walk.WalkLastX, Walk.WalkLastY, width != 0 ? width : kWalkWindowWidth,
              height != 0 ? height : kWalkWindowHeight, false);
 }
 
@@ -36,18 +38,19 @@ void Paint(WindowHandle window, int slot) {
 }  // namespace
 
 void EndWindowsRun() {
-  SendClose(WalkSlots[WalkSlotNow].endWindow);
+  SendClose(Walk.WalkSlots[Walk.WalkSlotNow].endWindow);
   // Without its picture the end has no window.
-  if (WalkPicture(WalkSlotNow, EndFrame(WalkSlotNow))) DialogOpen(IDD_FlyingBat1, hMainWnd, EndWindowProc);
-  if (MailPhase != kMailWalking && FuncNo != kFuncMail) {
-    DialogRun(IDD_FlyingBat1, hMainWnd, BalloonProc);
-  } else if (!hMailNoticeWnd) {
+  if (WalkPicture(Walk.WalkSlotNow, EndFrame(Walk.WalkSlotNow)))
+    DialogOpen(IDD_FlyingBat1, Program.hMainWnd, EndWindowProc);
+  if (Mail.MailPhase != kMailWalking && Panel.FuncNo != kFuncMail) {
+    DialogRun(IDD_FlyingBat1, Program.hMainWnd, BalloonProc);
+  } else if (!Mail.hMailNoticeWnd) {
     MailNoticeOpen();
   }
 }
 
 bool EndWindowProc(const Event& event) {
-  if (event.kind == EventKind::Init) WalkSlots[WalkSlotNow].endWindow = event.window;
+  if (event.kind == EventKind::Init) Walk.WalkSlots[Walk.WalkSlotNow].endWindow = event.window;
   const int slot = WalkSlotOf(&WalkSlot::endWindow, event.window);
   switch (event.kind) {
     case EventKind::Init:
@@ -60,7 +63,7 @@ bool EndWindowProc(const Event& event) {
       WindowDestroy(event.window);
       return true;
     case EventKind::Destroy:
-      if (WalkSlots[slot].endWindow == event.window) WalkSlots[slot].endWindow = nullptr;
+      if (Walk.WalkSlots[slot].endWindow == event.window) Walk.WalkSlots[slot].endWindow = nullptr;
       return true;
     default:
       return false;

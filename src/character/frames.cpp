@@ -1,10 +1,10 @@
 #include "character/frames.h"
 
 #include "platform/file.h"
-#include "shell/shell.h"
-#include "shell/text.h"
+#include "services/program.h"
+#include "services/text.h"
 
-ImageHandle FrameTable[kFrameRowCount][kFrameMax];
+FramesState Frames;
 
 namespace {
 
@@ -32,7 +32,7 @@ FrameFiles FrameFilesFind(int number) {
   if (number < 0) return files;
   char head[24];
   const int headLength = TextFormat(head, sizeof head, "Chara%d_", number + 1);
-  TextFormat(pathBuffer, sizeof pathBuffer, "%s\\キャラクタ\\%s*.bmp", RootFolder, head);
+  TextFormat(pathBuffer, sizeof pathBuffer, "%s\\キャラクタ\\%s*.bmp", Program.RootFolder, head);
   SearchEntry entry;
   const SearchHandle search = SearchFirst(pathBuffer, &entry);
   for (bool found = search != kNoSearch; found; found = SearchNext(search, &entry)) {
@@ -48,39 +48,39 @@ FrameFiles FrameFilesFind(int number) {
 }
 
 ImageHandle FramePicture(int row, int frame) {
-  return IsRow(row) && frame >= 0 && frame < kFrameMax ? FrameTable[row][frame] : nullptr;
+  return IsRow(row) && frame >= 0 && frame < kFrameMax ? Frames.FrameTable[row][frame] : nullptr;
 }
 
 void FramesLoad(int row, int number) {
   if (!IsRow(row)) return;
   const FrameFiles files = FrameFilesFind(number);
   for (int frame = 0; frame < kFrameMax; ++frame) {
-    DibFree(FrameTable[row][frame]);
-    FrameTable[row][frame] = files.picture[frame] ? DibLoad(CharaBmpPath(number, frame)) : nullptr;
+    DibFree(Frames.FrameTable[row][frame]);
+    Frames.FrameTable[row][frame] = files.picture[frame] ? DibLoad(CharaBmpPath(number, frame)) : nullptr;
   }
 }
 
 void FramesFree(int row) {
   if (!IsRow(row)) return;
-  for (ImageHandle& picture : FrameTable[row]) {
+  for (ImageHandle& picture : Frames.FrameTable[row]) {
     DibFree(picture);
     picture = nullptr;
   }
 }
 
 const char* CharaDwcPath(int number) {
-  TextFormat(pathBuffer, sizeof pathBuffer, "%s\\キャラクタ\\Chara%d.dwc", RootFolder, number + 1);
+  TextFormat(pathBuffer, sizeof pathBuffer, "%s\\キャラクタ\\Chara%d.dwc", Program.RootFolder, number + 1);
   return pathBuffer;
 }
 
 const char* CharaBmpPath(int number, int frame) {
-  TextFormat(pathBuffer, sizeof pathBuffer, "%s\\キャラクタ\\Chara%d_%d.bmp", RootFolder, number + 1,
+  TextFormat(pathBuffer, sizeof pathBuffer, "%s\\キャラクタ\\Chara%d_%d.bmp", Program.RootFolder, number + 1,
              frame + 1);
   return pathBuffer;
 }
 
 const char* CharaMaskPath(int number, int frame) {
-  TextFormat(pathBuffer, sizeof pathBuffer, "%s\\キャラクタ\\Chara%d_%dx.bmp", RootFolder, number + 1,
+  TextFormat(pathBuffer, sizeof pathBuffer, "%s\\キャラクタ\\Chara%d_%dx.bmp", Program.RootFolder, number + 1,
              frame + 1);
   return pathBuffer;
 }

@@ -3,13 +3,16 @@
 #pragma once
 
 #include "character/outline.h"
-#include "shell/dib.h"
+#include "services/dib.h"
 
 // Row 0 holds the stage's character, row 1 + slot the character of a walking slot.
 inline constexpr int kFrameRowCount = 51;
 inline constexpr int kStageRow = 0;
 
-extern ImageHandle FrameTable[kFrameRowCount][kFrameMax];
+struct FramesState {
+  ImageHandle FrameTable[kFrameRowCount][kFrameMax] = {};
+};
+extern FramesState Frames;
 
 // The picture of a frame; null for none and for a row or frame beyond the table.
 ImageHandle FramePicture(int row, int frame);

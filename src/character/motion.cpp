@@ -4,24 +4,13 @@
 
 #include "character/character.h"
 #include "character/frames.h"
+#include "character/selection_tables.h"
 #include "character/stage.h"
-#include "shell/random.h"
-#include "shell/selection_tables.h"
-#include "shell/shell.h"
+#include "services/dialog_family.h"
+#include "services/random.h"
+#include "shell/panel.h"
 
-std::int32_t CharaMotion;
-std::int32_t CharaStepCount;
-std::int32_t BlinkCount;
-std::int32_t BoredSec;
-std::int32_t BoredMin;
-std::int32_t BoredHour;
-std::int32_t BoredPattern;
-std::int32_t BoredLen1;
-std::int32_t BoredLen2;
-std::int32_t BoredLeft;
-std::int32_t BoredHold;
-std::int32_t BoredRepeat;
-bool BlinkDone;
+MotionState Motion;
 
 namespace {
 
@@ -46,122 +35,122 @@ int CountFrames(const std::int32_t (&frames)[kBoredFrameCount]) {
 
 // Frame 0 is the idle frame and no blink; a frame with no picture is none either.
 bool BlinkIsUsable() {
-  return BlinkFrame != 0 && FramePicture(kStageRow, BlinkFrame) != nullptr;
+  return Character.BlinkFrame != 0 && FramePicture(kStageRow, Character.BlinkFrame) != nullptr;
 }
 
 bool PanelIsClosed() {
-  return hDiskMenu == nullptr;
+  return Panel.hDiskMenu == nullptr;
 }
 
 void GoIdle() {
   StageShowFrame(0, kOutlineIdle);
-  CharaMotion = kMotionIdle;
+  Motion.CharaMotion = kMotionIdle;
 }
 
 std::int32_t PatternLength() {
-  return BoredPattern == 0 ? BoredLen1 : BoredLen2;
+  return Motion.BoredPattern == 0 ? Motion.BoredLen1 : Motion.BoredLen2;
 }
 
 // The first frame of a pass is waited for like the others.
 void BeginPass() {
-  BoredLeft = PatternLength();
-  BoredHold = BoredSpeedValue(BoredSpeedSel);
+  Motion.BoredLeft = PatternLength();
+  Motion.BoredHold = BoredSpeedValue(Character.BoredSpeedSel);
 }
 
 void ChoosePattern() {
-  if (BoredLen1 > 0 && BoredLen2 > 0) {
-    BoredPattern = RandomBelow(2);
+  if (Motion.BoredLen1 > 0 && Motion.BoredLen2 > 0) {
+    Motion.BoredPattern = RandomBelow(2);
   } else {
-    BoredPattern = BoredLen1 > 0 ? 0 : 1;
+    Motion.BoredPattern = Motion.BoredLen1 > 0 ? 0 : 1;
   }
-  BoredRepeat = BoredRepeatValue(BoredRepeatSel);
+  Motion.BoredRepeat = BoredRepeatValue(Character.BoredRepeatSel);
   BeginPass();
 }
 
 void EnterBlink() {
-  BlinkCount = BlinkSpeedValue(BlinkSpeedSel);
-  BoredRepeat = 0;
-  BoredHold = 0;
-  BoredLeft = 2;
-  BlinkDone = false;
-  CharaMotion = kMotionBlink;
+  Motion.BlinkCount = BlinkSpeedValue(Character.BlinkSpeedSel);
+  Motion.BoredRepeat = 0;
+  Motion.BoredHold = 0;
+  Motion.BoredLeft = 2;
+  Motion.BlinkDone = false;
+  Motion.CharaMotion = kMotionBlink;
 }
 
 void StepIdle() {
   if (BlinkIsUsable()) {
-    if (BlinkCount == 0) {
+    if (Motion.BlinkCount == 0) {
       EnterBlink();
       return;
     }
-    --BlinkCount;
+    --Motion.BlinkCount;
   }
-  if (BoredLen1 == 0 && BoredLen2 == 0) return;
-  if (BoredSec != 0) {
-    --BoredSec;
-  } else if (BoredMin != 0) {
-    --BoredMin;
-    BoredSec = kStepsOfCount;
-  } else if (BoredHour != 0) {
-    --BoredHour;
-    BoredMin = kStepsOfCount;
-    BoredSec = kStepsOfCount;
+  if (Motion.BoredLen1 == 0 && Motion.BoredLen2 == 0) return;
+  if (Motion.BoredSec != 0) {
+    --Motion.BoredSec;
+  } else if (Motion.BoredMin != 0) {
+    --Motion.BoredMin;
+    Motion.BoredSec = kStepsOfCount;
+  } else if (Motion.BoredHour != 0) {
+    --Motion.BoredHour;
+    Motion.BoredMin = kStepsOfCount;
+    Motion.BoredSec = kStepsOfCount;
   } else {
     ChoosePattern();
     BoredTimerReset();
-    CharaMotion = kMotionBored;
+    Motion.CharaMotion = kMotionBored;
   }
 }
 
 void StepBlink() {
-  if (BlinkDone) {
+  if (Motion.BlinkDone) {
     GoIdle();
     return;
   }
-  BlinkDone = true;
-  StageShowFrame(BlinkFrame, kOutlineBlink);
+  Motion.BlinkDone = true;
+  StageShowFrame(Character.BlinkFrame, kOutlineBlink);
 }
 
 Step StepBored() {
-  const bool first = BoredPattern == 0;
-  if (BoredLeft == 0 && BoredRepeat != 0) {
+  const bool first = Motion.BoredPattern == 0;
+  if (Motion.BoredLeft == 0 && Motion.BoredRepeat != 0) {
     BeginPass();
     // kept: an endless repeat is a count below 0 that is counted down like any other.
-    BoredRepeat = static_cast<std::int32_t>(static_cast<std::uint32_t>(BoredRepeat) - 1U);
+    Motion.BoredRepeat = static_cast<std::int32_t>(static_cast<std::uint32_t>(Motion.BoredRepeat) - 1U);
     return Step::Nothing;
   }
-  const std::int32_t place = PatternLength() - BoredLeft;
+  const std::int32_t place = PatternLength() - Motion.BoredLeft;
   // bounded: the pattern in play may have been cut short by another character.
-  if (BoredLeft <= 0 || place < 0 || place >= kBoredLenMax) {
+  if (Motion.BoredLeft <= 0 || place < 0 || place >= kBoredLenMax) {
     GoIdle();
     return Step::Redraw;
   }
-  --BoredLeft;
-  StageShowFrame(first ? Bored1Frames[place] : Bored2Frames[place],
+  --Motion.BoredLeft;
+  StageShowFrame(first ? Character.Bored1Frames[place] : Character.Bored2Frames[place],
                  (first ? kOutlineBored1 : kOutlineBored2) + place);
-  BoredHold = BoredSpeedValue(BoredSpeedSel);
+  Motion.BoredHold = BoredSpeedValue(Character.BoredSpeedSel);
   return Step::Redraw;
 }
 
 // Steps from now that only count down, to the blink and to boredom.
 std::int32_t QuietSteps() {
-  if (CharaMotion != kMotionIdle) return 0;
+  if (Motion.CharaMotion != kMotionIdle) return 0;
   constexpr std::int32_t kMany = 1000;
   std::int32_t steps = kMany;
-  if (BlinkIsUsable()) steps = std::min(steps, BlinkCount);
-  if (BoredLen1 != 0 || BoredLen2 != 0) steps = std::min(steps, BoredSec);
+  if (BlinkIsUsable()) steps = std::min(steps, Motion.BlinkCount);
+  if (Motion.BoredLen1 != 0 || Motion.BoredLen2 != 0) steps = std::min(steps, Motion.BoredSec);
   return std::max(steps, 0);
 }
 
 Step StepMotion() {
-  if (CharaMotion == kMotionIdle) {
+  if (Motion.CharaMotion == kMotionIdle) {
     StepIdle();
     return Step::Nothing;
   }
-  if (BoredHold != 0) {
-    --BoredHold;
+  if (Motion.BoredHold != 0) {
+    --Motion.BoredHold;
     return Step::GoOn;
   }
-  switch (CharaMotion) {
+  switch (Motion.CharaMotion) {
     case kMotionBlink:
       StepBlink();
       return Step::Redraw;
@@ -175,41 +164,41 @@ Step StepMotion() {
 }  // namespace
 
 int CharaMotionTick() {
-  if (DlgIdMenu == kMainCharaDialog) return 0;
-  if (++CharaStepCount > kTicksBetweenSteps) {
-    CharaStepCount = 0;
+  if (Dialogs.DlgIdMenu == kMainCharaDialog) return 0;
+  if (++Motion.CharaStepCount > kTicksBetweenSteps) {
+    Motion.CharaStepCount = 0;
     const Step step = StepMotion();
     if (step != Step::GoOn) return step == Step::Redraw ? 1 : 0;
   }
-  if (CharaMotion != kMotionMenu || !PanelIsClosed()) return 0;
+  if (Motion.CharaMotion != kMotionMenu || !PanelIsClosed()) return 0;
   CharaMenuOff();
   return 1;
 }
 
 int CharaMotionDue() {
   // The end of the menu state is looked for in every tick.
-  if (CharaMotion == kMotionMenu) return 1;
+  if (Motion.CharaMotion == kMotionMenu) return 1;
   constexpr std::int32_t kTicksOfStep = kTicksBetweenSteps + 1;
-  return std::max(kTicksOfStep - CharaStepCount, 1) + QuietSteps() * kTicksOfStep;
+  return std::max(kTicksOfStep - Motion.CharaStepCount, 1) + QuietSteps() * kTicksOfStep;
 }
 
 void CharaMenuOn() {
-  CharaMotion = kMotionMenu;
-  BoredLeft = -1;
-  StageShowFrame(MenuFrame, kOutlineMenu);
+  Motion.CharaMotion = kMotionMenu;
+  Motion.BoredLeft = -1;
+  StageShowFrame(Character.MenuFrame, kOutlineMenu);
 }
 
 void CharaMenuOff() {
-  BoredLeft = 0;
+  Motion.BoredLeft = 0;
   GoIdle();
 }
 
 void BoredTimerReset() {
-  BoredDelayValue(BoredDelaySel, &BoredHour, &BoredMin);
-  BoredSec = kStepsOfCount;
+  BoredDelayValue(Character.BoredDelaySel, &Motion.BoredHour, &Motion.BoredMin);
+  Motion.BoredSec = kStepsOfCount;
 }
 
 void BoredFramesCount() {
-  BoredLen1 = CountFrames(Bored1Frames);
-  BoredLen2 = CountFrames(Bored2Frames);
+  Motion.BoredLen1 = CountFrames(Character.Bored1Frames);
+  Motion.BoredLen2 = CountFrames(Character.Bored2Frames);
 }

@@ -14,19 +14,22 @@ inline constexpr std::int32_t kMotionMenu = 4;
 // Frames of a bored pattern that are played; a fifth one is kept and never used.
 inline constexpr int kBoredLenMax = 4;
 
-extern std::int32_t CharaMotion;
-extern std::int32_t CharaStepCount;  // ticks since the last step
-extern std::int32_t BlinkCount;      // steps until the next blink
-extern std::int32_t BoredSec;        // the idle timer, in steps: three nested counts
-extern std::int32_t BoredMin;
-extern std::int32_t BoredHour;
-extern std::int32_t BoredPattern;  // 0 or 1, the pattern in play
-extern std::int32_t BoredLen1;     // usable frames of each pattern
-extern std::int32_t BoredLen2;
-extern std::int32_t BoredLeft;    // frames left in the pass; -1 in the menu state
-extern std::int32_t BoredHold;    // steps to wait before the next frame
-extern std::int32_t BoredRepeat;  // passes left; -1 never ends
-extern bool BlinkDone;            // the blink frame has been shown
+struct MotionState {
+  std::int32_t CharaMotion = 0;
+  std::int32_t CharaStepCount = 0;  // ticks since the last step
+  std::int32_t BlinkCount = 0;      // steps until the next blink
+  std::int32_t BoredSec = 0;        // the idle timer, in steps: three nested counts
+  std::int32_t BoredMin = 0;
+  std::int32_t BoredHour = 0;
+  std::int32_t BoredPattern = 0;  // 0 or 1, the pattern in play
+  std::int32_t BoredLen1 = 0;     // usable frames of each pattern
+  std::int32_t BoredLen2 = 0;
+  std::int32_t BoredLeft = 0;    // frames left in the pass; -1 in the menu state
+  std::int32_t BoredHold = 0;    // steps to wait before the next frame
+  std::int32_t BoredRepeat = 0;  // passes left; -1 never ends
+  bool BlinkDone = false;        // the blink frame has been shown
+};
+extern MotionState Motion;
 
 // One tick. Returns 1 when the stage should be redrawn (command 2293), else 0.
 int CharaMotionTick();

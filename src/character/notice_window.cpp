@@ -1,10 +1,12 @@
 #include "character/notice_window.h"
 
 #include "platform/window.h"
-#include "shell/shell.h"
+
+NoticePlaceState NoticePlace;
 
 void NoticeShow(WindowHandle window) {
-  WindowMove(window, NoticeX, NoticeY, NoticeW, NoticeH, false);
+  WindowMove(window, NoticePlace.NoticeX, NoticePlace.NoticeY, NoticePlace.NoticeW, NoticePlace.NoticeH,
+             false);
   WindowSetTopmost(window);
 }
 

@@ -1,8 +1,18 @@
 // What the notices have in common.
 #pragma once
 
+#include <cstdint>
+
 #include "platform/event.h"
 #include "platform/types.h"
+
+struct NoticePlaceState {
+  std::int32_t NoticeX = 0;
+  std::int32_t NoticeY = 0;
+  std::int32_t NoticeW = 0;
+  std::int32_t NoticeH = 0;
+};
+extern NoticePlaceState NoticePlace;
 
 // Moves the window to the notice rectangle, NoticeX and so on, and puts it above all
 // others.

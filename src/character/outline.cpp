@@ -4,8 +4,8 @@
 
 #include "character/frames.h"
 #include "platform/file.h"
-#include "shell/big_endian.h"
-#include "shell/shell.h"
+#include "services/big_endian.h"
+#include "services/screen_figures.h"
 
 // The file, big-endian:
 //   offset  size  field
@@ -74,7 +74,7 @@ int OutlineReadAll(int number, Outline (&outlines)[kFrameMax]) {
 
 void OutlineFlipForStage(Outline* outline, int pictureHeight) {
   for (int i = 0; i < outline->count; ++i) {
-    outline->points[i].y = MenuBarHeight + pictureHeight - outline->points[i].y - 1;
+    outline->points[i].y = Screen.MenuBarHeight + pictureHeight - outline->points[i].y - 1;
   }
 }
 

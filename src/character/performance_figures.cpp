@@ -16,8 +16,10 @@ Loaded figures[kFrameMax];
 
 // The selected character's number; 0 for none.
 int CharacterNumber() {
-  const std::int32_t place = AlarmCharaSel[kClockAlarmRow] - 1;
-  return place >= 0 && place < AlarmCharaCount && place < kAlarmCharaMax ? AlarmCharas[place] : 0;
+  const std::int32_t place = Character.AlarmCharaSel[kClockAlarmRow] - 1;
+  return place >= 0 && place < CharaTables.AlarmCharaCount && place < kAlarmCharaMax
+             ? CharaTables.AlarmCharas[place]
+             : 0;
 }
 
 PerformanceImages Load(int number, int frame) {

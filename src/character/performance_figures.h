@@ -2,7 +2,7 @@
 // notice.
 #pragma once
 
-#include "shell/dib.h"
+#include "services/dib.h"
 
 struct PerformanceImages {
   ImageHandle picture;

@@ -22,15 +22,18 @@ inline constexpr std::int32_t kRedrawOutline = 1;  // another outline: cut the w
 inline constexpr std::int32_t kRedrawSame = 2;     // the same outline: only draw
 inline constexpr std::int32_t kRedrawReload = 3;   // load the character anew
 
-extern std::int32_t CharaFrame;       // the frame on the stage
-extern std::int32_t StageRedraw;      // kRedraw*
-extern std::int32_t StageFrameCount;  // of the outline file
-extern std::int32_t StageWidth;
-extern std::int32_t StageHeight;
-extern std::int32_t StageAppliedWidth;  // the size that the window was last given
-extern std::int32_t StageAppliedHeight;
-extern Outline StageOutlines[kOutlineSlotCount];  // as the window needs them
-extern Outline CurrentOutline;                    // copy of the slot in force
+struct StageState {
+  std::int32_t CharaFrame = 0;       // the frame on the stage
+  std::int32_t StageRedraw = 0;      // kRedraw*
+  std::int32_t StageFrameCount = 0;  // of the outline file
+  std::int32_t StageWidth = 0;
+  std::int32_t StageHeight = 0;
+  std::int32_t StageAppliedWidth = 0;  // the size that the window was last given
+  std::int32_t StageAppliedHeight = 0;
+  Outline StageOutlines[kOutlineSlotCount] = {};  // as the window needs them
+  Outline CurrentOutline = {};                    // copy of the slot in force
+};
+extern StageState Stage;
 
 // Loads the pictures and outlines of the current main character and works out the
 // stage's size. Returns 1 when no character is chosen, else 0. What is missing is

@@ -7,20 +7,16 @@
 #include "character/character_tables.h"
 #include "character/frames.h"
 #include "character/walk_windows.h"
-#include "filetools/open_state.h"
-#include "mail_music/mail_setting.h"
+#include "filetools/open/open_state.h"
+#include "mail_music/mail/mail.h"
+#include "mail_music/mail/mail_setting.h"
 #include "platform/canvas.h"
 #include "platform/window.h"
-#include "shell/shell.h"
-#include "shell/sound_file.h"
+#include "services/program.h"
+#include "services/screen_figures.h"
+#include "services/sound_file.h"
 
-WalkSlot WalkSlots[kWalkSlotMax];
-bool WalkActive;
-bool WalkEndActive;
-std::int32_t WalkSlotNow;
-std::int32_t WalkLastX;
-std::int32_t WalkLastY;
-Outline WalkOutlines[kFrameMax];
+WalkState Walk;
 
 namespace {
 
@@ -42,43 +38,44 @@ int FramesInUse(const std::uint8_t (&frames)[kWalkListMax]) {
 // The slot of a mail: the first one with the walking character that an opening
 // would send. -1 when there is none.
 int MailSlot() {
-  if (!IsSlot(CharaIndex)) return -1;
-  for (int slot = 0; slot <= CharaIndex; ++slot) {
-    if (WalkCharas[slot].number == WalkCharas[CharaIndex].number) return slot;
+  if (!IsSlot(Character.CharaIndex)) return -1;
+  for (int slot = 0; slot <= Character.CharaIndex; ++slot) {
+    if (CharaTables.WalkCharas[slot].number == CharaTables.WalkCharas[Character.CharaIndex].number)
+      return slot;
   }
   return -1;
 }
 
 // The walk of the current character. -1: it has no walking row.
 int SlotSetUp(WalkSlot& s) {
-  if (WalkRow(CharaSet) == 0) return -1;
+  if (WalkRow(Character.CharaSet) == 0) return -1;
   int x = 0;
   int y = 0;
-  WalkStartPlace(WalkStartPoint(CharaSet), &x, &y);
-  SetWalkStart(CharaSet, 0, x, y);
-  s.x = WalkStartX(CharaSet);
-  s.y = WalkStartY(CharaSet);
-  s.stepX = WalkStepX(CharaSet);
-  s.stepY = WalkStepY(CharaSet);
+  WalkStartPlace(WalkStartPoint(Character.CharaSet), &x, &y);
+  SetWalkStart(Character.CharaSet, 0, x, y);
+  s.x = WalkStartX(Character.CharaSet);
+  s.y = WalkStartY(Character.CharaSet);
+  s.stepX = WalkStepX(Character.CharaSet);
+  s.stepY = WalkStepY(Character.CharaSet);
   s.WalkWait = 0;
-  s.WalkLeft = WalkCount(CharaSet);
+  s.WalkLeft = WalkCount(Character.CharaSet);
   s.place = 0;
   for (int i = 0; i < kWalkListMax; ++i) {
-    s.frames[i] = WalkFrames(CharaSet, 0, i);
-    s.endFrames[i] = EndFrames(CharaSet, 0, i);
+    s.frames[i] = WalkFrames(Character.CharaSet, 0, i);
+    s.endFrames[i] = EndFrames(Character.CharaSet, 0, i);
   }
   s.frameCount = FramesInUse(s.frames);
   s.endFrameCount = FramesInUse(s.endFrames);
-  s.endWait = EndWait(CharaSet);
+  s.endWait = EndWait(Character.CharaSet);
   return 0;
 }
 
 int WalkStart(int slot, int flagsCleared) {
   const bool loaded = WalkCharaLoad(slot) == 0;
-  for (int i = 0; i < flagsCleared; ++i) WalkSlots[i].active = false;
-  WalkActive = loaded && SlotSetUp(WalkSlots[slot]) == 0;
-  if (!WalkActive) return -1;
-  WalkSlots[slot].active = true;
+  for (int i = 0; i < flagsCleared; ++i) Walk.WalkSlots[i].active = false;
+  Walk.WalkActive = loaded && SlotSetUp(Walk.WalkSlots[slot]) == 0;
+  if (!Walk.WalkActive) return -1;
+  Walk.WalkSlots[slot].active = true;
   return 0;
 }
 
@@ -91,36 +88,36 @@ std::int32_t StepAlong(std::int32_t place, std::int32_t step, int size, int scre
 }
 
 void WalkStepOn(int slot) {
-  WalkSlot& s = WalkSlots[slot];
+  WalkSlot& s = Walk.WalkSlots[slot];
   ImageHandle picture = WalkPicture(slot, WalkFrameOf(s.frames[0]));
-  s.x = StepAlong(s.x, s.stepX, DibWidth(picture), ScreenWidth);
-  s.y = StepAlong(s.y, s.stepY, DibHeight(picture), ScreenHeight);
+  s.x = StepAlong(s.x, s.stepX, DibWidth(picture), Screen.ScreenWidth);
+  s.y = StepAlong(s.y, s.stepY, DibHeight(picture), Screen.ScreenHeight);
 }
 
 void WalkShow(int slot) {
-  WalkSlotNow = slot;
-  if (!WalkSlots[slot].walkWindow) {
+  Walk.WalkSlotNow = slot;
+  if (!Walk.WalkSlots[slot].walkWindow) {
     TrailWindowsClose();
-    SendCommand(hMainWnd, kWalkWindowCommand);  // returns when the window has closed
+    SendCommand(Program.hMainWnd, kWalkWindowCommand);  // returns when the window has closed
   } else if ((WalkFlagsNow() & kWalkTrail) != 0) {
     TrailWindowOpen();
   } else {
-    SendCommand(WalkSlots[slot].walkWindow, kWalkMoveCommand);
+    SendCommand(Walk.WalkSlots[slot].walkWindow, kWalkMoveCommand);
   }
 }
 
 void WalkFinish(int slot) {
-  WalkSlot& s = WalkSlots[slot];
+  WalkSlot& s = Walk.WalkSlots[slot];
   SendClose(s.walkWindow);
   TrailWindowsClose();
   s.active = false;
   if (abortAll) return;
-  WalkActive = false;
-  WalkEndActive = true;
+  Walk.WalkActive = false;
+  Walk.WalkEndActive = true;
   s.ending = true;
   s.place = 0;
-  WalkSlotNow = slot;
-  SendCommand(hMainWnd, kEndWindowsCommand);  // returns when the end phase is over
+  Walk.WalkSlotNow = slot;
+  SendCommand(Program.hMainWnd, kEndWindowsCommand);  // returns when the end phase is over
 }
 
 }  // namespace
@@ -128,12 +125,12 @@ void WalkFinish(int slot) {
 int WalkCharaLoad(int slot) {
   if (slot < 0) return -9;
   // bounded: beyond the list there is no character.
-  if (!IsSlot(slot) || WalkCharas[slot].number == 0) return -10;
-  const int number = WalkCharas[slot].number - 1;
-  OutlineReadAll(number, WalkOutlines);
+  if (!IsSlot(slot) || CharaTables.WalkCharas[slot].number == 0) return -10;
+  const int number = CharaTables.WalkCharas[slot].number - 1;
+  OutlineReadAll(number, Walk.WalkOutlines);
   FramesLoad(slot + 1, number);
   for (int frame = 0; frame < kFrameMax; ++frame) {
-    OutlineFlipForWalker(&WalkOutlines[frame], DibHeight(WalkPicture(slot, frame)));
+    OutlineFlipForWalker(&Walk.WalkOutlines[frame], DibHeight(WalkPicture(slot, frame)));
   }
   return 0;
 }
@@ -141,7 +138,7 @@ int WalkCharaLoad(int slot) {
 // kept: the slot is the place of the main character in its own list.
 int WalkStartOpen() {
   if (OpnHistory.soundOn) SoundFilePlay(OpnHistory.soundName);
-  return OpnHistory.animeOn ? WalkStart(CharaIndex, kWalkSlotMax) : -1;
+  return OpnHistory.animeOn ? WalkStart(Character.CharaIndex, kWalkSlotMax) : -1;
 }
 
 // kept: only the first ten active flags are cleared, so a walk of a later slot goes
@@ -153,7 +150,7 @@ int WalkStartMail() {
 
 void WalkTick(int slot) {
   if (!IsSlot(slot)) return;
-  WalkSlot& s = WalkSlots[slot];
+  WalkSlot& s = Walk.WalkSlots[slot];
   if (s.WalkWait != 0 && --s.WalkWait != 0) return;
   // kept: a walk without frames stands still for good, and what waits for its end
   // waits on.
@@ -164,64 +161,64 @@ void WalkTick(int slot) {
     return;
   }
   --s.WalkLeft;
-  s.WalkWait = WalkPeriod(CharaSet);
+  s.WalkWait = WalkPeriod(Character.CharaSet);
   WalkStepOn(slot);
   WalkShow(slot);
 }
 
 void WalkEndTick(int slot) {
   if (!IsSlot(slot)) return;
-  WalkSlot& s = WalkSlots[slot];
+  WalkSlot& s = Walk.WalkSlots[slot];
   if (s.endWait != 0) --s.endWait;
   if (s.endWait != 0) return;
-  if (MailPhase == kMailWalking) OpeningState = 0;
+  if (Mail.MailPhase == kMailWalking) Walk.OpeningState = 0;
   SendClose(s.endWindow);
   SendClose(s.balloonWindow);
   s.ending = false;
-  WalkEndActive =
-      std::any_of(WalkSlots, WalkSlots + kWalkSlotMax, [](const WalkSlot& other) { return other.ending; });
-  const bool opens = OpeningState == kOpeningFile;
-  OpeningState = 0;
-  if (opens) SendCommand(hMainWnd, kCarryOutCommand);
+  Walk.WalkEndActive = std::any_of(Walk.WalkSlots, Walk.WalkSlots + kWalkSlotMax,
+                                   [](const WalkSlot& other) { return other.ending; });
+  const bool opens = Walk.OpeningState == kOpeningFile;
+  Walk.OpeningState = 0;
+  if (opens) SendCommand(Program.hMainWnd, kCarryOutCommand);
 }
 
 // The common flag counts for the whole round: a walk that ends in it leaves the
 // others their step.
 void WalkTickAll() {
-  if (!WalkActive) return;
+  if (!Walk.WalkActive) return;
   for (int slot = 0; slot < kWalkSlotMax; ++slot) {
-    if (WalkSlots[slot].active) WalkTick(slot);
+    if (Walk.WalkSlots[slot].active) WalkTick(slot);
   }
 }
 
 void WalkEndTickAll() {
-  if (!WalkEndActive) return;
+  if (!Walk.WalkEndActive) return;
   for (int slot = 0; slot < kWalkSlotMax; ++slot) {
-    if (WalkSlots[slot].ending) WalkEndTick(slot);
+    if (Walk.WalkSlots[slot].ending) WalkEndTick(slot);
   }
 }
 
 void WalkAbort() {
   abortAll = true;
   for (int slot = 0; slot < kWalkSlotMax; ++slot) {
-    if (!WalkSlots[slot].active) continue;
-    WalkSlots[slot].WalkLeft = 0;
-    WalkSlots[slot].WalkWait = 0;
+    if (!Walk.WalkSlots[slot].active) continue;
+    Walk.WalkSlots[slot].WalkLeft = 0;
+    Walk.WalkSlots[slot].WalkWait = 0;
     WalkTick(slot);
-    WalkSlots[slot].active = false;  // a walk without frames does not end by its tick
+    Walk.WalkSlots[slot].active = false;  // a walk without frames does not end by its tick
   }
-  WalkActive = false;
+  Walk.WalkActive = false;
   for (int slot = 0; slot < kWalkSlotMax; ++slot) {
-    if (!WalkSlots[slot].ending) continue;
-    WalkSlots[slot].endWait = 0;
+    if (!Walk.WalkSlots[slot].ending) continue;
+    Walk.WalkSlots[slot].endWait = 0;
     WalkEndTick(slot);
   }
   abortAll = false;
 }
 
 unsigned WalkFlagsNow() {
-  const int row = WalkRow(CharaSet);
-  return row >= 1 && row <= kWalkCharaMax ? WalkFlags[row - 1] : 0;  // bounded: rows end there
+  const int row = WalkRow(Character.CharaSet);
+  return row >= 1 && row <= kWalkCharaMax ? CharaTables.WalkFlags[row - 1] : 0;  // bounded: rows end there
 }
 
 int WalkFrameOf(std::uint8_t entry) {
@@ -234,12 +231,12 @@ ImageHandle WalkPicture(int slot, int frame) {
 
 RegionHandle WalkRegion(int frame) {
   if (frame < 0 || frame >= kFrameMax) return nullptr;  // bounded: a list may name any frame
-  return RegionPolygon(WalkOutlines[frame].points, WalkOutlines[frame].count);
+  return RegionPolygon(Walk.WalkOutlines[frame].points, Walk.WalkOutlines[frame].count);
 }
 
 void WalkForOpening() {
-  OpeningState = kOpeningFile;
+  Walk.OpeningState = kOpeningFile;
   if (WalkStartOpen() == 0) return;
-  OpeningState = 0;
-  SendCommand(hMainWnd, kCarryOutCommand);
+  Walk.OpeningState = 0;
+  SendCommand(Program.hMainWnd, kCarryOutCommand);
 }

@@ -11,7 +11,7 @@
 
 #include "character/outline.h"
 #include "platform/types.h"
-#include "shell/dib.h"
+#include "services/dib.h"
 
 inline constexpr int kWalkSlotMax = 50;
 inline constexpr int kWalkListMax = 5;  // frames of a walk, and of its end
@@ -37,15 +37,24 @@ struct WalkSlot {
   WindowHandle endWindow;
   WindowHandle balloonWindow;
 };
-extern WalkSlot WalkSlots[kWalkSlotMax];
 
-extern bool WalkActive;           // some slot walks
-extern bool WalkEndActive;        // some slot is in its end phase
-extern std::int32_t WalkSlotNow;  // the slot whose windows are being opened
-extern std::int32_t WalkLastX;    // where the walking window stood last
-extern std::int32_t WalkLastY;
-// The outlines of the walking character, as its windows need them.
-extern Outline WalkOutlines[kFrameMax];
+// OpeningState: a walk is on its way for a file, for a group, or to be looked at.
+inline constexpr std::int32_t kOpeningFile = 1;
+inline constexpr std::int32_t kOpeningGroup = 2;
+inline constexpr std::int32_t kOpeningCheck = 3;
+
+struct WalkState {
+  WalkSlot WalkSlots[kWalkSlotMax] = {};
+  bool WalkActive = false;       // some slot walks
+  bool WalkEndActive = false;    // some slot is in its end phase
+  std::int32_t WalkSlotNow = 0;  // the slot whose windows are being opened
+  std::int32_t WalkLastX = 0;    // where the walking window stood last
+  std::int32_t WalkLastY = 0;
+  // The outlines of the walking character, as its windows need them.
+  Outline WalkOutlines[kFrameMax] = {};
+  std::int32_t OpeningState = 0;  // 0: idle
+};
+extern WalkState Walk;
 
 // Loads the walking character of a slot: its outlines and pictures. Returns 0, -9
 // for a negative slot, -10 for a slot without a character.

@@ -11,9 +11,9 @@
 #include "platform/dialog.h"
 #include "platform/window.h"
 #include "resources/ids.h"
-#include "shell/dib.h"
-#include "shell/random.h"
-#include "shell/shell.h"
+#include "services/dib.h"
+#include "services/program.h"
+#include "services/random.h"
 
 namespace {
 
@@ -33,13 +33,13 @@ bool Flag(unsigned flag) {
 }
 
 int FrameNow(int slot) {
-  return WalkFrameOf(WalkSlots[slot].frames[WalkSlots[slot].place]);
+  return WalkFrameOf(Walk.WalkSlots[slot].frames[Walk.WalkSlots[slot].place]);
 }
 
 int WipeSliceOf(int slot) {
   ImageHandle picture = WalkPicture(slot, FrameNow(slot));
   if (!picture) return kSliceWithoutPicture;
-  const int slices = WalkSlots[slot].endWait;
+  const int slices = Walk.WalkSlots[slot].endWait;
   return DibWidth(picture) / (slices != 0 ? slices : kSlicesWithoutWait);
 }
 
@@ -51,13 +51,13 @@ void Place(WindowHandle window, int slot, bool moves) {
   ImageHandle picture = WalkPicture(slot, frame);
   const int width = picture ? DibWidth(picture) : kWalkWindowWidth;
   const int height = picture ? DibHeight(picture) : kWalkWindowHeight;
-  WalkLastX = WalkSlots[slot].x;
-  WalkLastY = WalkSlots[slot].y;
+  Walk.WalkLastX = Walk.WalkSlots[slot].x;
+  Walk.WalkLastY = Walk.WalkSlots[slot].y;
   if (moves && Flag(kWalkShake)) {
-    WalkLastY += RandomBelow(kShakeBound);
-    WalkLastY -= RandomBelow(kShakeBound);
+    Walk.WalkLastY += RandomBelow(kShakeBound);
+    Walk.WalkLastY -= RandomBelow(kShakeBound);
   }
-  WindowMove(window, WalkLastX, WalkLastY, width, height, moves);
+  WindowMove(window, Walk.WalkLastX, Walk.WalkLastY, width, height, moves);
   if (!moves) return;
   if (Flag(kWalkWipe)) ++wipeCount;
   if (!shaped) SendPaint(window);
@@ -103,20 +103,20 @@ bool Proc(const Event& event, int slot) {
 
 int WalkSlotOf(WindowHandle WalkSlot::*kind, WindowHandle window) {
   for (int slot = 0; slot < kWalkSlotMax; ++slot) {
-    if (WalkSlots[slot].*kind == window) return slot;
+    if (Walk.WalkSlots[slot].*kind == window) return slot;
   }
-  return WalkSlotNow;
+  return Walk.WalkSlotNow;
 }
 
 void WalkWindowRun() {
-  DialogRun(IDD_FlyingBat1, hMainWnd, WalkWindowProc);
+  DialogRun(IDD_FlyingBat1, Program.hMainWnd, WalkWindowProc);
 }
 
 bool WalkWindowProc(const Event& event) {
-  if (event.kind == EventKind::Init) WalkSlots[WalkSlotNow].walkWindow = event.window;
+  if (event.kind == EventKind::Init) Walk.WalkSlots[Walk.WalkSlotNow].walkWindow = event.window;
   const int slot = WalkSlotOf(&WalkSlot::walkWindow, event.window);
   if (event.kind == EventKind::Close || event.kind == EventKind::Destroy) {
-    if (WalkSlots[slot].walkWindow == event.window) WalkSlots[slot].walkWindow = nullptr;
+    if (Walk.WalkSlots[slot].walkWindow == event.window) Walk.WalkSlots[slot].walkWindow = nullptr;
     if (event.kind == EventKind::Close) DialogEnd(event.window, 0);
     return true;
   }
@@ -133,12 +133,12 @@ bool TrailWindowProc(const Event& event) {
     trailCount = static_cast<std::int32_t>(std::remove(trail, trail + trailCount, event.window) - trail);
     return true;
   }
-  return Proc(event, WalkSlotNow);
+  return Proc(event, Walk.WalkSlotNow);
 }
 
 void TrailWindowOpen() {
   if (trailCount >= kTrailMax) return;  // bounded: a walk has no more steps
-  const WindowHandle window = DialogOpen(IDD_FlyingBat1, hMainWnd, TrailWindowProc);
+  const WindowHandle window = DialogOpen(IDD_FlyingBat1, Program.hMainWnd, TrailWindowProc);
   if (!window) return;
   trail[trailCount++] = window;
   SendCommand(window, kWalkMoveCommand);

@@ -1,9 +1,9 @@
 #include "clock_calendar/clock_calendar_commands.h"
 
-#include "clock_calendar/calendar.h"
+#include "clock_calendar/calendar/calendar.h"
 #include "platform/window.h"
+#include "shell/panel.h"
 #include "shell/settings.h"
-#include "shell/shell.h"
 
 namespace {
 
@@ -14,8 +14,8 @@ bool IsPanelEntry(std::uint32_t number) {
 }
 
 void PanelEntryEnd() {
-  SendClose(hDiskMenu);
-  MenuPanelState = 0;
+  SendClose(Panel.hDiskMenu);
+  Panel.MenuPanelState = 0;
 }
 
 }  // namespace

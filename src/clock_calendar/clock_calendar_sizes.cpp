@@ -2,9 +2,9 @@
 
 #include "character/character_tables.h"
 #include "character/frames.h"
-#include "clock_calendar/calendar.h"
-#include "clock_calendar/clock.h"
-#include "shell/dib.h"
+#include "clock_calendar/calendar/calendar.h"
+#include "clock_calendar/clock/clock.h"
+#include "services/dib.h"
 
 namespace {
 
@@ -14,8 +14,8 @@ struct PictureSize {
 };
 
 PictureSize DesignSize(std::int32_t design) {
-  if (design < 0 || design >= ClockDesignCount || design >= kClockDesignMax) return {0, 0};
-  ImageHandle picture = DibLoad(CharaBmpPath(ClockDesigns[design].number - 1, 0));
+  if (design < 0 || design >= CharaTables.ClockDesignCount || design >= kClockDesignMax) return {0, 0};
+  ImageHandle picture = DibLoad(CharaBmpPath(CharaTables.ClockDesigns[design].number - 1, 0));
   const PictureSize size = {DibWidth(picture), DibHeight(picture)};
   DibFree(picture);
   return size;
@@ -24,15 +24,15 @@ PictureSize DesignSize(std::int32_t design) {
 // Pages are square; 0, 1 and 2 are the sizes of the settings.
 // kept: the first of them, which the list calls " 大", is the smallest.
 int PageWidth() {
-  if (CalenPageSize == 0) return 150;
-  return CalenPageSize == 2 ? 250 : 200;
+  if (Calendar.CalenPageSize == 0) return 150;
+  return Calendar.CalenPageSize == 2 ? 250 : 200;
 }
 constexpr int kBelowPage = 20;
 
 }  // namespace
 
 int ClockLayoutWidth() {
-  return DesignSize(ClockDesign).width;
+  return DesignSize(Clock.ClockDesign).width;
 }
 
 int ClockLayoutHeight() {
@@ -40,9 +40,9 @@ int ClockLayoutHeight() {
 }
 
 int CalenLayoutWidth() {
-  return CalenW > 0 ? CalenW : PageWidth();
+  return Calendar.CalenW > 0 ? Calendar.CalenW : PageWidth();
 }
 
 int CalenLayoutHeight() {
-  return CalenH > 0 ? CalenH : PageWidth() + kBelowPage;
+  return Calendar.CalenH > 0 ? Calendar.CalenH : PageWidth() + kBelowPage;
 }

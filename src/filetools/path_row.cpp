@@ -1,7 +1,7 @@
 #include "filetools/path_row.h"
 
-#include "shell/path.h"
-#include "shell/text.h"
+#include "services/path.h"
+#include "services/text.h"
 
 void PathRow(const char* path, char* text, int size) {
   if (path[0] == '\0') {
@@ -9,5 +9,5 @@ void PathRow(const char* path, char* text, int size) {
     return;
   }
   PathSplit(path);
-  TextFormat(text, static_cast<std::size_t>(size), "%s [%s]", PathName, PathFolder);
+  TextFormat(text, static_cast<std::size_t>(size), "%s [%s]", PathParts.PathName, PathParts.PathFolder);
 }

@@ -1,11 +1,11 @@
 #include "schedule/schedule_commands.h"
 
 #include "platform/window.h"
-#include "shell/shell.h"
+#include "shell/panel.h"
 
 // The numbers are known and answered; their windows are not there yet, so all
 // that is left of an entry is that the panel closes.
 void ScheduleCommand(std::uint32_t) {
-  SendClose(hDiskMenu);
-  MenuPanelState = 0;
+  SendClose(Panel.hDiskMenu);
+  Panel.MenuPanelState = 0;
 }

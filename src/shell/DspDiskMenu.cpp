@@ -9,11 +9,15 @@
 #include "platform/dialog.h"
 #include "platform/window.h"
 #include "resources/ids.h"
-#include "schedule/table_scroll.h"
+#include "schedule/table/table_scroll.h"
+#include "services/drawing_objects.h"
+#include "services/painting.h"
+#include "services/program.h"
+#include "services/screen_figures.h"
 #include "shell/commands.h"
-#include "shell/painting.h"
 #include "shell/panel.h"
-#include "shell/shell.h"
+
+PanelState Panel;
 
 namespace {
 
@@ -86,7 +90,7 @@ constexpr Level kLevels[] = {
 // Null while no level is on show.
 const Level* LevelOnShow() {
   for (const Level& level : kLevels) {
-    if (level.state == MenuPanelState) return &level;
+    if (level.state == Panel.MenuPanelState) return &level;
   }
   return nullptr;
 }
@@ -103,11 +107,11 @@ void Paint(WindowHandle panel) {
   const Level* level = LevelOnShow();
   Canvas* canvas = level ? CanvasGet(panel) : nullptr;
   if (!canvas) return;
-  FillArea(canvas, FaceBrush, {0, 0, kWidth, kDrawnHeight});
+  FillArea(canvas, Drawing.FaceBrush, {0, 0, kWidth, kDrawnHeight});
   // kept: a new panel begins with the row that was marked in the one before, even
   // if it has no such row.
-  const int top = RowTop(MenuHiLine);
-  FillArea(canvas, Brushes[kBrushC8C800], {0, top, kWidth, top + kRowHeight});
+  const int top = RowTop(Panel.MenuHiLine);
+  FillArea(canvas, Drawing.Brushes[kBrushC8C800], {0, top, kWidth, top + kRowHeight});
   CanvasBackTransparent(canvas, true);
   CanvasTextColour(canvas, 0);
   for (int row = 0; row < level->rowCount; ++row)
@@ -118,27 +122,27 @@ void Paint(WindowHandle panel) {
 // Beside the stage, on the side where the screen has more room.
 Point PlaceFor(int width, int height) {
   // bounded: the settings file may hold any place.
-  const int x = std::clamp(StageX, -kFarAway, kFarAway);
-  const int y = std::clamp(StageY, -kFarAway, kFarAway);
-  const bool stageIsLeft = ScreenWidth / 2 > x + StageWidth / 2;
-  return {stageIsLeft ? x + StageWidth - kStageOverlap : x - width,
-          ScreenHeight <= y + height ? ScreenHeight - height : y};
+  const int x = std::clamp(Character.StageX, -kFarAway, kFarAway);
+  const int y = std::clamp(Character.StageY, -kFarAway, kFarAway);
+  const bool stageIsLeft = Screen.ScreenWidth / 2 > x + Stage.StageWidth / 2;
+  return {stageIsLeft ? x + Stage.StageWidth - kStageOverlap : x - width,
+          Screen.ScreenHeight <= y + height ? Screen.ScreenHeight - height : y};
 }
 
 void Init(WindowHandle panel) {
-  hDiskMenu = panel;
+  Panel.hDiskMenu = panel;
   const Level* level = LevelOnShow();
   const int width = kWidth;
   const int height = level ? level->height : RectHeight(WindowRect(panel));
   const Point at = PlaceFor(width, height);
   WindowMove(panel, at.x, at.y, width, height, false);
-  MenuPanelRect = {at.x, at.y, at.x + width, at.y + height};
+  Panel.MenuPanelRect = {at.x, at.y, at.x + width, at.y + height};
   // The stage goes on hearing the pointer, which keeps the top level from timing out.
-  if (MenuPanelState == kPanelTop) WindowEnable(hMainWnd, true);
+  if (Panel.MenuPanelState == kPanelTop) WindowEnable(Program.hMainWnd, true);
 }
 
 void Forget(WindowHandle panel) {
-  if (hDiskMenu == panel) hDiskMenu = nullptr;
+  if (Panel.hDiskMenu == panel) Panel.hDiskMenu = nullptr;
 }
 
 void End(WindowHandle panel) {
@@ -148,21 +152,21 @@ void End(WindowHandle panel) {
 
 // The user leaves the panel without a choice.
 void Dismiss(WindowHandle panel) {
-  if (MenuPanelState != 0) {
-    MenuPanelState = 0;
-    FuncNo = 0;
-    MenuReopenGuard = 0;
+  if (Panel.MenuPanelState != 0) {
+    Panel.MenuPanelState = 0;
+    Panel.FuncNo = 0;
+    Panel.MenuReopenGuard = 0;
   }
   End(panel);
 }
 
 void PointerMoved(const Event& event) {
-  MenuCloseCount = kMenuInside;  // from now on the panel closes when the pointer leaves it
+  Panel.MenuCloseCount = kMenuInside;  // from now on the panel closes when the pointer leaves it
   const Level* level = LevelOnShow();
   if (!level) return;
   const int row = RowAt(event.y);
-  if (row >= level->rowCount || row == MenuHiLine) return;
-  MenuHiLine = row;
+  if (row >= level->rowCount || row == Panel.MenuHiLine) return;
+  Panel.MenuHiLine = row;
   Paint(event.window);
 }
 
@@ -172,15 +176,15 @@ void Pressed(const Event& event) {
   const int row = RowAt(event.y);
   if (level->state == kPanelTop) {
     BoredTimerReset();
-    if (row < kLastRow) MenuHiLine = row;
+    if (row < kLastRow) Panel.MenuHiLine = row;
   }
   if (row >= level->rowCount) return;
   const Row& chosen = level->rows[row];
-  if (chosen.state != kStateStays) MenuPanelState = chosen.state;
-  if (chosen.command != 0) SendCommand(hMainWnd, chosen.command);
+  if (chosen.state != kStateStays) Panel.MenuPanelState = chosen.state;
+  if (chosen.command != 0) SendCommand(Program.hMainWnd, chosen.command);
   // A dialog that the command ran has closed the panel long ago. What runs no
   // dialog only clears the state.
-  if (MenuPanelState == 0 && hDiskMenu == event.window) End(event.window);
+  if (Panel.MenuPanelState == 0 && Panel.hDiskMenu == event.window) End(event.window);
 }
 
 bool PanelProc(const Event& event) {
@@ -216,14 +220,14 @@ bool PanelProc(const Event& event) {
 }
 
 void OpenTop() {
-  MenuPanelState = kPanelTop;
-  MenuCloseCount = kCloseTicks;
-  if (MenuFrame != 0) {
+  Panel.MenuPanelState = kPanelTop;
+  Panel.MenuCloseCount = kCloseTicks;
+  if (Character.MenuFrame != 0) {
     CharaMenuOn();
-    if (StageRedraw != kRedrawNothing) SendCommand(hMainWnd, kStageRedrawCommand);
+    if (Stage.StageRedraw != kRedrawNothing) SendCommand(Program.hMainWnd, kStageRedrawCommand);
   }
-  DialogRun(IDD_DspDiskMenu, hMainWnd, PanelProc);
-  WindowInvalidate(hMainWnd, false);
+  DialogRun(IDD_DspDiskMenu, Program.hMainWnd, PanelProc);
+  WindowInvalidate(Program.hMainWnd, false);
 }
 
 struct SubPanel {
@@ -237,15 +241,15 @@ constexpr SubPanel kSubPanels[] = {
 };
 
 void RunSubPanel(const SubPanel& sub) {
-  SendClose(hDiskMenu);
-  FuncNo = sub.funcNo;
-  if (sub.state != kStateStays) MenuPanelState = sub.state;
-  DialogRun(IDD_DspDiskMenu, hMainWnd, PanelProc);
+  SendClose(Panel.hDiskMenu);
+  Panel.FuncNo = sub.funcNo;
+  if (sub.state != kStateStays) Panel.MenuPanelState = sub.state;
+  DialogRun(IDD_DspDiskMenu, Program.hMainWnd, PanelProc);
   // Closed from outside, with nothing chosen: the pointer must be able to open the
   // panel again, and at this level no tick clears the state.
-  if (hDiskMenu || MenuPanelState != sub.state) return;
-  MenuPanelState = 0;
-  FuncNo = 0;
+  if (Panel.hDiskMenu || Panel.MenuPanelState != sub.state) return;
+  Panel.MenuPanelState = 0;
+  Panel.FuncNo = 0;
 }
 
 }  // namespace
@@ -257,14 +261,14 @@ void CommandPanelLevel(std::uint32_t number) {
 }
 
 void PanelPointerOnStage(const Event& event) {
-  if (MenuPanelState == 0 && MenuReopenGuard == 0) {
+  if (Panel.MenuPanelState == 0 && Panel.MenuReopenGuard == 0) {
     OpenTop();
     return;
   }
   // kept: back from the panel to the stage, the pointer is counted as never inside.
-  if (MenuPanelState == kPanelTop) MenuCloseCount = kCloseTicks;
-  if (!WindowHasFocus(hMainWnd)) {
-    TableScrollDirection = ScrollDirection::None;
+  if (Panel.MenuPanelState == kPanelTop) Panel.MenuCloseCount = kCloseTicks;
+  if (!WindowHasFocus(Program.hMainWnd)) {
+    SclTable.TableScrollDirection = ScrollDirection::None;
   } else if ((event.keys & kLeftHeld) == 0) {
     TableScrollStop();
   }

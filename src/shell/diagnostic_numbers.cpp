@@ -2,22 +2,26 @@
 
 #include "character/motion.h"
 #include "character/stage.h"
+#include "character/walk.h"
+#include "filetools/stepped_work.h"
+#include "mail_music/mail/mail.h"
 #include "platform/diagnostics.h"
-#include "shell/shell.h"
+#include "services/five_ticks.h"
+#include "shell/panel.h"
 #include "shell/tick.h"
 
 void DiagnosticsShowAll() {
-  DiagnosticsShow(kShowTicks, &TickCount);
-  DiagnosticsShow(kShowCharaFrame, &CharaFrame);
-  DiagnosticsShow(kShowCharaMotion, &CharaMotion);
-  DiagnosticsShow(kShowStageRedraw, &StageRedraw);
-  DiagnosticsShow(kShowMenuPanelState, &MenuPanelState);
-  DiagnosticsShow(kShowMenuCloseCount, &MenuCloseCount);
-  DiagnosticsShow(kShowFileWatchCount, &FileWatchCount);
-  DiagnosticsShow(kShowOpeningState, &OpeningState);
-  DiagnosticsShow(kShowFrameDivider, &FrameDivider);
-  DiagnosticsShow(kShowMailPhase, &MailPhase);
-  DiagnosticsShow(kShowProgressMode, &progressMode);
-  DiagnosticsShow(kShowStepCounter, &stepCounter);
-  DiagnosticsShow(kShowFuncNo, &FuncNo);
+  DiagnosticsShow(kShowTicks, &TickCounts.TickCount);
+  DiagnosticsShow(kShowCharaFrame, &Stage.CharaFrame);
+  DiagnosticsShow(kShowCharaMotion, &Motion.CharaMotion);
+  DiagnosticsShow(kShowStageRedraw, &Stage.StageRedraw);
+  DiagnosticsShow(kShowMenuPanelState, &Panel.MenuPanelState);
+  DiagnosticsShow(kShowMenuCloseCount, &Panel.MenuCloseCount);
+  DiagnosticsShow(kShowFileWatchCount, &TickCounts.FileWatchCount);
+  DiagnosticsShow(kShowOpeningState, &Walk.OpeningState);
+  DiagnosticsShow(kShowFrameDivider, &FiveTicks.FrameDivider);
+  DiagnosticsShow(kShowMailPhase, &Mail.MailPhase);
+  DiagnosticsShow(kShowProgressMode, &Stepped.progressMode);
+  DiagnosticsShow(kShowStepCounter, &Stepped.stepCounter);
+  DiagnosticsShow(kShowFuncNo, &Panel.FuncNo);
 }

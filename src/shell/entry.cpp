@@ -3,12 +3,10 @@
 #include "platform/dialog.h"
 #include "platform/window.h"
 #include "resources/ids.h"
+#include "services/text.h"
 #include "shell/main_window.h"
-#include "shell/shell.h"
-#include "shell/text.h"
 
-char PendingCommandLine[kCommandLineSize];
-char CommandLine[kCommandLineSize];
+EntryState Entry;
 
 int ProcessEntry(const char* commandLine, int showMode) {
   char title[100];
@@ -19,11 +17,11 @@ int ProcessEntry(const char* commandLine, int showMode) {
   const WindowHandle window = MainWindowCreate(mainClass, 500, 300, 120, 160);
   if (!window) return 0;
   WindowShowFirst(window, showMode);
-  TextFormat(PendingCommandLine, sizeof PendingCommandLine, "%s", commandLine);
+  TextFormat(Entry.PendingCommandLine, sizeof Entry.PendingCommandLine, "%s", commandLine);
   return MessageLoop(window, IDR_MAIN);
 }
 
 void CommandLineTake() {
-  TextCopy(CommandLine, sizeof CommandLine, PendingCommandLine);
-  PendingCommandLine[0] = '\0';
+  TextCopy(Entry.CommandLine, sizeof Entry.CommandLine, Entry.PendingCommandLine);
+  Entry.PendingCommandLine[0] = '\0';
 }

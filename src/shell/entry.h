@@ -7,9 +7,12 @@ int ProcessEntry(const char* commandLine, int showMode);
 
 // The command line that waits for the first tick; empty when it has been taken.
 inline constexpr int kCommandLineSize = 600;
-extern char PendingCommandLine[kCommandLineSize];
-// The command line that command 2373 looks at.
-extern char CommandLine[kCommandLineSize];
+struct EntryState {
+  char PendingCommandLine[kCommandLineSize] = {};
+  // The command line that command 2373 looks at.
+  char CommandLine[kCommandLineSize] = {};
+};
+extern EntryState Entry;
 
 // Moves the waiting command line into CommandLine and clears it.
 void CommandLineTake();

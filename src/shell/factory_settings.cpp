@@ -2,18 +2,20 @@
 #include <cstring>
 #include <iterator>
 
+#include "character/character.h"
 #include "character/character_tables.h"
-#include "clock_calendar/calendar.h"
-#include "clock_calendar/clock.h"
+#include "character/notice_window.h"
+#include "clock_calendar/calendar/calendar.h"
+#include "clock_calendar/clock/clock.h"
 #include "platform/screen.h"
 #include "platform/time.h"
-#include "schedule/schedule.h"
+#include "schedule/model/schedule.h"
+#include "services/screen_figures.h"
+#include "services/text.h"
+#include "services/today.h"
 #include "shell/settings.h"
-#include "shell/shell.h"
-#include "shell/text.h"
 
-std::int32_t FactorySpareValue;
-std::int32_t FactoryKeptValue;
+FactoryState Factory;
 
 namespace {
 
@@ -46,44 +48,44 @@ constexpr std::uint16_t kStrikeTicks = 10;
 constexpr int kFirstStrikeFrame = 2;
 
 void SetCharacters() {
-  MainCharaCount = kMainCharas;
-  for (int i = 0; i < kMainCharas; ++i) MainCharas[i].charaNo = static_cast<std::uint16_t>(i + 1);
-  CharaIndex = 0;
-  StageX = 500;
-  StageY = 300;
-  AlarmCharaCount = static_cast<std::int32_t>(std::size(kAlarmNumbers));
-  std::memcpy(AlarmCharas, kAlarmNumbers, sizeof kAlarmNumbers);
-  std::memcpy(AlarmCharaSel, kAlarmSelections, sizeof kAlarmSelections);
+  CharaTables.MainCharaCount = kMainCharas;
+  for (int i = 0; i < kMainCharas; ++i) CharaTables.MainCharas[i].charaNo = static_cast<std::uint16_t>(i + 1);
+  Character.CharaIndex = 0;
+  Character.StageX = 500;
+  Character.StageY = 300;
+  CharaTables.AlarmCharaCount = static_cast<std::int32_t>(std::size(kAlarmNumbers));
+  std::memcpy(CharaTables.AlarmCharas, kAlarmNumbers, sizeof kAlarmNumbers);
+  std::memcpy(Character.AlarmCharaSel, kAlarmSelections, sizeof kAlarmSelections);
 
-  std::memset(CharaSet, 0, kCharaSetSize);
-  SetCharaSetNo(CharaSet, CharaIndex + 1);
-  CharaSet[kCharaSetMotionE] = 5;
-  SetWalkRow(CharaSet, 0, 1);
-  SetWalkUse(CharaSet, 0, kWalkUseOpen | kWalkUseMail);
+  std::memset(Character.CharaSet, 0, kCharaSetSize);
+  SetCharaSetNo(Character.CharaSet, Character.CharaIndex + 1);
+  Character.CharaSet[kCharaSetMotionE] = 5;
+  SetWalkRow(Character.CharaSet, 0, 1);
+  SetWalkUse(Character.CharaSet, 0, kWalkUseOpen | kWalkUseMail);
   int x = 0;
   int y = 0;
-  WalkStartPlace(WalkStartPoint(CharaSet), &x, &y);
-  SetWalkStart(CharaSet, 0, x, y);
-  SetWalkStep(CharaSet, 0, -14, -12);
-  SetWalkPeriod(CharaSet, 0, 3);
-  SetWalkCount(CharaSet, 0, 49);
-  SetEndWait(CharaSet, 0, 30);
-  SetWalkFrames(CharaSet, 0, 0, 1);
-  SetWalkFrames(CharaSet, 0, 1, 2);
-  SetEndFrames(CharaSet, 0, 0, 3);
+  WalkStartPlace(WalkStartPoint(Character.CharaSet), &x, &y);
+  SetWalkStart(Character.CharaSet, 0, x, y);
+  SetWalkStep(Character.CharaSet, 0, -14, -12);
+  SetWalkPeriod(Character.CharaSet, 0, 3);
+  SetWalkCount(Character.CharaSet, 0, 49);
+  SetEndWait(Character.CharaSet, 0, 30);
+  SetWalkFrames(Character.CharaSet, 0, 0, 1);
+  SetWalkFrames(Character.CharaSet, 0, 1, 2);
+  SetEndFrames(Character.CharaSet, 0, 0, 3);
 
-  WalkCharaCount = static_cast<std::int32_t>(std::size(kWalkSounds));
-  for (int i = 0; i < WalkCharaCount; ++i) {
-    WalkCharas[i].number = static_cast<std::uint16_t>(kFirstWalkNumber + i);
-    TextCopy(WalkCharas[i].sound, sizeof WalkCharas[i].sound, kWalkSounds[i]);
-    WalkFlags[i] = 0;
+  CharaTables.WalkCharaCount = static_cast<std::int32_t>(std::size(kWalkSounds));
+  for (int i = 0; i < CharaTables.WalkCharaCount; ++i) {
+    CharaTables.WalkCharas[i].number = static_cast<std::uint16_t>(kFirstWalkNumber + i);
+    TextCopy(CharaTables.WalkCharas[i].sound, sizeof CharaTables.WalkCharas[i].sound, kWalkSounds[i]);
+    CharaTables.WalkFlags[i] = 0;
   }
 }
 
 void SetClock() {
-  ClockDesignCount = static_cast<std::int32_t>(std::size(kDesigns));
-  for (ClockDesignRow& row : ClockDesigns) std::memset(row.record, 0, sizeof row.record);
-  for (int i = 0; i < ClockDesignCount; ++i) {
+  CharaTables.ClockDesignCount = static_cast<std::int32_t>(std::size(kDesigns));
+  for (ClockDesignRow& row : CharaTables.ClockDesigns) std::memset(row.record, 0, sizeof row.record);
+  for (int i = 0; i < CharaTables.ClockDesignCount; ++i) {
     const FactoryDesign& design = kDesigns[i];
     ClockDesignFields fields{};
     fields.hand = design.hand;
@@ -103,47 +105,47 @@ void SetClock() {
       }
     }
     TextCopy(fields.sound, sizeof fields.sound, design.sound);
-    ClockDesigns[i].number = static_cast<std::uint16_t>(kFirstClockNumber + i);
-    ClockDesignPut(ClockDesigns[i].record, fields);
+    CharaTables.ClockDesigns[i].number = static_cast<std::uint16_t>(kFirstClockNumber + i);
+    ClockDesignPut(CharaTables.ClockDesigns[i].record, fields);
   }
-  ClockDesign = kClockNone;
-  ClockWanted = 0;
-  ClockStrikeMode = kStrikeEveryHour;
-  ClockSoundOn = 1;
-  ClockSoundName[0] = '\0';
-  ClockShow = 0;
-  ClockX = 700;
-  ClockY = 20;
+  Clock.ClockDesign = kClockNone;
+  Clock.ClockWanted = 0;
+  Clock.ClockStrikeMode = kStrikeEveryHour;
+  Clock.ClockSoundOn = 1;
+  Clock.ClockSoundName[0] = '\0';
+  Clock.ClockShow = 0;
+  Clock.ClockX = 700;
+  Clock.ClockY = 20;
 }
 
 void SetCalendar() {
-  CalenSel = 0;
+  Calendar.CalenSel = 0;
   CalenNameDefaults();
-  CalenYearCount = 1;
-  CalenX = 700;
-  CalenY = 10;
-  CalenW = 200;
-  CalenH = 220;
-  CalenPageSize = 1;
-  CalenNoteMode = 1;
-  CalenNearNote = 1;
-  std::memset(CalenPictures, 0, sizeof CalenPictures);
-  CalenPictures[0] = 1;
+  Calendar.CalenYearCount = 1;
+  Calendar.CalenX = 700;
+  Calendar.CalenY = 10;
+  Calendar.CalenW = 200;
+  Calendar.CalenH = 220;
+  Calendar.CalenPageSize = 1;
+  Calendar.CalenNoteMode = 1;
+  Calendar.CalenNearNote = 1;
+  std::memset(Calendar.CalenPictures, 0, sizeof Calendar.CalenPictures);
+  Calendar.CalenPictures[0] = 1;
 }
 
 void SetNoticeRectangle() {
-  NoticeX = 400;
-  NoticeY = 100;
-  NoticeW = 480;
-  NoticeH = 300;
+  NoticePlace.NoticeX = 400;
+  NoticePlace.NoticeY = 100;
+  NoticePlace.NoticeW = 480;
+  NoticePlace.NoticeH = 300;
 }
 
 void SetToday() {
   LocalTime now;
   TimeGetLocal(&now);
-  TodayYear = now.year - 2000;
-  TodayMonth = now.month - 1;
-  TodayDay = now.day - 1;
+  Today.TodayYear = now.year - 2000;
+  Today.TodayMonth = now.month - 1;
+  Today.TodayDay = now.day - 1;
 }
 
 }  // namespace
@@ -153,21 +155,21 @@ void SetFactorySettings() {
   SetClock();
   SetToday();
   SetCalendar();
-  FactorySpareValue = 10;
-  DefaultSclName[0] = '\0';
+  Factory.FactorySpareValue = 10;
+  Schedule.DefaultSclName[0] = '\0';
   SetNoticeRectangle();
-  FactoryKeptValue = 2;
-  TextCopy(PlanTitles[0], kPlanTitleSize, "マイ トレーナー");
-  TextCopy(PlanTitles[1], kPlanTitleSize, "マイ マネージャー");
+  Factory.FactoryKeptValue = 2;
+  TextCopy(Schedule.PlanTitles[0], kPlanTitleSize, "マイ トレーナー");
+  TextCopy(Schedule.PlanTitles[1], kPlanTitleSize, "マイ マネージャー");
 }
 
 void SetDateDefaults() {
-  ScreenWidth = ScreenMetric(Metric::FullScreenWidth);
-  ScreenHeight = ScreenMetric(Metric::FullScreenHeight);
+  Screen.ScreenWidth = ScreenMetric(Metric::FullScreenWidth);
+  Screen.ScreenHeight = ScreenMetric(Metric::FullScreenHeight);
   SetToday();
-  CalenYearsSet(TodayYear);
-  if (CalenYearCount == 0) {
-    CalenYearCount = 1;
+  CalenYearsSet(Today.TodayYear);
+  if (Calendar.CalenYearCount == 0) {
+    Calendar.CalenYearCount = 1;
     CalenYearInit(0);
   }
   SetNoticeRectangle();

@@ -1,13 +1,12 @@
 #include "shell/file_dialog_defaults.h"
 
-#include "shell/text.h"
+#include "services/text.h"
 
-char FileDialogFilter[64];
-char FileDialogPath[260];
-char FileDialogTitle[512];
+FileDialogDefaultsState FileDialogDefaults;
 
 void FileDialogDefaultsSet() {
-  TextCopy(FileDialogFilter, sizeof FileDialogFilter, "Schedule Files (*.GPI)");
-  FileDialogPath[0] = '\0';
-  FileDialogTitle[0] = '\0';
+  TextCopy(FileDialogDefaults.FileDialogFilter, sizeof FileDialogDefaults.FileDialogFilter,
+           "Schedule Files (*.GPI)");
+  FileDialogDefaults.FileDialogPath[0] = '\0';
+  FileDialogDefaults.FileDialogTitle[0] = '\0';
 }

@@ -8,13 +8,14 @@
 #include "character/character_file.h"
 #include "character/options.h"
 #include "character/stage.h"
-#include "clock_calendar/calendar.h"
-#include "clock_calendar/clock.h"
-#include "filetools/open_history.h"
+#include "clock_calendar/calendar/calendar.h"
+#include "clock_calendar/clock/clock.h"
+#include "filetools/open/open_history.h"
 #include "platform/file.h"
 #include "platform/window.h"
+#include "services/dialog_family.h"
+#include "services/program.h"
 #include "shell/settings.h"
-#include "shell/shell.h"
 
 namespace {
 
@@ -54,17 +55,18 @@ unsigned char monthsBefore[kMonthsOfYear * kMonthBlockSize];
 
 void CalendarSnapshotTake() {
   std::memcpy(calendarBefore, CalenDefinition(), sizeof calendarBefore);
-  std::memcpy(monthsBefore, CalenSheets[CalenSelected()], sizeof monthsBefore);
+  std::memcpy(monthsBefore, Calendar.CalenSheets[CalenSelected()], sizeof monthsBefore);
 }
 
 bool CalendarSnapshotDiffers() {
   return std::memcmp(calendarBefore, CalenDefinition(), sizeof calendarBefore) != 0 ||
-         std::memcmp(monthsBefore, CalenSheets[CalenSelected()], sizeof monthsBefore) != 0;
+         std::memcmp(monthsBefore, Calendar.CalenSheets[CalenSelected()], sizeof monthsBefore) != 0;
 }
 
 void CalendarLook() {
   // The dialogs that edit the calendars hold their changes in memory.
-  if (DlgIdMenu == 2007 || DlgIdMenu == 2009 || !ChangeTake(WatchedFile::Calendar)) return;
+  if (Dialogs.DlgIdMenu == 2007 || Dialogs.DlgIdMenu == 2009 || !ChangeTake(WatchedFile::CalendarFile))
+    return;
   CalendarSnapshotTake();
   CalenFileRead();
   calendarReload = true;
@@ -75,18 +77,19 @@ void CalendarLook() {
 void CalendarAnswer() {
   if (!calendarReload) return;
   calendarReload = false;
-  SendCommand(hMainWnd, 2381);
-  SendClose(hCalenWnd);
-  if (CalenShow) SendCommand(hMainWnd, 2379);
+  SendCommand(Program.hMainWnd, 2381);
+  SendClose(Calendar.hCalenWnd);
+  if (Calendar.CalenShow) SendCommand(Program.hMainWnd, 2379);
   if (calendarTell) {
     calendarTell = false;
-    SendCommand(hMainWnd, 2382);
+    SendCommand(Program.hMainWnd, 2382);
   }
 }
 
 void CharacterLook() {
   // The dialogs that choose characters work on the tables.
-  if (DlgIdMenu == 2013 || DlgIdMenu == 2014 || !ChangeTake(WatchedFile::Character)) return;
+  if (Dialogs.DlgIdMenu == 2013 || Dialogs.DlgIdMenu == 2014 || !ChangeTake(WatchedFile::CharacterFile))
+    return;
   CharaFileRead();
   alarmReload = true;
   characterReload = true;
@@ -104,19 +107,19 @@ void CharacterAnswer() {
   if (!characterReload) return;
   characterReload = false;
   OptionPreviewsFree();
-  if (CharaSelect(CharaIndex)) OpnHisTakeWalkSettings();
-  StageRedraw = kRedrawReload;
-  SendCommand(hMainWnd, kStageRedrawCommand);
+  if (CharaSelect(Character.CharaIndex)) OpnHisTakeWalkSettings();
+  Stage.StageRedraw = kRedrawReload;
+  SendCommand(Program.hMainWnd, kStageRedrawCommand);
 }
 
 void ClockAnswer() {
   if (!clockRestart) return;
   clockRestart = false;
-  SendCommand(hMainWnd, 2254);
+  SendCommand(Program.hMainWnd, 2254);
 }
 
 void ClockAlarmLook() {
-  if (ChangeTake(WatchedFile::ClockAlarm)) ClockAlarmFileRead();
+  if (ChangeTake(WatchedFile::ClockAlarmFile)) ClockAlarmFileRead();
 }
 
 }  // namespace
@@ -129,7 +132,7 @@ void FileWatch() {
   constexpr void (*kSteps[])() = {CalendarLook,    CalendarAnswer, CharacterLook, AlarmAnswer,
                                   CharacterAnswer, ClockAnswer,    ClockAlarmLook};
   for (const auto step : kSteps) {
-    if (Quitting) return;  // a box of an answer may have been up at the end of the program
+    if (Program.Quitting) return;  // a box of an answer may have been up at the end of the program
     step();
   }
 }

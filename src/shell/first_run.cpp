@@ -1,22 +1,22 @@
 // Command 2373: the first run on a machine.
 #include <cstring>
 
-#include "character/layout.h"
 #include "platform/window.h"
-#include "schedule/application_list.h"
+#include "schedule/applications/application_list.h"
+#include "services/program.h"
 #include "shell/commands.h"
 #include "shell/entry.h"
+#include "shell/layout.h"
 #include "shell/settings.h"
-#include "shell/shell.h"
 
 void CommandFirstRun(std::uint32_t) {
-  if (std::memcmp(CommandLine, "_1_", 3) != 0) return;
+  if (std::memcmp(Entry.CommandLine, "_1_", 3) != 0) return;
   LayoutDefault();
-  LayoutChange = kLayoutAll;
+  Layout.LayoutChange = kLayoutAll;
   char program[600];
   RootPath(program, sizeof program, "\\スケジュール表\\予定表 千里万象.exe");
   ApliListSetFirst(program);
   ApliListSave();
   SysFileWrite();
-  SendCommand(hMainWnd, kLayoutApplyCommand);
+  SendCommand(Program.hMainWnd, kLayoutApplyCommand);
 }

@@ -1,19 +1,20 @@
 #include "shell/main_window.h"
 
 #include "character/stage.h"
+#include "clock_calendar/calendar/calendar.h"
+#include "clock_calendar/clock/clock.h"
 #include "platform/window.h"
-#include "schedule/table_scroll.h"
-#include "shell/child_controls.h"
+#include "schedule/table/table_scroll.h"
+#include "services/child_controls.h"
+#include "services/program.h"
+#include "services/screen_figures.h"
 #include "shell/commands.h"
 #include "shell/panel.h"
-#include "shell/shell.h"
 #include "shell/shutdown.h"
 #include "shell/start.h"
-#include "shell/text_figures.h"
 #include "shell/tick_timer.h"
 
-std::int32_t MainClientWidth;
-std::int32_t MainClientHeight;
+MainWindowState MainWindow;
 
 namespace {
 
@@ -24,18 +25,18 @@ void Init(const Event& event) {
 }
 
 void Paint(const Event&) {
-  TextFiguresTake(hMainWnd);
+  TextFiguresTake(Program.hMainWnd);
   StagePaint();
   // Windows that are painted in this window's wake, in this order.
-  SendPaint(hClockWnd);
-  SendPaint(hCalenWnd);
-  SendPaint(hPlanWnd);
-  SendPaint(hSclTableWnd);
+  SendPaint(Clock.hClockWnd);
+  SendPaint(Calendar.hCalenWnd);
+  SendPaint(SclTable.hPlanWnd);
+  SendPaint(SclTable.hSclTableWnd);
 }
 
 void Size(const Event& event) {
-  MainClientWidth = event.x;
-  MainClientHeight = event.y;
+  MainWindow.MainClientWidth = event.x;
+  MainWindow.MainClientHeight = event.y;
   TableScrollBarDestroy();
   ChildControlsDestroy(0, 599);
   ChildControlsDestroy(705, 710);
@@ -43,16 +44,16 @@ void Size(const Event& event) {
 
 void Close(const Event&) {
   // kept: the window is never destroyed; the end of the process takes it.
-  SendDestroy(hMainWnd);
+  SendDestroy(Program.hMainWnd);
 }
 
 void Char(const Event& event) {
-  if (event.key != kEscape || MenuPanelState == 0) return;
-  MenuPanelState = 0;
-  FuncNo = 0;
-  MenuReopenGuard = 0;
+  if (event.key != kEscape || Panel.MenuPanelState == 0) return;
+  Panel.MenuPanelState = 0;
+  Panel.FuncNo = 0;
+  Panel.MenuReopenGuard = 0;
   // kept: the stage may have the keyboard while its panel is open, and closes it too.
-  SendClose(hDiskMenu);
+  SendClose(Panel.hDiskMenu);
 }
 
 void Nothing(const Event&) {}

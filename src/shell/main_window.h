@@ -5,8 +5,11 @@
 
 #include "platform/event.h"
 
-// The client area's size as the window was last told.
-extern std::int32_t MainClientWidth;
-extern std::int32_t MainClientHeight;
+struct MainWindowState {
+  // The client area's size as the window was last told.
+  std::int32_t MainClientWidth = 0;
+  std::int32_t MainClientHeight = 0;
+};
+extern MainWindowState MainWindow;
 
 bool MainWindowProc(const Event& event);

@@ -2,14 +2,13 @@
 
 #include "platform/dialog.h"
 #include "platform/memory.h"
-#include "shell/boxes.h"
+#include "services/boxes.h"
+#include "services/data_file.h"
+#include "services/program.h"
+#include "services/text.h"
 #include "shell/commands.h"
-#include "shell/data_file.h"
-#include "shell/shell.h"
-#include "shell/text.h"
 
-unsigned char* OldData;
-std::int32_t OldDataSize;
+OldFormatState OldFormat;
 
 namespace {
 
@@ -26,15 +25,16 @@ Path blockPath;  // where the block came from or went to last
 // Loading and saving ask under the same title; `path` goes in as a proposal.
 template <typename FileDialog>
 bool Ask(FileDialog* dialog, Path& path) {
-  FileStatus = kPicking;
-  return dialog(hMainWnd, "ﾌｧｲﾙﾛｰﾄﾞ", "Files (*.*)", "*.*", RootFolder, path.text, sizeof path.text);
+  FileResult.FileStatus = kPicking;
+  return dialog(Program.hMainWnd, "ﾌｧｲﾙﾛｰﾄﾞ", "Files (*.*)", "*.*", Program.RootFolder, path.text,
+                sizeof path.text);
 }
 
 // kept: the program's name is the text and the error the caption, as in all boxes of
 // this kind here, and the errors keep their letters.
 void Fail(int status, const char* error) {
-  FileStatus = status;
-  BoxTell(hMainWnd, "ミルレール", error);
+  FileResult.FileStatus = status;
+  BoxTell(Program.hMainWnd, "ミルレール", error);
 }
 
 // Takes the whole open file as the block.
@@ -49,19 +49,19 @@ void Take(DataFile& data) {
     return Fail(kShort, "Read DATA Error");
   }
   OldDataFree();
-  OldData = block;
-  OldDataSize = static_cast<std::int32_t>(size);
-  FileStatus = 0;
+  OldFormat.OldData = block;
+  OldFormat.OldDataSize = static_cast<std::int32_t>(size);
+  FileResult.FileStatus = 0;
 }
 
 void Write(const Path& path) {
   DataFile data;
   if (!DataReplace(data, path.text)) return Fail(-1, "Coud not open MOT file");
-  const bool whole = DataWrite(data, OldData, OldDataSize);
+  const bool whole = DataWrite(data, OldFormat.OldData, OldFormat.OldDataSize);
   DataClose(data);
   if (!whole) return Fail(kShort, "Write DATA Error");
   blockPath = path;
-  FileStatus = 0;
+  FileResult.FileStatus = 0;
 }
 
 }  // namespace
@@ -73,24 +73,24 @@ void OldDataLoad() {
   if (!DataOpenRead(data, path.text, OpenMode::ReadDenyWrite)) return Fail(-1, "Coud not open MOT file");
   Take(data);
   DataClose(data);
-  if (FileStatus == 0) blockPath = path;
+  if (FileResult.FileStatus == 0) blockPath = path;
 }
 
 void OldDataSave() {
   if (blockPath.text[0] == '\0') return OldDataSaveAs();
-  if (OldData) Write(blockPath);
+  if (OldFormat.OldData) Write(blockPath);
 }
 
 void OldDataSaveAs() {
-  if (!OldData) return;
+  if (!OldFormat.OldData) return;
   Path path = blockPath;
   if (Ask(FileDialogSave, path)) Write(path);
 }
 
 void OldDataFree() {
-  MemoryFree(OldData);
-  OldData = nullptr;
-  OldDataSize = 0;
+  MemoryFree(OldFormat.OldData);
+  OldFormat.OldData = nullptr;
+  OldFormat.OldDataSize = 0;
   blockPath.text[0] = '\0';
 }
 

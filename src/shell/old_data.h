@@ -7,8 +7,11 @@
 
 inline constexpr int kOldDataMax = 65536;
 
-extern unsigned char* OldData;    // the block; null until one is loaded
-extern std::int32_t OldDataSize;  // its bytes, 0 to kOldDataMax
+struct OldFormatState {
+  unsigned char* OldData = nullptr;  // the block; null until one is loaded
+  std::int32_t OldDataSize = 0;      // its bytes, 0 to kOldDataMax
+};
+extern OldFormatState OldFormat;
 
 // Load asks for a file; Save writes the block under the name it has, SaveAs asks
 // for one. With no block there is nothing to save. What went wrong is told in a box

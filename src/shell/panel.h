@@ -6,6 +6,20 @@
 
 #include "platform/event.h"
 
+inline constexpr std::int32_t kMenuInside = -1;  // MenuCloseCount: the pointer has been inside
+inline constexpr std::int32_t kFuncMail = 11;    // FuncNo of the mail notice's settings
+
+struct PanelState {
+  WindowHandle hDiskMenu = nullptr;  // DspDiskMenu
+  std::int32_t MenuPanelState = 0;   // 0 no panel, 1 top level, 4 to 8 a level, others an entry in work
+  std::int32_t MenuHiLine = 0;       // the highlighted row
+  std::int32_t FuncNo = 0;           // the active feature
+  Rect MenuPanelRect = {};           // the panel's place on the screen
+  std::int32_t MenuCloseCount = 0;  // from 40 down while the pointer is outside the panel; -1: inside it once
+  std::int32_t MenuReopenGuard = 0;  // from 40 down; blocks opening the panel again
+};
+extern PanelState Panel;
+
 // Values of MenuPanelState that stand for a level on show. Others are an entry in
 // work, 0 is no panel.
 inline constexpr std::int32_t kPanelTop = 1;

@@ -2,23 +2,30 @@
 
 #include <initializer_list>
 
-#include "clock_calendar/clicked_day.h"
+#include "clock_calendar/calendar/calendar.h"
+#include "clock_calendar/clock/clock.h"
+#include "filetools/back_up/back_up.h"
+#include "filetools/stepped_work.h"
 #include "platform/dialog.h"
 #include "platform/window.h"
 #include "resources/ids.h"
+#include "schedule/table/table_scroll.h"
+#include "services/dialog_family.h"
+#include "services/file_picker.h"
+#include "services/program.h"
 #include "shell/commands.h"
-#include "shell/shell.h"
+#include "shell/panel.h"
 
-Point PopupPoint;
+PopupsState Popups;
 
 namespace {
 
 // Shows a menu at the clicked place and sends what was chosen to the main window.
 // False when nothing was.
 bool Popup(int menuId, WindowHandle window) {
-  const std::uint32_t command = MenuPopup(menuId, window, PopupPoint.x, PopupPoint.y, true);
+  const std::uint32_t command = MenuPopup(menuId, window, Popups.PopupPoint.x, Popups.PopupPoint.y, true);
   if (command == 0) return false;
-  SendCommand(hMainWnd, command);
+  SendCommand(Program.hMainWnd, command);
   return true;
 }
 
@@ -26,7 +33,8 @@ bool Popup(int menuId, WindowHandle window) {
 
 bool PopupMayOpen() {
   for (const WindowHandle open :
-       {hDiskMenu, hMenuDlg, hToolDlg, hSubDlg, hSnryDlg, hBackUpDlg, hSearchDlg, hFilePickDlg}) {
+       {Panel.hDiskMenu, Dialogs.hMenuDlg, Dialogs.hToolDlg, Dialogs.hSubDlg, Dialogs.hSnryDlg,
+        BackUpRun.hBackUpDlg, Stepped.hSearchDlg, Picker.hFilePickDlg}) {
     if (open) return false;
   }
   return true;
@@ -34,17 +42,17 @@ bool PopupMayOpen() {
 
 void CommandSchedulePopup(std::uint32_t) {
   // The plan chart has the same menu for its lines.
-  const WindowHandle table = hSclTableWnd ? hSclTableWnd : hPlanWnd;
+  const WindowHandle table = SclTable.hSclTableWnd ? SclTable.hSclTableWnd : SclTable.hPlanWnd;
   if (table) Popup(IDM_SCHEDULE_LINE, table);
 }
 
 void CommandCalendarPopup(std::uint32_t) {
-  if (!hCalenWnd || Popup(IDM_CALENDAR_DAY, hCalenWnd)) return;
-  CalenClickedDay = 0;
-  SendPaint(hCalenWnd);
+  if (!Calendar.hCalenWnd || Popup(IDM_CALENDAR_DAY, Calendar.hCalenWnd)) return;
+  Calendar.CalenClickedDay = 0;
+  SendPaint(Calendar.hCalenWnd);
 }
 
 void CommandClockPopup(std::uint32_t) {
-  if (!hClockWnd || Popup(IDM_CLOCK, hClockWnd)) return;
-  SendPaint(hClockWnd);
+  if (!Clock.hClockWnd || Popup(IDM_CLOCK, Clock.hClockWnd)) return;
+  SendPaint(Clock.hClockWnd);
 }

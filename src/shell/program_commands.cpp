@@ -3,28 +3,29 @@
 #include "platform/file.h"
 #include "platform/process.h"
 #include "platform/window.h"
-#include "schedule/application_list.h"
+#include "schedule/applications/application_list.h"
+#include "services/program.h"
+#include "services/sibling.h"
 #include "shell/commands.h"
-#include "shell/shell.h"
-#include "shell/sibling.h"
+#include "shell/panel.h"
 
 void CommandCloseProgram(std::uint32_t) {
-  SendClose(hMainWnd);
+  SendClose(Program.hMainWnd);
 }
 
 void CommandExit(std::uint32_t) {
-  SendClose(hDiskMenu);
-  const BoxAnswer answer = MessageBoxRun(hMainWnd, "プログラムを終了します。", "プログラム終了",
+  SendClose(Panel.hDiskMenu);
+  const BoxAnswer answer = MessageBoxRun(Program.hMainWnd, "プログラムを終了します。", "プログラム終了",
                                          BoxButtons::OkCancel, BoxIcon::Question);
   if (answer == BoxAnswer::Ok) {
-    SendClose(hMainWnd);
+    SendClose(Program.hMainWnd);
   } else {
-    MenuPanelState = 0;
+    Panel.MenuPanelState = 0;
   }
 }
 
 void CommandFocusStage(std::uint32_t) {
-  WindowSetFocus(hMainWnd);
+  WindowSetFocus(Program.hMainWnd);
 }
 
 void CommandDropPopup(std::uint32_t) {
@@ -48,7 +49,7 @@ constexpr Sibling kSiblings[] = {
 
 void CommandStartSibling(std::uint32_t number) {
   for (const Sibling& sibling : kSiblings) {
-    if (sibling.command == number) SiblingStart(RootFolder, sibling.commandLine);
+    if (sibling.command == number) SiblingStart(Program.RootFolder, sibling.commandLine);
   }
 }
 
@@ -57,7 +58,7 @@ void CommandCalendarChanged(std::uint32_t) {
   static bool telling = false;
   if (telling || !ApliListHasSelected()) return;
   telling = true;
-  MessageBoxRun(hMainWnd,
+  MessageBoxRun(Program.hMainWnd,
                 ApliSelectedIsRunning()
                     ? "予定表の編集データセーブ後に予定表を閉じて再起動させてください"
                     : "予定表でカレンダー変更を有効にするには、予定表を起動しセーブする必要があります",

@@ -59,11 +59,11 @@
 #include <iterator>
 
 #include "character/character.h"
-#include "clock_calendar/calendar.h"
-#include "clock_calendar/clock.h"
-#include "schedule/schedule.h"
-#include "shell/data_file.h"
-#include "shell/shell.h"
+#include "clock_calendar/calendar/calendar.h"
+#include "clock_calendar/clock/clock.h"
+#include "schedule/model/schedule.h"
+#include "services/data_file.h"
+#include "services/program.h"
 
 namespace {
 
@@ -105,59 +105,59 @@ constexpr Field ActivateClock() {
 }
 
 constexpr Field kFields[] = {
-    Number(&CharaIndex),
-    Number(&MenuFrame),
-    Number(&BlinkFrame),
-    Number(Bored1Frames, kBoredFrameCount),
-    Number(Bored2Frames, kBoredFrameCount),
-    Number(&BoredDelaySel),
-    Number(&BoredSpeedSel),
-    Number(&BoredRepeatSel),
-    Number(&StageX),
-    Number(&StageY),
-    Number(AlarmCharaSel, kAlarmRowCount),
-    Block(CharaSet, kCharaSetSize),
-    Number(&ClockStrikeMode),
-    Number(&ClockStrikeSel),
-    Number(&ClockSoundOn),
-    Text(ClockSoundName, kClockSoundSize),
-    Byte(&ClockShow),
-    Byte(&ClockDesign),
-    Number(&ClockX),
-    Number(&ClockY),
-    Number(ClockReserved, kClockReservedCount),
+    Number(&Character.CharaIndex),
+    Number(&Character.MenuFrame),
+    Number(&Character.BlinkFrame),
+    Number(Character.Bored1Frames, kBoredFrameCount),
+    Number(Character.Bored2Frames, kBoredFrameCount),
+    Number(&Character.BoredDelaySel),
+    Number(&Character.BoredSpeedSel),
+    Number(&Character.BoredRepeatSel),
+    Number(&Character.StageX),
+    Number(&Character.StageY),
+    Number(Character.AlarmCharaSel, kAlarmRowCount),
+    Block(Character.CharaSet, kCharaSetSize),
+    Number(&Clock.ClockStrikeMode),
+    Number(&Clock.ClockStrikeSel),
+    Number(&Clock.ClockSoundOn),
+    Text(Clock.ClockSoundName, kClockSoundSize),
+    Byte(&Clock.ClockShow),
+    Byte(&Clock.ClockDesign),
+    Number(&Clock.ClockX),
+    Number(&Clock.ClockY),
+    Number(Clock.ClockReserved, kClockReservedCount),
     ActivateClock(),
-    Number(&CalenSel),
-    Text(CalenNames, kCalenNameSize, kCalenSettingsCount),
-    Block(CalenKinds, 1, kCalenSettingsCount),
-    Block(CalenParts, 1, kCalenSettingsCount),
-    Block(CalenYears, 1, kCalenYearMax),
-    Byte(&CalenShow),
-    Number(&CalenYearPos),
-    Number(&CalenFirstYear),
-    Number(&CalenYearCount),
-    Number(&CalenCount),
-    Number(&CalenKind),
-    Block(CalenMonths, kMonthBlockSize, kCalenYearMax* kMonthsOfYear),
-    Number(&CalenX),
-    Number(&CalenY),
-    Number(&CalenPageSize),
-    Number(&CalenNoteMode),
-    Number(&CalenNearNote),
-    Number(&CalenPictureOn),
-    Block(CalenBackColour, sizeof CalenBackColour),
-    Block(CalenFigPhase, kFigureCopies, kFigureCount),
-    Block(CalenFigCount, 1, kFigureCount),
-    Number(CalenFigPos1, 2 * kFigureCopies),
-    Number(CalenFigPos2, 2 * kFigureCopies),
-    Number(CalenFigPeriod, kFigureCount),
-    Number(CalenFigStep, kFigureCount),
-    Number(CalenFigTurn, kFigureCount),
-    Block(CalenFigDir, kFigureCopies, kFigureCount),
-    Text(DefaultSclName, kSclPathSize),
-    Block(CalenMonthFlags, kMonthFlagsSize, kCalenYearMax* kMonthsOfYear),
-    Block(ClockEvents, kAlarmSlotSize, kAlarmSlotCount),
-    Number(&BlinkSpeedSel),  // older files end before it
+    Number(&Calendar.CalenSel),
+    Text(Calendar.CalenNames, kCalenNameSize, kCalenSettingsCount),
+    Block(Calendar.CalenKinds, 1, kCalenSettingsCount),
+    Block(Calendar.CalenParts, 1, kCalenSettingsCount),
+    Block(Calendar.CalenYears, 1, kCalenYearMax),
+    Byte(&Calendar.CalenShow),
+    Number(&Calendar.CalenYearPos),
+    Number(&Calendar.CalenFirstYear),
+    Number(&Calendar.CalenYearCount),
+    Number(&Calendar.CalenCount),
+    Number(&Calendar.CalenKind),
+    Block(Calendar.CalenMonths, kMonthBlockSize, kCalenYearMax* kMonthsOfYear),
+    Number(&Calendar.CalenX),
+    Number(&Calendar.CalenY),
+    Number(&Calendar.CalenPageSize),
+    Number(&Calendar.CalenNoteMode),
+    Number(&Calendar.CalenNearNote),
+    Number(&Calendar.CalenPictureOn),
+    Block(Calendar.CalenBackColour, sizeof Calendar.CalenBackColour),
+    Block(Calendar.CalenFigPhase, kFigureCopies, kFigureCount),
+    Block(Calendar.CalenFigCount, 1, kFigureCount),
+    Number(Calendar.CalenFigPos1, 2 * kFigureCopies),
+    Number(Calendar.CalenFigPos2, 2 * kFigureCopies),
+    Number(Calendar.CalenFigPeriod, kFigureCount),
+    Number(Calendar.CalenFigStep, kFigureCount),
+    Number(Calendar.CalenFigTurn, kFigureCount),
+    Block(Calendar.CalenFigDir, kFigureCopies, kFigureCount),
+    Text(Schedule.DefaultSclName, kSclPathSize),
+    Block(Calendar.CalenMonthFlags, kMonthFlagsSize, kCalenYearMax* kMonthsOfYear),
+    Block(Clock.ClockEvents, kAlarmSlotSize, kAlarmSlotCount),
+    Number(&Character.BlinkSpeedSel),  // older files end before it
 };
 
 constexpr int SizeOfFields() {
@@ -230,13 +230,13 @@ int SysFileRead() {
     // kept: a file of something else counts as read, so that the start goes on
     // with the state as it was.
     DataClose(data);
-    FileStatus = -2;
+    FileResult.FileStatus = -2;
     return 0;
   }
   for (const Field& field : kFields) {
     const bool last = &field == std::end(kFields) - 1;
     if (field.kind == Kind::Clock) {
-      ClockShowWanted = ClockShow;
+      Clock.ClockShowWanted = Clock.ClockShow;
       ClockReactivate();
     }
     for (int i = 0; i < field.count && !data.failed; ++i) ReadElement(data, field, i);
@@ -244,7 +244,7 @@ int SysFileRead() {
   }
   // kept: a file with its last field shows the calendar's picture, whatever its
   // own switch says; an older file is believed.
-  if (!data.failed) CalenPictureOn = 1;
+  if (!data.failed) Calendar.CalenPictureOn = 1;
   DataClose(data);
   return 0;
 }
@@ -252,7 +252,7 @@ int SysFileRead() {
 int SysFileWrite() {
   char path[kRootPathSize];
   SysFilePath(path);
-  FileStatus = 0;
+  FileResult.FileStatus = 0;
   DataFile data;
   if (!DataReplace(data, path)) return -1;
   DataWrite(data, kMagic, kSysFileMagicSize);

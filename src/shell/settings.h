@@ -34,6 +34,9 @@ void SetFactorySettings();
 // rectangle: what the start sets before it reads the files.
 void SetDateDefaults();
 
-// Two numbers of the factory settings that nothing reads.
-extern std::int32_t FactorySpareValue;
-extern std::int32_t FactoryKeptValue;
+struct FactoryState {
+  // Two numbers of the factory settings that nothing reads.
+  std::int32_t FactorySpareValue = 0;
+  std::int32_t FactoryKeptValue = 0;
+};
+extern FactoryState Factory;

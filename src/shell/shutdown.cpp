@@ -1,13 +1,15 @@
 #include "shell/shutdown.h"
 
 #include "clock_calendar/clock_calendar_tick.h"
-#include "mail_music/mail.h"
+#include "mail_music/mail/mail.h"
 #include "platform/memory.h"
 #include "platform/window.h"
-#include "schedule/application_list.h"
-#include "schedule/schedule_run.h"
+#include "schedule/applications/application_list.h"
+#include "schedule/execution/schedule_run.h"
+#include "services/drawing_objects.h"
+#include "services/program.h"
+#include "services/work_blocks.h"
 #include "shell/old_data.h"
-#include "shell/shell.h"
 #include "shell/start.h"
 #include "shell/tick_timer.h"
 
@@ -21,11 +23,11 @@ void BlockFree(unsigned char*& block) {
 }  // namespace
 
 void Shutdown() {
-  Quitting = true;
+  Program.Quitting = true;
   TickTimerStop();
-  BlockFree(ScopeBlock);
+  BlockFree(WorkBlocks.ScopeBlock);
   ClockPreviewFree();
-  BlockFree(CastBlock);
+  BlockFree(WorkBlocks.CastBlock);
   ApliListFree();
   SclMapFree();
   OldDataFree();

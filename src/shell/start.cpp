@@ -1,66 +1,70 @@
 #include "shell/start.h"
 
 #include "character/alarm_images.h"
+#include "character/character.h"
 #include "character/character_file.h"
 #include "character/stage.h"
-#include "clock_calendar/calendar.h"
-#include "clock_calendar/clock.h"
+#include "clock_calendar/calendar/calendar.h"
+#include "clock_calendar/clock/clock.h"
 #include "clock_calendar/clock_calendar_tick.h"
-#include "filetools/desktop_tidy.h"
-#include "mail_music/mail.h"
+#include "filetools/tidy/desktop_tidy.h"
+#include "mail_music/mail/mail.h"
 #include "platform/file.h"
 #include "platform/memory.h"
 #include "platform/screen.h"
 #include "platform/time.h"
 #include "platform/window.h"
-#include "scenario/world_list.h"
-#include "schedule/application_list.h"
-#include "schedule/schedule_run.h"
-#include "shell/boxes.h"
+#include "schedule/applications/application_list.h"
+#include "schedule/execution/schedule_run.h"
+#include "services/boxes.h"
+#include "services/drawing_objects.h"
+#include "services/file_picker.h"
+#include "services/program.h"
+#include "services/random.h"
+#include "services/screen_figures.h"
+#include "services/text.h"
+#include "services/work_blocks.h"
 #include "shell/diagnostic_numbers.h"
 #include "shell/file_dialog_defaults.h"
 #include "shell/file_watch.h"
-#include "shell/random.h"
 #include "shell/settings.h"
-#include "shell/shell.h"
-#include "shell/text.h"
-#include "shell/text_figures.h"
 #include "shell/tick_timer.h"
+#include "world/world_list.h"
 
 namespace {
 
 void FoldersTake() {
-  FolderGetCurrent(RootFolder, sizeof RootFolder);
-  FolderGetCurrent(PickFolder, sizeof PickFolder);
-  for (auto& folder : PickerStartFolders) TextCopy(folder, sizeof folder, PickFolder);
+  FolderGetCurrent(Program.RootFolder, sizeof Program.RootFolder);
+  FolderGetCurrent(Picker.PickFolder, sizeof Picker.PickFolder);
+  for (auto& folder : Picker.PickerStartFolders) TextCopy(folder, sizeof folder, Picker.PickFolder);
 }
 
 void TimerBegin() {
   if (TickTimerStart()) return;
   // kept: the program's name is the text and the error the caption, as in all boxes of
   // this kind here.
-  BoxTell(hMainWnd, "ミルレール", "タイマー設定できません");
+  BoxTell(Program.hMainWnd, "ミルレール", "タイマー設定できません");
 }
 
 void ScreenFiguresTake() {
-  SizeButtonWidth = ScreenMetric(Metric::SizeButtonWidth);
-  MenuBarHeight = ScreenMetric(Metric::MenuHeight);
-  FrameWidth = ScreenMetric(Metric::FrameWidth);
-  FrameHeight = ScreenMetric(Metric::FrameHeight);
+  Screen.SizeButtonWidth = ScreenMetric(Metric::SizeButtonWidth);
+  Screen.MenuBarHeight = ScreenMetric(Metric::MenuHeight);
+  Screen.FrameWidth = ScreenMetric(Metric::FrameWidth);
+  Screen.FrameHeight = ScreenMetric(Metric::FrameHeight);
 }
 
 }  // namespace
 
 void StartSequence(WindowHandle window) {
-  hMainWnd = window;
-  Quitting = false;
+  Program.hMainWnd = window;
+  Program.Quitting = false;
   DiagnosticsShowAll();
   FileDialogDefaultsSet();
   TextFiguresTake(window);
   DrawingObjectsCreate();
   SclTablesClear();
-  CastBlock = static_cast<unsigned char*>(MemoryAllocate(kCastBlockSize));
-  ScopeBlock = static_cast<unsigned char*>(MemoryAllocate(kScopeBlockSize));
+  WorkBlocks.CastBlock = static_cast<unsigned char*>(MemoryAllocate(kCastBlockSize));
+  WorkBlocks.ScopeBlock = static_cast<unsigned char*>(MemoryAllocate(kScopeBlockSize));
   RandomSeed(1);
   RandomSeed(static_cast<std::uint32_t>(TimeSeconds()));
   FoldersTake();
@@ -70,20 +74,20 @@ void StartSequence(WindowHandle window) {
   CalenStartDefaults();
   TidyReset();
   SetDateDefaults();
-  StageWidth = 300;
-  StageHeight = 200;
+  Stage.StageWidth = 300;
+  Stage.StageHeight = 200;
   ScreenFiguresTake();
 
   const int settings = SysFileRead();
   ApliListOpen();
   WorldListRead();
   CalenFileRead();
-  FileWatchStampTake(WatchedFile::Calendar);
+  FileWatchStampTake(WatchedFile::CalendarFile);
   CharaFileRead();
-  FileWatchStampTake(WatchedFile::Character);
-  CharaTakeCurrent(CharaIndex);
+  FileWatchStampTake(WatchedFile::CharacterFile);
+  CharaTakeCurrent(Character.CharaIndex);
   ClockAlarmFileLoad();
-  FileWatchStampTake(WatchedFile::ClockAlarm);
+  FileWatchStampTake(WatchedFile::ClockAlarmFile);
   ClockAlarmCheckReset();
   if (CharaLoadStage() >= 0) StageShapeAndPlace();
   ClockActivate();
@@ -94,6 +98,6 @@ void StartSequence(WindowHandle window) {
 
   AlarmCharaLoad();
   ClockReactivate();
-  if (ClockShow) SendCommand(hMainWnd, 2254);
-  if (CalenShow && !hCalenWnd) CalenWindowOpen();
+  if (Clock.ClockShow) SendCommand(Program.hMainWnd, 2254);
+  if (Calendar.CalenShow && !Calendar.hCalenWnd) CalenWindowOpen();
 }

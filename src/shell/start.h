@@ -2,6 +2,7 @@
 #pragma once
 
 #include "platform/types.h"
+#include "services/drawing_objects.h"
 
 // Brings the program up around its main window, in the fixed order. Reading
 // failures of data files are silent; without the settings file the sequence ends

@@ -3,32 +3,36 @@
 #include <algorithm>
 #include <limits>
 
-#include "character/clock_notice.h"
 #include "character/motion.h"
 #include "character/notices.h"
 #include "character/options.h"
-#include "character/scl_notice.h"
 #include "character/walk.h"
-#include "clock_calendar/calendar.h"
-#include "clock_calendar/clock.h"
+#include "clock_calendar/calendar/calendar.h"
+#include "clock_calendar/clock/clock.h"
+#include "clock_calendar/clock/clock_notice.h"
 #include "clock_calendar/clock_calendar_tick.h"
-#include "filetools/group_open.h"
-#include "filetools/open_groups.h"
-#include "mail_music/mail.h"
+#include "filetools/back_up/back_up.h"
+#include "filetools/open/group_open.h"
+#include "filetools/open/open_groups.h"
+#include "filetools/stepped_work.h"
+#include "mail_music/mail/mail.h"
 #include "platform/screen.h"
 #include "platform/time.h"
 #include "platform/window.h"
-#include "schedule/application_list.h"
-#include "schedule/hand_off.h"
-#include "schedule/schedule_run.h"
-#include "schedule/table_scroll.h"
+#include "schedule/applications/application_list.h"
+#include "schedule/applications/hand_off.h"
+#include "schedule/execution/schedule_run.h"
+#include "schedule/execution/scl_notice.h"
+#include "schedule/table/table_scroll.h"
+#include "services/dialog_family.h"
+#include "services/five_ticks.h"
+#include "services/program.h"
+#include "services/today.h"
 #include "shell/entry.h"
 #include "shell/file_watch.h"
 #include "shell/panel.h"
-#include "shell/shared_time.h"
-#include "shell/shell.h"
 
-std::int32_t TickCount;
+TickCountsState TickCounts;
 
 namespace {
 
@@ -38,98 +42,101 @@ constexpr std::int32_t kFileWatchTicks = 201;
 constexpr std::uint32_t kPanelCloseCommand = 2;
 
 void CommandLineStep() {
-  if (PendingCommandLine[0] == '\0') return;
+  if (Entry.PendingCommandLine[0] == '\0') return;
   CommandLineTake();
-  SendCommand(hMainWnd, 2373);
+  SendCommand(Program.hMainWnd, 2373);
 }
 
 void BackUpStepTell() {
-  if (BackUpActive) SendCommand(hBackUpDlg, 2375);
+  if (BackUpRun.BackUpActive) SendCommand(BackUpRun.hBackUpDlg, 2375);
 }
 
 void SteppedWorkTell() {
-  if (progressMode >= 1 && progressMode <= 4) SendCommand(hSearchDlg, 2376);
+  if (Stepped.progressMode >= 1 && Stepped.progressMode <= 4) SendCommand(Stepped.hSearchDlg, 2376);
 }
 
 void HandOffStep() {
-  if (SclHandOffCheck()) SendCommand(hMainWnd, 2372);
+  if (SclHandOffCheck()) SendCommand(Program.hMainWnd, 2372);
 }
 
 void ReopenGuardStep() {
-  if (MenuReopenGuard > 0) --MenuReopenGuard;
+  if (Panel.MenuReopenGuard > 0) --Panel.MenuReopenGuard;
 }
 
 void PanelClose() {
-  MenuPanelState = 0;
-  SendCommand(hDiskMenu, kPanelCloseCommand);
+  Panel.MenuPanelState = 0;
+  SendCommand(Panel.hDiskMenu, kPanelCloseCommand);
 }
 
 // The pointer has not been inside the panel yet: it closes by count.
 void PanelCountStep() {
-  if (MenuPanelState != kPanelTop || MenuCloseCount == kMenuInside) return;
-  if (MenuCloseCount != 0) --MenuCloseCount;
-  if (MenuCloseCount == 0) PanelClose();
+  if (Panel.MenuPanelState != kPanelTop || Panel.MenuCloseCount == kMenuInside) return;
+  if (Panel.MenuCloseCount != 0) --Panel.MenuCloseCount;
+  if (Panel.MenuCloseCount == 0) PanelClose();
 }
 
 // The pointer has been inside: it closes as soon as the pointer is outside.
 void PanelPointerStep() {
-  if (MenuPanelState != kPanelTop || MenuCloseCount != kMenuInside) return;
+  if (Panel.MenuPanelState != kPanelTop || Panel.MenuCloseCount != kMenuInside) return;
   const Point at = PointerPosition();
-  if (at.x < MenuPanelRect.left || at.x >= MenuPanelRect.right || at.y < MenuPanelRect.top ||
-      at.y >= MenuPanelRect.bottom) {
+  if (at.x < Panel.MenuPanelRect.left || at.x >= Panel.MenuPanelRect.right ||
+      at.y < Panel.MenuPanelRect.top || at.y >= Panel.MenuPanelRect.bottom) {
     PanelClose();
   }
 }
 
 void MailStep() {
-  if (!MailCheckOn) return;
-  if (++MailTickCount >= kMailUnitTicks) {
-    MailTickCount = 0;
-    if (MailMinuteCount != 0) --MailMinuteCount;
+  if (!Mail.MailCheckOn) return;
+  if (++Mail.MailTickCount >= kMailUnitTicks) {
+    Mail.MailTickCount = 0;
+    if (Mail.MailMinuteCount != 0) --Mail.MailMinuteCount;
   }
-  if (MailMinuteCount == 0) {
-    MailMinuteCount = MailInterval;
-    SendCommand(hMainWnd, 2079);
+  if (Mail.MailMinuteCount == 0) {
+    Mail.MailMinuteCount = Mail.MailInterval;
+    SendCommand(Program.hMainWnd, 2079);
   }
-  if (MailNoticeFlag == 1) MailNoticeStart();
+  if (Mail.MailNoticeFlag == 1) MailNoticeStart();
 }
 
 void ClockStep() {
-  const bool adjusting = DlgIdTool == 2016 && hToolDlg;
-  if (!adjusting && !hClockWnd && !SclIsRunning() && !hCalenWnd) return;
-  TimeGetLocal(&SharedTime);
+  const bool adjusting = Dialogs.DlgIdTool == 2016 && Dialogs.hToolDlg;
+  if (!adjusting && !Clock.hClockWnd && !SclIsRunning() && !Calendar.hCalenWnd) return;
+  TimeGetLocal(&Today.SharedTime);
   if (adjusting) WatchAdustTimeDraw();
-  if (hClockWnd && ClockTickCheck(SharedTime.hour, SharedTime.minute) != 0) SendPaint(hClockWnd);
-  if (SclIsRunning() && SclDueCheck()) SendCommand(hMainWnd, 2265);
-  if (hCalenWnd || hClockNoticeWnd) {
-    if (CalenTickCheck() != 0) SendPaint(hCalenWnd);
-    if (ClockAlarmCheck(SharedTime.hour, SharedTime.minute) != 0) SendCommand(hMainWnd, 2336);
-    if (hClockNoticeWnd && ClockNoticeWaitIsOver()) SendCommand(hClockNoticeWnd, 2258);
-    if (hCalenWnd) CalenTickerTick();
+  if (Clock.hClockWnd && ClockTickCheck(Today.SharedTime.hour, Today.SharedTime.minute) != 0)
+    SendPaint(Clock.hClockWnd);
+  if (SclIsRunning() && SclDueCheck()) SendCommand(Program.hMainWnd, 2265);
+  if (Calendar.hCalenWnd || ClockNotice.hClockNoticeWnd) {
+    if (CalenTickCheck() != 0) SendPaint(Calendar.hCalenWnd);
+    if (ClockAlarmCheck(Today.SharedTime.hour, Today.SharedTime.minute) != 0)
+      SendCommand(Program.hMainWnd, 2336);
+    if (ClockNotice.hClockNoticeWnd && ClockNoticeWaitIsOver())
+      SendCommand(ClockNotice.hClockNoticeWnd, 2258);
+    if (Calendar.hCalenWnd) CalenTickerTick();
   }
 }
 
 void MotionStep() {
-  if (CharaMotionTick() != 0) SendCommand(hMainWnd, 2293);
+  if (CharaMotionTick() != 0) SendCommand(Program.hMainWnd, 2293);
 }
 
 void PreviewStep() {
-  if (MotionPreviewTick() != 0) SendPaint(hSubDlg);
+  if (MotionPreviewTick() != 0) SendPaint(Dialogs.hSubDlg);
 }
 
 // Off at 0, until a feature that needs the five-tick step sets it.
 void FrameDividerStep() {
-  if (FrameDivider <= 0) return;
-  if (--FrameDivider != 0) return;
-  FrameDivider = kFrameDividerReload;
+  if (FiveTicks.FrameDivider <= 0) return;
+  if (--FiveTicks.FrameDivider != 0) return;
+  FiveTicks.FrameDivider = kFrameDividerReload;
   MailNoticeFrameStep();
   SclNoticeFrameStep();
   AlarmCheckFrameStep();
 }
 
 void FileWatchStep() {
-  if (++FileWatchCount < kFileWatchTicks) return;
-  FileWatchCount = 0;
+  if (++TickCounts.FileWatchCount < kFileWatchTicks) return;
+  TickCounts.FileWatchCount = 0;
   FileWatch();
 }
 
@@ -142,22 +149,23 @@ int NextIf(bool active) {
 }
 
 int PanelDue() {
-  return NextIf(MenuPanelState == kPanelTop);
+  return NextIf(Panel.MenuPanelState == kPanelTop);
 }
 
 int MailDue() {
-  if (!MailCheckOn) return kNever;
-  if (MailMinuteCount == 0 || MailNoticeFlag == 1) return 1;
-  return kMailUnitTicks - MailTickCount;
+  if (!Mail.MailCheckOn) return kNever;
+  if (Mail.MailMinuteCount == 0 || Mail.MailNoticeFlag == 1) return 1;
+  return kMailUnitTicks - Mail.MailTickCount;
 }
 
 int ClockDue() {
-  return NextIf(hToolDlg || hClockWnd || hCalenWnd || SclIsRunning());
+  return NextIf(Dialogs.hToolDlg || Clock.hClockWnd || Calendar.hCalenWnd || SclIsRunning());
 }
 
 // The divider goes on running when the last notice has closed, for nobody.
 int FrameDividerDue() {
-  return NextIf(FrameDivider > 0 && (hMailNoticeWnd || hSclNoticeWnd || hToolDlg));
+  return NextIf(FiveTicks.FrameDivider > 0 &&
+                (Mail.hMailNoticeWnd || Notices.hSclNoticeWnd || Dialogs.hToolDlg));
 }
 
 struct TickStep {
@@ -169,32 +177,32 @@ struct TickStep {
 // clock's step reads, and the character moves after the alarms, so that a menu or
 // an alarm that began in this tick draws first.
 constexpr TickStep kSteps[] = {
-    {CommandLineStep, [] { return NextIf(PendingCommandLine[0] != '\0'); }},
-    {BackUpStepTell, [] { return NextIf(BackUpActive); }},
-    {SteppedWorkTell, [] { return NextIf(progressMode != 0); }},
-    {HandOffStep, [] { return NextIf(ApliStarted != 0); }},
-    {ReopenGuardStep, [] { return NextIf(MenuReopenGuard > 0); }},
+    {CommandLineStep, [] { return NextIf(Entry.PendingCommandLine[0] != '\0'); }},
+    {BackUpStepTell, [] { return NextIf(BackUpRun.BackUpActive); }},
+    {SteppedWorkTell, [] { return NextIf(Stepped.progressMode != 0); }},
+    {HandOffStep, [] { return NextIf(Applications.ApliStarted != 0); }},
+    {ReopenGuardStep, [] { return NextIf(Panel.MenuReopenGuard > 0); }},
     {PanelCountStep, PanelDue},
     {PanelPointerStep, PanelDue},
     {MailStep, MailDue},
     {OpnGroupTick, [] { return NextIf(OpnPendingGroup != nullptr); }},
-    {WalkTickAll, [] { return NextIf(WalkActive); }},
-    {WalkEndTickAll, [] { return NextIf(WalkEndActive); }},
-    {ClockPreviewStep, [] { return NextIf(hToolDlg != nullptr); }},
+    {WalkTickAll, [] { return NextIf(Walk.WalkActive); }},
+    {WalkEndTickAll, [] { return NextIf(Walk.WalkEndActive); }},
+    {ClockPreviewStep, [] { return NextIf(Dialogs.hToolDlg != nullptr); }},
     {ClockStep, ClockDue},
     {MotionStep, CharaMotionDue},
-    {PreviewStep, [] { return NextIf(hSubDlg != nullptr); }},
+    {PreviewStep, [] { return NextIf(Dialogs.hSubDlg != nullptr); }},
     {FrameDividerStep, FrameDividerDue},
-    {TableScrollTick, [] { return NextIf(hSclTableWnd || hPlanWnd); }},
-    {FileWatchStep, [] { return kFileWatchTicks - FileWatchCount; }},
+    {TableScrollTick, [] { return NextIf(SclTable.hSclTableWnd || SclTable.hPlanWnd); }},
+    {FileWatchStep, [] { return kFileWatchTicks - TickCounts.FileWatchCount; }},
 };
 
 }  // namespace
 
 void MainTick() {
-  ++TickCount;
+  ++TickCounts.TickCount;
   for (const TickStep& step : kSteps) {
-    if (Quitting) return;
+    if (Program.Quitting) return;
     step.run();
   }
 }

@@ -7,8 +7,12 @@
 inline constexpr int kTickMilliseconds = 30;
 inline constexpr int kTickTimer = 1;
 
-// Ticks since the start, nested ones too.
-extern std::int32_t TickCount;
+struct TickCountsState {
+  // Ticks since the start, nested ones too.
+  std::int32_t TickCount = 0;
+  std::int32_t FileWatchCount = 0;  // up to 201
+};
+extern TickCountsState TickCounts;
 
 // Every periodic job of the program, in its fixed order. Re-entrant: a step may
 // open a modal window from inside, and further ticks then run nested in it; the

@@ -4,9 +4,21 @@
 #include <cstdint>
 #include <initializer_list>
 
+#include "clock_calendar/calendar/calendar.h"
+#include "clock_calendar/clock/clock.h"
+#include "clock_calendar/clock/clock_notice.h"
+#include "filetools/back_up/back_up.h"
+#include "filetools/stepped_work.h"
+#include "mail_music/mail/mail.h"
+#include "mail_music/music/music.h"
 #include "platform/time.h"
 #include "platform/window.h"
-#include "shell/shell.h"
+#include "schedule/execution/scl_notice.h"
+#include "schedule/table/table_scroll.h"
+#include "services/dialog_family.h"
+#include "services/file_picker.h"
+#include "services/program.h"
+#include "shell/panel.h"
 #include "shell/tick.h"
 
 namespace {
@@ -24,7 +36,7 @@ void PeriodSet(int ticks) {
   periodBegan = TimeMilliseconds();
   if (ticks == ticksOfPeriod) return;
   ticksOfPeriod = ticks;
-  TimerPeriodSet(hMainWnd, kTickTimer, ticks * kTickMilliseconds);
+  TimerPeriodSet(Program.hMainWnd, kTickTimer, ticks * kTickMilliseconds);
 }
 
 // Ends the rest, if there is one. Returns the ticks that have passed in it.
@@ -49,8 +61,10 @@ void Run(int ticks) {
 // tick has to do.
 bool OnlyTheStageIsOpen() {
   for (const WindowHandle open :
-       {hDiskMenu, hMenuDlg, hToolDlg, hSubDlg, hSnryDlg, hFilePickDlg, hBackUpDlg, hSearchDlg, hClockWnd,
-        hCalenWnd, hMailNoticeWnd, hSclNoticeWnd, hClockNoticeWnd, hSclTableWnd, hPlanWnd, hBgmWnd}) {
+       {Panel.hDiskMenu, Dialogs.hMenuDlg, Dialogs.hToolDlg, Dialogs.hSubDlg, Dialogs.hSnryDlg,
+        Picker.hFilePickDlg, BackUpRun.hBackUpDlg, Stepped.hSearchDlg, Clock.hClockWnd, Calendar.hCalenWnd,
+        Mail.hMailNoticeWnd, Notices.hSclNoticeWnd, ClockNotice.hClockNoticeWnd, SclTable.hSclTableWnd,
+        SclTable.hPlanWnd, Music.hBgmWnd}) {
     if (open) return false;
   }
   return true;
@@ -62,7 +76,7 @@ bool TickTimerStart() {
   ticksOfPeriod = 1;
   ticksOwed = 0;
   resting = false;
-  running = TimerStart(hMainWnd, kTickTimer, kTickMilliseconds);
+  running = TimerStart(Program.hMainWnd, kTickTimer, kTickMilliseconds);
   return running;
 }
 
@@ -70,7 +84,7 @@ void TickTimerStop() {
   running = false;
   resting = false;
   ticksOwed = 0;
-  TimerStop(hMainWnd, kTickTimer);
+  TimerStop(Program.hMainWnd, kTickTimer);
 }
 
 void TickTimerFired() {

@@ -2,6 +2,8 @@
 
 #include <memory>
 
+#include "character/character.h"
+#include "character/walk.h"
 #include "platform/screen.h"
 #include "tests/character/walk_fixture.h"
 
@@ -11,23 +13,23 @@ class BalloonTest : public WalkFixture {
  protected:
   void SetUp() override {
     WalkFixture::SetUp();
-    SetWalkCount(CharaSet, 0, 0);
-    SetWalkPeriod(CharaSet, 0, 0);
+    SetWalkCount(Character.CharaSet, 0, 0);
+    SetWalkPeriod(Character.CharaSet, 0, 0);
     group_ = std::make_unique<OpnGroupRec>();
-    WalkLastX = 500;
-    WalkLastY = 400;
+    Walk.WalkLastX = 500;
+    Walk.WalkLastY = 400;
   }
   // Runs to the balloon and lets `look` at it.
   void WithBalloon(std::function<void(WindowHandle)> look) {
     Then([look] {
-      const WindowHandle balloon = WalkSlots[0].balloonWindow;
+      const WindowHandle balloon = Walk.WalkSlots[0].balloonWindow;
       ASSERT_NE(balloon, nullptr);
       look(balloon);
     });
     ThenTicks(4);
-    const std::int32_t state = OpeningState;
+    const std::int32_t state = Walk.OpeningState;
     ASSERT_EQ(WalkStartOpen(), 0);
-    OpeningState = state;
+    Walk.OpeningState = state;
     WalkTicks(1);
   }
   void PutGroup(int count, const std::string& name) {
@@ -36,13 +38,13 @@ class BalloonTest : public WalkFixture {
       TextCopy(group_->fileName[i], kOpnTextSize, (name + std::to_string(i)).c_str());
     }
     OpnPendingGroup = group_.get();
-    OpeningState = 2;
+    Walk.OpeningState = 2;
   }
   std::unique_ptr<OpnGroupRec> group_;
 };
 
 TEST_F(BalloonTest, ASingleOpeningShowsItsQuotedName) {
-  OpeningState = 1;
+  Walk.OpeningState = 1;
   WithBalloon([](WindowHandle balloon) {
     EXPECT_TRUE(TextStands(balloon, "\"letter.txt\"", 10, 20));
     EXPECT_TRUE(TextStands(balloon, " をオープン", 10, 38));
@@ -55,7 +57,7 @@ TEST_F(BalloonTest, ASingleOpeningShowsItsQuotedName) {
 }
 
 TEST_F(BalloonTest, TheBalloonStandsUnderTheEndPicture) {
-  OpeningState = 1;
+  Walk.OpeningState = 1;
   WithBalloon([](WindowHandle balloon) {
     EXPECT_EQ(WindowRect(balloon).left, 500);
     EXPECT_EQ(WindowRect(balloon).top, 400 + 20);
@@ -63,10 +65,10 @@ TEST_F(BalloonTest, TheBalloonStandsUnderTheEndPicture) {
 }
 
 TEST_F(BalloonTest, WithoutAnEndPictureItStandsLeftAboveAndNotBeyondTheScreen) {
-  SetEndFrames(CharaSet, 0, 0, 9);
-  WalkLastX = 299;
-  WalkLastY = 201;
-  OpeningState = 1;
+  SetEndFrames(Character.CharaSet, 0, 0, 9);
+  Walk.WalkLastX = 299;
+  Walk.WalkLastY = 201;
+  Walk.OpeningState = 1;
   WithBalloon([](WindowHandle balloon) {
     EXPECT_EQ(WindowRect(balloon).left, 0);
     EXPECT_EQ(WindowRect(balloon).top, 1);
@@ -76,13 +78,13 @@ TEST_F(BalloonTest, WithoutAnEndPictureItStandsLeftAboveAndNotBeyondTheScreen) {
 // 33 letters and two quotes are 35 columns: 35 * 8 + 24 = 304.
 TEST_F(BalloonTest, TheWidthGrowsWithTheName) {
   TextCopy(OpnSelection.fileName, kOpnTextSize, std::string(33, 'a').c_str());
-  OpeningState = 1;
+  Walk.OpeningState = 1;
   WithBalloon([](WindowHandle balloon) { EXPECT_EQ(RectWidth(WindowRect(balloon)), 304); });
 }
 
 TEST_F(BalloonTest, AVeryLongNameGivesABalloonOf800PixelsWithItsTextCutByTheWindow) {
   TextCopy(OpnSelection.fileName, kOpnTextSize, std::string(299, 'a').c_str());
-  OpeningState = 1;
+  Walk.OpeningState = 1;
   WithBalloon([](WindowHandle balloon) {
     EXPECT_EQ(RectWidth(WindowRect(balloon)), 800);
     EXPECT_TRUE(TextStands(balloon, ("\"" + std::string(299, 'a') + "\"").c_str(), 10, 20));
@@ -91,7 +93,7 @@ TEST_F(BalloonTest, AVeryLongNameGivesABalloonOf800PixelsWithItsTextCutByTheWind
 
 TEST_F(BalloonTest, ANameWithoutATerminatorIsHeldInsideItsField) {
   std::memset(OpnSelection.fileName, 'a', kOpnTextSize);
-  OpeningState = 1;
+  Walk.OpeningState = 1;
   WithBalloon([](WindowHandle balloon) {
     EXPECT_TRUE(TextStands(balloon, ("\"" + std::string(300, 'a') + "\"").c_str(), 10, 20));
   });
@@ -128,7 +130,7 @@ TEST_F(BalloonTest, AGroupsCountIsHeldInsideItsTable) {
 }
 
 TEST_F(BalloonTest, WithoutAPendingGroupOnlyTheLastLineStands) {
-  OpeningState = 2;
+  Walk.OpeningState = 2;
   OpnPendingGroup = nullptr;
   WithBalloon([](WindowHandle balloon) {
     EXPECT_EQ(DrawnTexts(balloon).size(), 1U);
@@ -140,15 +142,15 @@ TEST_F(BalloonTest, ItsOwnButtonsCloseItAndTheEndPhaseRunsOn) {
   for (const std::uint32_t button : {1U, 2U}) {
     commands.clear();
     ASSERT_EQ(WalkStartOpen(), 0);
-    OpeningState = 1;
+    Walk.OpeningState = 1;
     Then([button] {
-      SendCommand(WalkSlots[0].balloonWindow, button);
-      EXPECT_EQ(WalkSlots[0].balloonWindow, nullptr);
+      SendCommand(Walk.WalkSlots[0].balloonWindow, button);
+      EXPECT_EQ(Walk.WalkSlots[0].balloonWindow, nullptr);
     });
     WalkTicks(1);
-    EXPECT_NE(WalkSlots[0].endWindow, nullptr);
+    EXPECT_NE(Walk.WalkSlots[0].endWindow, nullptr);
     WalkTicks(2);
-    EXPECT_EQ(OpeningState, 1);
+    EXPECT_EQ(Walk.OpeningState, 1);
     WalkTicks(1);
     EXPECT_EQ(commands, (std::vector<std::uint32_t>{2208, 2202}));
   }

@@ -12,9 +12,9 @@
 #include "character/frames.h"
 #include "platform/posix/faults.h"
 #include "platform/posix/posix_paths.h"
-#include "shell/data_file.h"
-#include "shell/shell.h"
-#include "shell/text.h"
+#include "services/data_file.h"
+#include "services/program.h"
+#include "services/text.h"
 #include "tests/support/desktop.h"
 
 inline std::string BE16(int value) {
@@ -67,7 +67,7 @@ class CharaFiles : public DesktopTest {
   void SetUp() override {
     DesktopTest::SetUp();
     MakeFolder(InProgram("キャラクタ"));
-    FileStatus = 0;
+    FileResult.FileStatus = 0;
   }
   void TearDown() override {
     for (int row = 0; row < kFrameRowCount; ++row) FramesFree(row);
@@ -75,12 +75,14 @@ class CharaFiles : public DesktopTest {
   }
 
   // The file system's name of a file of the program folder ("\\name").
-  static std::string Native(const std::string& name) { return PosixPath((RootFolder + name).c_str()); }
+  static std::string Native(const std::string& name) {
+    return PosixPath((Program.RootFolder + name).c_str());
+  }
 
   static void Put(const std::string& name, const std::string& content) {
-    ASSERT_TRUE(PutFile(RootFolder + name, content));
+    ASSERT_TRUE(PutFile(Program.RootFolder + name, content));
   }
-  static std::string Get(const std::string& name) { return FileBytes(RootFolder + name); }
+  static std::string Get(const std::string& name) { return FileBytes(Program.RootFolder + name); }
 
   // Files of a character, by its number and a frame from 1.
   static void PutDwc(int number, const std::string& content) {

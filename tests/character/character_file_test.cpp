@@ -6,9 +6,12 @@
 #include <random>
 
 #include "character/chara_set.h"
+#include "character/character.h"
 #include "character/character_tables.h"
-#include "clock_calendar/clock.h"
+#include "clock_calendar/clock/clock.h"
 #include "platform/diagnostics.h"
+#include "services/data_file.h"
+#include "services/program.h"
 #include "tests/character/chara_files.h"
 #include "tests/support/failing_writes.h"
 
@@ -22,7 +25,7 @@ constexpr char kMagic[] = "Mirrell Character File:";
 constexpr unsigned char kListStrikeMode = 77;
 int DesignsTaken() {
   int count = 0;
-  for (const ClockDesignRow& row : ClockDesigns) {
+  for (const ClockDesignRow& row : CharaTables.ClockDesigns) {
     if (row.record[kDesignStrikeMode] == kListStrikeMode) ++count;
   }
   return count;
@@ -68,43 +71,47 @@ class CharacterFileTest : public CharaFiles {
   void SetUp() override {
     CharaFiles::SetUp();
     Clear();
-    ClockListCount = kClockDesignMax;
-    for (unsigned char(&record)[kClockListSize] : ClockList) record[kClockListStrikeMode] = kListStrikeMode;
+    Clock.ClockListCount = kClockDesignMax;
+    for (unsigned char(&record)[kClockListSize] : Clock.ClockList)
+      record[kClockListStrikeMode] = kListStrikeMode;
   }
   void TearDown() override {
     Clear();
-    ClockListCount = 0;
+    Clock.ClockListCount = 0;
     CharaFiles::TearDown();
   }
   static void Clear() {
-    MainCharaCount = AlarmCharaCount = WalkCharaCount = ClockDesignCount = 0;
-    for (MainChara& row : MainCharas) row = MainChara{};
-    for (std::int32_t& number : AlarmCharas) number = 0;
-    for (WalkChara& row : WalkCharas) row = WalkChara{};
-    for (ClockDesignRow& row : ClockDesigns) row = ClockDesignRow{};
-    std::memset(WalkFlags, 0, sizeof WalkFlags);
+    CharaTables.MainCharaCount = CharaTables.AlarmCharaCount = CharaTables.WalkCharaCount =
+        CharaTables.ClockDesignCount = 0;
+    for (MainChara& row : CharaTables.MainCharas) row = MainChara{};
+    for (std::int32_t& number : CharaTables.AlarmCharas) number = 0;
+    for (WalkChara& row : CharaTables.WalkCharas) row = WalkChara{};
+    for (ClockDesignRow& row : CharaTables.ClockDesigns) row = ClockDesignRow{};
+    std::memset(CharaTables.WalkFlags, 0, sizeof CharaTables.WalkFlags);
   }
   // Tables that a failed read must leave as they are.
   static void Fill() {
-    MainCharaCount = 3;
-    MainCharas[2].menuFrame = 1234;
-    AlarmCharaCount = 4;
-    AlarmCharas[3] = 55;
-    WalkCharaCount = 5;
-    TextCopy(WalkCharas[4].sound, kWalkSoundSize, "old.wav");
-    ClockDesignCount = 6;
-    ClockDesigns[5].number = 99;
-    WalkFlags[7] = 1;
+    CharaTables.MainCharaCount = 3;
+    CharaTables.MainCharas[2].menuFrame = 1234;
+    CharaTables.AlarmCharaCount = 4;
+    CharaTables.AlarmCharas[3] = 55;
+    CharaTables.WalkCharaCount = 5;
+    TextCopy(CharaTables.WalkCharas[4].sound, kWalkSoundSize, "old.wav");
+    CharaTables.ClockDesignCount = 6;
+    CharaTables.ClockDesigns[5].number = 99;
+    CharaTables.WalkFlags[7] = 1;
   }
   static bool IsAsFilled() {
-    return MainCharaCount == 3 && MainCharas[2].menuFrame == 1234 && AlarmCharaCount == 4 &&
-           AlarmCharas[3] == 55 && WalkCharaCount == 5 && std::strcmp(WalkCharas[4].sound, "old.wav") == 0 &&
-           ClockDesignCount == 6 && ClockDesigns[5].number == 99 && WalkFlags[7] == 1;
+    return CharaTables.MainCharaCount == 3 && CharaTables.MainCharas[2].menuFrame == 1234 &&
+           CharaTables.AlarmCharaCount == 4 && CharaTables.AlarmCharas[3] == 55 &&
+           CharaTables.WalkCharaCount == 5 && std::strcmp(CharaTables.WalkCharas[4].sound, "old.wav") == 0 &&
+           CharaTables.ClockDesignCount == 6 && CharaTables.ClockDesigns[5].number == 99 &&
+           CharaTables.WalkFlags[7] == 1;
   }
 };
 
 TEST_F(CharacterFileTest, ThePathIsTheProgramFolderAndTheName) {
-  TextCopy(RootFolder, kRootSize, "C:\\mirrell");
+  TextCopy(Program.RootFolder, kRootSize, "C:\\mirrell");
   char path[kCharaFilePathSize];
   EXPECT_EQ(CharaFilePath(path), 33);
   EXPECT_STREQ(path, "C:\\mirrell\\mirrell_chara_file.dcx");
@@ -115,9 +122,9 @@ TEST_F(CharacterFileTest, EveryFieldReachesItsTable) {
   ASSERT_EQ(file.size(), kEnd);
   Put(kName, file);
   EXPECT_EQ(CharaFileRead(), 0);
-  EXPECT_EQ(FileStatus, 0);
-  EXPECT_EQ(MainCharaCount, 2);
-  const MainChara& first = MainCharas[0];
+  EXPECT_EQ(FileResult.FileStatus, 0);
+  EXPECT_EQ(CharaTables.MainCharaCount, 2);
+  const MainChara& first = CharaTables.MainCharas[0];
   EXPECT_EQ(first.charaNo, 100);
   EXPECT_EQ(first.menuFrame, 101);
   EXPECT_EQ(first.blinkFrame, 102);
@@ -130,22 +137,22 @@ TEST_F(CharacterFileTest, EveryFieldReachesItsTable) {
   EXPECT_EQ(first.charaSet[675], 100);
   EXPECT_EQ(first.secondNumber, -5);
   EXPECT_EQ(first.blinkSpeedSel, 9);
-  EXPECT_EQ(MainCharas[1].charaNo, 50);
-  EXPECT_EQ(MainCharas[1].boredRepeatSel, 65);
-  EXPECT_EQ(MainCharas[1].secondNumber, 6);
-  EXPECT_EQ(MainCharas[1].blinkSpeedSel, 3);
-  EXPECT_EQ(AlarmCharaCount, 1);
-  EXPECT_EQ(AlarmCharas[0], 77);
-  EXPECT_EQ(WalkCharaCount, 2);
-  EXPECT_EQ(WalkCharas[0].number, 10);
-  EXPECT_EQ(WalkCharas[1].number, 300);
-  EXPECT_STREQ(WalkCharas[0].sound, "a.wav");
-  EXPECT_STREQ(WalkCharas[1].sound, "b.wav");
-  EXPECT_EQ(ClockDesignCount, 1);
-  EXPECT_EQ(ClockDesigns[0].number, 15);
-  EXPECT_EQ(ClockDesigns[0].record[463], 'd');
-  EXPECT_EQ(WalkFlags[1], 5);
-  EXPECT_EQ(WalkFlags[49], 7);
+  EXPECT_EQ(CharaTables.MainCharas[1].charaNo, 50);
+  EXPECT_EQ(CharaTables.MainCharas[1].boredRepeatSel, 65);
+  EXPECT_EQ(CharaTables.MainCharas[1].secondNumber, 6);
+  EXPECT_EQ(CharaTables.MainCharas[1].blinkSpeedSel, 3);
+  EXPECT_EQ(CharaTables.AlarmCharaCount, 1);
+  EXPECT_EQ(CharaTables.AlarmCharas[0], 77);
+  EXPECT_EQ(CharaTables.WalkCharaCount, 2);
+  EXPECT_EQ(CharaTables.WalkCharas[0].number, 10);
+  EXPECT_EQ(CharaTables.WalkCharas[1].number, 300);
+  EXPECT_STREQ(CharaTables.WalkCharas[0].sound, "a.wav");
+  EXPECT_STREQ(CharaTables.WalkCharas[1].sound, "b.wav");
+  EXPECT_EQ(CharaTables.ClockDesignCount, 1);
+  EXPECT_EQ(CharaTables.ClockDesigns[0].number, 15);
+  EXPECT_EQ(CharaTables.ClockDesigns[0].record[463], 'd');
+  EXPECT_EQ(CharaTables.WalkFlags[1], 5);
+  EXPECT_EQ(CharaTables.WalkFlags[49], 7);
   EXPECT_EQ(DesignsTaken(), 1);
 }
 
@@ -153,27 +160,27 @@ TEST_F(CharacterFileTest, RowsBehindTheCountsKeepWhatTheyHeld) {
   Fill();
   Put(kName, SmallFile());
   EXPECT_EQ(CharaFileRead(), 0);
-  EXPECT_EQ(MainCharaCount, 2);
-  EXPECT_EQ(MainCharas[2].menuFrame, 1234);
-  EXPECT_EQ(AlarmCharas[3], 55);
-  EXPECT_STREQ(WalkCharas[4].sound, "old.wav");
-  EXPECT_EQ(ClockDesigns[5].number, 99);
+  EXPECT_EQ(CharaTables.MainCharaCount, 2);
+  EXPECT_EQ(CharaTables.MainCharas[2].menuFrame, 1234);
+  EXPECT_EQ(CharaTables.AlarmCharas[3], 55);
+  EXPECT_STREQ(CharaTables.WalkCharas[4].sound, "old.wav");
+  EXPECT_EQ(CharaTables.ClockDesigns[5].number, 99);
 }
 
 TEST_F(CharacterFileTest, AFileThatEndsAmongTheBlinkIntervalsGivesThoseThatAreThere) {
-  MainCharas[0].blinkSpeedSel = 4;
-  MainCharas[1].blinkSpeedSel = 5;
+  CharaTables.MainCharas[0].blinkSpeedSel = 4;
+  CharaTables.MainCharas[1].blinkSpeedSel = 5;
   Put(kName, SmallFile().substr(0, kEndOf13 + 4 + 3));
   EXPECT_EQ(CharaFileRead(), 0);
-  EXPECT_EQ(MainCharas[0].blinkSpeedSel, 9);
-  EXPECT_EQ(MainCharas[1].blinkSpeedSel, 5);
+  EXPECT_EQ(CharaTables.MainCharas[0].blinkSpeedSel, 9);
+  EXPECT_EQ(CharaTables.MainCharas[1].blinkSpeedSel, 5);
   EXPECT_EQ(DesignsTaken(), 0);
 }
 
 TEST_F(CharacterFileTest, AMissingFileGivesMinus1AndLeavesTheTables) {
   Fill();
   EXPECT_EQ(CharaFileRead(), -1);
-  EXPECT_EQ(FileStatus, -1);
+  EXPECT_EQ(FileResult.FileStatus, -1);
   EXPECT_TRUE(IsAsFilled());
 }
 
@@ -183,20 +190,20 @@ TEST_F(CharacterFileTest, AnotherMagicGivesMinus2) {
   file[22] = ';';
   Put(kName, file);
   EXPECT_EQ(CharaFileRead(), -2);
-  EXPECT_EQ(FileStatus, -2);
+  EXPECT_EQ(FileResult.FileStatus, -2);
   EXPECT_TRUE(IsAsFilled());
 }
 
 TEST_F(CharacterFileTest, AFileWithoutTheBlinkIntervalsWorksAndLeavesTheClockDesignsListValues) {
-  MainCharas[0].blinkSpeedSel = 4;
-  MainCharas[1].blinkSpeedSel = 5;
+  CharaTables.MainCharas[0].blinkSpeedSel = 4;
+  CharaTables.MainCharas[1].blinkSpeedSel = 5;
   Put(kName, SmallFile().substr(0, kEndOf13));
   EXPECT_EQ(CharaFileRead(), 0);
-  EXPECT_EQ(FileStatus, 0);
-  EXPECT_EQ(MainCharaCount, 2);
-  EXPECT_EQ(WalkFlags[49], 7);
-  EXPECT_EQ(MainCharas[0].blinkSpeedSel, 4);
-  EXPECT_EQ(MainCharas[1].blinkSpeedSel, 5);
+  EXPECT_EQ(FileResult.FileStatus, 0);
+  EXPECT_EQ(CharaTables.MainCharaCount, 2);
+  EXPECT_EQ(CharaTables.WalkFlags[49], 7);
+  EXPECT_EQ(CharaTables.MainCharas[0].blinkSpeedSel, 4);
+  EXPECT_EQ(CharaTables.MainCharas[1].blinkSpeedSel, 5);
   EXPECT_EQ(DesignsTaken(), 0);
 }
 
@@ -207,17 +214,17 @@ TEST_F(CharacterFileTest, EveryTruncationIsToldAndLeavesTheTables) {
   for (std::size_t size = file.size(); size-- > 0;) {
     ASSERT_EQ(truncate(native.c_str(), static_cast<off_t>(size)), 0);
     Fill();
-    MainCharas[0].blinkSpeedSel = 0;
-    FileStatus = 0;
+    CharaTables.MainCharas[0].blinkSpeedSel = 0;
+    FileResult.FileStatus = 0;
     const int result = CharaFileRead();
     if (size >= kEndOf13) {
       EXPECT_EQ(result, 0) << size;
-      EXPECT_EQ(MainCharaCount, 2) << size;
-      EXPECT_EQ(MainCharas[0].blinkSpeedSel, size >= kEndOf13 + 4 ? 9 : 0) << size;
+      EXPECT_EQ(CharaTables.MainCharaCount, 2) << size;
+      EXPECT_EQ(CharaTables.MainCharas[0].blinkSpeedSel, size >= kEndOf13 + 4 ? 9 : 0) << size;
       EXPECT_EQ(DesignsTaken(), 0) << size;
     } else {
       EXPECT_EQ(result, -1) << size;
-      EXPECT_EQ(FileStatus, -2) << size;
+      EXPECT_EQ(FileResult.FileStatus, -2) << size;
       EXPECT_TRUE(IsAsFilled()) << size;
     }
   }
@@ -243,9 +250,9 @@ TEST_F(CharacterFileTest, CountsBeyondTheTablesAreBadContent) {
     file += std::string(60000, 1);
     Put(kName, file);
     Fill();
-    FileStatus = 0;
+    FileResult.FileStatus = 0;
     EXPECT_EQ(CharaFileRead(), -2) << absurd.at;
-    EXPECT_EQ(FileStatus, -2) << absurd.at;
+    EXPECT_EQ(FileResult.FileStatus, -2) << absurd.at;
     EXPECT_TRUE(IsAsFilled()) << absurd.at;
   }
 }
@@ -267,12 +274,12 @@ TEST_F(CharacterFileTest, FiftyOfEverythingFit) {
   for (int i = 0; i < 50; ++i) file += BE32(i + 5);
   Put(kName, file);
   EXPECT_EQ(CharaFileRead(), 0);
-  EXPECT_EQ(MainCharas[49].charaNo, 49);
-  EXPECT_EQ(AlarmCharas[49], 50);
-  EXPECT_EQ(MainCharas[49].secondNumber, 51);
-  EXPECT_EQ(WalkCharas[49].number, 52);
-  EXPECT_EQ(ClockDesigns[49].number, 53);
-  EXPECT_EQ(MainCharas[49].blinkSpeedSel, 54);
+  EXPECT_EQ(CharaTables.MainCharas[49].charaNo, 49);
+  EXPECT_EQ(CharaTables.AlarmCharas[49], 50);
+  EXPECT_EQ(CharaTables.MainCharas[49].secondNumber, 51);
+  EXPECT_EQ(CharaTables.WalkCharas[49].number, 52);
+  EXPECT_EQ(CharaTables.ClockDesigns[49].number, 53);
+  EXPECT_EQ(CharaTables.MainCharas[49].blinkSpeedSel, 54);
   EXPECT_EQ(DesignsTaken(), 50);
 }
 
@@ -290,10 +297,10 @@ TEST_F(CharacterFileTest, RandomMutationsLeaveTheTablesWithinTheirCapacities) {
     ASSERT_EQ(pwrite(native, &value, 1, static_cast<off_t>(at)), 1);
     const int result = CharaFileRead();
     ASSERT_TRUE(result == 0 || result == -1 || result == -2);
-    ASSERT_TRUE(MainCharaCount >= 0 && MainCharaCount <= kMainCharaMax);
-    ASSERT_TRUE(AlarmCharaCount >= 0 && AlarmCharaCount <= kAlarmCharaMax);
-    ASSERT_TRUE(WalkCharaCount >= 0 && WalkCharaCount <= kWalkCharaMax);
-    ASSERT_TRUE(ClockDesignCount >= 0 && ClockDesignCount <= kClockDesignMax);
+    ASSERT_TRUE(CharaTables.MainCharaCount >= 0 && CharaTables.MainCharaCount <= kMainCharaMax);
+    ASSERT_TRUE(CharaTables.AlarmCharaCount >= 0 && CharaTables.AlarmCharaCount <= kAlarmCharaMax);
+    ASSERT_TRUE(CharaTables.WalkCharaCount >= 0 && CharaTables.WalkCharaCount <= kWalkCharaMax);
+    ASSERT_TRUE(CharaTables.ClockDesignCount >= 0 && CharaTables.ClockDesignCount <= kClockDesignMax);
     ASSERT_EQ(pwrite(native, &file[at], 1, static_cast<off_t>(at)), 1);
   }
   close(native);
@@ -307,14 +314,14 @@ TEST_F(CharacterFileTest, EveryFailingReadGivesItsResult) {
   int last = 0;
   for (int nth = 1; !whole; ++nth) {
     Fill();
-    FileStatus = 0;
+    FileResult.FileStatus = 0;
     FaultArm(FaultKind::Read, nth);
     last = CharaFileRead();
     whole = !FaultWasMet();
     FaultClear();
     if (last != 0) {
       EXPECT_EQ(last, -1) << nth;
-      EXPECT_EQ(FileStatus, -2) << nth;
+      EXPECT_EQ(FileResult.FileStatus, -2) << nth;
       EXPECT_TRUE(IsAsFilled()) << nth;
     }
   }
@@ -325,48 +332,48 @@ TEST_F(CharacterFileTest, EveryFailingReadGivesItsResult) {
 // --- Writing
 
 TEST_F(CharacterFileTest, AWrittenFileHoldsTheTablesAndTheFixedValuesOfANewDataSet) {
-  MainCharaCount = 4;
-  for (int i = 0; i < 4; ++i) MainCharas[i].charaNo = static_cast<std::uint16_t>(i + 1);
-  MainCharas[1].blinkSpeedSel = 8;
-  WalkCharaCount = 4;
-  TextCopy(WalkCharas[0].sound, kWalkSoundSize, "旗印.wav");
-  ClockDesignCount = 1;
-  for (int i = 0; i < 5; ++i) WalkFlags[i] = 7;
-  AlarmCharaSel[2] = 3;
+  CharaTables.MainCharaCount = 4;
+  for (int i = 0; i < 4; ++i) CharaTables.MainCharas[i].charaNo = static_cast<std::uint16_t>(i + 1);
+  CharaTables.MainCharas[1].blinkSpeedSel = 8;
+  CharaTables.WalkCharaCount = 4;
+  TextCopy(CharaTables.WalkCharas[0].sound, kWalkSoundSize, "旗印.wav");
+  CharaTables.ClockDesignCount = 1;
+  for (int i = 0; i < 5; ++i) CharaTables.WalkFlags[i] = 7;
+  Character.AlarmCharaSel[2] = 3;
   EXPECT_EQ(CharaFileWrite(), 0);
-  EXPECT_EQ(AlarmCharaSel[0], 1);
-  EXPECT_EQ(AlarmCharaSel[1], 1);
-  EXPECT_EQ(AlarmCharaSel[2], 0);
+  EXPECT_EQ(Character.AlarmCharaSel[0], 1);
+  EXPECT_EQ(Character.AlarmCharaSel[1], 1);
+  EXPECT_EQ(Character.AlarmCharaSel[2], 0);
   // 23 + 4 + 4 * 740 + 4 + 3 * 4 + 4 * 4 + 1 + 4 * 2 + 4 * 256 + 1 + 2 + 464 + 50 + 4 * 4
   EXPECT_EQ(Get(kName).size(), 4585U);
 
   Clear();
   EXPECT_EQ(CharaFileRead(), 0);
-  EXPECT_EQ(MainCharaCount, 4);
-  EXPECT_EQ(MainCharas[3].charaNo, 4);
-  EXPECT_EQ(MainCharas[1].blinkSpeedSel, 8);
-  EXPECT_EQ(AlarmCharaCount, 3);
-  EXPECT_EQ(AlarmCharas[0], 6);
-  EXPECT_EQ(AlarmCharas[1], 8);
-  EXPECT_EQ(AlarmCharas[2], 9);
-  EXPECT_EQ(MainCharas[3].secondNumber, 4);
+  EXPECT_EQ(CharaTables.MainCharaCount, 4);
+  EXPECT_EQ(CharaTables.MainCharas[3].charaNo, 4);
+  EXPECT_EQ(CharaTables.MainCharas[1].blinkSpeedSel, 8);
+  EXPECT_EQ(CharaTables.AlarmCharaCount, 3);
+  EXPECT_EQ(CharaTables.AlarmCharas[0], 6);
+  EXPECT_EQ(CharaTables.AlarmCharas[1], 8);
+  EXPECT_EQ(CharaTables.AlarmCharas[2], 9);
+  EXPECT_EQ(CharaTables.MainCharas[3].secondNumber, 4);
   for (int i = 2; i < 4; ++i) {
-    const unsigned char* set = MainCharas[i].charaSet;
+    const unsigned char* set = CharaTables.MainCharas[i].charaSet;
     EXPECT_EQ(WalkStepX(set), -28);
     EXPECT_EQ(WalkStepY(set), -24);
     EXPECT_EQ(WalkPeriod(set), 4);
     EXPECT_EQ(WalkCount(set), 24);
   }
-  EXPECT_EQ(WalkStepX(MainCharas[1].charaSet), 0);
-  for (int i = 0; i < 4; ++i) EXPECT_EQ(WalkFlags[i], 0);
-  EXPECT_EQ(WalkFlags[4], 7);
-  EXPECT_STREQ(WalkCharas[0].sound, "旗印.wav");
-  EXPECT_STREQ(WalkCharas[1].sound, "foot1.wav");
-  EXPECT_STREQ(WalkCharas[2].sound, "foot2.wav");
+  EXPECT_EQ(WalkStepX(CharaTables.MainCharas[1].charaSet), 0);
+  for (int i = 0; i < 4; ++i) EXPECT_EQ(CharaTables.WalkFlags[i], 0);
+  EXPECT_EQ(CharaTables.WalkFlags[4], 7);
+  EXPECT_STREQ(CharaTables.WalkCharas[0].sound, "旗印.wav");
+  EXPECT_STREQ(CharaTables.WalkCharas[1].sound, "foot1.wav");
+  EXPECT_STREQ(CharaTables.WalkCharas[2].sound, "foot2.wav");
 }
 
 TEST_F(CharacterFileTest, WhatWasReadIsWrittenAsItStood) {
-  ClockListCount = 0;
+  Clock.ClockListCount = 0;
   std::string file = SmallFile();
   Put(kName, file);
   ASSERT_EQ(CharaFileRead(), 0);
@@ -388,12 +395,12 @@ TEST_F(CharacterFileTest, EveryFailingCallOfTheWriterGivesItsResult) {
   EXPECT_EQ(FailingWrites(CharaFileWrite, -1), 53);
   FaultArm(FaultKind::Create, 1);
   EXPECT_EQ(CharaFileWrite(), -1);
-  EXPECT_EQ(FileStatus, -1);
+  EXPECT_EQ(FileResult.FileStatus, -1);
   FaultClear();
   ASSERT_EQ(CharaFileWrite(), 0);
   FaultArm(FaultKind::Open, 2);
   EXPECT_EQ(CharaFileWrite(), -1);
-  EXPECT_EQ(FileStatus, -1);
+  EXPECT_EQ(FileResult.FileStatus, -1);
   FaultClear();
   EXPECT_EQ(DiagnosticsLive().files, 0);
 }

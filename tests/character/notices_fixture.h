@@ -12,12 +12,15 @@
 #include "character/alarm_images.h"
 #include "character/character.h"
 #include "character/character_tables.h"
-#include "character/scl_notice.h"
-#include "clock_calendar/clock.h"
-#include "clock_calendar/performance.h"
+#include "character/notice_window.h"
+#include "clock_calendar/clock/clock.h"
+#include "clock_calendar/clock/clock_notice.h"
+#include "clock_calendar/clock/performance.h"
 #include "platform/window.h"
-#include "shell/shell.h"
-#include "shell/text.h"
+#include "schedule/execution/scl_notice.h"
+#include "services/program.h"
+#include "services/text.h"
+#include "services/today.h"
 #include "tests/character/chara_files.h"
 #include "tests/support/program.h"
 
@@ -35,29 +38,29 @@ class NoticesTest : public ProgramTest {
     ProgramTest::SetUp();
     StartProgram();
     MakeFolder("C:\\mirrell\\キャラクタ");
-    AlarmCharaCount = 2;
-    AlarmCharas[0] = kSclCharacter;
-    AlarmCharas[1] = kClockCharacter;
-    TodayYear = 26;
-    TodayMonth = 10;
-    TodayDay = 20;
-    NoticeX = 400;
-    NoticeY = 100;
-    NoticeW = 480;
-    NoticeH = 300;
-    SclNotice = SclNoticeItem{};
-    for (NoteNoticeItem& note : NoteNotices) note = NoteNoticeItem{};
-    ClockAlarmSlot = -1;
-    PerformanceActive = 0;
-    std::memset(ClockEvents, 0, sizeof ClockEvents);
+    CharaTables.AlarmCharaCount = 2;
+    CharaTables.AlarmCharas[0] = kSclCharacter;
+    CharaTables.AlarmCharas[1] = kClockCharacter;
+    Today.TodayYear = 26;
+    Today.TodayMonth = 10;
+    Today.TodayDay = 20;
+    NoticePlace.NoticeX = 400;
+    NoticePlace.NoticeY = 100;
+    NoticePlace.NoticeW = 480;
+    NoticePlace.NoticeH = 300;
+    Notices.SclNotice = SclNoticeItem{};
+    for (NoteNoticeItem& note : Notices.NoteNotices) note = NoteNoticeItem{};
+    Clock.ClockAlarmSlot = -1;
+    Performance.PerformanceActive = 0;
+    std::memset(Clock.ClockEvents, 0, sizeof Clock.ClockEvents);
   }
   void TearDown() override {
-    SendClose(hSclNoticeWnd);
-    SendClose(hClockNoticeWnd);
-    std::fill_n(AlarmCharaSel, kAlarmRowCount, 0);
+    SendClose(Notices.hSclNoticeWnd);
+    SendClose(ClockNotice.hClockNoticeWnd);
+    std::fill_n(Character.AlarmCharaSel, kAlarmRowCount, 0);
     AlarmCharaLoad();
-    AlarmCharaCount = 0;
-    ClockAlarmSlot = -1;
+    CharaTables.AlarmCharaCount = 0;
+    Clock.ClockAlarmSlot = -1;
     ProgramTest::TearDown();
   }
 
@@ -71,27 +74,27 @@ class NoticesTest : public ProgramTest {
   static void LoadRows(int sclFrames, int clockFrames) {
     for (int frame = 1; frame <= sclFrames; ++frame) PutFrame(kSclCharacter, frame, 40, 30);
     for (int frame = 1; frame <= clockFrames; ++frame) PutFrame(kClockCharacter, frame, 40, 30);
-    AlarmCharaSel[1] = 1;
-    AlarmCharaSel[2] = 2;
+    Character.AlarmCharaSel[1] = 1;
+    Character.AlarmCharaSel[2] = 2;
     AlarmCharaLoad();
   }
   static void ItemDue(const char* text) {
-    SclNotice.due = true;
-    SclNotice.start = {26, 10, 20, 9};
-    SclNotice.startMinute = 30;
-    SclNotice.end = {26, 10, 20, 12};
-    SclNotice.endMinute = 5;
-    SclNotice.tableStartHour = 8;
-    SclNotice.tableEndHour = 18;
-    TextCopy(SclNotice.text, sizeof SclNotice.text, text);
+    Notices.SclNotice.due = true;
+    Notices.SclNotice.start = {26, 10, 20, 9};
+    Notices.SclNotice.startMinute = 30;
+    Notices.SclNotice.end = {26, 10, 20, 12};
+    Notices.SclNotice.endMinute = 5;
+    Notices.SclNotice.tableStartHour = 8;
+    Notices.SclNotice.tableEndHour = 18;
+    TextCopy(Notices.SclNotice.text, sizeof Notices.SclNotice.text, text);
   }
   static void NoteDue(int note, const char* text) {
-    NoteNotices[note].due = true;
-    NoteNotices[note].year = 26;
-    NoteNotices[note].monthAndDay = 20;
-    TextCopy(NoteNotices[note].text, sizeof NoteNotices[note].text, text);
+    Notices.NoteNotices[note].due = true;
+    Notices.NoteNotices[note].year = 26;
+    Notices.NoteNotices[note].monthAndDay = 20;
+    TextCopy(Notices.NoteNotices[note].text, sizeof Notices.NoteNotices[note].text, text);
   }
-  static void Send(std::uint32_t command) { SendCommand(hMainWnd, command); }
+  static void Send(std::uint32_t command) { SendCommand(Program.hMainWnd, command); }
   // Draws the window afresh.
   static void Repaint(WindowHandle window) {
     DrawingClear();

@@ -3,10 +3,17 @@
 #include <gtest/gtest.h>
 
 #include "character/alarm_images.h"
+#include "character/character.h"
 #include "character/character_commands.h"
 #include "character/character_file.h"
-#include "scenario/world_list.h"
+#include "character/character_tables.h"
+#include "character/stage.h"
+#include "services/dialog_family.h"
+#include "services/five_ticks.h"
+#include "services/program.h"
+#include "shell/panel.h"
 #include "tests/character/walk_fixture.h"
+#include "world/world_list.h"
 
 namespace {
 
@@ -32,10 +39,10 @@ class OptionsTest : public WalkFixture {
     WalkFixture::SetUp();
     Put("\\キャラクタ\\EDTCFLAG.edf", BE32(0) + BE32(12) + BE32(0));
     Put("\\キャラクタ\\EDTCDATA.edf", WorldData());
-    MainCharaCount = 3;
+    CharaTables.MainCharaCount = 3;
     const int numbers[] = {1, 2, 99};
     for (int i = 0; i < 3; ++i) {
-      MainChara& row = MainCharas[i];
+      MainChara& row = CharaTables.MainCharas[i];
       row = MainChara{};
       row.charaNo = static_cast<std::uint16_t>(numbers[i]);
       for (int k = 0; k < kBoredFrameCount; ++k) row.bored1Frames[k] = row.bored2Frames[k] = -1;
@@ -46,15 +53,15 @@ class OptionsTest : public WalkFixture {
     PutBmp(1, 3, BmpFile(12, 12));
     PutBmp(2, 1, BmpFile(20, 20));
     CharaSelect(0);
-    StageRedraw = 0;
-    MenuPanelState = 800;
-    FuncNo = 5;
+    Stage.StageRedraw = 0;
+    Panel.MenuPanelState = 800;
+    Panel.FuncNo = 5;
   }
   void TearDown() override {
     AlarmCheckFree();
     OptionPreviewsFree();
-    for (AlarmRow& row : AlarmRows) AlarmRowFree(&row);
-    WorldCharaCount = 0;
+    for (AlarmRow& row : AlarmImages.AlarmRows) AlarmRowFree(&row);
+    World.WorldCharaCount = 0;
     WalkFixture::TearDown();
   }
   static bool SettingsWritten() { return FileThere(InProgram("mirrell_sys_file.svs")); }
@@ -64,26 +71,26 @@ class OptionsTest : public WalkFixture {
 
 TEST_F(OptionsTest, TheListShowsTheNamesAndTheCurrentCharacter) {
   Then([] {
-    EXPECT_EQ(DlgIdMenu, 2013);
-    EXPECT_EQ(ListRows(hMenuDlg, 100), (std::vector<std::string>{"chara1", "chara2", ""}));
-    EXPECT_EQ(ListSelected(hMenuDlg, 100), 0);
-    EXPECT_EQ(ControlText(hMenuDlg, 101), "chara1");
-    Press(hMenuDlg, 2);
+    EXPECT_EQ(Dialogs.DlgIdMenu, 2013);
+    EXPECT_EQ(ListRows(Dialogs.hMenuDlg, 100), (std::vector<std::string>{"chara1", "chara2", ""}));
+    EXPECT_EQ(ListSelected(Dialogs.hMenuDlg, 100), 0);
+    EXPECT_EQ(ControlText(Dialogs.hMenuDlg, 101), "chara1");
+    Press(Dialogs.hMenuDlg, 2);
   });
   CommandOptionMainCharacter(2281);
-  EXPECT_EQ(DlgIdMenu, 0);
-  EXPECT_EQ(hMenuDlg, nullptr);
-  EXPECT_EQ(FuncNo, 0);
-  EXPECT_EQ(MenuPanelState, 0);
+  EXPECT_EQ(Dialogs.DlgIdMenu, 0);
+  EXPECT_EQ(Dialogs.hMenuDlg, nullptr);
+  EXPECT_EQ(Panel.FuncNo, 0);
+  EXPECT_EQ(Panel.MenuPanelState, 0);
   EXPECT_FALSE(SettingsWritten());
   EXPECT_TRUE(commands.empty());
 }
 
 TEST_F(OptionsTest, NamesAreEmptyForNumbersThatTheWorldListDoesNotHold) {
   Then([] {
-    ChooseRow(hMenuDlg, 100, 2);
-    EXPECT_EQ(ControlText(hMenuDlg, 101), "");
-    Press(hMenuDlg, 2);
+    ChooseRow(Dialogs.hMenuDlg, 100, 2);
+    EXPECT_EQ(ControlText(Dialogs.hMenuDlg, 101), "");
+    Press(Dialogs.hMenuDlg, 2);
   });
   CommandOptionMainCharacter(2281);
 }
@@ -93,10 +100,10 @@ TEST_F(OptionsTest, NamesAreEmptyForNumbersThatTheWorldListDoesNotHold) {
 TEST_F(OptionsTest, ASelectionShowsTheFirstFrameInThePreviewArea) {
   Then([] {
     DrawingClear();
-    ChooseRow(hMenuDlg, 100, 1);
-    EXPECT_EQ(ControlText(hMenuDlg, 101), "chara2");
-    ASSERT_EQ(DibsDrawn(hMenuDlg).size(), 1U);
-    const DrawCall call = DibsDrawn(hMenuDlg)[0];
+    ChooseRow(Dialogs.hMenuDlg, 100, 1);
+    EXPECT_EQ(ControlText(Dialogs.hMenuDlg, 101), "chara2");
+    ASSERT_EQ(DibsDrawn(Dialogs.hMenuDlg).size(), 1U);
+    const DrawCall call = DibsDrawn(Dialogs.hMenuDlg)[0];
     EXPECT_EQ(call.x, 280);
     EXPECT_EQ(call.y, 62);
     EXPECT_EQ(call.x2 - call.x, 20);
@@ -104,14 +111,14 @@ TEST_F(OptionsTest, ASelectionShowsTheFirstFrameInThePreviewArea) {
     EXPECT_EQ(call.clip.right, 600);
     EXPECT_EQ(call.clip.bottom, 283);
     DrawingClear();
-    ChooseRow(hMenuDlg, 100, 2);  // no picture: the area is cleared
-    EXPECT_TRUE(DibsDrawn(hMenuDlg).empty());
-    EXPECT_FALSE(Drawings(hMenuDlg).empty());
+    ChooseRow(Dialogs.hMenuDlg, 100, 2);  // no picture: the area is cleared
+    EXPECT_TRUE(DibsDrawn(Dialogs.hMenuDlg).empty());
+    EXPECT_FALSE(Drawings(Dialogs.hMenuDlg).empty());
     DrawingClear();
-    ChooseRow(hMenuDlg, 100, 0);
-    SendPaint(hMenuDlg);
-    EXPECT_EQ(DibsDrawn(hMenuDlg).size(), 2U);
-    Press(hMenuDlg, 2);
+    ChooseRow(Dialogs.hMenuDlg, 100, 0);
+    SendPaint(Dialogs.hMenuDlg);
+    EXPECT_EQ(DibsDrawn(Dialogs.hMenuDlg).size(), 2U);
+    Press(Dialogs.hMenuDlg, 2);
   });
   const int blocks = DiagnosticsLive().blocks;
   CommandOptionMainCharacter(2281);
@@ -119,17 +126,17 @@ TEST_F(OptionsTest, ASelectionShowsTheFirstFrameInThePreviewArea) {
 }
 
 TEST_F(OptionsTest, OkTakesAnotherCharacterOverSavesItAndReloadsTheStage) {
-  MainCharas[1].menuFrame = 7;
-  MainCharas[1].charaSet[100] = 55;
+  CharaTables.MainCharas[1].menuFrame = 7;
+  CharaTables.MainCharas[1].charaSet[100] = 55;
   Then([] {
-    ChooseRow(hMenuDlg, 100, 1);
-    Press(hMenuDlg, 1);
+    ChooseRow(Dialogs.hMenuDlg, 100, 1);
+    Press(Dialogs.hMenuDlg, 1);
   });
   CommandOptionMainCharacter(2281);
-  EXPECT_EQ(CharaIndex, 1);
-  EXPECT_EQ(MenuFrame, 7);
-  EXPECT_EQ(CharaSet[100], 55);
-  EXPECT_EQ(CharaSetNo(CharaSet), 2);
+  EXPECT_EQ(Character.CharaIndex, 1);
+  EXPECT_EQ(Character.MenuFrame, 7);
+  EXPECT_EQ(Character.CharaSet[100], 55);
+  EXPECT_EQ(CharaSetNo(Character.CharaSet), 2);
   EXPECT_TRUE(SettingsWritten());
   EXPECT_EQ(commands, (std::vector<std::uint32_t>{2293}));
   EXPECT_EQ(DibWidth(FramePicture(kStageRow, 0)), 20);
@@ -137,21 +144,21 @@ TEST_F(OptionsTest, OkTakesAnotherCharacterOverSavesItAndReloadsTheStage) {
 }
 
 TEST_F(OptionsTest, OkWithTheSameCharacterNeitherSavesNorReloads) {
-  MainCharas[0].menuFrame = 7;
-  Then([] { Press(hMenuDlg, 1); });
+  CharaTables.MainCharas[0].menuFrame = 7;
+  Then([] { Press(Dialogs.hMenuDlg, 1); });
   CommandOptionMainCharacter(2281);
-  EXPECT_EQ(MenuFrame, 7);  // taken over all the same
+  EXPECT_EQ(Character.MenuFrame, 7);  // taken over all the same
   EXPECT_FALSE(SettingsWritten());
   EXPECT_TRUE(commands.empty());
 }
 
 TEST_F(OptionsTest, AWalkingRowHandsItsSoundAndFlagsOnToTheOpeningOfFiles) {
-  SetWalkRow(MainCharas[1].charaSet, 0, 3);
-  TextCopy(WalkCharas[2].sound, kWalkSoundSize, "foot2.wav");
-  WalkFlags[2] = 5;
+  SetWalkRow(CharaTables.MainCharas[1].charaSet, 0, 3);
+  TextCopy(CharaTables.WalkCharas[2].sound, kWalkSoundSize, "foot2.wav");
+  CharaTables.WalkFlags[2] = 5;
   Then([] {
-    ChooseRow(hMenuDlg, 100, 1);
-    Press(hMenuDlg, 1);
+    ChooseRow(Dialogs.hMenuDlg, 100, 1);
+    Press(Dialogs.hMenuDlg, 1);
   });
   CommandOptionMainCharacter(2281);
   const std::string file = Get(kHistory);
@@ -164,44 +171,44 @@ TEST_F(OptionsTest, AWalkingRowHandsItsSoundAndFlagsOnToTheOpeningOfFiles) {
 TEST_F(OptionsTest, CancelAndCloseLeaveTheCharacter) {
   for (const bool close : {false, true}) {
     Then([close] {
-      ChooseRow(hMenuDlg, 100, 1);
+      ChooseRow(Dialogs.hMenuDlg, 100, 1);
       if (close) {
-        SendClose(hMenuDlg);
+        SendClose(Dialogs.hMenuDlg);
       } else {
-        Press(hMenuDlg, 2);
+        Press(Dialogs.hMenuDlg, 2);
       }
     });
     CommandOptionMainCharacter(2281);
-    EXPECT_EQ(CharaIndex, 0);
+    EXPECT_EQ(Character.CharaIndex, 0);
     EXPECT_FALSE(SettingsWritten());
   }
 }
 
 TEST_F(OptionsTest, ForACharacterNumberOf0NoFileIsLookedFor) {
-  MainCharas[1].charaNo = 0;
-  MainCharas[1].menuFrame = 2;
+  CharaTables.MainCharas[1].charaNo = 0;
+  CharaTables.MainCharas[1].menuFrame = 2;
   PutBmp(0, 1, BmpFile(20, 20));
   PutBmp(0, 3, BmpFile(20, 20));
   Then([] {
     FaultClear();
-    ChooseRow(hMenuDlg, 100, 1);
-    MotionPreviewRun(hMenuDlg, 1, Preview::Menu);
+    ChooseRow(Dialogs.hMenuDlg, 100, 1);
+    MotionPreviewRun(Dialogs.hMenuDlg, 1, Preview::Menu);
     EXPECT_EQ(FaultCalls(FaultKind::Open), 0);
-    Press(hMenuDlg, 2);
+    Press(Dialogs.hMenuDlg, 2);
   });
-  Then([] { Press(hSubDlg, 2); });
+  Then([] { Press(Dialogs.hSubDlg, 2); });
   CommandOptionMainCharacter(2281);
 }
 
 TEST_F(OptionsTest, AnEmptyListTakesNothingOver) {
-  MainCharaCount = 0;
+  CharaTables.MainCharaCount = 0;
   Then([] {
-    Press(hMenuDlg, 2369);
-    EXPECT_EQ(hToolDlg, nullptr);
-    Press(hMenuDlg, 1);
+    Press(Dialogs.hMenuDlg, 2369);
+    EXPECT_EQ(Dialogs.hToolDlg, nullptr);
+    Press(Dialogs.hMenuDlg, 1);
   });
   CommandOptionMainCharacter(2281);
-  EXPECT_EQ(CharaIndex, 0);
+  EXPECT_EQ(Character.CharaIndex, 0);
   EXPECT_TRUE(commands.empty());
 }
 
@@ -209,7 +216,7 @@ TEST_F(OptionsTest, ADialogThatCannotBeMadeChangesNothing) {
   FaultArm(FaultKind::Window, 1);
   CommandOptionMainCharacter(2281);
   FaultClear();
-  EXPECT_EQ(MenuPanelState, 0);
+  EXPECT_EQ(Panel.MenuPanelState, 0);
   EXPECT_TRUE(commands.empty());
 }
 
@@ -220,20 +227,20 @@ class PreviewTest : public OptionsTest {
   // Opens the preview of a motion of the character in row `row` and looks at it.
   static void WithPreview(int row, int button, std::function<void()> look) {
     Then([row, button] {
-      ChooseRow(hMenuDlg, 100, row);
-      Press(hMenuDlg, 2369);
+      ChooseRow(Dialogs.hMenuDlg, 100, row);
+      Press(Dialogs.hMenuDlg, 2369);
     });
     Then([button] {
-      EXPECT_EQ(DlgIdTool, 2045);
-      Press(hToolDlg, button);
+      EXPECT_EQ(Dialogs.DlgIdTool, 2045);
+      Press(Dialogs.hToolDlg, button);
     });
     Then([button, look] {
-      EXPECT_EQ(DlgIdSub, 2021 + button - 2285);
+      EXPECT_EQ(Dialogs.DlgIdSub, 2021 + button - 2285);
       look();
-      Press(hSubDlg, 2);
+      Press(Dialogs.hSubDlg, 2);
     });
-    Then([] { Press(hToolDlg, 2); });
-    Then([] { Press(hMenuDlg, 2); });
+    Then([] { Press(Dialogs.hToolDlg, 2); });
+    Then([] { Press(Dialogs.hMenuDlg, 2); });
     CommandOptionMainCharacter(2281);
     EXPECT_EQ(MotionPreviewTick(), 0);
   }
@@ -246,8 +253,8 @@ class PreviewTest : public OptionsTest {
   }
   static int WidthShown() {
     DrawingClear();
-    SendPaint(hSubDlg);
-    const auto dibs = DibsDrawn(hSubDlg);
+    SendPaint(Dialogs.hSubDlg);
+    const auto dibs = DibsDrawn(Dialogs.hSubDlg);
     if (dibs.size() != 1) return -1;
     EXPECT_EQ(dibs[0].x, 10);
     EXPECT_EQ(dibs[0].y, 50);
@@ -256,21 +263,21 @@ class PreviewTest : public OptionsTest {
 };
 
 TEST_F(PreviewTest, TheMenuMotionStandsStill) {
-  MainCharas[0].menuFrame = 1;
+  CharaTables.MainCharas[0].menuFrame = 1;
   WithPreview(0, 2285, [] {
     EXPECT_EQ(WidthShown(), 11);
-    EXPECT_TRUE(TextStands(hSubDlg, "ﾒﾆｭｰ動作", 10, 10));
-    EXPECT_EQ(DrawnTexts(hSubDlg).size(), 1U);
+    EXPECT_TRUE(TextStands(Dialogs.hSubDlg, "ﾒﾆｭｰ動作", 10, 10));
+    EXPECT_EQ(DrawnTexts(Dialogs.hSubDlg).size(), 1U);
     EXPECT_EQ(TicksWithFrame(50), std::vector<int>{});
   });
 }
 
 // The delay is 5: it is counted down in five ticks, the sixth moves on.
 TEST_F(PreviewTest, TheBlinkTogglesBetweenFrame0AndTheBlinkFrameEverySixthTick) {
-  MainCharas[0].blinkFrame = 1;
+  CharaTables.MainCharas[0].blinkFrame = 1;
   WithPreview(0, 2286, [] {
     EXPECT_EQ(WidthShown(), 10);
-    EXPECT_TRUE(TextStands(hSubDlg, "瞬き動作", 10, 10));
+    EXPECT_TRUE(TextStands(Dialogs.hSubDlg, "瞬き動作", 10, 10));
     EXPECT_EQ(TicksWithFrame(6), (std::vector<int>{6}));
     EXPECT_EQ(WidthShown(), 11);
     EXPECT_EQ(TicksWithFrame(12), (std::vector<int>{6, 12}));
@@ -279,16 +286,16 @@ TEST_F(PreviewTest, TheBlinkTogglesBetweenFrame0AndTheBlinkFrameEverySixthTick) 
 }
 
 TEST_F(PreviewTest, BoredPatternsGoRoundAndAFrameWithoutOutlineIsToldInRed) {
-  MainCharas[0].bored1Frames[0] = 0;
-  MainCharas[0].bored1Frames[1] = 2;
-  MainCharas[0].bored1Frames[2] = 1;
+  CharaTables.MainCharas[0].bored1Frames[0] = 0;
+  CharaTables.MainCharas[0].bored1Frames[1] = 2;
+  CharaTables.MainCharas[0].bored1Frames[2] = 1;
   WithPreview(0, 2287, [] {
     EXPECT_EQ(WidthShown(), 10);
-    EXPECT_TRUE(TextStands(hSubDlg, "退屈動作1", 10, 10));
-    EXPECT_EQ(DrawnTexts(hSubDlg).size(), 1U);
+    EXPECT_TRUE(TextStands(Dialogs.hSubDlg, "退屈動作1", 10, 10));
+    EXPECT_EQ(DrawnTexts(Dialogs.hSubDlg).size(), 1U);
     TicksWithFrame(6);
     EXPECT_EQ(WidthShown(), 12);
-    const auto texts = DrawnTexts(hSubDlg);
+    const auto texts = DrawnTexts(Dialogs.hSubDlg);
     ASSERT_EQ(texts.size(), 2U);
     EXPECT_EQ(texts[1].text, "(枠取りなし)");
     EXPECT_EQ(texts[1].textColour, MakeColour(255, 0, 0));
@@ -308,25 +315,25 @@ TEST_F(PreviewTest, AMotionThatIsNotSetIsTold) {
     const char* text = kNotSet[i];
     WithPreview(1, 2285 + i, [text] {
       EXPECT_EQ(WidthShown(), -1);
-      EXPECT_TRUE(TextStands(hSubDlg, text, 10, 10));
+      EXPECT_TRUE(TextStands(Dialogs.hSubDlg, text, 10, 10));
       EXPECT_EQ(TicksWithFrame(20), std::vector<int>{});
     });
   }
 }
 
 TEST_F(PreviewTest, FramesBeyondTheTableShowNothing) {
-  MainCharas[0].bored2Frames[0] = 20;
-  MainCharas[0].bored2Frames[1] = 2147483647;
+  CharaTables.MainCharas[0].bored2Frames[0] = 20;
+  CharaTables.MainCharas[0].bored2Frames[1] = 2147483647;
   WithPreview(0, 2288, [] {
     EXPECT_EQ(WidthShown(), -1);
-    EXPECT_TRUE(TextStands(hSubDlg, "退屈動作2", 10, 10));
+    EXPECT_TRUE(TextStands(Dialogs.hSubDlg, "退屈動作2", 10, 10));
     TicksWithFrame(6);
     EXPECT_EQ(WidthShown(), -1);
   });
 }
 
 TEST_F(PreviewTest, WithoutMemoryThePreviewIsDrawnStraight) {
-  MainCharas[0].menuFrame = 1;
+  CharaTables.MainCharas[0].menuFrame = 1;
   WithPreview(0, 2285, [] {
     FaultArm(FaultKind::Bitmap, 1);
     EXPECT_EQ(WidthShown(), 11);
@@ -336,9 +343,9 @@ TEST_F(PreviewTest, WithoutMemoryThePreviewIsDrawnStraight) {
 }
 
 TEST_F(PreviewTest, CharactersBeyondTheListHaveNoPreview) {
-  MotionPreviewRun(hMainWnd, -1, Preview::Menu);
-  MotionPreviewRun(hMainWnd, 50, Preview::Menu);
-  EXPECT_EQ(hSubDlg, nullptr);
+  MotionPreviewRun(Program.hMainWnd, -1, Preview::Menu);
+  MotionPreviewRun(Program.hMainWnd, 50, Preview::Menu);
+  EXPECT_EQ(Dialogs.hSubDlg, nullptr);
 }
 
 // --- The alarm characters
@@ -355,38 +362,38 @@ class AlarmOptionsTest : public OptionsTest {
     PutBmp(9, 1, BmpFile(90, 90));
   }
   static int WidthShown() {
-    const auto dibs = DibsDrawn(hToolDlg);
+    const auto dibs = DibsDrawn(Dialogs.hToolDlg);
     return dibs.empty() ? -1 : dibs.back().x2 - dibs.back().x;
   }
 };
 
 TEST_F(AlarmOptionsTest, BothComboBoxesShowTheAlarmCharactersAndTheSelections) {
   Then([] {
-    EXPECT_EQ(DlgIdMenu, 2014);
+    EXPECT_EQ(Dialogs.DlgIdMenu, 2014);
     const std::vector<std::string> rows = {"未設定", "chara6", "chara8", "chara9"};
-    EXPECT_EQ(ListRows(hMenuDlg, 100), rows);
-    EXPECT_EQ(ListRows(hMenuDlg, 101), rows);
-    EXPECT_EQ(ListSelected(hMenuDlg, 100), 1);
-    EXPECT_EQ(ListSelected(hMenuDlg, 101), 0);
-    Press(hMenuDlg, 2);
+    EXPECT_EQ(ListRows(Dialogs.hMenuDlg, 100), rows);
+    EXPECT_EQ(ListRows(Dialogs.hMenuDlg, 101), rows);
+    EXPECT_EQ(ListSelected(Dialogs.hMenuDlg, 100), 1);
+    EXPECT_EQ(ListSelected(Dialogs.hMenuDlg, 101), 0);
+    Press(Dialogs.hMenuDlg, 2);
   });
   CommandOptionAlarmCharacter(2282);
   EXPECT_FALSE(SettingsWritten());
-  EXPECT_EQ(MenuPanelState, 0);
+  EXPECT_EQ(Panel.MenuPanelState, 0);
 }
 
 TEST_F(AlarmOptionsTest, OkStoresBothSelectionsLoadsTheRowsAndSaves) {
   Then([] {
-    ChooseRow(hMenuDlg, 100, 2);
-    ChooseRow(hMenuDlg, 101, 3);
-    Press(hMenuDlg, 1);
+    ChooseRow(Dialogs.hMenuDlg, 100, 2);
+    ChooseRow(Dialogs.hMenuDlg, 101, 3);
+    Press(Dialogs.hMenuDlg, 1);
   });
   CommandOptionAlarmCharacter(2282);
-  EXPECT_EQ(AlarmCharaSel[0], 1);
-  EXPECT_EQ(AlarmCharaSel[1], 2);
-  EXPECT_EQ(AlarmCharaSel[2], 3);
-  EXPECT_EQ(DibWidth(AlarmRows[1].pictures[0]), 80);
-  EXPECT_EQ(DibWidth(AlarmRows[2].pictures[0]), 90);
+  EXPECT_EQ(Character.AlarmCharaSel[0], 1);
+  EXPECT_EQ(Character.AlarmCharaSel[1], 2);
+  EXPECT_EQ(Character.AlarmCharaSel[2], 3);
+  EXPECT_EQ(DibWidth(AlarmImages.AlarmRows[1].pictures[0]), 80);
+  EXPECT_EQ(DibWidth(AlarmImages.AlarmRows[2].pictures[0]), 90);
   EXPECT_TRUE(SettingsWritten());
 }
 
@@ -400,24 +407,24 @@ TEST_F(AlarmOptionsTest, NumbersThatTheWorldListDoesNotHoldShowEmptyRows) {
   Put("\\mirrell_chara_file.dcx", file);
   Then([] {
     const std::vector<std::string> rows = {"未設定", "", "chara8", ""};
-    EXPECT_EQ(ListRows(hMenuDlg, 100), rows);
-    EXPECT_EQ(ListRows(hMenuDlg, 101), rows);
-    EXPECT_EQ(ListSelected(hMenuDlg, 100), 1);
-    Press(hMenuDlg, 2);
+    EXPECT_EQ(ListRows(Dialogs.hMenuDlg, 100), rows);
+    EXPECT_EQ(ListRows(Dialogs.hMenuDlg, 101), rows);
+    EXPECT_EQ(ListSelected(Dialogs.hMenuDlg, 100), 1);
+    Press(Dialogs.hMenuDlg, 2);
   });
   CommandOptionAlarmCharacter(2282);
 }
 
 TEST_F(AlarmOptionsTest, SelectionsBeyondTheListShowNobody) {
-  AlarmCharaSel[1] = 4;
-  AlarmCharaSel[2] = -1;
+  Character.AlarmCharaSel[1] = 4;
+  Character.AlarmCharaSel[2] = -1;
   Then([] {
-    EXPECT_EQ(ListSelected(hMenuDlg, 100), 0);
-    EXPECT_EQ(ListSelected(hMenuDlg, 101), 0);
-    Press(hMenuDlg, 2);
+    EXPECT_EQ(ListSelected(Dialogs.hMenuDlg, 100), 0);
+    EXPECT_EQ(ListSelected(Dialogs.hMenuDlg, 101), 0);
+    Press(Dialogs.hMenuDlg, 2);
   });
   CommandOptionAlarmCharacter(2282);
-  EXPECT_EQ(AlarmCharaSel[1], 4);
+  EXPECT_EQ(Character.AlarmCharaSel[1], 4);
 }
 
 TEST_F(AlarmOptionsTest, TheChecksPlayTheSelectedRowsAndTheMailsRow) {
@@ -425,29 +432,29 @@ TEST_F(AlarmOptionsTest, TheChecksPlayTheSelectedRowsAndTheMailsRow) {
   const int blocks = DiagnosticsLive().blocks;
   for (const auto& check : kChecks) {
     Then([check] {
-      ChooseRow(hMenuDlg, 100, 2);
-      ChooseRow(hMenuDlg, 101, 3);
-      Press(hMenuDlg, check.button);
+      ChooseRow(Dialogs.hMenuDlg, 100, 2);
+      ChooseRow(Dialogs.hMenuDlg, 101, 3);
+      Press(Dialogs.hMenuDlg, check.button);
     });
     Then([check] {
-      EXPECT_EQ(DlgIdTool, check.id);
-      EXPECT_EQ(WindowText(hToolDlg), "アラーム動作の確認");
-      EXPECT_EQ(FrameDivider, 1);
+      EXPECT_EQ(Dialogs.DlgIdTool, check.id);
+      EXPECT_EQ(WindowText(Dialogs.hToolDlg), "アラーム動作の確認");
+      EXPECT_EQ(FiveTicks.FrameDivider, 1);
       DrawingClear();
       AlarmCheckFrameStep();
       EXPECT_EQ(WidthShown(), check.width);
-      Press(hToolDlg, 2);
+      Press(Dialogs.hToolDlg, 2);
     });
-    Then([] { Press(hMenuDlg, 2); });
+    Then([] { Press(Dialogs.hMenuDlg, 2); });
     CommandOptionAlarmCharacter(2282);
   }
-  EXPECT_EQ(AlarmCharaSel[1], 1);
+  EXPECT_EQ(Character.AlarmCharaSel[1], 1);
   EXPECT_EQ(DiagnosticsLive().blocks, blocks);  // the pictures of the checks are gone
 }
 
 TEST_F(AlarmOptionsTest, ACheckGoesRoundAndIsDrawnInMemoryAt1010) {
-  AlarmCharaSel[1] = 2;
-  Then([] { Press(hMenuDlg, 2290); });
+  Character.AlarmCharaSel[1] = 2;
+  Then([] { Press(Dialogs.hMenuDlg, 2290); });
   Then([] {
     const int widths[] = {80, 82, 80, 82};
     for (const int width : widths) {
@@ -455,40 +462,40 @@ TEST_F(AlarmOptionsTest, ACheckGoesRoundAndIsDrawnInMemoryAt1010) {
       AlarmCheckFrameStep();
       EXPECT_EQ(WidthShown(), width);
       bool copied = false;
-      for (const DrawCall& call : Drawings(hToolDlg)) {
+      for (const DrawCall& call : Drawings(Dialogs.hToolDlg)) {
         copied = copied || (call.kind == DrawCall::Kind::Copy && call.x == 10 && call.y == 10);
       }
       EXPECT_TRUE(copied);
     }
     DrawingClear();
-    SendPaint(hToolDlg);
+    SendPaint(Dialogs.hToolDlg);
     EXPECT_EQ(WidthShown(), 82);
-    Press(hToolDlg, 2);
+    Press(Dialogs.hToolDlg, 2);
   });
   Then([] {
     AlarmCheckFrameStep();  // closed: nothing
-    Press(hMenuDlg, 2);
+    Press(Dialogs.hMenuDlg, 2);
   });
   CommandOptionAlarmCharacter(2282);
 }
 
 TEST_F(AlarmOptionsTest, ACheckOfNobodyStaysEmpty) {
   Then([] {
-    ChooseRow(hMenuDlg, 100, 0);
-    Press(hMenuDlg, 2290);
+    ChooseRow(Dialogs.hMenuDlg, 100, 0);
+    Press(Dialogs.hMenuDlg, 2290);
   });
   Then([] {
     DrawingClear();
     AlarmCheckFrameStep();
-    SendPaint(hToolDlg);
-    EXPECT_TRUE(Drawings(hToolDlg).empty());
-    Press(hToolDlg, 2);
+    SendPaint(Dialogs.hToolDlg);
+    EXPECT_TRUE(Drawings(Dialogs.hToolDlg).empty());
+    Press(Dialogs.hToolDlg, 2);
   });
-  Then([] { Press(hMenuDlg, 2); });
+  Then([] { Press(Dialogs.hMenuDlg, 2); });
   CommandOptionAlarmCharacter(2282);
-  AlarmCheckRun(hMainWnd, 3, 1);
-  AlarmCheckRun(hMainWnd, -1, 1);
-  EXPECT_EQ(hToolDlg, nullptr);
+  AlarmCheckRun(Program.hMainWnd, 3, 1);
+  AlarmCheckRun(Program.hMainWnd, -1, 1);
+  EXPECT_EQ(Dialogs.hToolDlg, nullptr);
 }
 
 }  // namespace

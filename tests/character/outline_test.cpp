@@ -5,6 +5,8 @@
 #include <random>
 
 #include "character/frames.h"
+#include "services/program.h"
+#include "services/screen_figures.h"
 #include "tests/character/chara_files.h"
 
 namespace {
@@ -154,7 +156,7 @@ TEST_F(OutlineTest, EveryFailingReadGivesItsResult) {
 // With a menu line of 19 pixels and a picture of 100 rows the bottom row (y 0)
 // lies at 19 + 100 - 0 - 1 = 118.
 TEST_F(OutlineTest, TheFlipForTheStageLeavesXAndTurnsYBelowTheMenuLine) {
-  MenuBarHeight = 19;
+  Screen.MenuBarHeight = 19;
   outline_ = Outline{2, {{5, 0}, {6, 99}}};
   OutlineFlipForStage(&outline_, 100);
   ExpectPoints(outline_, {{5, 118}, {6, 19}});
@@ -183,7 +185,7 @@ TEST_F(OutlineTest, OutlinesAreComparedByCountAndPoints) {
 class FramesTest : public CharaFiles {};
 
 TEST_F(FramesTest, NamesAreWrittenFromOneIntoOneBuffer) {
-  TextCopy(RootFolder, kRootSize, "C:\\mirrell");
+  TextCopy(Program.RootFolder, kRootSize, "C:\\mirrell");
   const char* dwc = CharaDwcPath(0);
   EXPECT_STREQ(dwc, "C:\\mirrell\\キャラクタ\\Chara1.dwc");
   const char* bmp = CharaBmpPath(11, 0);

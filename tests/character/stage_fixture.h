@@ -9,9 +9,15 @@
 #include "character/character_tables.h"
 #include "character/motion.h"
 #include "character/stage.h"
+#include "character/walk.h"
+#include "mail_music/mail/mail.h"
 #include "platform/headless/headless.h"
 #include "platform/screen.h"
 #include "platform/window.h"
+#include "services/dialog_family.h"
+#include "services/program.h"
+#include "services/screen_figures.h"
+#include "shell/panel.h"
 #include "tests/character/chara_files.h"
 
 inline constexpr int kMenuLine = 20;  // MenuBarHeight of the tests
@@ -21,47 +27,50 @@ class StageFixture : public CharaFiles {
   void SetUp() override {
     CharaFiles::SetUp();
     commands = {};
-    MenuBarHeight = kMenuLine;
-    ScreenWidth = 1000;
-    ScreenHeight = 700;
-    CharWidth = 8;
-    hMainWnd = MainWindowCreate({"mirrell", "mirrell", 0, 0, 0, MainProc}, 500, 300, 120, 160);
-    ASSERT_NE(hMainWnd, nullptr);
-    WindowShowFirst(hMainWnd, 1);
+    Screen.MenuBarHeight = kMenuLine;
+    Screen.ScreenWidth = 1000;
+    Screen.ScreenHeight = 700;
+    Screen.CharWidth = 8;
+    Program.hMainWnd = MainWindowCreate({"mirrell", "mirrell", 0, 0, 0, MainProc}, 500, 300, 120, 160);
+    ASSERT_NE(Program.hMainWnd, nullptr);
+    WindowShowFirst(Program.hMainWnd, 1);
     Forget();
   }
   void TearDown() override {
     Forget();
-    hMainWnd = nullptr;
+    Program.hMainWnd = nullptr;
     CharaFiles::TearDown();
   }
 
   // Every table and variable of the character as at the start of the program.
   static void Forget() {
-    MainCharaCount = AlarmCharaCount = WalkCharaCount = 0;
-    for (MainChara& row : MainCharas) row = MainChara{};
-    for (std::int32_t& number : AlarmCharas) number = 0;
-    for (WalkChara& row : WalkCharas) row = WalkChara{};
-    for (unsigned char& flags : WalkFlags) flags = 0;
-    for (unsigned char& byte : CharaSet) byte = 0;
-    for (std::int32_t& selection : AlarmCharaSel) selection = 0;
-    CharaIndex = MenuFrame = BlinkFrame = 0;
-    for (int i = 0; i < kBoredFrameCount; ++i) Bored1Frames[i] = Bored2Frames[i] = -1;
-    BoredDelaySel = BoredSpeedSel = BoredRepeatSel = BlinkSpeedSel = 0;
-    StageX = 200;
-    StageY = 100;
-    StageWidth = 300;
-    StageHeight = 200;
-    StageAppliedWidth = StageAppliedHeight = 0;
-    StageRedraw = CharaFrame = StageFrameCount = 0;
-    CurrentOutline.count = 0;
-    for (Outline& outline : StageOutlines) outline.count = 0;
-    CharaMotion = CharaStepCount = BlinkCount = BoredSec = BoredMin = BoredHour = 0;
-    BoredPattern = BoredLen1 = BoredLen2 = BoredLeft = BoredHold = BoredRepeat = 0;
-    BlinkDone = false;
-    DlgIdMenu = DlgIdTool = DlgIdSub = 0;
-    hDiskMenu = nullptr;
-    OpeningState = MailPhase = FuncNo = MenuPanelState = 0;
+    CharaTables.MainCharaCount = CharaTables.AlarmCharaCount = CharaTables.WalkCharaCount = 0;
+    for (MainChara& row : CharaTables.MainCharas) row = MainChara{};
+    for (std::int32_t& number : CharaTables.AlarmCharas) number = 0;
+    for (WalkChara& row : CharaTables.WalkCharas) row = WalkChara{};
+    for (unsigned char& flags : CharaTables.WalkFlags) flags = 0;
+    for (unsigned char& byte : Character.CharaSet) byte = 0;
+    for (std::int32_t& selection : Character.AlarmCharaSel) selection = 0;
+    Character.CharaIndex = Character.MenuFrame = Character.BlinkFrame = 0;
+    for (int i = 0; i < kBoredFrameCount; ++i) Character.Bored1Frames[i] = Character.Bored2Frames[i] = -1;
+    Character.BoredDelaySel = Character.BoredSpeedSel = Character.BoredRepeatSel = Character.BlinkSpeedSel =
+        0;
+    Character.StageX = 200;
+    Character.StageY = 100;
+    Stage.StageWidth = 300;
+    Stage.StageHeight = 200;
+    Stage.StageAppliedWidth = Stage.StageAppliedHeight = 0;
+    Stage.StageRedraw = Stage.CharaFrame = Stage.StageFrameCount = 0;
+    Stage.CurrentOutline.count = 0;
+    for (Outline& outline : Stage.StageOutlines) outline.count = 0;
+    Motion.CharaMotion = Motion.CharaStepCount = Motion.BlinkCount = Motion.BoredSec = Motion.BoredMin =
+        Motion.BoredHour = 0;
+    Motion.BoredPattern = Motion.BoredLen1 = Motion.BoredLen2 = Motion.BoredLeft = Motion.BoredHold =
+        Motion.BoredRepeat = 0;
+    Motion.BlinkDone = false;
+    Dialogs.DlgIdMenu = Dialogs.DlgIdTool = Dialogs.DlgIdSub = 0;
+    Panel.hDiskMenu = nullptr;
+    Walk.OpeningState = Mail.MailPhase = Panel.FuncNo = Panel.MenuPanelState = 0;
   }
 
   // Character `number` gets those frames: pictures of width by height, outlines of
@@ -71,9 +80,9 @@ class StageFixture : public CharaFiles {
     for (std::size_t i = 0; i < outlines.size(); ++i) {
       PutBmp(number, static_cast<int>(i) + 1, BmpFile(width, height));
     }
-    MainCharaCount = 1;
-    MainCharas[0].charaNo = static_cast<std::uint16_t>(number);
-    SetCharaSetNo(CharaSet, 1);
+    CharaTables.MainCharaCount = 1;
+    CharaTables.MainCharas[0].charaNo = static_cast<std::uint16_t>(number);
+    SetCharaSetNo(Character.CharaSet, 1);
   }
 
   static std::vector<std::uint32_t> commands;  // that the main window was sent

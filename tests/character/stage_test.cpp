@@ -2,7 +2,11 @@
 
 #include <gtest/gtest.h>
 
+#include "character/character.h"
+#include "character/character_tables.h"
+#include "character/motion.h"
 #include "platform/canvas.h"
+#include "services/program.h"
 #include "tests/character/stage_fixture.h"
 
 namespace {
@@ -25,27 +29,27 @@ FilePoints PointsOfOutline(const Outline& outline) {
 
 TEST_F(StageTest, LoadingGivesSizePicturesAndTheFlippedOutlines) {
   PutMain(7, {kTriangle, kOther, {}, kTriangle});
-  MenuFrame = 1;
-  BlinkFrame = 2;
-  Bored1Frames[0] = 3;
-  Bored1Frames[1] = 1;
-  Bored2Frames[0] = 0;
+  Character.MenuFrame = 1;
+  Character.BlinkFrame = 2;
+  Character.Bored1Frames[0] = 3;
+  Character.Bored1Frames[1] = 1;
+  Character.Bored2Frames[0] = 0;
   BoredFramesCount();
-  CharaFrame = 5;
+  Stage.CharaFrame = 5;
   EXPECT_EQ(CharaLoadStage(), 0);
-  EXPECT_EQ(CharaFrame, 0);
-  EXPECT_EQ(StageFrameCount, 4);
+  EXPECT_EQ(Stage.CharaFrame, 0);
+  EXPECT_EQ(Stage.StageFrameCount, 4);
   // The picture is 40 by 30; with an outline 20 and 10 are added for the class menu.
-  EXPECT_EQ(StageWidth, 40 + 20);
-  EXPECT_EQ(StageHeight, 30 + kMenuLine + ScreenMetric(Metric::EdgeHeight) + 10);
-  EXPECT_EQ(PointsOfOutline(CurrentOutline), kTriangleOnStage);
-  EXPECT_EQ(PointsOfOutline(StageOutlines[kOutlineIdle]), kTriangleOnStage);
-  EXPECT_EQ(PointsOfOutline(StageOutlines[kOutlineMenu]), kOtherOnStage);
-  EXPECT_EQ(StageOutlines[kOutlineBlink].count, 0);
-  EXPECT_EQ(PointsOfOutline(StageOutlines[kOutlineBored1]), kTriangleOnStage);
-  EXPECT_EQ(PointsOfOutline(StageOutlines[kOutlineBored1 + 1]), kOtherOnStage);
-  EXPECT_EQ(StageOutlines[kOutlineBored1 + 2].count, 0);
-  EXPECT_EQ(PointsOfOutline(StageOutlines[kOutlineBored2]), kTriangleOnStage);
+  EXPECT_EQ(Stage.StageWidth, 40 + 20);
+  EXPECT_EQ(Stage.StageHeight, 30 + kMenuLine + ScreenMetric(Metric::EdgeHeight) + 10);
+  EXPECT_EQ(PointsOfOutline(Stage.CurrentOutline), kTriangleOnStage);
+  EXPECT_EQ(PointsOfOutline(Stage.StageOutlines[kOutlineIdle]), kTriangleOnStage);
+  EXPECT_EQ(PointsOfOutline(Stage.StageOutlines[kOutlineMenu]), kOtherOnStage);
+  EXPECT_EQ(Stage.StageOutlines[kOutlineBlink].count, 0);
+  EXPECT_EQ(PointsOfOutline(Stage.StageOutlines[kOutlineBored1]), kTriangleOnStage);
+  EXPECT_EQ(PointsOfOutline(Stage.StageOutlines[kOutlineBored1 + 1]), kOtherOnStage);
+  EXPECT_EQ(Stage.StageOutlines[kOutlineBored1 + 2].count, 0);
+  EXPECT_EQ(PointsOfOutline(Stage.StageOutlines[kOutlineBored2]), kTriangleOnStage);
   EXPECT_NE(FramePicture(kStageRow, 3), nullptr);
   EXPECT_EQ(FramePicture(kStageRow, 4), nullptr);
 }
@@ -53,80 +57,80 @@ TEST_F(StageTest, LoadingGivesSizePicturesAndTheFlippedOutlines) {
 TEST_F(StageTest, EachMotionOutlineIsFlippedWithItsOwnPicturesHeight) {
   PutMain(7, {kTriangle, {{5, 0}}});
   PutBmp(7, 2, BmpFile(40, 50));
-  MenuFrame = 1;
+  Character.MenuFrame = 1;
   EXPECT_EQ(CharaLoadStage(), 0);
-  EXPECT_EQ(PointsOfOutline(StageOutlines[kOutlineMenu]), (FilePoints{{5, 20 + 50 - 1}}));
+  EXPECT_EQ(PointsOfOutline(Stage.StageOutlines[kOutlineMenu]), (FilePoints{{5, 20 + 50 - 1}}));
 }
 
 TEST_F(StageTest, WithoutACharacterNumberOneIsReturnedAndThePicturesAreGone) {
   PutMain(7, {kTriangle});
   ASSERT_EQ(CharaLoadStage(), 0);
-  SetCharaSetNo(CharaSet, 0);
+  SetCharaSetNo(Character.CharaSet, 0);
   EXPECT_EQ(CharaLoadStage(), 1);
   EXPECT_EQ(FramePicture(kStageRow, 0), nullptr);
 }
 
 TEST_F(StageTest, AMissingOutlineFileGivesARectangularStageAndFrameCount20) {
   PutBmp(7, 1, BmpFile(40, 30));
-  MainCharas[0].charaNo = 7;
-  SetCharaSetNo(CharaSet, 1);
-  CurrentOutline.count = 3;
+  CharaTables.MainCharas[0].charaNo = 7;
+  SetCharaSetNo(Character.CharaSet, 1);
+  Stage.CurrentOutline.count = 3;
   EXPECT_EQ(CharaLoadStage(), 0);
-  EXPECT_EQ(StageFrameCount, 20);
-  EXPECT_EQ(CurrentOutline.count, 0);
-  EXPECT_EQ(CurrentOutline.points[2].x, 200);
-  EXPECT_EQ(CurrentOutline.points[2].y, 200);
-  EXPECT_EQ(StageWidth, 40);
-  EXPECT_EQ(StageHeight, 30 + kMenuLine + ScreenMetric(Metric::EdgeHeight));
+  EXPECT_EQ(Stage.StageFrameCount, 20);
+  EXPECT_EQ(Stage.CurrentOutline.count, 0);
+  EXPECT_EQ(Stage.CurrentOutline.points[2].x, 200);
+  EXPECT_EQ(Stage.CurrentOutline.points[2].y, 200);
+  EXPECT_EQ(Stage.StageWidth, 40);
+  EXPECT_EQ(Stage.StageHeight, 30 + kMenuLine + ScreenMetric(Metric::EdgeHeight));
 }
 
 TEST_F(StageTest, ACharacterNumberBeyondTheFilesGivesTwentyEmptyFramesAndAStageWithoutAPicture) {
-  MainCharas[0].charaNo = 999;
-  SetCharaSetNo(CharaSet, 1);
+  CharaTables.MainCharas[0].charaNo = 999;
+  SetCharaSetNo(Character.CharaSet, 1);
   EXPECT_EQ(CharaLoadStage(), 0);
   for (int frame = 0; frame < kFrameMax; ++frame) EXPECT_EQ(FramePicture(kStageRow, frame), nullptr);
-  EXPECT_EQ(StageWidth, 300);  // as it was
-  EXPECT_EQ(StageHeight, 200);
+  EXPECT_EQ(Stage.StageWidth, 300);  // as it was
+  EXPECT_EQ(Stage.StageHeight, 200);
   DrawingClear();
   StagePaint();
-  EXPECT_TRUE(DibsDrawn(hMainWnd).empty());
+  EXPECT_TRUE(DibsDrawn(Program.hMainWnd).empty());
 }
 
 TEST_F(StageTest, ACharacterNumberBeyondTheListLoadsNothing) {
   PutMain(7, {kTriangle});
-  SetCharaSetNo(CharaSet, 51);
+  SetCharaSetNo(Character.CharaSet, 51);
   EXPECT_EQ(CharaLoadStage(), 0);
   EXPECT_EQ(FramePicture(kStageRow, 0), nullptr);
-  SetCharaSetNo(CharaSet, 65535);
+  SetCharaSetNo(Character.CharaSet, 65535);
   EXPECT_EQ(CharaLoadStage(), 0);
   EXPECT_EQ(FramePicture(kStageRow, 0), nullptr);
 }
 
 TEST_F(StageTest, AnotherCharactersOutlinesDoNotStay) {
   PutMain(7, {kTriangle, kOther});
-  MenuFrame = 1;
+  Character.MenuFrame = 1;
   ASSERT_EQ(CharaLoadStage(), 0);
   PutMain(8, {kTriangle});
   ASSERT_EQ(CharaLoadStage(), 0);
-  EXPECT_EQ(StageOutlines[kOutlineMenu].count, 0);
+  EXPECT_EQ(Stage.StageOutlines[kOutlineMenu].count, 0);
 }
 
 TEST_F(StageTest, MotionFramesBeyondTheTableHaveNoOutline) {
   PutMain(7, {kTriangle});
-  MenuFrame = 20;
-  BlinkFrame = -1;
-  Bored1Frames[0] = 1000000;
+  Character.MenuFrame = 20;
+  Character.BlinkFrame = -1;
+  Character.Bored1Frames[0] = 1000000;
   BoredFramesCount();
   EXPECT_EQ(CharaLoadStage(), 0);
-  EXPECT_EQ(StageOutlines[kOutlineMenu].count, 0);
-  EXPECT_EQ(StageOutlines[kOutlineBlink].count, 0);
-  EXPECT_EQ(StageOutlines[kOutlineBored1].count, 0);
+  EXPECT_EQ(Stage.StageOutlines[kOutlineMenu].count, 0);
+  EXPECT_EQ(Stage.StageOutlines[kOutlineBlink].count, 0);
+  EXPECT_EQ(Stage.StageOutlines[kOutlineBored1].count, 0);
 }
 
 // --- Taking a character over
 
 TEST_F(StageTest, TakingACharacterOverCopiesItsSettingsAndCountsItsFrames) {
-  MainChara& row = MainCharas[49];
+  MainChara& row = CharaTables.MainCharas[49];
   row.menuFrame = 3;
   row.blinkFrame = 4;
   const int first[] = {5, 6, -1, 7, 8};
@@ -140,41 +144,41 @@ TEST_F(StageTest, TakingACharacterOverCopiesItsSettingsAndCountsItsFrames) {
   row.boredRepeatSel = 3;
   row.blinkSpeedSel = 5;
   CharaTakeCurrent(49);
-  EXPECT_EQ(MenuFrame, 3);
-  EXPECT_EQ(BlinkFrame, 4);
-  EXPECT_EQ(Bored1Frames[1], 6);
-  EXPECT_EQ(Bored2Frames[4], 5);
-  EXPECT_EQ(BoredSpeedSel, 2);
-  EXPECT_EQ(BoredRepeatSel, 3);
-  EXPECT_EQ(BlinkSpeedSel, 5);
-  EXPECT_EQ(BoredLen1, 2);
-  EXPECT_EQ(BoredLen2, 4);  // the fifth frame is never played
-  EXPECT_EQ(BoredHour, 1);
-  EXPECT_EQ(BoredMin, 30);
-  EXPECT_EQ(BoredSec, 60);
+  EXPECT_EQ(Character.MenuFrame, 3);
+  EXPECT_EQ(Character.BlinkFrame, 4);
+  EXPECT_EQ(Character.Bored1Frames[1], 6);
+  EXPECT_EQ(Character.Bored2Frames[4], 5);
+  EXPECT_EQ(Character.BoredSpeedSel, 2);
+  EXPECT_EQ(Character.BoredRepeatSel, 3);
+  EXPECT_EQ(Character.BlinkSpeedSel, 5);
+  EXPECT_EQ(Motion.BoredLen1, 2);
+  EXPECT_EQ(Motion.BoredLen2, 4);  // the fifth frame is never played
+  EXPECT_EQ(Motion.BoredHour, 1);
+  EXPECT_EQ(Motion.BoredMin, 30);
+  EXPECT_EQ(Motion.BoredSec, 60);
 }
 
 TEST_F(StageTest, IndexesBeyondTheListTakeNothingOver) {
-  MenuFrame = 9;
+  Character.MenuFrame = 9;
   CharaTakeCurrent(-1);
   CharaTakeCurrent(50);
   EXPECT_FALSE(CharaSelect(50));
   EXPECT_FALSE(CharaSelect(-1));
-  EXPECT_EQ(MenuFrame, 9);
-  EXPECT_EQ(CharaIndex, 0);
+  EXPECT_EQ(Character.MenuFrame, 9);
+  EXPECT_EQ(Character.CharaIndex, 0);
 }
 
 TEST_F(StageTest, ARowBehindTheListedCharactersIsTakenOverWithWhatItHolds) {
-  MainCharaCount = 2;
+  CharaTables.MainCharaCount = 2;
   for (const int row : {2, 3, 49}) {
-    MainCharas[row].menuFrame = 10 + row;
-    MainCharas[row].bored1Frames[0] = 4;
-    MainCharas[row].bored1Frames[1] = -1;
-    MainCharas[row].bored2Frames[0] = -1;
+    CharaTables.MainCharas[row].menuFrame = 10 + row;
+    CharaTables.MainCharas[row].bored1Frames[0] = 4;
+    CharaTables.MainCharas[row].bored1Frames[1] = -1;
+    CharaTables.MainCharas[row].bored2Frames[0] = -1;
     CharaTakeCurrent(row);
-    EXPECT_EQ(MenuFrame, 10 + row);
-    EXPECT_EQ(BoredLen1, 1);
-    EXPECT_EQ(BoredLen2, 0);
+    EXPECT_EQ(Character.MenuFrame, 10 + row);
+    EXPECT_EQ(Motion.BoredLen1, 1);
+    EXPECT_EQ(Motion.BoredLen2, 0);
   }
 }
 
@@ -182,23 +186,23 @@ TEST_F(StageTest, ForACharacterNumberOf0NoFileIsLookedFor) {
   PutMain(7, {kTriangle});
   PutDwc(0, DwcFile({kTriangle}));
   PutBmp(0, 1, BmpFile(40, 30));
-  MainCharas[0].charaNo = 0;
+  CharaTables.MainCharas[0].charaNo = 0;
   FaultClear();
   EXPECT_EQ(CharaLoadStage(), 0);
   EXPECT_EQ(FaultCalls(FaultKind::Open), 0);
   EXPECT_EQ(FramePicture(kStageRow, 0), nullptr);
-  EXPECT_EQ(CurrentOutline.count, 0);
-  EXPECT_EQ(StageFrameCount, 20);
+  EXPECT_EQ(Stage.CurrentOutline.count, 0);
+  EXPECT_EQ(Stage.StageFrameCount, 20);
 }
 
 TEST_F(StageTest, SelectingACharacterCopiesItsRecordAndTellsWhetherItIsAnother) {
-  MainCharas[1].charaSet[100] = 77;
-  MainCharas[1].menuFrame = 5;
+  CharaTables.MainCharas[1].charaSet[100] = 77;
+  CharaTables.MainCharas[1].menuFrame = 5;
   EXPECT_TRUE(CharaSelect(1));
-  EXPECT_EQ(CharaIndex, 1);
-  EXPECT_EQ(MenuFrame, 5);
-  EXPECT_EQ(CharaSet[100], 77);
-  EXPECT_EQ(CharaSetNo(CharaSet), 2);
+  EXPECT_EQ(Character.CharaIndex, 1);
+  EXPECT_EQ(Character.MenuFrame, 5);
+  EXPECT_EQ(Character.CharaSet[100], 77);
+  EXPECT_EQ(CharaSetNo(Character.CharaSet), 2);
   EXPECT_FALSE(CharaSelect(1));
 }
 
@@ -206,24 +210,24 @@ TEST_F(StageTest, SelectingACharacterCopiesItsRecordAndTellsWhetherItIsAnother) 
 
 TEST_F(StageTest, AFrameWithAnotherOutlineAsksForACut) {
   PutMain(7, {kTriangle, kOther});
-  MenuFrame = 1;
+  Character.MenuFrame = 1;
   CharaLoadStage();
   StageShowFrame(1, kOutlineMenu);
-  EXPECT_EQ(CharaFrame, 1);
-  EXPECT_EQ(StageRedraw, 1);
-  EXPECT_EQ(PointsOfOutline(CurrentOutline), kOtherOnStage);
+  EXPECT_EQ(Stage.CharaFrame, 1);
+  EXPECT_EQ(Stage.StageRedraw, 1);
+  EXPECT_EQ(PointsOfOutline(Stage.CurrentOutline), kOtherOnStage);
 }
 
 TEST_F(StageTest, AFrameWithAnEqualOutlineOnlyAsksForDrawing) {
   PutMain(7, {kTriangle, kTriangle});
-  MenuFrame = 1;
+  Character.MenuFrame = 1;
   CharaLoadStage();
   StageShowFrame(1, kOutlineMenu);
-  EXPECT_EQ(CharaFrame, 1);
-  EXPECT_EQ(StageRedraw, 2);
+  EXPECT_EQ(Stage.CharaFrame, 1);
+  EXPECT_EQ(Stage.StageRedraw, 2);
   StageShowFrame(0, 11);  // no such slot: the outline stays
   StageShowFrame(0, -1);
-  EXPECT_EQ(PointsOfOutline(CurrentOutline), kTriangleOnStage);
+  EXPECT_EQ(PointsOfOutline(Stage.CurrentOutline), kTriangleOnStage);
 }
 
 // --- Command 2293
@@ -234,49 +238,49 @@ class RedrawTest : public StageFixture {
     StageFixture::SetUp();
     PutMain(7, {kTriangle, kOther, kTriangle, {}});
     ASSERT_EQ(CharaLoadStage(), 0);
-    StageRedraw = 1;
+    Stage.StageRedraw = 1;
     CommandRedrawStage();
-    sets_ = RegionSetCount(hMainWnd);
+    sets_ = RegionSetCount(Program.hMainWnd);
     DrawingClear();
   }
   int sets_ = 0;
 };
 
 TEST_F(RedrawTest, WithNothingToDoNothingIsDone) {
-  StageRedraw = 0;
+  Stage.StageRedraw = 0;
   CommandRedrawStage();
-  EXPECT_TRUE(Drawings(hMainWnd).empty());
-  EXPECT_EQ(RegionSetCount(hMainWnd), sets_);
+  EXPECT_TRUE(Drawings(Program.hMainWnd).empty());
+  EXPECT_EQ(RegionSetCount(Program.hMainWnd), sets_);
 }
 
 TEST_F(RedrawTest, ANewOutlineCutsTheWindowToItsPoints) {
-  EXPECT_EQ(PointsOf(RegionOf(hMainWnd)), kTriangleOnStage);
-  MenuFrame = 1;
+  EXPECT_EQ(PointsOf(RegionOf(Program.hMainWnd)), kTriangleOnStage);
+  Character.MenuFrame = 1;
   CharaLoadStage();
   StageShowFrame(1, kOutlineMenu);
   CommandRedrawStage();
-  EXPECT_EQ(StageRedraw, 0);
-  EXPECT_EQ(RegionSetCount(hMainWnd), sets_ + 1);
-  EXPECT_EQ(PointsOf(RegionOf(hMainWnd)), kOtherOnStage);
-  ASSERT_EQ(DibsDrawn(hMainWnd).size(), 1U);
-  EXPECT_EQ(DibsDrawn(hMainWnd)[0].dib, FramePicture(kStageRow, 1));
-  EXPECT_EQ(DibsDrawn(hMainWnd)[0].x, 0);
-  EXPECT_EQ(DibsDrawn(hMainWnd)[0].y, 0);
+  EXPECT_EQ(Stage.StageRedraw, 0);
+  EXPECT_EQ(RegionSetCount(Program.hMainWnd), sets_ + 1);
+  EXPECT_EQ(PointsOf(RegionOf(Program.hMainWnd)), kOtherOnStage);
+  ASSERT_EQ(DibsDrawn(Program.hMainWnd).size(), 1U);
+  EXPECT_EQ(DibsDrawn(Program.hMainWnd)[0].dib, FramePicture(kStageRow, 1));
+  EXPECT_EQ(DibsDrawn(Program.hMainWnd)[0].x, 0);
+  EXPECT_EQ(DibsDrawn(Program.hMainWnd)[0].y, 0);
 }
 
 TEST_F(RedrawTest, AnEqualOutlineLeavesTheRegionUntouchedAndDrawsThroughMemory) {
-  BlinkFrame = 2;
+  Character.BlinkFrame = 2;
   CharaLoadStage();
   StageShowFrame(2, kOutlineBlink);
-  ASSERT_EQ(StageRedraw, 2);
+  ASSERT_EQ(Stage.StageRedraw, 2);
   CommandRedrawStage();
-  EXPECT_EQ(StageRedraw, 0);
-  EXPECT_EQ(RegionSetCount(hMainWnd), sets_);
-  ASSERT_EQ(DibsDrawn(hMainWnd).size(), 1U);
-  EXPECT_EQ(DibsDrawn(hMainWnd)[0].dib, FramePicture(kStageRow, 2));
-  const Rect client = WindowClientRect(hMainWnd);
+  EXPECT_EQ(Stage.StageRedraw, 0);
+  EXPECT_EQ(RegionSetCount(Program.hMainWnd), sets_);
+  ASSERT_EQ(DibsDrawn(Program.hMainWnd).size(), 1U);
+  EXPECT_EQ(DibsDrawn(Program.hMainWnd)[0].dib, FramePicture(kStageRow, 2));
+  const Rect client = WindowClientRect(Program.hMainWnd);
   bool stretched = false;
-  for (const DrawCall& call : Drawings(hMainWnd)) {
+  for (const DrawCall& call : Drawings(Program.hMainWnd)) {
     EXPECT_NE(call.kind, Kind::Rectangle);  // an outline hides the background
     if (call.kind == Kind::Stretch) stretched = call.x2 == client.right && call.y2 == client.bottom;
   }
@@ -284,42 +288,42 @@ TEST_F(RedrawTest, AnEqualOutlineLeavesTheRegionUntouchedAndDrawsThroughMemory) 
 }
 
 TEST_F(RedrawTest, WithoutAnOutlineTheBackgroundIsClearedInTheFaceColour) {
-  CurrentOutline.count = 0;
-  StageRedraw = 2;
+  Stage.CurrentOutline.count = 0;
+  Stage.StageRedraw = 2;
   CommandRedrawStage();
   int cleared = 0;
-  for (const DrawCall& call : Drawings(hMainWnd)) {
+  for (const DrawCall& call : Drawings(Program.hMainWnd)) {
     if (call.kind != Kind::Rectangle) continue;
     ++cleared;
     EXPECT_EQ(call.brush, FaceColour());
     EXPECT_FALSE(call.edged);
   }
   EXPECT_EQ(cleared, 1);
-  EXPECT_EQ(DibsDrawn(hMainWnd).size(), 1U);
+  EXPECT_EQ(DibsDrawn(Program.hMainWnd).size(), 1U);
 }
 
 TEST_F(RedrawTest, WhenTheMemoryBitmapCannotBeMadeTheWindowIsDrawnStraight) {
   FaultArm(FaultKind::Bitmap, 1);
-  StageRedraw = 2;
+  Stage.StageRedraw = 2;
   CommandRedrawStage();
   EXPECT_TRUE(FaultWasMet());
   FaultClear();
-  ASSERT_EQ(Drawings(hMainWnd).size(), 1U);
-  EXPECT_EQ(DibsDrawn(hMainWnd)[0].dib, FramePicture(kStageRow, 0));
-  EXPECT_EQ(StageRedraw, 0);
+  ASSERT_EQ(Drawings(Program.hMainWnd).size(), 1U);
+  EXPECT_EQ(DibsDrawn(Program.hMainWnd)[0].dib, FramePicture(kStageRow, 0));
+  EXPECT_EQ(Stage.StageRedraw, 0);
 }
 
 TEST_F(RedrawTest, AFullReloadLoadsTheCharacterAndCutsTheWindowAnew) {
   PutMain(8, {kOther}, 60, 30);
-  StageRedraw = 3;
+  Stage.StageRedraw = 3;
   CommandRedrawStage();
-  EXPECT_EQ(StageRedraw, 0);
-  EXPECT_EQ(RegionSetCount(hMainWnd), sets_ + 1);
-  EXPECT_EQ(PointsOf(RegionOf(hMainWnd)), kOtherOnStage);
-  EXPECT_EQ(StageWidth, 80);
-  EXPECT_EQ(RectWidth(WindowRect(hMainWnd)), 80);
-  ASSERT_EQ(DibsDrawn(hMainWnd).size(), 1U);
-  EXPECT_EQ(DibsDrawn(hMainWnd)[0].x2, 60);
+  EXPECT_EQ(Stage.StageRedraw, 0);
+  EXPECT_EQ(RegionSetCount(Program.hMainWnd), sets_ + 1);
+  EXPECT_EQ(PointsOf(RegionOf(Program.hMainWnd)), kOtherOnStage);
+  EXPECT_EQ(Stage.StageWidth, 80);
+  EXPECT_EQ(RectWidth(WindowRect(Program.hMainWnd)), 80);
+  ASSERT_EQ(DibsDrawn(Program.hMainWnd).size(), 1U);
+  EXPECT_EQ(DibsDrawn(Program.hMainWnd)[0].x2, 60);
 }
 
 // A frame without a picture sets no region, so that what is due afterwards comes from
@@ -329,81 +333,81 @@ TEST_F(RedrawTest, ANewSizeAsksForARepaintOnlyWithoutAnOutline) {
   const auto due = [] {
     DrawingClear();
     ExpectBox("t", "c", BoxAnswer::Ok, [] {});
-    MessageBoxRun(hMainWnd, "t", "c", BoxButtons::Ok, BoxIcon::Exclamation);
-    return DibsDrawn(hMainWnd).size();
+    MessageBoxRun(Program.hMainWnd, "t", "c", BoxButtons::Ok, BoxIcon::Exclamation);
+    return DibsDrawn(Program.hMainWnd).size();
   };
   due();
-  CharaFrame = 9;
+  Stage.CharaFrame = 9;
   for (const int points : {3, 0, 3}) {
-    CurrentOutline.count = points;
-    StageAppliedWidth = 1;
-    StageRedraw = 1;
+    Stage.CurrentOutline.count = points;
+    Stage.StageAppliedWidth = 1;
+    Stage.StageRedraw = 1;
     CommandRedrawStage();
-    EXPECT_EQ(StageAppliedWidth, StageWidth);
+    EXPECT_EQ(Stage.StageAppliedWidth, Stage.StageWidth);
     EXPECT_EQ(due(), points == 0 ? 1U : 0U) << points;
   }
 }
 
 TEST_F(RedrawTest, AFullReloadWithoutACharacterLeavesTheWindow) {
-  SetCharaSetNo(CharaSet, 0);
-  StageRedraw = 3;
+  SetCharaSetNo(Character.CharaSet, 0);
+  Stage.StageRedraw = 3;
   CommandRedrawStage();
-  EXPECT_EQ(StageRedraw, 0);
-  EXPECT_EQ(RegionSetCount(hMainWnd), sets_);
+  EXPECT_EQ(Stage.StageRedraw, 0);
+  EXPECT_EQ(RegionSetCount(Program.hMainWnd), sets_);
 }
 
 TEST_F(RedrawTest, TheWindowMovesToItsPlaceOnlyWhenTheSizeDiffers) {
-  const Rect before = WindowRect(hMainWnd);
+  const Rect before = WindowRect(Program.hMainWnd);
   EXPECT_EQ(before.left, 200);
   EXPECT_EQ(before.top, 100);
-  EXPECT_EQ(RectWidth(before), StageWidth);
-  EXPECT_EQ(RectHeight(before), StageHeight);
-  StageX = 210;  // not applied as long as the size stays
+  EXPECT_EQ(RectWidth(before), Stage.StageWidth);
+  EXPECT_EQ(RectHeight(before), Stage.StageHeight);
+  Character.StageX = 210;  // not applied as long as the size stays
   StageShowFrame(1, kOutlineMenu);
-  StageRedraw = 1;
-  OutlineCopy(&CurrentOutline, StageOutlines[kOutlineIdle]);
+  Stage.StageRedraw = 1;
+  OutlineCopy(&Stage.CurrentOutline, Stage.StageOutlines[kOutlineIdle]);
   CommandRedrawStage();
-  EXPECT_EQ(WindowRect(hMainWnd).left, 200);
-  CurrentOutline.count = 0;  // 20 and 10 less
-  StageRedraw = 1;
+  EXPECT_EQ(WindowRect(Program.hMainWnd).left, 200);
+  Stage.CurrentOutline.count = 0;  // 20 and 10 less
+  Stage.StageRedraw = 1;
   CommandRedrawStage();
-  EXPECT_EQ(WindowRect(hMainWnd).left, 210);
-  EXPECT_EQ(RectWidth(WindowRect(hMainWnd)), 40);
-  EXPECT_EQ(StageAppliedWidth, 40);
+  EXPECT_EQ(WindowRect(Program.hMainWnd).left, 210);
+  EXPECT_EQ(RectWidth(WindowRect(Program.hMainWnd)), 40);
+  EXPECT_EQ(Stage.StageAppliedWidth, 40);
 }
 
 TEST_F(RedrawTest, AMotionFrameWithAPointCountOf0TurnsTheWindowRectangularForThatFrameOnly) {
-  MenuFrame = 3;
+  Character.MenuFrame = 3;
   ASSERT_EQ(CharaLoadStage(), 0);
   StageShowFrame(3, kOutlineMenu);
   CommandRedrawStage();
-  EXPECT_EQ(RegionOf(hMainWnd), nullptr);
-  EXPECT_EQ(RegionSetCount(hMainWnd), sets_ + 1);
+  EXPECT_EQ(RegionOf(Program.hMainWnd), nullptr);
+  EXPECT_EQ(RegionSetCount(Program.hMainWnd), sets_ + 1);
   StageShowFrame(0, kOutlineIdle);
   CommandRedrawStage();
-  EXPECT_EQ(PointsOf(RegionOf(hMainWnd)), kTriangleOnStage);
+  EXPECT_EQ(PointsOf(RegionOf(Program.hMainWnd)), kTriangleOnStage);
 }
 
 TEST_F(RedrawTest, AFrameWithoutAPictureFallsBackToFrame0AndChangesNoRegion) {
   StageShowFrame(9, kOutlineMenu);
-  EXPECT_EQ(StageRedraw, 1);
+  EXPECT_EQ(Stage.StageRedraw, 1);
   CommandRedrawStage();
-  EXPECT_EQ(RegionSetCount(hMainWnd), sets_);
-  EXPECT_EQ(PointsOf(RegionOf(hMainWnd)), kTriangleOnStage);
-  ASSERT_EQ(DibsDrawn(hMainWnd).size(), 1U);
-  EXPECT_EQ(DibsDrawn(hMainWnd)[0].dib, FramePicture(kStageRow, 0));
+  EXPECT_EQ(RegionSetCount(Program.hMainWnd), sets_);
+  EXPECT_EQ(PointsOf(RegionOf(Program.hMainWnd)), kTriangleOnStage);
+  ASSERT_EQ(DibsDrawn(Program.hMainWnd).size(), 1U);
+  EXPECT_EQ(DibsDrawn(Program.hMainWnd)[0].dib, FramePicture(kStageRow, 0));
 }
 
 TEST_F(RedrawTest, ThePaintOfTheWindowDrawsTheFrameAndFallsBackToFrame0) {
-  CharaFrame = 1;
-  SendPaint(hMainWnd);
-  ASSERT_EQ(DibsDrawn(hMainWnd).size(), 1U);
-  EXPECT_EQ(DibsDrawn(hMainWnd)[0].dib, FramePicture(kStageRow, 1));
+  Stage.CharaFrame = 1;
+  SendPaint(Program.hMainWnd);
+  ASSERT_EQ(DibsDrawn(Program.hMainWnd).size(), 1U);
+  EXPECT_EQ(DibsDrawn(Program.hMainWnd)[0].dib, FramePicture(kStageRow, 1));
   DrawingClear();
-  CharaFrame = 19;
-  SendPaint(hMainWnd);
-  ASSERT_EQ(DibsDrawn(hMainWnd).size(), 1U);
-  EXPECT_EQ(DibsDrawn(hMainWnd)[0].dib, FramePicture(kStageRow, 0));
+  Stage.CharaFrame = 19;
+  SendPaint(Program.hMainWnd);
+  ASSERT_EQ(DibsDrawn(Program.hMainWnd).size(), 1U);
+  EXPECT_EQ(DibsDrawn(Program.hMainWnd)[0].dib, FramePicture(kStageRow, 0));
 }
 
 TEST_F(RedrawTest, RegionsAndBitmapsDoNotPileUp) {
@@ -411,7 +415,7 @@ TEST_F(RedrawTest, RegionsAndBitmapsDoNotPileUp) {
   for (int i = 0; i < 500; ++i) {
     StageShowFrame(i % 2, i % 2 == 0 ? kOutlineIdle : kOutlineMenu);
     CommandRedrawStage();
-    StageRedraw = 2;
+    Stage.StageRedraw = 2;
     CommandRedrawStage();
   }
   EXPECT_LE(DiagnosticsLive().regions, before.regions);
@@ -421,20 +425,20 @@ TEST_F(RedrawTest, RegionsAndBitmapsDoNotPileUp) {
 
 TEST_F(RedrawTest, ARegionThatCannotBeMadeLeavesTheWholeWindow) {
   FaultArm(FaultKind::Region, 1);
-  StageRedraw = 1;
+  Stage.StageRedraw = 1;
   CommandRedrawStage();
   EXPECT_TRUE(FaultWasMet());
-  EXPECT_EQ(RegionOf(hMainWnd), nullptr);
+  EXPECT_EQ(RegionOf(Program.hMainWnd), nullptr);
 }
 
 TEST_F(RedrawTest, TheStageComesUpCutAndAtItsPlace) {
-  StageX = 33;
-  StageY = 44;
+  Character.StageX = 33;
+  Character.StageY = 44;
   StageShapeAndPlace();
-  EXPECT_EQ(PointsOf(RegionOf(hMainWnd)), kTriangleOnStage);
-  EXPECT_EQ(WindowRect(hMainWnd).left, 33);
-  EXPECT_EQ(WindowRect(hMainWnd).top, 44);
-  EXPECT_EQ(StageAppliedHeight, StageHeight);
+  EXPECT_EQ(PointsOf(RegionOf(Program.hMainWnd)), kTriangleOnStage);
+  EXPECT_EQ(WindowRect(Program.hMainWnd).left, 33);
+  EXPECT_EQ(WindowRect(Program.hMainWnd).top, 44);
+  EXPECT_EQ(Stage.StageAppliedHeight, Stage.StageHeight);
 }
 
 }  // namespace

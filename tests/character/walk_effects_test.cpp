@@ -1,14 +1,17 @@
 // What a walking row may add to a walk: trail, wipe and shake.
 #include <set>
 
-#include "shell/random.h"
+#include "character/character.h"
+#include "character/character_tables.h"
+#include "character/walk.h"
+#include "services/random.h"
 #include "tests/character/walk_fixture.h"
 
 namespace {
 
 TEST_F(WalkTest, WithTheTrailOnTheFirstWindowResetsTheTrailAndTheTrailClosesAtTheWalksEnd) {
-  WalkFlags[0] = kWalkTrail;
-  SetWalkPeriod(CharaSet, 0, 0);
+  CharaTables.WalkFlags[0] = kWalkTrail;
+  SetWalkPeriod(Character.CharaSet, 0, 0);
   WalkForOpening();
   Then([] {
     EXPECT_EQ(OpenWindowCount(), 2);
@@ -36,8 +39,8 @@ TEST_F(WalkTest, WithTheTrailOnTheFirstWindowResetsTheTrailAndTheTrailClosesAtTh
 }
 
 TEST_F(WalkTest, ATrailWindowThatCannotBeMadeIsLeftOut) {
-  WalkFlags[0] = kWalkTrail;
-  SetWalkPeriod(CharaSet, 0, 0);
+  CharaTables.WalkFlags[0] = kWalkTrail;
+  SetWalkPeriod(Character.CharaSet, 0, 0);
   ASSERT_EQ(WalkStartOpen(), 0);
   Then([] {
     FaultArm(FaultKind::Window, 1);
@@ -56,8 +59,8 @@ TEST_F(WalkTest, ATrailWindowThatCannotBeMadeIsLeftOut) {
 // The picture is 60 wide and the end wait 4: slices of 15. The wipe count is 1 when
 // the window opens and goes up with each step.
 TEST_F(WalkTest, WithTheWipeOnThePictureIsRevealedFromTheRightInEqualSlices) {
-  WalkFlags[0] = kWalkWipe;
-  SetWalkPeriod(CharaSet, 0, 0);
+  CharaTables.WalkFlags[0] = kWalkWipe;
+  SetWalkPeriod(Character.CharaSet, 0, 0);
   ASSERT_EQ(WalkStartOpen(), 0);
   for (int i = 0; i < 4; ++i) {
     Then([i] {
@@ -80,8 +83,8 @@ TEST_F(WalkTest, WithTheWipeOnThePictureIsRevealedFromTheRightInEqualSlices) {
 }
 
 TEST_F(WalkTest, WithoutAnEndWaitTheWipeHasThreeSlices) {
-  WalkFlags[0] = kWalkWipe;
-  SetEndWait(CharaSet, 0, 0);
+  CharaTables.WalkFlags[0] = kWalkWipe;
+  SetEndWait(Character.CharaSet, 0, 0);
   ASSERT_EQ(WalkStartOpen(), 0);
   Then([] {
     DrawingClear();
@@ -95,10 +98,10 @@ TEST_F(WalkTest, WithoutAnEndWaitTheWipeHasThreeSlices) {
 
 TEST_F(WalkTest, WithTheShakeOnEachStepJumpsByUpTo49PixelsAndTheWalkItselfDoesNot) {
   RandomSeed(3);
-  WalkFlags[0] = kWalkShake;
-  SetWalkPeriod(CharaSet, 0, 0);
-  SetWalkCount(CharaSet, 0, 200);
-  SetWalkStep(CharaSet, 0, 0, 0);
+  CharaTables.WalkFlags[0] = kWalkShake;
+  SetWalkPeriod(Character.CharaSet, 0, 0);
+  SetWalkCount(Character.CharaSet, 0, 200);
+  SetWalkStep(Character.CharaSet, 0, 0, 0);
   ASSERT_EQ(WalkStartOpen(), 0);
   Then([] {
     EXPECT_EQ(PlaceOf(WalkWindow()).top, 350);  // not when it opens
@@ -107,8 +110,8 @@ TEST_F(WalkTest, WithTheShakeOnEachStepJumpsByUpTo49PixelsAndTheWalkItselfDoesNo
       WalkTicks(1);
       const int top = PlaceOf(WalkWindow()).top;
       EXPECT_TRUE(top >= 350 - 49 && top <= 350 + 49) << top;
-      EXPECT_EQ(top, WalkLastY);
-      EXPECT_EQ(WalkSlots[0].y, 350);
+      EXPECT_EQ(top, Walk.WalkLastY);
+      EXPECT_EQ(Walk.WalkSlots[0].y, 350);
       tops.insert(top);
     }
     EXPECT_GT(tops.size(), 20U);
@@ -118,13 +121,13 @@ TEST_F(WalkTest, WithTheShakeOnEachStepJumpsByUpTo49PixelsAndTheWalkItselfDoesNo
 }
 
 TEST_F(WalkTest, TheFlagsAreThoseOfTheWalkingRow) {
-  WalkFlags[0] = 1;
-  WalkFlags[49] = 4;
+  CharaTables.WalkFlags[0] = 1;
+  CharaTables.WalkFlags[49] = 4;
   EXPECT_EQ(WalkFlagsNow(), 1U);
-  SetWalkRow(CharaSet, 0, 50);
+  SetWalkRow(Character.CharaSet, 0, 50);
   EXPECT_EQ(WalkFlagsNow(), 4U);
   for (const int row : {0, 51, 65535}) {
-    SetWalkRow(CharaSet, 0, row);
+    SetWalkRow(Character.CharaSet, 0, row);
     EXPECT_EQ(WalkFlagsNow(), 0U) << row;
   }
 }

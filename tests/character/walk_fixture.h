@@ -5,10 +5,13 @@
 #include <string>
 #include <vector>
 
+#include "character/character.h"
+#include "character/character_tables.h"
 #include "character/walk.h"
 #include "character/walk_windows.h"
-#include "filetools/open_state.h"
-#include "mail_music/mail_setting.h"
+#include "filetools/open/open_state.h"
+#include "mail_music/mail/mail.h"
+#include "mail_music/mail/mail_setting.h"
 #include "resources/ids.h"
 #include "tests/character/stage_fixture.h"
 
@@ -32,10 +35,10 @@ class WalkFixture : public StageFixture {
     StageFixture::TearDown();
   }
   static void ForgetWalks() {
-    for (WalkSlot& slot : WalkSlots) slot = WalkSlot{};
-    WalkActive = WalkEndActive = false;
-    WalkSlotNow = WalkLastX = WalkLastY = 0;
-    hMailNoticeWnd = nullptr;
+    for (WalkSlot& slot : Walk.WalkSlots) slot = WalkSlot{};
+    Walk.WalkActive = Walk.WalkEndActive = false;
+    Walk.WalkSlotNow = Walk.WalkLastX = Walk.WalkLastY = 0;
+    Mail.hMailNoticeWnd = nullptr;
   }
 
   // Slot 0 walks with character 10: frames 1 and 2 of 60 by 50 turn while it walks,
@@ -47,17 +50,17 @@ class WalkFixture : public StageFixture {
     PutBmp(10, 1, BmpFile(60, 50));
     PutBmp(10, 2, BmpFile(60, 50));
     PutBmp(10, 3, BmpFile(30, 20));
-    WalkCharaCount = 1;
-    WalkCharas[0].number = 10;
-    SetWalkRow(CharaSet, 0, 1);
-    SetWalkStartPoint(CharaSet, 4);
-    SetWalkStep(CharaSet, 0, -14, -12);
-    SetWalkPeriod(CharaSet, 0, 3);
-    SetWalkCount(CharaSet, 0, 5);
-    SetWalkFrames(CharaSet, 0, 0, 1);
-    SetWalkFrames(CharaSet, 0, 1, 2);
-    SetEndFrames(CharaSet, 0, 0, 3);
-    SetEndWait(CharaSet, 0, 4);
+    CharaTables.WalkCharaCount = 1;
+    CharaTables.WalkCharas[0].number = 10;
+    SetWalkRow(Character.CharaSet, 0, 1);
+    SetWalkStartPoint(Character.CharaSet, 4);
+    SetWalkStep(Character.CharaSet, 0, -14, -12);
+    SetWalkPeriod(Character.CharaSet, 0, 3);
+    SetWalkCount(Character.CharaSet, 0, 5);
+    SetWalkFrames(Character.CharaSet, 0, 0, 1);
+    SetWalkFrames(Character.CharaSet, 0, 1, 2);
+    SetEndFrames(Character.CharaSet, 0, 0, 3);
+    SetEndWait(Character.CharaSet, 0, 4);
   }
 
   static void OnCommand(std::uint32_t command) {
@@ -76,7 +79,7 @@ class WalkFixture : public StageFixture {
     for (int i = 0; i < count; ++i) Then([] { WalkTicks(1); });
   }
 
-  static WindowHandle WalkWindow() { return WalkSlots[0].walkWindow; }
+  static WindowHandle WalkWindow() { return Walk.WalkSlots[0].walkWindow; }
 };
 
 class WalkTest : public WalkFixture {};

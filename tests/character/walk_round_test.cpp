@@ -1,6 +1,9 @@
 // Walks of several slots, and what an earlier walk leaves behind.
 #include <gtest/gtest.h>
 
+#include "character/character.h"
+#include "character/character_tables.h"
+#include "character/walk.h"
 #include "tests/character/walk_fixture.h"
 
 namespace {
@@ -11,13 +14,13 @@ class WalkRoundTest : public WalkFixture {
  protected:
   void SetUp() override {
     WalkFixture::SetUp();
-    SetWalkPeriod(CharaSet, 0, 0);
+    SetWalkPeriod(Character.CharaSet, 0, 0);
   }
   // A walk in that slot with so many steps left.
   static void PutWalk(int slot, int left) {
-    WalkSlots[slot].active = true;
-    WalkSlots[slot].frameCount = 1;
-    WalkSlots[slot].WalkLeft = left;
+    Walk.WalkSlots[slot].active = true;
+    Walk.WalkSlots[slot].frameCount = 1;
+    Walk.WalkSlots[slot].WalkLeft = left;
   }
   static int TrailWindows() { return OpenWindowCount() - 2; }  // beside the stage and the walking window
 };
@@ -25,47 +28,47 @@ class WalkRoundTest : public WalkFixture {
 // A mail clears the first ten flags only, so that a walk of a later slot may go on.
 TEST_F(WalkRoundTest, AWalkThatEndsLeavesTheOthersTheirStepOfTheRound) {
   extraCommand = nullptr;
-  WalkActive = true;
+  Walk.WalkActive = true;
   PutWalk(0, 0);
   PutWalk(11, 3);
   WalkTickAll();
-  EXPECT_FALSE(WalkActive);
-  EXPECT_EQ(WalkSlots[11].WalkLeft, 2);
+  EXPECT_FALSE(Walk.WalkActive);
+  EXPECT_EQ(Walk.WalkSlots[11].WalkLeft, 2);
   EXPECT_EQ(commands, (Commands{2208, 2203}));
   WalkTickAll();
-  EXPECT_EQ(WalkSlots[11].WalkLeft, 2) << "no round without the common flag";
+  EXPECT_EQ(Walk.WalkSlots[11].WalkLeft, 2) << "no round without the common flag";
 }
 
 TEST_F(WalkRoundTest, AnEndPhaseNeedsTheCommonFlagToo) {
-  WalkSlots[0].ending = true;
-  WalkSlots[0].endWait = 3;
+  Walk.WalkSlots[0].ending = true;
+  Walk.WalkSlots[0].endWait = 3;
   WalkEndTickAll();
-  EXPECT_EQ(WalkSlots[0].endWait, 3);
-  WalkEndActive = true;
+  EXPECT_EQ(Walk.WalkSlots[0].endWait, 3);
+  Walk.WalkEndActive = true;
   WalkEndTickAll();
-  EXPECT_EQ(WalkSlots[0].endWait, 2);
+  EXPECT_EQ(Walk.WalkSlots[0].endWait, 2);
 }
 
 TEST_F(WalkRoundTest, AnAbortEndsAWalkWithoutFrames) {
-  for (int place = 0; place < kWalkListMax; ++place) SetWalkFrames(CharaSet, 0, place, 0);
+  for (int place = 0; place < kWalkListMax; ++place) SetWalkFrames(Character.CharaSet, 0, place, 0);
   ASSERT_EQ(WalkStartOpen(), 0);
-  ASSERT_TRUE(WalkSlots[0].active);
+  ASSERT_TRUE(Walk.WalkSlots[0].active);
   WalkAbort();
-  EXPECT_FALSE(WalkSlots[0].active);
-  EXPECT_FALSE(WalkActive);
+  EXPECT_FALSE(Walk.WalkSlots[0].active);
+  EXPECT_FALSE(Walk.WalkActive);
   EXPECT_TRUE(commands.empty());
 }
 
 // The first walk leaves three trail windows when a second one starts in another slot.
 TEST_F(WalkRoundTest, TheFirstWindowOfASecondWalkResetsTheTrail) {
-  WalkFlags[0] = kWalkTrail;
-  WalkCharas[1].number = 11;
+  CharaTables.WalkFlags[0] = kWalkTrail;
+  CharaTables.WalkCharas[1].number = 11;
   PutBmp(11, 1, BmpFile(20, 20));
   ASSERT_EQ(WalkStartOpen(), 0);
   ThenTicks(3);
   Then([] {
     EXPECT_EQ(TrailWindows(), 3);
-    CharaIndex = 1;
+    Character.CharaIndex = 1;
     ASSERT_EQ(WalkStartOpen(), 0);
     EXPECT_EQ(TrailWindows(), 3);
   });
@@ -75,7 +78,7 @@ TEST_F(WalkRoundTest, TheFirstWindowOfASecondWalkResetsTheTrail) {
   Then([] {
     EXPECT_EQ(TrailWindows(), 3);
     WalkAbort();
-    SendClose(WalkSlots[0].walkWindow);
+    SendClose(Walk.WalkSlots[0].walkWindow);
     EXPECT_EQ(TrailWindows(), 1) << "both loops are ending, and no trail";
   });
   WalkTicks(1);

@@ -1,5 +1,9 @@
 // A walk: how it starts, steps and starts again.
-#include "shell/random.h"
+#include "character/walk.h"
+
+#include "character/character.h"
+#include "character/character_tables.h"
+#include "services/random.h"
 #include "tests/character/walk_fixture.h"
 
 namespace {
@@ -19,22 +23,22 @@ TEST_F(WalkTest, WithTheAnimationOffTheOpeningFollowsStraightAwayWithItsSound) {
   TextCopy(OpnHistory.soundName, kOpnTextSize, "a.wav");
   WalkForOpening();
   EXPECT_EQ(commands, (std::vector<std::uint32_t>{2202}));
-  EXPECT_EQ(OpeningState, 0);
-  EXPECT_FALSE(WalkActive);
+  EXPECT_EQ(Walk.OpeningState, 0);
+  EXPECT_FALSE(Walk.WalkActive);
   EXPECT_EQ(SoundsPlayed().size(), 1U);
 }
 
 TEST_F(WalkTest, AWalkingRowOf0OrAWalkingNumberOf0MeansThatTheActionGoesOnWithoutAWalk) {
-  SetWalkRow(CharaSet, 0, 0);
+  SetWalkRow(Character.CharaSet, 0, 0);
   WalkForOpening();
   EXPECT_EQ(commands, (std::vector<std::uint32_t>{2202}));
-  EXPECT_FALSE(WalkActive);
-  EXPECT_FALSE(WalkSlots[0].active);
-  SetWalkRow(CharaSet, 0, 1);
-  WalkCharas[0].number = 0;
+  EXPECT_FALSE(Walk.WalkActive);
+  EXPECT_FALSE(Walk.WalkSlots[0].active);
+  SetWalkRow(Character.CharaSet, 0, 1);
+  CharaTables.WalkCharas[0].number = 0;
   WalkForOpening();
   EXPECT_EQ(commands, (std::vector<std::uint32_t>{2202, 2202}));
-  EXPECT_EQ(OpeningState, 0);
+  EXPECT_EQ(Walk.OpeningState, 0);
 }
 
 TEST_F(WalkTest, LoadingAWalkerTellsNegativeSlotsAndSlotsWithoutACharacter) {
@@ -43,27 +47,27 @@ TEST_F(WalkTest, LoadingAWalkerTellsNegativeSlotsAndSlotsWithoutACharacter) {
   EXPECT_EQ(WalkCharaLoad(50), -10);
   EXPECT_EQ(WalkCharaLoad(0), 0);
   // x + 4, 4 + 50 - y - 1
-  EXPECT_EQ(WalkOutlines[0].count, 3);
-  EXPECT_EQ(WalkOutlines[0].points[0].x, 4);
-  EXPECT_EQ(WalkOutlines[0].points[0].y, 53);
-  EXPECT_EQ(WalkOutlines[0].points[2].y, 4);
-  EXPECT_EQ(WalkOutlines[2].points[0].y, 4 + 20 - 1);
+  EXPECT_EQ(Walk.WalkOutlines[0].count, 3);
+  EXPECT_EQ(Walk.WalkOutlines[0].points[0].x, 4);
+  EXPECT_EQ(Walk.WalkOutlines[0].points[0].y, 53);
+  EXPECT_EQ(Walk.WalkOutlines[0].points[2].y, 4);
+  EXPECT_EQ(Walk.WalkOutlines[2].points[0].y, 4 + 20 - 1);
   EXPECT_EQ(DibWidth(WalkPicture(0, 2)), 30);
 }
 
 TEST_F(WalkTest, AStartSetsUpTheSlotFromTheCurrentCharacter) {
-  WalkSlots[7].active = true;
-  WalkSlots[49].active = true;
+  Walk.WalkSlots[7].active = true;
+  Walk.WalkSlots[49].active = true;
   ASSERT_EQ(WalkStartOpen(), 0);
-  const WalkSlot& s = WalkSlots[0];
-  EXPECT_TRUE(WalkActive);
+  const WalkSlot& s = Walk.WalkSlots[0];
+  EXPECT_TRUE(Walk.WalkActive);
   EXPECT_TRUE(s.active);
-  EXPECT_FALSE(WalkSlots[7].active);
-  EXPECT_FALSE(WalkSlots[49].active);
+  EXPECT_FALSE(Walk.WalkSlots[7].active);
+  EXPECT_FALSE(Walk.WalkSlots[49].active);
   EXPECT_EQ(s.x, 500);
   EXPECT_EQ(s.y, 350);
-  EXPECT_EQ(WalkStartX(CharaSet), 500);  // the start is kept in the record
-  EXPECT_EQ(WalkStartY(CharaSet), 350);
+  EXPECT_EQ(WalkStartX(Character.CharaSet), 500);  // the start is kept in the record
+  EXPECT_EQ(WalkStartY(Character.CharaSet), 350);
   EXPECT_EQ(s.stepX, -14);
   EXPECT_EQ(s.stepY, -12);
   EXPECT_EQ(s.WalkLeft, 5);
@@ -77,15 +81,15 @@ TEST_F(WalkTest, AMailTakesTheFirstRowWithTheSameNumberAndClearsOnlyTheFirstTenF
   MailSetting.animeOn = 1;
   MailSetting.soundOn = 1;
   TextCopy(MailSetting.soundName, kMailSoundSize, "mail.wav");
-  WalkCharas[3].number = 10;
-  CharaIndex = 3;
-  WalkSlots[9].active = true;
-  WalkSlots[10].active = true;
+  CharaTables.WalkCharas[3].number = 10;
+  Character.CharaIndex = 3;
+  Walk.WalkSlots[9].active = true;
+  Walk.WalkSlots[10].active = true;
   EXPECT_EQ(WalkStartMail(), 0);
-  EXPECT_TRUE(WalkSlots[0].active);
-  EXPECT_FALSE(WalkSlots[3].active);
-  EXPECT_FALSE(WalkSlots[9].active);
-  EXPECT_TRUE(WalkSlots[10].active);
+  EXPECT_TRUE(Walk.WalkSlots[0].active);
+  EXPECT_FALSE(Walk.WalkSlots[3].active);
+  EXPECT_FALSE(Walk.WalkSlots[9].active);
+  EXPECT_TRUE(Walk.WalkSlots[10].active);
   EXPECT_EQ(SoundsPlayed(), (std::vector<std::string>{"C:\\mirrell\\サウンド\\mail.wav"}));
   MailSetting.animeOn = 0;
   EXPECT_EQ(WalkStartMail(), -1);
@@ -93,11 +97,11 @@ TEST_F(WalkTest, AMailTakesTheFirstRowWithTheSameNumberAndClearsOnlyTheFirstTenF
 
 TEST_F(WalkTest, AMainCharacterBeyondTheSlotsStartsNoWalk) {
   for (const int index : {-1, 50, 1000000}) {
-    CharaIndex = index;
+    Character.CharaIndex = index;
     MailSetting.animeOn = 1;
     EXPECT_EQ(WalkStartOpen(), -1) << index;
     EXPECT_EQ(WalkStartMail(), -1) << index;
-    EXPECT_FALSE(WalkActive);
+    EXPECT_FALSE(Walk.WalkActive);
   }
 }
 
@@ -107,52 +111,52 @@ TEST_F(WalkTest, AMainCharacterBeyondTheSlotsStartsNoWalk) {
 // to 0 after four ticks more.
 TEST_F(WalkTest, AWalkStepsEveryPeriodEndsWithItsPictureAndOnlyThenTheFileOpens) {
   WalkForOpening();
-  EXPECT_EQ(OpeningState, 1);
+  EXPECT_EQ(Walk.OpeningState, 1);
   EXPECT_TRUE(commands.empty());
   Then([] {
     EXPECT_EQ(PlaceOf(WalkWindow()), (Place{486, 338, 60, 50}));
-    EXPECT_EQ(WalkSlots[0].place, 1);
+    EXPECT_EQ(Walk.WalkSlots[0].place, 1);
   });
   ThenTicks(2);
   Then([] { EXPECT_EQ(PlaceOf(WalkWindow()), (Place{486, 338, 60, 50})); });
   ThenTicks(1);
   Then([] {
     EXPECT_EQ(PlaceOf(WalkWindow()), (Place{472, 326, 60, 50}));
-    EXPECT_EQ(WalkSlots[0].place, 0);
+    EXPECT_EQ(Walk.WalkSlots[0].place, 0);
   });
   ThenTicks(11);  // up to tick 15
   Then([] {
     EXPECT_EQ(PlaceOf(WalkWindow()), (Place{430, 290, 60, 50}));
-    EXPECT_EQ(WalkSlots[0].WalkLeft, 0);
+    EXPECT_EQ(Walk.WalkSlots[0].WalkLeft, 0);
     EXPECT_EQ(commands, (std::vector<std::uint32_t>{2203}));
   });
   ThenTicks(1);  // tick 16
   Then([] {
     EXPECT_EQ(WalkWindow(), nullptr);
-    EXPECT_FALSE(WalkActive);
-    EXPECT_TRUE(WalkEndActive);
-    ASSERT_NE(WalkSlots[0].endWindow, nullptr);
-    EXPECT_EQ(PlaceOf(WalkSlots[0].endWindow), (Place{430, 290, 30, 20}));
+    EXPECT_FALSE(Walk.WalkActive);
+    EXPECT_TRUE(Walk.WalkEndActive);
+    ASSERT_NE(Walk.WalkSlots[0].endWindow, nullptr);
+    EXPECT_EQ(PlaceOf(Walk.WalkSlots[0].endWindow), (Place{430, 290, 30, 20}));
     EXPECT_EQ(commands, (std::vector<std::uint32_t>{2203, 2208}));
   });
   ThenTicks(3);
   Then([] {
-    EXPECT_NE(WalkSlots[0].balloonWindow, nullptr);
-    EXPECT_EQ(OpeningState, 1);
+    EXPECT_NE(Walk.WalkSlots[0].balloonWindow, nullptr);
+    EXPECT_EQ(Walk.OpeningState, 1);
   });
   ThenTicks(1);
   WalkTicks(1);
   EXPECT_EQ(commands, kWholeWalk);
-  EXPECT_EQ(OpeningState, 0);
-  EXPECT_EQ(WalkSlots[0].endWindow, nullptr);
-  EXPECT_EQ(WalkSlots[0].balloonWindow, nullptr);
-  EXPECT_FALSE(WalkEndActive);
+  EXPECT_EQ(Walk.OpeningState, 0);
+  EXPECT_EQ(Walk.WalkSlots[0].endWindow, nullptr);
+  EXPECT_EQ(Walk.WalkSlots[0].balloonWindow, nullptr);
+  EXPECT_FALSE(Walk.WalkEndActive);
   EXPECT_EQ(OpenWindowCount(), 1);
 }
 
 TEST_F(WalkTest, TheFirstStepOpensTheWindowAtTheStartPointPlusOneStep) {
-  SetWalkStartPoint(CharaSet, 3);
-  SetWalkStep(CharaSet, 0, 25, 30);
+  SetWalkStartPoint(Character.CharaSet, 3);
+  SetWalkStep(Character.CharaSet, 0, 25, 30);
   ASSERT_EQ(WalkStartOpen(), 0);
   Then([] {
     EXPECT_EQ(PlaceOf(WalkWindow()), (Place{25, 30, 60, 50}));
@@ -179,7 +183,7 @@ TEST_F(WalkTest, EachStepCutsTheWindowToItsFramesOutline) {
 }
 
 TEST_F(WalkTest, AFrameWithoutAnOutlineIsPaintedAtOnceAndAFrameWithoutAPictureIs300By200) {
-  SetWalkFrames(CharaSet, 0, 0, 5);  // no files
+  SetWalkFrames(Character.CharaSet, 0, 0, 5);  // no files
   ASSERT_EQ(WalkStartOpen(), 0);
   Then([] {
     EXPECT_EQ(PlaceOf(WalkWindow()), (Place{486, 338, 60, 50}));
@@ -197,8 +201,8 @@ TEST_F(WalkTest, AFrameWithoutAnOutlineIsPaintedAtOnceAndAFrameWithoutAPictureIs
 }
 
 TEST_F(WalkTest, AFrameNumberBeyondTheTableIsAFrameWithoutAPicture) {
-  SetWalkFrames(CharaSet, 0, 1, 255);
-  SetEndFrames(CharaSet, 0, 0, 255);
+  SetWalkFrames(Character.CharaSet, 0, 1, 255);
+  SetEndFrames(Character.CharaSet, 0, 0, 255);
   ASSERT_EQ(WalkStartOpen(), 0);
   Then([] {
     EXPECT_EQ(PlaceOf(WalkWindow()), (Place{486, 338, 300, 200}));
@@ -212,23 +216,23 @@ TEST_F(WalkTest, AFrameNumberBeyondTheTableIsAFrameWithoutAPicture) {
 // From (500, 350) with steps of (300, 0): the far edge stops at 1000, so x is 940;
 // with steps to the left x stops at 0. The frames keep turning.
 TEST_F(WalkTest, AWalkThatLeavesTheScreenStopsAtTheEdgeAndKeepsItsFramesTurning) {
-  SetWalkStep(CharaSet, 0, 300, 2147483647);
-  SetWalkPeriod(CharaSet, 0, 0);
-  SetWalkCount(CharaSet, 0, 4);
+  SetWalkStep(Character.CharaSet, 0, 300, 2147483647);
+  SetWalkPeriod(Character.CharaSet, 0, 0);
+  SetWalkCount(Character.CharaSet, 0, 4);
   ASSERT_EQ(WalkStartOpen(), 0);
   Then([] { EXPECT_EQ(PlaceOf(WalkWindow()), (Place{800, 650, 60, 50})); });
   for (int i = 0; i < 3; ++i) {
     ThenTicks(1);
     Then([i] {
       EXPECT_EQ(PlaceOf(WalkWindow()), (Place{940, 650, 60, 50}));
-      EXPECT_EQ(WalkSlots[0].place, i % 2);
-      EXPECT_EQ(WalkSlots[0].WalkLeft, 2 - i);
+      EXPECT_EQ(Walk.WalkSlots[0].place, i % 2);
+      EXPECT_EQ(Walk.WalkSlots[0].WalkLeft, 2 - i);
     });
   }
   ThenTicks(5);
   WalkTicks(1);
 
-  SetWalkStep(CharaSet, 0, -2147483647 - 1, -300);
+  SetWalkStep(Character.CharaSet, 0, -2147483647 - 1, -300);
   ASSERT_EQ(WalkStartOpen(), 0);
   Then([] {
     EXPECT_EQ(PlaceOf(WalkWindow()), (Place{0, 50, 60, 50}));
@@ -240,19 +244,19 @@ TEST_F(WalkTest, AWalkThatLeavesTheScreenStopsAtTheEdgeAndKeepsItsFramesTurning)
 }
 
 TEST_F(WalkTest, AWalkWithoutFramesStandsStillForGoodAndTheOpeningWaits) {
-  SetWalkFrames(CharaSet, 0, 0, 0);
-  SetWalkFrames(CharaSet, 0, 1, 0);
+  SetWalkFrames(Character.CharaSet, 0, 0, 0);
+  SetWalkFrames(Character.CharaSet, 0, 1, 0);
   WalkForOpening();
   WalkTicks(1000);
   EXPECT_TRUE(commands.empty());
-  EXPECT_TRUE(WalkActive);
-  EXPECT_EQ(OpeningState, 1);
-  EXPECT_EQ(WalkSlots[0].WalkLeft, 5);
+  EXPECT_TRUE(Walk.WalkActive);
+  EXPECT_EQ(Walk.OpeningState, 1);
+  EXPECT_EQ(Walk.WalkSlots[0].WalkLeft, 5);
 }
 
 TEST_F(WalkTest, AWalkOfNoStepsGoesStraightToItsEnd) {
-  SetWalkCount(CharaSet, 0, 0);
-  SetEndWait(CharaSet, 0, 0);
+  SetWalkCount(Character.CharaSet, 0, 0);
+  SetEndWait(Character.CharaSet, 0, 0);
   WalkForOpening();
   ThenTicks(1);
   WalkTicks(1);
@@ -260,8 +264,8 @@ TEST_F(WalkTest, AWalkOfNoStepsGoesStraightToItsEnd) {
 }
 
 TEST_F(WalkTest, AWindowThatCannotBeMadeIsTriedAgainAtTheNextStep) {
-  SetWalkPeriod(CharaSet, 0, 0);
-  SetWalkCount(CharaSet, 0, 2);
+  SetWalkPeriod(Character.CharaSet, 0, 0);
+  SetWalkCount(Character.CharaSet, 0, 2);
   WalkForOpening();
   FaultArm(FaultKind::Window, 1);
   WalkTicks(1);
@@ -291,7 +295,7 @@ TEST_F(WalkTest, ASecondStartInTheSameSlotWalksTheSameWindowFromTheStart) {
   ThenTicks(4);
   Then([] {
     ASSERT_EQ(WalkStartOpen(), 0);
-    EXPECT_EQ(WalkSlots[0].WalkLeft, 5);
+    EXPECT_EQ(Walk.WalkSlots[0].WalkLeft, 5);
     WalkTicks(1);
     EXPECT_EQ(PlaceOf(WalkWindow()), (Place{486, 338, 60, 50}));
   });
@@ -301,23 +305,23 @@ TEST_F(WalkTest, ASecondStartInTheSameSlotWalksTheSameWindowFromTheStart) {
 }
 
 TEST_F(WalkTest, ASecondStartInAnotherSlotLeavesTheFirstWindowUntilItsOwnClose) {
-  WalkCharas[1].number = 11;
+  CharaTables.WalkCharas[1].number = 11;
   PutBmp(11, 1, BmpFile(20, 20));
   ASSERT_EQ(WalkStartOpen(), 0);
   Then([] {
-    CharaIndex = 1;
+    Character.CharaIndex = 1;
     ASSERT_EQ(WalkStartOpen(), 0);
-    EXPECT_FALSE(WalkSlots[0].active);
-    EXPECT_NE(WalkSlots[0].walkWindow, nullptr);
+    EXPECT_FALSE(Walk.WalkSlots[0].active);
+    EXPECT_NE(Walk.WalkSlots[0].walkWindow, nullptr);
   });
   ThenTicks(19);
   Then([] { WalkTicks(1); });
   Then([] {
-    EXPECT_EQ(WalkSlots[1].walkWindow, nullptr);
-    EXPECT_NE(WalkSlots[0].walkWindow, nullptr);
-    SendPaint(WalkSlots[0].walkWindow);
-    SendClose(WalkSlots[0].walkWindow);
-    EXPECT_EQ(WalkSlots[0].walkWindow, nullptr);
+    EXPECT_EQ(Walk.WalkSlots[1].walkWindow, nullptr);
+    EXPECT_NE(Walk.WalkSlots[0].walkWindow, nullptr);
+    SendPaint(Walk.WalkSlots[0].walkWindow);
+    SendClose(Walk.WalkSlots[0].walkWindow);
+    EXPECT_EQ(Walk.WalkSlots[0].walkWindow, nullptr);
   });
   WalkTicks(1);
   EXPECT_EQ(OpenWindowCount(), 1);
@@ -341,12 +345,13 @@ TEST_F(WalkTest, RandomRecordsWalkInsideTheTables) {
   };
   for (int round = 0; round < 1000; ++round) {
     for (int i = kCharaSetWalkRow; i < kCharaSetSize; ++i) {
-      CharaSet[i] = static_cast<unsigned char>(RandomBelow(4) == 0 ? RandomBelow(256) : RandomBelow(3));
+      Character.CharaSet[i] =
+          static_cast<unsigned char>(RandomBelow(4) == 0 ? RandomBelow(256) : RandomBelow(3));
     }
-    SetWalkRow(CharaSet, 0, RandomBelow(60));
-    SetWalkPeriod(CharaSet, 0, RandomBelow(3));
-    for (unsigned char& flags : WalkFlags) flags = static_cast<unsigned char>(RandomBelow(8));
-    OpeningState = RandomBelow(4);
+    SetWalkRow(Character.CharaSet, 0, RandomBelow(60));
+    SetWalkPeriod(Character.CharaSet, 0, RandomBelow(3));
+    for (unsigned char& flags : CharaTables.WalkFlags) flags = static_cast<unsigned char>(RandomBelow(8));
+    Walk.OpeningState = RandomBelow(4);
     if (WalkStartOpen() != 0) continue;
     WalkTicks(1);
     WalkAbort();

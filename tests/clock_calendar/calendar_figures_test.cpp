@@ -2,13 +2,15 @@
 // announcement of notes.
 #include <cstring>
 
-#include "clock_calendar/calendar_picture.h"
+#include "clock_calendar/calendar/calendar.h"
+#include "clock_calendar/calendar/calendar_picture.h"
 #include "clock_calendar/clock_calendar_tick.h"
 #include "platform/posix/test_clock.h"
-#include "scenario/world_list.h"
-#include "shell/random.h"
+#include "services/random.h"
+#include "services/today.h"
 #include "tests/character/chara_files.h"
 #include "tests/support/records.h"
+#include "world/world_list.h"
 
 namespace {
 
@@ -17,13 +19,13 @@ class CalendarFiguresTest : public CharaFiles {
   void SetUp() override {
     CharaFiles::SetUp();
     ClearRecords();
-    TodayYear = 26;
-    TodayMonth = 10;
-    CalenMonthPos = 10;
-    CalenPictureOn = 1;
-    CalenPageSize = 1;  // the page is 200 wide, its picture 195 high
+    Today.TodayYear = 26;
+    Today.TodayMonth = 10;
+    Calendar.CalenMonthPos = 10;
+    Calendar.CalenPictureOn = 1;
+    Calendar.CalenPageSize = 1;  // the page is 200 wide, its picture 195 high
     CalenYearsSet(26);
-    CalenYearCount = 1;
+    Calendar.CalenYearCount = 1;
     for (int month = 0; month < 12; ++month) Block(month)[kMonthPictureOn] = 1;
   }
   void TearDown() override {
@@ -31,10 +33,10 @@ class CalendarFiguresTest : public CharaFiles {
     ClearRecords();
     CharaFiles::TearDown();
   }
-  static unsigned char* Block(int month) { return CalenMonths[0][month]; }
+  static unsigned char* Block(int month) { return Calendar.CalenMonths[0][month]; }
   // Gives a place of November a figure: frame 0 of a character, start 50, 60.
   static void Figure(int place, int chara, int frame = 0, int mode = 0) {
-    unsigned char* definition = CalenDefinitions[0];
+    unsigned char* definition = Calendar.CalenDefinitions[0];
     PutLE16(definition + kDefinitionCharas + 2 * (4 * 10 + place), static_cast<std::uint16_t>(chara));
     definition[kDefinitionFigures + 4 * 10 + place] = static_cast<unsigned char>(frame);
     definition[kDefinitionFigureModes + 4 * 10 + place] = static_cast<unsigned char>(mode);
@@ -57,7 +59,7 @@ class CalendarFiguresTest : public CharaFiles {
     return CalenFiguresMove();
   }
   static std::string Place() {
-    return std::to_string(CalenFigPos1[0][0]) + "," + std::to_string(CalenFigPos1[0][1]);
+    return std::to_string(Calendar.CalenFigPos1[0][0]) + "," + std::to_string(Calendar.CalenFigPos1[0][1]);
   }
 };
 
@@ -71,62 +73,62 @@ TEST_F(CalendarFiguresTest, BackgroundAndFiguresOfTheMonthAreLoaded) {
   Figure(0, 5, 2);
   Figure(2, 6);
   CalenPrepareMonth();
-  EXPECT_EQ(DibWidth(CalenBackground), 30);
-  EXPECT_EQ(DibHeight(CalenFigures[0].picture), 20);
-  EXPECT_NE(CalenFigures[0].mask, nullptr);
-  EXPECT_EQ(DibBits(CalenFigures[0].picture)[0], 0);  // the white mask has blackened it
-  EXPECT_EQ(CalenFigures[1].picture, nullptr);
-  EXPECT_EQ(DibHeight(CalenFigures[2].picture), 21);
-  EXPECT_EQ(CalenFixedFigure.x, 50);
-  EXPECT_EQ(CalenFixedFigure.y, 60);
-  CalenMonthPos = 3;
+  EXPECT_EQ(DibWidth(CalendarPictures.CalenBackground), 30);
+  EXPECT_EQ(DibHeight(CalendarPictures.CalenFigures[0].picture), 20);
+  EXPECT_NE(CalendarPictures.CalenFigures[0].mask, nullptr);
+  EXPECT_EQ(DibBits(CalendarPictures.CalenFigures[0].picture)[0], 0);  // the white mask has blackened it
+  EXPECT_EQ(CalendarPictures.CalenFigures[1].picture, nullptr);
+  EXPECT_EQ(DibHeight(CalendarPictures.CalenFigures[2].picture), 21);
+  EXPECT_EQ(CalendarPictures.CalenFixedFigure.x, 50);
+  EXPECT_EQ(CalendarPictures.CalenFixedFigure.y, 60);
+  Calendar.CalenMonthPos = 3;
   CalenPrepareMonth();
-  EXPECT_EQ(CalenBackground, nullptr);
-  EXPECT_EQ(CalenFigures[0].picture, nullptr);
+  EXPECT_EQ(CalendarPictures.CalenBackground, nullptr);
+  EXPECT_EQ(CalendarPictures.CalenFigures[0].picture, nullptr);
 }
 
 TEST_F(CalendarFiguresTest, ABackgroundIsTakenByItsFullPathAndNotAtAllWithTheColourFlag) {
   Put("\\own.bmp", BmpFile(30, 40));
   std::memcpy(Block(10) + kMonthBackground, "C:\\mirrell\\own.bmp", 19);
   CalenPrepareMonth();
-  EXPECT_EQ(DibHeight(CalenBackground), 40);
+  EXPECT_EQ(DibHeight(CalendarPictures.CalenBackground), 40);
   Block(10)[kMonthColourOnly] = 1;
   CalenPrepareMonth();
-  EXPECT_EQ(CalenBackground, nullptr);
+  EXPECT_EQ(CalendarPictures.CalenBackground, nullptr);
   Block(10)[kMonthColourOnly] = 0;
   Block(10)[kMonthPictureOn] = 0;
   CalenPrepareMonth();
-  EXPECT_EQ(CalenBackground, nullptr);
+  EXPECT_EQ(CalendarPictures.CalenBackground, nullptr);
   // A field without a terminator names no file.
   Block(10)[kMonthPictureOn] = 1;
   std::memset(Block(10) + kMonthBackground, 'x', kMonthBackgroundSize);
   CalenPrepareMonth();
-  EXPECT_EQ(CalenBackground, nullptr);
+  EXPECT_EQ(CalendarPictures.CalenBackground, nullptr);
 }
 
 TEST_F(CalendarFiguresTest, StickersOfTheMonthAreLoadedByTheirDays) {
   Put("\\キャラクタ\\Chara9_4.bmp", BmpFile(12, 13));
-  PutLE16(CalenStickers, 2);
-  PutLE16(CalenStickers + kStickerCharas + 2, 9);
-  CalenStickers[kStickerFigures + 1] = 3;
-  unsigned char* days = CalenDefinitions[0] + kDefinitionStickers + 32 * 10;
+  PutLE16(Calendar.CalenStickers, 2);
+  PutLE16(Calendar.CalenStickers + kStickerCharas + 2, 9);
+  Calendar.CalenStickers[kStickerFigures + 1] = 3;
+  unsigned char* days = Calendar.CalenDefinitions[0] + kDefinitionStickers + 32 * 10;
   days[0] = 2;
   days[30] = 2;
   days[5] = 3;  // beyond the list
   CalenStickersPrepare();
-  EXPECT_EQ(DibWidth(CalenDayStickers[0].picture), 12);
-  EXPECT_EQ(DibWidth(CalenDayStickers[30].picture), 12);
-  EXPECT_EQ(CalenDayStickers[1].picture, nullptr);
-  EXPECT_EQ(CalenDayStickers[5].picture, nullptr);
+  EXPECT_EQ(DibWidth(CalendarPictures.CalenDayStickers[0].picture), 12);
+  EXPECT_EQ(DibWidth(CalendarPictures.CalenDayStickers[30].picture), 12);
+  EXPECT_EQ(CalendarPictures.CalenDayStickers[1].picture, nullptr);
+  EXPECT_EQ(CalendarPictures.CalenDayStickers[5].picture, nullptr);
 }
 
 TEST_F(CalendarFiguresTest, ThePictureHeightFollowsThePageSizeAndIs0WithNoPicture) {
   const int kHeights[] = {145, 195, 245, 195};
   for (int size = 0; size < 4; ++size) {
-    CalenPageSize = size;
+    Calendar.CalenPageSize = size;
     EXPECT_EQ(CalenPictureHeight(), kHeights[size]) << size;
   }
-  CalenPictureOn = 0;
+  Calendar.CalenPictureOn = 0;
   EXPECT_EQ(CalenPictureHeight(), 0);
 }
 
@@ -146,9 +148,9 @@ TEST_F(CalendarFiguresTest, EachDirectionMovesItsWayAndAsksForARepaint) {
     EXPECT_EQ(Place(), "50,60");
     EXPECT_TRUE(Move()) << direction;
     EXPECT_EQ(Place(), kPlaces[direction]) << direction;
-    EXPECT_EQ(CalenFigPhase[0][0], 1);
+    EXPECT_EQ(Calendar.CalenFigPhase[0][0], 1);
     EXPECT_TRUE(Move()) << direction;
-    EXPECT_EQ(CalenFigPhase[0][0], 0);
+    EXPECT_EQ(Calendar.CalenFigPhase[0][0], 0);
   }
 }
 
@@ -158,9 +160,9 @@ TEST_F(CalendarFiguresTest, WithoutADirectionAStepAPictureOrTheSwitchNothingMove
   Walker(2, 0);
   EXPECT_FALSE(Move());
   Walker(2);
-  CalenPictureOn = 0;
+  Calendar.CalenPictureOn = 0;
   EXPECT_FALSE(Move());
-  CalenPictureOn = 1;
+  Calendar.CalenPictureOn = 1;
   RemoveFile(InProgram("キャラクタ\\Chara5_1.bmp"));
   CalenPrepareMonth();
   EXPECT_FALSE(Move());
@@ -176,7 +178,7 @@ TEST_F(CalendarFiguresTest, ThePeriodOfTheMonthIsWaitedFor) {
 
 TEST_F(CalendarFiguresTest, AFigureThatWouldLeaveJumpsToMinus300WithoutItsTurnFlag) {
   Walker(2);
-  CalenFigPos1[0][0] = 180;
+  Calendar.CalenFigPos1[0][0] = 180;
   EXPECT_TRUE(Move());
   EXPECT_EQ(Place(), "200,60");
   EXPECT_TRUE(Move());
@@ -184,13 +186,13 @@ TEST_F(CalendarFiguresTest, AFigureThatWouldLeaveJumpsToMinus300WithoutItsTurnFl
   EXPECT_TRUE(Move());
   EXPECT_EQ(Place(), "-280,60");
   Walker(1);
-  CalenFigPos1[0][0] = 20;
+  Calendar.CalenFigPos1[0][0] = 20;
   EXPECT_TRUE(Move());
   EXPECT_EQ(Place(), "0,60");
   EXPECT_TRUE(Move());
   EXPECT_EQ(Place(), "-300,60");
   Walker(4);
-  CalenFigPos1[0][1] = 176;
+  Calendar.CalenFigPos1[0][1] = 176;
   EXPECT_TRUE(Move());
   EXPECT_EQ(Place(), "50,-300");
 }
@@ -204,11 +206,11 @@ TEST_F(CalendarFiguresTest, AFigureThatWouldLeaveTurnsBackWithItsTurnFlag) {
                 {7, 10, 60, 6, "30,40"},   {8, 190, 190, 5, "170,170"}};
   for (const auto& item : kCases) {
     Walker(item.direction);
-    CalenFigTurn[0] = 1;
-    CalenFigPos1[0][0] = item.x;
-    CalenFigPos1[0][1] = item.y;
+    Calendar.CalenFigTurn[0] = 1;
+    Calendar.CalenFigPos1[0][0] = item.x;
+    Calendar.CalenFigPos1[0][1] = item.y;
     EXPECT_TRUE(Move()) << item.direction;
-    EXPECT_EQ(CalenFigDir[0][0], item.opposite) << item.direction;
+    EXPECT_EQ(Calendar.CalenFigDir[0][0], item.opposite) << item.direction;
     EXPECT_EQ(Place(), item.place) << item.direction;
   }
 }
@@ -218,16 +220,16 @@ TEST_F(CalendarFiguresTest, ARandomFigureDrawsADirectionBelow9AtSetupAndOneOf8At
   bool still = false;
   for (int i = 0; i < 200; ++i) {
     Walker(9);
-    EXPECT_LT(CalenFigDir[0][0], 9);
-    still = still || CalenFigDir[0][0] == 0;
+    EXPECT_LT(Calendar.CalenFigDir[0][0], 9);
+    still = still || Calendar.CalenFigDir[0][0] == 0;
   }
   EXPECT_TRUE(still);
   bool seen[9] = {};
   for (int i = 0; i < 500; ++i) {
-    CalenFigPos1[0][0] = CalenFigPos1[0][1] = 100;
+    Calendar.CalenFigPos1[0][0] = Calendar.CalenFigPos1[0][1] = 100;
     EXPECT_TRUE(Move());
-    ASSERT_TRUE(CalenFigDir[0][0] >= 1 && CalenFigDir[0][0] <= 8);
-    seen[CalenFigDir[0][0]] = true;
+    ASSERT_TRUE(Calendar.CalenFigDir[0][0] >= 1 && Calendar.CalenFigDir[0][0] <= 8);
+    seen[Calendar.CalenFigDir[0][0]] = true;
   }
   for (int direction = 1; direction <= 8; ++direction) EXPECT_TRUE(seen[direction]) << direction;
 }
@@ -235,17 +237,17 @@ TEST_F(CalendarFiguresTest, ARandomFigureDrawsADirectionBelow9AtSetupAndOneOf8At
 TEST_F(CalendarFiguresTest, AFigureGoesOnFromWhereItStoodWhenThePicturesAreLoadedAgain) {
   Walker(2);
   EXPECT_TRUE(Move());
-  CalenFigDir[0][0] = 1;  // it has turned back
+  Calendar.CalenFigDir[0][0] = 1;  // it has turned back
   CalenShowToday();
   EXPECT_EQ(Place(), "70,60");
-  EXPECT_EQ(CalenFigDir[0][0], 1);
+  EXPECT_EQ(Calendar.CalenFigDir[0][0], 1);
   // A direction that the month does not give is not believed.
-  CalenFigDir[0][0] = 3;
+  Calendar.CalenFigDir[0][0] = 3;
   CalenShowToday();
-  EXPECT_EQ(CalenFigDir[0][0], 2);
-  CalenFigDir[0][0] = 250;
+  EXPECT_EQ(Calendar.CalenFigDir[0][0], 2);
+  Calendar.CalenFigDir[0][0] = 250;
   CalenShowToday();
-  EXPECT_EQ(CalenFigDir[0][0], 2);
+  EXPECT_EQ(Calendar.CalenFigDir[0][0], 2);
   // Another month begins at the start.
   CalenPrepareMonth();
   EXPECT_EQ(Place(), "50,60");
@@ -253,16 +255,16 @@ TEST_F(CalendarFiguresTest, AFigureGoesOnFromWhereItStoodWhenThePicturesAreLoade
 
 TEST_F(CalendarFiguresTest, NumbersOutOfTheSettingsFileStayInsideTheTables) {
   Walker(2);
-  CalenFigCount[0] = CalenFigCount[1] = 255;
-  for (auto& position : CalenFigPos1) position[0] = position[1] = 2147483647;
-  CalenFigStep[0] = 2147483647;
+  Calendar.CalenFigCount[0] = Calendar.CalenFigCount[1] = 255;
+  for (auto& position : Calendar.CalenFigPos1) position[0] = position[1] = 2147483647;
+  Calendar.CalenFigStep[0] = 2147483647;
   EXPECT_TRUE(Move());
-  for (auto& position : CalenFigPos1) position[0] = position[1] = -2147483647 - 1;
-  for (auto& direction : CalenFigDir[0]) direction = 1;
-  CalenFigTurn[0] = 1;
+  for (auto& position : Calendar.CalenFigPos1) position[0] = position[1] = -2147483647 - 1;
+  for (auto& direction : Calendar.CalenFigDir[0]) direction = 1;
+  Calendar.CalenFigTurn[0] = 1;
   EXPECT_TRUE(Move());
-  CalenFigStep[0] = -2147483647 - 1;
-  CalenFigPeriod[0] = -5;
+  Calendar.CalenFigStep[0] = -2147483647 - 1;
+  Calendar.CalenFigPeriod[0] = -5;
   for (int i = 0; i < 100; ++i) EXPECT_FALSE(CalenFiguresMove());
 }
 
@@ -272,11 +274,11 @@ class FigureChoiceTest : public CalendarFiguresTest {
  protected:
   // Character 2 with so many named frames, every second one of the 20 first.
   static void Names(int count) {
-    WorldCharaCount = 2;
-    std::memset(static_cast<void*>(&WorldCharas[1]), 0, sizeof WorldCharas[1]);
+    World.WorldCharaCount = 2;
+    std::memset(static_cast<void*>(&World.WorldCharas[1]), 0, sizeof World.WorldCharas[1]);
     for (int i = 0; i < count; ++i) {
       const int frame = i < 10 ? 2 * i : 2 * (i - 10) + 1;
-      WorldCharas[1].frameNames[frame][0] = 'n';
+      World.WorldCharas[1].frameNames[frame][0] = 'n';
     }
   }
 };
@@ -290,16 +292,16 @@ TEST_F(FigureChoiceTest, Mode0IsTheStoredFigure) {
 TEST_F(FigureChoiceTest, Mode1WithTenFramesTakesTheYearIndexTheFirstYearHavingNoPart) {
   Names(10);
   for (const int first : {26, 27, 99}) {
-    CalenFirstYear = first;
+    Calendar.CalenFirstYear = first;
     for (int index = 0; index < 3; ++index) {
-      CalenYearPos = index;
+      Calendar.CalenYearPos = index;
       EXPECT_EQ(CalenFigureChoice(2, 7, 1), 2 * index) << first << " " << index;
     }
   }
   Names(9);
   EXPECT_EQ(CalenFigureChoice(2, 7, 1), 7);
   EXPECT_EQ(CalenFigureChoice(99, 7, 1), 7);
-  CalenFirstYear = -2147483647 - 1;
+  Calendar.CalenFirstYear = -2147483647 - 1;
   Names(10);
   EXPECT_GE(CalenFigureChoice(2, 7, 1), 0);
 }
@@ -313,7 +315,7 @@ TEST_F(FigureChoiceTest, Mode2WithTwelveFramesTurnsThroughTwelveYears) {
     int entry;
   } kYears[] = {{8, 0}, {9, 1}, {19, 11}, {20, 0}, {26, 6}, {7, 11}, {6, 10}, {0, 4}};
   for (const auto& item : kYears) {
-    CalenYears[0] = static_cast<unsigned char>(item.year);
+    Calendar.CalenYears[0] = static_cast<unsigned char>(item.year);
     EXPECT_EQ(CalenFigureChoice(2, 5, 2), kFrames[item.entry]) << item.year;
   }
   Names(11);
@@ -326,12 +328,12 @@ class CalendarNotesTest : public CalendarFiguresTest {
  protected:
   void SetUp() override {
     CalendarFiguresTest::SetUp();
-    CalenYearCount = 2;
+    Calendar.CalenYearCount = 2;
     for (int i = 0; i < 3; ++i) CalenYearInit(i);
-    CalenNoteMode = 3;
+    Calendar.CalenNoteMode = 3;
     Date(2027, 6, 15);  // another date: the marks begin afresh
     CalenNoteCheck();
-    for (CalenNote& note : CalenNotes) note = CalenNote{};
+    for (CalenNote& note : Calendar.CalenNotes) note = CalenNote{};
   }
   static void Date(int year, int month, int day) { TestClockSet({year, month, day, 0, 12, 0, 0, 0}); }
   // Announces until nothing comes: "slot:text:day " each.
@@ -340,7 +342,7 @@ class CalendarNotesTest : public CalendarFiguresTest {
     for (int i = 0; i < 10 && CalenNoteCheck() != 0; ++i) {
       const int slot = CalenNoteTake();
       if (slot < 0) return text + "lost";
-      text += std::to_string(slot) + ":" + CalenNotes[slot].text + " ";
+      text += std::to_string(slot) + ":" + Calendar.CalenNotes[slot].text + " ";
     }
     return text;
   }
@@ -355,11 +357,11 @@ TEST_F(CalendarNotesTest, TheSettingSaysHowManyDaysBefore) {
   for (int mode = 0; mode <= 3; ++mode) {
     Date(2026, 5, 1);
     CalenNoteCheck();
-    CalenNoteMode = mode;
+    Calendar.CalenNoteMode = mode;
     Date(2026, 4, 10);
     EXPECT_EQ(Announced(), kAnnounced[mode]) << mode;
     EXPECT_EQ(CalenNoteCheck(), 0);
-    CalenNoteMode = 3;
+    Calendar.CalenNoteMode = 3;
   }
 }
 
@@ -371,7 +373,7 @@ TEST_F(CalendarNotesTest, TheFirstStepTestsTodaysNoteUntilItHasBeenTaken) {
   CalenNoteSet(0, 3, 9, "changed");
   EXPECT_EQ(CalenNoteCheck(), 1);
   EXPECT_EQ(CalenNoteTake(), 0);
-  EXPECT_STREQ(CalenNotes[0].text, "changed");
+  EXPECT_STREQ(Calendar.CalenNotes[0].text, "changed");
   EXPECT_EQ(CalenNoteTake(), -1);
   EXPECT_EQ(CalenNoteCheck(), 0);
 }
@@ -393,11 +395,11 @@ TEST_F(CalendarNotesTest, TheNoteOfDecember31IsFoundFromDecember30AndJanuary1InT
   CalenNoteSet(1, 0, 0, "new");
   Date(2026, 12, 30);
   EXPECT_EQ(Announced(), "1:eve 2:new ");
-  EXPECT_EQ(CalenNotes[1].year, 26);
-  EXPECT_EQ(CalenNotes[2].year, 27);
+  EXPECT_EQ(Calendar.CalenNotes[1].year, 26);
+  EXPECT_EQ(Calendar.CalenNotes[2].year, 27);
   Date(2026, 12, 31);
   EXPECT_EQ(Announced(), "0:eve 1:new ");
-  CalenYearCount = 1;
+  Calendar.CalenYearCount = 1;
   Date(2026, 12, 30);
   EXPECT_EQ(Announced(), "1:eve ");
 }
@@ -422,8 +424,8 @@ TEST_F(CalendarNotesTest, TheDayStandsOverTheMonthInTheDate) {
   CalenNoteSet(0, 3, 9, "a");
   Date(2026, 4, 10);
   EXPECT_EQ(CalenNoteCheck(), 1);
-  EXPECT_EQ(CalenNotes[0].monthAndDay, 9);
-  EXPECT_EQ(CalenNotes[0].year, 26);
+  EXPECT_EQ(Calendar.CalenNotes[0].monthAndDay, 9);
+  EXPECT_EQ(Calendar.CalenNotes[0].year, 26);
 }
 
 }  // namespace

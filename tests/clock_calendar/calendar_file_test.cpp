@@ -4,13 +4,14 @@
 #include <cstring>
 #include <random>
 
-#include "clock_calendar/calendar.h"
-#include "clock_calendar/clock.h"
+#include "clock_calendar/calendar/calendar.h"
+#include "clock_calendar/clock/clock.h"
 #include "platform/posix/faults.h"
 #include "platform/posix/posix_paths.h"
-#include "shell/data_file.h"
-#include "shell/shell.h"
-#include "shell/text.h"
+#include "services/data_file.h"
+#include "services/program.h"
+#include "services/text.h"
+#include "services/today.h"
 #include "tests/support/failing_writes.h"
 #include "tests/support/records.h"
 
@@ -60,9 +61,9 @@ class CalendarFileTest : public RecordsTest {
   void SetUp() override {
     RecordsTest::SetUp();
     // Today, which the reader brings on show, is in the span.
-    TodayYear = 26;
-    CalenFirstYear = 26;
-    CalenYearCount = 1;
+    Today.TodayYear = 26;
+    Calendar.CalenFirstYear = 26;
+    Calendar.CalenYearCount = 1;
   }
 };
 
@@ -77,36 +78,37 @@ TEST_F(CalendarFileTest, EveryPartStandsAtItsOffset) {
   ASSERT_EQ(file.size(), 3986U + 3 * (56064 + 120 + 26728) + 302 + 4 + 2 * 104);
   PutFile(kName, file);
   EXPECT_EQ(CalenFileRead(), 0);
-  EXPECT_EQ(FileStatus, 0);
-  EXPECT_EQ(CalenCount, 3);
+  EXPECT_EQ(FileResult.FileStatus, 0);
+  EXPECT_EQ(Calendar.CalenCount, 3);
   for (int i = 0; i < 30; ++i) {
-    EXPECT_STREQ(CalenNames[i], file.substr(26 + 129 * static_cast<std::size_t>(i), 129).c_str()) << i;
+    EXPECT_STREQ(Calendar.CalenNames[i], file.substr(26 + 129 * static_cast<std::size_t>(i), 129).c_str())
+        << i;
   }
-  EXPECT_EQ(Bytes(CalenKinds), file.substr(3896, 30));
-  EXPECT_EQ(Bytes(CalenParts), file.substr(3926, 30));
-  EXPECT_EQ(Bytes(CalenPictures), file.substr(3956, 30));
+  EXPECT_EQ(Bytes(Calendar.CalenKinds), file.substr(3896, 30));
+  EXPECT_EQ(Bytes(Calendar.CalenParts), file.substr(3926, 30));
+  EXPECT_EQ(Bytes(Calendar.CalenPictures), file.substr(3956, 30));
   for (std::size_t i = 0; i < 3; ++i) {
-    EXPECT_TRUE(Bytes(CalenSheets[i]) == file.substr(3986 + 56064 * i, 56064)) << i;
-    EXPECT_TRUE(Bytes(CalenSheetFlags[i]) == file.substr(3986 + 3 * 56064 + 120 * i, 120)) << i;
-    EXPECT_TRUE(Bytes(CalenDefinitions[i]) == file.substr(3986 + 3 * 56184 + 26728 * i, 26728)) << i;
+    EXPECT_TRUE(Bytes(Calendar.CalenSheets[i]) == file.substr(3986 + 56064 * i, 56064)) << i;
+    EXPECT_TRUE(Bytes(Calendar.CalenSheetFlags[i]) == file.substr(3986 + 3 * 56064 + 120 * i, 120)) << i;
+    EXPECT_TRUE(Bytes(Calendar.CalenDefinitions[i]) == file.substr(3986 + 3 * 56184 + 26728 * i, 26728)) << i;
   }
   const std::size_t tail = 3986 + 3 * (56064 + 120 + 26728);
-  EXPECT_TRUE(Bytes(CalenStickers) == file.substr(tail, 302));
-  EXPECT_EQ(ClockListCount, 2);
-  EXPECT_TRUE(Bytes(ClockList[0]) + Bytes(ClockList[1]) == file.substr(tail + 306, 208));
-  EXPECT_EQ(CalenDefinitions[3][5], 0);
+  EXPECT_TRUE(Bytes(Calendar.CalenStickers) == file.substr(tail, 302));
+  EXPECT_EQ(Clock.ClockListCount, 2);
+  EXPECT_TRUE(Bytes(Clock.ClockList[0]) + Bytes(Clock.ClockList[1]) == file.substr(tail + 306, 208));
+  EXPECT_EQ(Calendar.CalenDefinitions[3][5], 0);
 }
 
 TEST_F(CalendarFileTest, SavingCopiesTheFirstWorkingYearIntoTheSelectedSheetAndSetsTheFirstPictureSwitch) {
   PutFile(kName, WholeFile(3, 2));
   ASSERT_EQ(CalenFileRead(), 0);
   std::string expected = FileBytes(kName);
-  const std::string year = Noise(sizeof CalenMonths, 9);
-  const std::string flags = Noise(sizeof CalenMonthFlags, 10);
-  std::memcpy(CalenMonths, year.data(), year.size());
-  std::memcpy(CalenMonthFlags, flags.data(), flags.size());
-  CalenPictures[0] = 0;
-  CalenSel = 1;
+  const std::string year = Noise(sizeof Calendar.CalenMonths, 9);
+  const std::string flags = Noise(sizeof Calendar.CalenMonthFlags, 10);
+  std::memcpy(Calendar.CalenMonths, year.data(), year.size());
+  std::memcpy(Calendar.CalenMonthFlags, flags.data(), flags.size());
+  Calendar.CalenPictures[0] = 0;
+  Calendar.CalenSel = 1;
   EXPECT_EQ(CalenFileWrite(), 0);
   expected.replace(3986 + 56064, 56064, year.substr(0, 56064));
   expected.replace(3986 + 3 * 56064 + 120, 120, flags.substr(0, 120));
@@ -125,13 +127,13 @@ TEST_F(CalendarFileTest, SavingTwiceGivesTheSameFile) {
 }
 
 TEST_F(CalendarFileTest, ASelectionThatIsNoCalendarSavesIntoTheFirstSheet) {
-  CalenCount = 1;
-  CalenMonths[0][0][5] = 77;
+  Calendar.CalenCount = 1;
+  Calendar.CalenMonths[0][0][5] = 77;
   for (const int sel : {-1, 30, 2147483647}) {
-    CalenSel = sel;
-    CalenSheets[0][0][5] = 0;
+    Calendar.CalenSel = sel;
+    Calendar.CalenSheets[0][0][5] = 0;
     EXPECT_EQ(CalenFileWrite(), 0);
-    EXPECT_EQ(CalenSheets[0][0][5], 77) << sel;
+    EXPECT_EQ(Calendar.CalenSheets[0][0][5], 77) << sel;
   }
 }
 
@@ -141,7 +143,7 @@ TEST_F(CalendarFileTest, ACountOutOfTheSettingsFileIsHeldInsideTheTableWhenWriti
     std::size_t size;
   } kCases[] = {{-1, 3986 + 306}, {31, 3986 + 30 * 82912 + 306}, {2147483647, 3986 + 30 * 82912 + 306}};
   for (const auto& item : kCases) {
-    CalenCount = item.count;
+    Calendar.CalenCount = item.count;
     EXPECT_EQ(CalenFileWrite(), 0);
     EXPECT_EQ(FileBytes(kName).size(), item.size) << item.count;
     EXPECT_EQ(CalenFileRead(), 0);
@@ -149,53 +151,53 @@ TEST_F(CalendarFileTest, ACountOutOfTheSettingsFileIsHeldInsideTheTableWhenWriti
 }
 
 TEST_F(CalendarFileTest, AMissingFileGivesMinus1AndLeavesTheCalendars) {
-  CalenCount = 5;
-  TextCopy(CalenNames[0], kCalenNameSize, "old");
+  Calendar.CalenCount = 5;
+  TextCopy(Calendar.CalenNames[0], kCalenNameSize, "old");
   EXPECT_EQ(CalenFileRead(), -1);
-  EXPECT_EQ(FileStatus, -1);
-  EXPECT_EQ(CalenCount, 5);
-  EXPECT_STREQ(CalenNames[0], "old");
+  EXPECT_EQ(FileResult.FileStatus, -1);
+  EXPECT_EQ(Calendar.CalenCount, 5);
+  EXPECT_STREQ(Calendar.CalenNames[0], "old");
 }
 
 TEST_F(CalendarFileTest, AShortMagicGivesFileStatusMinus2AndReturnsMinus1AndAWrongOneGivesMinus2) {
   PutFile(kName, kMagic.substr(0, 21));
   EXPECT_EQ(CalenFileRead(), -1);
-  EXPECT_EQ(FileStatus, -2);
+  EXPECT_EQ(FileResult.FileStatus, -2);
   std::string file = WholeFile(1, 0);
   file[21] = ';';
   PutFile(kName, file);
   EXPECT_EQ(CalenFileRead(), -2);
-  EXPECT_EQ(FileStatus, -2);
+  EXPECT_EQ(FileResult.FileStatus, -2);
 }
 
 TEST_F(CalendarFileTest, CountsBeyondTheTableAreBadContent) {
   for (const std::uint32_t count : {31U, 0x7FFFFFFFU, 0x80000000U, 0xFFFFFFFFU}) {
-    CalenCount = 4;
+    Calendar.CalenCount = 4;
     PutFile(kName, Head(count) + std::string(100000, 'x'));
     EXPECT_EQ(CalenFileRead(), -2) << count;
-    EXPECT_EQ(FileStatus, -2) << count;
-    EXPECT_EQ(CalenCount, 4) << count;
+    EXPECT_EQ(FileResult.FileStatus, -2) << count;
+    EXPECT_EQ(Calendar.CalenCount, 4) << count;
   }
 }
 
 TEST_F(CalendarFileTest, AListThatCountsMoreDesignsThanThereCanBeIsNoList) {
   for (const std::uint32_t designs : {51U, 0xFFFFFFFFU, 0x7FFFFFFFU}) {
-    ClockListCount = 9;
+    Clock.ClockListCount = 9;
     PutFile(kName, WholeFile(1, 0).substr(0, 3986 + 82912 + 302) + BE32(designs) + Noise(60 * 104, 1));
     EXPECT_EQ(CalenFileRead(), 0);
-    EXPECT_EQ(ClockListCount, 0) << designs;
+    EXPECT_EQ(Clock.ClockListCount, 0) << designs;
   }
   PutFile(kName, WholeFile(1, 50));
   EXPECT_EQ(CalenFileRead(), 0);
-  EXPECT_EQ(ClockListCount, 50);
+  EXPECT_EQ(Clock.ClockListCount, 50);
 }
 
 TEST_F(CalendarFileTest, ThirtyCalendarsFit) {
   const std::string file = WholeFile(30, 50);
   PutFile(kName, file);
   EXPECT_EQ(CalenFileRead(), 0);
-  EXPECT_EQ(CalenCount, 30);
-  EXPECT_TRUE(Bytes(CalenDefinitions[29]) == file.substr(3986 + 30 * 56184 + 29 * 26728, 26728));
+  EXPECT_EQ(Calendar.CalenCount, 30);
+  EXPECT_TRUE(Bytes(Calendar.CalenDefinitions[29]) == file.substr(3986 + 30 * 56184 + 29 * 26728, 26728));
 }
 
 TEST_F(CalendarFileTest, FromTheDefinitionsOnAShortFileIsFilledWithZeros) {
@@ -203,30 +205,30 @@ TEST_F(CalendarFileTest, FromTheDefinitionsOnAShortFileIsFilledWithZeros) {
   const std::size_t definitions = 3986 + 2 * 56184;
   const std::size_t stickers = definitions + 2 * 26728;
   const auto fill = [] {
-    std::memset(CalenDefinitions, 'o', sizeof CalenDefinitions);
-    std::memset(CalenStickers, 'o', sizeof CalenStickers);
-    std::memset(ClockList, 'o', sizeof ClockList);
-    ClockListCount = 3;
+    std::memset(Calendar.CalenDefinitions, 'o', sizeof Calendar.CalenDefinitions);
+    std::memset(Calendar.CalenStickers, 'o', sizeof Calendar.CalenStickers);
+    std::memset(Clock.ClockList, 'o', sizeof Clock.ClockList);
+    Clock.ClockListCount = 3;
   };
   fill();
   PutFile(kName, file.substr(0, definitions));
   EXPECT_EQ(CalenFileRead(), 0);
-  EXPECT_TRUE(Bytes(CalenDefinitions[0]) == std::string(26728, '\0'));
-  EXPECT_TRUE(Bytes(CalenDefinitions[1]) == std::string(26728, '\0'));
-  EXPECT_EQ(CalenDefinitions[2][0], 'o');
-  EXPECT_TRUE(Bytes(CalenStickers) == std::string(302, '\0'));
-  EXPECT_EQ(ClockListCount, 0);
+  EXPECT_TRUE(Bytes(Calendar.CalenDefinitions[0]) == std::string(26728, '\0'));
+  EXPECT_TRUE(Bytes(Calendar.CalenDefinitions[1]) == std::string(26728, '\0'));
+  EXPECT_EQ(Calendar.CalenDefinitions[2][0], 'o');
+  EXPECT_TRUE(Bytes(Calendar.CalenStickers) == std::string(302, '\0'));
+  EXPECT_EQ(Clock.ClockListCount, 0);
   fill();
   PutFile(kName, file.substr(0, definitions + 26728 + 100));
   EXPECT_EQ(CalenFileRead(), 0);
-  EXPECT_TRUE(Bytes(CalenDefinitions[0]) == file.substr(definitions, 26728));
-  EXPECT_TRUE(Bytes(CalenDefinitions[1]) == std::string(26728, '\0'));
+  EXPECT_TRUE(Bytes(Calendar.CalenDefinitions[0]) == file.substr(definitions, 26728));
+  EXPECT_TRUE(Bytes(Calendar.CalenDefinitions[1]) == std::string(26728, '\0'));
   fill();
   PutFile(kName, file.substr(0, stickers + 302 + 4 + 103));
   EXPECT_EQ(CalenFileRead(), 0);
-  EXPECT_TRUE(Bytes(CalenStickers) == file.substr(stickers, 302));
-  EXPECT_EQ(ClockListCount, 1);
-  EXPECT_TRUE(Bytes(ClockList[0]) == std::string(104, '\0'));
+  EXPECT_TRUE(Bytes(Calendar.CalenStickers) == file.substr(stickers, 302));
+  EXPECT_EQ(Clock.ClockListCount, 1);
+  EXPECT_TRUE(Bytes(Clock.ClockList[0]) == std::string(104, '\0'));
 }
 
 TEST_F(CalendarFileTest, EveryTruncationIsToldAndLeavesTheCalendarsUpToTheDefinitions) {
@@ -240,24 +242,24 @@ TEST_F(CalendarFileTest, EveryTruncationIsToldAndLeavesTheCalendarsUpToTheDefini
     const bool near = size < 4100 || (size > strict - 300 && size < strict + 300) || size > file.size() - 600;
     if (near || size % 97 == 0) sizes.push_back(size);
   }
-  std::memset(CalenSheets[0], 'o', sizeof CalenSheets[0]);
+  std::memset(Calendar.CalenSheets[0], 'o', sizeof Calendar.CalenSheets[0]);
   for (const std::size_t size : sizes) {
     ASSERT_EQ(truncate(native.c_str(), static_cast<off_t>(size)), 0);
     if (size < strict) {
-      CalenCount = 7;
-      TextCopy(CalenNames[0], kCalenNameSize, "old");
-      CalenSheets[0][0][0] = CalenSheets[0][11][4671] = 'o';
-      CalenSheetFlags[0][0][0] = 'o';
+      Calendar.CalenCount = 7;
+      TextCopy(Calendar.CalenNames[0], kCalenNameSize, "old");
+      Calendar.CalenSheets[0][0][0] = Calendar.CalenSheets[0][11][4671] = 'o';
+      Calendar.CalenSheetFlags[0][0][0] = 'o';
     }
     const int result = CalenFileRead();
     ASSERT_EQ(result, size >= strict ? 0 : size < 22 ? -1 : -2) << size;
-    ASSERT_EQ(FileStatus, size >= strict ? 0 : -2) << size;
+    ASSERT_EQ(FileResult.FileStatus, size >= strict ? 0 : -2) << size;
     if (size < strict) {
-      ASSERT_EQ(CalenCount, 7) << size;
-      ASSERT_STREQ(CalenNames[0], "old") << size;
-      ASSERT_EQ(CalenSheets[0][0][0], 'o') << size;
-      ASSERT_EQ(CalenSheets[0][11][4671], 'o') << size;
-      ASSERT_EQ(CalenSheetFlags[0][0][0], 'o') << size;
+      ASSERT_EQ(Calendar.CalenCount, 7) << size;
+      ASSERT_STREQ(Calendar.CalenNames[0], "old") << size;
+      ASSERT_EQ(Calendar.CalenSheets[0][0][0], 'o') << size;
+      ASSERT_EQ(Calendar.CalenSheets[0][11][4671], 'o') << size;
+      ASSERT_EQ(Calendar.CalenSheetFlags[0][0][0], 'o') << size;
     }
   }
 }
@@ -289,9 +291,9 @@ TEST_F(CalendarFileTest, RandomMutationsStayInsideTheTables) {
     const int result = CalenFileRead();
     ASSERT_TRUE(result == 0 || result == -2) << round;
     if (result == 0) ++good;
-    ASSERT_TRUE(CalenCount >= 0 && CalenCount <= kCalenMax) << round;
-    ASSERT_TRUE(ClockListCount >= 0 && ClockListCount <= kClockDesignMax) << round;
-    for (const auto& name : CalenNames) ASSERT_EQ(name[kCalenNameSize - 1], '\0') << round;
+    ASSERT_TRUE(Calendar.CalenCount >= 0 && Calendar.CalenCount <= kCalenMax) << round;
+    ASSERT_TRUE(Clock.ClockListCount >= 0 && Clock.ClockListCount <= kClockDesignMax) << round;
+    for (const auto& name : Calendar.CalenNames) ASSERT_EQ(name[kCalenNameSize - 1], '\0') << round;
     int chara = 0;
     int figure = 0;
     CalenSticker(CalenStickerCount() - 1, &chara, &figure);
@@ -313,62 +315,62 @@ TEST_F(CalendarFileTest, RandomMutationsOfCalendarsReadAsTheyAre) {
     const off_t place = 3986 + static_cast<off_t>(random() % (image.size() - 3986 - 306 - 208));
     const char byte = static_cast<char>(random());
     ASSERT_EQ(pwrite(fileno(file), &byte, 1, place), 1);
-    CalenSel = static_cast<std::int32_t>(random());
+    Calendar.CalenSel = static_cast<std::int32_t>(random());
     ASSERT_EQ(CalenFileRead(), 0);
-    for (int day = 0; day < 31; ++day) CalenHolidayRule(0, round % 12, day, HolidayUse::Drawing);
+    for (int day = 0; day < 31; ++day) CalenHolidayRule(0, round % 12, day, HolidayUse::Display);
     ASSERT_EQ(pwrite(fileno(file), &image[static_cast<std::size_t>(place)], 1, place), 1);
   }
   std::fclose(file);
 }
 
 TEST_F(CalendarFileTest, EveryFailingCallOfTheWriterGivesItsResult) {
-  CalenCount = 2;
-  ClockListCount = 1;
+  Calendar.CalenCount = 2;
+  Clock.ClockListCount = 1;
   const int calls = FailingWrites(CalenFileWrite, -2);
   // Magic, count, 30 names, three tables; 12 months, 12 records and a definition
   // for each calendar; stickers, the list's count and its record.
   EXPECT_EQ(calls, 2 + 30 + 3 + 2 * 25 + 3);
   FaultArm(FaultKind::Create, 1);
   EXPECT_EQ(CalenFileWrite(), -1);
-  EXPECT_EQ(FileStatus, -1);
+  EXPECT_EQ(FileResult.FileStatus, -1);
   FaultClear();
   EXPECT_FALSE(FileThere(kName));
   FaultArm(FaultKind::Open, 2);
   EXPECT_EQ(CalenFileWrite(), -1);
-  EXPECT_EQ(FileStatus, -1);
+  EXPECT_EQ(FileResult.FileStatus, -1);
 }
 
 TEST_F(CalendarFileTest, EveryFailingReadUpToTheDefinitionsLeavesTheCalendars) {
   PutFile(kName, WholeFile(1, 1));
   const int strict = 2 + 30 + 3 + 24;
   for (int nth = 1; nth <= strict; ++nth) {
-    CalenCount = 9;
+    Calendar.CalenCount = 9;
     FaultArm(FaultKind::Read, nth);
     EXPECT_EQ(CalenFileRead(), nth == 1 ? -1 : -2) << nth;
-    EXPECT_EQ(FileStatus, -2) << nth;
-    EXPECT_EQ(CalenCount, 9) << nth;
+    EXPECT_EQ(FileResult.FileStatus, -2) << nth;
+    EXPECT_EQ(Calendar.CalenCount, 9) << nth;
   }
   FaultArm(FaultKind::Read, strict + 1);
   EXPECT_EQ(CalenFileRead(), 0);
   FaultClear();
-  EXPECT_EQ(CalenCount, 1);
+  EXPECT_EQ(Calendar.CalenCount, 1);
 }
 
 TEST_F(CalendarFileTest, AfterTheLoadTodaysYearIsOnDisplayWhateverTheSettingsFileSaid) {
   PutFile(kName, WholeFile(1, 0));
   for (const std::int32_t first : {20, -2147483647 - 1, 2147483647}) {
-    CalenFirstYear = first;
-    CalenYearPos = 1;
+    Calendar.CalenFirstYear = first;
+    Calendar.CalenYearPos = 1;
     EXPECT_EQ(CalenFileRead(), 0);
-    EXPECT_EQ(CalenFirstYear, 26) << first;
-    EXPECT_EQ(CalenYearPos, 0) << first;
-    EXPECT_EQ(CalenMonths[0][10][kMonthFirstWeekday], 6) << first;
+    EXPECT_EQ(Calendar.CalenFirstYear, 26) << first;
+    EXPECT_EQ(Calendar.CalenYearPos, 0) << first;
+    EXPECT_EQ(Calendar.CalenMonths[0][10][kMonthFirstWeekday], 6) << first;
   }
   CalenYearsSet(25);
-  CalenYearCount = 2;
+  Calendar.CalenYearCount = 2;
   EXPECT_EQ(CalenFileRead(), 0);
-  EXPECT_EQ(CalenFirstYear, 25);
-  EXPECT_EQ(CalenYearPos, 1);
+  EXPECT_EQ(Calendar.CalenFirstYear, 25);
+  EXPECT_EQ(Calendar.CalenYearPos, 1);
 }
 
 TEST_F(CalendarFileTest, AfterTheLoadTheTickerIsThatOfTheSelectedCalendar) {
@@ -380,15 +382,15 @@ TEST_F(CalendarFileTest, AfterTheLoadTheTickerIsThatOfTheSelectedCalendar) {
   file[definition + 26230] = 3;
   file.replace(definition + 26234, 3, "\x01\x02\x03");
   PutFile(kName, file);
-  CalenSel = 1;
+  Calendar.CalenSel = 1;
   EXPECT_EQ(CalenFileRead(), 0);
-  EXPECT_TRUE(CalenTickerOn);
-  EXPECT_EQ(CalenTickerReach, 7);
-  EXPECT_EQ(CalenTickerStep, 5);
-  EXPECT_EQ(CalenTickerPause, 60);
-  EXPECT_EQ(CalenTickerPlace, 3);
-  EXPECT_EQ(CalenTickerColour[0], 1);
-  EXPECT_EQ(CalenTickerColour[2], 3);
+  EXPECT_TRUE(Calendar.CalenTickerOn);
+  EXPECT_EQ(Calendar.CalenTickerReach, 7);
+  EXPECT_EQ(Calendar.CalenTickerStep, 5);
+  EXPECT_EQ(Calendar.CalenTickerPause, 60);
+  EXPECT_EQ(Calendar.CalenTickerPlace, 3);
+  EXPECT_EQ(Calendar.CalenTickerColour[0], 1);
+  EXPECT_EQ(Calendar.CalenTickerColour[2], 3);
 }
 
 }  // namespace

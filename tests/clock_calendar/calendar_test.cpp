@@ -1,12 +1,12 @@
 // The calendars' years, sheets, holidays and their tick.
-#include "clock_calendar/calendar.h"
+#include "clock_calendar/calendar/calendar.h"
 
 #include <gtest/gtest.h>
 
 #include <cstring>
 
 #include "platform/posix/test_clock.h"
-#include "shell/shell.h"
+#include "services/today.h"
 #include "tests/support/records.h"
 
 namespace {
@@ -15,13 +15,13 @@ class CalendarTest : public RecordsTest {
  protected:
   static void Span(int firstYear, int count) {
     CalenYearsSet(firstYear);
-    CalenYearCount = count;
+    Calendar.CalenYearCount = count;
     for (int i = 0; i < kCalenYearMax; ++i) CalenYearInit(i);
   }
-  static void Today(int year, int month, int day) {
-    TodayYear = year;
-    TodayMonth = month;
-    TodayDay = day;
+  static void SetToday(int year, int month, int day) {
+    Today.TodayYear = year;
+    Today.TodayMonth = month;
+    Today.TodayDay = day;
   }
   static std::string Note(int yearIndex, int month, int day) {
     char note[kNoteSize + 1];
@@ -63,11 +63,11 @@ TEST(SclDates, TheFirstWeekdayOfAYearAbove99OrAMonthAbove11IsMinus1) {
 
 TEST_F(CalendarTest, AFreshYearHasLengthsWeekdaysAndSundaysAndNoNotes) {
   CalenYearsSet(26);
-  std::memset(CalenMonths[1], 'x', sizeof CalenMonths[1]);
+  std::memset(Calendar.CalenMonths[1], 'x', sizeof Calendar.CalenMonths[1]);
   CalenYearInit(1);
   const int kFirst2027[] = {4, 0, 0, 3, 5, 1, 3, 6, 2, 4, 0, 2};
   for (int month = 0; month < 12; ++month) {
-    const unsigned char* block = CalenMonths[1][month];
+    const unsigned char* block = Calendar.CalenMonths[1][month];
     EXPECT_EQ(block[0], SclDaysInMonth(27, month)) << month;
     EXPECT_EQ(block[1], kFirst2027[month]) << month;
     for (int day = 0; day < 32; ++day) {
@@ -76,23 +76,23 @@ TEST_F(CalendarTest, AFreshYearHasLengthsWeekdaysAndSundaysAndNoNotes) {
     }
     for (int i = 0; i < 4096; ++i) ASSERT_EQ(block[34 + i], 0);
   }
-  EXPECT_EQ(CalenMonths[0][0][0], 0);
+  EXPECT_EQ(Calendar.CalenMonths[0][0][0], 0);
 }
 
 TEST_F(CalendarTest, ABuildOfAYearThatIsNotThereDoesNothing) {
   CalenYearInit(-1);
   CalenYearInit(3);
-  for (const auto& year : CalenMonths) EXPECT_EQ(year[0][0], 0);
+  for (const auto& year : Calendar.CalenMonths) EXPECT_EQ(year[0][0], 0);
 }
 
 TEST_F(CalendarTest, YearsOf100OrMoreAreListedAs100) {
   CalenYearsSet(98);
-  EXPECT_EQ(CalenFirstYear, 98);
-  EXPECT_EQ(CalenYears[0], 98);
-  EXPECT_EQ(CalenYears[1], 99);
-  EXPECT_EQ(CalenYears[2], 100);
+  EXPECT_EQ(Calendar.CalenFirstYear, 98);
+  EXPECT_EQ(Calendar.CalenYears[0], 98);
+  EXPECT_EQ(Calendar.CalenYears[1], 99);
+  EXPECT_EQ(Calendar.CalenYears[2], 100);
   CalenYearInit(2);
-  EXPECT_EQ(CalenMonths[2][1][0], 29);
+  EXPECT_EQ(Calendar.CalenMonths[2][1][0], 29);
 }
 
 TEST_F(CalendarTest, ASpanOf3YearsFrom2098IsCutTo2Years) {
@@ -103,21 +103,21 @@ TEST_F(CalendarTest, ASpanOf3YearsFrom2098IsCutTo2Years) {
   EXPECT_EQ(CalenSpanLength(10, 4), 3);
   EXPECT_EQ(CalenSpanLength(10, 0), 1);
   CalenSpanSet(98, 3);
-  EXPECT_EQ(CalenYearCount, 2);
+  EXPECT_EQ(Calendar.CalenYearCount, 2);
 }
 
 TEST_F(CalendarTest, AnotherSpanRebuildsTheMonthTablesKeepsTheNotesAndGoesToItsFirstYear) {
   Span(26, 3);
-  CalenYearPos = 2;
+  Calendar.CalenYearPos = 2;
   CalenNoteSet(0, 3, 4, "birthday");
   CalenHolidayFlagSet(0, 0, 0, true);  // 1 January 2026, a Thursday
   CalenSpanSet(27, 2);
-  EXPECT_EQ(CalenYearPos, 0);
-  EXPECT_EQ(CalenFirstYear, 27);
-  EXPECT_EQ(CalenYearCount, 2);
+  EXPECT_EQ(Calendar.CalenYearPos, 0);
+  EXPECT_EQ(Calendar.CalenFirstYear, 27);
+  EXPECT_EQ(Calendar.CalenYearCount, 2);
   EXPECT_EQ(Note(0, 3, 4), "birthday");
-  EXPECT_EQ(CalenMonths[0][0][1], 4);
-  EXPECT_EQ(CalenMonths[1][1][0], 29);
+  EXPECT_EQ(Calendar.CalenMonths[0][0][1], 4);
+  EXPECT_EQ(Calendar.CalenMonths[1][1][0], 29);
   // The Sundays are those of 2027, the other holiday stays.
   EXPECT_TRUE(CalenHolidayFlag(0, 0, 0));
   EXPECT_TRUE(CalenHolidayFlag(0, 0, 2));   // 3 January 2027
@@ -134,17 +134,17 @@ TEST_F(CalendarTest, ARebuildForTheSameYearsKeepsASundayThatIsNoHoliday) {
 
 TEST_F(CalendarTest, TheFirstStartMakesThreeCalendarsOfOneYearFromThisYearOn) {
   CalenStartDefaults();
-  EXPECT_EQ(CalenCount, 3);
-  EXPECT_EQ(CalenYearCount, 1);
-  EXPECT_EQ(CalenFirstYear, 26);
-  EXPECT_STREQ(CalenNames[2], "日めくりカレンダー");
-  EXPECT_EQ(CalenKinds[1], kPageWeek);
+  EXPECT_EQ(Calendar.CalenCount, 3);
+  EXPECT_EQ(Calendar.CalenYearCount, 1);
+  EXPECT_EQ(Calendar.CalenFirstYear, 26);
+  EXPECT_STREQ(Calendar.CalenNames[2], "日めくりカレンダー");
+  EXPECT_EQ(Calendar.CalenKinds[1], kPageWeek);
   for (int i = 0; i < 3; ++i) {
-    EXPECT_EQ(CalenMonths[i][0][1], SclFirstWeekday(26 + i, 0)) << i;
-    EXPECT_EQ(CalenSheets[i][10][1], 6) << i;
-    EXPECT_EQ(CalenDefinitions[i][0], 1) << i;
+    EXPECT_EQ(Calendar.CalenMonths[i][0][1], SclFirstWeekday(26 + i, 0)) << i;
+    EXPECT_EQ(Calendar.CalenSheets[i][10][1], 6) << i;
+    EXPECT_EQ(Calendar.CalenDefinitions[i][0], 1) << i;
   }
-  EXPECT_EQ(CalenDefinitions[3][0], 0);
+  EXPECT_EQ(Calendar.CalenDefinitions[3][0], 0);
 }
 
 TEST_F(CalendarTest, ASheetGoesOverEachYearButKeepsHolidaysAndNotes) {
@@ -153,23 +153,23 @@ TEST_F(CalendarTest, ASheetGoesOverEachYearButKeepsHolidaysAndNotes) {
     CalenNoteSet(i, 5, 6, "kept");
     CalenHolidayFlagSet(i, 5, 1, true);
   }
-  CalenSel = 4;
-  std::memset(CalenSheets[4], 's', sizeof CalenSheets[4]);
-  std::memset(CalenSheetFlags[4], 'f', sizeof CalenSheetFlags[4]);
+  Calendar.CalenSel = 4;
+  std::memset(Calendar.CalenSheets[4], 's', sizeof Calendar.CalenSheets[4]);
+  std::memset(Calendar.CalenSheetFlags[4], 'f', sizeof Calendar.CalenSheetFlags[4]);
   CalenUseSheet();
   for (int i = 0; i < 3; ++i) {
     EXPECT_EQ(Note(i, 5, 6), "kept");
     EXPECT_TRUE(CalenHolidayFlag(i, 5, 1));
     for (int month = 0; month < 12; ++month) {
-      EXPECT_EQ(CalenMonths[i][month][kMonthPicture], 's');
-      EXPECT_EQ(CalenMonths[i][month][kMonthBlockSize - 1], 's');
-      EXPECT_EQ(CalenMonths[i][month][kMonthDays], SclDaysInMonth(26 + i, month));
-      EXPECT_EQ(CalenMonths[i][month][kMonthFirstWeekday], SclFirstWeekday(26 + i, month));
-      EXPECT_EQ(CalenMonthFlags[i][month][0], 'f');
-      EXPECT_EQ(CalenMonthFlags[i][month][9], 'f');
+      EXPECT_EQ(Calendar.CalenMonths[i][month][kMonthPicture], 's');
+      EXPECT_EQ(Calendar.CalenMonths[i][month][kMonthBlockSize - 1], 's');
+      EXPECT_EQ(Calendar.CalenMonths[i][month][kMonthDays], SclDaysInMonth(26 + i, month));
+      EXPECT_EQ(Calendar.CalenMonths[i][month][kMonthFirstWeekday], SclFirstWeekday(26 + i, month));
+      EXPECT_EQ(Calendar.CalenMonthFlags[i][month][0], 'f');
+      EXPECT_EQ(Calendar.CalenMonthFlags[i][month][9], 'f');
     }
   }
-  EXPECT_EQ(CalenPictures[4], 1);
+  EXPECT_EQ(Calendar.CalenPictures[4], 1);
 }
 
 // --- Ways into the tables
@@ -182,14 +182,14 @@ TEST_F(CalendarTest, IndexesOutOfTheTablesAreHarmless) {
     EXPECT_FALSE(CalenHolidayFlag(bad[0], bad[1], bad[2]));
     CalenNoteSet(bad[0], bad[1], bad[2], "x");
     EXPECT_EQ(Note(bad[0], bad[1], bad[2]), "");
-    EXPECT_EQ(CalenHolidayRule(bad[0], bad[1], bad[2], HolidayUse::Drawing), 0);
+    EXPECT_EQ(CalenHolidayRule(bad[0], bad[1], bad[2], HolidayUse::Display), 0);
   }
   for (const int sel : {-1, 30, 2147483647}) {
-    CalenSel = sel;
-    EXPECT_EQ(CalenDefinition(), CalenDefinitions[0]);
+    Calendar.CalenSel = sel;
+    EXPECT_EQ(CalenDefinition(), Calendar.CalenDefinitions[0]);
   }
   for (const int pos : {-1, 3, 2147483647}) {
-    CalenYearPos = pos;
+    Calendar.CalenYearPos = pos;
     EXPECT_EQ(CalenYearShown(), 0);
   }
 }
@@ -204,29 +204,29 @@ TEST_F(CalendarTest, ANoteHoldsUpTo127BytesAndNeverHalfAPair) {
   CalenNoteSet(0, 0, 31, "");
   EXPECT_EQ(Note(0, 0, 31), "");
   // A field without a terminator is read to its end.
-  std::memset(CalenMonths[0][0] + kMonthNotes, 'q', kNoteSize);
+  std::memset(Calendar.CalenMonths[0][0] + kMonthNotes, 'q', kNoteSize);
   EXPECT_EQ(Note(0, 0, 0), std::string(128, 'q'));
 }
 
 TEST_F(CalendarTest, TheSpanTellsTheIndexOfAYear) {
-  CalenFirstYear = 26;
-  CalenYearCount = 2;
+  Calendar.CalenFirstYear = 26;
+  Calendar.CalenYearCount = 2;
   EXPECT_EQ(CalenSpanIndex(25), -1);
   EXPECT_EQ(CalenSpanIndex(26), 0);
   EXPECT_EQ(CalenSpanIndex(27), 1);
   EXPECT_EQ(CalenSpanIndex(28), -1);
-  CalenYearCount = 0;
+  Calendar.CalenYearCount = 0;
   EXPECT_EQ(CalenSpanIndex(26), -1);
-  CalenYearCount = 2147483647;
+  Calendar.CalenYearCount = 2147483647;
   EXPECT_EQ(CalenSpanIndex(29), -1);
-  CalenFirstYear = -2147483647 - 1;
+  Calendar.CalenFirstYear = -2147483647 - 1;
   EXPECT_EQ(CalenSpanIndex(2147483647), -1);
 }
 
 TEST_F(CalendarTest, StickersComeOutOfTheListHeldInside100) {
-  PutLE16(CalenStickers, 2);
-  PutLE16(CalenStickers + 2 + 2, 0x0102);
-  CalenStickers[202 + 1] = 9;
+  PutLE16(Calendar.CalenStickers, 2);
+  PutLE16(Calendar.CalenStickers + 2 + 2, 0x0102);
+  Calendar.CalenStickers[202 + 1] = 9;
   int chara = -1;
   int figure = -1;
   CalenSticker(1, &chara, &figure);
@@ -237,20 +237,20 @@ TEST_F(CalendarTest, StickersComeOutOfTheListHeldInside100) {
     EXPECT_EQ(chara, 0) << place;
     EXPECT_EQ(figure, 0) << place;
   }
-  PutLE16(CalenStickers, 65535);
+  PutLE16(Calendar.CalenStickers, 65535);
   EXPECT_EQ(CalenStickerCount(), 100);
 }
 
 TEST_F(CalendarTest, TheTickerPauseCodesHaveTheirRests) {
   const int kRests[] = {1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 15, 30, 60, 120, 1};
   for (int code = 0; code < 15; ++code) {
-    CalenDefinitions[0][kDefinitionTickerPause] = static_cast<unsigned char>(code);
+    Calendar.CalenDefinitions[0][kDefinitionTickerPause] = static_cast<unsigned char>(code);
     CalenTickerSetup();
-    EXPECT_EQ(CalenTickerPause, kRests[code]) << code;
+    EXPECT_EQ(Calendar.CalenTickerPause, kRests[code]) << code;
   }
-  EXPECT_FALSE(CalenTickerOn);
-  EXPECT_EQ(CalenTickerReach, 1);
-  EXPECT_EQ(CalenTickerStep, 1);
+  EXPECT_FALSE(Calendar.CalenTickerOn);
+  EXPECT_EQ(Calendar.CalenTickerReach, 1);
+  EXPECT_EQ(Calendar.CalenTickerStep, 1);
 }
 
 // --- Holidays by rule
@@ -262,9 +262,10 @@ class CalendarHolidayTest : public CalendarTest {
     Span(26, 3);  // 2026, 2027, 2028 (a leap year)
   }
   void Rule(int kind, int month = 0, int value = 0) {
-    CalenDefinitions[0][kDefinitionRules + rules_] = static_cast<unsigned char>(kind);
-    CalenDefinitions[0][kDefinitionRuleParameters + 2 * rules_] = static_cast<unsigned char>(month);
-    CalenDefinitions[0][kDefinitionRuleParameters + 2 * rules_ + 1] = static_cast<unsigned char>(value);
+    Calendar.CalenDefinitions[0][kDefinitionRules + rules_] = static_cast<unsigned char>(kind);
+    Calendar.CalenDefinitions[0][kDefinitionRuleParameters + 2 * rules_] = static_cast<unsigned char>(month);
+    Calendar.CalenDefinitions[0][kDefinitionRuleParameters + 2 * rules_ + 1] =
+        static_cast<unsigned char>(value);
     ++rules_;
   }
   // The days of a month that a variant calls holidays, "day:answer", days from 1.
@@ -280,32 +281,32 @@ class CalendarHolidayTest : public CalendarTest {
 };
 
 TEST_F(CalendarHolidayTest, WithoutRulesNoDayIsAHoliday) {
-  for (int month = 1; month <= 12; ++month) EXPECT_EQ(Days(0, month, HolidayUse::Drawing), "");
+  for (int month = 1; month <= 12; ++month) EXPECT_EQ(Days(0, month, HolidayUse::Display), "");
 }
 
 TEST_F(CalendarHolidayTest, AFixedDateIsAHolidayByDate) {
   Rule(1, 2, 11);
   EXPECT_EQ(Days(0, 2, HolidayUse::Schedule), "11:1 ");
-  EXPECT_EQ(Days(0, 2, HolidayUse::Drawing), "11:1 ");  // a Wednesday in 2026
+  EXPECT_EQ(Days(0, 2, HolidayUse::Display), "11:1 ");  // a Wednesday in 2026
   EXPECT_EQ(Days(0, 3, HolidayUse::Schedule), "");
 }
 
 TEST_F(CalendarHolidayTest, AFixedHolidayOnASundayWithBit6ClearMakesTheMondayAHolidayInTheDrawingOnly) {
   Rule(1, 5, 3);  // 3 May 2026 is a Sunday
-  EXPECT_EQ(Days(0, 5, HolidayUse::Drawing), "3:1 4:1 ");
+  EXPECT_EQ(Days(0, 5, HolidayUse::Display), "3:1 4:1 ");
   EXPECT_EQ(Days(0, 5, HolidayUse::Schedule), "3:1 ");
 }
 
 TEST_F(CalendarHolidayTest, Bit6TakesTheSubstituteAway) {
   Rule(1 | 64, 5, 3);
-  EXPECT_EQ(Days(0, 5, HolidayUse::Drawing), "3:1 ");
+  EXPECT_EQ(Days(0, 5, HolidayUse::Display), "3:1 ");
 }
 
 TEST_F(CalendarHolidayTest, ASubstituteDoesNotPassTheMonthsEnd) {
   Rule(1, 5, 31);  // 31 May 2026 is a Sunday
-  EXPECT_EQ(Days(0, 5, HolidayUse::Drawing), "31:1 ");
-  EXPECT_EQ(Days(0, 6, HolidayUse::Drawing), "");
-  EXPECT_EQ(CalenHolidayRule(0, 4, 31, HolidayUse::Drawing), 0);
+  EXPECT_EQ(Days(0, 5, HolidayUse::Display), "31:1 ");
+  EXPECT_EQ(Days(0, 6, HolidayUse::Display), "");
+  EXPECT_EQ(CalenHolidayRule(0, 4, 31, HolidayUse::Display), 0);
 }
 
 TEST_F(CalendarHolidayTest, FixedRulesWithBit5MoveOneDayEarlierInLeapYears) {
@@ -314,10 +315,10 @@ TEST_F(CalendarHolidayTest, FixedRulesWithBit5MoveOneDayEarlierInLeapYears) {
   // The schedule's variant asks the year asked about ...
   EXPECT_EQ(Days(2, 3, HolidayUse::Schedule), "20:1 ");
   // ... the drawing's the year on display.
-  EXPECT_EQ(Days(2, 3, HolidayUse::Drawing), "21:1 ");
-  CalenYearPos = 2;
-  EXPECT_EQ(Days(2, 3, HolidayUse::Drawing), "20:1 ");
-  EXPECT_EQ(Days(0, 3, HolidayUse::Drawing), "20:1 ");
+  EXPECT_EQ(Days(2, 3, HolidayUse::Display), "21:1 ");
+  Calendar.CalenYearPos = 2;
+  EXPECT_EQ(Days(2, 3, HolidayUse::Display), "20:1 ");
+  EXPECT_EQ(Days(0, 3, HolidayUse::Display), "20:1 ");
   EXPECT_EQ(Days(0, 3, HolidayUse::Schedule), "21:1 ");
 }
 
@@ -334,39 +335,39 @@ TEST_F(CalendarHolidayTest, TheFirstOfAMonthWithBit5IsNowhereInALeapYear) {
 
 TEST_F(CalendarHolidayTest, TheNthWeekdayIsAHolidayByDate) {
   Rule(2, 1, 0x21);  // the second Monday of January
-  EXPECT_EQ(Days(0, 1, HolidayUse::Drawing), "12:1 ");
+  EXPECT_EQ(Days(0, 1, HolidayUse::Display), "12:1 ");
   EXPECT_EQ(Days(0, 1, HolidayUse::Schedule), "12:1 ");
   Rule(2, 5, 0x57);  // the fifth Sunday of May
-  EXPECT_EQ(Days(0, 5, HolidayUse::Drawing), "31:1 ");
+  EXPECT_EQ(Days(0, 5, HolidayUse::Display), "31:1 ");
 }
 
 TEST_F(CalendarHolidayTest, WeekdaysAreThoseOfTheYearOnDisplayWhateverYearIsAskedAbout) {
   Rule(2, 1, 0x21);
   EXPECT_EQ(Days(1, 1, HolidayUse::Schedule), "12:1 ");  // in 2027 it is the 11th
-  CalenYearPos = 1;
+  Calendar.CalenYearPos = 1;
   EXPECT_EQ(Days(1, 1, HolidayUse::Schedule), "11:1 ");
   EXPECT_EQ(Days(0, 1, HolidayUse::Schedule), "11:1 ");
 }
 
 TEST_F(CalendarHolidayTest, EverySuchWeekdayIsAHolidayByWeekday) {
   Rule(3);  // Mondays
-  EXPECT_EQ(Days(0, 11, HolidayUse::Drawing), "2:2 9:2 16:2 23:2 30:2 ");
-  CalenDefinitions[0][kDefinitionRules] = 9;  // Sundays
+  EXPECT_EQ(Days(0, 11, HolidayUse::Display), "2:2 9:2 16:2 23:2 30:2 ");
+  Calendar.CalenDefinitions[0][kDefinitionRules] = 9;  // Sundays
   EXPECT_EQ(Days(0, 11, HolidayUse::Schedule), "1:2 8:2 15:2 22:2 29:2 ");
 }
 
 TEST_F(CalendarHolidayTest, EverySecondWeekdayIsCountedFromTheNthOneOfTheStartMonth) {
   Rule(16, 10, 2);  // Saturdays from the second one of October on: the 10th
-  EXPECT_EQ(Days(0, 9, HolidayUse::Drawing), "");
-  EXPECT_EQ(Days(0, 10, HolidayUse::Drawing), "10:2 24:2 ");
-  EXPECT_EQ(Days(0, 11, HolidayUse::Drawing), "7:2 21:2 ");
+  EXPECT_EQ(Days(0, 9, HolidayUse::Display), "");
+  EXPECT_EQ(Days(0, 10, HolidayUse::Display), "10:2 24:2 ");
+  EXPECT_EQ(Days(0, 11, HolidayUse::Display), "7:2 21:2 ");
   EXPECT_EQ(Days(0, 12, HolidayUse::Schedule), "5:2 19:2 ");
 }
 
 TEST_F(CalendarHolidayTest, EverySecondWeekdayStaysWithinItsYear) {
   Rule(11, 12, 1);
-  EXPECT_EQ(Days(0, 12, HolidayUse::Drawing), "7:2 21:2 ");
-  for (int month = 1; month < 12; ++month) EXPECT_EQ(Days(0, month, HolidayUse::Drawing), "") << month;
+  EXPECT_EQ(Days(0, 12, HolidayUse::Display), "7:2 21:2 ");
+  for (int month = 1; month < 12; ++month) EXPECT_EQ(Days(0, month, HolidayUse::Display), "") << month;
 }
 
 TEST_F(CalendarHolidayTest, ByteKindsOf128OrMoreAreSkippedAndA0EndsTheRules) {
@@ -374,34 +375,34 @@ TEST_F(CalendarHolidayTest, ByteKindsOf128OrMoreAreSkippedAndA0EndsTheRules) {
   Rule(1, 1, 2);
   Rule(0);
   Rule(1, 1, 3);
-  EXPECT_EQ(Days(0, 1, HolidayUse::Drawing), "2:1 ");
+  EXPECT_EQ(Days(0, 1, HolidayUse::Display), "2:1 ");
 }
 
 TEST_F(CalendarHolidayTest, TheFirstRuleThatMatchesAnswers) {
   Rule(9);
   Rule(1, 5, 3);
-  EXPECT_EQ(CalenHolidayRule(0, 4, 2, HolidayUse::Drawing), 2);
-  EXPECT_EQ(CalenHolidayRule(0, 4, 3, HolidayUse::Drawing), 1);
+  EXPECT_EQ(CalenHolidayRule(0, 4, 2, HolidayUse::Display), 2);
+  EXPECT_EQ(CalenHolidayRule(0, 4, 3, HolidayUse::Display), 1);
 }
 
 TEST_F(CalendarHolidayTest, All365RulesAreWalkedAndNotOneMore) {
   for (int i = 0; i < 364; ++i) Rule(1, 1, 1);
   Rule(1, 12, 24);
-  EXPECT_EQ(Days(0, 12, HolidayUse::Drawing), "24:1 ");
+  EXPECT_EQ(Days(0, 12, HolidayUse::Display), "24:1 ");
   // The byte behind the rules belongs to something else.
-  CalenDefinitions[0][kDefinitionRules + 365] = 3;
-  EXPECT_EQ(Days(0, 11, HolidayUse::Drawing), "");
+  Calendar.CalenDefinitions[0][kDefinitionRules + 365] = 3;
+  EXPECT_EQ(Days(0, 11, HolidayUse::Display), "");
 }
 
 TEST_F(CalendarHolidayTest, TheSelectedCalendarsRulesCount) {
   Rule(1, 1, 1);
-  CalenSel = 1;
-  EXPECT_EQ(Days(0, 1, HolidayUse::Drawing), "");
+  Calendar.CalenSel = 1;
+  EXPECT_EQ(Days(0, 1, HolidayUse::Display), "");
 }
 
 TEST_F(CalendarHolidayTest, AYearWithoutWeekdaysCountsFromMonday) {
   CalenYearsSet(99);
-  CalenYearPos = 1;  // listed as 100
+  Calendar.CalenYearPos = 1;  // listed as 100
   Rule(3);
   EXPECT_EQ(Days(1, 1, HolidayUse::Schedule), "1:2 8:2 15:2 22:2 29:2 ");
 }
@@ -414,7 +415,7 @@ TEST_F(CalendarHolidayTest, RulesWithWildParametersAreHarmless) {
         Rule(kind, month, value);
         for (const int asked : {0, 1, 11}) {
           for (const int day : {0, 27, 31, 1000}) {
-            const int answer = CalenHolidayRule(2, asked, day, HolidayUse::Drawing);
+            const int answer = CalenHolidayRule(2, asked, day, HolidayUse::Display);
             ASSERT_TRUE(answer >= 0 && answer <= 2);
           }
         }
@@ -427,59 +428,59 @@ TEST_F(CalendarHolidayTest, RulesWithWildParametersAreHarmless) {
 
 TEST_F(CalendarTest, ANewDayIsTakenOverOnce) {
   Span(26, 1);
-  Today(26, 10, 20);
+  SetToday(26, 10, 20);
   EXPECT_EQ(CalenTickCheck(), 0);
   TestClockSet({2026, 11, 22, 0, 0, 0, 0, 0});
   EXPECT_EQ(CalenTickCheck(), 1);
-  EXPECT_EQ(TodayDay, 21);
+  EXPECT_EQ(Today.TodayDay, 21);
   EXPECT_EQ(CalenTickCheck(), 0);
 }
 
 TEST_F(CalendarTest, ANewMonthIsTakenOver) {
   Span(26, 1);
-  Today(26, 10, 29);
+  SetToday(26, 10, 29);
   TestClockSet({2026, 12, 1, 2, 0, 0, 0, 0});
   EXPECT_EQ(CalenTickCheck(), 1);
-  EXPECT_EQ(TodayMonth, 11);
-  EXPECT_EQ(TodayDay, 0);
-  EXPECT_EQ(CalenYearPos, 0);
+  EXPECT_EQ(Today.TodayMonth, 11);
+  EXPECT_EQ(Today.TodayDay, 0);
+  EXPECT_EQ(Calendar.CalenYearPos, 0);
 }
 
 TEST_F(CalendarTest, ANewYearInsideTheSpanGoesOnDisplay) {
   Span(26, 2);
-  Today(26, 11, 30);
+  SetToday(26, 11, 30);
   TestClockSet({2027, 1, 1, 5, 0, 0, 0, 0});
   EXPECT_EQ(CalenTickCheck(), 1);
-  EXPECT_EQ(TodayYear, 27);
-  EXPECT_EQ(CalenYearPos, 1);
-  EXPECT_EQ(CalenFirstYear, 26);
+  EXPECT_EQ(Today.TodayYear, 27);
+  EXPECT_EQ(Calendar.CalenYearPos, 1);
+  EXPECT_EQ(Calendar.CalenFirstYear, 26);
 }
 
 TEST_F(CalendarTest, ANewYearOutsideTheSpanBecomesItsFirstYear) {
   Span(26, 1);
-  Today(26, 11, 30);
+  SetToday(26, 11, 30);
   TestClockSet({2027, 1, 1, 5, 0, 0, 0, 0});
   EXPECT_EQ(CalenTickCheck(), 1);
-  EXPECT_EQ(CalenYearPos, 0);
-  EXPECT_EQ(CalenFirstYear, 27);
-  EXPECT_EQ(CalenYears[0], 27);
-  EXPECT_EQ(CalenYears[1], 28);
-  EXPECT_EQ(CalenMonths[0][0][kMonthFirstWeekday], 4);
+  EXPECT_EQ(Calendar.CalenYearPos, 0);
+  EXPECT_EQ(Calendar.CalenFirstYear, 27);
+  EXPECT_EQ(Calendar.CalenYears[0], 27);
+  EXPECT_EQ(Calendar.CalenYears[1], 28);
+  EXPECT_EQ(Calendar.CalenMonths[0][0][kMonthFirstWeekday], 4);
 }
 
 TEST_F(CalendarTest, APlaceOutOfTheSettingsFileBringsASpanThatHoldsIt) {
   Span(26, 1);
-  TodayYear = 26;
-  CalenYearPos = 2;
+  Today.TodayYear = 26;
+  Calendar.CalenYearPos = 2;
   CalenPrepareMonth();
-  EXPECT_EQ(CalenYearPos, 0);
-  EXPECT_EQ(CalenFirstYear, 28);
+  EXPECT_EQ(Calendar.CalenYearPos, 0);
+  EXPECT_EQ(Calendar.CalenFirstYear, 28);
   for (const int pos : {-1000, 2147483647, -2147483647 - 1}) {
-    CalenYearPos = pos;
+    Calendar.CalenYearPos = pos;
     CalenPrepareMonth();
-    EXPECT_EQ(CalenYearPos, 0) << pos;
-    EXPECT_EQ(CalenFirstYear, 26) << pos;
-    CalenFirstYear = 2147483647;
+    EXPECT_EQ(Calendar.CalenYearPos, 0) << pos;
+    EXPECT_EQ(Calendar.CalenFirstYear, 26) << pos;
+    Calendar.CalenFirstYear = 2147483647;
   }
 }
 

@@ -4,10 +4,10 @@
 #include <cstring>
 #include <random>
 
-#include "clock_calendar/clock.h"
+#include "clock_calendar/clock/clock.h"
 #include "platform/posix/faults.h"
 #include "platform/posix/posix_paths.h"
-#include "shell/data_file.h"
+#include "services/data_file.h"
 #include "tests/support/failing_writes.h"
 #include "tests/support/records.h"
 
@@ -53,7 +53,7 @@ std::string DefaultFile() {
 class ClockAlarmFileTest : public RecordsTest {
  protected:
   static std::string Table(int count = 3) {
-    return {reinterpret_cast<const char*>(ClockPerformances), static_cast<std::size_t>(2008 * count)};
+    return {reinterpret_cast<const char*>(Clock.ClockPerformances), static_cast<std::size_t>(2008 * count)};
   }
 };
 
@@ -68,46 +68,46 @@ TEST_F(ClockAlarmFileTest, TheFileContentNeverReachesTheProgram) {
   std::string other = Record(9, 3, 5, "other.wav", "other") + Record(8, 1, 1, "b.wav", "b");
   PutFile(kName, kMagic + BE32(2) + other);
   EXPECT_EQ(ClockAlarmFileRead(), 0);
-  EXPECT_EQ(ClockPerformanceCount, 3);
+  EXPECT_EQ(Clock.ClockPerformanceCount, 3);
   EXPECT_TRUE(Table() == DefaultRecords());
   // Nor does a changed table reach the file.
-  std::memset(ClockPerformances, 'x', sizeof ClockPerformances);
-  ClockPerformanceCount = 7;
+  std::memset(Clock.ClockPerformances, 'x', sizeof Clock.ClockPerformances);
+  Clock.ClockPerformanceCount = 7;
   EXPECT_EQ(ClockAlarmFileWrite(), 0);
   EXPECT_TRUE(FileBytes(kName) == DefaultFile());
-  EXPECT_EQ(ClockPerformanceCount, 3);
+  EXPECT_EQ(Clock.ClockPerformanceCount, 3);
 }
 
 TEST_F(ClockAlarmFileTest, ARecordGivesItsFields) {
   ClockAlarmFileWrite();
   char sound[kPerformanceSoundSize + 1];
   char title[kPerformanceTitleSize + 1];
-  EXPECT_EQ(PerformanceFlags(ClockPerformances[0]), 1U);
-  EXPECT_EQ(PerformanceFigureMode(ClockPerformances[0]), 5);
-  EXPECT_EQ(PerformanceDuration(ClockPerformances[0], 19), 90);
-  EXPECT_EQ(PerformanceDuration(ClockPerformances[1], 17), 1000);
-  EXPECT_EQ(PerformanceDuration(ClockPerformances[1], 18), 0);
-  EXPECT_EQ(PerformanceFigureMode(ClockPerformances[2]), 0);
-  PerformanceSound(ClockPerformances[0], sound);
+  EXPECT_EQ(PerformanceFlags(Clock.ClockPerformances[0]), 1U);
+  EXPECT_EQ(PerformanceFigureMode(Clock.ClockPerformances[0]), 5);
+  EXPECT_EQ(PerformanceDuration(Clock.ClockPerformances[0], 19), 90);
+  EXPECT_EQ(PerformanceDuration(Clock.ClockPerformances[1], 17), 1000);
+  EXPECT_EQ(PerformanceDuration(Clock.ClockPerformances[1], 18), 0);
+  EXPECT_EQ(PerformanceFigureMode(Clock.ClockPerformances[2]), 0);
+  PerformanceSound(Clock.ClockPerformances[0], sound);
   EXPECT_STREQ(sound, "kan.wav");
-  PerformanceSound(ClockPerformances[1], sound);
+  PerformanceSound(Clock.ClockPerformances[1], sound);
   EXPECT_STREQ(sound, "");
-  PerformanceTitle(ClockPerformances[2], title);
+  PerformanceTitle(Clock.ClockPerformances[2], title);
   EXPECT_STREQ(title, "音のみ");
-  std::memset(ClockPerformances[2], 'x', kPerformanceSize);
-  PerformanceSound(ClockPerformances[2], sound);
+  std::memset(Clock.ClockPerformances[2], 'x', kPerformanceSize);
+  PerformanceSound(Clock.ClockPerformances[2], sound);
   EXPECT_EQ(std::strlen(sound), 1500U);
-  PerformanceTitle(ClockPerformances[2], title);
+  PerformanceTitle(Clock.ClockPerformances[2], title);
   EXPECT_EQ(std::strlen(title), 80U);
 }
 
 TEST_F(ClockAlarmFileTest, AMissingFileGivesMinus1AndIsSilentlyMadeNewByTheLoad) {
   EXPECT_EQ(ClockAlarmFileRead(), -1);
-  EXPECT_EQ(FileStatus, -1);
+  EXPECT_EQ(FileResult.FileStatus, -1);
   EXPECT_FALSE(FileThere(kName));
   EXPECT_EQ(ClockAlarmFileLoad(), 0);
   EXPECT_TRUE(FileBytes(kName) == DefaultFile());
-  EXPECT_EQ(ClockPerformanceCount, 3);
+  EXPECT_EQ(Clock.ClockPerformanceCount, 3);
   EXPECT_TRUE(Table() == DefaultRecords());
 }
 
@@ -118,7 +118,7 @@ TEST_F(ClockAlarmFileTest, WrongContentGivesMinus2AndIsMadeNewByTheLoad) {
         kMagic + BE32(3) + std::string(3 * 2008 - 1, 'x')}) {
     PutFile(kName, bad);
     EXPECT_EQ(ClockAlarmFileRead(), -2);
-    EXPECT_EQ(FileStatus, -2);
+    EXPECT_EQ(FileResult.FileStatus, -2);
     EXPECT_TRUE(FileBytes(kName) == bad);
     EXPECT_EQ(ClockAlarmFileLoad(), 0);
     EXPECT_TRUE(FileBytes(kName) == DefaultFile());
@@ -136,14 +136,14 @@ TEST_F(ClockAlarmFileTest, EveryTruncationGivesMinus2AndLeavesTheTable) {
   const std::string file = DefaultFile();
   PutFile(kName, file);
   const std::string native = PosixPath(kName.c_str());
-  std::memset(ClockPerformances, 'k', sizeof ClockPerformances);
-  ClockPerformanceCount = 2;
+  std::memset(Clock.ClockPerformances, 'k', sizeof Clock.ClockPerformances);
+  Clock.ClockPerformanceCount = 2;
   const std::string before = Table(kPerformanceMax);
   for (std::size_t size = file.size(); size-- > 0;) {
     ASSERT_EQ(truncate(native.c_str(), static_cast<off_t>(size)), 0);
     ASSERT_EQ(ClockAlarmFileRead(), -2) << size;
   }
-  EXPECT_EQ(ClockPerformanceCount, 2);
+  EXPECT_EQ(Clock.ClockPerformanceCount, 2);
   EXPECT_TRUE(Table(kPerformanceMax) == before);
 }
 
@@ -164,7 +164,7 @@ TEST_F(ClockAlarmFileTest, RandomMutationsGive0OrMinus2AndTheTableHoldsTheDefaul
     }
     const int result = ClockAlarmFileRead();
     ASSERT_TRUE(result == 0 || result == -2);
-    ASSERT_EQ(ClockPerformanceCount, 3);
+    ASSERT_EQ(Clock.ClockPerformanceCount, 3);
     for (const off_t place : places) {
       ASSERT_EQ(pwrite(fileno(file), &image[static_cast<std::size_t>(place)], 1, place), 1);
     }
@@ -180,7 +180,7 @@ TEST_F(ClockAlarmFileTest, EveryFailingCallOfTheWriterGivesItsResult) {
   FaultClear();
   FaultArm(FaultKind::Open, 2);
   EXPECT_EQ(ClockAlarmFileWrite(), -1);
-  EXPECT_EQ(FileStatus, -1);
+  EXPECT_EQ(FileResult.FileStatus, -1);
   FaultClear();
   // The defaults stand in the table whatever became of the file.
   EXPECT_TRUE(Table() == DefaultRecords());

@@ -1,14 +1,15 @@
 // The clock's designs, its time and strikes, and its alarms.
-#include "clock_calendar/clock.h"
+#include "clock_calendar/clock/clock.h"
 
 #include <gtest/gtest.h>
 
 #include <cmath>
 #include <cstring>
 
-#include "scenario/world_list.h"
-#include "shell/text.h"
+#include "character/character_tables.h"
+#include "services/text.h"
 #include "tests/support/records.h"
+#include "world/world_list.h"
 
 namespace {
 
@@ -23,9 +24,9 @@ class ClockTest : public RecordsTest {
     fields.centreX = 70;
     fields.centreY = -5;
     fields.handColour[0] = 1;
-    ClockDesignCount = 1;
-    ClockDesignPut(ClockDesigns[0].record, fields);
-    ClockDesign = 0;
+    CharaTables.ClockDesignCount = 1;
+    ClockDesignPut(CharaTables.ClockDesigns[0].record, fields);
+    Clock.ClockDesign = 0;
     ClockReactivate();
   }
 };
@@ -86,15 +87,15 @@ TEST_F(ClockTest, ADesignRecordOfRandomBytesGivesTerminatedTexts) {
 }
 
 TEST_F(ClockTest, FiveValuesOfTheListGoIntoEachDesignThatTheListHolds) {
-  ClockDesignCount = 2;
-  ClockListCount = 1;
-  unsigned char* list = ClockList[0];
+  CharaTables.ClockDesignCount = 2;
+  Clock.ClockListCount = 1;
+  unsigned char* list = Clock.ClockList[0];
   list[0] = 1;
   list[1] = 2;
   list[2] = 1;
   TextCopy(reinterpret_cast<char*>(list + 4), 50, "po2.wav");
   TextCopy(reinterpret_cast<char*>(list + 54), 50, "鳩時計");
-  for (ClockDesignRow& row : ClockDesigns) {
+  for (ClockDesignRow& row : CharaTables.ClockDesigns) {
     ClockDesignFields old{};
     old.hand = 4;
     TextCopy(old.sound, sizeof old.sound, "old.wav");
@@ -102,40 +103,41 @@ TEST_F(ClockTest, FiveValuesOfTheListGoIntoEachDesignThatTheListHolds) {
     ClockDesignPut(row.record, old);
   }
   for (int i = -1; i < kClockDesignMax + 1; ++i) ClockDesignTakeListValues(i);
-  const ClockDesignFields taken = ClockDesignGet(ClockDesigns[0].record);
+  const ClockDesignFields taken = ClockDesignGet(CharaTables.ClockDesigns[0].record);
   EXPECT_TRUE(taken.repeat);
   EXPECT_EQ(taken.strikeMode, 2);
   EXPECT_TRUE(taken.soundOn);
   EXPECT_STREQ(taken.sound, "po2.wav");
   EXPECT_STREQ(taken.name, "鳩時計");
   EXPECT_EQ(taken.hand, 4);
-  EXPECT_STREQ(ClockDesignGet(ClockDesigns[1].record).sound, "old.wav");
+  EXPECT_STREQ(ClockDesignGet(CharaTables.ClockDesigns[1].record).sound, "old.wav");
 }
 
 TEST_F(ClockTest, TheListTakesTheDesignsAndGivesThemBack) {
-  ClockDesignCount = 2;
+  CharaTables.ClockDesignCount = 2;
   ClockDesignFields fields{};
   fields.repeat = true;
   fields.strikeMode = 1;
   TextCopy(fields.sound, sizeof fields.sound, "kan.wav");
   TextCopy(fields.name, sizeof fields.name, std::string(63, 'n').c_str());
-  ClockDesignPut(ClockDesigns[1].record, fields);
+  ClockDesignPut(CharaTables.ClockDesigns[1].record, fields);
   ClockListTakeDesigns();
-  EXPECT_EQ(ClockListCount, 2);
-  EXPECT_EQ(ClockList[1][kClockListRepeat], 1);
-  EXPECT_EQ(ClockList[1][kClockListStrikeMode], 1);
-  EXPECT_EQ(ClockList[1][kClockListSoundOn], 0);
-  EXPECT_STREQ(reinterpret_cast<const char*>(ClockList[1] + kClockListName), std::string(49, 'n').c_str());
-  std::memset(ClockDesigns[1].record, 0, kClockDesignSize);
+  EXPECT_EQ(Clock.ClockListCount, 2);
+  EXPECT_EQ(Clock.ClockList[1][kClockListRepeat], 1);
+  EXPECT_EQ(Clock.ClockList[1][kClockListStrikeMode], 1);
+  EXPECT_EQ(Clock.ClockList[1][kClockListSoundOn], 0);
+  EXPECT_STREQ(reinterpret_cast<const char*>(Clock.ClockList[1] + kClockListName),
+               std::string(49, 'n').c_str());
+  std::memset(CharaTables.ClockDesigns[1].record, 0, kClockDesignSize);
   ClockDesignTakeListValues(1);
-  EXPECT_STREQ(ClockDesignGet(ClockDesigns[1].record).sound, "kan.wav");
+  EXPECT_STREQ(ClockDesignGet(CharaTables.ClockDesigns[1].record).sound, "kan.wav");
 }
 
 TEST_F(ClockTest, AnAlarmSlotKeepsItsFields) {
   AlarmSlot slot{true, 23, 59, 0x0203, {}};
   TextCopy(slot.comment, sizeof slot.comment, "起きる");
   AlarmSlotPut(4, slot);
-  const unsigned char* record = ClockEvents[4];
+  const unsigned char* record = Clock.ClockEvents[4];
   EXPECT_EQ(record[0], 1);
   EXPECT_EQ(record[1], 23);
   EXPECT_EQ(record[2], 59);
@@ -148,7 +150,7 @@ TEST_F(ClockTest, AnAlarmSlotKeepsItsFields) {
   EXPECT_EQ(back.minute, 59);
   EXPECT_EQ(back.performance, 0x0203);
   EXPECT_STREQ(back.comment, "起きる");
-  std::memset(ClockEvents[4], 'x', kAlarmSlotSize);
+  std::memset(Clock.ClockEvents[4], 'x', kAlarmSlotSize);
   EXPECT_EQ(std::strlen(AlarmSlotGet(4).comment), 99U);
 }
 
@@ -165,18 +167,18 @@ TEST_F(ClockTest, ActivationTakesKindCentreColoursAndStrikeTables) {
   std::memcpy(fields.faceColour, face, 3);
   fields.strikeDelay[6] = 77;
   fields.hourFigures[12][6] = 9;
-  ClockDesignCount = 2;
-  ClockDesignPut(ClockDesigns[1].record, fields);
-  ClockWanted = 1;
+  CharaTables.ClockDesignCount = 2;
+  ClockDesignPut(CharaTables.ClockDesigns[1].record, fields);
+  Clock.ClockWanted = 1;
   ClockActivate();
-  EXPECT_EQ(ClockDesign, 1);
-  EXPECT_EQ(ClockHandKind, kHandArrow);
-  EXPECT_EQ(ClockCentre.x, 11);
-  EXPECT_EQ(ClockCentre.y, 22);
-  EXPECT_EQ(ClockHandColour, 0x030201U);
-  EXPECT_EQ(ClockFaceColour, 0x060504U);
-  EXPECT_EQ(ClockStrikeDelay[6], 77);
-  EXPECT_EQ(ClockHourFigures[12][6], 9);
+  EXPECT_EQ(Clock.ClockDesign, 1);
+  EXPECT_EQ(Clock.ClockHandKind, kHandArrow);
+  EXPECT_EQ(Clock.ClockCentre.x, 11);
+  EXPECT_EQ(Clock.ClockCentre.y, 22);
+  EXPECT_EQ(Clock.ClockHandColour, 0x030201U);
+  EXPECT_EQ(Clock.ClockFaceColour, 0x060504U);
+  EXPECT_EQ(Clock.ClockStrikeDelay[6], 77);
+  EXPECT_EQ(Clock.ClockHourFigures[12][6], 9);
 }
 
 TEST_F(ClockTest, EqualHandAndFaceColoursGiveTheFaceItsComplement) {
@@ -184,56 +186,56 @@ TEST_F(ClockTest, EqualHandAndFaceColoursGiveTheFaceItsComplement) {
   const unsigned char colour[3] = {10, 0, 255};
   std::memcpy(fields.handColour, colour, 3);
   std::memcpy(fields.faceColour, colour, 3);
-  ClockDesignCount = 1;
-  ClockDesignPut(ClockDesigns[0].record, fields);
-  ClockWanted = 0;
+  CharaTables.ClockDesignCount = 1;
+  ClockDesignPut(CharaTables.ClockDesigns[0].record, fields);
+  Clock.ClockWanted = 0;
   ClockActivate();
-  EXPECT_EQ(ClockHandColour, 0xFF000AU);
-  EXPECT_EQ(ClockFaceColour, 0x00FFF5U);
+  EXPECT_EQ(Clock.ClockHandColour, 0xFF000AU);
+  EXPECT_EQ(Clock.ClockFaceColour, 0x00FFF5U);
 }
 
 TEST_F(ClockTest, TheCurrentDesignIsNotActivatedAgainButAReactivationTakesIt) {
   Design(kHandBar);
-  ClockDesigns[0].record[kDesignHand] = kHandDot;
-  ClockWanted = 0;
+  CharaTables.ClockDesigns[0].record[kDesignHand] = kHandDot;
+  Clock.ClockWanted = 0;
   ClockActivate();
-  EXPECT_EQ(ClockHandKind, kHandBar);
+  EXPECT_EQ(Clock.ClockHandKind, kHandBar);
   ClockReactivate();
-  EXPECT_EQ(ClockHandKind, kHandDot);
-  EXPECT_EQ(ClockDesign, 0);
+  EXPECT_EQ(Clock.ClockHandKind, kHandDot);
+  EXPECT_EQ(Clock.ClockDesign, 0);
 }
 
 TEST_F(ClockTest, AReactivationOfNoDesignLeavesNothingOfTheOneBefore) {
   Design(kHandBar);
-  ASSERT_EQ(ClockHourHand.form, HandForm::Filled);
-  ClockDesign = kClockNone;  // as the settings file may hold it
+  ASSERT_EQ(Clock.ClockHourHand.form, HandForm::Filled);
+  Clock.ClockDesign = kClockNone;  // as the settings file may hold it
   ClockReactivate();
-  EXPECT_EQ(ClockDesign, kClockNone);
-  EXPECT_EQ(ClockWanted, kClockNone);
-  EXPECT_EQ(ClockHandKind, -1);
-  EXPECT_EQ(ClockHourHand.form, HandForm::None);
-  EXPECT_EQ(ClockMinuteHand.form, HandForm::None);
+  EXPECT_EQ(Clock.ClockDesign, kClockNone);
+  EXPECT_EQ(Clock.ClockWanted, kClockNone);
+  EXPECT_EQ(Clock.ClockHandKind, -1);
+  EXPECT_EQ(Clock.ClockHourHand.form, HandForm::None);
+  EXPECT_EQ(Clock.ClockMinuteHand.form, HandForm::None);
 }
 
 TEST_F(ClockTest, ANumberWithoutADesignBecomesTheCurrentOneWithNothingToDraw) {
   Design(kHandBar);
   for (const int number : {1, 49, 50, 254, 255, -1, 100000}) {
-    ClockDesign = 0;
+    Clock.ClockDesign = 0;
     ClockReactivate();
-    ASSERT_EQ(ClockHandKind, kHandBar);
-    ClockWanted = number;
+    ASSERT_EQ(Clock.ClockHandKind, kHandBar);
+    Clock.ClockWanted = number;
     ClockActivate();
-    EXPECT_EQ(ClockDesign, number);
-    EXPECT_EQ(ClockHandKind, -1);
-    EXPECT_EQ(ClockHourHand.form, HandForm::None);
-    EXPECT_EQ(ClockMinuteHand.form, HandForm::None);
-    EXPECT_EQ(ClockHourFigures[0][0], 0);
+    EXPECT_EQ(Clock.ClockDesign, number);
+    EXPECT_EQ(Clock.ClockHandKind, -1);
+    EXPECT_EQ(Clock.ClockHourHand.form, HandForm::None);
+    EXPECT_EQ(Clock.ClockMinuteHand.form, HandForm::None);
+    EXPECT_EQ(Clock.ClockHourFigures[0][0], 0);
   }
   // A count beyond the table does not lead out of it.
-  ClockDesignCount = 1000;
-  ClockWanted = 60;
+  CharaTables.ClockDesignCount = 1000;
+  Clock.ClockWanted = 60;
   ClockActivate();
-  EXPECT_EQ(ClockHandKind, -1);
+  EXPECT_EQ(Clock.ClockHandKind, -1);
 }
 
 TEST_F(ClockTest, EachKindHasItsOutlinesAtTwelve) {
@@ -257,27 +259,27 @@ TEST_F(ClockTest, EachKindHasItsOutlinesAtTwelve) {
   };
   for (const auto& kind : kKinds) {
     Design(kind.hand);
-    EXPECT_EQ(ClockHourHand.form, kind.hourForm) << kind.hand;
-    EXPECT_EQ(Points(ClockHourHand, 0), kind.hour) << kind.hand;
-    EXPECT_EQ(ClockMinuteHand.form, kind.minuteForm) << kind.hand;
-    EXPECT_EQ(Points(ClockMinuteHand, 0), kind.minute) << kind.hand;
+    EXPECT_EQ(Clock.ClockHourHand.form, kind.hourForm) << kind.hand;
+    EXPECT_EQ(Points(Clock.ClockHourHand, 0), kind.hour) << kind.hand;
+    EXPECT_EQ(Clock.ClockMinuteHand.form, kind.minuteForm) << kind.hand;
+    EXPECT_EQ(Points(Clock.ClockMinuteHand, 0), kind.minute) << kind.hand;
   }
 }
 
 TEST_F(ClockTest, HandsTurnClockwiseThrough120And60Positions) {
   Design(kHandDiamond);
   // A quarter: x goes where minus y was, y where x was.
-  EXPECT_EQ(Points(ClockHourHand, 30), "(3,3)(40,0)(3,-3)(0,0)");
-  EXPECT_EQ(Points(ClockHourHand, 60), "(-3,3)(0,40)(3,3)(0,0)");
-  EXPECT_EQ(Points(ClockHourHand, 90), "(-3,-3)(-40,0)(-3,3)(0,0)");
-  EXPECT_EQ(Points(ClockMinuteHand, 15), "(3,3)(60,0)(3,-3)(0,0)");
-  EXPECT_EQ(Points(ClockMinuteHand, 45), "(-3,-3)(-60,0)(-3,3)(0,0)");
+  EXPECT_EQ(Points(Clock.ClockHourHand, 30), "(3,3)(40,0)(3,-3)(0,0)");
+  EXPECT_EQ(Points(Clock.ClockHourHand, 60), "(-3,3)(0,40)(3,3)(0,0)");
+  EXPECT_EQ(Points(Clock.ClockHourHand, 90), "(-3,-3)(-40,0)(-3,3)(0,0)");
+  EXPECT_EQ(Points(Clock.ClockMinuteHand, 15), "(3,3)(60,0)(3,-3)(0,0)");
+  EXPECT_EQ(Points(Clock.ClockMinuteHand, 45), "(-3,-3)(-60,0)(-3,3)(0,0)");
   Design(kHandLine);
   // 60 degrees: 40 sin 60 = 34.64, 40 cos 60 = 20; 30 degrees of 60: 30, 51.96.
-  EXPECT_EQ(Points(ClockHourHand, 20), "(0,0)(35,-20)");
-  EXPECT_EQ(Points(ClockMinuteHand, 5), "(0,0)(30,-52)");
+  EXPECT_EQ(Points(Clock.ClockHourHand, 20), "(0,0)(35,-20)");
+  EXPECT_EQ(Points(Clock.ClockMinuteHand, 5), "(0,0)(30,-52)");
   for (int i = 0; i < 120; ++i) {
-    const Point& tip = ClockHourHand.points[i][1];
+    const Point& tip = Clock.ClockHourHand.points[i][1];
     EXPECT_NEAR(std::hypot(tip.x, tip.y), 40, 0.8) << i;
   }
 }
@@ -300,27 +302,27 @@ TEST_F(ClockTest, TheDesignDefaultsGoIntoTheSettings) {
   fields.strikeMode = 2;
   fields.soundOn = true;
   TextCopy(fields.sound, sizeof fields.sound, "po2.wav");
-  ClockDesignCount = 1;
-  ClockDesignPut(ClockDesigns[0].record, fields);
+  CharaTables.ClockDesignCount = 1;
+  ClockDesignPut(CharaTables.ClockDesigns[0].record, fields);
   EXPECT_TRUE(ClockDesignDefaults(0));
-  EXPECT_EQ(ClockStrikeMode, 2);
-  EXPECT_EQ(ClockStrikeSel, 1);
-  EXPECT_EQ(ClockSoundOn, 1);
-  EXPECT_STREQ(ClockSoundName, "po2.wav");
-  ClockStrikeMode = 1;
+  EXPECT_EQ(Clock.ClockStrikeMode, 2);
+  EXPECT_EQ(Clock.ClockStrikeSel, 1);
+  EXPECT_EQ(Clock.ClockSoundOn, 1);
+  EXPECT_STREQ(Clock.ClockSoundName, "po2.wav");
+  Clock.ClockStrikeMode = 1;
   EXPECT_FALSE(ClockDesignDefaults(1));
   EXPECT_FALSE(ClockDesignDefaults(255));
-  EXPECT_EQ(ClockStrikeMode, 1);
+  EXPECT_EQ(Clock.ClockStrikeMode, 1);
 }
 
 TEST_F(ClockTest, ADesignIsCalledByItsNameOrElseByItsCharacters) {
-  ClockDesignCount = 2;
+  CharaTables.ClockDesignCount = 2;
   ClockDesignFields fields{};
   TextCopy(fields.name, sizeof fields.name, "鳩時計");
-  ClockDesignPut(ClockDesigns[0].record, fields);
-  ClockDesigns[1].number = 3;
-  WorldCharaCount = 3;
-  TextCopy(WorldCharas[2].name, sizeof WorldCharas[2].name, "電車");
+  ClockDesignPut(CharaTables.ClockDesigns[0].record, fields);
+  CharaTables.ClockDesigns[1].number = 3;
+  World.WorldCharaCount = 3;
+  TextCopy(World.WorldCharas[2].name, sizeof World.WorldCharas[2].name, "電車");
   char name[kDesignNameSize + 1];
   ClockDesignName(0, name);
   EXPECT_STREQ(name, "鳩時計");
@@ -328,7 +330,7 @@ TEST_F(ClockTest, ADesignIsCalledByItsNameOrElseByItsCharacters) {
   EXPECT_STREQ(name, "電車");
   ClockDesignName(2, name);
   EXPECT_STREQ(name, "");
-  ClockDesigns[1].number = 4;
+  CharaTables.ClockDesigns[1].number = 4;
   ClockDesignName(1, name);
   EXPECT_STREQ(name, "");
 }
@@ -365,8 +367,8 @@ TEST_F(ClockTest, TheNeedToRedrawIs2ForTheHour1ForTheMinute0Else) {
   EXPECT_EQ(ClockTimeTake(11, 0), 2);
   // Twelve hours on, the dial is the same.
   EXPECT_EQ(ClockTimeTake(23, 0), 0);
-  EXPECT_EQ(ClockHour, 23);
-  EXPECT_EQ(ClockHour12, 11);
+  EXPECT_EQ(Clock.ClockHour, 23);
+  EXPECT_EQ(Clock.ClockHour12, 11);
 }
 
 TEST_F(ClockTest, TheAmPmDesignIsRedrawnForTheHourOfTheDay) {
@@ -384,14 +386,14 @@ class ClockStrikeTest : public ClockTest {
   void SetUp() override {
     ClockTest::SetUp();
     Design(kHandLine);
-    for (auto& delay : ClockStrikeDelay) delay = 1;
-    for (auto& hour : ClockHourFigures) {
+    for (auto& delay : Clock.ClockStrikeDelay) delay = 1;
+    for (auto& hour : Clock.ClockHourFigures) {
       const unsigned char figures[7] = {1, 2, 0, 3, 0, 0, 0};
       std::memcpy(hour, figures, 7);
     }
-    ClockStrikeMode = kStrikeEveryHour;
-    ClockSoundOn = 1;
-    TextCopy(ClockSoundName, sizeof ClockSoundName, "kan.wav");
+    Clock.ClockStrikeMode = kStrikeEveryHour;
+    Clock.ClockSoundOn = 1;
+    TextCopy(Clock.ClockSoundName, sizeof Clock.ClockSoundName, "kan.wav");
   }
   // The hour strikes; returns the figures tick by tick until the strike is over.
   static std::string Strike(int hour) {
@@ -399,7 +401,7 @@ class ClockStrikeTest : public ClockTest {
     std::string figures;
     for (int i = 0; i < 2000; ++i) {
       ClockTickCheck(hour, 0);
-      if (!ClockStrikeOn) return figures;
+      if (!Clock.ClockStrikeOn) return figures;
       figures += static_cast<char>('0' + ClockStrikeFigure());
     }
     return "endless";
@@ -412,13 +414,13 @@ TEST_F(ClockStrikeTest, AStrikeRunsThroughItsSevenStepsWithTheirWaits) {
   EXPECT_EQ(Strike(3), "11220033000000");
   EXPECT_EQ(Sounds(), 1U);
   EXPECT_EQ(SoundsPlayed()[0], "C:\\mirrell\\サウンド\\kan.wav");
-  ClockStrikeDelay[1] = 4;
-  ClockStrikeDelay[0] = 0;
+  Clock.ClockStrikeDelay[1] = 4;
+  Clock.ClockStrikeDelay[0] = 0;
   EXPECT_EQ(Strike(4), "1222220033000000");
 }
 
 TEST_F(ClockStrikeTest, Hour0Strikes12TimesWithTheRepeatFlagAndHour1Once) {
-  ClockStrikeSel = 1;
+  Clock.ClockStrikeSel = 1;
   std::string twelve;
   for (int i = 0; i < 12; ++i) twelve += "11220033";
   EXPECT_EQ(Strike(0), twelve + "000000");
@@ -436,23 +438,23 @@ TEST_F(ClockStrikeTest, WithoutTheRepeatFlagEveryHourStrikesOnce) {
 }
 
 TEST_F(ClockStrikeTest, ARepeatBeginsAtTheFirstStepWithAFigure) {
-  for (auto& hour : ClockHourFigures) {
+  for (auto& hour : Clock.ClockHourFigures) {
     const unsigned char figures[7] = {0, 5, 6, 0, 0, 0, 0};
     std::memcpy(hour, figures, 7);
   }
-  ClockStrikeSel = 1;
+  Clock.ClockStrikeSel = 1;
   EXPECT_EQ(Strike(2), "005566556600000000");
 }
 
 TEST_F(ClockStrikeTest, StrikeMode0NeverStrikes) {
-  ClockStrikeMode = kStrikeNever;
+  Clock.ClockStrikeMode = kStrikeNever;
   EXPECT_EQ(Strike(12), "");
   EXPECT_EQ(Sounds(), 0U);
   EXPECT_EQ(ClockTickCheck(13, 0), 1);  // the dial is drawn all the same
 }
 
 TEST_F(ClockStrikeTest, StrikeMode2StrikesAtTwelveOnly) {
-  ClockStrikeMode = kStrikeAtTwelve;
+  Clock.ClockStrikeMode = kStrikeAtTwelve;
   EXPECT_EQ(Strike(11), "");
   EXPECT_EQ(Strike(12), "11220033000000");
   EXPECT_EQ(Strike(0), "11220033000000");
@@ -460,8 +462,8 @@ TEST_F(ClockStrikeTest, StrikeMode2StrikesAtTwelveOnly) {
 }
 
 TEST_F(ClockStrikeTest, AnyOtherModeStrikesAtTwelveWithoutRepeatsAndEndsAtTheFirstZeroStep) {
-  ClockStrikeMode = 3;
-  ClockStrikeSel = 1;
+  Clock.ClockStrikeMode = 3;
+  Clock.ClockStrikeSel = 1;
   EXPECT_EQ(Strike(12), "1122");
   EXPECT_EQ(Sounds(), 1U);
   EXPECT_EQ(Strike(5), "");
@@ -470,12 +472,12 @@ TEST_F(ClockStrikeTest, AnyOtherModeStrikesAtTwelveWithoutRepeatsAndEndsAtTheFir
 TEST_F(ClockStrikeTest, AStrikeBeginsOnlyInMinute0AndOnlyOnce) {
   ClockTimeTake(2, 58);
   ClockTickCheck(2, 59);
-  EXPECT_FALSE(ClockStrikeOn);
+  EXPECT_FALSE(Clock.ClockStrikeOn);
   EXPECT_EQ(ClockTickCheck(3, 0), 1);
-  EXPECT_TRUE(ClockStrikeOn);
+  EXPECT_TRUE(Clock.ClockStrikeOn);
   EXPECT_EQ(ClockStrikeFigure(), 1);
   for (int i = 0; i < 100; ++i) ClockTickCheck(3, 0);
-  EXPECT_FALSE(ClockStrikeOn);
+  EXPECT_FALSE(Clock.ClockStrikeOn);
   EXPECT_EQ(Sounds(), 1U);
   EXPECT_EQ(ClockTickCheck(3, 0), 0);
 }
@@ -489,17 +491,17 @@ TEST_F(ClockStrikeTest, TheClockIsDrawnWhenTheFigureChangesNotBetween) {
 }
 
 TEST_F(ClockStrikeTest, WithTheSoundOffOrWithoutANameNothingIsPlayed) {
-  ClockSoundOn = 0;
+  Clock.ClockSoundOn = 0;
   EXPECT_EQ(Strike(3), "11220033000000");
-  ClockSoundOn = 1;
-  ClockSoundName[0] = '\0';
+  Clock.ClockSoundOn = 1;
+  Clock.ClockSoundName[0] = '\0';
   EXPECT_EQ(Strike(3), "11220033000000");
   EXPECT_EQ(Sounds(), 0U);
 }
 
 TEST_F(ClockStrikeTest, AnHourWithoutFiguresPlaysItsSoundAndEnds) {
-  std::memset(ClockHourFigures, 0, sizeof ClockHourFigures);
-  ClockStrikeSel = 1;
+  std::memset(Clock.ClockHourFigures, 0, sizeof Clock.ClockHourFigures);
+  Clock.ClockStrikeSel = 1;
   EXPECT_EQ(Strike(12), "00000000000000");
   EXPECT_EQ(Sounds(), 1U);
 }
@@ -514,9 +516,9 @@ class ClockAlarmTest : public ClockTest {
 TEST_F(ClockAlarmTest, TheSlotWithThisMinuteFires) {
   Alarm(3, 7, 30);
   EXPECT_EQ(ClockAlarmCheck(7, 29), 0);
-  EXPECT_EQ(ClockAlarmSlot, -1);
+  EXPECT_EQ(Clock.ClockAlarmSlot, -1);
   EXPECT_EQ(ClockAlarmCheck(7, 30), 1);
-  EXPECT_EQ(ClockAlarmSlot, 3);
+  EXPECT_EQ(Clock.ClockAlarmSlot, 3);
   EXPECT_EQ(ClockAlarmCheck(7, 30), 0);
 }
 
@@ -537,13 +539,13 @@ TEST_F(ClockAlarmTest, OfTwoSlotsWithTheSameTimeTheFirstFiresAndTheNextDayTheSec
   Alarm(1, 6, 0);
   Alarm(2, 6, 0);
   EXPECT_EQ(ClockAlarmCheck(6, 0), 1);
-  EXPECT_EQ(ClockAlarmSlot, 1);
+  EXPECT_EQ(Clock.ClockAlarmSlot, 1);
   EXPECT_EQ(ClockAlarmCheck(6, 1), 0);
   EXPECT_EQ(ClockAlarmCheck(6, 0), 1);
-  EXPECT_EQ(ClockAlarmSlot, 2);
+  EXPECT_EQ(Clock.ClockAlarmSlot, 2);
   EXPECT_EQ(ClockAlarmCheck(6, 1), 0);
   EXPECT_EQ(ClockAlarmCheck(6, 0), 1);
-  EXPECT_EQ(ClockAlarmSlot, 1);
+  EXPECT_EQ(Clock.ClockAlarmSlot, 1);
 }
 
 TEST_F(ClockAlarmTest, ASlotDoesNotFireTwiceInARowUntilTheDialogWasConfirmed) {

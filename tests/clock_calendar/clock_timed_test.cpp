@@ -3,15 +3,15 @@
 #include <cstring>
 #include <string>
 
-#include "clock_calendar/clock.h"
-#include "shell/text.h"
+#include "clock_calendar/clock/clock.h"
+#include "services/text.h"
 
 namespace {
 
 class ClockTimedTest : public ::testing::Test {
  protected:
-  void SetUp() override { TimedCount = 0; }
-  void TearDown() override { TimedCount = 0; }
+  void SetUp() override { Timed.TimedCount = 0; }
+  void TearDown() override { Timed.TimedCount = 0; }
   static TimedEvent Event(int hour, int minute, int second, const char* comment = "") {
     TimedEvent event{true, hour, minute, second, {}};
     TextCopy(event.comment, sizeof event.comment, comment);
@@ -19,13 +19,13 @@ class ClockTimedTest : public ::testing::Test {
   }
   static std::string Order() {
     std::string text;
-    for (int i = 0; i < TimedCount; ++i) text += std::to_string(TimedOrder[i]) + " ";
+    for (int i = 0; i < Timed.TimedCount; ++i) text += std::to_string(Timed.TimedOrder[i]) + " ";
     return text;
   }
 };
 
 TEST_F(ClockTimedTest, ARowHas138BytesAndKeepsItsFields) {
-  EXPECT_EQ(sizeof TimedRows[0], 138U);
+  EXPECT_EQ(sizeof Timed.TimedRows[0], 138U);
   EXPECT_EQ(TimedAdd(Event(23, 59, 58, "茶")), 0);
   const TimedEvent event = TimedGet(0);
   EXPECT_TRUE(event.enabled);
@@ -33,7 +33,7 @@ TEST_F(ClockTimedTest, ARowHas138BytesAndKeepsItsFields) {
   EXPECT_EQ(event.minute, 59);
   EXPECT_EQ(event.second, 58);
   EXPECT_STREQ(event.comment, "茶");
-  std::memset(TimedRows[0], 'x', sizeof TimedRows[0]);
+  std::memset(Timed.TimedRows[0], 'x', sizeof Timed.TimedRows[0]);
   EXPECT_EQ(std::strlen(TimedGet(0).comment), 127U);
 }
 
@@ -51,7 +51,7 @@ TEST_F(ClockTimedTest, OfOneMinuteTheNewRowsMinuteIsHeldAgainstTheOthersSecond) 
   TimedAdd(Event(9, 30, 10));
   EXPECT_EQ(Order(), "0 1 ");
   // ... but below 40: this one goes in front, later though it is.
-  TimedCount = 0;
+  Timed.TimedCount = 0;
   TimedAdd(Event(9, 30, 40));
   TimedAdd(Event(9, 30, 50));
   EXPECT_EQ(Order(), "1 0 ");
@@ -60,9 +60,9 @@ TEST_F(ClockTimedTest, OfOneMinuteTheNewRowsMinuteIsHeldAgainstTheOthersSecond) 
 TEST_F(ClockTimedTest, A25thRowIsRefused) {
   for (int i = 0; i < 24; ++i) EXPECT_EQ(TimedAdd(Event(23 - i, 0, 0)), i);
   EXPECT_EQ(TimedAdd(Event(0, 0, 0)), -1);
-  EXPECT_EQ(TimedCount, 24);
-  EXPECT_EQ(TimedOrder[0], 23);
-  EXPECT_EQ(TimedOrder[23], 0);
+  EXPECT_EQ(Timed.TimedCount, 24);
+  EXPECT_EQ(Timed.TimedOrder[0], 23);
+  EXPECT_EQ(Timed.TimedOrder[23], 0);
 }
 
 TEST_F(ClockTimedTest, DeletingMovesTheRowsBehindUpByOne) {
@@ -70,7 +70,7 @@ TEST_F(ClockTimedTest, DeletingMovesTheRowsBehindUpByOne) {
   TimedAdd(Event(2, 0, 0, "b"));
   TimedAdd(Event(1, 0, 0, "c"));
   EXPECT_TRUE(TimedDelete(0));
-  EXPECT_EQ(TimedCount, 2);
+  EXPECT_EQ(Timed.TimedCount, 2);
   EXPECT_STREQ(TimedGet(0).comment, "b");
   EXPECT_STREQ(TimedGet(1).comment, "c");
   EXPECT_EQ(Order(), "1 0 ");
@@ -90,7 +90,7 @@ TEST_F(ClockTimedTest, RowsThatAreNotThereAreHarmless) {
     EXPECT_FALSE(TimedDelete(row));
     EXPECT_FALSE(TimedGet(row).enabled);
   }
-  EXPECT_EQ(TimedCount, 1);
+  EXPECT_EQ(Timed.TimedCount, 1);
 }
 
 }  // namespace

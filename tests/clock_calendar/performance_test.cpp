@@ -1,12 +1,12 @@
 // The performance that the clock notice plays: its steps, passes, sound and waits.
-#include "clock_calendar/performance.h"
+#include "clock_calendar/clock/performance.h"
 
 #include <cstring>
 
 #include "character/character.h"
 #include "character/character_tables.h"
 #include "character/performance_figures.h"
-#include "clock_calendar/clock.h"
+#include "clock_calendar/clock/clock.h"
 #include "tests/character/chara_files.h"
 #include "tests/support/desktop.h"
 
@@ -21,15 +21,15 @@ class PerformanceTest : public DesktopTest {
     ASSERT_EQ(ClockAlarmFileLoad(), 0);  // the three default records
     MakeFolder("C:\\mirrell\\キャラクタ");
     for (int frame = 1; frame <= 3; ++frame) PutFrame(frame);
-    AlarmCharaCount = 1;
-    AlarmCharas[0] = kCharacter;
-    AlarmCharaSel[2] = 1;
-    PerformanceActive = 0;
+    CharaTables.AlarmCharaCount = 1;
+    CharaTables.AlarmCharas[0] = kCharacter;
+    Character.AlarmCharaSel[2] = 1;
+    Performance.PerformanceActive = 0;
   }
   void TearDown() override {
     PerformanceEnd();
-    AlarmCharaCount = 0;
-    AlarmCharaSel[2] = 0;
+    CharaTables.AlarmCharaCount = 0;
+    Character.AlarmCharaSel[2] = 0;
     DesktopTest::TearDown();
   }
 
@@ -42,7 +42,7 @@ class PerformanceTest : public DesktopTest {
     PutFile(FrameName(frame, true), BmpFile(20, 10, 0, 0, 0));
   }
   static void Begin(int performance, bool looping) {
-    PerformanceActive = performance;
+    Performance.PerformanceActive = performance;
     PerformanceBegin(looping);
   }
   // The steps after so many moves.
@@ -50,7 +50,7 @@ class PerformanceTest : public DesktopTest {
     std::vector<int> steps;
     for (int i = 0; i < moves; ++i) {
       PerformanceNext();
-      steps.push_back(PerformanceStep);
+      steps.push_back(Performance.PerformanceStep);
     }
     return steps;
   }
@@ -66,7 +66,7 @@ const std::string kKan = "C:\\mirrell\\サウンド\\kan.wav";
 TEST_F(PerformanceTest, FiguresAndSoundOfTheFirstRecord) {
   Begin(1, true);
   EXPECT_TRUE(PerformanceShowsFigures());
-  EXPECT_EQ(PerformanceStep, 0);
+  EXPECT_EQ(Performance.PerformanceStep, 0);
   EXPECT_EQ(SoundsPlayed(), std::vector<std::string>{kKan});
 }
 
@@ -84,7 +84,7 @@ TEST_F(PerformanceTest, OnlyTheSoundOfTheThird) {
 }
 
 TEST_F(PerformanceTest, APerformanceWithNoSoundAndFigureNumber0HasNothing) {
-  unsigned char* record = ClockPerformances[2];
+  unsigned char* record = Clock.ClockPerformances[2];
   std::memset(record + kPerformanceSound, 0, kPerformanceSoundSize);
   Begin(3, true);
   EXPECT_FALSE(PerformanceShowsFigures());
@@ -92,14 +92,14 @@ TEST_F(PerformanceTest, APerformanceWithNoSoundAndFigureNumber0HasNothing) {
 }
 
 TEST_F(PerformanceTest, WithoutTheFlagThereAreNoFigures) {
-  ClockPerformances[0][kPerformanceFlags] = 2;
+  Clock.ClockPerformances[0][kPerformanceFlags] = 2;
   Begin(1, true);
   EXPECT_FALSE(PerformanceShowsFigures());
 }
 
 TEST_F(PerformanceTest, WithoutASelectedCharacterOnlyTheSoundPlays) {
   for (const int selection : {0, -1, 2, 51}) {
-    AlarmCharaSel[2] = selection;
+    Character.AlarmCharaSel[2] = selection;
     Begin(1, true);
     EXPECT_FALSE(PerformanceShowsFigures()) << selection;
   }
@@ -119,7 +119,7 @@ TEST_F(PerformanceTest, NumbersOutsideTheTableAreNone) {
 TEST_F(PerformanceTest, WithASlotItGoesRoundAtTheFirstStepWithoutAPicture) {
   Begin(1, true);
   EXPECT_EQ(Steps(7), (std::vector<int>{1, 2, 0, 1, 2, 0, 1}));
-  EXPECT_EQ(PerformanceActive, 1);
+  EXPECT_EQ(Performance.PerformanceActive, 1);
   EXPECT_EQ(SoundsPlayed().size(), 1U);
 }
 
@@ -138,7 +138,7 @@ TEST_F(PerformanceTest, WithASlotItRepeatsUntilItIsEnded) {
   EXPECT_TRUE(PerformanceShowsFigures());
   PerformanceEnd();
   EXPECT_FALSE(PerformanceShowsFigures());
-  EXPECT_EQ(PerformanceActive, 1);
+  EXPECT_EQ(Performance.PerformanceActive, 1);
 }
 
 TEST_F(PerformanceTest, WithoutASlotEachPassHasTwentyStepsAndPlaysTheSoundAgain) {
@@ -146,22 +146,22 @@ TEST_F(PerformanceTest, WithoutASlotEachPassHasTwentyStepsAndPlaysTheSoundAgain)
   const std::vector<int> steps = Steps(20);
   for (int i = 0; i < 19; ++i) EXPECT_EQ(steps[static_cast<std::size_t>(i)], i + 1);
   EXPECT_EQ(steps[19], 0);
-  EXPECT_EQ(PerformancePasses, 1);
+  EXPECT_EQ(Performance.PerformancePasses, 1);
   EXPECT_EQ(SoundsPlayed().size(), 2U);
 }
 
 TEST_F(PerformanceTest, WithoutASlotItIsOverAfterFivePasses) {
   Begin(1, false);
   Steps(99);
-  EXPECT_EQ(PerformanceActive, 1);
+  EXPECT_EQ(Performance.PerformanceActive, 1);
   EXPECT_TRUE(PerformanceShowsFigures());
   EXPECT_EQ(SoundsPlayed().size(), 5U);
   Steps(1);
-  EXPECT_EQ(PerformanceActive, 0);
+  EXPECT_EQ(Performance.PerformanceActive, 0);
   EXPECT_FALSE(PerformanceShowsFigures());
   EXPECT_EQ(SoundsPlayed().size(), 5U);
   Steps(50);
-  EXPECT_EQ(PerformanceStep, 0);
+  EXPECT_EQ(Performance.PerformanceStep, 0);
   EXPECT_EQ(SoundsPlayed().size(), 5U);
 }
 
@@ -169,8 +169,8 @@ TEST_F(PerformanceTest, ANewRunBeginsAnew) {
   Begin(1, false);
   Steps(45);
   Begin(1, false);
-  EXPECT_EQ(PerformanceStep, 0);
-  EXPECT_EQ(PerformancePasses, 0);
+  EXPECT_EQ(Performance.PerformanceStep, 0);
+  EXPECT_EQ(Performance.PerformancePasses, 0);
 }
 
 // --- Figures

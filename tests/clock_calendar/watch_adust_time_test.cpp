@@ -1,8 +1,9 @@
 // The running time in WatchAdustDlg.
 #include "clock_calendar/clock_calendar_tick.h"
 #include "platform/window.h"
-#include "shell/shared_time.h"
-#include "shell/shell.h"
+#include "services/dialog_family.h"
+#include "services/drawing_objects.h"
+#include "services/today.h"
 #include "tests/support/program.h"
 
 namespace {
@@ -11,20 +12,20 @@ class WatchAdustTimeTest : public ProgramTest {
  protected:
   void SetUp() override {
     ProgramTest::SetUp();
-    hToolDlg = OpenListener();
-    FaceBrush = BrushFace();
+    Dialogs.hToolDlg = OpenListener();
+    Drawing.FaceBrush = BrushFace();
   }
   void TearDown() override {
-    WindowDestroy(hToolDlg);
+    WindowDestroy(Dialogs.hToolDlg);
     ProgramTest::TearDown();
   }
   static std::vector<DrawCall> DrawnAt(int hour, int minute, int second) {
-    SharedTime.hour = hour;
-    SharedTime.minute = minute;
-    SharedTime.second = second;
+    Today.SharedTime.hour = hour;
+    Today.SharedTime.minute = minute;
+    Today.SharedTime.second = second;
     DrawingClear();
     WatchAdustTimeDraw();
-    return Drawings(hToolDlg);
+    return Drawings(Dialogs.hToolDlg);
   }
 };
 
@@ -37,7 +38,7 @@ TEST_F(WatchAdustTimeTest, TheTimeStandsInABoxOf100By20) {
   EXPECT_EQ(drawn[0].x2, 121);  // without a pen the last column and row are left out
   EXPECT_EQ(drawn[0].y2, 107);
   EXPECT_FALSE(drawn[0].edged);
-  EXPECT_TRUE(TextStands(hToolDlg, " 9 :  5 .  7", 20, 86));
+  EXPECT_TRUE(TextStands(Dialogs.hToolDlg, " 9 :  5 .  7", 20, 86));
 }
 
 TEST_F(WatchAdustTimeTest, ItIsDrawnAgainOnlyWhenTheSecondHasChanged) {

@@ -1,5 +1,7 @@
 #include "tests/desktop/dialogs.h"
 
+#include "services/file_picker.h"
+
 namespace {
 
 constexpr int kBoxText = 0xFFFF;
@@ -44,8 +46,8 @@ bool PickFile(const Companion& companion, HWND dialog, int button, const std::ws
   return EndBy(picker, kOk);
 }
 
-bool PickFolder(const Companion& companion, HWND dialog, int button, const std::wstring& title,
-                const std::wstring& below) {
+bool Picker.PickFolder(const Companion& companion, HWND dialog, int button, const std::wstring& title,
+                       const std::wstring& below) {
   const HWND picker = OpenBy(companion, dialog, button, title);
   if (!picker) return false;
   if (!below.empty()) {

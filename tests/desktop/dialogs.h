@@ -4,6 +4,7 @@
 #include <functional>
 #include <string>
 
+#include "services/file_picker.h"
 #include "tests/desktop/companion.h"
 
 // Waits for a message box, presses one of its buttons (IDOK, ...) and waits until it
@@ -21,8 +22,8 @@ bool EndBy(HWND dialog, int button);
 bool PickFile(const Companion& companion, HWND dialog, int button, const std::wstring& name);
 
 // Takes the folder on show, or one in it, in the folder dialog of that title.
-bool PickFolder(const Companion& companion, HWND dialog, int button, const std::wstring& title,
-                const std::wstring& below = L"");
+bool Picker.PickFolder(const Companion& companion, HWND dialog, int button, const std::wstring& title,
+                       const std::wstring& below = L"");
 
 // Ticks that come in turn with everything else: what the ticks open may be modal.
 // Waits until the condition holds.

@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "tests/desktop/companion.h"
-#include "tests/filetools/divide_model.h"
+#include "tests/filetools/divide/divide_model.h"
 
 inline constexpr int kOk = 1;
 inline constexpr int kClose = 2;

@@ -7,19 +7,23 @@
 #include <string>
 #include <vector>
 
-#include "filetools/back_up_commands.h"
-#include "filetools/divide_commands.h"
+#include "filetools/back_up/back_up.h"
+#include "filetools/back_up/back_up_commands.h"
+#include "filetools/divide/divide_commands.h"
+#include "filetools/stepped_work.h"
 #include "platform/dialog.h"
 #include "platform/headless/headless.h"
 #include "platform/posix/faults.h"
 #include "platform/window.h"
 #include "resources/ids.h"
-#include "shell/data_file.h"
-#include "shell/file_picker.h"
-#include "shell/folder_list.h"
-#include "shell/random.h"
-#include "shell/shell.h"
-#include "shell/text.h"
+#include "services/data_file.h"
+#include "services/dialog_family.h"
+#include "services/file_picker.h"
+#include "services/folder_list.h"
+#include "services/program.h"
+#include "services/random.h"
+#include "services/screen_figures.h"
+#include "services/text.h"
 #include "tests/support/desktop.h"
 
 using Rows = std::vector<std::string>;
@@ -28,25 +32,26 @@ class FileToolsTest : public DesktopTest {
  protected:
   void SetUp() override {
     DesktopTest::SetUp();
-    CharWidth = 8;
-    FileStatus = 0;
-    stepCounter = 0;
-    progressMode = 0;
-    hMainWnd = MainWindowCreate({"stage", "stage", IDI_MAIN, IDI_SMALL, IDR_MAIN, Stage}, 0, 0, 120, 160);
-    ASSERT_NE(hMainWnd, nullptr);
+    Screen.CharWidth = 8;
+    FileResult.FileStatus = 0;
+    Stepped.stepCounter = 0;
+    Stepped.progressMode = 0;
+    Program.hMainWnd =
+        MainWindowCreate({"stage", "stage", IDI_MAIN, IDI_SMALL, IDR_MAIN, Stage}, 0, 0, 120, 160);
+    ASSERT_NE(Program.hMainWnd, nullptr);
   }
 
   void TearDown() override {
-    EXPECT_EQ(hMenuDlg, nullptr);
-    EXPECT_EQ(hToolDlg, nullptr);
-    EXPECT_EQ(hBackUpDlg, nullptr);
-    EXPECT_EQ(hSearchDlg, nullptr);
-    EXPECT_EQ(DlgIdMenu, 0);
-    EXPECT_EQ(DlgIdTool, 0);
-    EXPECT_EQ(progressMode, 0);
-    EXPECT_FALSE(BackUpActive);
+    EXPECT_EQ(Dialogs.hMenuDlg, nullptr);
+    EXPECT_EQ(Dialogs.hToolDlg, nullptr);
+    EXPECT_EQ(BackUpRun.hBackUpDlg, nullptr);
+    EXPECT_EQ(Stepped.hSearchDlg, nullptr);
+    EXPECT_EQ(Dialogs.DlgIdMenu, 0);
+    EXPECT_EQ(Dialogs.DlgIdTool, 0);
+    EXPECT_EQ(Stepped.progressMode, 0);
+    EXPECT_FALSE(BackUpRun.BackUpActive);
     DesktopTest::TearDown();
-    hMainWnd = nullptr;
+    Program.hMainWnd = nullptr;
   }
 
   static bool Stage(const Event& event) {
@@ -80,8 +85,9 @@ class FileToolsTest : public DesktopTest {
 
   // One tick, as far as stepped work goes.
   static void StepTick() {
-    if (BackUpActive && hBackUpDlg) SendCommand(hBackUpDlg, 2375);
-    if (progressMode >= 1 && progressMode <= 4 && hSearchDlg) SendCommand(hSearchDlg, 2376);
+    if (BackUpRun.BackUpActive && BackUpRun.hBackUpDlg) SendCommand(BackUpRun.hBackUpDlg, 2375);
+    if (Stepped.progressMode >= 1 && Stepped.progressMode <= 4 && Stepped.hSearchDlg)
+      SendCommand(Stepped.hSearchDlg, 2376);
   }
   static void ThenTicks(int count) {
     for (int i = 0; i < count; ++i) Then(StepTick);

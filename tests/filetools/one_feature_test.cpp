@@ -1,6 +1,9 @@
 // Commands from outside that would open the dialog of a feature over the one of
 // another.
-#include "tests/filetools/open_fixture.h"
+#include "services/dialog_family.h"
+#include "services/program.h"
+#include "shell/panel.h"
+#include "tests/filetools/open/open_fixture.h"
 
 namespace {
 
@@ -23,23 +26,23 @@ TEST_F(OneFeatureTest, NoFeatureOpensOverAnother) {
       const WindowHandle dialog = TopDialog();
       ASSERT_EQ(TemplateOf(dialog), first.templateId);
       const int windows = OpenWindowCount();
-      const WindowHandle menu = hMenuDlg;
-      const WindowHandle tool = hToolDlg;
-      const std::vector<std::int32_t> marks = {DlgIdMenu, DlgIdTool, FuncNo};
+      const WindowHandle menu = Dialogs.hMenuDlg;
+      const WindowHandle tool = Dialogs.hToolDlg;
+      const std::vector<std::int32_t> marks = {Dialogs.DlgIdMenu, Dialogs.DlgIdTool, Panel.FuncNo};
       for (const Feature& second : kFeatures) {
         // FileOpnDialog has the groups as a button of its own.
         if (first.command == 1900 && second.command == 2008) continue;
-        SendCommand(hMainWnd, second.command);
+        SendCommand(Program.hMainWnd, second.command);
         EXPECT_EQ(OpenWindowCount(), windows) << second.command << " over " << first.command;
         EXPECT_EQ(TopDialog(), dialog);
-        EXPECT_EQ(hMenuDlg, menu);
-        EXPECT_EQ(hToolDlg, tool);
-        EXPECT_EQ((std::vector<std::int32_t>{DlgIdMenu, DlgIdTool, FuncNo}), marks);
+        EXPECT_EQ(Dialogs.hMenuDlg, menu);
+        EXPECT_EQ(Dialogs.hToolDlg, tool);
+        EXPECT_EQ((std::vector<std::int32_t>{Dialogs.DlgIdMenu, Dialogs.DlgIdTool, Panel.FuncNo}), marks);
       }
       SendClose(dialog);
     });
-    SendCommand(hMainWnd, first.command);
-    EXPECT_EQ(FuncNo, 0);
+    SendCommand(Program.hMainWnd, first.command);
+    EXPECT_EQ(Panel.FuncNo, 0);
   }
 }
 
@@ -50,7 +53,7 @@ TEST_F(OneFeatureTest, EachFeatureOpensAgainWhenTheOtherHasClosed) {
         EXPECT_EQ(TemplateOf(TopDialog()), feature.templateId);
         SendClose(TopDialog());
       });
-      SendCommand(hMainWnd, feature.command);
+      SendCommand(Program.hMainWnd, feature.command);
     }
   }
 }

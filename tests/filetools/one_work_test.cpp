@@ -1,8 +1,11 @@
 // The tick drives one work at a time: a division that is asked for while the search of
 // the folder scope is running.
-#include "filetools/folder_scope.h"
-#include "filetools/scope_dialogs.h"
-#include "tests/filetools/divide_fixture.h"
+#include "filetools/scope/folder_scope.h"
+#include "filetools/scope/scope_dialogs.h"
+#include "filetools/stepped_work.h"
+#include "services/drawing_objects.h"
+#include "services/program.h"
+#include "tests/filetools/divide/divide_fixture.h"
 
 namespace {
 
@@ -10,23 +13,23 @@ class OneWorkTest : public DivideFixture {
  protected:
   void SetUp() override {
     DivideFixture::SetUp();
-    FaceBrush = BrushFace();
+    Drawing.FaceBrush = BrushFace();
   }
   // Runs a step while a folder search is up, then lets the user stop the search.
   static void DuringASearch(std::function<void()> step) {
-    Set(scopeFolder, sizeof scopeFolder, "C:\\mirrell");
+    Set(Scope.scopeFolder, sizeof Scope.scopeFolder, "C:\\mirrell");
     ScopeSplitPath();
     Then([step] {
       const WindowHandle search = TopDialog();
       ASSERT_EQ(TemplateOf(search), IDD_SerchFolderDlg);
       step();
       EXPECT_EQ(TopDialog(), search);
-      EXPECT_EQ(hSearchDlg, search);
-      EXPECT_EQ(progressMode, 2);
-      EXPECT_EQ(stepCounter, 0);
+      EXPECT_EQ(Stepped.hSearchDlg, search);
+      EXPECT_EQ(Stepped.progressMode, 2);
+      EXPECT_EQ(Stepped.stepCounter, 0);
       Press(search, 2);
     });
-    EXPECT_EQ(ScopeSearchRun(hMainWnd, 2), -1);
+    EXPECT_EQ(ScopeSearchRun(Program.hMainWnd, 2), -1);
   }
 };
 
@@ -35,9 +38,9 @@ TEST_F(OneWorkTest, TheProgressOfADivisionDoesNotTakeTheTickFromASearch) {
   for (auto* run : {FileDivExeDlgRun, FileUnDivExeDlgRun}) {
     DuringASearch([run, files] {
       Prepare(Simple(10, 2));
-      stepCounter = 1;
+      Stepped.stepCounter = 1;
       ASSERT_EQ(FileDivideStep(), 0);
-      run(hMainWnd);
+      run(Program.hMainWnd);
       EXPECT_EQ(DiagnosticsLive().files, files) << "the run is over, its files closed";
     });
   }
@@ -46,10 +49,10 @@ TEST_F(OneWorkTest, TheProgressOfADivisionDoesNotTakeTheTickFromASearch) {
 TEST_F(OneWorkTest, TheRunCommandTouchesNoFileWhileASearchIsRunning) {
   Prepare(Simple(10, 2));
   Then([] {
-    DuringASearch([] { SendCommand(hMainWnd, kCommandDivideRun); });
+    DuringASearch([] { SendCommand(Program.hMainWnd, kCommandDivideRun); });
     Press(FindDialog(IDD_FileDivideSetDlg2), 2);
   });
-  SendCommand(hMainWnd, kCommandDivide);
+  SendCommand(Program.hMainWnd, kCommandDivide);
   EXPECT_EQ(FolderNames(kPieces), Rows());
 }
 

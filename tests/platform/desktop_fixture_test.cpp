@@ -4,7 +4,7 @@
 #include "platform/file.h"
 #include "platform/memory.h"
 #include "platform/window.h"
-#include "shell/shell.h"
+#include "services/program.h"
 #include "tests/platform/machinery.h"
 #include "tests/support/desktop.h"
 #include "tests/support/test_dialogs.h"
@@ -17,7 +17,7 @@ TEST_F(DesktopFixtureTest, ProgramFolderIsCurrentAndOnDriveC) {
   char folder[300];
   ASSERT_GT(FolderGetCurrent(folder, sizeof folder), 0);
   EXPECT_STREQ(folder, "C:\\mirrell");
-  EXPECT_STREQ(RootFolder, "C:\\mirrell");
+  EXPECT_STREQ(Program.RootFolder, "C:\\mirrell");
   EXPECT_TRUE(FolderNames("C:\\mirrell").empty());
   EXPECT_EQ(InProgram("a.bin"), "C:\\mirrell\\a.bin");
 }

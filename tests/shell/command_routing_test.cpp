@@ -5,8 +5,9 @@
 
 #include "platform/headless/resource_file.h"
 #include "resources/ids.h"
+#include "services/program.h"
 #include "shell/commands.h"
-#include "shell/shell.h"
+#include "shell/panel.h"
 #include "tests/support/program.h"
 
 namespace {
@@ -104,7 +105,7 @@ class PanelProgramTest : public ProgramTest {
     StartProgram();
     SetPointer(505, 305);
   }
-  static void TouchStage() { Mouse(hMainWnd, EventKind::MouseMove, 5, 5); }
+  static void TouchStage() { Mouse(Program.hMainWnd, EventKind::MouseMove, 5, 5); }
   static void ClickRow(int row) { Mouse(TopDialog(), EventKind::LeftDown, 20, 15 + 20 * row, kLeftHeld); }
 };
 
@@ -112,19 +113,19 @@ TEST_F(PanelProgramTest, TouchingTheStageOpensThePanelAndLeavingItAloneClosesIt)
   Then([] {
     EXPECT_EQ(TemplateOf(TopDialog()), IDD_DspDiskMenu);
     Tick(39);
-    EXPECT_NE(hDiskMenu, nullptr);
+    EXPECT_NE(Panel.hDiskMenu, nullptr);
     Tick(1);
   });
   TouchStage();
-  EXPECT_EQ(hDiskMenu, nullptr);
-  EXPECT_EQ(MenuPanelState, 0);
+  EXPECT_EQ(Panel.hDiskMenu, nullptr);
+  EXPECT_EQ(Panel.MenuPanelState, 0);
 }
 
 TEST_F(PanelProgramTest, TheManualStartsAndThePanelCloses) {
   Then([] { ClickRow(3); });
   TouchStage();
-  EXPECT_EQ(hDiskMenu, nullptr);
-  EXPECT_EQ(MenuPanelState, 0);
+  EXPECT_EQ(Panel.hDiskMenu, nullptr);
+  EXPECT_EQ(Panel.MenuPanelState, 0);
   ASSERT_EQ(ProcessesStarted().size(), 1U);
   const StartedProcess& manual = ProcessesStarted()[0];
   EXPECT_EQ(manual.commandLine, "使用手引.exe");
@@ -139,8 +140,8 @@ TEST_F(PanelProgramTest, WriterAndEditorStartFromTheApplicationsLevel) {
     Then([] { ClickRow(5); });
     Then([row] { ClickRow(row); });
     TouchStage();
-    EXPECT_EQ(hDiskMenu, nullptr);
-    EXPECT_EQ(MenuPanelState, 0);
+    EXPECT_EQ(Panel.hDiskMenu, nullptr);
+    EXPECT_EQ(Panel.MenuPanelState, 0);
     ASSERT_EQ(ProcessesStarted().size(), static_cast<std::size_t>(row + 1));
     EXPECT_EQ(ProcessesStarted()[static_cast<std::size_t>(row)].commandLine, programs[row]);
   }
@@ -149,9 +150,9 @@ TEST_F(PanelProgramTest, WriterAndEditorStartFromTheApplicationsLevel) {
 TEST_F(PanelProgramTest, EndingTheProgramIsAskedForAndCancelClearsTheState) {
   Then([] { ClickRow(7); });
   ExpectBox("プログラムを終了します。", "プログラム終了", BoxAnswer::Cancel,
-            [] { EXPECT_EQ(hDiskMenu, nullptr) << "the panel has closed by then"; });
+            [] { EXPECT_EQ(Panel.hDiskMenu, nullptr) << "the panel has closed by then"; });
   TouchStage();
-  EXPECT_EQ(MenuPanelState, 0);
+  EXPECT_EQ(Panel.MenuPanelState, 0);
   EXPECT_FALSE(QuitWasAsked());
   EXPECT_EQ(BoxesShown().at(0).buttons, BoxButtons::OkCancel);
 }
@@ -168,7 +169,7 @@ TEST_F(PanelProgramTest, ThePanelOpensAgainAfterASubLevelWasCancelled) {
     Then([] { ClickRow(2); });
     Then([] { ClickRow(2); });
     TouchStage();
-    EXPECT_EQ(MenuPanelState, 0);
+    EXPECT_EQ(Panel.MenuPanelState, 0);
   }
 }
 

@@ -7,13 +7,15 @@
 #include "character/character_tables.h"
 #include "character/frames.h"
 #include "character/stage.h"
-#include "clock_calendar/calendar.h"
-#include "clock_calendar/clock.h"
+#include "clock_calendar/calendar/calendar.h"
+#include "clock_calendar/clock/clock.h"
 #include "platform/posix/faults.h"
 #include "platform/window.h"
-#include "schedule/application_list.h"
+#include "schedule/applications/application_list.h"
+#include "services/dialog_family.h"
+#include "services/program.h"
 #include "shell/settings.h"
-#include "shell/shell.h"
+#include "shell/tick.h"
 #include "tests/character/chara_files.h"
 #include "tests/support/program.h"
 
@@ -40,7 +42,7 @@ class FileWatchTest : public ProgramTest {
     SetFileTime(kCalendarFile, 1000000);
     StartProgram();
     MainTick1();
-    FileWatchCount = 0;
+    TickCounts.FileWatchCount = 0;
   }
   static void MainTick1() { Ticks(1); }
 
@@ -62,54 +64,54 @@ class FileWatchTest : public ProgramTest {
 };
 
 TEST_F(FileWatchTest, AChangedCharacterFileIsReadAt201Ticks) {
-  ASSERT_EQ(MainCharas[0].charaNo, 1);
+  ASSERT_EQ(CharaTables.MainCharas[0].charaNo, 1);
   ChangeCharacterFile(3);
   Ticks(200);
-  EXPECT_EQ(MainCharas[0].charaNo, 1);
+  EXPECT_EQ(CharaTables.MainCharas[0].charaNo, 1);
   Ticks(1);
-  EXPECT_EQ(MainCharas[0].charaNo, 3);
+  EXPECT_EQ(CharaTables.MainCharas[0].charaNo, 3);
   EXPECT_TRUE(FileThere(kSettingsFile)) << "the alarm reload saves the settings";
 }
 
 TEST_F(FileWatchTest, AFileChangedWhileItsDialogIsOpenIsPickedUp201TicksAfterTheDialogCloses) {
   for (const int dialog : {2013, 2014}) {
-    DlgIdMenu = dialog;
+    Dialogs.DlgIdMenu = dialog;
     const auto number = static_cast<unsigned char>(dialog == 2013 ? 2 : 4);
     ChangeCharacterFile(number);
     Ticks(201 * 3);
-    EXPECT_NE(MainCharas[0].charaNo, number);
-    DlgIdMenu = 0;
-    ASSERT_EQ(FileWatchCount, 0);
+    EXPECT_NE(CharaTables.MainCharas[0].charaNo, number);
+    Dialogs.DlgIdMenu = 0;
+    ASSERT_EQ(TickCounts.FileWatchCount, 0);
     Ticks(200);
-    EXPECT_NE(MainCharas[0].charaNo, number);
+    EXPECT_NE(CharaTables.MainCharas[0].charaNo, number);
     Ticks(1);
-    EXPECT_EQ(MainCharas[0].charaNo, number);
+    EXPECT_EQ(CharaTables.MainCharas[0].charaNo, number);
   }
 }
 
 TEST_F(FileWatchTest, AnEmptyDlgIdMenuDoesNotBlockTheWatch) {
-  DlgIdMenu = 0;
-  DlgIdTool = 2013;
+  Dialogs.DlgIdMenu = 0;
+  Dialogs.DlgIdTool = 2013;
   ChangeCharacterFile(2);
   Ticks(201);
-  EXPECT_EQ(MainCharas[0].charaNo, 2);
+  EXPECT_EQ(CharaTables.MainCharas[0].charaNo, 2);
 }
 
 TEST_F(FileWatchTest, AStampThatCannotBeReadLeavesTheStoredStampAsItIs) {
   const std::string file = FileBytes(kCharacterFile);
   RemoveFile(kCharacterFile);
   Ticks(201);
-  EXPECT_EQ(MainCharas[0].charaNo, 1);
+  EXPECT_EQ(CharaTables.MainCharas[0].charaNo, 1);
   // The file comes back with the very time that is kept: no change.
   std::string changed = file;
   changed.at(kFirstNumber + 3) = 3;
   ASSERT_TRUE(PutFile(kCharacterFile, changed));
   SetFileTime(kCharacterFile, 1000000);
   Ticks(201);
-  EXPECT_EQ(MainCharas[0].charaNo, 1);
+  EXPECT_EQ(CharaTables.MainCharas[0].charaNo, 1);
   SetFileTime(kCharacterFile, 1000001);
   Ticks(201);
-  EXPECT_EQ(MainCharas[0].charaNo, 3);
+  EXPECT_EQ(CharaTables.MainCharas[0].charaNo, 3);
 }
 
 TEST_F(FileWatchTest, ACharacterChangeLoadsTheStageAnewAndRestartsTheClock) {
@@ -122,7 +124,7 @@ TEST_F(FileWatchTest, ACharacterChangeLoadsTheStageAnewAndRestartsTheClock) {
   Ticks(1);
   EXPECT_EQ(TakeHeard(), (Words{"main 2293", "main 2254"}));
   EXPECT_NE(FramePicture(kStageRow, 0), nullptr);
-  EXPECT_EQ(StageRedraw, kRedrawNothing);
+  EXPECT_EQ(Stage.StageRedraw, kRedrawNothing);
 }
 
 // Offsets in the history: 240503 the sound, 240803 the flags of the walk.
@@ -131,7 +133,7 @@ TEST_F(FileWatchTest, AnotherSelectedCharacterIsCarriedIntoTheOpenHistory) {
   ChangeCharacterFile(2);
   Ticks(201);
   EXPECT_FALSE(FileThere(history)) << "the selected character is the same one";
-  SetCharaSetNo(CharaSet, 2);
+  SetCharaSetNo(Character.CharaSet, 2);
   std::string file = FileBytes(kCharacterFile);
   // The flags of the walking rows stand before the four blink intervals.
   file.at(file.size() - 16 - 50) = 5;
@@ -143,14 +145,14 @@ TEST_F(FileWatchTest, AnotherSelectedCharacterIsCarriedIntoTheOpenHistory) {
   ASSERT_TRUE(FileThere(history));
   EXPECT_STREQ(FileBytes(history).c_str() + 240503, "旗印.wav");
   EXPECT_EQ(FileBytes(history).at(240803), 5);
-  EXPECT_EQ(CharaSetNo(CharaSet), 1);
+  EXPECT_EQ(CharaSetNo(Character.CharaSet), 1);
 }
 
 TEST_F(FileWatchTest, ACalendarChangeIsAnsweredInItsOrder) {
-  ApliCount = 1;
-  ApliSelected = 1;
-  CalenShow = 1;
-  hCalenWnd = OpenListener("calendar");
+  Applications.ApliCount = 1;
+  Applications.ApliSelected = 1;
+  Calendar.CalenShow = 1;
+  Calendar.hCalenWnd = OpenListener("calendar");
   ChangeNote();
   SetFileTime(kCalendarFile, 2000000);
   ExpectBox("予定表でカレンダー変更を有効にするには、予定表を起動しセーブする必要があります",
@@ -158,11 +160,11 @@ TEST_F(FileWatchTest, ACalendarChangeIsAnsweredInItsOrder) {
   ListenToEverything();
   FileWatch();
   EXPECT_EQ(TakeHeard(), (Words{"main 2381", "calendar close", "main 2379", "main 2382", "main 2254"}));
-  CalenShow = 0;
+  Calendar.CalenShow = 0;
   SetFileTime(kCalendarFile, 3000000);
   FileWatch();
   EXPECT_EQ(TakeHeard(), (Words{"main 2381", "calendar close", "main 2254"}));
-  WindowDestroy(hCalenWnd);
+  WindowDestroy(Calendar.hCalenWnd);
 }
 
 // A sibling writes twice; the second time while the first is being read.
@@ -181,21 +183,21 @@ TEST_F(FileWatchTest, AWriteWhileTheFileIsReadIsAChangeOfItsOwn) {
 }
 
 TEST_F(FileWatchTest, WhenTheProgramEndsInABoxOfTheWatchTheRestIsLeft) {
-  ApliCount = 1;
-  ApliSelected = 1;
+  Applications.ApliCount = 1;
+  Applications.ApliSelected = 1;
   ChangeNote();
   SetFileTime(kCalendarFile, 2000000);
   ChangeCharacterFile(3);
   ExpectBox("予定表でカレンダー変更を有効にするには、予定表を起動しセーブする必要があります",
-            "カレンダーが変更されました(ミルレール)", BoxAnswer::Ok, [] { SendClose(hMainWnd); });
+            "カレンダーが変更されました(ミルレール)", BoxAnswer::Ok, [] { SendClose(Program.hMainWnd); });
   Ticks(201);
   EXPECT_TRUE(QuitWasAsked());
-  EXPECT_EQ(MainCharas[0].charaNo, 1);
+  EXPECT_EQ(CharaTables.MainCharas[0].charaNo, 1);
 }
 
 TEST_F(FileWatchTest, AChangedCalendarTellsTheScheduleProgramOnlyWhenTheSelectedOneDiffers) {
-  ApliCount = 1;
-  ApliSelected = 1;
+  Applications.ApliCount = 1;
+  Applications.ApliSelected = 1;
   SetFileTime(kCalendarFile, 2000000);
   Ticks(201);
   EXPECT_TRUE(BoxesShown().empty()) << "the same content under a new time";
@@ -210,13 +212,13 @@ TEST_F(FileWatchTest, AChangedCalendarTellsTheScheduleProgramOnlyWhenTheSelected
 
 TEST_F(FileWatchTest, TheCalendarIsLeftAloneWhileItsDialogsAreOpen) {
   for (const int dialog : {2007, 2009}) {
-    DlgIdMenu = dialog;
+    Dialogs.DlgIdMenu = dialog;
     SetFileTime(kCalendarFile, 4000000 + dialog);
     RemoveFile(kSettingsFile);
     Ticks(201);
     EXPECT_FALSE(FileThere(kSettingsFile));
-    DlgIdMenu = 0;
-    ASSERT_EQ(FileWatchCount, 0);
+    Dialogs.DlgIdMenu = 0;
+    ASSERT_EQ(TickCounts.FileWatchCount, 0);
     Ticks(200);
     EXPECT_FALSE(FileThere(kSettingsFile));
     Ticks(1);
@@ -225,17 +227,18 @@ TEST_F(FileWatchTest, TheCalendarIsLeftAloneWhileItsDialogsAreOpen) {
 }
 
 TEST_F(FileWatchTest, ACalendarNoticeIsNotShownTwiceAtOnce) {
-  ApliCount = 1;
-  ApliSelected = 1;
-  ApliStarted = 1;
+  Applications.ApliCount = 1;
+  Applications.ApliSelected = 1;
+  Applications.ApliStarted = 1;
   ExpectBox("予定表の編集データセーブ後に予定表を閉じて再起動させてください",
-            "カレンダーが変更されました(ミルレール)", BoxAnswer::Ok, [] { SendCommand(hMainWnd, 2382); });
-  SendCommand(hMainWnd, 2382);
+            "カレンダーが変更されました(ミルレール)", BoxAnswer::Ok,
+            [] { SendCommand(Program.hMainWnd, 2382); });
+  SendCommand(Program.hMainWnd, 2382);
   EXPECT_EQ(BoxesShown().size(), 1U);
 }
 
 TEST_F(FileWatchTest, WithNoProgramMarkedACalendarChangeIsNotTold) {
-  SendCommand(hMainWnd, 2382);
+  SendCommand(Program.hMainWnd, 2382);
   EXPECT_TRUE(BoxesShown().empty());
 }
 

@@ -2,9 +2,8 @@
 #include "shell/old_data.h"
 
 #include "platform/posix/faults.h"
+#include "services/data_file.h"
 #include "shell/commands.h"
-#include "shell/data_file.h"
-#include "shell/shell.h"
 #include "tests/support/program.h"
 
 namespace {
@@ -30,8 +29,9 @@ class OldDataTest : public ProgramTest {
   }
   static void ExpectError(const char* caption) { ExpectBox("ミルレール", caption); }
   static std::string Block() {
-    return OldData ? std::string(reinterpret_cast<char*>(OldData), static_cast<std::size_t>(OldDataSize))
-                   : "none";
+    return OldFormat.OldData ? std::string(reinterpret_cast<char*>(OldFormat.OldData),
+                                           static_cast<std::size_t>(OldFormat.OldDataSize))
+                             : "none";
   }
 
   const std::string file_ = InProgram("old.mot");
@@ -43,14 +43,14 @@ TEST_F(OldDataTest, WhatWasLoadedIsSavedByteForByte) {
   PutFile(file_, bytes);
   Load(file_);
   EXPECT_EQ(Block(), bytes);
-  EXPECT_EQ(FileStatus, 0);
+  EXPECT_EQ(FileResult.FileStatus, 0);
   EXPECT_EQ(FileDialogsShown().back().title, "ﾌｧｲﾙﾛｰﾄﾞ");
   EXPECT_FALSE(FileDialogsShown().back().save);
   SaveAs(copy_);
   EXPECT_EQ(FileDialogsShown().back().title, "ﾌｧｲﾙﾛｰﾄﾞ");
   EXPECT_TRUE(FileDialogsShown().back().save);
   EXPECT_EQ(FileBytes(copy_), bytes);
-  EXPECT_EQ(FileStatus, 0);
+  EXPECT_EQ(FileResult.FileStatus, 0);
 }
 
 TEST_F(OldDataTest, SaveWritesUnderTheLastNameWithoutAsking) {
@@ -77,34 +77,34 @@ TEST_F(OldDataTest, PickingNoFileLeavesTheStatusAt1AndTheBlockAsItIs) {
   PutFile(file_, "abc");
   Load(file_);
   Load("");
-  EXPECT_EQ(FileStatus, 1);
+  EXPECT_EQ(FileResult.FileStatus, 1);
   EXPECT_EQ(Block(), "abc");
   SaveAs("");
-  EXPECT_EQ(FileStatus, 1);
+  EXPECT_EQ(FileResult.FileStatus, 1);
 }
 
 TEST_F(OldDataTest, AMissingFileCannotBeOpened) {
   ExpectError("Coud not open MOT file");
   Load(file_);
-  EXPECT_EQ(FileStatus, -1);
+  EXPECT_EQ(FileResult.FileStatus, -1);
   EXPECT_EQ(Block(), "none");
 }
 
 TEST_F(OldDataTest, SixtyFourKilobytesAreTheMost) {
   PutFile(file_, std::string(65536, 'a'));
   Load(file_);
-  EXPECT_EQ(OldDataSize, 65536);
+  EXPECT_EQ(OldFormat.OldDataSize, 65536);
   PutFile(copy_, std::string(65537, 'b'));
   ExpectError("DATA Size over 64k byte");
   Load(copy_);
-  EXPECT_EQ(FileStatus, 2);
+  EXPECT_EQ(FileResult.FileStatus, 2);
   EXPECT_EQ(Block(), std::string(65536, 'a')) << "the block in memory stays";
 }
 
 TEST_F(OldDataTest, AnEmptyFileIsAnEmptyBlock) {
   PutFile(file_, "");
   Load(file_);
-  EXPECT_EQ(FileStatus, 0);
+  EXPECT_EQ(FileResult.FileStatus, 0);
   EXPECT_EQ(Block(), "");
   SaveAs(copy_);
   EXPECT_TRUE(FileThere(copy_));
@@ -115,7 +115,7 @@ TEST_F(OldDataTest, NoMemoryIsTold) {
   FaultArm(FaultKind::Memory, 1);
   ExpectError("Not enough Memory");
   Load(file_);
-  EXPECT_EQ(FileStatus, 3);
+  EXPECT_EQ(FileResult.FileStatus, 3);
   EXPECT_EQ(Block(), "none");
 }
 
@@ -124,7 +124,7 @@ TEST_F(OldDataTest, AShortReadIsTold) {
   FaultArm(FaultKind::Read, 1);
   ExpectError("Read DATA Error");
   Load(file_);
-  EXPECT_EQ(FileStatus, -2);
+  EXPECT_EQ(FileResult.FileStatus, -2);
   EXPECT_EQ(Block(), "none");
 }
 
@@ -135,7 +135,7 @@ TEST_F(OldDataTest, EveryCallOfSavingFailingInTurnIsTold) {
     FaultArm(kind, 1);
     ExpectError(kind == FaultKind::Create ? "Coud not open MOT file" : "Write DATA Error");
     SaveAs(copy_);
-    EXPECT_EQ(FileStatus, kind == FaultKind::Create ? -1 : -2);
+    EXPECT_EQ(FileResult.FileStatus, kind == FaultKind::Create ? -1 : -2);
     FaultClear();
   }
   // The open after the creation; the one before it only asks whether there is an old file.
@@ -143,7 +143,7 @@ TEST_F(OldDataTest, EveryCallOfSavingFailingInTurnIsTold) {
   FaultArm(FaultKind::Open, 2);
   ExpectError("Coud not open MOT file");
   SaveAs(copy_);
-  EXPECT_EQ(FileStatus, -1);
+  EXPECT_EQ(FileResult.FileStatus, -1);
   FaultClear();
   // A name that could not be written is not kept.
   RemoveFile(file_);

@@ -1,6 +1,10 @@
 // What the rows of the tool menu panel do: entries and sub-levels.
+#include "character/character.h"
+#include "character/motion.h"
 #include "platform/dialog.h"
 #include "resources/ids.h"
+#include "services/program.h"
+#include "shell/panel.h"
 #include "tests/shell/panel_fixture.h"
 
 namespace {
@@ -9,29 +13,29 @@ namespace {
 
 TEST_F(PanelTest, ALevelOneClickResetsTheBoredTimerAndMarksTheRow) {
   onCommand = nullptr;
-  BoredDelaySel = 4;  // 1 hour 30 minutes
-  BoredHour = BoredMin = 77;
+  Character.BoredDelaySel = 4;  // 1 hour 30 minutes
+  Motion.BoredHour = Motion.BoredMin = 77;
   Open({[] {
           Click(5);
-          EXPECT_EQ(BoredHour, 1);
-          EXPECT_EQ(BoredMin, 30);
-          EXPECT_EQ(MenuHiLine, 5);
+          EXPECT_EQ(Motion.BoredHour, 1);
+          EXPECT_EQ(Motion.BoredMin, 30);
+          EXPECT_EQ(Panel.MenuHiLine, 5);
         },
         Escape});
 }
 
 TEST_F(PanelTest, ALevelOneClickAtOrBeyondRowEightResetsTheBoredTimerAndThenDoesNothing) {
   for (const int y : {170, 189, 190, 199}) {
-    BoredHour = BoredMin = 77;
-    MenuHiLine = 2;
+    Motion.BoredHour = Motion.BoredMin = 77;
+    Panel.MenuHiLine = 2;
     Open({[y] {
       Mouse(TopDialog(), EventKind::LeftDown, 50, y, kLeftHeld);
-      EXPECT_EQ(BoredHour, 0) << y;
-      EXPECT_EQ(BoredMin, 5) << y;
-      EXPECT_EQ(MenuHiLine, y < 190 ? 8 : 2) << "row 9 is not marked";
+      EXPECT_EQ(Motion.BoredHour, 0) << y;
+      EXPECT_EQ(Motion.BoredMin, 5) << y;
+      EXPECT_EQ(Panel.MenuHiLine, y < 190 ? 8 : 2) << "row 9 is not marked";
       EXPECT_TRUE(sentCommands.empty());
-      EXPECT_EQ(MenuPanelState, 1);
-      EXPECT_EQ(hDiskMenu, TopDialog());
+      EXPECT_EQ(Panel.MenuPanelState, 1);
+      EXPECT_EQ(Panel.hDiskMenu, TopDialog());
       Escape();
     }});
   }
@@ -39,11 +43,11 @@ TEST_F(PanelTest, ALevelOneClickAtOrBeyondRowEightResetsTheBoredTimerAndThenDoes
 
 TEST_F(PanelTest, ASubLevelClickLeavesTheBoredTimerAndTheMarkAlone) {
   onCommand = nullptr;
-  BoredHour = 77;
+  Motion.BoredHour = 77;
   OpenLevel(1904, {[] {
                      Click(2);
-                     EXPECT_EQ(BoredHour, 77);
-                     EXPECT_EQ(MenuHiLine, 0);
+                     EXPECT_EQ(Motion.BoredHour, 77);
+                     EXPECT_EQ(Panel.MenuHiLine, 0);
                    },
                    Escape});
 }
@@ -51,24 +55,24 @@ TEST_F(PanelTest, ASubLevelClickLeavesTheBoredTimerAndTheMarkAlone) {
 TEST_F(PanelTest, TheThirdRowOfTheApplicationsLevelClosesThePanel) {
   OpenLevel(1906, {[] {
               Click(2);
-              EXPECT_EQ(hDiskMenu, nullptr);
-              EXPECT_EQ(MenuPanelState, 0);
+              EXPECT_EQ(Panel.hDiskMenu, nullptr);
+              EXPECT_EQ(Panel.MenuPanelState, 0);
             }});
   EXPECT_TRUE(sentCommands.empty());
 }
 
 TEST_F(PanelTest, ARowWhoseCommandOnlyClearsTheStateClosesThePanel) {
   // The manual and the other programs beside this one do no more than that.
-  onCommand = [](std::uint32_t) { MenuPanelState = 0; };
+  onCommand = [](std::uint32_t) { Panel.MenuPanelState = 0; };
   Open({[] {
     Click(3);
-    EXPECT_EQ(hDiskMenu, nullptr);
+    EXPECT_EQ(Panel.hDiskMenu, nullptr);
   }});
   EXPECT_EQ(sentCommands, (std::vector<Sent>{{2377, 1}}));
   sentCommands.clear();
   OpenLevel(1906, {[] {
               Click(0);
-              EXPECT_EQ(hDiskMenu, nullptr);
+              EXPECT_EQ(Panel.hDiskMenu, nullptr);
             }});
   EXPECT_EQ(sentCommands, (std::vector<Sent>{{2365, 702}}));
 }
@@ -83,13 +87,13 @@ TEST_F(PanelTest, ASubLevelTakesThePlaceOfTheTopLevel) {
         },
         [] {
           EXPECT_NE(TopDialog(), top);
-          EXPECT_EQ(hDiskMenu, TopDialog());
+          EXPECT_EQ(Panel.hDiskMenu, TopDialog());
           EXPECT_FALSE(IsVisible(top));
-          EXPECT_EQ(MenuPanelState, 6);
-          EXPECT_EQ(FuncNo, 8);
+          EXPECT_EQ(Panel.MenuPanelState, 6);
+          EXPECT_EQ(Panel.FuncNo, 8);
           Click(3);
         }});
-  EXPECT_EQ(MenuPanelState, 0);
+  EXPECT_EQ(Panel.MenuPanelState, 0);
   EXPECT_EQ(TopDialog(), nullptr);
 }
 
@@ -104,10 +108,10 @@ TEST_F(PanelTest, ASubLevelBeginsWithTheMarkOfTheLevelBefore) {
 }
 
 TEST_F(PanelTest, ALevelWithTheStateAsItStandsDrawsTheLevelOfTheMoment) {
-  Open({[] { SendCommand(hMainWnd, 1905); },
+  Open({[] { SendCommand(Program.hMainWnd, 1905); },
         [] {
-          EXPECT_EQ(FuncNo, 10);
-          EXPECT_EQ(MenuPanelState, 1);
+          EXPECT_EQ(Panel.FuncNo, 10);
+          EXPECT_EQ(Panel.MenuPanelState, 1);
           EXPECT_EQ(DrawnTexts(TopDialog()).size(), 8U);
           Escape();
         }});
@@ -115,23 +119,23 @@ TEST_F(PanelTest, ALevelWithTheStateAsItStandsDrawsTheLevelOfTheMoment) {
 
 TEST_F(PanelTest, ALevelWithNoStateHasNoRowsAndTheKeyboardClosesIt) {
   OpenLevel(1905, {[] {
-              EXPECT_EQ(FuncNo, 10);
-              EXPECT_EQ(MenuPanelState, 0);
+              EXPECT_EQ(Panel.FuncNo, 10);
+              EXPECT_EQ(Panel.MenuPanelState, 0);
               EXPECT_TRUE(DrawnTexts(TopDialog()).empty());
               Click(0);
               MoveTo(1);
               EXPECT_TRUE(sentCommands.empty());
-              EXPECT_EQ(MenuHiLine, 0);
+              EXPECT_EQ(Panel.MenuHiLine, 0);
               Escape();
             }});
 }
 
 TEST_F(PanelTest, ASubLevelThatIsClosedFromOutsideLetsThePointerOpenThePanelAgain) {
   OpenLevel(1907, {[] { SendClose(TopDialog()); }});
-  EXPECT_EQ(MenuPanelState, 0);
-  EXPECT_EQ(FuncNo, 0);
+  EXPECT_EQ(Panel.MenuPanelState, 0);
+  EXPECT_EQ(Panel.FuncNo, 0);
   Open({[] {
-    EXPECT_EQ(MenuPanelState, 1);
+    EXPECT_EQ(Panel.MenuPanelState, 1);
     Escape();
   }});
 }
@@ -148,19 +152,19 @@ TEST_F(PanelTest, AFeaturesDialogRunsInsideThePanelsHandler) {
   onCommand = [](std::uint32_t number) {
     PanelCommandsOnly(number);
     if (number != 1914) return;
-    SendClose(hDiskMenu);
-    DialogRun(IDD_FlyingBat4, hMainWnd, FeatureProc);
-    FuncNo = 0;
-    MenuPanelState = 0;
+    SendClose(Panel.hDiskMenu);
+    DialogRun(IDD_FlyingBat4, Program.hMainWnd, FeatureProc);
+    Panel.FuncNo = 0;
+    Panel.MenuPanelState = 0;
   };
   Open({[] { Click(2); }, [] { Click(0); },
         [] {
           EXPECT_EQ(TemplateOf(TopDialog()), IDD_FlyingBat4);
-          EXPECT_EQ(hDiskMenu, nullptr);
-          EXPECT_EQ(MenuPanelState, 400);
+          EXPECT_EQ(Panel.hDiskMenu, nullptr);
+          EXPECT_EQ(Panel.MenuPanelState, 400);
           SendCommand(TopDialog(), 2);
         }});
-  EXPECT_EQ(MenuPanelState, 0);
+  EXPECT_EQ(Panel.MenuPanelState, 0);
   EXPECT_EQ(TopDialog(), nullptr);
   EXPECT_EQ(sentCommands, (std::vector<Sent>{{1902, 4}, {1914, 400}}));
 }

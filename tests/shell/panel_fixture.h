@@ -13,9 +13,11 @@
 #include "character/stage.h"
 #include "platform/headless/headless.h"
 #include "platform/window.h"
+#include "services/drawing_objects.h"
+#include "services/program.h"
+#include "services/screen_figures.h"
 #include "shell/commands.h"
 #include "shell/panel.h"
-#include "shell/shell.h"
 #include "shell/start.h"
 #include "shell/tick.h"
 #include "tests/support/desktop.h"
@@ -50,7 +52,7 @@ inline bool StageStandIn(const Event& event) {
       ++stagePaints;
       return true;
     case EventKind::Command:
-      sentCommands.push_back({event.command, MenuPanelState});
+      sentCommands.push_back({event.command, Panel.MenuPanelState});
       if (onCommand) onCommand(event.command);
       return true;
     default:
@@ -61,7 +63,7 @@ inline bool StageStandIn(const Event& event) {
 inline Event MoveOnStage(unsigned keys = 0) {
   Event event;
   event.kind = EventKind::MouseMove;
-  event.window = hMainWnd;
+  event.window = Program.hMainWnd;
   event.x = 5;
   event.y = 5;
   event.keys = keys;
@@ -72,32 +74,32 @@ class PanelTest : public DesktopTest {
  protected:
   void SetUp() override {
     DesktopTest::SetUp();
-    MenuPanelState = MenuHiLine = FuncNo = MenuCloseCount = MenuReopenGuard = 0;
-    MenuPanelRect = {};
-    MenuFrame = 0;
-    CharaMotion = kMotionIdle;
-    StageRedraw = kRedrawNothing;
-    BoredDelaySel = 0;
-    ScreenWidth = 1024;
-    ScreenHeight = 768;
-    StageX = 100;
-    StageY = 50;
-    StageWidth = 120;
-    StageHeight = 160;
+    Panel.MenuPanelState = Panel.MenuHiLine = Panel.FuncNo = Panel.MenuCloseCount = Panel.MenuReopenGuard = 0;
+    Panel.MenuPanelRect = {};
+    Character.MenuFrame = 0;
+    Motion.CharaMotion = kMotionIdle;
+    Stage.StageRedraw = kRedrawNothing;
+    Character.BoredDelaySel = 0;
+    Screen.ScreenWidth = 1024;
+    Screen.ScreenHeight = 768;
+    Character.StageX = 100;
+    Character.StageY = 50;
+    Stage.StageWidth = 120;
+    Stage.StageHeight = 160;
     sentCommands.clear();
     stagePaints = 0;
     onCommand = PanelCommandsOnly;
     DrawingObjectsCreate();
-    hMainWnd =
-        MainWindowCreate({"stage", "stage", 0, 0, 0, StageStandIn}, StageX, StageY, StageWidth, StageHeight);
-    WindowShowFirst(hMainWnd, 1);
+    Program.hMainWnd = MainWindowCreate({"stage", "stage", 0, 0, 0, StageStandIn}, Character.StageX,
+                                        Character.StageY, Stage.StageWidth, Stage.StageHeight);
+    WindowShowFirst(Program.hMainWnd, 1);
     SetPointer(105, 55);
   }
   void TearDown() override {
-    EXPECT_EQ(hDiskMenu, nullptr);
+    EXPECT_EQ(Panel.hDiskMenu, nullptr);
     DrawingObjectsDelete();
     MainWindowDrop();
-    hMainWnd = nullptr;
+    Program.hMainWnd = nullptr;
     DesktopTest::TearDown();
   }
 

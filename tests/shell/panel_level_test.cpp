@@ -1,5 +1,8 @@
 // The tool menu panel's levels: their rows, their drawing, the pointer and the keyboard.
+#include "character/motion.h"
 #include "resources/ids.h"
+#include "services/drawing_objects.h"
+#include "shell/panel.h"
 #include "tests/shell/panel_fixture.h"
 
 namespace {
@@ -86,9 +89,9 @@ INSTANTIATE_TEST_SUITE_P(All, PanelLevelTest,
 TEST_P(PanelLevelTest, OpensWithItsStateFeatureNumberAndSize) {
   OpenIt({[] {
     EXPECT_EQ(TemplateOf(TopDialog()), IDD_DspDiskMenu);
-    EXPECT_EQ(hDiskMenu, TopDialog());
-    EXPECT_EQ(MenuPanelState, GetParam().state);
-    EXPECT_EQ(FuncNo, GetParam().funcNo);
+    EXPECT_EQ(Panel.hDiskMenu, TopDialog());
+    EXPECT_EQ(Panel.MenuPanelState, GetParam().state);
+    EXPECT_EQ(Panel.FuncNo, GetParam().funcNo);
     const Rect rect = WindowRect(TopDialog());
     EXPECT_EQ(RectWidth(rect), 200);
     EXPECT_EQ(RectHeight(rect), GetParam().height);
@@ -98,7 +101,7 @@ TEST_P(PanelLevelTest, OpensWithItsStateFeatureNumberAndSize) {
 }
 
 TEST_P(PanelLevelTest, DrawsEveryRowAtItsPlace) {
-  MenuHiLine = 1;
+  Panel.MenuHiLine = 1;
   OpenIt({[] {
     const std::vector<DrawCall> texts = DrawnTexts(TopDialog());
     ASSERT_EQ(texts.size(), GetParam().rows.size());
@@ -114,7 +117,7 @@ TEST_P(PanelLevelTest, DrawsEveryRowAtItsPlace) {
     ASSERT_EQ(all.size(), texts.size() + 2);
     const DrawCall& back = all[0];
     EXPECT_EQ(back.kind, DrawCall::Kind::Rectangle);
-    EXPECT_EQ(back.brush, FaceBrushColour);
+    EXPECT_EQ(back.brush, Drawing.FaceBrushColour);
     EXPECT_FALSE(back.edged);
     // A fill without an edge leaves its last column and row out.
     EXPECT_EQ(back.x, 0);
@@ -137,13 +140,13 @@ TEST_P(PanelLevelTest, EveryRowSetsItsStateAndSendsItsCommand) {
   onCommand = nullptr;  // the commands are noted only, so the panel stays
   for (std::size_t row = 0; row < GetParam().rows.size(); ++row) {
     const RowExpected& expected = GetParam().rows[row];
-    MenuPanelState = FuncNo = 0;
+    Panel.MenuPanelState = Panel.FuncNo = 0;
     sentCommands.clear();
     std::vector<std::function<void()>> steps = {[row] { Click(static_cast<int>(row)); }};
     if (expected.command != 0) steps.push_back(Escape);
     OpenIt(steps);
-    EXPECT_EQ(hDiskMenu, nullptr);
-    EXPECT_EQ(MenuPanelState, 0);
+    EXPECT_EQ(Panel.hDiskMenu, nullptr);
+    EXPECT_EQ(Panel.MenuPanelState, 0);
     if (expected.command == 0) {
       EXPECT_TRUE(sentCommands.empty()) << expected.text;
     } else {
@@ -160,21 +163,21 @@ TEST_P(PanelLevelTest, ClickBelowTheLastRowDoesNothingAndThePanelStays) {
     for (int row = static_cast<int>(GetParam().rows.size()); row < 12; ++row) {
       Click(row);
       EXPECT_TRUE(sentCommands.empty());
-      EXPECT_EQ(hDiskMenu, TopDialog());
-      EXPECT_EQ(MenuPanelState, GetParam().state);
+      EXPECT_EQ(Panel.hDiskMenu, TopDialog());
+      EXPECT_EQ(Panel.MenuPanelState, GetParam().state);
     }
     Escape();
   }});
 }
 
 TEST_P(PanelLevelTest, ClickWithShiftHeldDoesNothing) {
-  BoredHour = 77;
+  Motion.BoredHour = 77;
   OpenIt({[] {
     for (int row = 0; row < 10; ++row) Click(row, kLeftHeld | kShiftHeld);
     EXPECT_TRUE(sentCommands.empty());
-    EXPECT_EQ(MenuPanelState, GetParam().state);
-    EXPECT_EQ(BoredHour, 77);
-    EXPECT_EQ(MenuHiLine, 0);
+    EXPECT_EQ(Panel.MenuPanelState, GetParam().state);
+    EXPECT_EQ(Motion.BoredHour, 77);
+    EXPECT_EQ(Panel.MenuHiLine, 0);
     Escape();
   }});
 }
@@ -186,36 +189,36 @@ TEST_P(PanelLevelTest, PointerMarksARowAndRepaintsOnlyOnAChange) {
     MoveTo(0);  // marked already
     EXPECT_TRUE(Drawings(TopDialog()).empty());
     MoveTo(last);
-    EXPECT_EQ(MenuHiLine, last);
+    EXPECT_EQ(Panel.MenuHiLine, last);
     const std::vector<DrawCall> drawn = Drawings(TopDialog());
     ASSERT_EQ(drawn.size(), GetParam().rows.size() + 2);
     EXPECT_EQ(drawn[1].y, 10 + 20 * last);
     DrawingClear();
     MoveTo(last + 1);  // below the rows
-    EXPECT_EQ(MenuHiLine, last);
+    EXPECT_EQ(Panel.MenuHiLine, last);
     EXPECT_TRUE(Drawings(TopDialog()).empty());
-    EXPECT_EQ(MenuCloseCount, kMenuInside);
+    EXPECT_EQ(Panel.MenuCloseCount, kMenuInside);
     Escape();
   }});
 }
 
 TEST_P(PanelLevelTest, EscapeClearsStateFeatureNumberAndGuard) {
   OpenIt({[] {
-    FuncNo = 5;
-    MenuReopenGuard = 3;
+    Panel.FuncNo = 5;
+    Panel.MenuReopenGuard = 3;
     Escape();
-    EXPECT_EQ(hDiskMenu, nullptr);
-    EXPECT_EQ(MenuPanelState, 0);
-    EXPECT_EQ(FuncNo, 0);
-    EXPECT_EQ(MenuReopenGuard, 0);
+    EXPECT_EQ(Panel.hDiskMenu, nullptr);
+    EXPECT_EQ(Panel.MenuPanelState, 0);
+    EXPECT_EQ(Panel.FuncNo, 0);
+    EXPECT_EQ(Panel.MenuReopenGuard, 0);
   }});
 }
 
 TEST_P(PanelLevelTest, OtherKeysDoNothing) {
   OpenIt({[] {
     PressKey(TopDialog(), 'a');
-    EXPECT_EQ(hDiskMenu, TopDialog());
-    EXPECT_EQ(MenuPanelState, GetParam().state);
+    EXPECT_EQ(Panel.hDiskMenu, TopDialog());
+    EXPECT_EQ(Panel.MenuPanelState, GetParam().state);
     Escape();
   }});
 }
@@ -224,18 +227,18 @@ TEST_P(PanelLevelTest, CommandsOneAndTwoCloseIt) {
   for (const std::uint32_t command : {1U, 2U}) {
     OpenIt({[command] {
       SendCommand(TopDialog(), command);
-      EXPECT_EQ(hDiskMenu, nullptr);
+      EXPECT_EQ(Panel.hDiskMenu, nullptr);
     }});
-    EXPECT_EQ(MenuPanelState, 0);
+    EXPECT_EQ(Panel.MenuPanelState, 0);
   }
 }
 
 TEST_P(PanelLevelTest, CloseClearsTheHandleAndKeepsTheStateWhileItsSenderWorks) {
   OpenIt({[] {
-    MenuPanelState = 400;
+    Panel.MenuPanelState = 400;
     SendClose(TopDialog());
-    EXPECT_EQ(hDiskMenu, nullptr);
-    EXPECT_EQ(MenuPanelState, 400);
+    EXPECT_EQ(Panel.hDiskMenu, nullptr);
+    EXPECT_EQ(Panel.MenuPanelState, 400);
   }});
 }
 

@@ -1,5 +1,11 @@
 // The tool menu panel as a window: where it opens, which row is hit, when it closes.
+#include "shell/panel.h"
+
+#include "character/character.h"
+#include "character/motion.h"
+#include "character/stage.h"
 #include "platform/posix/faults.h"
+#include "services/program.h"
 #include "tests/shell/panel_fixture.h"
 
 namespace {
@@ -7,11 +13,11 @@ namespace {
 // --- Hit test
 
 TEST_F(PanelTest, RowsAreTwentyPixelsHighFromPixelTenOn) {
-  MenuHiLine = 3;
+  Panel.MenuHiLine = 3;
   Open({[] {
     const auto markedAt = [](int y) {
       Mouse(TopDialog(), EventKind::MouseMove, 0, y);
-      return MenuHiLine;
+      return Panel.MenuHiLine;
     };
     EXPECT_EQ(markedAt(0), 0);  // above the first row
     EXPECT_EQ(markedAt(-40), 0);
@@ -32,21 +38,21 @@ TEST_F(PanelTest, RowsAreTwentyPixelsHighFromPixelTenOn) {
 TEST_F(PanelTest, ThePointerOnTheStageOpensTheTopLevelAndTheStageIsPaintedAfterwards) {
   SetPointer(0, 0);
   Then([] {
-    EXPECT_EQ(MenuPanelState, 1);
-    EXPECT_EQ(MenuCloseCount, 40);
+    EXPECT_EQ(Panel.MenuPanelState, 1);
+    EXPECT_EQ(Panel.MenuCloseCount, 40);
     stagePaints = 0;
     Escape();
   });
-  Mouse(hMainWnd, EventKind::MouseMove, 5, 5);
+  Mouse(Program.hMainWnd, EventKind::MouseMove, 5, 5);
   EXPECT_EQ(stagePaints, 0);
   Tick();  // what is due is painted before the timer fires
   EXPECT_EQ(stagePaints, 1);
 }
 
 TEST_F(PanelTest, NothingOpensWhileTheGuardRuns) {
-  MenuReopenGuard = 2;
+  Panel.MenuReopenGuard = 2;
   PanelPointerOnStage(MoveOnStage());
-  EXPECT_EQ(MenuPanelState, 0);
+  EXPECT_EQ(Panel.MenuPanelState, 0);
   MainTick();
   MainTick();
   Open({Escape});
@@ -54,18 +60,18 @@ TEST_F(PanelTest, NothingOpensWhileTheGuardRuns) {
 }
 
 TEST_F(PanelTest, NothingOpensWhileAnEntryIsCarriedOut) {
-  MenuPanelState = 400;
+  Panel.MenuPanelState = 400;
   PanelPointerOnStage(MoveOnStage());
-  EXPECT_EQ(MenuPanelState, 400);
+  EXPECT_EQ(Panel.MenuPanelState, 400);
   EXPECT_EQ(TopDialog(), nullptr);
-  MenuPanelState = 0;
+  Panel.MenuPanelState = 0;
 }
 
 TEST_F(PanelTest, TheCharacterTurnsToItsMenuFrameWhenItHasOne) {
-  MenuFrame = 3;
+  Character.MenuFrame = 3;
   Open({[] {
-    EXPECT_EQ(CharaMotion, kMotionMenu);
-    EXPECT_EQ(CharaFrame, 3);
+    EXPECT_EQ(Motion.CharaMotion, kMotionMenu);
+    EXPECT_EQ(Stage.CharaFrame, 3);
     EXPECT_EQ(sentCommands, (std::vector<Sent>{{2293, 1}}));
     Escape();
   }});
@@ -73,7 +79,7 @@ TEST_F(PanelTest, TheCharacterTurnsToItsMenuFrameWhenItHasOne) {
 
 TEST_F(PanelTest, WithoutAMenuFrameTheCharacterStays) {
   Open({[] {
-    EXPECT_EQ(CharaMotion, kMotionIdle);
+    EXPECT_EQ(Motion.CharaMotion, kMotionIdle);
     EXPECT_TRUE(sentCommands.empty());
     Escape();
   }});
@@ -85,10 +91,10 @@ void ExpectPanelAt(int left, int top, int right, int bottom) {
   EXPECT_EQ(rect.top, top);
   EXPECT_EQ(rect.right, right);
   EXPECT_EQ(rect.bottom, bottom);
-  EXPECT_EQ(MenuPanelRect.left, left);
-  EXPECT_EQ(MenuPanelRect.top, top);
-  EXPECT_EQ(MenuPanelRect.right, right);
-  EXPECT_EQ(MenuPanelRect.bottom, bottom);
+  EXPECT_EQ(Panel.MenuPanelRect.left, left);
+  EXPECT_EQ(Panel.MenuPanelRect.top, top);
+  EXPECT_EQ(Panel.MenuPanelRect.right, right);
+  EXPECT_EQ(Panel.MenuPanelRect.bottom, bottom);
 }
 
 TEST_F(PanelTest, StageOnTheLeftHasThePanelOnItsRight) {
@@ -100,7 +106,7 @@ TEST_F(PanelTest, StageOnTheLeftHasThePanelOnItsRight) {
 }
 
 TEST_F(PanelTest, OnAStageAtTheRightEdgeThePanelOpensToTheLeftOfTheStage) {
-  StageX = 904;
+  Character.StageX = 904;
   Open({[] {
     ExpectPanelAt(704, 50, 904, 250);
     Escape();
@@ -108,12 +114,12 @@ TEST_F(PanelTest, OnAStageAtTheRightEdgeThePanelOpensToTheLeftOfTheStage) {
 }
 
 TEST_F(PanelTest, TheMiddleOfTheScreenCountsAsRight) {
-  StageX = 512 - 60;  // half the screen is not more than the stage's middle
+  Character.StageX = 512 - 60;  // half the screen is not more than the stage's middle
   Open({[] {
     EXPECT_EQ(WindowRect(TopDialog()).left, 452 - 200);
     Escape();
   }});
-  StageX = 511 - 60;
+  Character.StageX = 511 - 60;
   Open({[] {
     EXPECT_EQ(WindowRect(TopDialog()).left, 451 + 120 - 50);
     Escape();
@@ -121,17 +127,17 @@ TEST_F(PanelTest, TheMiddleOfTheScreenCountsAsRight) {
 }
 
 TEST_F(PanelTest, OnAStageAtTheBottomThePanelIsPushedUp) {
-  StageY = 700;
+  Character.StageY = 700;
   Open({[] {
     ExpectPanelAt(170, 568, 370, 768);
     Escape();
   }});
-  StageY = 568;  // just at the edge: the same place by either rule
+  Character.StageY = 568;  // just at the edge: the same place by either rule
   Open({[] {
     ExpectPanelAt(170, 568, 370, 768);
     Escape();
   }});
-  StageY = 567;
+  Character.StageY = 567;
   Open({[] {
     ExpectPanelAt(170, 567, 370, 767);
     Escape();
@@ -139,7 +145,7 @@ TEST_F(PanelTest, OnAStageAtTheBottomThePanelIsPushedUp) {
 }
 
 TEST_F(PanelTest, ASubLevelIsPlacedByItsOwnHeight) {
-  StageY = 700;
+  Character.StageY = 700;
   OpenLevel(1902, {[] {
               ExpectPanelAt(170, 688, 370, 768);
               Escape();
@@ -149,40 +155,40 @@ TEST_F(PanelTest, ASubLevelIsPlacedByItsOwnHeight) {
 // --- Closing by the tick
 
 TEST_F(PanelTest, MovingOverTheStageAndAwayWithoutEnteringClosesThePanelAfterFortyTicks) {
-  TimerStart(hMainWnd, kTickTimer, kTickMilliseconds);
+  TimerStart(Program.hMainWnd, kTickTimer, kTickMilliseconds);
   SetPointer(900, 700);
   Open({[] { Tick(39); },
         [] {
-          EXPECT_EQ(hDiskMenu, TopDialog());
-          EXPECT_EQ(MenuCloseCount, 1);
+          EXPECT_EQ(Panel.hDiskMenu, TopDialog());
+          EXPECT_EQ(Panel.MenuCloseCount, 1);
           Tick(1);
-          EXPECT_EQ(hDiskMenu, nullptr);
-          EXPECT_EQ(MenuPanelState, 0);
+          EXPECT_EQ(Panel.hDiskMenu, nullptr);
+          EXPECT_EQ(Panel.MenuPanelState, 0);
         }});
-  TimerStop(hMainWnd, kTickTimer);
+  TimerStop(Program.hMainWnd, kTickTimer);
 }
 
 TEST_F(PanelTest, ThePointerOnTheStageKeepsThePanel) {
-  TimerStart(hMainWnd, kTickTimer, kTickMilliseconds);
+  TimerStart(Program.hMainWnd, kTickTimer, kTickMilliseconds);
   Open({[] {
     Tick(39);
-    Mouse(hMainWnd, EventKind::MouseMove, 5, 5);  // the stage hears it, though it owns the panel
-    EXPECT_EQ(MenuCloseCount, 40);
+    Mouse(Program.hMainWnd, EventKind::MouseMove, 5, 5);  // the stage hears it, though it owns the panel
+    EXPECT_EQ(Panel.MenuCloseCount, 40);
     Tick(39);
-    EXPECT_EQ(hDiskMenu, TopDialog());
+    EXPECT_EQ(Panel.hDiskMenu, TopDialog());
     Tick(1);
-    EXPECT_EQ(hDiskMenu, nullptr);
+    EXPECT_EQ(Panel.hDiskMenu, nullptr);
   }});
-  TimerStop(hMainWnd, kTickTimer);
+  TimerStop(Program.hMainWnd, kTickTimer);
 }
 
 TEST_F(PanelTest, AfterThePointerHasEnteredOnlyLeavingTheRectangleCloses) {
-  TimerStart(hMainWnd, kTickTimer, kTickMilliseconds);
+  TimerStart(Program.hMainWnd, kTickTimer, kTickMilliseconds);
   Open({[] {
           MoveTo(2);
           Tick(500);
-          EXPECT_EQ(hDiskMenu, TopDialog());
-          EXPECT_EQ(MenuCloseCount, kMenuInside);
+          EXPECT_EQ(Panel.hDiskMenu, TopDialog());
+          EXPECT_EQ(Panel.MenuCloseCount, kMenuInside);
         },
         [] {
           // The four corners are inside, what lies beyond them is not.
@@ -190,38 +196,38 @@ TEST_F(PanelTest, AfterThePointerHasEnteredOnlyLeavingTheRectangleCloses) {
           for (const Point& at : inside) {
             SetPointer(at.x, at.y);
             Tick(1);
-            EXPECT_EQ(hDiskMenu, TopDialog());
+            EXPECT_EQ(Panel.hDiskMenu, TopDialog());
           }
           SetPointer(370, 100);
           Tick(1);
-          EXPECT_EQ(hDiskMenu, nullptr);
-          EXPECT_EQ(MenuPanelState, 0);
+          EXPECT_EQ(Panel.hDiskMenu, nullptr);
+          EXPECT_EQ(Panel.MenuPanelState, 0);
         }});
-  TimerStop(hMainWnd, kTickTimer);
+  TimerStop(Program.hMainWnd, kTickTimer);
 }
 
 TEST_F(PanelTest, ASubLevelIsNotClosedByTheTick) {
-  TimerStart(hMainWnd, kTickTimer, kTickMilliseconds);
+  TimerStart(Program.hMainWnd, kTickTimer, kTickMilliseconds);
   SetPointer(900, 700);
   OpenLevel(1904, {[] {
               Tick(300);
-              EXPECT_EQ(hDiskMenu, TopDialog());
+              EXPECT_EQ(Panel.hDiskMenu, TopDialog());
               MoveTo(1);
               SetPointer(900, 700);
               Tick(300);
-              EXPECT_EQ(hDiskMenu, TopDialog());
+              EXPECT_EQ(Panel.hDiskMenu, TopDialog());
               Escape();
             }});
-  TimerStop(hMainWnd, kTickTimer);
+  TimerStop(Program.hMainWnd, kTickTimer);
 }
 
 TEST_F(PanelTest, APanelThatCannotBeMadeIsForgottenByTheTick) {
   FaultArm(FaultKind::Window, 1);
   PanelPointerOnStage(MoveOnStage());
   FaultClear();
-  EXPECT_EQ(hDiskMenu, nullptr);
+  EXPECT_EQ(Panel.hDiskMenu, nullptr);
   for (int i = 0; i < 40; ++i) MainTick();
-  EXPECT_EQ(MenuPanelState, 0);
+  EXPECT_EQ(Panel.MenuPanelState, 0);
 }
 
 }  // namespace

@@ -4,13 +4,22 @@
 
 #include <vector>
 
-#include "clock_calendar/clicked_day.h"
+#include "clock_calendar/calendar/calendar.h"
+#include "clock_calendar/clock/clock.h"
+#include "filetools/back_up/back_up.h"
+#include "filetools/stepped_work.h"
+#include "mail_music/mail/mail.h"
 #include "platform/dialog.h"
 #include "platform/headless/headless.h"
 #include "platform/window.h"
 #include "resources/ids.h"
+#include "schedule/execution/scl_notice.h"
+#include "schedule/table/table_scroll.h"
+#include "services/dialog_family.h"
+#include "services/file_picker.h"
+#include "services/program.h"
 #include "shell/commands.h"
-#include "shell/shell.h"
+#include "shell/panel.h"
 #include "tests/support/desktop.h"
 
 namespace {
@@ -34,16 +43,16 @@ class PopupsTest : public DesktopTest {
   void SetUp() override {
     DesktopTest::SetUp();
     sentCommands.clear();
-    CalenClickedDay = 0;
-    PopupPoint = {12, 34};
-    hMainWnd = MainWindowCreate({"m", "m", 0, 0, 0, MainProc}, 0, 0, 100, 100);
-    window = DialogOpen(IDD_FlyingBat6, hMainWnd, WindowProc);
+    Calendar.CalenClickedDay = 0;
+    Popups.PopupPoint = {12, 34};
+    Program.hMainWnd = MainWindowCreate({"m", "m", 0, 0, 0, MainProc}, 0, 0, 100, 100);
+    window = DialogOpen(IDD_FlyingBat6, Program.hMainWnd, WindowProc);
     paints = 0;
   }
   void TearDown() override {
-    hSclTableWnd = hPlanWnd = hCalenWnd = hClockWnd = nullptr;
+    SclTable.hSclTableWnd = SclTable.hPlanWnd = Calendar.hCalenWnd = Clock.hClockWnd = nullptr;
     MainWindowDrop();
-    hMainWnd = nullptr;
+    Program.hMainWnd = nullptr;
     DesktopTest::TearDown();
   }
   WindowHandle window = nullptr;
@@ -51,7 +60,7 @@ class PopupsTest : public DesktopTest {
 using Numbers = std::vector<std::uint32_t>;
 
 TEST_F(PopupsTest, WhatIsChosenForALineOfTheScheduleIsSentToTheMainWindow) {
-  hSclTableWnd = window;
+  SclTable.hSclTableWnd = window;
   for (const std::uint32_t entry : {2209U, 2040U, 2210U, 2211U, 2344U, 2345U}) {
     sentCommands.clear();
     ExpectMenu(IDM_SCHEDULE_LINE, entry);
@@ -61,37 +70,37 @@ TEST_F(PopupsTest, WhatIsChosenForALineOfTheScheduleIsSentToTheMainWindow) {
 }
 
 TEST_F(PopupsTest, ThePlanHasTheMenuOfTheSchedule) {
-  hPlanWnd = window;
+  SclTable.hPlanWnd = window;
   ExpectMenu(IDM_SCHEDULE_LINE, 2211);
   CommandSchedulePopup(2039);
   EXPECT_EQ(sentCommands, Numbers{2211});
 }
 
 TEST_F(PopupsTest, WhatIsChosenForADayIsSentAndTheDayStaysClicked) {
-  hCalenWnd = window;
+  Calendar.hCalenWnd = window;
   for (const std::uint32_t entry : {2276U, 2277U, 2278U}) {
     sentCommands.clear();
-    CalenClickedDay = 9;
+    Calendar.CalenClickedDay = 9;
     ExpectMenu(IDM_CALENDAR_DAY, entry);
     CommandCalendarPopup(2279);
     EXPECT_EQ(sentCommands, Numbers{entry});
-    EXPECT_EQ(CalenClickedDay, 9);
+    EXPECT_EQ(Calendar.CalenClickedDay, 9);
     EXPECT_EQ(paints, 0);
   }
 }
 
 TEST_F(PopupsTest, WithNothingChosenTheClickedDayIsClearedAndTheCalendarPainted) {
-  hCalenWnd = window;
-  CalenClickedDay = 9;
+  Calendar.hCalenWnd = window;
+  Calendar.CalenClickedDay = 9;
   ExpectMenu(IDM_CALENDAR_DAY, 0);
   CommandCalendarPopup(2279);
   EXPECT_TRUE(sentCommands.empty());
-  EXPECT_EQ(CalenClickedDay, 0);
+  EXPECT_EQ(Calendar.CalenClickedDay, 0);
   EXPECT_EQ(paints, 1);
 }
 
 TEST_F(PopupsTest, WhatIsChosenOnTheClockIsSent) {
-  hClockWnd = window;
+  Clock.hClockWnd = window;
   for (const std::uint32_t entry : {2330U, 2339U, 1911U}) {
     sentCommands.clear();
     ExpectMenu(IDM_CLOCK, entry);
@@ -102,7 +111,7 @@ TEST_F(PopupsTest, WhatIsChosenOnTheClockIsSent) {
 }
 
 TEST_F(PopupsTest, WithNothingChosenTheClockIsDrawn) {
-  hClockWnd = window;
+  Clock.hClockWnd = window;
   ExpectMenu(IDM_CLOCK, 0);
   CommandClockPopup(2337);
   EXPECT_TRUE(sentCommands.empty());
@@ -110,7 +119,7 @@ TEST_F(PopupsTest, WithNothingChosenTheClockIsDrawn) {
 }
 
 TEST_F(PopupsTest, Command50TakesAPopupAwayThatIsStillUp) {
-  hClockWnd = window;
+  Clock.hClockWnd = window;
   ExpectMenu(IDM_CLOCK, 2330, [] { CommandRoute(50); });
   CommandClockPopup(2337);
   EXPECT_TRUE(sentCommands.empty());
@@ -131,13 +140,15 @@ TEST_F(PopupsTest, WithoutItsWindowNoPopupOpens) {
 TEST_F(PopupsTest, APopupMayOpenOnlyWithNoPanelDialogProgressOrPickerOpen) {
   EXPECT_TRUE(PopupMayOpen());
   for (WindowHandle* handle :
-       {&hDiskMenu, &hMenuDlg, &hToolDlg, &hSubDlg, &hSnryDlg, &hBackUpDlg, &hSearchDlg, &hFilePickDlg}) {
+       {&Panel.hDiskMenu, &Dialogs.hMenuDlg, &Dialogs.hToolDlg, &Dialogs.hSubDlg, &Dialogs.hSnryDlg,
+        &BackUpRun.hBackUpDlg, &Stepped.hSearchDlg, &Picker.hFilePickDlg}) {
     *handle = window;
     EXPECT_FALSE(PopupMayOpen());
     *handle = nullptr;
   }
   // Modeless feature windows do not matter.
-  for (WindowHandle* handle : {&hClockWnd, &hCalenWnd, &hMailNoticeWnd, &hSclNoticeWnd, &hSclTableWnd}) {
+  for (WindowHandle* handle : {&Clock.hClockWnd, &Calendar.hCalenWnd, &Mail.hMailNoticeWnd,
+                               &Notices.hSclNoticeWnd, &SclTable.hSclTableWnd}) {
     *handle = window;
     EXPECT_TRUE(PopupMayOpen());
     *handle = nullptr;

@@ -9,15 +9,16 @@
 #include <set>
 
 #include "character/character.h"
-#include "clock_calendar/calendar.h"
-#include "clock_calendar/clock.h"
+#include "character/character_tables.h"
+#include "clock_calendar/calendar/calendar.h"
+#include "clock_calendar/clock/clock.h"
 #include "platform/posix/faults.h"
 #include "platform/posix/posix_paths.h"
-#include "schedule/schedule.h"
-#include "shell/big_endian.h"
-#include "shell/data_file.h"
-#include "shell/shell.h"
-#include "shell/text.h"
+#include "schedule/model/schedule.h"
+#include "services/big_endian.h"
+#include "services/data_file.h"
+#include "services/program.h"
+#include "services/text.h"
 #include "tests/support/failing_writes.h"
 #include "tests/support/records.h"
 
@@ -37,58 +38,58 @@ struct Row {
   int count;  // elements
 };
 const Row kRows[] = {
-    {"CharaIndex", 20, Kind::Number, &CharaIndex, 4, 1},
-    {"MenuFrame", 24, Kind::Number, &MenuFrame, 4, 1},
-    {"BlinkFrame", 28, Kind::Number, &BlinkFrame, 4, 1},
-    {"Bored1Frames", 32, Kind::Number, Bored1Frames, 4, 5},
-    {"Bored2Frames", 52, Kind::Number, Bored2Frames, 4, 5},
-    {"BoredDelaySel", 72, Kind::Number, &BoredDelaySel, 4, 1},
-    {"BoredSpeedSel", 76, Kind::Number, &BoredSpeedSel, 4, 1},
-    {"BoredRepeatSel", 80, Kind::Number, &BoredRepeatSel, 4, 1},
-    {"StageX", 84, Kind::Number, &StageX, 4, 1},
-    {"StageY", 88, Kind::Number, &StageY, 4, 1},
-    {"AlarmCharaSel", 92, Kind::Number, AlarmCharaSel, 4, 3},
-    {"CharaSet", 104, Kind::Block, CharaSet, 676, 1},
-    {"ClockStrikeMode", 780, Kind::Number, &ClockStrikeMode, 4, 1},
-    {"ClockStrikeSel", 784, Kind::Number, &ClockStrikeSel, 4, 1},
-    {"ClockSoundOn", 788, Kind::Number, &ClockSoundOn, 4, 1},
-    {"ClockSoundName", 792, Kind::Text, ClockSoundName, 300, 1},
-    {"ClockShow", 1092, Kind::Byte, &ClockShow, 1, 1},
-    {"ClockDesign", 1093, Kind::Byte, &ClockDesign, 1, 1},
-    {"ClockX", 1094, Kind::Number, &ClockX, 4, 1},
-    {"ClockY", 1098, Kind::Number, &ClockY, 4, 1},
-    {"reserved", 1102, Kind::Number, ClockReserved, 4, 3},
-    {"CalenSel", 1114, Kind::Number, &CalenSel, 4, 1},
-    {"CalenNames", 1118, Kind::Text, CalenNames, 129, 8},
-    {"CalenKinds", 2150, Kind::Block, CalenKinds, 1, 8},
-    {"CalenParts", 2158, Kind::Block, CalenParts, 1, 8},
-    {"CalenYears", 2166, Kind::Block, CalenYears, 1, 3},
-    {"CalenShow", 2169, Kind::Byte, &CalenShow, 1, 1},
-    {"CalenYearPos", 2170, Kind::Number, &CalenYearPos, 4, 1},
-    {"CalenFirstYear", 2174, Kind::Number, &CalenFirstYear, 4, 1},
-    {"CalenYearCount", 2178, Kind::Number, &CalenYearCount, 4, 1},
-    {"CalenCount", 2182, Kind::Number, &CalenCount, 4, 1},
-    {"CalenKind", 2186, Kind::Number, &CalenKind, 4, 1},
-    {"CalenMonths", 2190, Kind::Block, CalenMonths, 4672, 36},
-    {"CalenX", 170382, Kind::Number, &CalenX, 4, 1},
-    {"CalenY", 170386, Kind::Number, &CalenY, 4, 1},
-    {"CalenPageSize", 170390, Kind::Number, &CalenPageSize, 4, 1},
-    {"CalenNoteMode", 170394, Kind::Number, &CalenNoteMode, 4, 1},
-    {"CalenNearNote", 170398, Kind::Number, &CalenNearNote, 4, 1},
-    {"CalenPictureOn", 170402, Kind::Number, &CalenPictureOn, 4, 1},
-    {"CalenBackColour", 170406, Kind::Block, CalenBackColour, 4, 1},
-    {"CalenFigPhase", 170410, Kind::Block, CalenFigPhase, 30, 2},
-    {"CalenFigCount", 170470, Kind::Block, CalenFigCount, 1, 2},
-    {"CalenFigPos1", 170472, Kind::Number, CalenFigPos1, 4, 60},
-    {"CalenFigPos2", 170712, Kind::Number, CalenFigPos2, 4, 60},
-    {"CalenFigPeriod", 170952, Kind::Number, CalenFigPeriod, 4, 2},
-    {"CalenFigStep", 170960, Kind::Number, CalenFigStep, 4, 2},
-    {"CalenFigTurn", 170968, Kind::Number, CalenFigTurn, 4, 2},
-    {"CalenFigDir", 170976, Kind::Block, CalenFigDir, 30, 2},
-    {"DefaultSclName", 171036, Kind::Text, DefaultSclName, 600, 1},
-    {"CalenMonthFlags", 171636, Kind::Block, CalenMonthFlags, 10, 36},
-    {"ClockEvents", 171996, Kind::Block, ClockEvents, 144, 5},
-    {"BlinkSpeedSel", 172716, Kind::Number, &BlinkSpeedSel, 4, 1},
+    {"CharaIndex", 20, Kind::Number, &Character.CharaIndex, 4, 1},
+    {"MenuFrame", 24, Kind::Number, &Character.MenuFrame, 4, 1},
+    {"BlinkFrame", 28, Kind::Number, &Character.BlinkFrame, 4, 1},
+    {"Bored1Frames", 32, Kind::Number, Character.Bored1Frames, 4, 5},
+    {"Bored2Frames", 52, Kind::Number, Character.Bored2Frames, 4, 5},
+    {"BoredDelaySel", 72, Kind::Number, &Character.BoredDelaySel, 4, 1},
+    {"BoredSpeedSel", 76, Kind::Number, &Character.BoredSpeedSel, 4, 1},
+    {"BoredRepeatSel", 80, Kind::Number, &Character.BoredRepeatSel, 4, 1},
+    {"StageX", 84, Kind::Number, &Character.StageX, 4, 1},
+    {"StageY", 88, Kind::Number, &Character.StageY, 4, 1},
+    {"AlarmCharaSel", 92, Kind::Number, Character.AlarmCharaSel, 4, 3},
+    {"CharaSet", 104, Kind::Block, Character.CharaSet, 676, 1},
+    {"ClockStrikeMode", 780, Kind::Number, &Clock.ClockStrikeMode, 4, 1},
+    {"ClockStrikeSel", 784, Kind::Number, &Clock.ClockStrikeSel, 4, 1},
+    {"ClockSoundOn", 788, Kind::Number, &Clock.ClockSoundOn, 4, 1},
+    {"ClockSoundName", 792, Kind::Text, Clock.ClockSoundName, 300, 1},
+    {"ClockShow", 1092, Kind::Byte, &Clock.ClockShow, 1, 1},
+    {"ClockDesign", 1093, Kind::Byte, &Clock.ClockDesign, 1, 1},
+    {"ClockX", 1094, Kind::Number, &Clock.ClockX, 4, 1},
+    {"ClockY", 1098, Kind::Number, &Clock.ClockY, 4, 1},
+    {"reserved", 1102, Kind::Number, Clock.ClockReserved, 4, 3},
+    {"CalenSel", 1114, Kind::Number, &Calendar.CalenSel, 4, 1},
+    {"CalenNames", 1118, Kind::Text, Calendar.CalenNames, 129, 8},
+    {"CalenKinds", 2150, Kind::Block, Calendar.CalenKinds, 1, 8},
+    {"CalenParts", 2158, Kind::Block, Calendar.CalenParts, 1, 8},
+    {"CalenYears", 2166, Kind::Block, Calendar.CalenYears, 1, 3},
+    {"CalenShow", 2169, Kind::Byte, &Calendar.CalenShow, 1, 1},
+    {"CalenYearPos", 2170, Kind::Number, &Calendar.CalenYearPos, 4, 1},
+    {"CalenFirstYear", 2174, Kind::Number, &Calendar.CalenFirstYear, 4, 1},
+    {"CalenYearCount", 2178, Kind::Number, &Calendar.CalenYearCount, 4, 1},
+    {"CalenCount", 2182, Kind::Number, &Calendar.CalenCount, 4, 1},
+    {"CalenKind", 2186, Kind::Number, &Calendar.CalenKind, 4, 1},
+    {"CalenMonths", 2190, Kind::Block, Calendar.CalenMonths, 4672, 36},
+    {"CalenX", 170382, Kind::Number, &Calendar.CalenX, 4, 1},
+    {"CalenY", 170386, Kind::Number, &Calendar.CalenY, 4, 1},
+    {"CalenPageSize", 170390, Kind::Number, &Calendar.CalenPageSize, 4, 1},
+    {"CalenNoteMode", 170394, Kind::Number, &Calendar.CalenNoteMode, 4, 1},
+    {"CalenNearNote", 170398, Kind::Number, &Calendar.CalenNearNote, 4, 1},
+    {"CalenPictureOn", 170402, Kind::Number, &Calendar.CalenPictureOn, 4, 1},
+    {"CalenBackColour", 170406, Kind::Block, Calendar.CalenBackColour, 4, 1},
+    {"CalenFigPhase", 170410, Kind::Block, Calendar.CalenFigPhase, 30, 2},
+    {"CalenFigCount", 170470, Kind::Block, Calendar.CalenFigCount, 1, 2},
+    {"CalenFigPos1", 170472, Kind::Number, Calendar.CalenFigPos1, 4, 60},
+    {"CalenFigPos2", 170712, Kind::Number, Calendar.CalenFigPos2, 4, 60},
+    {"CalenFigPeriod", 170952, Kind::Number, Calendar.CalenFigPeriod, 4, 2},
+    {"CalenFigStep", 170960, Kind::Number, Calendar.CalenFigStep, 4, 2},
+    {"CalenFigTurn", 170968, Kind::Number, Calendar.CalenFigTurn, 4, 2},
+    {"CalenFigDir", 170976, Kind::Block, Calendar.CalenFigDir, 30, 2},
+    {"DefaultSclName", 171036, Kind::Text, Schedule.DefaultSclName, 600, 1},
+    {"CalenMonthFlags", 171636, Kind::Block, Calendar.CalenMonthFlags, 10, 36},
+    {"ClockEvents", 171996, Kind::Block, Clock.ClockEvents, 144, 5},
+    {"BlinkSpeedSel", 172716, Kind::Number, &Character.BlinkSpeedSel, 4, 1},
 };
 
 // Where the elements begin, and the end.
@@ -220,7 +221,7 @@ TEST_F(SettingsTest, TheMagicHas20BytesAndNoTerminator) {
 TEST_F(SettingsTest, EveryFieldStandsAtItsOffsetAndTheFileHas172720Bytes) {
   const std::string expected = FillDistinct(1);
   EXPECT_EQ(SysFileWrite(), 0);
-  EXPECT_EQ(FileStatus, 0);
+  EXPECT_EQ(FileResult.FileStatus, 0);
   const std::string written = FileBytes(path_);
   ASSERT_EQ(written.size(), static_cast<std::size_t>(kTotal));
   EXPECT_EQ(written.substr(0, 20), kMagic);
@@ -238,7 +239,7 @@ TEST_F(SettingsTest, EveryFieldIsReadBackFromItsOffset) {
   FillDistinct(3);
   EXPECT_EQ(SysFileRead(), 0);
   for (const Row& row : kRows) {
-    if (row.at == &CalenPictureOn) continue;
+    if (row.at == &Calendar.CalenPictureOn) continue;
     EXPECT_EQ(FirstDifference(ImageNow(), image, row.offset, row.offset + row.size * row.count), -1)
         << row.name;
   }
@@ -246,31 +247,31 @@ TEST_F(SettingsTest, EveryFieldIsReadBackFromItsOffset) {
 
 TEST_F(SettingsTest, CalendarsBeyondTheEighthAreNotInTheFile) {
   PutDistinct(4);
-  TextCopy(CalenNames[8], kCalenNameSize, "ninth");
-  CalenKinds[8] = 2;
-  CalenParts[8] = 3;
+  TextCopy(Calendar.CalenNames[8], kCalenNameSize, "ninth");
+  Calendar.CalenKinds[8] = 2;
+  Calendar.CalenParts[8] = 3;
   EXPECT_EQ(SysFileRead(), 0);
-  EXPECT_STREQ(CalenNames[8], "ninth");
-  EXPECT_EQ(CalenKinds[8], 2);
-  EXPECT_EQ(CalenParts[8], 3);
+  EXPECT_STREQ(Calendar.CalenNames[8], "ninth");
+  EXPECT_EQ(Calendar.CalenKinds[8], 2);
+  EXPECT_EQ(Calendar.CalenParts[8], 3);
 }
 
 TEST_F(SettingsTest, AFileOf172716BytesReadsWithSuccessAndBlinkSpeedSelAndCalenPictureOnStayAsTheyWere) {
   std::string image = PutDistinct(5);
   PutBE32(image.data() + 170402, 0);  // the picture switch of the file
   PutFile(path_, image.substr(0, 172716));
-  CalenPictureOn = 0;
-  BlinkSpeedSel = 7;
-  FileStatus = 55;
+  Calendar.CalenPictureOn = 0;
+  Character.BlinkSpeedSel = 7;
+  FileResult.FileStatus = 55;
   EXPECT_EQ(SysFileRead(), 0);
-  EXPECT_EQ(FileStatus, 55);
-  EXPECT_EQ(BlinkSpeedSel, 7);
-  EXPECT_EQ(CalenPictureOn, 0);
+  EXPECT_EQ(FileResult.FileStatus, 55);
+  EXPECT_EQ(Character.BlinkSpeedSel, 7);
+  EXPECT_EQ(Calendar.CalenPictureOn, 0);
   // The switch that the file holds is the one that stays.
   PutBE32(image.data() + 170402, 9);
   PutFile(path_, image.substr(0, 172716));
   EXPECT_EQ(SysFileRead(), 0);
-  EXPECT_EQ(CalenPictureOn, 9);
+  EXPECT_EQ(Calendar.CalenPictureOn, 9);
 }
 
 TEST_F(SettingsTest, AFileWithItsLastFieldForcesCalenPictureOnTo1) {
@@ -278,7 +279,7 @@ TEST_F(SettingsTest, AFileWithItsLastFieldForcesCalenPictureOnTo1) {
   PutBE32(image.data() + 170402, 0);
   PutFile(path_, image);
   EXPECT_EQ(SysFileRead(), 0);
-  EXPECT_EQ(CalenPictureOn, 1);
+  EXPECT_EQ(Calendar.CalenPictureOn, 1);
 }
 
 TEST_F(SettingsTest, AFileWithAnotherMagicLeavesAllVariablesAsTheyWereAndTheStartGoesOn) {
@@ -288,9 +289,9 @@ TEST_F(SettingsTest, AFileWithAnotherMagicLeavesAllVariablesAsTheyWereAndTheStar
     other[static_cast<std::size_t>(at)] ^= 1;
     PutFile(path_, other);
     const std::string before = FillDistinct(8);
-    FileStatus = 0;
+    FileResult.FileStatus = 0;
     EXPECT_EQ(SysFileRead(), 0);
-    EXPECT_EQ(FileStatus, -2);
+    EXPECT_EQ(FileResult.FileStatus, -2);
     EXPECT_EQ(FirstDifference(ImageNow(), before), -1);
   }
 }
@@ -300,13 +301,13 @@ TEST_F(SettingsTest, AMagicThatEndsEarlyInsideItsBytesIsAnotherMagic) {
   image[19] = '\0';
   PutFile(path_, image);
   EXPECT_EQ(SysFileRead(), 0);
-  EXPECT_EQ(FileStatus, -2);
+  EXPECT_EQ(FileResult.FileStatus, -2);
 }
 
 TEST_F(SettingsTest, AMissingFileGivesMinus1AndLeavesTheVariables) {
   const std::string before = FillDistinct(10);
   EXPECT_EQ(SysFileRead(), -1);
-  EXPECT_EQ(FileStatus, -1);
+  EXPECT_EQ(FileResult.FileStatus, -1);
   EXPECT_EQ(FirstDifference(ImageNow(), before), -1);
 }
 
@@ -315,12 +316,12 @@ TEST_F(SettingsTest, AClockDesignOf255InTheFileReadsAs255NotAsMinus1) {
   image[1093] = '\xFF';
   PutFile(path_, image);
   EXPECT_EQ(SysFileRead(), 0);
-  EXPECT_EQ(ClockDesign, 255);
-  EXPECT_EQ(ClockWanted, 255);
+  EXPECT_EQ(Clock.ClockDesign, 255);
+  EXPECT_EQ(Clock.ClockWanted, 255);
   image[1093] = '\x80';
   PutFile(path_, image);
   EXPECT_EQ(SysFileRead(), 0);
-  EXPECT_EQ(ClockDesign, 128);
+  EXPECT_EQ(Clock.ClockDesign, 128);
 }
 
 TEST_F(SettingsTest, SavingTwiceGivesByteIdenticalFilesIfNothingChanged) {
@@ -330,14 +331,14 @@ TEST_F(SettingsTest, SavingTwiceGivesByteIdenticalFilesIfNothingChanged) {
   EXPECT_EQ(SysFileWrite(), 0);
   EXPECT_EQ(FirstDifference(FileBytes(path_), first), -1);
   EXPECT_EQ(SysFileRead(), 0);
-  CalenPictureOn = static_cast<std::int32_t>(GetBE32(first.data() + 170402));
+  Calendar.CalenPictureOn = static_cast<std::int32_t>(GetBE32(first.data() + 170402));
   EXPECT_EQ(SysFileWrite(), 0);
   EXPECT_EQ(FirstDifference(FileBytes(path_), first), -1);
 }
 
 TEST_F(SettingsTest, TheReservedNumbersKeepTheirValues) {
   PutDistinct(13);
-  std::memset(ClockReserved, 0, sizeof ClockReserved);
+  std::memset(Clock.ClockReserved, 0, sizeof Clock.ClockReserved);
   const std::string before = FileBytes(path_);
   EXPECT_EQ(SysFileRead(), 0);
   EXPECT_EQ(SysFileWrite(), 0);
@@ -351,7 +352,7 @@ TEST_F(SettingsTest, PowerLossBetweenDeleteAndRewriteLosesTheFileAndTheNextStart
   FaultClear();
   EXPECT_FALSE(FileThere(path_));
   EXPECT_EQ(SysFileRead(), -1);
-  EXPECT_EQ(FileStatus, -1);
+  EXPECT_EQ(FileResult.FileStatus, -1);
 }
 
 TEST_F(SettingsTest, ATextThatFillsItsFieldIsTerminatedAfterTheReading) {
@@ -361,9 +362,9 @@ TEST_F(SettingsTest, ATextThatFillsItsFieldIsTerminatedAfterTheReading) {
   image.replace(171036, 600, std::string(600, 'c'));
   PutFile(path_, image);
   EXPECT_EQ(SysFileRead(), 0);
-  EXPECT_EQ(std::strlen(ClockSoundName), 299U);
-  for (int i = 0; i < 8; ++i) EXPECT_EQ(std::strlen(CalenNames[i]), 128U);
-  EXPECT_EQ(std::strlen(DefaultSclName), 599U);
+  EXPECT_EQ(std::strlen(Clock.ClockSoundName), 299U);
+  for (int i = 0; i < 8; ++i) EXPECT_EQ(std::strlen(Calendar.CalenNames[i]), 128U);
+  EXPECT_EQ(std::strlen(Schedule.DefaultSclName), 599U);
 }
 
 // --- The clock's design is taken again between the reserved numbers and the
@@ -373,20 +374,20 @@ TEST_F(SettingsTest, ATextThatFillsItsFieldIsTerminatedAfterTheReading) {
 constexpr int kLastReservedCall = 34;
 
 TEST_F(SettingsTest, EverySaveActivatesTheClockDesignAfterTheReservedNumbers) {
-  ClockDesignCount = 3;
-  ClockDesigns[2].record[kDesignHand] = kHandBar;
-  ClockDesign = 2;
-  ClockWanted = 0;
+  CharaTables.ClockDesignCount = 3;
+  CharaTables.ClockDesigns[2].record[kDesignHand] = kHandBar;
+  Clock.ClockDesign = 2;
+  Clock.ClockWanted = 0;
   FaultArm(FaultKind::Write, kLastReservedCall);
   EXPECT_EQ(SysFileWrite(), -1);
-  EXPECT_EQ(ClockHandKind, -1);
-  EXPECT_EQ(ClockWanted, 0);
+  EXPECT_EQ(Clock.ClockHandKind, -1);
+  EXPECT_EQ(Clock.ClockWanted, 0);
   FaultArm(FaultKind::Write, kLastReservedCall + 1);
   EXPECT_EQ(SysFileWrite(), -1);
   FaultClear();
-  EXPECT_EQ(ClockHandKind, kHandBar);
-  EXPECT_EQ(ClockWanted, 2);
-  EXPECT_EQ(ClockDesign, 2);
+  EXPECT_EQ(Clock.ClockHandKind, kHandBar);
+  EXPECT_EQ(Clock.ClockWanted, 2);
+  EXPECT_EQ(Clock.ClockDesign, 2);
   EXPECT_EQ(SysFileWrite(), 0);
   EXPECT_EQ(FileBytes(path_)[1093], 2);
 }
@@ -396,21 +397,21 @@ TEST_F(SettingsTest, EveryReadActivatesTheClockDesignAtTheSamePlaceAndTakesTheWa
   image[1092] = 1;
   image[1093] = 1;
   PutFile(path_, image);
-  ClockDesignCount = 2;
-  ClockDesigns[1].record[kDesignHand] = kHandDot;
-  ClockShowWanted = 0;
-  ClockWanted = 0;
+  CharaTables.ClockDesignCount = 2;
+  CharaTables.ClockDesigns[1].record[kDesignHand] = kHandDot;
+  Clock.ClockShowWanted = 0;
+  Clock.ClockWanted = 0;
   FaultArm(FaultKind::Read, kLastReservedCall);
   EXPECT_EQ(SysFileRead(), -1);
-  EXPECT_EQ(ClockShowWanted, 0);
-  EXPECT_EQ(ClockHandKind, -1);
+  EXPECT_EQ(Clock.ClockShowWanted, 0);
+  EXPECT_EQ(Clock.ClockHandKind, -1);
   FaultArm(FaultKind::Read, kLastReservedCall + 1);
   EXPECT_EQ(SysFileRead(), -1);
   FaultClear();
-  EXPECT_EQ(ClockShowWanted, 1);
-  EXPECT_EQ(ClockWanted, 1);
-  EXPECT_EQ(ClockDesign, 1);
-  EXPECT_EQ(ClockHandKind, kHandDot);
+  EXPECT_EQ(Clock.ClockShowWanted, 1);
+  EXPECT_EQ(Clock.ClockWanted, 1);
+  EXPECT_EQ(Clock.ClockDesign, 1);
+  EXPECT_EQ(Clock.ClockHandKind, kHandDot);
 }
 
 // --- Under attack.
@@ -430,10 +431,10 @@ TEST_F(SettingsTest, EveryTruncationIsToldAndKeepsWhatTheFileDidNotReach) {
   for (const int size : sizes) {
     Cut(size);
     TakeImage(before);
-    FileStatus = 0;
+    FileResult.FileStatus = 0;
     const int result = SysFileRead();
     ASSERT_EQ(result, size >= 172716 ? 0 : -1) << size;
-    ASSERT_EQ(FileStatus, size >= 172716 ? 0 : -2) << size;
+    ASSERT_EQ(FileResult.FileStatus, size >= 172716 ? 0 : -2) << size;
     ImageNow(now);
     for (const Row& row : kRows) {
       const int whole = size <= row.offset ? 0 : std::min((size - row.offset) / row.size, row.count);
@@ -466,14 +467,15 @@ int MutationRounds(const std::string& native, const std::string& image, int roun
     if (round % 8 != 0) {
       EXPECT_EQ(pwrite(file, image.data(), 20, 0), 20);
     }
-    FileStatus = 0;
+    FileResult.FileStatus = 0;
     const int result = SysFileRead();
-    EXPECT_TRUE((result == 0 && (FileStatus == 0 || FileStatus == -2)) || (result == -1 && FileStatus == -2))
+    EXPECT_TRUE((result == 0 && (FileResult.FileStatus == 0 || FileResult.FileStatus == -2)) ||
+                (result == -1 && FileResult.FileStatus == -2))
         << round;
-    if (result == 0 && FileStatus == 0) ++whole;
-    EXPECT_EQ(ClockSoundName[299], '\0') << round;
-    EXPECT_EQ(DefaultSclName[599], '\0') << round;
-    EXPECT_TRUE(ClockDesign >= 0 && ClockDesign <= 255) << round;
+    if (result == 0 && FileResult.FileStatus == 0) ++whole;
+    EXPECT_EQ(Clock.ClockSoundName[299], '\0') << round;
+    EXPECT_EQ(Schedule.DefaultSclName[599], '\0') << round;
+    EXPECT_TRUE(Clock.ClockDesign >= 0 && Clock.ClockDesign <= 255) << round;
     for (const unsigned place : places) EXPECT_EQ(pwrite(file, &image[place], 1, place), 1);
   }
   close(file);
@@ -504,9 +506,9 @@ TEST_F(SettingsTest, EveryReadCallThatFailsGivesMinus1ButTheLast) {
   const int reads = static_cast<int>(Boundaries().size()) - 1;
   for (int nth = 1; nth <= reads; ++nth) {
     FaultArm(FaultKind::Read, nth);
-    FileStatus = 0;
+    FileResult.FileStatus = 0;
     EXPECT_EQ(SysFileRead(), nth == reads ? 0 : -1) << nth;
-    EXPECT_EQ(FileStatus, nth == reads ? 0 : -2) << nth;
+    EXPECT_EQ(FileResult.FileStatus, nth == reads ? 0 : -2) << nth;
     EXPECT_TRUE(FaultWasMet()) << nth;
   }
   FaultArm(FaultKind::Read, reads + 1);
@@ -521,20 +523,20 @@ TEST_F(SettingsTest, AFileThatDoesNotOpenForTheTestIsMadeAnewAndOneThatDoesNotRe
   EXPECT_EQ(FirstDifference(FileBytes(path_), image), -1);
   FaultArm(FaultKind::Open, 2);
   EXPECT_EQ(SysFileWrite(), -1);
-  EXPECT_EQ(FileStatus, -1);
+  EXPECT_EQ(FileResult.FileStatus, -1);
   FaultArm(FaultKind::Open, 3);
   EXPECT_EQ(SysFileWrite(), 0);
-  EXPECT_EQ(FileStatus, 0);
+  EXPECT_EQ(FileResult.FileStatus, 0);
   EXPECT_FALSE(FaultWasMet());
   FaultArm(FaultKind::Open, 1);
   EXPECT_EQ(SysFileRead(), -1);
-  EXPECT_EQ(FileStatus, -1);
+  EXPECT_EQ(FileResult.FileStatus, -1);
 }
 
 TEST_F(SettingsTest, AFileThatCannotBeCreatedGivesMinus1AndFileStatusMinus1) {
   FaultArm(FaultKind::Create, 1);
   EXPECT_EQ(SysFileWrite(), -1);
-  EXPECT_EQ(FileStatus, -1);
+  EXPECT_EQ(FileResult.FileStatus, -1);
   FaultArm(FaultKind::Create, 2);
   EXPECT_EQ(SysFileWrite(), 0);
   EXPECT_FALSE(FaultWasMet());

@@ -1,5 +1,7 @@
 // What the pointer on the stage does to the tables' scrolling.
-#include "schedule/table_scroll.h"
+#include "schedule/table/table_scroll.h"
+#include "services/program.h"
+#include "shell/panel.h"
 #include "tests/shell/panel_fixture.h"
 
 namespace {
@@ -8,36 +10,36 @@ class StagePointerTest : public PanelTest {
  protected:
   void SetUp() override {
     PanelTest::SetUp();
-    MenuPanelState = 2;
-    TableScrollDirection = ScrollDirection::Down;
-    AutoScrollDelay = 4;
+    Panel.MenuPanelState = 2;
+    SclTable.TableScrollDirection = ScrollDirection::Down;
+    SclTable.AutoScrollDelay = 4;
   }
   void TearDown() override {
-    MenuPanelState = 0;
+    Panel.MenuPanelState = 0;
     TableScrollStop();
     PanelTest::TearDown();
   }
 };
 
 TEST_F(StagePointerTest, WithTheFocusAndNoButtonAllScrollingStops) {
-  WindowSetFocus(hMainWnd);
+  WindowSetFocus(Program.hMainWnd);
   PanelPointerOnStage(MoveOnStage());
-  EXPECT_EQ(TableScrollDirection, ScrollDirection::None);
-  EXPECT_EQ(AutoScrollDelay, 0);
+  EXPECT_EQ(SclTable.TableScrollDirection, ScrollDirection::None);
+  EXPECT_EQ(SclTable.AutoScrollDelay, 0);
 }
 
 TEST_F(StagePointerTest, WithTheFocusAndTheButtonHeldScrollingGoesOn) {
-  WindowSetFocus(hMainWnd);
+  WindowSetFocus(Program.hMainWnd);
   PanelPointerOnStage(MoveOnStage(kLeftHeld));
-  EXPECT_EQ(TableScrollDirection, ScrollDirection::Down);
-  EXPECT_EQ(AutoScrollDelay, 4);
+  EXPECT_EQ(SclTable.TableScrollDirection, ScrollDirection::Down);
+  EXPECT_EQ(SclTable.AutoScrollDelay, 4);
 }
 
 TEST_F(StagePointerTest, WithoutTheFocusOnlyTheDirectionIsCleared) {
   WindowSetFocus(nullptr);
   PanelPointerOnStage(MoveOnStage());
-  EXPECT_EQ(TableScrollDirection, ScrollDirection::None);
-  EXPECT_EQ(AutoScrollDelay, 4);
+  EXPECT_EQ(SclTable.TableScrollDirection, ScrollDirection::None);
+  EXPECT_EQ(SclTable.AutoScrollDelay, 4);
 }
 
 }  // namespace

@@ -7,16 +7,24 @@
 #include "character/character.h"
 #include "character/character_file.h"
 #include "character/character_tables.h"
+#include "character/notice_window.h"
 #include "character/options.h"
 #include "character/stage.h"
-#include "clock_calendar/calendar.h"
-#include "clock_calendar/clock.h"
+#include "clock_calendar/calendar/calendar.h"
+#include "clock_calendar/clock/clock.h"
+#include "mail_music/mail/mail.h"
 #include "platform/canvas.h"
 #include "platform/posix/faults.h"
 #include "platform/window.h"
+#include "services/dialog_family.h"
+#include "services/drawing_objects.h"
+#include "services/file_picker.h"
+#include "services/program.h"
+#include "services/screen_figures.h"
+#include "services/today.h"
+#include "services/work_blocks.h"
 #include "shell/entry.h"
 #include "shell/settings.h"
-#include "shell/shell.h"
 #include "shell/tick.h"
 #include "tests/character/chara_files.h"
 #include "tests/support/program.h"
@@ -28,19 +36,19 @@ using Words = std::vector<std::string>;
 class StartTest : public ProgramTest {};
 
 TEST_F(StartTest, WithNoSystemFileTheStageComesUpAtTheDefaultPlaceAndTheTimerRuns) {
-  ClockShow = 1;
-  CalenShow = 1;
+  Clock.ClockShow = 1;
+  Calendar.CalenShow = 1;
   StartProgram();
-  const Rect place = WindowRect(hMainWnd);
+  const Rect place = WindowRect(Program.hMainWnd);
   EXPECT_EQ(place.left, 500);
   EXPECT_EQ(place.top, 300);
-  EXPECT_TRUE(IsVisible(hMainWnd));
-  EXPECT_EQ(hClockWnd, nullptr);
-  EXPECT_EQ(hCalenWnd, nullptr);
-  EXPECT_TRUE(TimerIsRunning(hMainWnd, kTickTimer));
-  const std::int32_t before = TickCount;
+  EXPECT_TRUE(IsVisible(Program.hMainWnd));
+  EXPECT_EQ(Clock.hClockWnd, nullptr);
+  EXPECT_EQ(Calendar.hCalenWnd, nullptr);
+  EXPECT_TRUE(TimerIsRunning(Program.hMainWnd, kTickTimer));
+  const std::int32_t before = TickCounts.TickCount;
   Tick(3);
-  EXPECT_EQ(TickCount, before + 3);
+  EXPECT_EQ(TickCounts.TickCount, before + 3);
 }
 
 // A data set whose settings want the clock and an alarm character for the mail, which
@@ -53,12 +61,12 @@ class StartDataTest : public StartTest {
     ASSERT_EQ(CharaFileWrite(), 0);  // alarm characters 6, 8, 9; selections 1, 1, 0
     MakeFolder("C:\\mirrell\\キャラクタ");
     ASSERT_TRUE(PutFile("C:\\mirrell\\キャラクタ\\Chara6_1.bmp", BmpFile(20, 20)));
-    ClockShow = 1;
-    CalenShow = 1;
+    Clock.ClockShow = 1;
+    Calendar.CalenShow = 1;
     ListenToEverything();
   }
   void TearDown() override {
-    for (AlarmRow& row : AlarmRows) AlarmRowFree(&row);
+    for (AlarmRow& row : AlarmImages.AlarmRows) AlarmRowFree(&row);
     StartTest::TearDown();
   }
 };
@@ -66,18 +74,18 @@ class StartDataTest : public StartTest {
 TEST_F(StartDataTest, WithASystemFileTheAlarmImagesAreLoadedAndTheClockIsOpened) {
   ASSERT_EQ(SysFileWrite(), 0);
   StartProgram();
-  EXPECT_NE(AlarmRows[0].pictures[0], nullptr);
-  EXPECT_NE(AlarmRows[1].pictures[0], nullptr);
+  EXPECT_NE(AlarmImages.AlarmRows[0].pictures[0], nullptr);
+  EXPECT_NE(AlarmImages.AlarmRows[1].pictures[0], nullptr);
   EXPECT_EQ(TakeHeard(), Words{"main 2254"});
 }
 
 TEST_F(StartDataTest, WithNoSystemFileThereAreNoAlarmImagesAndNoClock) {
   StartProgram();
-  ASSERT_EQ(AlarmCharaSel[0], 1);
-  ASSERT_EQ(AlarmCharaCount, 3);
-  EXPECT_EQ(AlarmRows[0].pictures[0], nullptr);
+  ASSERT_EQ(Character.AlarmCharaSel[0], 1);
+  ASSERT_EQ(CharaTables.AlarmCharaCount, 3);
+  EXPECT_EQ(AlarmImages.AlarmRows[0].pictures[0], nullptr);
   EXPECT_EQ(TakeHeard(), Words{});
-  EXPECT_EQ(hCalenWnd, nullptr);
+  EXPECT_EQ(Calendar.hCalenWnd, nullptr);
 }
 
 // The settings count as read, so the start goes to its end with the state as it was.
@@ -86,13 +94,13 @@ TEST_F(StartDataTest, SettingsWithAnotherMagicLetTheStartGoOn) {
   std::string file = FileBytes("C:\\mirrell\\mirrell_sys_file.svs");
   file.at(0) = 'm';
   ASSERT_TRUE(PutFile("C:\\mirrell\\mirrell_sys_file.svs", file));
-  StageX = 77;
-  MainCharaCount = 0;
+  Character.StageX = 77;
+  CharaTables.MainCharaCount = 0;
   StartProgram();
-  EXPECT_EQ(StageX, 77);
-  EXPECT_EQ(MainCharaCount, 4);
+  EXPECT_EQ(Character.StageX, 77);
+  EXPECT_EQ(CharaTables.MainCharaCount, 4);
   EXPECT_TRUE(FileThere("C:\\mirrell\\mirrell_apli_list_file.ali"));
-  EXPECT_NE(AlarmRows[0].pictures[0], nullptr);
+  EXPECT_NE(AlarmImages.AlarmRows[0].pictures[0], nullptr);
   EXPECT_EQ(TakeHeard(), Words{"main 2254"});
   EXPECT_EQ(FileBytes("C:\\mirrell\\mirrell_sys_file.svs"), file);
 }
@@ -114,11 +122,11 @@ TEST_F(StartTest, BrushesAndPensAreMadeInOrder) {
   const WindowHandle window = OpenListener();
   DrawingClear();
   Canvas* canvas = CanvasGet(window);
-  for (BrushHandle brush : Brushes) {
+  for (BrushHandle brush : Drawing.Brushes) {
     CanvasBrush(canvas, brush);
     CanvasRectangle(canvas, 0, 0, 9, 9);
   }
-  for (PenHandle pen : Pens) {
+  for (PenHandle pen : Drawing.Pens) {
     CanvasPen(canvas, pen);
     CanvasRectangle(canvas, 0, 0, 9, 9);
   }
@@ -134,7 +142,7 @@ TEST_F(StartTest, BrushesAndPensAreMadeInOrder) {
     EXPECT_EQ(drawn[12 + i].penWidth, kPensInOrder[i].width) << i;
     EXPECT_EQ(drawn[12 + i].pen, kPensInOrder[i].colour) << i;
   }
-  EXPECT_EQ(FaceBrushColour, FaceColour());
+  EXPECT_EQ(Drawing.FaceBrushColour, FaceColour());
   WindowDestroy(window);
   DrawingObjectsDelete();
   EXPECT_EQ(LiveText(DiagnosticsLive()), LiveText(before));
@@ -144,46 +152,46 @@ TEST_F(StartTest, NoTimerShowsTheBoxWithTheNameAsTextAndGoesOn) {
   FaultArm(FaultKind::Timer, 1);
   ExpectBox("ミルレール", "タイマー設定できません");
   StartProgram();
-  EXPECT_FALSE(TimerIsRunning(hMainWnd, kTickTimer));
-  EXPECT_NE(hMainWnd, nullptr);
+  EXPECT_FALSE(TimerIsRunning(Program.hMainWnd, kTickTimer));
+  EXPECT_NE(Program.hMainWnd, nullptr);
   EXPECT_EQ(BoxesShown().at(0).icon, BoxIcon::Exclamation);
 }
 
 TEST_F(StartTest, WorkBlocksFoldersAndDefaultsStandReady) {
   StartProgram();
-  ASSERT_NE(CastBlock, nullptr);
-  ASSERT_NE(ScopeBlock, nullptr);
-  CastBlock[kCastBlockSize - 1] = 1;
-  ScopeBlock[kScopeBlockSize - 1] = 1;
-  EXPECT_STREQ(RootFolder, "C:\\mirrell");
-  EXPECT_STREQ(PickFolder, "C:\\mirrell");
-  for (const auto& folder : PickerStartFolders) EXPECT_STREQ(folder, "C:\\mirrell");
+  ASSERT_NE(WorkBlocks.CastBlock, nullptr);
+  ASSERT_NE(WorkBlocks.ScopeBlock, nullptr);
+  WorkBlocks.CastBlock[kCastBlockSize - 1] = 1;
+  WorkBlocks.ScopeBlock[kScopeBlockSize - 1] = 1;
+  EXPECT_STREQ(Program.RootFolder, "C:\\mirrell");
+  EXPECT_STREQ(Picker.PickFolder, "C:\\mirrell");
+  for (const auto& folder : Picker.PickerStartFolders) EXPECT_STREQ(folder, "C:\\mirrell");
   // 2026-11-21: years from 2000, months and days from 0.
-  EXPECT_EQ(TodayYear, 26);
-  EXPECT_EQ(TodayMonth, 10);
-  EXPECT_EQ(TodayDay, 20);
-  EXPECT_EQ(NoticeX, 400);
-  EXPECT_EQ(NoticeY, 100);
-  EXPECT_EQ(NoticeW, 480);
-  EXPECT_EQ(NoticeH, 300);
-  EXPECT_EQ(StageWidth, 300);
-  EXPECT_EQ(StageHeight, 200);
-  EXPECT_EQ(CharWidth, 8);
-  EXPECT_EQ(LineHeight, 16);
-  EXPECT_EQ(ScreenWidth, 1024);
-  EXPECT_EQ(ScreenHeight, 768);
+  EXPECT_EQ(Today.TodayYear, 26);
+  EXPECT_EQ(Today.TodayMonth, 10);
+  EXPECT_EQ(Today.TodayDay, 20);
+  EXPECT_EQ(NoticePlace.NoticeX, 400);
+  EXPECT_EQ(NoticePlace.NoticeY, 100);
+  EXPECT_EQ(NoticePlace.NoticeW, 480);
+  EXPECT_EQ(NoticePlace.NoticeH, 300);
+  EXPECT_EQ(Stage.StageWidth, 300);
+  EXPECT_EQ(Stage.StageHeight, 200);
+  EXPECT_EQ(Screen.CharWidth, 8);
+  EXPECT_EQ(Screen.LineHeight, 16);
+  EXPECT_EQ(Screen.ScreenWidth, 1024);
+  EXPECT_EQ(Screen.ScreenHeight, 768);
 }
 
 TEST_F(StartTest, SavedSettingsAreTakenAtTheStart) {
-  StageX = 77;
-  StageY = 55;
-  ClockDesign = kClockNone;
+  Character.StageX = 77;
+  Character.StageY = 55;
+  Clock.ClockDesign = kClockNone;
   ASSERT_EQ(SysFileWrite(), 0);
-  StageX = 0;
-  StageY = 0;
+  Character.StageX = 0;
+  Character.StageY = 0;
   StartProgram();
-  EXPECT_EQ(StageX, 77);
-  EXPECT_EQ(StageY, 55);
+  EXPECT_EQ(Character.StageX, 77);
+  EXPECT_EQ(Character.StageY, 55);
 }
 
 TEST_F(StartTest, TheApplicationListFileIsMadeWhenItIsMissing) {
@@ -199,8 +207,8 @@ TEST_F(StartTest, ACommandLineWithoutTheMarkIsConsumedAndHasNoEffect) {
   StartProgram("hello");
   const Words before = FolderNames("C:\\mirrell");
   MainTick();
-  EXPECT_STREQ(PendingCommandLine, "");
-  EXPECT_STREQ(CommandLine, "hello");
+  EXPECT_STREQ(Entry.PendingCommandLine, "");
+  EXPECT_STREQ(Entry.CommandLine, "hello");
   EXPECT_EQ(FolderNames("C:\\mirrell"), before);
 }
 
@@ -221,7 +229,7 @@ TEST_F(StartTest, EveryFaultOfMemoryAtTheStartIsSurvived) {
     StartProgram();
     Ticks(3);
     const bool met = FaultWasMet();
-    SendClose(hMainWnd);
+    SendClose(Program.hMainWnd);
     EXPECT_TRUE(QuitWasAsked());
     TearDown();
     SetUp();
@@ -234,12 +242,12 @@ class ShutdownTest : public ProgramTest {};
 TEST_F(ShutdownTest, CloseGoesThroughDestroyReleasesEverythingAndQuits) {
   const LiveObjects before = DiagnosticsLive();
   StartProgram();
-  SendClose(hMainWnd);
+  SendClose(Program.hMainWnd);
   EXPECT_TRUE(QuitWasAsked());
-  EXPECT_TRUE(WindowIsOpen(hMainWnd)) << "the window itself is never destroyed";
-  EXPECT_FALSE(TimerIsRunning(hMainWnd, kTickTimer));
-  EXPECT_EQ(CastBlock, nullptr);
-  EXPECT_EQ(ScopeBlock, nullptr);
+  EXPECT_TRUE(WindowIsOpen(Program.hMainWnd)) << "the window itself is never destroyed";
+  EXPECT_FALSE(TimerIsRunning(Program.hMainWnd, kTickTimer));
+  EXPECT_EQ(WorkBlocks.CastBlock, nullptr);
+  EXPECT_EQ(WorkBlocks.ScopeBlock, nullptr);
   const LiveObjects after = DiagnosticsLive();
   EXPECT_EQ(after.brushes, before.brushes);
   EXPECT_EQ(after.pens, before.pens);
@@ -249,14 +257,14 @@ TEST_F(ShutdownTest, CloseGoesThroughDestroyReleasesEverythingAndQuits) {
 
 TEST_F(ShutdownTest, ClosingWithFeatureWindowsOpenLeavesNoSavedState) {
   StartProgram();
-  hMailNoticeWnd = OpenListener();
+  Mail.hMailNoticeWnd = OpenListener();
   const Words before = FolderNames("C:\\mirrell");
-  SendClose(hMainWnd);
+  SendClose(Program.hMainWnd);
   EXPECT_TRUE(QuitWasAsked());
   EXPECT_EQ(FolderNames("C:\\mirrell"), before);
   EXPECT_EQ(TakeHeard(), Words{}) << "feature windows end with the process, unasked";
-  EXPECT_TRUE(WindowIsOpen(hMailNoticeWnd));
-  WindowDestroy(hMailNoticeWnd);
+  EXPECT_TRUE(WindowIsOpen(Mail.hMailNoticeWnd));
+  WindowDestroy(Mail.hMailNoticeWnd);
 }
 
 // Every file of the program folder with its content.
@@ -289,12 +297,12 @@ TEST_F(ShutdownTest, ClosingWithATouchedDialogOpenLeavesTheFilesAsTheyWere) {
     const auto before = ProgramFiles();
     bool open = false;
     Then([&] {
-      open = hMenuDlg != nullptr;
+      open = Dialogs.hMenuDlg != nullptr;
       touched.touch();
       EXPECT_EQ(ProgramFiles(), before) << "nothing is confirmed yet";
-      SendClose(hMainWnd);
+      SendClose(Program.hMainWnd);
     });
-    SendCommand(hMainWnd, touched.command);
+    SendCommand(Program.hMainWnd, touched.command);
     EXPECT_TRUE(open) << touched.command;
     EXPECT_TRUE(QuitWasAsked());
     EXPECT_EQ(ProgramFiles(), before) << touched.command;
@@ -307,7 +315,7 @@ TEST_F(ShutdownTest, ClosingWithATouchedDialogOpenLeavesTheFilesAsTheyWere) {
 class ProcessEntryTest : public ProgramTest {};
 
 TEST_F(ProcessEntryTest, ReturnsTheQuitCode) {
-  Then([] { SendClose(hMainWnd); });
+  Then([] { SendClose(Program.hMainWnd); });
   EXPECT_EQ(ProcessEntry("", 1), 0);
 }
 

@@ -8,18 +8,25 @@
 #include "character/character_tables.h"
 #include "character/motion.h"
 #include "character/options.h"
-#include "character/scl_notice.h"
 #include "character/walk.h"
-#include "clock_calendar/clock.h"
-#include "filetools/open_state.h"
-#include "mail_music/mail.h"
+#include "clock_calendar/calendar/calendar.h"
+#include "clock_calendar/clock/clock.h"
+#include "clock_calendar/clock/clock_notice.h"
+#include "filetools/back_up/back_up.h"
+#include "filetools/open/open_state.h"
+#include "filetools/stepped_work.h"
+#include "mail_music/mail/mail.h"
 #include "platform/dialog.h"
 #include "platform/window.h"
 #include "resources/ids.h"
-#include "schedule/table_scroll.h"
+#include "schedule/execution/scl_notice.h"
+#include "schedule/table/table_scroll.h"
+#include "services/dialog_family.h"
+#include "services/five_ticks.h"
+#include "services/program.h"
+#include "services/text.h"
+#include "shell/panel.h"
 #include "shell/settings.h"
-#include "shell/shell.h"
-#include "shell/text.h"
 #include "shell/tick.h"
 #include "tests/support/program.h"
 
@@ -37,16 +44,16 @@ class TickOrderTest : public ProgramTest {
     group_ = std::make_unique<OpnGroupRec>();
   }
   void TearDown() override {
-    for (WalkSlot& slot : WalkSlots) slot = WalkSlot{};
-    WalkActive = WalkEndActive = false;
+    for (WalkSlot& slot : Walk.WalkSlots) slot = WalkSlot{};
+    Walk.WalkActive = Walk.WalkEndActive = false;
     OpnPendingGroup = nullptr;
     for (const WindowHandle window : OpenWindows()) {
-      if (window != hMainWnd && WindowIsOpen(window)) WindowDestroy(window);
+      if (window != Program.hMainWnd && WindowIsOpen(window)) WindowDestroy(window);
     }
     AlarmSlotPut(0, AlarmSlot{});
     ClockAlarmForget();
-    ClockAlarmSlot = -1;
-    BlinkFrame = 0;
+    Clock.ClockAlarmSlot = -1;
+    Character.BlinkFrame = 0;
     ProgramTest::TearDown();
   }
   void GroupPending() {
@@ -66,83 +73,84 @@ class TickOrderTest : public ProgramTest {
   }
   // The next step of the motion shows frame 0 again.
   static void MotionDue() {
-    CharaMotion = kMotionBlink;
-    BlinkDone = true;
-    BoredHold = 0;
-    CharaStepCount = 16;
+    Motion.CharaMotion = kMotionBlink;
+    Motion.BlinkDone = true;
+    Motion.BoredHold = 0;
+    Motion.CharaStepCount = 16;
   }
   static void WalkStepDue(WindowHandle window) {
-    WalkActive = true;
-    WalkSlots[0].active = true;
-    WalkSlots[0].frameCount = 1;
-    WalkSlots[0].WalkLeft = 2;
-    WalkSlots[0].walkWindow = window;
+    Walk.WalkActive = true;
+    Walk.WalkSlots[0].active = true;
+    Walk.WalkSlots[0].frameCount = 1;
+    Walk.WalkSlots[0].WalkLeft = 2;
+    Walk.WalkSlots[0].walkWindow = window;
   }
   static void WalkEndDue(WindowHandle window) {
-    WalkEndActive = true;
-    WalkSlots[1].ending = true;
-    WalkSlots[1].endWait = 1;
-    WalkSlots[1].endWindow = window;
+    Walk.WalkEndActive = true;
+    Walk.WalkSlots[1].ending = true;
+    Walk.WalkSlots[1].endWait = 1;
+    Walk.WalkSlots[1].endWindow = window;
   }
   static void TableScrolls(WindowHandle table) {
-    hSclTableWnd = table;
-    SclTableView.lines = 12;
-    SclTableView.pageLines = 10;
-    SclTableView.scrollBar = ControlCreate(table, ControlKind::VerticalScrollBar, 900, {0, 0, 16, 200}, "");
-    TableScrollDirection = ScrollDirection::Down;
+    SclTable.hSclTableWnd = table;
+    SclTable.SclTableView.lines = 12;
+    SclTable.SclTableView.pageLines = 10;
+    SclTable.SclTableView.scrollBar =
+        ControlCreate(table, ControlKind::VerticalScrollBar, 900, {0, 0, 16, 200}, "");
+    SclTable.TableScrollDirection = ScrollDirection::Down;
   }
   // The character file as a sibling leaves it.
   static void CharacterFileChanges() {
     SetFileTime("C:\\mirrell\\mirrell_chara_file.dcx", 4000000000);
-    FileWatchCount = 200;
+    TickCounts.FileWatchCount = 200;
   }
   std::unique_ptr<OpnGroupRec> group_;
 };
 
 // Everything that can be due at once, in one tick. The listeners stand for the windows.
 TEST_F(TickOrderTest, TheStepsOfATickRunInTheirOrder) {
-  hBackUpDlg = OpenListener("back-up");
-  hSearchDlg = OpenListener("search");
-  hDiskMenu = OpenListener("panel");
-  hClockWnd = OpenListener("clock");
-  hClockNoticeWnd = nullptr;
-  hMailNoticeWnd = OpenListener("mail");
-  hSclNoticeWnd = OpenListener("notice");
+  BackUpRun.hBackUpDlg = OpenListener("back-up");
+  Stepped.hSearchDlg = OpenListener("search");
+  Panel.hDiskMenu = OpenListener("panel");
+  Clock.hClockWnd = OpenListener("clock");
+  ClockNotice.hClockNoticeWnd = nullptr;
+  Mail.hMailNoticeWnd = OpenListener("mail");
+  Notices.hSclNoticeWnd = OpenListener("notice");
   WalkStepDue(OpenListener("walk"));
   WalkEndDue(OpenListener("end"));
   TableScrolls(OpenListener("table"));
   const WindowHandle preview = OpenListener("preview");
-  hCalenWnd = OpenListener("calendar");
+  Calendar.hCalenWnd = OpenListener("calendar");
 
-  BackUpActive = true;
-  progressMode = 1;
-  MenuPanelState = 1;
-  MenuCloseCount = 1;
-  MailCheckOn = true;
-  MailMinuteCount = 0;
-  MailInterval = 10;
+  BackUpRun.BackUpActive = true;
+  Stepped.progressMode = 1;
+  Panel.MenuPanelState = 1;
+  Panel.MenuCloseCount = 1;
+  Mail.MailCheckOn = true;
+  Mail.MailMinuteCount = 0;
+  Mail.MailInterval = 10;
   GroupPending();
-  ClockHour12 = 3;  // the clock has another hour to show
+  Clock.ClockHour12 = 3;  // the clock has another hour to show
   AlarmNow();
   MotionDue();
-  FrameDivider = 1;
+  FiveTicks.FrameDivider = 1;
   CharacterFileChanges();
 
   // The preview plays as long as its dialog is open; its paint goes to the listener.
-  MainCharas[0].blinkFrame = 1;
+  CharaTables.MainCharas[0].blinkFrame = 1;
   Words heard;
   Then([&] {
     for (int i = 0; i < 5; ++i) ASSERT_EQ(MotionPreviewTick(), 0);
-    const WindowHandle dialog = hSubDlg;
-    hSubDlg = preview;
+    const WindowHandle dialog = Dialogs.hSubDlg;
+    Dialogs.hSubDlg = preview;
     TakeHeard();
     ListenToEverything();
     MainTick();
     heard = TakeHeard();
-    hSubDlg = dialog;
+    Dialogs.hSubDlg = dialog;
     SendClose(dialog);
   });
-  MotionPreviewRun(hMainWnd, 0, Preview::Blink);
+  MotionPreviewRun(Program.hMainWnd, 0, Preview::Blink);
 
   std::erase(heard, "panel close");  // what answers 2079 closes the panel
   EXPECT_EQ(heard, (Words{
@@ -168,17 +176,17 @@ TEST_F(TickOrderTest, TheStepsOfATickRunInTheirOrder) {
 
 TEST_F(TickOrderTest, AMatchingAlarmIsSent2336OnceInItsMinute) {
   Ticks(1);
-  hCalenWnd = OpenListener();
+  Calendar.hCalenWnd = OpenListener();
   AlarmNow();
   ListenToEverything();
   Ticks(3);
   EXPECT_EQ(TakeHeard(), Words{"main 2336"});
-  EXPECT_NE(hClockNoticeWnd, nullptr);
+  EXPECT_NE(ClockNotice.hClockNoticeWnd, nullptr);
 }
 
 TEST_F(TickOrderTest, WithNeitherCalendarNorClockNoticeNoAlarmIsLookedFor) {
   Ticks(1);
-  hClockWnd = OpenListener();
+  Clock.hClockWnd = OpenListener();
   AlarmNow();
   ListenToEverything();
   Ticks(1);
@@ -188,9 +196,9 @@ TEST_F(TickOrderTest, WithNeitherCalendarNorClockNoticeNoAlarmIsLookedFor) {
 
 TEST_F(TickOrderTest, TheMailIsAskedForWhenItsCountIsOver) {
   Ticks(1);
-  MailCheckOn = true;
-  MailInterval = 1;
-  MailMinuteCount = 1;
+  Mail.MailCheckOn = true;
+  Mail.MailInterval = 1;
+  Mail.MailMinuteCount = 1;
   ListenToEverything();
   Ticks(5999);
   EXPECT_EQ(TakeHeard(), Words{});
@@ -211,24 +219,24 @@ TEST_F(TickOrderTest, ANewFrameOfTheCharacterIsSent2293) {
 // --- The end of the program from inside a tick
 
 bool EndsTheProgram(const Event& event) {
-  if (event.kind == EventKind::Command && event.command == 2375) SendClose(hMainWnd);
+  if (event.kind == EventKind::Command && event.command == 2375) SendClose(Program.hMainWnd);
   return false;
 }
 
 TEST_F(TickOrderTest, AfterTheShutdownTheRestOfTheTickIsNotRun) {
   Ticks(1);
-  hBackUpDlg = DialogOpen(IDD_FlyingBat4, hMainWnd, EndsTheProgram);
-  BackUpActive = true;
-  hSearchDlg = OpenListener();
-  progressMode = 1;
-  MenuReopenGuard = 5;
+  BackUpRun.hBackUpDlg = DialogOpen(IDD_FlyingBat4, Program.hMainWnd, EndsTheProgram);
+  BackUpRun.BackUpActive = true;
+  Stepped.hSearchDlg = OpenListener();
+  Stepped.progressMode = 1;
+  Panel.MenuReopenGuard = 5;
   CharacterFileChanges();
   ListenToEverything();
   MainTick();
   EXPECT_TRUE(QuitWasAsked());
   EXPECT_EQ(TakeHeard(), Words{});
-  EXPECT_EQ(MenuReopenGuard, 5);
-  EXPECT_EQ(FileWatchCount, 200);
+  EXPECT_EQ(Panel.MenuReopenGuard, 5);
+  EXPECT_EQ(TickCounts.FileWatchCount, 200);
   EXPECT_FALSE(FileThere("C:\\mirrell\\mirrell_sys_file.svs"));
 }
 

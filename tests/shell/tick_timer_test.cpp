@@ -6,14 +6,26 @@
 
 #include "character/motion.h"
 #include "character/walk.h"
-#include "filetools/open_groups.h"
-#include "mail_music/mail.h"
+#include "clock_calendar/calendar/calendar.h"
+#include "clock_calendar/clock/clock.h"
+#include "clock_calendar/clock/clock_notice.h"
+#include "filetools/back_up/back_up.h"
+#include "filetools/open/open_groups.h"
+#include "filetools/stepped_work.h"
+#include "mail_music/mail/mail.h"
+#include "mail_music/music/music.h"
 #include "platform/posix/test_clock.h"
 #include "platform/window.h"
-#include "schedule/application_list.h"
+#include "schedule/applications/application_list.h"
+#include "schedule/execution/scl_notice.h"
+#include "schedule/table/table_scroll.h"
+#include "services/dialog_family.h"
+#include "services/file_picker.h"
+#include "services/five_ticks.h"
+#include "services/program.h"
+#include "services/text.h"
 #include "shell/entry.h"
-#include "shell/shell.h"
-#include "shell/text.h"
+#include "shell/panel.h"
 #include "shell/tick.h"
 #include "tests/support/program.h"
 
@@ -27,15 +39,15 @@ class TickTimerTest : public ProgramTest {
   void SetUp() override {
     ProgramTest::SetUp();
     StartProgram();
-    TickCount = 0;
-    CharaStepCount = 0;
-    FileWatchCount = 0;
+    TickCounts.TickCount = 0;
+    Motion.CharaStepCount = 0;
+    TickCounts.FileWatchCount = 0;
     // In every step there is something to do, and nothing comes of it.
-    CharaMotion = kMotionBored;
-    BoredHold = 100000;
+    Motion.CharaMotion = kMotionBored;
+    Motion.BoredHold = 100000;
   }
 
-  static int Period() { return TimerPeriod(hMainWnd, kTickTimer); }
+  static int Period() { return TimerPeriod(Program.hMainWnd, kTickTimer); }
 
   // The timer fires after its period.
   static void Fire() {
@@ -46,78 +58,78 @@ class TickTimerTest : public ProgramTest {
 
 TEST_F(TickTimerTest, TheFirstTickComesAfter30Milliseconds) {
   EXPECT_EQ(Period(), 30);
-  EXPECT_EQ(TickCount, 0);
+  EXPECT_EQ(TickCounts.TickCount, 0);
 }
 
 TEST_F(TickTimerTest, ACharacterThatOnlyCountsDownIsLeftAloneUntilItsCountIsOver) {
-  CharaMotion = kMotionIdle;
-  BoredLen1 = 1;
-  BoredSec = 5;
-  BoredMin = 3;
-  CharaStepCount = 4;
+  Motion.CharaMotion = kMotionIdle;
+  Motion.BoredLen1 = 1;
+  Motion.BoredSec = 5;
+  Motion.BoredMin = 3;
+  Motion.CharaStepCount = 4;
   // Five steps count the seconds down, the sixth takes a minute.
   EXPECT_EQ(TicksUntilDue(), 6 * kStep - 4);
   Ticks(6 * kStep - 5);
-  EXPECT_EQ(BoredSec, 0);
-  EXPECT_EQ(BoredMin, 3);
+  EXPECT_EQ(Motion.BoredSec, 0);
+  EXPECT_EQ(Motion.BoredMin, 3);
   MainTick();
-  EXPECT_EQ(BoredSec, 60);
-  EXPECT_EQ(BoredMin, 2);
-  BoredLen1 = 0;
-  BoredLen2 = 0;
-  EXPECT_EQ(TicksUntilDue(), kWatch - FileWatchCount) << "a character that does nothing at all";
+  EXPECT_EQ(Motion.BoredSec, 60);
+  EXPECT_EQ(Motion.BoredMin, 2);
+  Motion.BoredLen1 = 0;
+  Motion.BoredLen2 = 0;
+  EXPECT_EQ(TicksUntilDue(), kWatch - TickCounts.FileWatchCount) << "a character that does nothing at all";
 }
 
 TEST_F(TickTimerTest, AMovingCompanionRestsUntilTheCharactersNextStep) {
   Fire();
-  EXPECT_EQ(TickCount, 1);
-  EXPECT_EQ(CharaStepCount, 1);
+  EXPECT_EQ(TickCounts.TickCount, 1);
+  EXPECT_EQ(Motion.CharaStepCount, 1);
   EXPECT_EQ(Period(), (kStep - 1) * 30);
   Fire();
-  EXPECT_EQ(TickCount, kStep);
-  EXPECT_EQ(CharaStepCount, 0) << "the step was made, in its own tick";
+  EXPECT_EQ(TickCounts.TickCount, kStep);
+  EXPECT_EQ(Motion.CharaStepCount, 0) << "the step was made, in its own tick";
   EXPECT_EQ(Period(), kStep * 30);
   Fire();
-  EXPECT_EQ(TickCount, 2 * kStep);
+  EXPECT_EQ(TickCounts.TickCount, 2 * kStep);
 }
 
 TEST_F(TickTimerTest, TheFileWatchEndsARestInItsOwnTick) {
-  FileWatchCount = kWatch - 4;
+  TickCounts.FileWatchCount = kWatch - 4;
   Fire();
   EXPECT_EQ(Period(), 3 * 30);
   Fire();
-  EXPECT_EQ(TickCount, 4);
-  EXPECT_EQ(FileWatchCount, 0);
+  EXPECT_EQ(TickCounts.TickCount, 4);
+  EXPECT_EQ(TickCounts.FileWatchCount, 0);
 }
 
 TEST_F(TickTimerTest, MailCheckingEndsARestWhenItsUnitIsOver) {
-  MailCheckOn = true;
-  MailInterval = 2;
-  MailMinuteCount = 2;
-  MailTickCount = 5995;
+  Mail.MailCheckOn = true;
+  Mail.MailInterval = 2;
+  Mail.MailMinuteCount = 2;
+  Mail.MailTickCount = 5995;
   Fire();
   EXPECT_EQ(Period(), 4 * 30);
   Fire();
-  EXPECT_EQ(TickCount, 5);
-  EXPECT_EQ(MailMinuteCount, 1);
+  EXPECT_EQ(TickCounts.TickCount, 5);
+  EXPECT_EQ(Mail.MailMinuteCount, 1);
 }
 
 TEST_F(TickTimerTest, WhateverReachesTheMainWindowFindsTheTicksThatHavePassed) {
   Fire();
   TestClockPass(7 * 30 + 3);
-  SendCommand(hMainWnd, 47);
-  EXPECT_EQ(TickCount, 8);
-  EXPECT_EQ(CharaStepCount, 8);
+  SendCommand(Program.hMainWnd, 47);
+  EXPECT_EQ(TickCounts.TickCount, 8);
+  EXPECT_EQ(Motion.CharaStepCount, 8);
   EXPECT_EQ(Period(), 30) << "tick by tick again";
   Fire();
-  EXPECT_EQ(TickCount, 9);
+  EXPECT_EQ(TickCounts.TickCount, 9);
   EXPECT_EQ(Period(), (kStep - 9) * 30);
 }
 
 TEST_F(TickTimerTest, AFiringOutOfTurnIsOneTick) {
   Fire();
   TickTimerFired();
-  EXPECT_EQ(TickCount, 2);
+  EXPECT_EQ(TickCounts.TickCount, 2);
   EXPECT_EQ(Period(), (kStep - 2) * 30);
 }
 
@@ -125,14 +137,14 @@ TEST_F(TickTimerTest, ALateTimerMakesUpForNoMoreThanItsRest) {
   Fire();
   TestClockPass(3600 * 1000);
   TickTimerFired();
-  EXPECT_EQ(TickCount, kStep);
+  EXPECT_EQ(TickCounts.TickCount, kStep);
 }
 
 TEST_F(TickTimerTest, TheCommandLineWaitsForTheFirstTick) {
-  TextCopy(PendingCommandLine, sizeof PendingCommandLine, "nothing");
+  TextCopy(Entry.PendingCommandLine, sizeof Entry.PendingCommandLine, "nothing");
   EXPECT_EQ(TicksUntilDue(), 1);
   Fire();
-  EXPECT_EQ(PendingCommandLine[0], '\0');
+  EXPECT_EQ(Entry.PendingCommandLine[0], '\0');
   EXPECT_GT(TicksUntilDue(), 1);
 }
 
@@ -146,30 +158,32 @@ struct Busy {
 TEST_F(TickTimerTest, WorkInTheTickKeepsThePace) {
   static const OpnGroupRec group{};
   const Busy kinds[] = {
-      {"back-up", [] { BackUpActive = true; }, [] { BackUpActive = false; }},
-      {"stepped work", [] { progressMode = 3; }, [] { progressMode = 0; }},
-      {"a started schedule program", [] { ApliStarted = 1; }, [] { ApliStarted = 0; }},
-      {"reopen guard", [] { MenuReopenGuard = 5; }, [] { MenuReopenGuard = 0; }},
-      {"the panel", [] { MenuPanelState = 1; }, [] { MenuPanelState = 0; }},
+      {"back-up", [] { BackUpRun.BackUpActive = true; }, [] { BackUpRun.BackUpActive = false; }},
+      {"stepped work", [] { Stepped.progressMode = 3; }, [] { Stepped.progressMode = 0; }},
+      {"a started schedule program", [] { Applications.ApliStarted = 1; },
+       [] { Applications.ApliStarted = 0; }},
+      {"reopen guard", [] { Panel.MenuReopenGuard = 5; }, [] { Panel.MenuReopenGuard = 0; }},
+      {"the panel", [] { Panel.MenuPanelState = 1; }, [] { Panel.MenuPanelState = 0; }},
       {"a mail's walk is wanted",
        [] {
-         MailCheckOn = true;
-         MailNoticeFlag = 1;
+         Mail.MailCheckOn = true;
+         Mail.MailNoticeFlag = 1;
        },
        [] {
-         MailCheckOn = false;
-         MailNoticeFlag = 0;
+         Mail.MailCheckOn = false;
+         Mail.MailNoticeFlag = 0;
        }},
       {"a mail check is due",
        [] {
-         MailCheckOn = true;
-         MailMinuteCount = 0;
+         Mail.MailCheckOn = true;
+         Mail.MailMinuteCount = 0;
        },
-       [] { MailCheckOn = false; }},
+       [] { Mail.MailCheckOn = false; }},
       {"a pending group", [] { OpnPendingGroup = &group; }, [] { OpnPendingGroup = nullptr; }},
-      {"a walk", [] { WalkActive = true; }, [] { WalkActive = false; }},
-      {"an end phase", [] { WalkEndActive = true; }, [] { WalkEndActive = false; }},
-      {"the menu motion", [] { CharaMotion = kMotionMenu; }, [] { CharaMotion = kMotionBored; }},
+      {"a walk", [] { Walk.WalkActive = true; }, [] { Walk.WalkActive = false; }},
+      {"an end phase", [] { Walk.WalkEndActive = true; }, [] { Walk.WalkEndActive = false; }},
+      {"the menu motion", [] { Motion.CharaMotion = kMotionMenu; },
+       [] { Motion.CharaMotion = kMotionBored; }},
   };
   for (const Busy& kind : kinds) {
     EXPECT_GT(TicksUntilDue(), 1) << kind.what;
@@ -180,38 +194,40 @@ TEST_F(TickTimerTest, WorkInTheTickKeepsThePace) {
 }
 
 TEST_F(TickTimerTest, AnOpenWindowKeepsThePace) {
-  for (WindowHandle* handle : {&hDiskMenu, &hMenuDlg, &hToolDlg, &hSubDlg, &hSnryDlg, &hFilePickDlg,
-                               &hBackUpDlg, &hSearchDlg, &hClockWnd, &hCalenWnd, &hMailNoticeWnd,
-                               &hSclNoticeWnd, &hClockNoticeWnd, &hSclTableWnd, &hPlanWnd, &hBgmWnd}) {
+  for (WindowHandle* handle :
+       {&Panel.hDiskMenu, &Dialogs.hMenuDlg, &Dialogs.hToolDlg, &Dialogs.hSubDlg, &Dialogs.hSnryDlg,
+        &Picker.hFilePickDlg, &BackUpRun.hBackUpDlg, &Stepped.hSearchDlg, &Clock.hClockWnd,
+        &Calendar.hCalenWnd, &Mail.hMailNoticeWnd, &Notices.hSclNoticeWnd, &ClockNotice.hClockNoticeWnd,
+        &SclTable.hSclTableWnd, &SclTable.hPlanWnd, &Music.hBgmWnd}) {
     *handle = OpenListener();
     Fire();
     EXPECT_EQ(Period(), 30);
     const WindowHandle window = *handle;
     *handle = nullptr;
     WindowDestroy(window);
-    CharaStepCount = 0;
-    FileWatchCount = 0;
+    Motion.CharaStepCount = 0;
+    TickCounts.FileWatchCount = 0;
     Fire();
     EXPECT_EQ(Period(), (kStep - 1) * 30);
   }
 }
 
 TEST_F(TickTimerTest, TheDividerThatRunsForNobodyKeepsNobodyAwake) {
-  FrameDivider = 5;
+  FiveTicks.FrameDivider = 5;
   Fire();
   EXPECT_EQ(Period(), (kStep - 1) * 30);
   Fire();
   // 17 ticks from 5: three times round and two more.
-  EXPECT_EQ(FrameDivider, 3);
+  EXPECT_EQ(FiveTicks.FrameDivider, 3);
 }
 
 TEST_F(TickTimerTest, ClosingEndsTheTimerAlsoFromARest) {
   Fire();
-  SendClose(hMainWnd);
-  EXPECT_FALSE(TimerIsRunning(hMainWnd, kTickTimer));
+  SendClose(Program.hMainWnd);
+  EXPECT_FALSE(TimerIsRunning(Program.hMainWnd, kTickTimer));
   TestClockPass(1000);
   TickTimerWake();
-  EXPECT_EQ(TickCount, 1);
+  EXPECT_EQ(TickCounts.TickCount, 1);
 }
 
 // Whatever the counts stand at: the ticks of a rest leave them as as many single
@@ -219,15 +235,15 @@ TEST_F(TickTimerTest, ClosingEndsTheTimerAlsoFromARest) {
 TEST_F(TickTimerTest, TheTicksOfARestAreTheSameTicks) {
   for (int start = 0; start < kStep; ++start) {
     for (const int watch : {0, 100, kWatch - 9, kWatch - 1}) {
-      CharaStepCount = start;
-      FileWatchCount = watch;
+      Motion.CharaStepCount = start;
+      TickCounts.FileWatchCount = watch;
       const int rest = TicksUntilDue();
       EXPECT_EQ(rest, std::min(kStep - start, kWatch - watch));
       Ticks(rest - 1);
-      EXPECT_EQ(CharaStepCount, start + rest - 1);
-      EXPECT_EQ(FileWatchCount, watch + rest - 1);
+      EXPECT_EQ(Motion.CharaStepCount, start + rest - 1);
+      EXPECT_EQ(TickCounts.FileWatchCount, watch + rest - 1);
       MainTick();
-      EXPECT_TRUE(CharaStepCount == 0 || FileWatchCount == 0);
+      EXPECT_TRUE(Motion.CharaStepCount == 0 || TickCounts.FileWatchCount == 0);
     }
   }
 }

@@ -13,8 +13,8 @@
 #include "platform/posix/faults.h"
 #include "platform/posix/posix_paths.h"
 #include "platform/posix/test_clock.h"
-#include "shell/shell.h"
-#include "shell/text.h"
+#include "services/program.h"
+#include "services/text.h"
 
 namespace fs = std::filesystem;
 
@@ -42,7 +42,7 @@ void DesktopTest::SetUp() {
   HeadlessResourceFile(MIRRELL_RES_FILE);
   FaultClear();
   TestClockSet({2026, 11, 21, 6, 9, 30, 15, 0});
-  TextCopy(RootFolder, sizeof RootFolder, "C:\\mirrell");
+  TextCopy(Program.RootFolder, sizeof Program.RootFolder, "C:\\mirrell");
   live_ = DiagnosticsLive();
 }
 

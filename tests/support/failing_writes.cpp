@@ -3,12 +3,12 @@
 #include <gtest/gtest.h>
 
 #include "platform/posix/faults.h"
-#include "shell/data_file.h"
+#include "services/data_file.h"
 
 int FailingWrites(int (*writer)(), int result) {
   for (int nth = 1;; ++nth) {
     FaultArm(FaultKind::Write, nth);
-    FileStatus = 0;
+    FileResult.FileStatus = 0;
     const int given = writer();
     const bool met = FaultWasMet();
     FaultClear();
@@ -17,6 +17,6 @@ int FailingWrites(int (*writer)(), int result) {
       return nth - 1;
     }
     EXPECT_EQ(given, result) << nth;
-    EXPECT_EQ(FileStatus, -2) << nth;
+    EXPECT_EQ(FileResult.FileStatus, -2) << nth;
   }
 }

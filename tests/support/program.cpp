@@ -8,19 +8,30 @@
 #include "character/frames.h"
 #include "character/motion.h"
 #include "character/stage.h"
-#include "clock_calendar/calendar.h"
-#include "clock_calendar/clock.h"
-#include "mail_music/mail.h"
+#include "character/walk.h"
+#include "clock_calendar/calendar/calendar.h"
+#include "clock_calendar/clock/clock.h"
+#include "clock_calendar/clock/clock_notice.h"
+#include "filetools/back_up/back_up.h"
+#include "filetools/open/open_state.h"
+#include "filetools/stepped_work.h"
+#include "mail_music/mail/mail.h"
+#include "mail_music/music/music.h"
 #include "platform/window.h"
 #include "resources/ids.h"
-#include "schedule/application_list.h"
-#include "schedule/table_scroll.h"
-#include "shell/data_file.h"
+#include "schedule/applications/application_list.h"
+#include "schedule/execution/scl_notice.h"
+#include "schedule/table/table_scroll.h"
+#include "services/data_file.h"
+#include "services/dialog_family.h"
+#include "services/file_picker.h"
+#include "services/five_ticks.h"
+#include "services/program.h"
+#include "services/text.h"
 #include "shell/entry.h"
 #include "shell/main_window.h"
-#include "shell/shell.h"
+#include "shell/panel.h"
 #include "shell/shutdown.h"
-#include "shell/text.h"
 #include "shell/tick.h"
 #include "tests/support/test_dialogs.h"
 
@@ -67,49 +78,71 @@ void Zero(Table& table) {
 
 void ShellReset() {
   for (WindowHandle* handle :
-       {&hMainWnd, &hDiskMenu, &hMenuDlg, &hToolDlg, &hSubDlg, &hSnryDlg, &hFilePickDlg, &hBackUpDlg,
-        &hSearchDlg, &hClockWnd, &hCalenWnd, &hMailNoticeWnd, &hSclNoticeWnd, &hClockNoticeWnd, &hSclTableWnd,
-        &hPlanWnd, &hBgmWnd}) {
+       {&Program.hMainWnd, &Panel.hDiskMenu, &Dialogs.hMenuDlg, &Dialogs.hToolDlg, &Dialogs.hSubDlg,
+        &Dialogs.hSnryDlg, &Picker.hFilePickDlg, &BackUpRun.hBackUpDlg, &Stepped.hSearchDlg, &Clock.hClockWnd,
+        &Calendar.hCalenWnd, &Mail.hMailNoticeWnd, &Notices.hSclNoticeWnd, &ClockNotice.hClockNoticeWnd,
+        &SclTable.hSclTableWnd, &SclTable.hPlanWnd, &Music.hBgmWnd}) {
     *handle = nullptr;
   }
-  for (int* id : {&DlgIdMenu, &DlgIdTool, &DlgIdSub, &DlgIdSnry}) *id = 0;
+  for (int* id : {&Dialogs.DlgIdMenu, &Dialogs.DlgIdTool, &Dialogs.DlgIdSub, &Dialogs.DlgIdSnry}) *id = 0;
   for (std::int32_t* counter :
-       {&MenuCloseCount, &MenuReopenGuard, &MailTickCount, &MailMinuteCount, &FrameDivider, &AutoScrollDelay,
-        &GroupOpenDelay, &FileWatchCount, &MenuPanelState, &MenuHiLine, &FuncNo, &progressMode, &stepCounter,
-        &MailNoticeFlag, &MailPhase, &OpeningState, &TickCount, &FileStatus, &MailInterval}) {
+       {&Panel.MenuCloseCount, &Panel.MenuReopenGuard, &Mail.MailTickCount, &Mail.MailMinuteCount,
+        &FiveTicks.FrameDivider, &SclTable.AutoScrollDelay, &GroupRun.GroupOpenDelay,
+        &TickCounts.FileWatchCount, &Panel.MenuPanelState, &Panel.MenuHiLine, &Panel.FuncNo,
+        &Stepped.progressMode, &Stepped.stepCounter, &Mail.MailNoticeFlag, &Mail.MailPhase,
+        &Walk.OpeningState, &TickCounts.TickCount, &FileResult.FileStatus, &Mail.MailInterval}) {
     *counter = 0;
   }
-  BackUpActive = false;
-  Quitting = false;
-  MailCheckOn = false;
-  PendingCommandLine[0] = '\0';
-  CommandLine[0] = '\0';
+  BackUpRun.BackUpActive = false;
+  Program.Quitting = false;
+  Mail.MailCheckOn = false;
+  Entry.PendingCommandLine[0] = '\0';
+  Entry.CommandLine[0] = '\0';
   TableScrollStop();
-  SclTableView = {};
-  PlanView = {};
-  ApliCount = 0;
-  ApliSelected = 0;
-  ApliStarted = 0;
+  SclTable.SclTableView = {};
+  SclTable.PlanView = {};
+  Applications.ApliCount = 0;
+  Applications.ApliSelected = 0;
+  Applications.ApliStarted = 0;
 }
 
 void CharacterReset() {
-  for (std::int32_t* value :
-       {&CharaIndex,       &MenuFrame,  &BlinkFrame,  &BoredDelaySel,  &BoredSpeedSel,   &BoredRepeatSel,
-        &BlinkSpeedSel,    &StageX,     &StageY,      &MainCharaCount, &AlarmCharaCount, &WalkCharaCount,
-        &ClockDesignCount, &CharaFrame, &StageRedraw, &CharaMotion,    &CharaStepCount,  &BlinkCount,
-        &BoredSec,         &BoredMin,   &BoredHour,   &BoredLeft,      &BoredHold,       &BoredRepeat}) {
+  for (std::int32_t* value : {&Character.CharaIndex,
+                              &Character.MenuFrame,
+                              &Character.BlinkFrame,
+                              &Character.BoredDelaySel,
+                              &Character.BoredSpeedSel,
+                              &Character.BoredRepeatSel,
+                              &Character.BlinkSpeedSel,
+                              &Character.StageX,
+                              &Character.StageY,
+                              &CharaTables.MainCharaCount,
+                              &CharaTables.AlarmCharaCount,
+                              &CharaTables.WalkCharaCount,
+                              &CharaTables.ClockDesignCount,
+                              &Stage.CharaFrame,
+                              &Stage.StageRedraw,
+                              &Motion.CharaMotion,
+                              &Motion.CharaStepCount,
+                              &Motion.BlinkCount,
+                              &Motion.BoredSec,
+                              &Motion.BoredMin,
+                              &Motion.BoredHour,
+                              &Motion.BoredLeft,
+                              &Motion.BoredHold,
+                              &Motion.BoredRepeat}) {
     *value = 0;
   }
-  StageX = 500;
-  StageY = 300;
-  Zero(Bored1Frames);
-  Zero(Bored2Frames);
-  Zero(AlarmCharaSel);
-  Zero(CharaSet);
-  for (auto& chara : MainCharas) Zero(chara);
-  ClockShow = 0;
-  ClockDesign = kClockNone;
-  CalenShow = 0;
+  Character.StageX = 500;
+  Character.StageY = 300;
+  Zero(Character.Bored1Frames);
+  Zero(Character.Bored2Frames);
+  Zero(Character.AlarmCharaSel);
+  Zero(Character.CharaSet);
+  for (auto& chara : CharaTables.MainCharas) Zero(chara);
+  Clock.ClockShow = 0;
+  Clock.ClockDesign = kClockNone;
+  Calendar.CalenShow = 0;
 }
 
 }  // namespace
@@ -139,7 +172,7 @@ void ProgramTest::StartProgram(const char* commandLine) {
   const WindowHandle window = MainWindowCreate(mainClass, 500, 300, 120, 160);
   ASSERT_NE(window, nullptr);
   WindowShowFirst(window, 1);
-  TextCopy(PendingCommandLine, sizeof PendingCommandLine, commandLine);
+  TextCopy(Entry.PendingCommandLine, sizeof Entry.PendingCommandLine, commandLine);
 }
 
 void Ticks(int times) {

@@ -4,14 +4,16 @@
 
 #include "character/character.h"
 #include "character/character_tables.h"
-#include "clock_calendar/calendar.h"
-#include "clock_calendar/clock.h"
-#include "scenario/world_list.h"
-#include "schedule/schedule.h"
-#include "shell/data_file.h"
-#include "shell/random.h"
+#include "character/notice_window.h"
+#include "clock_calendar/calendar/calendar.h"
+#include "clock_calendar/clock/clock.h"
+#include "schedule/model/schedule.h"
+#include "services/data_file.h"
+#include "services/random.h"
+#include "services/screen_figures.h"
+#include "services/today.h"
 #include "shell/settings.h"
-#include "shell/shell.h"
+#include "world/world_list.h"
 
 namespace {
 
@@ -26,35 +28,42 @@ void ZeroAll(T&... values) {
 }
 
 void ClearCharacters() {
-  ZeroAll(CharaIndex, MenuFrame, BlinkFrame, Bored1Frames, Bored2Frames, BoredDelaySel, BoredSpeedSel,
-          BoredRepeatSel, BlinkSpeedSel, StageX, StageY, AlarmCharaSel, CharaSet);
-  ZeroAll(MainCharaCount, MainCharas, AlarmCharaCount, AlarmCharas, WalkCharaCount, WalkCharas, WalkFlags,
-          ClockDesignCount, ClockDesigns);
+  ZeroAll(Character.CharaIndex, Character.MenuFrame, Character.BlinkFrame, Character.Bored1Frames,
+          Character.Bored2Frames, Character.BoredDelaySel, Character.BoredSpeedSel, Character.BoredRepeatSel,
+          Character.BlinkSpeedSel, Character.StageX, Character.StageY, Character.AlarmCharaSel,
+          Character.CharaSet);
+  ZeroAll(CharaTables.MainCharaCount, CharaTables.MainCharas, CharaTables.AlarmCharaCount,
+          CharaTables.AlarmCharas, CharaTables.WalkCharaCount, CharaTables.WalkCharas, CharaTables.WalkFlags,
+          CharaTables.ClockDesignCount, CharaTables.ClockDesigns);
 }
 
 void ClearClock() {
-  ZeroAll(ClockStrikeMode, ClockStrikeSel, ClockSoundOn, ClockSoundName, ClockShow, ClockX, ClockY,
-          ClockReserved, ClockShowWanted, ClockEvents, ClockPerformanceCount, ClockPerformances,
-          ClockListCount, ClockList);
+  ZeroAll(Clock.ClockStrikeMode, Clock.ClockStrikeSel, Clock.ClockSoundOn, Clock.ClockSoundName,
+          Clock.ClockShow, Clock.ClockX, Clock.ClockY, Clock.ClockReserved, Clock.ClockShowWanted,
+          Clock.ClockEvents, Clock.ClockPerformanceCount, Clock.ClockPerformances, Clock.ClockListCount,
+          Clock.ClockList);
   // Another number first, so that the activation empties what is in force.
-  ClockDesign = 0;
-  ClockWanted = kClockNone;
+  Clock.ClockDesign = 0;
+  Clock.ClockWanted = kClockNone;
   ClockActivate();
-  ZeroAll(ClockHour, ClockHour12, ClockMinute);
+  ZeroAll(Clock.ClockHour, Clock.ClockHour12, Clock.ClockMinute);
   ClockStrikeClear();
-  ClockAlarmSlot = -1;
+  Clock.ClockAlarmSlot = -1;
   ClockAlarmCheckReset();
   ClockAlarmForget();
 }
 
 void ClearCalendars() {
-  ZeroAll(CalenStickers, CalenCount, CalenNames, CalenKinds, CalenParts, CalenPictures, CalenSheets,
-          CalenSheetFlags, CalenDefinitions);
-  ZeroAll(CalenSel, CalenMonths, CalenMonthFlags, CalenYears, CalenShow, CalenYearPos, CalenFirstYear,
-          CalenYearCount, CalenKind, CalenX, CalenY, CalenPageSize, CalenNoteMode, CalenNearNote,
-          CalenPictureOn, CalenBackColour, CalenW, CalenH);
-  ZeroAll(CalenFigPhase, CalenFigCount, CalenFigPos1, CalenFigPos2, CalenFigPeriod, CalenFigStep,
-          CalenFigTurn, CalenFigDir);
+  ZeroAll(Calendar.CalenStickers, Calendar.CalenCount, Calendar.CalenNames, Calendar.CalenKinds,
+          Calendar.CalenParts, Calendar.CalenPictures, Calendar.CalenSheets, Calendar.CalenSheetFlags,
+          Calendar.CalenDefinitions);
+  ZeroAll(Calendar.CalenSel, Calendar.CalenMonths, Calendar.CalenMonthFlags, Calendar.CalenYears,
+          Calendar.CalenShow, Calendar.CalenYearPos, Calendar.CalenFirstYear, Calendar.CalenYearCount,
+          Calendar.CalenKind, Calendar.CalenX, Calendar.CalenY, Calendar.CalenPageSize,
+          Calendar.CalenNoteMode, Calendar.CalenNearNote, Calendar.CalenPictureOn, Calendar.CalenBackColour,
+          Calendar.CalenW, Calendar.CalenH);
+  ZeroAll(Calendar.CalenFigPhase, Calendar.CalenFigCount, Calendar.CalenFigPos1, Calendar.CalenFigPos2,
+          Calendar.CalenFigPeriod, Calendar.CalenFigStep, Calendar.CalenFigTurn, Calendar.CalenFigDir);
 }
 
 }  // namespace
@@ -63,11 +72,12 @@ void ClearRecords() {
   ClearCharacters();
   ClearClock();
   ClearCalendars();
-  ZeroAll(DefaultSclName, PlanTitles);
-  ZeroAll(WorldCharaCount, WorldCharas, WorldFigureCount, WorldFigures);
-  ZeroAll(TodayYear, TodayMonth, TodayDay, NoticeX, NoticeY, NoticeW, NoticeH, ScreenWidth, ScreenHeight);
-  ZeroAll(FactorySpareValue, FactoryKeptValue);
-  FileStatus = 0;
+  ZeroAll(Schedule.DefaultSclName, Schedule.PlanTitles);
+  ZeroAll(World.WorldCharaCount, World.WorldCharas, World.WorldFigureCount, World.WorldFigures);
+  ZeroAll(Today.TodayYear, Today.TodayMonth, Today.TodayDay, NoticePlace.NoticeX, NoticePlace.NoticeY,
+          NoticePlace.NoticeW, NoticePlace.NoticeH, Screen.ScreenWidth, Screen.ScreenHeight);
+  ZeroAll(Factory.FactorySpareValue, Factory.FactoryKeptValue);
+  FileResult.FileStatus = 0;
   RandomSeed(1);
 }
 

@@ -9,19 +9,20 @@
 #include <map>
 #include <stdexcept>
 
+#include "character/character.h"
 #include "character/character_file.h"
 #include "character/character_tables.h"
-#include "clock_calendar/calendar.h"
-#include "clock_calendar/clock.h"
+#include "clock_calendar/calendar/calendar.h"
+#include "clock_calendar/clock/clock.h"
 #include "newdata/cast.h"
 #include "newdata/host_file.h"
 #include "newdata/picture_files.h"
 #include "newdata/sound.h"
 #include "platform/posix/posix_paths.h"
-#include "scenario/world_list.h"
-#include "schedule/schedule.h"
-#include "shell/big_endian.h"
+#include "schedule/model/schedule.h"
+#include "services/big_endian.h"
 #include "shell/settings.h"
+#include "world/world_list.h"
 
 namespace fs = std::filesystem;
 
@@ -135,99 +136,100 @@ TEST_F(DataSetTest, SameAssetsAndDateGiveTheSameFiles) {
 
 TEST_F(DataSetTest, CharacterFileHoldsTheFactoryCast) {
   ASSERT_EQ(CharaFileRead(), 0);
-  ASSERT_EQ(MainCharaCount, 4);
+  ASSERT_EQ(CharaTables.MainCharaCount, 4);
   for (int i = 0; i < 4; ++i) {
-    EXPECT_EQ(MainCharas[i].charaNo, i + 1);
-    EXPECT_EQ(MainCharas[i].menuFrame, 1);
-    EXPECT_EQ(MainCharas[i].blinkFrame, 2);
-    EXPECT_EQ(CharaSetNo(MainCharas[i].charaSet), i + 1);
-    EXPECT_EQ(WalkStartPoint(MainCharas[i].charaSet), 0);
-    EXPECT_EQ(WalkUse(MainCharas[i].charaSet), 3);
-    EXPECT_EQ(EndWait(MainCharas[i].charaSet), 30);
-    EXPECT_EQ(WalkFrames(MainCharas[i].charaSet, 0, 0), 1);
-    EXPECT_EQ(WalkFrames(MainCharas[i].charaSet, 0, 1), 2);
-    EXPECT_EQ(WalkFrames(MainCharas[i].charaSet, 0, 2), 0);
-    EXPECT_EQ(EndFrames(MainCharas[i].charaSet, 0, 0), 3);
-    EXPECT_EQ(WalkRow(MainCharas[i].charaSet), i + 1);
+    EXPECT_EQ(CharaTables.MainCharas[i].charaNo, i + 1);
+    EXPECT_EQ(CharaTables.MainCharas[i].menuFrame, 1);
+    EXPECT_EQ(CharaTables.MainCharas[i].blinkFrame, 2);
+    EXPECT_EQ(CharaSetNo(CharaTables.MainCharas[i].charaSet), i + 1);
+    EXPECT_EQ(WalkStartPoint(CharaTables.MainCharas[i].charaSet), 0);
+    EXPECT_EQ(WalkUse(CharaTables.MainCharas[i].charaSet), 3);
+    EXPECT_EQ(EndWait(CharaTables.MainCharas[i].charaSet), 30);
+    EXPECT_EQ(WalkFrames(CharaTables.MainCharas[i].charaSet, 0, 0), 1);
+    EXPECT_EQ(WalkFrames(CharaTables.MainCharas[i].charaSet, 0, 1), 2);
+    EXPECT_EQ(WalkFrames(CharaTables.MainCharas[i].charaSet, 0, 2), 0);
+    EXPECT_EQ(EndFrames(CharaTables.MainCharas[i].charaSet, 0, 0), 3);
+    EXPECT_EQ(WalkRow(CharaTables.MainCharas[i].charaSet), i + 1);
   }
-  EXPECT_EQ(WalkStepX(MainCharas[0].charaSet), -14);
-  EXPECT_EQ(WalkStepY(MainCharas[0].charaSet), -12);
-  EXPECT_EQ(WalkPeriod(MainCharas[1].charaSet), 3);
-  EXPECT_EQ(WalkCount(MainCharas[1].charaSet), 49);
-  EXPECT_EQ(WalkStepX(MainCharas[3].charaSet), -28);
-  EXPECT_EQ(WalkCount(MainCharas[3].charaSet), 24);
-  const std::vector<int> alarms(AlarmCharas, AlarmCharas + AlarmCharaCount);
+  EXPECT_EQ(WalkStepX(CharaTables.MainCharas[0].charaSet), -14);
+  EXPECT_EQ(WalkStepY(CharaTables.MainCharas[0].charaSet), -12);
+  EXPECT_EQ(WalkPeriod(CharaTables.MainCharas[1].charaSet), 3);
+  EXPECT_EQ(WalkCount(CharaTables.MainCharas[1].charaSet), 49);
+  EXPECT_EQ(WalkStepX(CharaTables.MainCharas[3].charaSet), -28);
+  EXPECT_EQ(WalkCount(CharaTables.MainCharas[3].charaSet), 24);
+  const std::vector<int> alarms(CharaTables.AlarmCharas,
+                                CharaTables.AlarmCharas + CharaTables.AlarmCharaCount);
   EXPECT_EQ(alarms, (std::vector<int>{6, 8, 9}));
-  ASSERT_EQ(WalkCharaCount, 4);
-  ASSERT_EQ(ClockDesignCount, 4);
+  ASSERT_EQ(CharaTables.WalkCharaCount, 4);
+  ASSERT_EQ(CharaTables.ClockDesignCount, 4);
   const char* const walkSounds[4] = {"旗印.wav", "foot1.wav", "foot2.wav", "ringout.wav"};
   const char* const clockSounds[4] = {"kan.wav", "kan.wav", "po2.wav", "nya.wav"};
   for (int i = 0; i < 4; ++i) {
-    EXPECT_EQ(WalkCharas[i].number, 10 + i);
-    EXPECT_STREQ(WalkCharas[i].sound, walkSounds[i]);
-    EXPECT_EQ(WalkFlags[i], 0);
-    EXPECT_EQ(ClockDesigns[i].number, 15 + i);
-    const ClockDesignFields fields = ClockDesignGet(ClockDesigns[i].record);
+    EXPECT_EQ(CharaTables.WalkCharas[i].number, 10 + i);
+    EXPECT_STREQ(CharaTables.WalkCharas[i].sound, walkSounds[i]);
+    EXPECT_EQ(CharaTables.WalkFlags[i], 0);
+    EXPECT_EQ(CharaTables.ClockDesigns[i].number, 15 + i);
+    const ClockDesignFields fields = ClockDesignGet(CharaTables.ClockDesigns[i].record);
     EXPECT_STREQ(fields.sound, clockSounds[i]);
     EXPECT_EQ(fields.hourFigures[12][0], 2);
     EXPECT_EQ(fields.hourFigures[12][6], 8);
   }
-  EXPECT_EQ(ClockDesignGet(ClockDesigns[0].record).centreX, 72);
-  EXPECT_EQ(ClockDesignGet(ClockDesigns[3].record).hand, kHandAmPm);
+  EXPECT_EQ(ClockDesignGet(CharaTables.ClockDesigns[0].record).centreX, 72);
+  EXPECT_EQ(ClockDesignGet(CharaTables.ClockDesigns[3].record).hand, kHandAmPm);
 }
 
 TEST_F(DataSetTest, SettingsHoldTheFactorySettings) {
   ASSERT_EQ(SysFileRead(), 0);
-  EXPECT_EQ(CharaIndex, 0);
-  EXPECT_EQ(StageX, 500);
-  EXPECT_EQ(StageY, 300);
-  EXPECT_EQ(AlarmCharaSel[0], 1);
-  EXPECT_EQ(AlarmCharaSel[1], 1);
-  EXPECT_EQ(AlarmCharaSel[2], 0);
-  EXPECT_EQ(ClockDesign, 255);
-  EXPECT_EQ(ClockShow, 0);
-  EXPECT_EQ(ClockStrikeMode, 1);
-  EXPECT_EQ(ClockSoundOn, 1);
-  EXPECT_EQ(ClockX, 700);
-  EXPECT_EQ(ClockY, 20);
-  EXPECT_EQ(CalenSel, 0);
-  EXPECT_EQ(CalenYearCount, 1);
-  EXPECT_EQ(CalenFirstYear, 26);
-  EXPECT_EQ(CalenCount, 3);
-  EXPECT_EQ(CalenX, 700);
-  EXPECT_EQ(CalenY, 10);
-  EXPECT_EQ(CalenPageSize, 1);
-  EXPECT_EQ(CalenNoteMode, 1);
-  EXPECT_EQ(CalenNearNote, 1);
-  EXPECT_EQ(DefaultSclName[0], '\0');
+  EXPECT_EQ(Character.CharaIndex, 0);
+  EXPECT_EQ(Character.StageX, 500);
+  EXPECT_EQ(Character.StageY, 300);
+  EXPECT_EQ(Character.AlarmCharaSel[0], 1);
+  EXPECT_EQ(Character.AlarmCharaSel[1], 1);
+  EXPECT_EQ(Character.AlarmCharaSel[2], 0);
+  EXPECT_EQ(Clock.ClockDesign, 255);
+  EXPECT_EQ(Clock.ClockShow, 0);
+  EXPECT_EQ(Clock.ClockStrikeMode, 1);
+  EXPECT_EQ(Clock.ClockSoundOn, 1);
+  EXPECT_EQ(Clock.ClockX, 700);
+  EXPECT_EQ(Clock.ClockY, 20);
+  EXPECT_EQ(Calendar.CalenSel, 0);
+  EXPECT_EQ(Calendar.CalenYearCount, 1);
+  EXPECT_EQ(Calendar.CalenFirstYear, 26);
+  EXPECT_EQ(Calendar.CalenCount, 3);
+  EXPECT_EQ(Calendar.CalenX, 700);
+  EXPECT_EQ(Calendar.CalenY, 10);
+  EXPECT_EQ(Calendar.CalenPageSize, 1);
+  EXPECT_EQ(Calendar.CalenNoteMode, 1);
+  EXPECT_EQ(Calendar.CalenNearNote, 1);
+  EXPECT_EQ(Schedule.DefaultSclName[0], '\0');
   EXPECT_EQ(fs::file_size(Made("mirrell_sys_file.svs")), 172720U);
   // 1 January 2026 is a Thursday; the 1st of February a Sunday.
-  EXPECT_EQ(CalenMonths[0][0][kMonthFirstWeekday], 3);
-  EXPECT_EQ(CalenMonths[0][1][kMonthFirstWeekday], 6);
+  EXPECT_EQ(Calendar.CalenMonths[0][0][kMonthFirstWeekday], 3);
+  EXPECT_EQ(Calendar.CalenMonths[0][1][kMonthFirstWeekday], 6);
 }
 
 TEST_F(DataSetTest, CalendarFileHoldsThreeCalendars) {
   ASSERT_EQ(CalenFileRead(), 0);
-  ASSERT_EQ(CalenCount, 3);
-  EXPECT_STREQ(CalenNames[0], "月ごとカレンダー");
-  EXPECT_STREQ(CalenNames[1], "1週間カレンダー(日付縦)");
-  EXPECT_STREQ(CalenNames[2], "日めくりカレンダー");
-  EXPECT_STREQ(CalenNames[7], "ユーザー設定カレンダー5");
-  for (int i = 0; i < 3; ++i) EXPECT_EQ(CalenKinds[i], i);
-  EXPECT_EQ(ClockListCount, 4);
+  ASSERT_EQ(Calendar.CalenCount, 3);
+  EXPECT_STREQ(Calendar.CalenNames[0], "月ごとカレンダー");
+  EXPECT_STREQ(Calendar.CalenNames[1], "1週間カレンダー(日付縦)");
+  EXPECT_STREQ(Calendar.CalenNames[2], "日めくりカレンダー");
+  EXPECT_STREQ(Calendar.CalenNames[7], "ユーザー設定カレンダー5");
+  for (int i = 0; i < 3; ++i) EXPECT_EQ(Calendar.CalenKinds[i], i);
+  EXPECT_EQ(Clock.ClockListCount, 4);
   EXPECT_EQ(fs::file_size(Made("mirrell_calen_file.dcd")),
             3986U + 3U * 56064U + 3U * 120U + 3U * 26728U + 302U + 4U + 4U * 104U);
 }
 
 TEST_F(DataSetTest, ClockAlarmFileHoldsThreePerformances) {
   EXPECT_EQ(ClockAlarmFileRead(), 0);
-  EXPECT_EQ(ClockPerformanceCount, 3);
+  EXPECT_EQ(Clock.ClockPerformanceCount, 3);
   EXPECT_EQ(fs::file_size(Made("mirrell_ClcAlmPerFile.clc")), 29U + 3U * 2008U);
 }
 
 TEST_F(DataSetTest, WorldListNamesTheCast) {
   WorldListRead();
-  EXPECT_EQ(WorldCharaCount, Cast().back().number);
+  EXPECT_EQ(World.WorldCharaCount, Cast().back().number);
   for (const CastMember& member : Cast()) {
     EXPECT_STREQ(WorldCharaName(member.number), member.name);
     for (std::size_t frame = 0; frame < member.frames.size(); ++frame) {
@@ -239,7 +241,7 @@ TEST_F(DataSetTest, WorldListNamesTheCast) {
 
 TEST_F(DataSetTest, FigureIdsFitTheByteOfAMotion) {
   WorldListRead();
-  EXPECT_LE(WorldFigureCount, 255);
+  EXPECT_LE(World.WorldFigureCount, 255);
 }
 
 TEST_F(DataSetTest, BlinkKeepsTheOutlineOfTheStandingFrame) {

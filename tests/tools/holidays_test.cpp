@@ -4,7 +4,7 @@
 
 #include <algorithm>
 
-#include "clock_calendar/calendar.h"
+#include "clock_calendar/calendar/calendar.h"
 #include "newdata/tables.h"
 
 namespace {
@@ -26,17 +26,17 @@ const Dates kHolidays2027 = {{1, 1}, {1, 11}, {2, 11}, {2, 23}, {3, 21}, {3, 22}
 Dates ShownHolidays(int year, int place) {
   CalenStartDefaults();
   FillCalendars(year);
-  CalenYearPos = place;
+  Calendar.CalenYearPos = place;
   Dates shown;
   for (int month = 0; month < kMonthsOfYear; ++month) {
-    for (int day = 0; day < CalenMonths[place][month][kMonthDays]; ++day) {
-      const int weekday = (CalenMonths[place][month][kMonthFirstWeekday] + day) % kDaysOfWeek;
-      const int rule = CalenHolidayRule(place, month, day, HolidayUse::Drawing);
+    for (int day = 0; day < Calendar.CalenMonths[place][month][kMonthDays]; ++day) {
+      const int weekday = (Calendar.CalenMonths[place][month][kMonthFirstWeekday] + day) % kDaysOfWeek;
+      const int rule = CalenHolidayRule(place, month, day, HolidayUse::Display);
       const bool flagged = CalenHolidayFlag(place, month, day) && weekday != kSunday;
       if (rule == 1 || flagged) shown.push_back({month + 1, day + 1});
     }
   }
-  CalenYearPos = 0;
+  Calendar.CalenYearPos = 0;
   return shown;
 }
 
@@ -84,14 +84,14 @@ TEST(Holidays, EveryYearShowsItsOwnDatesWhenItIsTheFirst) {
 TEST(Holidays, LaterYearsOfTheWorkingArrayMissNone) {
   for (const int place : {1, 2}) {
     ShownHolidays(2026, place);
-    CalenYearPos = place;
+    Calendar.CalenYearPos = place;
     for (const MonthDay& date : HolidaysOf(2026 + place)) {
-      const bool byRule = CalenHolidayRule(place, date.month - 1, date.day - 1, HolidayUse::Drawing) != 0;
+      const bool byRule = CalenHolidayRule(place, date.month - 1, date.day - 1, HolidayUse::Display) != 0;
       EXPECT_TRUE(byRule || CalenHolidayFlag(place, date.month - 1, date.day - 1))
           << 2026 + place << " " << date.month << "/" << date.day;
     }
   }
-  CalenYearPos = 0;
+  Calendar.CalenYearPos = 0;
 }
 
 TEST(Holidays, SundaysAreHolidaysByWeekdayInTheLastRule) {
@@ -99,9 +99,9 @@ TEST(Holidays, SundaysAreHolidaysByWeekdayInTheLastRule) {
   EXPECT_EQ(rules.back().kind, 9U);  // every Sunday
   CalenStartDefaults();
   FillCalendars(2026);
-  EXPECT_EQ(CalenHolidayRule(0, 5, 6, HolidayUse::Drawing), 2);  // Sunday, 7 June 2026
-  EXPECT_EQ(CalenHolidayRule(0, 4, 2, HolidayUse::Drawing), 1);  // Sunday, 3 May 2026: by date first
-  EXPECT_EQ(CalenHolidayRule(0, 5, 7, HolidayUse::Drawing), 0);
+  EXPECT_EQ(CalenHolidayRule(0, 5, 6, HolidayUse::Display), 2);  // Sunday, 7 June 2026
+  EXPECT_EQ(CalenHolidayRule(0, 4, 2, HolidayUse::Display), 1);  // Sunday, 3 May 2026: by date first
+  EXPECT_EQ(CalenHolidayRule(0, 5, 7, HolidayUse::Display), 0);
 }
 
 TEST(Holidays, RulesNameTheirKinds) {
@@ -131,7 +131,7 @@ TEST(Holidays, SpringRuleIsTheOneThatHoldsLongest) {
 
 TEST(Holidays, SubstituteIsForTheDrawingOnly) {
   ShownHolidays(2027, 0);
-  EXPECT_EQ(CalenHolidayRule(0, 2, 21, HolidayUse::Drawing), 1);  // Monday, 22 March 2027
+  EXPECT_EQ(CalenHolidayRule(0, 2, 21, HolidayUse::Display), 1);  // Monday, 22 March 2027
   EXPECT_EQ(CalenHolidayRule(0, 2, 21, HolidayUse::Schedule), 0);
 }
 

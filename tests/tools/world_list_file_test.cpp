@@ -7,7 +7,7 @@
 
 namespace {
 
-const std::vector<CastMember> kTwo = {{1, Role::Main, "A", {"walk", "sit"}}, {3, Role::Clock, "C", {"sit"}}};
+const std::vector<CastMember> kTwo = {{1, Role::Main, "A", {"walk", "sit"}}, {3, Role::Dial, "C", {"sit"}}};
 
 std::string TextAt(const Bytes& file, std::size_t place) {
   return reinterpret_cast<const char*>(&file[place]);

@@ -2,7 +2,7 @@
 #include <stdexcept>
 #include <string>
 
-#include "clock_calendar/calendar.h"
+#include "clock_calendar/calendar/calendar.h"
 #include "newdata/cast.h"
 #include "newdata/holidays.h"
 #include "newdata/pixels.h"
@@ -53,27 +53,28 @@ void FillDefinition(unsigned char* definition, int year) {
 // Every frame of the sticker characters is a sticker. The list holds a character
 // by its number from 1 and a frame from 0.
 void FillStickers() {
-  std::memset(CalenStickers, 0, sizeof CalenStickers);
+  std::memset(Calendar.CalenStickers, 0, sizeof Calendar.CalenStickers);
   int count = 0;
   for (const CastMember* member : CastOf(Role::Sticker)) {
     for (std::size_t frame = 0; frame < member->frames.size() && count < kStickerMax; ++frame, ++count) {
-      PutLE16(CalenStickers + kStickerCharas + 2 * count, static_cast<std::uint16_t>(member->number));
-      CalenStickers[kStickerFigures + count] = static_cast<unsigned char>(frame);
+      PutLE16(Calendar.CalenStickers + kStickerCharas + 2 * count,
+              static_cast<std::uint16_t>(member->number));
+      Calendar.CalenStickers[kStickerFigures + count] = static_cast<unsigned char>(frame);
     }
   }
-  PutLE16(CalenStickers + kStickerCount, static_cast<std::uint16_t>(count));
+  PutLE16(Calendar.CalenStickers + kStickerCount, static_cast<std::uint16_t>(count));
 }
 
 // Flags the holidays of a year of the working array that the rules pass over.
 void FlagRemainingHolidays(int yearIndex, int year) {
-  const std::int32_t shown = CalenYearPos;
-  CalenYearPos = yearIndex;
+  const std::int32_t shown = Calendar.CalenYearPos;
+  Calendar.CalenYearPos = yearIndex;
   for (const MonthDay& date : HolidaysOf(year)) {
-    if (CalenHolidayRule(yearIndex, date.month - 1, date.day - 1, HolidayUse::Drawing) == 0) {
+    if (CalenHolidayRule(yearIndex, date.month - 1, date.day - 1, HolidayUse::Display) == 0) {
       CalenHolidayFlagSet(yearIndex, date.month - 1, date.day - 1, true);
     }
   }
-  CalenYearPos = shown;
+  Calendar.CalenYearPos = shown;
 }
 
 }  // namespace
@@ -84,18 +85,19 @@ void FillCalendars(int year) {
                              std::to_string(kLastYear));
   }
   CalenYearsSet(year - 2000);
-  CalenYearCount = 1;
-  CalenYearPos = 0;
-  CalenSel = 0;
-  CalenKind = CalenKinds[CalenSel];
-  CalenPictureOn = 1;
-  std::memset(CalenBackColour, 0, sizeof CalenBackColour);
-  PutColour(CalenBackColour, kWhite);
+  Calendar.CalenYearCount = 1;
+  Calendar.CalenYearPos = 0;
+  Calendar.CalenSel = 0;
+  Calendar.CalenKind = Calendar.CalenKinds[Calendar.CalenSel];
+  Calendar.CalenPictureOn = 1;
+  std::memset(Calendar.CalenBackColour, 0, sizeof Calendar.CalenBackColour);
+  PutColour(Calendar.CalenBackColour, kWhite);
   FillStickers();
-  for (int i = 0; i < CalenCount; ++i) FillDefinition(CalenDefinitions[i], year);
+  for (int i = 0; i < Calendar.CalenCount; ++i) FillDefinition(Calendar.CalenDefinitions[i], year);
   for (int i = 0; i < kCalenYearMax; ++i) {
     CalenYearInit(i);
     if (year + i <= kLastYear) FlagRemainingHolidays(i, year + i);
   }
-  for (int i = 0; i < CalenCount; ++i) std::memcpy(CalenSheets[i], CalenMonths[0], sizeof CalenSheets[i]);
+  for (int i = 0; i < Calendar.CalenCount; ++i)
+    std::memcpy(Calendar.CalenSheets[i], Calendar.CalenMonths[0], sizeof Calendar.CalenSheets[i]);
 }

@@ -11,7 +11,7 @@ enum class Role {
   Main,     // stands on the stage
   Alarm,    // shows itself in notices
   Walker,   // walks over the screen
-  Clock,    // a clock design
+  Dial,     // a clock design
   Sticker,  // its frames are stuck on days of a calendar
 };
 

@@ -1,8 +1,9 @@
 #include <algorithm>
 #include <cstring>
 
+#include "character/character.h"
 #include "character/character_tables.h"
-#include "clock_calendar/clock.h"
+#include "clock_calendar/clock/clock.h"
 #include "newdata/cast.h"
 #include "newdata/tables.h"
 
@@ -25,9 +26,9 @@ void PutColour(unsigned char (&to)[3], const Rgb& colour) {
 
 void FillCharacters() {
   const std::vector<const CastMember*> cast = CastOf(Role::Main);
-  MainCharaCount = static_cast<std::int32_t>(cast.size());
-  for (int i = 0; i < MainCharaCount; ++i) {
-    MainChara& main = MainCharas[i];
+  CharaTables.MainCharaCount = static_cast<std::int32_t>(cast.size());
+  for (int i = 0; i < CharaTables.MainCharaCount; ++i) {
+    MainChara& main = CharaTables.MainCharas[i];
     const IdleLife& life = IdleLifeOf(i);
     main = MainChara{};
     main.charaNo = static_cast<std::uint16_t>(cast[i]->number);
@@ -42,16 +43,16 @@ void FillCharacters() {
     main.secondNumber = cast[i]->number;
     // All of them walk as the factory settings say; each has a walker and a sound
     // of its own.
-    std::memcpy(main.charaSet, CharaSet, kCharaSetSize);
+    std::memcpy(main.charaSet, Character.CharaSet, kCharaSetSize);
     SetCharaSetNo(main.charaSet, cast[i]->number);
     SetWalkRow(main.charaSet, 0, i + 1);
   }
 }
 
 void FillClocks() {
-  for (int i = 0; i < ClockDesignCount; ++i) {
+  for (int i = 0; i < CharaTables.ClockDesignCount; ++i) {
     const Dial& dial = DialOf(i);
-    unsigned char* record = ClockDesigns[i].record;
+    unsigned char* record = CharaTables.ClockDesigns[i].record;
     ClockDesignFields fields = ClockDesignGet(record);
     fields.hand = dial.hand;
     fields.repeat = dial.repeat;

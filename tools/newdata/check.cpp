@@ -5,22 +5,23 @@
 #include <memory>
 #include <set>
 
+#include "character/character.h"
 #include "character/character_file.h"
 #include "character/character_tables.h"
 #include "character/frames.h"
 #include "character/outline.h"
-#include "clock_calendar/calendar.h"
-#include "clock_calendar/clock.h"
+#include "clock_calendar/calendar/calendar.h"
+#include "clock_calendar/clock/clock.h"
 #include "newdata/data_set.h"
 #include "newdata/host_file.h"
 #include "newdata/outline_file.h"
 #include "newdata/polygon.h"
 #include "platform/posix/posix_paths.h"
-#include "scenario/world_list.h"
-#include "shell/big_endian.h"
-#include "shell/data_file.h"
-#include "shell/dib.h"
+#include "services/big_endian.h"
+#include "services/data_file.h"
+#include "services/dib.h"
 #include "shell/settings.h"
+#include "world/world_list.h"
 
 namespace {
 
@@ -39,10 +40,13 @@ class Checker {
 
   std::vector<std::string> Run() {
     if (!ReadDataFiles()) return faults_;  // nothing to compare
-    for (int i = 0; i < MainCharaCount; ++i) CheckCharacter(MainCharas[i].charaNo, &kStage);
-    for (int i = 0; i < AlarmCharaCount; ++i) CheckCharacter(AlarmCharas[i], &kBare);
-    for (int i = 0; i < WalkCharaCount; ++i) CheckCharacter(WalkCharas[i].number, &kWalker);
-    for (int i = 0; i < ClockDesignCount; ++i) CheckCharacter(ClockDesigns[i].number, &kBare);
+    for (int i = 0; i < CharaTables.MainCharaCount; ++i)
+      CheckCharacter(CharaTables.MainCharas[i].charaNo, &kStage);
+    for (int i = 0; i < CharaTables.AlarmCharaCount; ++i) CheckCharacter(CharaTables.AlarmCharas[i], &kBare);
+    for (int i = 0; i < CharaTables.WalkCharaCount; ++i)
+      CheckCharacter(CharaTables.WalkCharas[i].number, &kWalker);
+    for (int i = 0; i < CharaTables.ClockDesignCount; ++i)
+      CheckCharacter(CharaTables.ClockDesigns[i].number, &kBare);
     CheckStickers();
     CheckMainCharacters();
     CheckDesigns();
@@ -60,15 +64,15 @@ class Checker {
   }
 
   bool ReadDataFiles() {
-    FileStatus = 0;
+    FileResult.FileStatus = 0;
     Demand(CharaFileRead() == 0, "mirrell_chara_file.dcx cannot be read");
     Demand(CalenFileRead() == 0, "mirrell_calen_file.dcd cannot be read");
     Demand(ClockAlarmFileRead() == 0, "mirrell_ClcAlmPerFile.clc cannot be read");
-    FileStatus = 0;  // a wrong magic is told by it alone
-    Demand(SysFileRead() == 0 && FileStatus == 0, "mirrell_sys_file.svs cannot be read");
-    WorldCharaCount = 0;
+    FileResult.FileStatus = 0;  // a wrong magic is told by it alone
+    Demand(SysFileRead() == 0 && FileResult.FileStatus == 0, "mirrell_sys_file.svs cannot be read");
+    World.WorldCharaCount = 0;
     WorldListRead();
-    Demand(WorldCharaCount > 0, "EDTCFLAG.edf cannot be read");
+    Demand(World.WorldCharaCount > 0, "EDTCFLAG.edf cannot be read");
     return faults_.empty();
   }
 
@@ -107,7 +111,8 @@ class Checker {
       return;
     }
     Demand(title[0] != '\0', name + ": no name");
-    Demand(number <= WorldCharaCount && WorldCharas[number - 1].figureIds[frame] != 0, name + ": not in use");
+    Demand(number <= World.WorldCharaCount && World.WorldCharas[number - 1].figureIds[frame] != 0,
+           name + ": not in use");
     if (!Is24Bit(picture.get()) || !Is24Bit(mask.get())) {
       Fault(name + ": no picture or no mask of 24 bits");
       return;
@@ -183,9 +188,9 @@ class Checker {
   }
 
   void CheckMainCharacters() {
-    Demand(MainCharaCount > 0, "there is no main character");
-    for (int i = 0; i < MainCharaCount; ++i) {
-      const MainChara& main = MainCharas[i];
+    Demand(CharaTables.MainCharaCount > 0, "there is no main character");
+    for (int i = 0; i < CharaTables.MainCharaCount; ++i) {
+      const MainChara& main = CharaTables.MainCharas[i];
       const std::string name = "main character " + std::to_string(i + 1);
       DemandFrame(main.charaNo, main.menuFrame, name + ", menu");
       DemandFrame(main.charaNo, main.blinkFrame, name + ", blink");
@@ -202,63 +207,68 @@ class Checker {
 
   void CheckWalk(const unsigned char* set, int place, const std::string& name) {
     const int row = WalkRow(set);
-    if (row < 1 || row > WalkCharaCount || place >= WalkCharaCount) {
+    if (row < 1 || row > CharaTables.WalkCharaCount || place >= CharaTables.WalkCharaCount) {
       Fault(name + ": there is no walking character");
       return;
     }
     for (int i = 0; i < kCharaSetFrames; ++i) {
-      if (WalkFrames(set, 0, i) != 0) DemandFrame(WalkCharas[place].number, WalkFrames(set, 0, i) - 1, name);
-      if (EndFrames(set, 0, i) != 0) DemandFrame(WalkCharas[place].number, EndFrames(set, 0, i) - 1, name);
+      if (WalkFrames(set, 0, i) != 0)
+        DemandFrame(CharaTables.WalkCharas[place].number, WalkFrames(set, 0, i) - 1, name);
+      if (EndFrames(set, 0, i) != 0)
+        DemandFrame(CharaTables.WalkCharas[place].number, EndFrames(set, 0, i) - 1, name);
     }
     Demand(WalkFrames(set, 0, 0) != 0 && EndFrames(set, 0, 0) != 0, name + ": no frames");
-    for (int i = 0; i < WalkCharaCount; ++i) sounds_.insert(WalkCharas[i].sound);
+    for (int i = 0; i < CharaTables.WalkCharaCount; ++i) sounds_.insert(CharaTables.WalkCharas[i].sound);
   }
 
   void CheckDesigns() {
-    Demand(ClockDesignCount > 0, "there is no clock design");
-    Demand(ClockListCount == ClockDesignCount, "the calendar file lists other clock designs");
-    for (int i = 0; i < ClockDesignCount; ++i) {
-      const ClockDesignFields fields = ClockDesignGet(ClockDesigns[i].record);
+    Demand(CharaTables.ClockDesignCount > 0, "there is no clock design");
+    Demand(Clock.ClockListCount == CharaTables.ClockDesignCount,
+           "the calendar file lists other clock designs");
+    for (int i = 0; i < CharaTables.ClockDesignCount; ++i) {
+      const ClockDesignFields fields = ClockDesignGet(CharaTables.ClockDesigns[i].record);
       for (const auto& hour : fields.hourFigures) {
         for (const unsigned char figure : hour) {
-          if (figure != 0) DemandFrame(ClockDesigns[i].number, figure - 1, "clock design");
+          if (figure != 0) DemandFrame(CharaTables.ClockDesigns[i].number, figure - 1, "clock design");
         }
       }
       sounds_.insert(fields.sound);
     }
-    for (int i = 0; i < ClockPerformanceCount; ++i) {
+    for (int i = 0; i < Clock.ClockPerformanceCount; ++i) {
       char sound[kPerformanceSoundSize + 1];
-      PerformanceSound(ClockPerformances[i], sound);
+      PerformanceSound(Clock.ClockPerformances[i], sound);
       if (sound[0] != '\0') sounds_.insert(sound);
     }
   }
 
   void CheckSettings() {
-    if (CharaIndex < 0 || CharaIndex >= MainCharaCount) {
+    if (Character.CharaIndex < 0 || Character.CharaIndex >= CharaTables.MainCharaCount) {
       Fault("the settings name no main character");
       return;
     }
-    const MainChara& main = MainCharas[CharaIndex];
-    Demand(MenuFrame == main.menuFrame && BlinkFrame == main.blinkFrame &&
-               BlinkSpeedSel == main.blinkSpeedSel &&
-               std::memcmp(CharaSet, main.charaSet, kCharaSetSize) == 0,
+    const MainChara& main = CharaTables.MainCharas[Character.CharaIndex];
+    Demand(Character.MenuFrame == main.menuFrame && Character.BlinkFrame == main.blinkFrame &&
+               Character.BlinkSpeedSel == main.blinkSpeedSel &&
+               std::memcmp(Character.CharaSet, main.charaSet, kCharaSetSize) == 0,
            "the settings hold another main character than its file");
-    for (const std::int32_t row : AlarmCharaSel) {
-      Demand(row >= 0 && row <= AlarmCharaCount, "the settings name an alarm character that is not there");
+    for (const std::int32_t row : Character.AlarmCharaSel) {
+      Demand(row >= 0 && row <= CharaTables.AlarmCharaCount,
+             "the settings name an alarm character that is not there");
     }
   }
 
   void CheckCalendars() {
-    Demand(CalenCount > 0 && CalenSel >= 0 && CalenSel < CalenCount, "there is no calendar");
-    for (int i = 0; i < CalenCount; ++i) {
+    Demand(Calendar.CalenCount > 0 && Calendar.CalenSel >= 0 && Calendar.CalenSel < Calendar.CalenCount,
+           "there is no calendar");
+    for (int i = 0; i < Calendar.CalenCount; ++i) {
       const std::string name = "calendar " + std::to_string(i + 1);
-      Demand(CalenNames[i][0] != '\0', name + ": no name");
-      Demand(CalenDefinitions[i][kDefinitionValid] == 1, name + ": not valid");
-      Demand(CalenDefinitions[i][kDefinitionRules] != 0, name + ": no holiday rules");
+      Demand(Calendar.CalenNames[i][0] != '\0', name + ": no name");
+      Demand(Calendar.CalenDefinitions[i][kDefinitionValid] == 1, name + ": not valid");
+      Demand(Calendar.CalenDefinitions[i][kDefinitionRules] != 0, name + ": no holiday rules");
       for (int month = 0; month < kMonthsOfYear; ++month) {
-        const unsigned char* block = CalenSheets[i][month];
-        Demand(block[kMonthDays] == SclDaysInMonth(CalenFirstYear, month) &&
-                   block[kMonthFirstWeekday] == SclFirstWeekday(CalenFirstYear, month),
+        const unsigned char* block = Calendar.CalenSheets[i][month];
+        Demand(block[kMonthDays] == SclDaysInMonth(Calendar.CalenFirstYear, month) &&
+                   block[kMonthFirstWeekday] == SclFirstWeekday(Calendar.CalenFirstYear, month),
                name + ": month " + std::to_string(month + 1) + " is not one of its year");
       }
     }

@@ -4,20 +4,21 @@
 #include <cstring>
 #include <stdexcept>
 
+#include "character/character.h"
 #include "character/character_file.h"
 #include "character/character_tables.h"
-#include "clock_calendar/calendar.h"
-#include "clock_calendar/clock.h"
+#include "clock_calendar/calendar/calendar.h"
+#include "clock_calendar/clock/clock.h"
 #include "newdata/host_file.h"
 #include "newdata/picture_files.h"
 #include "newdata/tables.h"
 #include "newdata/world_list_file.h"
 #include "platform/posix/posix_paths.h"
 #include "platform/posix/test_clock.h"
-#include "shell/data_file.h"
+#include "services/data_file.h"
+#include "services/program.h"
+#include "services/text.h"
 #include "shell/settings.h"
-#include "shell/shell.h"
-#include "shell/text.h"
 
 namespace {
 
@@ -25,7 +26,8 @@ constexpr int kFirstPerformance = 1;
 
 void Demand(int result, const char* file) {
   if (result != 0) {
-    throw std::runtime_error(std::string(file) + " cannot be written, result " + std::to_string(FileStatus));
+    throw std::runtime_error(std::string(file) + " cannot be written, result " +
+                             std::to_string(FileResult.FileStatus));
   }
 }
 
@@ -38,25 +40,25 @@ void FillAlarms() {
 
 // What the settings file keeps of the current character.
 void TakeFirstCharacter() {
-  const MainChara& main = MainCharas[0];
-  CharaIndex = 0;
-  MenuFrame = main.menuFrame;
-  BlinkFrame = main.blinkFrame;
-  std::copy_n(main.bored1Frames, kBoredFrameCount, Bored1Frames);
-  std::copy_n(main.bored2Frames, kBoredFrameCount, Bored2Frames);
-  BoredDelaySel = main.boredDelaySel;
-  BoredSpeedSel = main.boredSpeedSel;
-  BoredRepeatSel = main.boredRepeatSel;
-  BlinkSpeedSel = main.blinkSpeedSel;
-  std::copy_n(main.charaSet, kCharaSetSize, CharaSet);
+  const MainChara& main = CharaTables.MainCharas[0];
+  Character.CharaIndex = 0;
+  Character.MenuFrame = main.menuFrame;
+  Character.BlinkFrame = main.blinkFrame;
+  std::copy_n(main.bored1Frames, kBoredFrameCount, Character.Bored1Frames);
+  std::copy_n(main.bored2Frames, kBoredFrameCount, Character.Bored2Frames);
+  Character.BoredDelaySel = main.boredDelaySel;
+  Character.BoredSpeedSel = main.boredSpeedSel;
+  Character.BoredRepeatSel = main.boredRepeatSel;
+  Character.BlinkSpeedSel = main.blinkSpeedSel;
+  std::copy_n(main.charaSet, kCharaSetSize, Character.CharaSet);
 }
 
 // Nothing has begun to move on the calendar; a data set that was read before would have
 // left its figures.
 void StillFigures() {
   const auto clear = [](auto&... tables) { (std::memset(tables, 0, sizeof tables), ...); };
-  clear(CalenFigPhase, CalenFigCount, CalenFigPos1, CalenFigPos2, CalenFigPeriod, CalenFigStep, CalenFigTurn,
-        CalenFigDir);
+  clear(Calendar.CalenFigPhase, Calendar.CalenFigCount, Calendar.CalenFigPos1, Calendar.CalenFigPos2,
+        Calendar.CalenFigPeriod, Calendar.CalenFigStep, Calendar.CalenFigTurn, Calendar.CalenFigDir);
 }
 
 void WriteDataFiles(const DataSetDate& date) {
@@ -84,9 +86,9 @@ void WriteDataFiles(const DataSetDate& date) {
 void UseProgramFolder(const std::filesystem::path& folder) {
   const std::string path = PosixToProgram(std::filesystem::absolute(folder).lexically_normal().string());
   if (path.size() >= kRootSize) throw std::runtime_error(folder.string() + ": the path is too long");
-  TextCopy(RootFolder, kRootSize, path.c_str());
+  TextCopy(Program.RootFolder, kRootSize, path.c_str());
   // A folder that is written with a slash at its end.
-  if (path.size() > 3 && path.back() == '\\') RootFolder[path.size() - 1] = '\0';
+  if (path.size() > 3 && path.back() == '\\') Program.RootFolder[path.size() - 1] = '\0';
 }
 
 void MakeDataSet(const std::filesystem::path& folder, const std::filesystem::path& assets,

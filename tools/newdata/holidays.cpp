@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <set>
 
-#include "clock_calendar/calendar.h"
+#include "clock_calendar/calendar/calendar.h"
 
 namespace {
 

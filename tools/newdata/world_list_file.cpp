@@ -4,8 +4,8 @@
 #include <stdexcept>
 #include <string>
 
-#include "scenario/world_list.h"
-#include "shell/big_endian.h"
+#include "services/big_endian.h"
+#include "world/world_list.h"
 
 namespace {
 

@@ -10,16 +10,20 @@
 #include <cstdint>
 
 #include "character/alarm_images.h"
-#include "character/scl_notice.h"
-#include "clock_calendar/clock.h"
-#include "mail_music/mail_setting.h"
+#include "clock_calendar/calendar/calendar.h"
+#include "clock_calendar/clock/clock.h"
+#include "mail_music/mail/mail.h"
+#include "mail_music/mail/mail_setting.h"
 #include "platform/dialog.h"
 #include "platform/window.h"
 #include "resources/ids.h"
+#include "schedule/execution/scl_notice.h"
+#include "schedule/table/table_scroll.h"
+#include "services/program.h"
+#include "services/text.h"
+#include "services/today.h"
 #include "shell/entry.h"
 #include "shell/popups.h"
-#include "shell/shell.h"
-#include "shell/text.h"
 
 namespace {
 
@@ -28,16 +32,16 @@ constexpr UINT kSoon = 10;  // milliseconds
 void FillMail() {
   TextCopy(MailSetting.comment, sizeof MailSetting.comment, "新しいお便りが届いています");
   MailSetting.animeOn = 1;
-  MailMinuteCount = INT32_MAX;  // no server is asked
-  MailCheckOn = true;
-  MailNoticeFlag = 1;
+  Mail.MailMinuteCount = INT32_MAX;  // no server is asked
+  Mail.MailCheckOn = true;
+  Mail.MailNoticeFlag = 1;
 }
 
 void FillSchedule() {
-  const SclDate morning{TodayYear, TodayMonth, TodayDay, 9};
-  const SclDate noon{TodayYear, TodayMonth, TodayDay, 12};
-  SclNotice = {true, morning, noon, 30, 0, 8, 18, {}};
-  TextCopy(SclNotice.text, sizeof SclNotice.text,
+  const SclDate morning{Today.TodayYear, Today.TodayMonth, Today.TodayDay, 9};
+  const SclDate noon{Today.TodayYear, Today.TodayMonth, Today.TodayDay, 12};
+  Notices.SclNotice = {true, morning, noon, 30, 0, 8, 18, {}};
+  TextCopy(Notices.SclNotice.text, sizeof Notices.SclNotice.text,
            "会議の資料を三部印刷し、二階の会議室へ運ぶ。Projectorの電源と、お茶の用意も忘れずに。");
 }
 
@@ -48,30 +52,30 @@ void FillNotes() {
       "おばあさんの誕生日。花屋さんに花束を頼み、電車の切符も前の日までに買っておく。",
   };
   for (int note = 0; note < kNoteNoticeCount; ++note) {
-    NoteNotices[note] = {true, TodayYear, 9 + note, {}};
-    TextCopy(NoteNotices[note].text, sizeof NoteNotices[note].text, kTexts[note]);
+    Notices.NoteNotices[note] = {true, Today.TodayYear, 9 + note, {}};
+    TextCopy(Notices.NoteNotices[note].text, sizeof Notices.NoteNotices[note].text, kTexts[note]);
   }
 }
 
 void FillAlarm() {
-  ClockAlarmSlot = 0;
+  Clock.ClockAlarmSlot = 0;
   AlarmSlot alarm{false, 7, 0, 1, {}};
   TextCopy(alarm.comment, sizeof alarm.comment,
            "おはようございます。今日は燃えるごみの日です。八時までに出してから、植木に水をやりましょう。");
-  AlarmSlotPut(ClockAlarmSlot, alarm);
+  AlarmSlotPut(Clock.ClockAlarmSlot, alarm);
 }
 
 // A hidden window in the place of one that is not open, for a menu to belong to.
 void StandIn(WindowHandle& window, int templateId) {
-  if (!window) window = DialogOpen(templateId, hMainWnd, [](const Event&) { return false; });
+  if (!window) window = DialogOpen(templateId, Program.hMainWnd, [](const Event&) { return false; });
   WindowShow(window, false);
 }
 
 void FillMenus() {
-  StandIn(hSclTableWnd, IDD_FlyingBat2);
-  StandIn(hCalenWnd, IDD_FlyingBat3);
-  StandIn(hClockWnd, IDD_FlyingBat6);
-  PopupPoint = {40, 40};
+  StandIn(SclTable.hSclTableWnd, IDD_FlyingBat2);
+  StandIn(Calendar.hCalenWnd, IDD_FlyingBat3);
+  StandIn(Clock.hClockWnd, IDD_FlyingBat6);
+  Popups.PopupPoint = {40, 40};
 }
 
 // Runs once, as soon as the start is over.

@@ -1,0 +1,326 @@
+// The desktop calendars: their records, tables and limits.
+//
+// There are up to 30 calendars. Each keeps a sheet (one year of month blocks),
+// and a definition (holiday rules, stickers, looks). What is on show is not a
+// sheet but the working array of up to three years, CalenMonths.
+//
+// Months count from 0, days from 0, years are two digits; Monday is 0.
+#pragma once
+
+#include <cstdint>
+
+#include "platform/types.h"
+#include "services/big_endian.h"
+#include "services/scl_date.h"
+
+// --- Month block, 4672 bytes.
+//
+// offset  size  field
+//      0     1  days of the month
+//      1     1  weekday of the first
+//      2    32  holiday flag per day
+//     34  4096  note per day: 32 texts of 128 bytes
+//   4130   542  month picture settings:
+//   4130   512  background file, at most 510 bytes used
+//   4642     3  background colour: red, green, blue
+//   4645     1  spare
+//   4646     4  character of the two figures, number from 1, 0 for none
+//   4650     2  figure of each
+//   4652     4  horizontal correction of each, signed
+//   4656     4  vertical correction of each, signed
+//   4660     2  direction of each
+//   4662     2  figure follows the year, of each
+//   4664     2  period of each
+//   4666     2  step of each
+//   4668     1  colour instead of the background file
+//   4669     1  picture on
+//   4670     2  start position of each
+
+inline constexpr int kMonthBlockSize = 4672;
+inline constexpr int kMonthDays = 0;
+inline constexpr int kMonthFirstWeekday = 1;
+inline constexpr int kMonthHolidays = 2;
+inline constexpr int kMonthDayMax = 32;
+inline constexpr int kMonthNotes = 34;
+inline constexpr int kNoteSize = 128;
+inline constexpr int kMonthPicture = 4130;
+inline constexpr int kMonthPictureSize = 542;
+inline constexpr int kMonthBackground = 4130;
+inline constexpr int kMonthBackgroundSize = 512;
+inline constexpr int kMonthBackgroundMax = 510;
+inline constexpr int kMonthBackColour = 4642;
+inline constexpr int kMonthFigChara = 4646;
+inline constexpr int kMonthFigFigure = 4650;
+inline constexpr int kMonthFigCorrectX = 4652;
+inline constexpr int kMonthFigCorrectY = 4656;
+inline constexpr int kMonthFigDirection = 4660;
+inline constexpr int kMonthFigYear = 4662;
+inline constexpr int kMonthFigPeriod = 4664;
+inline constexpr int kMonthFigStep = 4666;
+inline constexpr int kMonthColourOnly = 4668;
+inline constexpr int kMonthPictureOn = 4669;
+inline constexpr int kMonthFigStart = 4670;
+
+// The choices of the two figures that follow the year, 10 bytes for each month.
+inline constexpr int kMonthFlagsSize = 10;
+
+inline constexpr int kCalenYearMax = 3;
+inline constexpr int kFigureCount = 2;    // moving figures of a page
+inline constexpr int kFigureCopies = 30;  // copies of each that the settings hold
+
+// --- Definition block, 26,728 bytes. Months in rows, first row January.
+//
+// offset  size  field
+//      0     1  valid
+//     12    96  per month four characters, 16 bits, number + 1, 0 for none
+//    108    48  per month four figures
+//    156    48  per month four figure modes
+//    204   192  per month four start x, 32 bits
+//    396   192  per month four start y
+//    588   365  rule kinds, up to the first zero
+//  12633   730  two parameters of each rule
+//  26138     3  first rule colour: red, green, blue
+//  26141     3  second rule colour
+//  26144     1  page design kind: 1 uses the font, 2 and more draws digits as figures
+//  26148    60  font record
+//  26208     2  first figure set
+//  26210     2  second figure set
+//  26227     1  ticker pause code
+//  26228     1  ticker speed, pixels a step less 1
+//  26229     1  ticker flags
+//  26230     1  ticker place, 0 to 4
+//  26234     3  ticker colour: red, green, blue
+//  26301   384  sticker per day: 12 months of 32, sticker number + 1, 0 for none
+//  26688     4  English flag
+// The rest stays as it is.
+
+inline constexpr int kDefinitionSize = 26728;
+inline constexpr int kDefinitionValid = 0;
+inline constexpr int kDefinitionPlaces = 4;  // characters of a month
+inline constexpr int kDefinitionCharas = 12;
+inline constexpr int kDefinitionFigures = 108;
+inline constexpr int kDefinitionFigureModes = 156;
+inline constexpr int kDefinitionStartX = 204;
+inline constexpr int kDefinitionStartY = 396;
+inline constexpr int kDefinitionRules = 588;
+inline constexpr int kDefinitionRuleMax = 365;
+inline constexpr int kDefinitionRuleParameters = 12633;
+inline constexpr int kDefinitionColour1 = 26138;
+inline constexpr int kDefinitionColour2 = 26141;
+inline constexpr int kDefinitionDesign = 26144;
+inline constexpr int kDefinitionFont = 26148;
+inline constexpr int kDefinitionFontSize = 60;
+inline constexpr int kDefinitionFigureSet1 = 26208;
+inline constexpr int kDefinitionFigureSet2 = 26210;
+inline constexpr int kDefinitionTickerPause = 26227;
+inline constexpr int kDefinitionTickerSpeed = 26228;
+inline constexpr int kDefinitionTickerFlags = 26229;
+inline constexpr int kDefinitionTickerPlace = 26230;
+inline constexpr int kDefinitionTickerColour = 26234;
+inline constexpr int kDefinitionStickers = 26301;
+inline constexpr int kDefinitionStickerDays = 32;
+inline constexpr int kDefinitionEnglish = 26688;
+
+// The font record inside the definition: five 32-bit numbers, eight flags, and
+// the face.
+inline constexpr int kFontHeight = 0;
+inline constexpr int kFontWidth = 4;
+inline constexpr int kFontWeight = 16;
+inline constexpr int kFontItalic = 20;
+inline constexpr int kFontFace = 28;
+inline constexpr int kFontFaceSize = 32;
+
+// Rule kinds: the low five bits, and two flags. A byte of 128 or more is passed
+// over.
+inline constexpr unsigned kRuleKindMask = 31;
+inline constexpr unsigned kRuleLeapEarlier = 32;  // a day earlier in a leap year
+inline constexpr unsigned kRuleNoSubstitute = 64;
+inline constexpr unsigned kRuleSkipped = 128;
+inline constexpr unsigned kRuleDate = 1;
+inline constexpr unsigned kRuleNthWeekday = 2;
+inline constexpr unsigned kRuleEveryWeekday = 3;         // to 9, Monday to Sunday
+inline constexpr unsigned kRuleEverySecondWeekday = 11;  // to 17
+
+inline constexpr unsigned kTickerOn = 1;
+inline constexpr unsigned kTickerWeek = 128;  // today and the next six days
+
+// --- Stickers, 302 bytes: a count, 100 characters (number + 1, 16 bits), and 100
+// figures.
+
+inline constexpr int kStickerMax = 100;
+inline constexpr int kStickerListSize = 302;
+inline constexpr int kStickerCount = 0;
+inline constexpr int kStickerCharas = 2;
+inline constexpr int kStickerFigures = 202;
+
+// The stickers in use, 0 to 100, whatever the list says.
+int CalenStickerCount();
+// Character (number + 1, 0 for none) and figure of a sticker from 0; 0 and 0
+// beyond the list.
+void CalenSticker(int place, int* chara, int* figure);
+
+// --- All calendars, kept in mirrell_calen_file.dcd.
+
+inline constexpr int kCalenMax = 30;
+inline constexpr int kCalenNameSize = 129;
+inline constexpr int kCalenSettingsCount = 8;  // the calendars that the settings file names too
+
+enum CalenPageKind { kPageMonth = 0, kPageWeek = 1, kPageDay = 2 };
+
+// --- What is on show, kept in the settings file.
+
+// --- Ways into the tables. An index out of a file is held inside its table.
+
+int CalenSelected();               // CalenSel, 0 if it is no calendar's place
+unsigned char* CalenDefinition();  // of the selected calendar
+int CalenYearShown();              // CalenYearPos, 0 if it is no place of the working array
+
+// The place of a two-digit year in the span of the calendar, -1 outside it.
+int CalenSpanIndex(int year);
+// The holiday flag of a day; false outside the tables.
+bool CalenHolidayFlag(int yearIndex, int month, int day);
+void CalenHolidayFlagSet(int yearIndex, int month, int day, bool holiday);
+// A day's note, terminated; empty outside the tables.
+void CalenNoteGet(int yearIndex, int month, int day, char (&to)[kNoteSize + 1]);
+void CalenNoteSet(int yearIndex, int month, int day, const char* note);
+
+// --- Years.
+
+// First start: three calendars of one year from this year on, their years built,
+// and the names that a new data set has.
+void CalenStartDefaults();
+// Names and page kinds of the first eight calendars; a name that is there stays.
+void CalenNameDefaults();
+// Sets the first year and the list of years, with 100 in place of a year of 100
+// or more.
+void CalenYearsSet(int firstYear);
+// The years that a span from `firstYear` may have: 1 to 3, and not past 2099.
+int CalenSpanLength(int firstYear, int wanted);
+// Another span: its years, their month tables, and the first year on display.
+void CalenSpanSet(int firstYear, int length);
+// Builds a year of the working array afresh: lengths, weekdays, each Sunday a
+// holiday, no notes.
+void CalenYearInit(int yearIndex);
+// Works out the lengths and weekdays of all months of the working array for the
+// years of the list. Notes stay; the flags of Sundays move with the weekdays.
+void CalenYearsRebuild();
+// Copies the selected calendar's sheet over each year of the working array, but
+// for the holiday flags and notes, and forces its picture switch on.
+void CalenUseSheet();
+
+// --- The calendar file.
+
+int CalenFilePath(char* buffer, int size);
+// Reads all calendars. Returns 0; -1 (FileStatus -1 or -2) when the file cannot
+// be opened or ends in its magic; -2 for a wrong magic or short month blocks. A
+// failed read leaves the tables as they were.
+int CalenFileRead();
+// Copies the first year of the working array into the selected sheet and writes
+// all calendars. Returns FileStatus: 0, -1 cannot create, -2 short write.
+int CalenFileWrite();
+
+// Takes the definition of the selected calendar into the display state: the
+// ticker, the stickers and the pictures of the month. Runs after each read of the
+// file and with each choice of a calendar.
+void CalenTakeDefinition();
+
+// --- Holidays by rule.
+
+enum class HolidayUse {
+  Schedule,  // without substitute holidays
+  Display,   // with them
+};
+// 0 no holiday, 1 one by date, 2 one by weekday.
+int CalenHolidayRule(int yearIndex, int month, int day, HolidayUse use);
+
+// --- The ticker, a strip of text that runs over the page.
+
+// Takes the ticker's settings from the selected calendar's definition.
+void CalenTickerSetup();
+
+// --- The month on show.
+
+// Puts the year and month of today on display, moving the span there if it lies
+// outside, and loads the pictures. The calendar window calls it when it opens.
+void CalenShowToday();
+// Called at each change of the month on show: a year on display outside the span
+// becomes the first of the span; then the month's pictures are loaded, and its
+// figures begin to move from their start.
+void CalenPrepareMonth();
+
+// --- The tick.
+
+// Takes a new date over and moves the figures. Returns 1 when the calendar must
+// be drawn again.
+int CalenTickCheck();
+
+// --- Announcing notes.
+
+inline constexpr int kNoteDays = 3;  // today, tomorrow, the day after
+
+// A note that waits to be announced.
+struct CalenNote {
+  bool due;
+  std::int32_t year;  // two digits
+  // kept: month and day share one place, and the day is the last to be put there;
+  // both numbers of the announced date are this one + 1.
+  std::int32_t monthAndDay;
+  char text[kNoteSize + 1];
+};
+struct CalendarState {
+  unsigned char CalenStickers[kStickerListSize] = {};
+  std::int32_t CalenCount = 0;
+  char CalenNames[kCalenMax][kCalenNameSize] = {};
+  unsigned char CalenKinds[kCalenMax] = {};     // CalenPageKind
+  unsigned char CalenParts[kCalenMax] = {};     // stored and read, no other use
+  unsigned char CalenPictures[kCalenMax] = {};  // picture switch
+  unsigned char CalenSheets[kCalenMax][kMonthsOfYear][kMonthBlockSize] = {};
+  unsigned char CalenSheetFlags[kCalenMax][kMonthsOfYear][kMonthFlagsSize] = {};
+  unsigned char CalenDefinitions[kCalenMax][kDefinitionSize] = {};
+  std::int32_t CalenSel = 0;  // the selected calendar, 0 to 29
+  // The working array, and the records of each of its months.
+  unsigned char CalenMonths[kCalenYearMax][kMonthsOfYear][kMonthBlockSize] = {};
+  unsigned char CalenMonthFlags[kCalenYearMax][kMonthsOfYear][kMonthFlagsSize] = {};
+  unsigned char CalenYears[kCalenYearMax] = {};  // the years of the working array, 100 for none
+  std::int32_t CalenShow = 0;                    // the calendar stands on the desktop
+  std::int32_t CalenYearPos = 0;                 // year on display, place in CalenYears
+  std::int32_t CalenFirstYear = 0;
+  std::int32_t CalenYearCount = 0;  // 1 to 3
+  std::int32_t CalenKind = 0;       // page kind of the selected calendar
+  std::int32_t CalenX = 0;
+  std::int32_t CalenY = 0;
+  std::int32_t CalenPageSize = 0;  // 0 to 2
+  std::int32_t CalenNoteMode = 0;  // announces notes: 0 never, 1 that day, 2 and 3 one and two days before
+  std::int32_t CalenNearNote = 0;  // 1: the next notes stand under the page
+  std::int32_t CalenPictureOn = 0;
+  unsigned char CalenBackColour[4] = {};  // red, green, blue, spare
+  unsigned char CalenFigPhase[kFigureCount][kFigureCopies] = {};
+  unsigned char CalenFigCount[kFigureCount] = {};
+  std::int32_t CalenFigPos1[kFigureCopies][2] = {};  // x, y
+  std::int32_t CalenFigPos2[kFigureCopies][2] = {};
+  std::int32_t CalenFigPeriod[kFigureCount] = {};
+  std::int32_t CalenFigStep[kFigureCount] = {};
+  std::int32_t CalenFigTurn[kFigureCount] = {};
+  unsigned char CalenFigDir[kFigureCount][kFigureCopies] = {};
+  // The size of the calendar's page, for the layout of the windows.
+  std::int32_t CalenW = 0;
+  std::int32_t CalenH = 0;
+  bool CalenTickerOn = false;
+  std::int32_t CalenTickerReach = 0;        // days from today on, 1 or 7
+  std::int32_t CalenTickerStep = 0;         // pixels a tick
+  std::int32_t CalenTickerPause = 0;        // rests of 2000 ticks between two runs
+  unsigned char CalenTickerColour[3] = {};  // red, green, blue
+  std::int32_t CalenTickerPlace = 0;        // 0 to 4 down the window
+  std::int32_t CalenMonthPos = 0;           // the month on display, 0 to 11
+  CalenNote CalenNotes[kNoteDays] = {};
+  WindowHandle hCalenWnd = nullptr;  // FlyingBat3
+  std::int32_t CalenClickedDay = 0;  // the day of the popup menu, from 1; 0 for none
+};
+extern CalendarState Calendar;
+
+// Looks for a note as CalenNoteMode asks and puts it into CalenNotes. Returns 1
+// when there is one, and again until it has been taken. A day's note that has been
+// taken comes back only on another date.
+int CalenNoteCheck();
+// Takes the first waiting note out of CalenNotes. Returns its place, -1 for none.
+int CalenNoteTake();

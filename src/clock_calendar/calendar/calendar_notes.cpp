@@ -1,0 +1,82 @@
+// Announcing the notes of the coming days, once for each day.
+#include <cstring>
+
+#include "clock_calendar/calendar/calendar.h"
+#include "platform/time.h"
+
+namespace {
+
+enum NoteMode { kNoteNever, kNoteThatDay, kNoteDayBefore, kNoteTwoDaysBefore };
+
+SclDate lookedAt = {-1, -1, -1, 0};  // the day that the marks are for
+bool done[kNoteDays];
+
+// A day of the working array. The year index may leave the span.
+struct Day {
+  int yearIndex;
+  int month;
+  int day;
+};
+
+// The day after, by the length of the month given.
+Day NextDay(Day day, int daysOfMonth) {
+  if (++day.day < daysOfMonth) return day;
+  day.day = 0;
+  if (++day.month < kMonthsOfYear) return day;
+  day.month = 0;
+  ++day.yearIndex;
+  return day;
+}
+
+// Puts a day's note into its slot, or marks the slot as done where there is none.
+// True if there is one.
+bool Announce(int slot, const Day& day) {
+  CalenNote& note = Calendar.CalenNotes[slot];
+  char text[kNoteSize + 1] = "";
+  const bool inSpan = day.yearIndex < kCalenYearMax && day.yearIndex < Calendar.CalenYearCount;
+  if (inSpan) CalenNoteGet(day.yearIndex, day.month, day.day, text);
+  if (text[0] == '\0') {
+    done[slot] = true;
+    return false;
+  }
+  note.due = true;
+  note.year = Calendar.CalenFirstYear + day.yearIndex;
+  note.monthAndDay = day.day;
+  std::memcpy(note.text, text, sizeof note.text);
+  return true;
+}
+
+}  // namespace
+
+int CalenNoteCheck() {
+  if (Calendar.CalenNoteMode <= kNoteNever) return 0;
+  LocalTime now;
+  TimeGetLocal(&now);
+  const SclDate today = {now.year - 2000, now.month - 1, now.day - 1, 0};
+  const int yearIndex = CalenSpanIndex(today.year);
+  if (yearIndex < 0) return 0;
+  if (today.year != lookedAt.year || today.month != lookedAt.month || today.day != lookedAt.day) {
+    lookedAt = today;
+    for (bool& mark : done) mark = false;
+  }
+  const Day first = {yearIndex, today.month, today.day};
+  if (!done[0] && Announce(0, first)) return 1;
+  if (Calendar.CalenNoteMode == kNoteThatDay) return 0;
+  const int daysOfMonth = Calendar.CalenMonths[yearIndex][today.month][kMonthDays];
+  const Day second = NextDay(first, daysOfMonth);
+  if (!done[1] && Announce(1, second)) return 1;
+  if (Calendar.CalenNoteMode != kNoteTwoDaysBefore || done[2]) return 0;
+  done[2] = true;
+  // kept: the second step is held against the length of the first day's month.
+  return Announce(2, NextDay(second, daysOfMonth)) ? 1 : 0;
+}
+
+int CalenNoteTake() {
+  for (int slot = 0; slot < kNoteDays; ++slot) {
+    if (!Calendar.CalenNotes[slot].due) continue;
+    Calendar.CalenNotes[slot].due = false;
+    done[slot] = true;
+    return slot;
+  }
+  return -1;
+}

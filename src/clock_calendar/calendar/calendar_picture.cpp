@@ -1,0 +1,97 @@
+#include "clock_calendar/calendar/calendar_picture.h"
+
+#include <cstring>
+
+#include "character/frames.h"
+#include "clock_calendar/calendar/calendar.h"
+#include "clock_calendar/clock_calendar_tick.h"
+#include "services/program.h"
+#include "services/text.h"
+
+CalendarPicturesState CalendarPictures;
+
+namespace {
+
+void PictureFree(CalenPicture& item) {
+  DibFree(item.picture);
+  DibFree(item.mask);
+  item = CalenPicture{};
+}
+
+// Loads a frame (from 0) of a character (from 1).
+void PictureLoad(CalenPicture& item, int chara, int frame) {
+  item.picture = DibLoad(CharaBmpPath(chara - 1, frame));
+  item.mask = DibLoad(CharaMaskPath(chara - 1, frame));
+  DibApplyMask(item.picture, item.mask);
+}
+
+void StickersFree() {
+  for (CalenPicture& sticker : CalendarPictures.CalenDayStickers) PictureFree(sticker);
+}
+
+void MonthPicturesFree() {
+  DibFree(CalendarPictures.CalenBackground);
+  CalendarPictures.CalenBackground = nullptr;
+  for (CalenPicture& figure : CalendarPictures.CalenFigures) PictureFree(figure);
+}
+
+void BackgroundLoad(const unsigned char* block) {
+  char name[kMonthBackgroundMax + 1];
+  std::memcpy(name, block + kMonthBackground, kMonthBackgroundMax);
+  name[kMonthBackgroundMax] = '\0';
+  if (block[kMonthColourOnly] != 0 || name[0] == '\0') return;
+  char path[kRootPathSize + kMonthBackgroundSize] = "";
+  const bool fullPath = name[0] == '\\' || name[1] == ':';
+  if (!fullPath) RootPath(path, sizeof path, "\\背景\\");
+  TextAppend(path, sizeof path, name);
+  CalendarPictures.CalenBackground = DibLoad(path);
+}
+
+void FigureLoad(int place) {
+  const unsigned char* definition = CalenDefinition();
+  const int at = kDefinitionPlaces * Calendar.CalenMonthPos + place;
+  const int chara = GetLE16(definition + kDefinitionCharas + 2 * at);
+  if (chara == 0) return;
+  const int frame =
+      CalenFigureChoice(chara, definition[kDefinitionFigures + at], definition[kDefinitionFigureModes + at]);
+  PictureLoad(CalendarPictures.CalenFigures[place], chara, frame);
+}
+
+}  // namespace
+
+int CalenPictureHeight() {
+  if (Calendar.CalenPictureOn == 0) return 0;
+  if (Calendar.CalenPageSize == 0) return 145;
+  return Calendar.CalenPageSize == 2 ? 245 : 195;
+}
+
+void CalenPicturesLoad() {
+  MonthPicturesFree();
+  const unsigned char* block = Calendar.CalenMonths[CalenYearShown()][Calendar.CalenMonthPos];
+  if (block[kMonthPictureOn] != 0) {
+    BackgroundLoad(block);
+    for (int place = 0; place < kFigurePlaces; ++place) FigureLoad(place);
+  }
+  const unsigned char* definition = CalenDefinition();
+  const int fixed = 4 * (kDefinitionPlaces * Calendar.CalenMonthPos + kFigureCount);
+  CalendarPictures.CalenFixedFigure = {static_cast<int>(GetLE32(definition + kDefinitionStartX + fixed)),
+                                       static_cast<int>(GetLE32(definition + kDefinitionStartY + fixed))};
+  CalenFiguresSetup();
+}
+
+void CalenStickersPrepare() {
+  StickersFree();
+  const unsigned char* days =
+      CalenDefinition() + kDefinitionStickers + kDefinitionStickerDays * Calendar.CalenMonthPos;
+  for (int day = 0; day < kStickerDays; ++day) {
+    int chara = 0;
+    int figure = 0;
+    CalenSticker(days[day] - 1, &chara, &figure);
+    if (chara != 0) PictureLoad(CalendarPictures.CalenDayStickers[day], chara, figure);
+  }
+}
+
+void CalenStickersFree() {
+  StickersFree();
+  MonthPicturesFree();
+}

@@ -1,0 +1,67 @@
+// The calendar's part of a tick: a new day, a new month on show.
+#include <algorithm>
+
+#include "clock_calendar/calendar/calendar.h"
+#include "clock_calendar/calendar/calendar_picture.h"
+#include "platform/time.h"
+#include "services/today.h"
+
+namespace {
+
+void BeginSpanAt(int year) {
+  CalenYearsSet(year);
+  CalenYearsRebuild();
+  Calendar.CalenYearPos = 0;
+}
+
+void DisplayToday() {
+  Calendar.CalenMonthPos = std::clamp<std::int32_t>(Today.TodayMonth, 0, kMonthsOfYear - 1);
+  const int index = CalenSpanIndex(Today.TodayYear);
+  if (index >= 0) {
+    Calendar.CalenYearPos = index;
+  } else {
+    BeginSpanAt(Today.TodayYear);
+  }
+}
+
+}  // namespace
+
+void CalenTakeDefinition() {
+  CalenTickerSetup();
+  CalenShowToday();
+}
+
+void CalenShowToday() {
+  DisplayToday();
+  CalenStickersPrepare();
+  CalenPicturesLoad();
+}
+
+void CalenPrepareMonth() {
+  if (Calendar.CalenYearPos < 0 ||
+      Calendar.CalenYearPos >= std::min<std::int32_t>(Calendar.CalenYearCount, kCalenYearMax)) {
+    const std::int64_t year = std::int64_t{Calendar.CalenFirstYear} + Calendar.CalenYearPos;
+    // bounded: the settings file may hold any place; today is always a year.
+    BeginSpanAt(year >= 0 && year <= 99 ? static_cast<int>(year) : Today.TodayYear);
+  }
+  CalenStickersPrepare();
+  CalenPicturesLoad();
+  for (int figure = 0; figure < kFigureCount; ++figure) CalenFigurePlace(figure);
+}
+
+int CalenTickCheck() {
+  LocalTime now;
+  TimeGetLocal(&now);
+  const SclDate today = {now.year - 2000, now.month - 1, now.day - 1, now.hour};
+  const bool otherMonth = today.year != Today.TodayYear || today.month != Today.TodayMonth;
+  const bool otherDay = otherMonth || today.day != Today.TodayDay;
+  Today.TodayYear = today.year;
+  Today.TodayMonth = today.month;
+  Today.TodayDay = today.day;
+  if (otherMonth) {
+    DisplayToday();
+    CalenPrepareMonth();
+  }
+  const bool moved = CalenFiguresMove();
+  return otherDay || moved ? 1 : 0;
+}

@@ -1,0 +1,121 @@
+// The years of the working array: which they are, their month tables, and how a
+// sheet gets into them.
+#include <algorithm>
+#include <cstring>
+
+#include "clock_calendar/calendar/calendar.h"
+#include "platform/time.h"
+#include "services/text.h"
+
+namespace {
+
+constexpr int kNoYear = 100;  // stands in the list for years the system does not know
+constexpr int kFirstCalendars = 3;
+
+constexpr const char* kDefaultNames[kCalenSettingsCount] = {
+    "月ごとカレンダー",        "1週間カレンダー(日付縦)", "日めくりカレンダー",
+    "ユーザー設定カレンダー1", "ユーザー設定カレンダー2", "ユーザー設定カレンダー3",
+    "ユーザー設定カレンダー4", "ユーザー設定カレンダー5",
+};
+constexpr unsigned char kDefaultKinds[kCalenSettingsCount] = {kPageMonth, kPageWeek, kPageDay};
+
+// The weekday of the first of a month as a month block keeps it. bounded: a year
+// without weekdays counts from Monday.
+int FirstWeekday(int year, int month) {
+  return std::max(SclFirstWeekday(year, month), 0);
+}
+
+bool IsSunday(int firstWeekday, int day) {
+  return (firstWeekday + day) % kDaysOfWeek == kSunday;
+}
+
+}  // namespace
+
+void CalenStartDefaults() {
+  LocalTime now;
+  TimeGetLocal(&now);
+  Calendar.CalenCount = kFirstCalendars;
+  CalenNameDefaults();
+  CalenYearsSet(now.year - 2000);
+  Calendar.CalenYearCount = 1;
+  for (int i = 0; i < kCalenYearMax; ++i) CalenYearInit(i);
+  for (int i = 0; i < kFirstCalendars; ++i) {
+    std::memcpy(Calendar.CalenSheets[i], Calendar.CalenMonths[0], sizeof Calendar.CalenSheets[i]);
+    Calendar.CalenDefinitions[i][kDefinitionValid] = 1;
+  }
+}
+
+void CalenNameDefaults() {
+  for (int i = 0; i < kCalenSettingsCount; ++i) {
+    if (Calendar.CalenNames[i][0] == '\0') TextCopy(Calendar.CalenNames[i], kCalenNameSize, kDefaultNames[i]);
+    Calendar.CalenKinds[i] = kDefaultKinds[i];
+  }
+}
+
+void CalenYearsSet(int firstYear) {
+  Calendar.CalenFirstYear = firstYear;
+  for (int i = 0; i < kCalenYearMax; ++i) {
+    const int year = firstYear + i;
+    Calendar.CalenYears[i] = static_cast<unsigned char>(year >= 0 && year < kNoYear ? year : kNoYear);
+  }
+}
+
+int CalenSpanLength(int firstYear, int wanted) {
+  return std::max(1, std::min({wanted, kCalenYearMax, kNoYear - firstYear}));
+}
+
+void CalenSpanSet(int firstYear, int length) {
+  Calendar.CalenYearCount = CalenSpanLength(firstYear, length);
+  CalenYearsSet(firstYear);
+  CalenYearsRebuild();
+  Calendar.CalenYearPos = 0;
+}
+
+void CalenYearInit(int yearIndex) {
+  if (yearIndex < 0 || yearIndex >= kCalenYearMax) return;
+  for (int month = 0; month < kMonthsOfYear; ++month) {
+    unsigned char* block = Calendar.CalenMonths[yearIndex][month];
+    const int days = SclDaysInMonth(Calendar.CalenYears[yearIndex], month);
+    const int first = FirstWeekday(Calendar.CalenYears[yearIndex], month);
+    block[kMonthDays] = static_cast<unsigned char>(days);
+    block[kMonthFirstWeekday] = static_cast<unsigned char>(first);
+    std::memset(block + kMonthHolidays, 0, kMonthPicture - kMonthHolidays);
+    for (int day = 0; day < days; ++day) block[kMonthHolidays + day] = IsSunday(first, day) ? 1 : 0;
+  }
+}
+
+void CalenYearsRebuild() {
+  for (int i = 0; i < kCalenYearMax; ++i) {
+    for (int month = 0; month < kMonthsOfYear; ++month) {
+      unsigned char* block = Calendar.CalenMonths[i][month];
+      const int oldFirst = block[kMonthFirstWeekday];
+      const int oldDays = std::min<int>(block[kMonthDays], kMonthDayMax);
+      const int first = FirstWeekday(Calendar.CalenYears[i], month);
+      const int days = SclDaysInMonth(Calendar.CalenYears[i], month);
+      block[kMonthDays] = static_cast<unsigned char>(days);
+      block[kMonthFirstWeekday] = static_cast<unsigned char>(first);
+      if (first == oldFirst && days == oldDays) continue;
+      for (int day = 0; day < kMonthDayMax; ++day) {
+        const bool wasSunday = day < oldDays && IsSunday(oldFirst, day);
+        const bool isSunday = day < days && IsSunday(first, day);
+        if (wasSunday != isSunday) block[kMonthHolidays + day] = isSunday ? 1 : 0;
+      }
+    }
+  }
+}
+
+void CalenUseSheet() {
+  const int sel = CalenSelected();
+  for (int i = 0; i < kCalenYearMax; ++i) {
+    for (int month = 0; month < kMonthsOfYear; ++month) {
+      std::memcpy(Calendar.CalenMonths[i][month] + kMonthPicture,
+                  Calendar.CalenSheets[sel][month] + kMonthPicture, kMonthPictureSize);
+    }
+  }
+  CalenYearsRebuild();
+  for (int i = 0; i < kCalenYearMax; ++i) {
+    std::memcpy(Calendar.CalenMonthFlags[i], Calendar.CalenSheetFlags[sel],
+                sizeof Calendar.CalenMonthFlags[i]);
+  }
+  Calendar.CalenPictures[sel] = 1;
+}

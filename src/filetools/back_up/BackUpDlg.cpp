@@ -1,0 +1,53 @@
+// BackUpDlg, "バックアップ実行中": a run, driven by the tick.
+
+#include "filetools/back_up/back_up.h"
+#include "filetools/back_up/back_up_dialogs.h"
+#include "platform/dialog.h"
+#include "resources/ids.h"
+#include "services/boxes.h"
+
+namespace {
+
+constexpr std::uint32_t kStepCommand = 2375;
+
+bool completed;
+
+void End(WindowHandle dialog) {
+  if (BackUpRun.hBackUpDlg != dialog) return;
+  BackUpRun.BackUpActive = false;
+  BackUpRun.hBackUpDlg = nullptr;
+  DialogEnd(dialog, 0);
+}
+
+void Step(WindowHandle dialog) {
+  const int result = BackUpStep();
+  if (result == 0) return;
+  completed = result > 0;
+  if (!completed) {
+    BoxTell(dialog, "ファイルをコピーできません", "ファイルバックアップエラー");
+  }
+  End(dialog);
+}
+
+bool Handle(const Event& event) {
+  if (event.kind == EventKind::Init) {
+    BackUpRun.hBackUpDlg = event.window;
+    BackUp.fileCursor = 0;
+    BackUpRun.BackUpActive = true;
+  } else if (event.kind == EventKind::Command && event.command == kStepCommand) {
+    Step(event.window);
+  } else if (EndIsAsked(event)) {
+    End(event.window);
+  } else {
+    return false;
+  }
+  return true;
+}
+
+}  // namespace
+
+bool BackUpDlgRun(WindowHandle owner) {
+  completed = false;
+  DialogRun(IDD_BackUpDlg, owner, Handle);
+  return completed;
+}

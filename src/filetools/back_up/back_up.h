@@ -1,0 +1,80 @@
+// The back-up: a list of source files, the folder they are copied to, and what
+// can be done with them. A settings file (*.BUP) keeps the list:
+//
+//   offset  size    content
+//        0  45      magic, no terminator
+//       45  4       fileCount, big-endian
+//       49  300     destDir
+//      349  60000   destPath, 100 fields of 600 bytes
+//    60349  60000   sourcePath, 100 fields of 600 bytes
+//   120349  256     comment
+//
+// All 100 fields of both tables are always there; those past fileCount hold
+// what stands in memory.
+#pragma once
+
+#include <cstdint>
+
+#include "platform/types.h"
+
+struct BackUpRunState {
+  WindowHandle hBackUpDlg = nullptr;  // BackUpDlg, the progress
+  bool BackUpActive = false;          // a run copies a file a tick
+};
+extern BackUpRunState BackUpRun;
+
+inline constexpr int kBackUpMax = 100;
+inline constexpr int kBackUpPathSize = 600;
+inline constexpr int kBackUpFileSize = 120605;
+
+struct BackUpSet {
+  std::int32_t fileCount;  // 0 to 100
+  char sourcePath[kBackUpMax][kBackUpPathSize];
+  char destPath[kBackUpMax][kBackUpPathSize];  // where the copy goes; may be empty
+  char destDir[300];                           // without a backslash at its end
+  char comment[256];
+  std::int8_t differs[kBackUpMax];  // last comparison by content: 0 or -3
+  std::int32_t fileCursor;          // the next file of a run
+  bool dirty;                       // the list was changed; nothing asks for it
+};
+extern BackUpSet BackUp;
+
+// True if no more file can be added.
+bool BackUpIsFull();
+
+// Adds a source by its first 512 bytes. 0, or 1 when a row of the list is equal
+// to the path or to its beginning, or -1 when the list is full.
+int BackUpAddSource(const char* path);
+
+// Takes one row, or all, out of both tables. A row that is not there is passed
+// over.
+void BackUpRemoveSource(int row);
+void BackUpClearSources();
+
+// Makes every destPath from destDir and the source's name. Does nothing without
+// sources or without destDir.
+void BackUpRebuildDest();
+
+// Read and write a settings file. 0, or what FileStatus says too: -1 it cannot
+// be opened or made, -2 a short transfer or no such file. What a load had read
+// by then stays.
+int BackUpLoad(const char* path);
+int BackUpSave(const char* path);
+
+// Copies the next file of the run: 1 when all had been copied before, 0 when it
+// was copied, -1 when it could not be. 1 and -1 end the run (BackUpActive).
+int BackUpStep();
+
+// Compare the times of last writing, exactly: 0 no difference, 1 a difference or
+// a missing copy, -1 a missing source, whichever comes first.
+int BackUpCompareDate();
+
+// Compares all contents into `differs`: 0 no difference, -3 some, -1 at once at
+// a missing source, -2 at once at a missing copy.
+int BackUpCompareContent();
+
+// How a row reads in the list of the comparison, "name (source time - copy
+// time)". False if the row does not belong there: equal times, or contents that
+// did not differ.
+bool BackUpListDate(int row, char* text, int size);
+bool BackUpListContent(int row, char* text, int size);

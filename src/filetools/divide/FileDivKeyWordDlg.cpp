@@ -1,0 +1,77 @@
+// FileDivKeyWordDlg and FileDivKeyWordDlg2, "暗号化キーワード入力".
+
+#include <cstring>
+
+#include "filetools/divide/divide_dialogs.h"
+#include "filetools/divide/file_divide.h"
+#include "platform/dialog.h"
+#include "resources/ids.h"
+#include "services/boxes.h"
+#include "services/dialog_family.h"
+#include "services/text.h"
+
+namespace {
+
+constexpr int kDivideId = 2043;
+constexpr int kRestoreId = 2044;
+
+bool Dividing() {
+  return Dialogs.DlgIdTool == kDivideId;
+}
+
+void Forget() {
+  std::memset(FileDivide.keyword, 0, sizeof FileDivide.keyword);
+  FileDivide.keywordLength = 0;
+}
+
+bool Confirmed(WindowHandle dialog, const char* keyword) {
+  char text[160];
+  TextFormat(text, sizeof text, "重要: キーワード \"%s\" はファイル復元時にも必要です。 分割を開始します。",
+             keyword);
+  return BoxAsk(dialog, text, "ファイル分割の実行");
+}
+
+// kept: whether a keyword is the right one is never tested.
+void Accept(WindowHandle dialog) {
+  // kept: a double-byte character at the eighth byte is cut in two.
+  char keyword[kDivKeywordMax + 1] = {};
+  ControlGetText(dialog, IDC_DIVIDE_KEYWORD, keyword, sizeof keyword);
+  const std::size_t length = TextLength(keyword, kDivKeywordMax);
+  if (length < kDivKeywordMin) {
+    BoxTell(dialog, "キーワードは半角4文字以上8文字までで入力します。", "キーワード設定エラー");
+    return;
+  }
+  if (Dividing() && !Confirmed(dialog, keyword)) return;
+  std::memcpy(FileDivide.keyword, keyword, sizeof keyword);
+  FileDivide.keywordLength = static_cast<std::int32_t>(length);
+  ToolDialogEnd(dialog, 1);
+}
+
+bool Handle(const Event& event) {
+  if (event.kind == EventKind::Init) {
+    if (Dividing()) {
+      ControlSetText(event.window, IDC_DIVIDE_KEYWORD, "");
+      FileDivide.keywordLength = 0;
+    }
+    return true;
+  }
+  if (event.kind == EventKind::Command && event.command == 1) {
+    Accept(event.window);
+    return true;
+  }
+  // kept: a cancelled restore leaves the keyword of an earlier run in force.
+  const bool cancelled =
+      event.kind == EventKind::Close || (event.kind == EventKind::Command && event.command == 2);
+  if (cancelled && Dividing()) Forget();
+  return false;
+}
+
+}  // namespace
+
+void FileDivKeyWordDlgRun(WindowHandle owner) {
+  ToolDialogRun(kDivideId, IDD_FileDivKeyWordDlg, owner, Handle);
+}
+
+void FileDivKeyWordDlg2Run(WindowHandle owner) {
+  ToolDialogRun(kRestoreId, IDD_FileDivKeyWordDlg2, owner, Handle);
+}

@@ -1,0 +1,29 @@
+// FileDivideSetDlg, "ファイル 分割/復元選択".
+
+#include "filetools/divide/divide_commands.h"
+#include "filetools/divide/divide_dialogs.h"
+#include "resources/ids.h"
+#include "services/dialog_family.h"
+#include "services/program.h"
+
+namespace {
+
+constexpr int kDialogId = 2010;
+
+bool Handle(const Event& event) {
+  if (event.kind != EventKind::Command) return false;
+  if (event.command == IDC_DIVIDE_CHOOSE_DIVIDE) {
+    ToolDialogEnd(event.window, kCommandDivide);
+  } else if (event.command == IDC_DIVIDE_CHOOSE_RESTORE) {
+    ToolDialogEnd(event.window, kCommandRestore);
+  } else {
+    return false;
+  }
+  return true;
+}
+
+}  // namespace
+
+int FileDivideSetDlgRun() {
+  return ToolDialogRun(kDialogId, IDD_FileDivideSetDlg, Program.hMainWnd, Handle);
+}

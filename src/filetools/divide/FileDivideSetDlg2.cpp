@@ -1,0 +1,163 @@
+// FileDivideSetDlg2, "ファイル 分割", and FileDivideSetDlg3, "ファイル 復元".
+
+#include "filetools/divide/divide_commands.h"
+#include "filetools/divide/divide_dialogs.h"
+#include "filetools/divide/file_divide.h"
+#include "filetools/path_row.h"
+#include "platform/canvas.h"
+#include "platform/dialog.h"
+#include "platform/window.h"
+#include "resources/ids.h"
+#include "services/decimal.h"
+#include "services/dialog_family.h"
+#include "services/drawing_objects.h"
+#include "services/program.h"
+#include "services/text.h"
+
+namespace {
+
+constexpr Colour kRed = MakeColour(255, 0, 0);
+constexpr int kRowSize = 1100;
+
+// Where the two dialogs differ.
+struct Kind {
+  int dialogId;
+  int templateId;
+  std::uint32_t pickCommand;
+  std::uint32_t folderCommand;
+  const char* banner;
+  Rect bannerBox;  // in dialog units; wiped when there is no banner
+};
+constexpr Kind kDivide{kDivideDialogId,      IDD_FileDivideSetDlg2,  kCommandDividePick,
+                       kCommandDivideFolder, "ファイル分割中です !", {215, 108, 375, 143}};
+constexpr Kind kRestore{kRestoreDialogId,      IDD_FileDivideSetDlg3, kCommandRestorePick,
+                        kCommandRestoreFolder, "ファイル合成中です!", {277, 58, 370, 93}};
+constexpr int kBannerInset = 2;
+
+// The two sizes of a division, in dialog units: beside their labels, as wide as the
+// longest one.
+constexpr Rect kSourceSize{105, 68, 165, 76};
+constexpr Rect kPieceSize{105, 90, 165, 98};
+
+// The kind that is open; null if none is.
+const Kind* OpenKind() {
+  if (!Dialogs.hMenuDlg) return nullptr;
+  if (Dialogs.DlgIdMenu == kDivide.dialogId) return &kDivide;
+  if (Dialogs.DlgIdMenu == kRestore.dialogId) return &kRestore;
+  return nullptr;
+}
+
+// Without a pen the last row and column are left out.
+void Wipe(Canvas* canvas, const Rect& box) {
+  CanvasRectangle(canvas, box.left, box.top, box.right, box.bottom);
+}
+
+void DrawSize(Canvas* canvas, const Rect& at, std::uint32_t size) {
+  char text[24];
+  TextFormat(text, sizeof text, "%u Byte", static_cast<unsigned>(size));
+  Wipe(canvas, {at.left, at.top, at.right + 1, at.bottom + 1});
+  CanvasText(canvas, at.left, at.top, text);
+}
+
+void DrawBanner(Canvas* canvas, const char* banner, const Rect& box) {
+  if (FileDivide.banner) {
+    CanvasTextColour(canvas, kRed);
+    CanvasText(canvas, box.left + kBannerInset, box.top + kBannerInset, banner);
+  } else {
+    Wipe(canvas, box);
+  }
+}
+
+void Paint(WindowHandle dialog, const Kind& kind) {
+  Canvas* canvas = CanvasGet(dialog);
+  if (!canvas) return;
+  CanvasBrush(canvas, Drawing.FaceBrush);
+  CanvasPen(canvas, PenNothing());
+  CanvasBackTransparent(canvas, true);
+  if (kind.dialogId == kDivideDialogId) {
+    DrawSize(canvas, DialogUnits(dialog, kSourceSize), FileDivide.sourceSize);
+    DrawSize(canvas, DialogUnits(dialog, kPieceSize), FileDivide.pieceSize);
+  }
+  DrawBanner(canvas, kind.banner, DialogUnits(dialog, kind.bannerBox));
+  CanvasRelease(canvas);
+}
+
+void Show(WindowHandle dialog) {
+  char text[kRowSize];
+  PathRow(FileDivide.sourcePath, text, sizeof text);
+  ControlSetText(dialog, IDC_DIVIDE_SOURCE, text);
+  ControlSetText(dialog, IDC_DIVIDE_FOLDER, FileDivide.storeDir);
+}
+
+// The fields that only the division has are passed over in the other dialog.
+void Open(WindowHandle dialog) {
+  Show(dialog);
+  char count[16];
+  TextFormat(count, sizeof count, "%d", static_cast<int>(FileDivide.divideCount));
+  ControlSetText(dialog, IDC_DIVIDE_NAME, FileDivide.baseName);
+  ControlSetText(dialog, IDC_DIVIDE_COUNT, count);
+  ControlSetChecked(dialog, IDC_DIVIDE_ENCRYPT, FileDivide.encryptFlag != 0);
+}
+
+bool Command(const Event& event, const Kind& kind) {
+  if (event.notice != Notice::Click) return false;
+  switch (event.command) {
+    case IDC_DIVIDE_PICK:
+      SendCommand(Program.hMainWnd, kind.pickCommand);
+      return true;
+    case IDC_DIVIDE_PICK_FOLDER:
+      SendCommand(Program.hMainWnd, kind.folderCommand);
+      return true;
+    case IDC_DIVIDE_RUN:
+      SendCommand(Program.hMainWnd, kCommandDivideRun);
+      return true;
+    case IDC_DIVIDE_ENCRYPT:
+      FileDivide.encryptFlag = ControlIsChecked(event.window, IDC_DIVIDE_ENCRYPT) ? 1 : 0;
+      return true;
+    default:
+      return false;
+  }
+}
+
+bool Handle(const Event& event) {
+  const Kind* kind = OpenKind();
+  if (!kind) return false;
+  switch (event.kind) {
+    case EventKind::Init:
+      Open(event.window);
+      return true;
+    case EventKind::Paint:
+      Paint(event.window, *kind);
+      return true;
+    case EventKind::Command:
+      return Command(event, *kind);
+    default:
+      return false;
+  }
+}
+
+}  // namespace
+
+int FileDivideSetDlg2Run() {
+  return MenuDialogRun(kDivide.dialogId, kDivide.templateId, Program.hMainWnd, Handle);
+}
+
+int FileDivideSetDlg3Run() {
+  return MenuDialogRun(kRestore.dialogId, kRestore.templateId, Program.hMainWnd, Handle);
+}
+
+void DivideDialogShow() {
+  if (OpenKind()) Show(Dialogs.hMenuDlg);
+}
+
+void DivideDialogPaint() {
+  if (OpenKind()) SendPaint(Dialogs.hMenuDlg);
+}
+
+void FileDivideSetDlg2Take() {
+  char count[3];  // two characters are seen
+  ControlGetText(Dialogs.hMenuDlg, IDC_DIVIDE_NAME, FileDivide.baseName, sizeof FileDivide.baseName);
+  ControlGetText(Dialogs.hMenuDlg, IDC_DIVIDE_COUNT, count, sizeof count);
+  FileDivide.divideCount = DecimalParse(count);
+  if (FileDivide.divideCount > kDivCountMax) FileDivide.divideCount = kDivCountMax;
+}

@@ -1,0 +1,157 @@
+#include "filetools/divide/divide_commands.h"
+
+#include "filetools/divide/divide_dialogs.h"
+#include "filetools/divide/file_divide.h"
+#include "filetools/stepped_work.h"
+#include "platform/window.h"
+#include "resources/ids.h"
+#include "services/boxes.h"
+#include "services/data_file.h"
+#include "services/dialog_family.h"
+#include "services/feature_dialog.h"
+#include "services/file_picker.h"
+#include "services/folder_pick.h"
+#include "services/program.h"
+#include "services/text.h"
+
+namespace {
+
+constexpr int kDivideFolderDialogId = 2012;
+constexpr int kRestoreFolderDialogId = 2015;
+
+WindowHandle Owner() {
+  return Dialogs.hMenuDlg ? Dialogs.hMenuDlg : Program.hMainWnd;
+}
+
+// Runs an action unless another one of these is still running.
+void Guarded(void (*action)()) {
+  static bool busy = false;
+  if (busy) return;
+  busy = true;
+  action();
+  busy = false;
+}
+
+bool Pick(const char* mask) {
+  char path[kPickPathSize] = "";
+  FileResult.FileStatus = 1;
+  if (PickFileForLoad(Owner(), mask, path) == 0) return false;
+  TextCopy(FileDivide.sourcePath, sizeof FileDivide.sourcePath, path);
+  return true;
+}
+
+void PickSource() {
+  if (!Pick("*.*")) return;
+  FileDivide.sourceSize = DivFileSize(FileDivide.sourcePath);
+  DivideDialogShow();
+  DivideDialogPaint();
+}
+
+void PickCof() {
+  if (Pick("*.COF")) DivideDialogShow();
+}
+
+void PickFolder(int dialogId, int templateId) {
+  if (FolderPickRun(dialogId, templateId, Owner(), FileDivide.storeDir, sizeof FileDivide.storeDir) != 0) {
+    DivideDialogShow();
+  }
+}
+
+void PickDivideFolder() {
+  PickFolder(kDivideFolderDialogId, IDD_FileDivFileDlg);
+}
+void PickRestoreFolder() {
+  PickFolder(kRestoreFolderDialogId, IDD_FileUDivFileDlg);
+}
+
+void Tell(const char* text) {
+  BoxTell(Owner(), text, "分割エラー");
+}
+
+// kept: a source or joining file that does not open, or a joining file that
+// cannot be made, is told by two boxes in a row.
+void TellStartFailed(int status, const char* general) {
+  if (status == kDivCannotOpen) Tell("分割ソースファイルが開けません");
+  if (status == kDivCofNotMade) Tell("合成用ファイルが開けません");
+  Tell(general);
+}
+
+// The first step, with the banner up meanwhile.
+int Start(int (*step)()) {
+  FileDivide.banner = true;
+  DivideDialogPaint();
+  Stepped.stepCounter = 1;
+  const int status = step();
+  FileDivide.banner = false;
+  DivideDialogPaint();
+  return status;
+}
+
+int RestoreStep() {
+  return FileRestoreStep(FileDivide.sourcePath);
+}
+
+void Divide() {
+  FileDivideSetDlg2Take();
+  if (FileDivide.encryptFlag != 0) {
+    FileDivKeyWordDlgRun(Dialogs.hMenuDlg);
+    if (FileDivide.keywordLength == 0) return;
+  }
+  const int status = Start(FileDivideStep);
+  if (status != 0) {
+    Stepped.stepCounter = 0;
+    TellStartFailed(status, "分割データファイルに書き込めません");
+    return;
+  }
+  FileDivExeDlgRun(Dialogs.hMenuDlg);
+}
+
+void Restore() {
+  if (CofReadFlag(FileDivide.sourcePath) != 0) {
+    FileDivKeyWordDlg2Run(Dialogs.hMenuDlg);
+    // kept: a keyword that was entered earlier counts, even after a Cancel.
+    if (FileDivide.keywordLength == 0) return;
+  }
+  const int status = Start(RestoreStep);
+  if (status != 0) TellStartFailed(status, "分割データファイルが読み込めません");
+  // kept: the progress dialog opens after a failure too, and stands, with
+  // stepCounter at 1, until it is stopped.
+  FileUnDivExeDlgRun(Dialogs.hMenuDlg);
+}
+
+void RunOpenDialog() {
+  if (Stepped.hSearchDlg) return;  // a search is running; no file is replaced for a run that cannot go on
+  if (Dialogs.DlgIdMenu == kDivideDialogId) Divide();
+  if (Dialogs.DlgIdMenu == kRestoreDialogId) Restore();
+}
+
+}  // namespace
+
+void DivideMenuCommand() {
+  const int chosen = FeatureDialogRun(7, FileDivideSetDlgRun);
+  if (chosen == kCommandDivide || chosen == kCommandRestore) {
+    SendCommand(Program.hMainWnd, static_cast<std::uint32_t>(chosen));
+  }
+}
+
+void DivideCommand() {
+  FeatureDialogRun(8, FileDivideSetDlg2Run);
+}
+void RestoreCommand() {
+  FeatureDialogRun(9, FileDivideSetDlg3Run);
+}
+void DividePickCommand() {
+  Guarded(PickSource);
+}
+void DivideFolderCommand() {
+  Guarded(PickDivideFolder);
+}
+void DivideRunCommand() {
+  Guarded(RunOpenDialog);
+}
+void RestorePickCommand() {
+  Guarded(PickCof);
+}
+void RestoreFolderCommand() {
+  Guarded(PickRestoreFolder);
+}

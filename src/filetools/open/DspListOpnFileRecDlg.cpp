@@ -1,0 +1,22 @@
+// DspListOpnFileRecDlg: the open record.
+
+#include "filetools/open/open_controls.h"
+#include "filetools/open/open_dialogs.h"
+#include "resources/ids.h"
+#include "services/dialog_family.h"
+
+namespace {
+
+constexpr int kDialogId = 2029;
+
+bool Handle(const Event& event) {
+  if (event.kind != EventKind::Init) return false;
+  OpnRecordShow(event.window);
+  return true;
+}
+
+}  // namespace
+
+void DspListOpnFileRecDlgRun(WindowHandle owner) {
+  ToolDialogRun(kDialogId, IDD_DspListOpnFileRecDlg, owner, Handle);
+}

@@ -1,0 +1,168 @@
+// FileOpnDialog, "ファイル オープン".
+
+#include "character/walk.h"
+#include "filetools/open/open_choice.h"
+#include "filetools/open/open_controls.h"
+#include "filetools/open/open_dialogs.h"
+#include "filetools/open/open_history.h"
+#include "filetools/open/open_record.h"
+#include "platform/dialog.h"
+#include "platform/window.h"
+#include "resources/ids.h"
+#include "services/boxes.h"
+#include "services/data_file.h"
+#include "services/dialog_family.h"
+#include "services/file_picker.h"
+#include "services/program.h"
+
+namespace {
+
+constexpr int kDialogId = 2000;
+constexpr int kCancelled = 2;
+constexpr int kLeftForGroups = 2008;
+constexpr std::uint32_t kOpenCommand = 2004;
+
+// What the lists show is chosen in OpnWork too.
+void ChoiceTake() {
+  OpnWork.fileSel = ListSelected(Dialogs.hMenuDlg, IDC_OPN_FILE);
+  OpnWork.progSel = ListSelected(Dialogs.hMenuDlg, IDC_OPN_PROGRAM);
+}
+
+void FileChosen() {
+  OpnWorkChoose(ListSelected(Dialogs.hMenuDlg, IDC_OPN_FILE));
+  ListSelect(Dialogs.hMenuDlg, IDC_OPN_PROGRAM, OpnWork.progSel);
+}
+
+void Open() {
+  ChoiceTake();
+  if (!OpnSelectionFromLists(Dialogs.hMenuDlg)) return;
+  const WindowHandle dialog = Dialogs.hMenuDlg;
+  SendCommand(Program.hMainWnd, kOpenCommand);
+  MenuDialogEnd(dialog, 0);
+}
+
+void TakeGroup() {
+  if (!TakeOpnGrpSetDlgRun(Dialogs.hMenuDlg)) return;
+  Walk.OpeningState = WalkStartOpen() == 0 ? kOpeningGroup : 0;
+  MenuDialogEnd(Dialogs.hMenuDlg, 0);
+}
+
+void ShowRecord() {
+  DspListOpnFileRecDlgRun(Dialogs.hMenuDlg);
+}
+
+void ClearRecord() {
+  if (BoxAsk(Dialogs.hMenuDlg, "オープン記録を全てクリアします。よろしいですか ?",
+             "オープン記録クリアの確認")) {
+    OpnRecord.recCount = 0;
+  }
+}
+
+void RecordToGroup() {
+  SetGrpOpnFileRecDlgRun(Dialogs.hMenuDlg);
+}
+
+void DeleteHistory() {
+  if (!DelListOpnFileHisDlgRun(Dialogs.hMenuDlg)) return;
+  OpnHisSave();
+  OpnBuildProgList();
+  OpnWorkChoose(0);
+  FileOpnDialogRefresh();
+}
+
+void Animation() {
+  SetOpnFileAnimeDlgRun(Dialogs.hMenuDlg);
+}
+
+// What the buttons do: here, or by the main window's command of the same number.
+struct Button {
+  std::uint32_t id;
+  void (*action)();
+};
+constexpr Button kButtons[] = {
+    {1, Open},
+    {IDC_OPN_ADD_FILE, nullptr},
+    {IDC_OPN_ADD_PROGRAM, nullptr},
+    {IDC_OPN_GROUP_SET, nullptr},
+    {IDC_OPN_TAKE_GROUP, TakeGroup},
+    {IDC_OPN_RECORD_TO_GROUP, RecordToGroup},
+    {IDC_OPN_SHOW_RECORD, ShowRecord},
+    {IDC_OPN_CLEAR_RECORD, ClearRecord},
+    {IDC_OPN_DELETE_HISTORY, DeleteHistory},
+    {IDC_OPN_ANIMATION, Animation},
+};
+
+bool Press(std::uint32_t id) {
+  for (const Button& button : kButtons) {
+    if (button.id != id) continue;
+    if (button.action) {
+      button.action();
+    } else {
+      SendCommand(Program.hMainWnd, id);
+    }
+    return true;
+  }
+  return false;
+}
+
+bool Handle(const Event& event) {
+  if (event.kind == EventKind::Init) {
+    FileOpnDialogRefresh();
+    return true;
+  }
+  if (event.kind != EventKind::Command) return false;
+  if (event.command == IDC_OPN_FILE && event.notice == Notice::SelectChange) {
+    FileChosen();
+    return true;
+  }
+  return event.notice == Notice::Click && Press(event.command);
+}
+
+// Picks a path. False when the user cancels, or when a picker is up already.
+bool Pick(char* path) {
+  if (!FileOpnDialogIsOpen() || Picker.hFilePickDlg) return false;
+  ChoiceTake();
+  FileResult.FileStatus = 1;
+  path[0] = '\0';
+  return PickFileForLoad(Dialogs.hMenuDlg, "*.*", path) != 0;
+}
+
+}  // namespace
+
+bool FileOpnDialogRun() {
+  const int result = MenuDialogRun(kDialogId, IDD_FileOpnDialog, Program.hMainWnd, Handle);
+  if (result == kCancelled) OpnWorkReset();
+  return result == kLeftForGroups;
+}
+
+bool FileOpnDialogIsOpen() {
+  return Dialogs.hMenuDlg && Dialogs.DlgIdMenu == kDialogId;
+}
+
+void FileOpnDialogRefresh() {
+  if (!FileOpnDialogIsOpen()) return;
+  OpnFilesShow(Dialogs.hMenuDlg);
+  OpnProgramsShow(Dialogs.hMenuDlg);
+}
+
+void FileOpnDialogLeaveForGroups() {
+  ChoiceTake();
+  MenuDialogEnd(Dialogs.hMenuDlg, kLeftForGroups);
+}
+
+void FileOpnDialogAddFile() {
+  char path[kPickPathSize];
+  if (!Pick(path)) return;
+  const bool fits = OpnBrowseFile(path);
+  FileOpnDialogRefresh();
+  if (!fits) BoxTell(Dialogs.hMenuDlg, "オープンファイル登録最大数は２００個です", "ファイル登録リミット");
+}
+
+void FileOpnDialogAddProgram() {
+  char path[kPickPathSize];
+  if (!Pick(path)) return;
+  const bool fits = OpnBrowseProgram(path);
+  FileOpnDialogRefresh();
+  if (!fits)
+    BoxTell(Dialogs.hMenuDlg, "オープンプログラム登録最大数は１９９個です", "プログラム登録リミット");
+}

@@ -1,0 +1,49 @@
+// SerchOpnFileGrpSelDlg, "検索したグループの選択".
+
+#include "filetools/open/open_dialogs.h"
+#include "filetools/open/open_search.h"
+#include "platform/dialog.h"
+#include "resources/ids.h"
+#include "services/dialog_family.h"
+
+namespace {
+
+constexpr int kDialogId = 2030;
+constexpr int kChoose = 1;
+
+int chosen;
+
+void Open(WindowHandle dialog) {
+  const ListQuiet quiet(dialog, IDC_OPN_GROUP);
+  for (int i = 0; i < OpnSearchResult.count; ++i) {
+    char text[kOpnGroupRowSize];
+    OpnGroupRowText(OpnSearchResult.groups[i], text, sizeof text);
+    ListAdd(dialog, IDC_OPN_GROUP, text);
+  }
+  ListSelect(dialog, IDC_OPN_GROUP, 0);
+}
+
+void Choose(WindowHandle dialog) {
+  const int row = ListSelected(dialog, IDC_OPN_GROUP);
+  if (row < 0 || row >= OpnSearchResult.count) return;
+  chosen = OpnSearchResult.groups[row];
+  SubDialogEnd(dialog, kChoose);
+}
+
+bool Handle(const Event& event) {
+  if (event.kind == EventKind::Init) {
+    Open(event.window);
+    return true;
+  }
+  if (event.kind != EventKind::Command || event.command != kChoose) return false;
+  Choose(event.window);
+  return true;
+}
+
+}  // namespace
+
+int SerchOpnFileGrpSelDlgRun(WindowHandle owner) {
+  chosen = -1;
+  SubDialogRun(kDialogId, IDD_SerchOpnFileGrpSelDlg, owner, Handle);
+  return chosen;
+}

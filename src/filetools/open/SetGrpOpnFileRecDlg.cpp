@@ -1,0 +1,56 @@
+// SetGrpOpnFileRecDlg: puts the open record into a group.
+
+#include "filetools/open/open_controls.h"
+#include "filetools/open/open_dialogs.h"
+#include "filetools/open/open_groups.h"
+#include "platform/dialog.h"
+#include "resources/ids.h"
+#include "services/boxes.h"
+#include "services/dialog_family.h"
+#include "services/text.h"
+
+namespace {
+
+constexpr int kDialogId = 2030;
+
+void Open(WindowHandle dialog) {
+  ControlSetLimit(dialog, IDC_OPN_COMMENT, kOpnCommentSize - 1);
+  OpnGroupsShow(dialog, 0);
+  OpnGroupShow(dialog, 0);
+  OpnRecordShow(dialog);
+}
+
+void Register(WindowHandle dialog) {
+  const int group = OpnGroupOfList(dialog);
+  char text[80];
+  TextFormat(text, sizeof text, "オープン記録をグループ%dに追加登録します", group + 1);
+  if (!BoxAsk(dialog, text, "グループへの登録")) return;
+  OpnCommentTake(dialog, group);
+  const bool over = OpnGroupAddRecord(group) != 0;
+  OpnGroupsShow(dialog, group);
+  OpnGroupShow(dialog, group);
+  // kept: a refusal saves nothing, but the files stay in the group in memory.
+  if (over && !BoxAsk(dialog, "1グループのファイル数=最大30個をオーバーしました。登録しますか?",
+                      "ファイル登録数オーバー")) {
+    return;
+  }
+  OpnGroupSave();
+}
+
+bool Handle(const Event& event) {
+  if (event.kind == EventKind::Init) {
+    Open(event.window);
+    return true;
+  }
+  if (event.kind != EventKind::Command) return false;
+  if (OpnGroupListEvent(event)) return true;
+  if (event.command != IDC_OPN_GROUP_REGISTER) return false;
+  Register(event.window);
+  return true;
+}
+
+}  // namespace
+
+void SetGrpOpnFileRecDlgRun(WindowHandle owner) {
+  ToolDialogRun(kDialogId, IDD_SetGrpOpnFileRecDlg, owner, Handle);
+}

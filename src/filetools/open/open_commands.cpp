@@ -1,0 +1,62 @@
+#include "filetools/open/open_commands.h"
+
+#include "filetools/open/open_choice.h"
+#include "filetools/open/open_dialogs.h"
+#include "filetools/open/open_groups.h"
+#include "filetools/open/open_history.h"
+#include "filetools/open/open_programs.h"
+#include "platform/window.h"
+#include "services/boxes.h"
+#include "services/dialog_family.h"
+#include "services/feature_dialog.h"
+#include "services/program.h"
+
+namespace {
+
+constexpr int kFuncNo = 1;
+constexpr std::uint32_t kGroupSetCommand = 2008;
+
+void TablesRead() {
+  if (OpnHisLoad() != 0) {
+    BoxTell(Program.hMainWnd, "オープンファイル履歴が失われました", "履歴ファイルの読み込みエラー");
+    OpnHisReset();
+  }
+  OpnBuildProgList();
+  OpnGroupLoad();
+  OpnWorkReset();
+}
+
+int FileOpen() {
+  TablesRead();
+  return FileOpnDialogRun() ? 1 : 0;
+}
+
+int GroupSet() {
+  // Without FileOpnDialog before it, an empty table would be saved over the file.
+  if (!OpnProgListBuilt) TablesRead();
+  FileOpnGrpSetDlgRun();
+  return 0;
+}
+
+}  // namespace
+
+void CommandFileOpen(std::uint32_t) {
+  if (FeatureDialogRun(kFuncNo, FileOpen) != 0) SendCommand(Program.hMainWnd, kGroupSetCommand);
+}
+
+void CommandOpenAddFile(std::uint32_t) {
+  FileOpnDialogAddFile();
+}
+
+void CommandOpenAddProgram(std::uint32_t) {
+  FileOpnDialogAddProgram();
+}
+
+void CommandOpenGroupSet(std::uint32_t) {
+  if (Dialogs.hToolDlg) return;  // FileOpnDialog is not left under a dialog of its own
+  if (FileOpnDialogIsOpen()) {
+    FileOpnDialogLeaveForGroups();
+  } else {
+    FeatureDialogRun(kFuncNo, GroupSet);
+  }
+}

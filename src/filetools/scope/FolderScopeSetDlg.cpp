@@ -1,0 +1,77 @@
+// FolderScopeSetDlg, "フォルダースコープ": walks the folders, lists a folder's files by
+// kind, and opens the statistics.
+
+#include "filetools/scope/folder_scope.h"
+#include "filetools/scope/scope_commands.h"
+#include "filetools/scope/scope_dialogs.h"
+#include "platform/dialog.h"
+#include "platform/window.h"
+#include "resources/ids.h"
+#include "services/dialog_family.h"
+#include "services/extension_filter.h"
+#include "services/feature_dialog.h"
+#include "services/folder_list.h"
+#include "services/program.h"
+
+namespace {
+
+constexpr int kDlgId = 2009;
+constexpr int kFuncNo = 6;
+constexpr int kMargin = 12;
+constexpr int kListBottom = 160;  // dialog units, where the template's file list ends too
+
+FolderList folders;
+static_assert(kFolderSize == kScopePathSize);
+
+void ScopeListFiles() {
+  FilterListFiles(Dialogs.hToolDlg, IDC_SCOPE_FILES, Scope.scopeFolder,
+                  ListSelected(Dialogs.hToolDlg, IDC_SCOPE_FILTER), nullptr);
+}
+
+void FolderChanged() {
+  ScopeSplitPath();
+  ScopeListFiles();
+}
+
+void Open(WindowHandle dialog) {
+  FilterFill(dialog, IDC_SCOPE_FILTER);
+  ListSelect(dialog, IDC_SCOPE_FILTER, kFilterAll);
+  const Rect place{kMargin, FolderListTop(dialog), WindowClientRect(dialog).right / 2 - kMargin / 2,
+                   DialogUnits(dialog, {0, 0, 0, kListBottom}).bottom};
+  FolderListOpenWide(folders, dialog, place, Scope.scopeFolder, "", FolderChanged);
+  FolderChanged();
+}
+
+bool Handle(const Event& event) {
+  if (FolderListEvent(folders, event)) return true;
+  if (FolderListIsCancel(event)) {
+    ToolDialogEnd(event.window, 2);
+    return true;
+  }
+  if (event.kind == EventKind::Init) {
+    Open(event.window);
+  } else if (event.kind == EventKind::Paint) {
+    FolderListPaint(folders);
+  } else if (event.kind != EventKind::Command) {
+    return false;
+  } else if (event.command == IDC_SCOPE_FILTER) {
+    if (event.notice == Notice::SelectChange) ScopeListFiles();
+  } else if (event.command == IDC_SCOPE_PIES) {
+    FolderStaticsDlgRun(event.window);
+  } else if (event.command == IDC_SCOPE_BARS) {
+    FolderStaticsDlg2Run(event.window);
+  } else {
+    return false;
+  }
+  return true;
+}
+
+int Run() {
+  return ToolDialogRun(kDlgId, IDD_FolderScopeSetDlg, Program.hMainWnd, Handle);
+}
+
+}  // namespace
+
+void FolderScopeCommand() {
+  FeatureDialogRun(kFuncNo, Run);
+}

@@ -1,0 +1,147 @@
+// FolderStaticsDlg2, "フォルダー統計 棒グラフ": the chosen folder's entries, largest
+// first, as bars that scroll.
+
+#include <algorithm>
+
+#include "filetools/scope/folder_scope.h"
+#include "filetools/scope/scope_bars.h"
+#include "filetools/scope/scope_dialogs.h"
+#include "filetools/scope/scope_unit.h"
+#include "platform/dialog.h"
+#include "platform/window.h"
+#include "resources/ids.h"
+#include "services/dialog_family.h"
+#include "services/drawing_objects.h"
+#include "services/scroll_set.h"
+#include "services/text.h"
+
+namespace {
+
+constexpr int kDlgId = 2003;
+constexpr int kRowHeight = 20;
+constexpr int kNameX = 20;
+constexpr int kBoxX = 212;
+constexpr int kBoxHeight = 16;
+constexpr int kColumn = 8;  // a half-width character
+constexpr int kBarWidth = 16;
+constexpr int kPage = 10;
+
+WindowHandle hScroll;  // null while the dialog is closed or still searching
+int firstRow;          // the scroll position
+
+// The folder's own row and one for each entry.
+int Lines() {
+  return Scope.scopeFolderCount + 1;
+}
+
+Rect RowsArea(Rect area) {
+  area.right -= kBarWidth;
+  return area;
+}
+
+void DrawRow(Canvas* canvas, int line, int y) {
+  char text[64] = "指定フォルダ";
+  int row = 0;
+  if (line > 0) {
+    const int number = ScopeOrder(ScopeArea::Folder, line - 1);
+    if (number < 0) return;
+    StaticsName(text, sizeof text, "", ScopeEntryGet(ScopeArea::Folder, number).name);
+    row = number + 1;
+  }
+  const ScopeBarRow bar = ScopeBarGet(row);
+  CanvasText(canvas, kNameX, y, text);
+  CanvasBrush(canvas, Drawing.Brushes[kBrushFFFFFF]);
+  CanvasRectangle(canvas, kBoxX, y, kBoxX + kScopeBarFull, y + kBoxHeight);
+  CanvasBrush(canvas, Drawing.Brushes[line == 0 ? kBrush0000E6 : kBrushFF0000]);
+  if (bar.barWidth > 0) CanvasRectangle(canvas, kBoxX, y, kBoxX + bar.barWidth, y + kBoxHeight);
+  const int percent = TextFormat(text, sizeof text, "%d.%d%%", bar.percentInt, bar.percentFrac);
+  const int x = kBoxX + kScopeBarFull;
+  CanvasText(canvas, x, y, text);
+  TextFormat(text, sizeof text, "(%d.%d %s)", bar.valueInt, bar.valueFrac, ScopeUnitText(bar.unit));
+  CanvasText(canvas, x + kColumn * percent, y, text);
+}
+
+void Draw(Canvas* canvas, const Rect& area) {
+  const Rect rows = RowsArea(area);
+  const int fit = RectHeight(rows) / kRowHeight;
+  CanvasClip(canvas, rows);
+  for (int i = 0; i < fit && firstRow + i < Lines(); ++i)
+    DrawRow(canvas, firstRow + i, rows.top + i * kRowHeight);
+  CanvasClipNone(canvas);
+}
+
+void UpdateScroll(WindowHandle dialog) {
+  ScrollSet(dialog, StaticsArea(dialog).top, kRowHeight, Lines(), firstRow, hScroll);
+}
+
+void Open(WindowHandle dialog) {
+  hScroll = nullptr;
+  firstRow = 0;
+  if (!StaticsOpen(dialog, true)) {
+    MenuDialogEnd(dialog, 2);
+    return;
+  }
+  const Rect area = StaticsArea(dialog);
+  hScroll = ControlCreate(dialog, ControlKind::VerticalScrollBar, IDC_STATICS_SCROLL,
+                          {RowsArea(area).right, area.top, area.right, area.bottom}, "");
+  UpdateScroll(dialog);
+}
+
+void ScrollRows(const Event& event) {
+  // kept: the last position is the number of entries less 2, not the last page.
+  const int last = std::max(Scope.scopeFolderCount - 2, 0);
+  int to = firstRow;
+  switch (event.scroll) {
+    case Scroll::LineUp:
+      to -= 1;
+      break;
+    case Scroll::LineDown:
+      to += 1;
+      break;
+    case Scroll::PageUp:
+      to -= kPage;
+      break;
+    case Scroll::PageDown:
+      to += kPage;
+      break;
+    case Scroll::Thumb:
+      to = event.scrollPosition;
+      break;
+    case Scroll::Top:
+      to = 0;
+      break;
+    case Scroll::Bottom:
+      to = last;
+      break;
+    case Scroll::End:
+      return;
+  }
+  firstRow = std::clamp(to, 0, last);
+  UpdateScroll(event.window);
+  SendPaint(event.window);
+}
+
+bool Handle(const Event& event) {
+  switch (event.kind) {
+    case EventKind::Init:
+      Open(event.window);
+      return true;
+    case EventKind::Paint:
+      StaticsPaint(event.window, Draw);
+      return true;
+    case EventKind::VScroll:
+      if (event.control == hScroll) ScrollRows(event);
+      return true;
+    case EventKind::Destroy:
+      hScroll = nullptr;
+      return false;
+    default:
+      return false;
+  }
+}
+
+}  // namespace
+
+void FolderStaticsDlg2Run(WindowHandle owner) {
+  MenuDialogRun(kDlgId, IDD_FolderStaticsDlg2, owner, Handle);
+}

@@ -1,0 +1,3 @@
+#include "filetools/stepped_work.h"
+
+SteppedState Stepped;

@@ -1,0 +1,3 @@
+#include "mail_music/mail/mail_setting.h"
+
+MailSettingRec MailSetting;

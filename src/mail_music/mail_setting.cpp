@@ -1,3 +1,0 @@
-#include "mail_music/mail_setting.h"
-
-MailSettingRec MailSetting;

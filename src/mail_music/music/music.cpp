@@ -1,0 +1,3 @@
+#include "mail_music/music/music.h"
+
+MusicState Music;

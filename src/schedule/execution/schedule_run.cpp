@@ -1,0 +1,34 @@
+#include "schedule/execution/schedule_run.h"
+
+#include "mail_music/music/music.h"
+#include "platform/memory.h"
+#include "schedule/table/table_scroll.h"
+
+SclRunState SclRun;
+
+void SclDefaults() {
+  constexpr SclHours kDay{10, 8, 18};
+  SclRun.SclTableHours = kDay;
+  for (SclHours& hours : SclRun.SclSubTableHours) hours = kDay;
+  SclRun.SclLineCount = 31;
+}
+
+void SclTablesClear() {
+  SclTable.hSclTableWnd = nullptr;
+  SclTable.hPlanWnd = nullptr;
+  Music.hBgmWnd = nullptr;
+}
+
+// There is no schedule model yet: none can be named, and none runs.
+void SclExecutionLoad() {}
+bool SclIsRunning() {
+  return false;
+}
+bool SclDueCheck() {
+  return false;
+}
+
+void SclMapFree() {
+  MemoryFree(SclRun.SclMapBlock);
+  SclRun.SclMapBlock = nullptr;
+}

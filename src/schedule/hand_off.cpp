@@ -1,6 +1,0 @@
-#include "schedule/hand_off.h"
-
-// No schedule program is started by this program yet, so none answers.
-bool SclHandOffCheck() {
-  return false;
-}

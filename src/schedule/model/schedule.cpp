@@ -1,0 +1,3 @@
+#include "schedule/model/schedule.h"
+
+ScheduleState Schedule;

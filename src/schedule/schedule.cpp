@@ -1,4 +1,0 @@
-#include "schedule/schedule.h"
-
-char DefaultSclName[kSclPathSize];
-char PlanTitles[kPlanKindCount][kPlanTitleSize];

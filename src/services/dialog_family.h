@@ -1,0 +1,35 @@
+// The four families of modal dialogs. Each has an id of the template in force
+// and a handle; a dialog that opens from inside another is of another family, so
+// that both can be asked for.
+#pragma once
+
+#include "platform/event.h"
+
+struct DialogsState {
+  WindowHandle hMenuDlg = nullptr;  // the open dialog of each family
+  WindowHandle hToolDlg = nullptr;
+  WindowHandle hSubDlg = nullptr;
+  WindowHandle hSnryDlg = nullptr;
+  int DlgIdMenu = 0;  // the template in force of each family; 0 for none
+  int DlgIdTool = 0;
+  int DlgIdSub = 0;
+  int DlgIdSnry = 0;
+};
+extern DialogsState Dialogs;
+
+// Runs a modal dialog of a family: sets the family's id, runs, and clears the
+// id. The handle is set at Init and cleared at the close. `handler` is asked
+// first about every event; what it leaves (returns false for) of button 1,
+// button 2 and Close ends the dialog with 1 or 2. Returns the dialog's result,
+// -1 when it cannot be made.
+int MenuDialogRun(int dlgId, int templateId, WindowHandle owner, EventHandler handler);
+int ToolDialogRun(int dlgId, int templateId, WindowHandle owner, EventHandler handler);
+int SubDialogRun(int dlgId, int templateId, WindowHandle owner, EventHandler handler);
+int SnryDialogRun(int dlgId, int templateId, WindowHandle owner, EventHandler handler);
+
+// Ends a family's dialog from its own handler: clears the handle (for the menu
+// family the panel state too) and ends it with `result`.
+void MenuDialogEnd(WindowHandle dialog, int result);
+void ToolDialogEnd(WindowHandle dialog, int result);
+void SubDialogEnd(WindowHandle dialog, int result);
+void SnryDialogEnd(WindowHandle dialog, int result);

@@ -1,0 +1,173 @@
+#include "services/file_picker.h"
+
+#include <cstring>
+
+#include "platform/dialog.h"
+#include "platform/window.h"
+#include "resources/ids.h"
+#include "services/extension_filter.h"
+#include "services/folder_list.h"
+#include "services/path.h"
+#include "services/text.h"
+
+PickerState Picker;
+
+namespace {
+
+constexpr int kOkId = 1;
+enum : std::int32_t { kModeLoad, kModeSave };
+
+// The dialog is laid out in parts of 380 by 190 of its client area.
+constexpr int kPartsAcross = 380;
+constexpr int kPartsDown = 190;
+constexpr int kListLeftParts = 200;
+constexpr int kBandRightParts = 366;
+constexpr int kListHeightParts = 120;
+constexpr int kGap = 2;
+
+FolderList folders;
+
+void ListFiles() {
+  FilterListFiles(Picker.hFilePickDlg, kPickFilesId, Picker.PickFolder, Picker.PickFilterSel,
+                  Picker.PickFilter);
+}
+
+void OpenFolders(WindowHandle dialog) {
+  const Rect client = WindowClientRect(dialog);
+  const int left = client.right * kListLeftParts / kPartsAcross + kGap;
+  const int top = FolderListTop(dialog);
+  const Rect place{left, top, client.right - kGap, top + client.bottom * kListHeightParts / kPartsDown};
+  const int bandWidth = client.right * kBandRightParts / kPartsAcross - left - kGap;
+  FolderListOpen(folders, dialog, place, bandWidth, Picker.PickFolder, Picker.PickStartFolder, ListFiles);
+}
+
+// The fixed kinds of file, and behind them the caller's if it is none of these.
+void OpenFilter(WindowHandle dialog) {
+  FilterFill(dialog, kPickFilterId);
+  // bounded: the caller's row is there only for a call that brings a filter.
+  if (Picker.PickFilterSel < 0 || Picker.PickFilterSel >= kFilterRows) Picker.PickFilterSel = kFilterAll;
+  if (Picker.PickFilter[0] != '\0') {
+    Picker.PickFilterSel = FilterFind(Picker.PickFilter);
+    if (Picker.PickFilterSel < 0) {
+      Picker.PickFilterSel = kFilterCaller;
+      ListAdd(dialog, kPickFilterId, Picker.PickFilter);
+    }
+  }
+  ListSelect(dialog, kPickFilterId, Picker.PickFilterSel);
+}
+
+void Open(WindowHandle dialog) {
+  Picker.hFilePickDlg = dialog;
+  OpenFolders(dialog);
+  OpenFilter(dialog);
+  ListFiles();
+  ControlSetText(dialog, kPickNameId, Picker.PickName);
+}
+
+void End(WindowHandle dialog) {
+  Picker.hFilePickDlg = nullptr;
+  DialogEnd(dialog, Picker.PickDone);
+}
+
+void Accept(WindowHandle dialog) {
+  ControlGetText(dialog, kPickNameId, Picker.PickName, sizeof Picker.PickName);
+  // kept: behind the root of a drive the backslash stands twice.
+  TextFormat(Picker.PickResult, sizeof Picker.PickResult, "%s\\%s", Picker.PickFolder, Picker.PickName);
+  Picker.PickDone = 1;
+  End(dialog);
+}
+
+void NameFromFiles(WindowHandle dialog) {
+  char name[kPickNameSize];
+  const int row = ListSelected(dialog, kPickFilesId);
+  if (ListText(dialog, kPickFilesId, row, name, sizeof name) > 0) ControlSetText(dialog, kPickNameId, name);
+}
+
+bool HandleCommand(const Event& event) {
+  if (FolderListEvent(folders, event)) return true;
+  if (FolderListIsCancel(event)) {
+    End(event.window);
+  } else if (event.command == kOkId && event.notice == Notice::Click) {
+    Accept(event.window);
+  } else if (event.command == kPickFilterId && event.notice == Notice::SelectChange) {
+    const int row = ListSelected(event.window, kPickFilterId);
+    if (row >= 0) Picker.PickFilterSel = row;
+    ListFiles();
+  } else if (event.command == kPickFilesId && event.notice == Notice::SelectChange) {
+    NameFromFiles(event.window);
+  } else if (event.command == kPickFilesId && event.notice == Notice::DoubleClick) {
+    NameFromFiles(event.window);
+    Accept(event.window);
+  } else {
+    return false;
+  }
+  return true;
+}
+
+bool Handle(const Event& event) {
+  switch (event.kind) {
+    case EventKind::Init:
+      Open(event.window);
+      return true;
+    case EventKind::Command:
+      return HandleCommand(event);
+    case EventKind::Paint:
+      FolderListPaint(folders);
+      return true;
+    case EventKind::Close:
+      End(event.window);
+      return true;
+    case EventKind::Destroy:
+      Picker.hFilePickDlg = nullptr;
+      return false;
+    default:
+      return false;
+  }
+}
+
+void ForgetProposal() {
+  Picker.PickStartFolder[0] = '\0';
+  Picker.PickName[0] = '\0';
+}
+
+// The filter's extension, for a name that has none: what follows the star.
+void AddExtension() {
+  if (Picker.PickFilter[0] == '\0') return;
+  const char* extension = Picker.PickFilter + 1;
+  if (extension[0] != '.' || std::strcmp(extension, ".*") == 0 || std::strchr(Picker.PickName, '.')) return;
+  TextAppend(Picker.PickResult, sizeof Picker.PickResult, extension);
+}
+
+int Pick(std::int32_t mode, int templateId, WindowHandle owner, const char* filter, char* path) {
+  if (Picker.PickActive != 0) return 0;  // one at a time: the state is one
+  Picker.PickActive = 1;
+  Picker.PickDone = 0;
+  Picker.PickMode = mode;
+  TextCopy(Picker.PickFilter, sizeof Picker.PickFilter, filter);
+  ForgetProposal();
+  PathSplit(path);
+  TextCopy(Picker.PickStartFolder, sizeof Picker.PickStartFolder, PathParts.PathFolder);
+  TextCopy(Picker.PickName, sizeof Picker.PickName, PathParts.PathName);
+
+  const std::int32_t filterSel = Picker.PickFilterSel;
+  DialogRun(templateId, owner, Handle);
+  Picker.PickFilterSel = filterSel;
+
+  if (Picker.PickDone != 0) {
+    if (Picker.PickMode == kModeSave) AddExtension();
+    TextCopy(path, kPickPathSize, Picker.PickResult);
+  }
+  ForgetProposal();
+  Picker.PickActive = 0;
+  return Picker.PickDone;
+}
+
+}  // namespace
+
+int PickFileForLoad(WindowHandle owner, const char* filter, char* path) {
+  return Pick(kModeLoad, IDD_FileSelectForLoadDlg, owner, filter, path);
+}
+
+int PickFileForSave(WindowHandle owner, const char* filter, char* path) {
+  return Pick(kModeSave, IDD_FileSelectForSaveDlg, owner, filter, path);
+}

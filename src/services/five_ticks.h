@@ -1,0 +1,15 @@
+// The five-tick step: what small figures in windows move by.
+#pragma once
+
+#include <cstdint>
+
+struct FiveTicksState {
+  std::int32_t FrameDivider = 0;  // ticks until the next step; 0 is off
+};
+extern FiveTicksState FiveTicks;
+
+// Turns the step on; the first one comes after that many ticks.
+void FiveTicksStart(std::int32_t first);
+
+// One tick. True when the step is due.
+bool FiveTicksTick();

@@ -1,0 +1,47 @@
+#include "services/folder_pick.h"
+
+#include <cstring>
+
+#include "platform/window.h"
+#include "services/dialog_family.h"
+#include "services/folder_list.h"
+#include "services/text.h"
+
+namespace {
+
+constexpr int kMargin = 12;
+// The list takes this share of the height.
+constexpr int kListPart = 120;
+constexpr int kListWhole = 190;
+
+FolderList folders;
+char folderOnShow[kFolderSize];
+
+void Open(WindowHandle dialog) {
+  const Rect client = WindowClientRect(dialog);
+  const int top = FolderListTop(dialog);
+  const Rect place{kMargin, top, client.right - kMargin, top + client.bottom * kListPart / kListWhole};
+  FolderListOpenWide(folders, dialog, place, folderOnShow, "", nullptr);
+}
+
+bool Handle(const Event& event) {
+  if (FolderListEvent(folders, event)) return true;
+  if (FolderListIsCancel(event)) {
+    ToolDialogEnd(event.window, 2);
+    return true;
+  }
+  if (event.kind == EventKind::Init) Open(event.window);
+  if (event.kind == EventKind::Paint) FolderListPaint(folders);
+  return event.kind == EventKind::Init || event.kind == EventKind::Paint;
+}
+
+}  // namespace
+
+int FolderPickRun(int dlgId, int templateId, WindowHandle owner, char* folder, int size) {
+  if (ToolDialogRun(dlgId, templateId, owner, Handle) != 1) return 0;
+  if (folderOnShow[0] == '\0') return 0;  // where it stood could not be told
+  const bool driveRoot = std::strcmp(folderOnShow + TextPrefix(folderOnShow, 1), ":\\") == 0;
+  if (driveRoot) folderOnShow[2] = '\0';
+  TextCopy(folder, static_cast<std::size_t>(size), folderOnShow);
+  return 1;
+}

@@ -1,0 +1,22 @@
+// Date and time that many ask for.
+#pragma once
+
+#include <cstdint>
+
+#include "platform/time.h"
+
+struct TodayState {
+  // Today: year minus 2000, month minus 1, day minus 1.
+  std::int32_t TodayYear = 0;
+  std::int32_t TodayMonth = 0;
+  std::int32_t TodayDay = 0;
+  // The local time of the tick in progress, read once for all that ask for it.
+  LocalTime SharedTime = {};
+};
+extern TodayState Today;
+
+// Sets today's date.
+void TodaySet(const LocalTime& now);
+
+// Reads the local time into SharedTime.
+void SharedTimeTake();

@@ -1,0 +1,124 @@
+#include "shell/layout.h"
+
+#include "character/character.h"
+#include "character/character_commands.h"
+#include "character/stage.h"
+#include "clock_calendar/calendar/calendar.h"
+#include "clock_calendar/clock/clock.h"
+#include "clock_calendar/clock_calendar_sizes.h"
+#include "clock_calendar/clock_calendar_tick.h"
+#include "platform/time.h"
+#include "platform/window.h"
+#include "services/screen_figures.h"
+
+LayoutState Layout;
+
+namespace {
+
+constexpr int kEdge = 10;
+
+// The items' places on the screen.
+struct Place {
+  std::int32_t* x;
+  std::int32_t* y;
+};
+constexpr Place kPlaces[kLayoutItemCount] = {{&Character.StageX, &Character.StageY},
+                                             {&Clock.ClockX, &Clock.ClockY},
+                                             {&Calendar.CalenX, &Calendar.CalenY}};
+
+int DivFor(int width, int height) {
+  int div = 3;
+  if (width / div >= 401 || height / div >= 241) div = 4;
+  if (width / div >= 401 || height / div > 240) div = 5;
+  return div;
+}
+
+void ClockApply() {
+  SendClose(Clock.hClockWnd);
+  if (Clock.ClockShow == 0) return;
+  LocalTime now;
+  TimeGetLocal(&now);
+  ClockTimeTake(now.hour, now.minute);
+  if (!Clock.hClockWnd) ClockWindowOpen();
+}
+
+void CalendarApply() {
+  SendClose(Calendar.hCalenWnd);
+  if (Calendar.CalenShow != 0 && !Calendar.hCalenWnd) CalenWindowOpen();
+}
+
+}  // namespace
+
+void LayoutTake() {
+  Layout.LayoutDiv = DivFor(Screen.ScreenWidth, Screen.ScreenHeight);
+  Layout.LayoutScreen = {Screen.ScreenWidth / Layout.LayoutDiv, Screen.ScreenHeight / Layout.LayoutDiv};
+  const LayoutExtent sizes[kLayoutItemCount] = {{Stage.StageWidth, Stage.StageHeight},
+                                                {ClockLayoutWidth(), ClockLayoutHeight()},
+                                                {CalenLayoutWidth(), CalenLayoutHeight()}};
+  for (int item = 0; item < kLayoutItemCount; ++item) {
+    Layout.LayoutPos[item] = {*kPlaces[item].x / Layout.LayoutDiv, *kPlaces[item].y / Layout.LayoutDiv};
+    Layout.LayoutSize[item] = {sizes[item].width / Layout.LayoutDiv, sizes[item].height / Layout.LayoutDiv};
+    Layout.LayoutDrag[item] = false;
+  }
+}
+
+int LayoutItemAt(int x, int y) {
+  for (int item = 0; item < kLayoutItemCount; ++item) {
+    const Point& at = Layout.LayoutPos[item];
+    const LayoutExtent& size = Layout.LayoutSize[item];
+    if (x >= at.x && x <= at.x + size.width && y >= at.y && y <= at.y + size.height) return item;
+  }
+  return -1;
+}
+
+void LayoutPut() {
+  Layout.LayoutChange = 0;
+  for (int item = 0; item < kLayoutItemCount; ++item) {
+    const Place& place = kPlaces[item];
+    const std::int32_t x = Layout.LayoutPos[item].x * Layout.LayoutDiv;
+    const std::int32_t y = Layout.LayoutPos[item].y * Layout.LayoutDiv;
+    if (x == *place.x && y == *place.y) continue;
+    *place.x = x;
+    *place.y = y;
+    Layout.LayoutChange |= 1 << item;
+  }
+}
+
+void LayoutDefault() {
+  const int clockWidth = ClockLayoutWidth();
+  const int clockHeight = ClockLayoutHeight();
+  const int calenWidth = CalenLayoutWidth();
+  const int right = Screen.ScreenWidth - kEdge;
+  Calendar.CalenX = right - calenWidth;
+  Calendar.CalenY = kEdge;
+  const int below = kEdge + CalenLayoutHeight();
+  if (below + Stage.StageHeight > Screen.ScreenHeight) {
+    Character.StageX = Calendar.CalenX - Stage.StageWidth - kEdge;
+    Character.StageY = kEdge;
+    if (below + clockHeight > Screen.ScreenHeight) {
+      Clock.ClockX = Character.StageX - clockWidth - kEdge;
+      Clock.ClockY = kEdge;
+    } else {
+      Clock.ClockX = right - clockWidth;
+      Clock.ClockY = below;
+    }
+    return;
+  }
+  Character.StageX = right - Stage.StageWidth;
+  Character.StageY = below;
+  if (below + Stage.StageHeight + clockHeight <= Screen.ScreenHeight &&
+      Screen.ScreenWidth / 2 > Calendar.CalenX) {
+    Clock.ClockX = right - clockWidth;
+    Clock.ClockY = below + Stage.StageHeight;
+  } else {
+    Clock.ClockX = Screen.ScreenWidth - calenWidth - clockWidth - 2 * kEdge;
+    Clock.ClockY = kEdge;
+  }
+}
+
+void CommandLayoutApply(std::uint32_t) {
+  if ((Layout.LayoutChange & kLayoutStage) != 0) StageMove(true);
+  if ((Layout.LayoutChange & kLayoutClock) != 0) ClockApply();
+  if ((Layout.LayoutChange & kLayoutCalendar) != 0) CalendarApply();
+  Layout.LayoutChange = 0;
+}

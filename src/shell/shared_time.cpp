@@ -1,3 +1,0 @@
-#include "shell/shared_time.h"
-
-LocalTime SharedTime;

@@ -1,6 +1,0 @@
-// The random numbers of a division, drawn one by one in the order of the format.
-#pragma once
-
-#include "tests/filetools/divide_model.h"
-
-ModelChance ModelDraw(const ModelDivision& division);

@@ -1,0 +1,121 @@
+// TakeOpnGrpSetDlg: a group is looked for, called and opened.
+#include "character/walk.h"
+#include "filetools/open/open_groups.h"
+#include "services/dialog_family.h"
+#include "tests/filetools/open/open_fixture.h"
+
+namespace {
+
+TEST_F(OpenDialogTest, ACalledGroupOpensOnTheNextTickWithNobodyToWalk) {
+  AddToGroup(2, "a");
+  AddToGroup(2, "b");
+  OpnGroupSetComment(2, "朝");
+  SaveGroups();
+  ThenPress(IDC_OPN_TAKE_GROUP);
+  ThenExpect([] {
+    EXPECT_EQ(TemplateOf(TopDialog()), IDD_TakeOpnGrpSetDlg);
+    EXPECT_EQ(Dialogs.DlgIdTool, 2001);
+    EXPECT_EQ(RowsOf(IDC_OPN_GROUP_FILES), Rows{});
+    ChooseRow(TopDialog(), IDC_OPN_GROUP, 2);
+    EXPECT_EQ(RowsOf(IDC_OPN_GROUP_FILES), (Rows{"a [C:\\data\\]", "b [C:\\data\\]"}));
+    EXPECT_EQ(ControlText(TopDialog(), IDC_OPN_COMMENT), "朝");
+  });
+  ThenPress(kOk);
+  OpenDialog();
+  EXPECT_EQ(OpnPendingGroup, &OpnGroups.OpnGroupTable[2]);
+  EXPECT_EQ(Walk.OpeningState, 0);
+  EXPECT_EQ(Started(), Rows{});
+  Ticks(1);
+  EXPECT_EQ(Started(), Rows{" \"C:\\data\\a\""});
+  Ticks(51);
+  EXPECT_EQ(Started(), (Rows{" \"C:\\data\\a\"", " \"C:\\data\\b\""}));
+}
+
+TEST_F(OpenDialogTest, AGroupWaitsForTheWalkAndThenOpens) {
+  PutWalker();
+  AddToGroup(0, "a");
+  SaveGroups();
+  ThenPress(IDC_OPN_TAKE_GROUP);
+  ThenPress(kOk);
+  OpenDialog();
+  EXPECT_EQ(Walk.OpeningState, 2);
+  WalkThrough();
+  EXPECT_EQ(Walk.OpeningState, 0);
+  EXPECT_EQ(Started(), Rows{});
+  Ticks(1);
+  EXPECT_EQ(Started(), Rows{" \"C:\\data\\a\""});
+}
+
+TEST_F(OpenDialogTest, AGroupWithNoFilesCalledRunsTheAnimationOpensNothingAndEnds) {
+  PutWalker();
+  ThenPress(IDC_OPN_TAKE_GROUP);
+  ThenPress(kOk);
+  OpenDialog();
+  EXPECT_TRUE(Walk.WalkActive);
+  EXPECT_EQ(Walk.OpeningState, 2);
+  EXPECT_NE(OpnPendingGroup, nullptr);
+  WalkThrough();
+  Ticks(1);
+  EXPECT_EQ(OpnPendingGroup, nullptr);
+  EXPECT_EQ(Started(), Rows{});
+}
+
+TEST_F(OpenDialogTest, ACancelledCallLeavesFileOpnDialogOpen) {
+  In(IDC_OPN_TAKE_GROUP, [] { ThenPress(kCancel); });
+  EXPECT_EQ(OpnPendingGroup, nullptr);
+}
+
+TEST_F(OpenDialogTest, ASearchByNameLeadsToTheChosenGroup) {
+  AddToGroup(3, "Report1.txt");
+  AddToGroup(8, "report2.txt");
+  OpnGroupSetComment(8, "二");
+  SaveGroups();
+  In(IDC_OPN_TAKE_GROUP, [] {
+    ThenType(IDC_OPN_NAME_WORDS, "report");
+    ThenPress(IDC_OPN_SEARCH_NAMES);
+    ThenExpect([] {
+      EXPECT_EQ(TemplateOf(TopDialog()), IDD_SerchOpnFileGrpSelDlg);
+      EXPECT_EQ(WindowText(TopDialog()), "検索したグループの選択");
+      EXPECT_EQ(Dialogs.DlgIdSub, 2030);
+      EXPECT_EQ(RowsOf(IDC_OPN_GROUP), (Rows{"*  4 ()", "*  9 (二)"}));
+      ChooseRow(TopDialog(), IDC_OPN_GROUP, 1);
+      Press(TopDialog(), kOk);
+    });
+    ThenExpect([] {
+      EXPECT_EQ(ChosenOf(IDC_OPN_GROUP), 8);
+      EXPECT_EQ(ControlText(TopDialog(), IDC_OPN_COMMENT), "二");
+      EXPECT_EQ(RowsOf(IDC_OPN_GROUP_FILES), Rows{"report2.txt [C:\\data\\]"});
+    });
+    // A cancelled choice leaves the group that was there.
+    ThenPress(IDC_OPN_SEARCH_NAMES);
+    ThenPress(kCancel);
+    ThenExpect([] { EXPECT_EQ(ChosenOf(IDC_OPN_GROUP), 8); });
+    ThenPress(kCancel);
+  });
+}
+
+TEST_F(OpenDialogTest, ASearchByCommentLeadsToTheChosenGroup) {
+  AddToGroup(3, "a");
+  OpnGroupSetComment(3, "朝の仕事");
+  SaveGroups();
+  In(IDC_OPN_TAKE_GROUP, [] {
+    ThenType(IDC_OPN_COMMENT_WORDS, "仕事");
+    ThenPress(IDC_OPN_SEARCH_COMMENTS);
+    ThenPress(kOk);
+    ThenExpect([] { EXPECT_EQ(ChosenOf(IDC_OPN_GROUP), 3); });
+    ThenPress(kCancel);
+  });
+}
+
+TEST_F(OpenDialogTest, SearchesThatFindNothingSaySo) {
+  In(IDC_OPN_TAKE_GROUP, [] {
+    ThenType(IDC_OPN_NAME_WORDS, "x");
+    ExpectBox("一致するグループは見つかりませんでした", "ファイル名検索失敗");
+    ThenPress(IDC_OPN_SEARCH_NAMES);
+    ExpectBox("一致するグループは見つかりませんでした", "コメント検索失敗");
+    ThenPress(IDC_OPN_SEARCH_COMMENTS);
+    ThenPress(kCancel);
+  });
+}
+
+}  // namespace

@@ -1,0 +1,86 @@
+// FlyingBat4 with a note of the calendar.
+#include "character/alarm_images.h"
+#include "character/character.h"
+#include "schedule/execution/scl_notice.h"
+#include "tests/character/notices_fixture.h"
+
+namespace {
+
+TEST_F(NoticesTest, WithNoNoteDueNoNoticeOpens) {
+  Send(kNoteNotice);
+  EXPECT_EQ(Notices.hSclNoticeWnd, nullptr);
+}
+
+TEST_F(NoticesTest, TheFirstNoteThatIsDueOpensAndItsFlagIsCleared) {
+  NoteDue(1, "明日");
+  NoteDue(2, "明後日");
+  Send(kNoteNotice);
+  EXPECT_EQ(Notices.SclNoticeKind, 3);
+  EXPECT_FALSE(Notices.NoteNotices[1].due);
+  EXPECT_TRUE(Notices.NoteNotices[2].due);
+  ExpectPlace(Notices.hSclNoticeWnd);
+  Send(kNoteNotice);
+  EXPECT_EQ(Notices.SclNoticeKind, 4);
+  EXPECT_FALSE(Notices.NoteNotices[2].due);
+  const WindowHandle last = Notices.hSclNoticeWnd;
+  Send(kNoteNotice);
+  EXPECT_EQ(Notices.hSclNoticeWnd, last);
+}
+
+TEST_F(NoticesTest, TodaysNoteIsAnnouncedForTodayWithTheDayInThePlaceOfTheMonthToo) {
+  NoteDue(0, "誕生日");
+  Send(kNoteNotice);
+  Repaint(Notices.hSclNoticeWnd);
+  EXPECT_EQ(Drawings(Notices.hSclNoticeWnd).size(), 4U);
+  ExpectText(Notices.hSclNoticeWnd, {{20, "<< カレンダー書き込み >>"},
+                                     {40, "予定日 : 2026年21月21日  本日です"},
+                                     {64, "( 内 容 )"},
+                                     {84, "誕生日"}});
+}
+
+TEST_F(NoticesTest, LaterNotesAreAnnouncedWithTheirDaysAhead) {
+  for (const int note : {1, 2}) {
+    NoteDue(note, "誕生日");
+    Send(kNoteNotice);
+    Repaint(Notices.hSclNoticeWnd);
+    const std::string date = "予定日 : 2026年21月21日  " + std::to_string(note) + "日前です";
+    EXPECT_TRUE(TextStands(Notices.hSclNoticeWnd, date.c_str(), 10, 40));
+  }
+}
+
+TEST_F(NoticesTest, ANotesTextStartsTenBelowThePictureAndAtMostAtAHundred) {
+  PutFrame(kClockCharacter, 1, 40, 30);
+  PutFrame(kClockCharacter, 2, 40, 79);
+  PutFrame(kClockCharacter, 3, 40, 80);
+  PutFrame(kClockCharacter, 4, 40, 200);
+  Character.AlarmCharaSel[2] = 2;
+  AlarmCharaLoad();
+  NoteDue(0, "誕生日");
+  Send(kNoteNotice);
+  Repaint(Notices.hSclNoticeWnd);
+  EXPECT_TRUE(TextStands(Notices.hSclNoticeWnd, "<< カレンダー書き込み >>", 10, 50));
+  // Drawn with the mask and without a box.
+  const std::vector<DrawCall> drawn = Drawings(Notices.hSclNoticeWnd);
+  EXPECT_EQ(drawn.size(), 6U);
+  ExpectMasked(Notices.hSclNoticeWnd, 10, 10, AlarmImages.AlarmRows[2].pictures[0],
+               AlarmImages.AlarmRows[2].masks[0]);
+  for (const int y : {99, 100, 100}) {
+    DrawingClear();
+    SclNoticeFrameStep();
+    EXPECT_TRUE(TextStands(Notices.hSclNoticeWnd, "<< カレンダー書き込み >>", 10, y));
+  }
+}
+
+TEST_F(NoticesTest, ANotesTextIsBrokenAtFiftySixColumns) {
+  NoteDue(0, std::string(128, 'x').c_str());
+  Send(kNoteNotice);
+  Repaint(Notices.hSclNoticeWnd);
+  const std::vector<DrawCall> texts = DrawnTexts(Notices.hSclNoticeWnd);
+  ASSERT_EQ(texts.size(), 6U);
+  EXPECT_EQ(texts[3].text, std::string(56, 'x'));
+  EXPECT_EQ(texts[4].text, std::string(56, 'x'));
+  EXPECT_EQ(texts[4].y, 104);
+  EXPECT_EQ(texts[5].text, std::string(16, 'x'));
+}
+
+}  // namespace
