@@ -8,7 +8,9 @@
 
 namespace {
 
-constexpr int kTemplates[kAlarmRowCount] = {2047, 2048, 2050};  // in DlgIdTool, by row
+constexpr ToolDialog kTemplates[kAlarmRowCount] = {ToolDialog::AlarmChkDialogMail,
+                                                   ToolDialog::AlarmChkDialogSchedule,
+                                                   ToolDialog::AlarmChkDialogClock};  // in DlgIdTool, by row
 constexpr Rect kBox = {10, 10, 290, 170};
 
 AlarmRow checked[kAlarmRowCount];

@@ -13,7 +13,10 @@
 
 namespace {
 
-constexpr int kFirstTemplate = 2021;  // in DlgIdSub, of the menu motion
+// By Preview.
+constexpr SubDialog kNumbers[] = {SubDialog::None, SubDialog::DspOptionOpeDlgMenu,
+                                  SubDialog::DspOptionOpeDlgBlink, SubDialog::DspOptionOpeDlgBored1,
+                                  SubDialog::DspOptionOpeDlgBored2};
 constexpr int kTicksOfFrame = 5;
 constexpr int kTextX = 10;
 constexpr int kTextY = 10;
@@ -126,8 +129,7 @@ bool Proc(const Event& event) {
 void MotionPreviewRun(WindowHandle owner, int index, Preview kind) {
   if (index < 0 || index >= kMainCharaMax) return;  // bounded: no such character
   Load(CharaTables.MainCharas[index], kind);
-  const int id = kFirstTemplate + static_cast<int>(kind) - static_cast<int>(Preview::Menu);
-  SubDialogRun(id, IDD_DspOptionOpeDlg, owner, Proc);
+  SubDialogRun(kNumbers[static_cast<int>(kind)], IDD_DspOptionOpeDlg, owner, Proc);
   Free();
 }
 

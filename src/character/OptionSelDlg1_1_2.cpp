@@ -6,7 +6,6 @@
 
 namespace {
 
-constexpr int kTemplate = 2045;  // in DlgIdTool
 constexpr std::uint32_t kFirstButton = 2285;
 constexpr std::uint32_t kLastButton = 2288;
 
@@ -24,5 +23,5 @@ bool Proc(const Event& event) {
 
 void CharacterDetailRun(WindowHandle owner, int index) {
   shown = index;
-  ToolDialogRun(kTemplate, IDD_OptionSelDlg1_1_2, owner, Proc);
+  ToolDialogRun(ToolDialog::OptionSelDlg1_1, IDD_OptionSelDlg1_1_2, owner, Proc);
 }

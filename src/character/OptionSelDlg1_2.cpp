@@ -12,18 +12,18 @@
 #include "platform/dialog.h"
 #include "platform/window.h"
 #include "resources/ids.h"
+#include "services/commands.h"
 #include "services/dialog_family.h"
 #include "services/dib.h"
 #include "services/feature_dialog.h"
 #include "services/painting.h"
+#include "services/panel_entry.h"
 #include "services/program.h"
-#include "shell/panel.h"
-#include "shell/settings.h"
+#include "services/settings_save.h"
 #include "world/world_list.h"
 
 namespace {
 
-constexpr int kTemplate = 2013;  // in DlgIdMenu
 constexpr int kList = 100;
 constexpr int kName = 101;
 constexpr int kOk = 1;
@@ -92,7 +92,7 @@ void Leave(WindowHandle dialog) {
   MenuDialogEnd(dialog, kCancel);
 }
 
-bool Command(const Event& event) {
+bool HandleCommand(const Event& event) {
   switch (event.command) {
     case kList:
       if (event.notice == Notice::SelectChange) Show(event.window, ListSelected(event.window, kList));
@@ -118,7 +118,7 @@ bool Proc(const Event& event) {
       Fill(event.window);
       return true;
     case EventKind::Command:
-      return Command(event);
+      return HandleCommand(event);
     case EventKind::Paint:
       DrawPreview(event.window);
       return true;
@@ -139,13 +139,13 @@ void OptionPreviewsFree() {
   }
 }
 
-void CommandOptionMainCharacter(std::uint32_t) {
-  FeatureDialogRun(Panel.FuncNo, [] {
+void CommandOptionMainCharacter(Command) {
+  FeatureDialogRun(PanelFeature(), [] {
     WorldListRead();
     changed = false;
-    MenuDialogRun(kTemplate, IDD_OptionSelDlg1_2, Program.hMainWnd, Proc);
+    MenuDialogRun(MenuDialog::OptionSelDlg1_2, IDD_OptionSelDlg1_2, Program.hMainWnd, Proc);
     if (changed) SysFileWrite();
-    if (Stage.StageRedraw == kRedrawReload) SendCommand(Program.hMainWnd, kStageRedrawCommand);
+    if (Stage.StageRedraw == kRedrawReload) CommandSend(Command::StageRedraw);
     return 0;
   });
 }

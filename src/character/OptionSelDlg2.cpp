@@ -9,16 +9,16 @@
 #include "platform/dialog.h"
 #include "platform/window.h"
 #include "resources/ids.h"
+#include "services/commands.h"
 #include "services/dialog_family.h"
 #include "services/feature_dialog.h"
+#include "services/panel_entry.h"
 #include "services/program.h"
-#include "shell/panel.h"
-#include "shell/settings.h"
+#include "services/settings_save.h"
 #include "world/world_list.h"
 
 namespace {
 
-constexpr int kTemplate = 2014;  // in DlgIdMenu
 constexpr int kOk = 1;
 constexpr std::uint32_t kCheckMail = 2289;
 constexpr std::uint32_t kCheckSchedule = 2290;
@@ -56,7 +56,7 @@ void Take(WindowHandle dialog) {
   changed = true;
 }
 
-bool Command(const Event& event) {
+bool HandleCommand(const Event& event) {
   switch (event.command) {
     case kCheckMail:
       AlarmCheckRun(event.window, kAlarmMail, Character.AlarmCharaSel[kAlarmMail]);
@@ -81,17 +81,17 @@ bool Proc(const Event& event) {
     Fill(event.window);
     return true;
   }
-  return event.kind == EventKind::Command && Command(event);
+  return event.kind == EventKind::Command && HandleCommand(event);
 }
 
 }  // namespace
 
-void CommandOptionAlarmCharacter(std::uint32_t) {
-  FeatureDialogRun(Panel.FuncNo, [] {
+void CommandOptionAlarmCharacter(Command) {
+  FeatureDialogRun(PanelFeature(), [] {
     WorldListRead();
     CharaFileRead();
     changed = false;
-    MenuDialogRun(kTemplate, IDD_OptionSelDlg2, Program.hMainWnd, Proc);
+    MenuDialogRun(MenuDialog::OptionSelDlg2, IDD_OptionSelDlg2, Program.hMainWnd, Proc);
     if (changed) SysFileWrite();
     AlarmCheckFree();
     return 0;

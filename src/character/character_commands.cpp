@@ -3,19 +3,20 @@
 #include "character/stage.h"
 #include "character/walk.h"
 #include "character/walk_windows.h"
+#include "services/commands.h"
 
-void CommandStageRedraw(std::uint32_t) {
+void CommandStageRedraw(Command) {
   CommandRedrawStage();
 }
 
-void CommandOpenWalk(std::uint32_t) {
+void CommandOpenWalk(Command) {
   WalkForOpening();
 }
 
-void CommandWalkWindow(std::uint32_t) {
+void CommandWalkWindow(Command) {
   WalkWindowRun();
 }
 
-void CommandWalkEnd(std::uint32_t) {
+void CommandWalkEnd(Command) {
   EndWindowsRun();
 }

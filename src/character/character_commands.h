@@ -3,14 +3,16 @@
 
 #include <cstdint>
 
-void CommandStageRedraw(std::uint32_t number);           // 2293
-void CommandOpenWalk(std::uint32_t number);              // 2004: walk, then open the file
-void CommandWalkWindow(std::uint32_t number);            // 2203
-void CommandWalkEnd(std::uint32_t number);               // 2208
-void CommandOptionMainCharacter(std::uint32_t number);   // 2281
-void CommandOptionAlarmCharacter(std::uint32_t number);  // 2282
-void CommandOptionLayout(std::uint32_t number);          // 2283
-void CommandLayoutApply(std::uint32_t number);           // 2374
-void CommandSclNotice(std::uint32_t number);             // 2265
-void CommandNoteNotice(std::uint32_t number);            // 2294
-void CommandClockNotice(std::uint32_t number);           // 2336
+#include "services/commands.h"
+
+void CommandStageRedraw(Command command);           // 2293
+void CommandOpenWalk(Command command);              // 2004: walk, then open the file
+void CommandWalkWindow(Command command);            // 2203
+void CommandWalkEnd(Command command);               // 2208
+void CommandOptionMainCharacter(Command command);   // 2281
+void CommandOptionAlarmCharacter(Command command);  // 2282
+void CommandOptionLayout(Command command);          // 2283
+void CommandLayoutApply(Command command);           // 2374
+void CommandSclNotice(Command command);             // 2265
+void CommandNoteNotice(Command command);            // 2294
+void CommandClockNotice(Command command);           // 2336

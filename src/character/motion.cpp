@@ -14,7 +14,6 @@ MotionState Motion;
 
 namespace {
 
-constexpr int kMainCharaDialog = 2013;  // OptionSelDlg1_2
 constexpr std::int32_t kTicksBetweenSteps = 16;
 // Steps of one count of the idle timer's next level.
 // kept: they are no seconds, and the labels of the delays are nominal: "5分" is 365 steps.
@@ -164,7 +163,7 @@ Step StepMotion() {
 }  // namespace
 
 int CharaMotionTick() {
-  if (Dialogs.DlgIdMenu == kMainCharaDialog) return 0;
+  if (Dialogs.DlgIdMenu == MenuDialog::OptionSelDlg1_2) return 0;
   if (++Motion.CharaStepCount > kTicksBetweenSteps) {
     Motion.CharaStepCount = 0;
     const Step step = StepMotion();

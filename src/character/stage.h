@@ -14,8 +14,6 @@ inline constexpr int kOutlineBored1 = 3;  // the four frames of pattern 1
 inline constexpr int kOutlineBored2 = 7;  // the four frames of pattern 2
 inline constexpr int kOutlineSlotCount = 11;
 
-inline constexpr std::uint32_t kStageRedrawCommand = 2293;
-
 // What the next command 2293 does.
 inline constexpr std::int32_t kRedrawNothing = 0;
 inline constexpr std::int32_t kRedrawOutline = 1;  // another outline: cut the window anew

@@ -12,6 +12,7 @@
 #include "mail_music/mail/mail_setting.h"
 #include "platform/canvas.h"
 #include "platform/window.h"
+#include "services/commands.h"
 #include "services/program.h"
 #include "services/screen_figures.h"
 #include "services/sound_file.h"
@@ -20,8 +21,6 @@ WalkState Walk;
 
 namespace {
 
-constexpr std::uint32_t kWalkWindowCommand = 2203;
-constexpr std::uint32_t kEndWindowsCommand = 2208;
 constexpr int kMailFlagsCleared = 10;
 
 bool abortAll;
@@ -98,11 +97,11 @@ void WalkShow(int slot) {
   Walk.WalkSlotNow = slot;
   if (!Walk.WalkSlots[slot].walkWindow) {
     TrailWindowsClose();
-    SendCommand(Program.hMainWnd, kWalkWindowCommand);  // returns when the window has closed
+    CommandSend(Command::WalkWindow);  // returns when the window has closed
   } else if ((WalkFlagsNow() & kWalkTrail) != 0) {
     TrailWindowOpen();
   } else {
-    SendCommand(Walk.WalkSlots[slot].walkWindow, kWalkMoveCommand);
+    CommandSendTo(Walk.WalkSlots[slot].walkWindow, Command::NextStep);
   }
 }
 
@@ -117,7 +116,7 @@ void WalkFinish(int slot) {
   s.ending = true;
   s.place = 0;
   Walk.WalkSlotNow = slot;
-  SendCommand(Program.hMainWnd, kEndWindowsCommand);  // returns when the end phase is over
+  CommandSend(Command::WalkEnd);  // returns when the end phase is over
 }
 
 }  // namespace
@@ -179,7 +178,7 @@ void WalkEndTick(int slot) {
                                    [](const WalkSlot& other) { return other.ending; });
   const bool opens = Walk.OpeningState == kOpeningFile;
   Walk.OpeningState = 0;
-  if (opens) SendCommand(Program.hMainWnd, kCarryOutCommand);
+  if (opens) CommandSend(Command::OpenLaunch);
 }
 
 // The common flag counts for the whole round: a walk that ends in it leaves the
@@ -238,5 +237,5 @@ void WalkForOpening() {
   Walk.OpeningState = kOpeningFile;
   if (WalkStartOpen() == 0) return;
   Walk.OpeningState = 0;
-  SendCommand(Program.hMainWnd, kCarryOutCommand);
+  CommandSend(Command::OpenLaunch);
 }

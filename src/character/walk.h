@@ -89,9 +89,6 @@ ImageHandle WalkPicture(int slot, int frame);
 // The region of a frame's outline; null for none.
 RegionHandle WalkRegion(int frame);
 
-// Carries the waiting opening out.
-inline constexpr std::uint32_t kCarryOutCommand = 2202;
-
 // A file is to be opened (command 2004): the walk goes first if there is one, else
 // command 2202 follows at once.
 void WalkForOpening();

@@ -11,6 +11,7 @@
 #include "platform/dialog.h"
 #include "platform/window.h"
 #include "resources/ids.h"
+#include "services/commands.h"
 #include "services/dib.h"
 #include "services/program.h"
 #include "services/random.h"
@@ -89,7 +90,7 @@ bool Proc(const Event& event, int slot) {
       Open(event.window, slot);
       return true;
     case EventKind::Command:
-      if (event.command == kWalkMoveCommand) Place(event.window, slot, true);
+      if (CommandIs(event, Command::NextStep)) Place(event.window, slot, true);
       return true;
     case EventKind::Paint:
       Paint(event.window, slot);
@@ -141,7 +142,7 @@ void TrailWindowOpen() {
   const WindowHandle window = DialogOpen(IDD_FlyingBat1, Program.hMainWnd, TrailWindowProc);
   if (!window) return;
   trail[trailCount++] = window;
-  SendCommand(window, kWalkMoveCommand);
+  CommandSendTo(window, Command::NextStep);
 }
 
 // kept: what an abandoned walk has left of its trail goes when the next walk opens its

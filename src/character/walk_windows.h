@@ -4,9 +4,6 @@
 #include "character/walk.h"
 #include "platform/event.h"
 
-// Sent to a walking window: take the place of the step.
-inline constexpr std::uint32_t kWalkMoveCommand = 2258;
-
 // The size of a window whose frame has no picture.
 inline constexpr int kWalkWindowWidth = 300;
 inline constexpr int kWalkWindowHeight = 200;

@@ -1,33 +1,28 @@
 #include "clock_calendar/clock_calendar_commands.h"
 
 #include "clock_calendar/calendar/calendar.h"
-#include "platform/window.h"
-#include "shell/panel.h"
-#include "shell/settings.h"
+#include "services/commands.h"
+#include "services/panel_entry.h"
+#include "services/settings_save.h"
 
 namespace {
 
 // The windows of the clock and the calendar are not there yet: all that is left
 // of a panel entry is that the panel closes.
-bool IsPanelEntry(std::uint32_t number) {
-  return number == 1911 || number == 1913;
-}
-
-void PanelEntryEnd() {
-  SendClose(Panel.hDiskMenu);
-  Panel.MenuPanelState = 0;
+bool IsPanelEntry(Command command) {
+  return command == Command::ClockSelect || command == Command::CalendarSelect;
 }
 
 }  // namespace
 
-void ClockCommand(std::uint32_t number) {
-  if (IsPanelEntry(number)) PanelEntryEnd();
+void ClockCommand(Command command) {
+  if (IsPanelEntry(command)) PanelLeave();
 }
 
-void CalendarCommand(std::uint32_t number) {
-  if (IsPanelEntry(number)) PanelEntryEnd();
+void CalendarCommand(Command command) {
+  if (IsPanelEntry(command)) PanelLeave();
   // The years are rebuilt when a sibling has written the calendar file.
-  if (number == 2381) {
+  if (command == Command::CalendarYears) {
     CalenYearsRebuild();
     SysFileWrite();
   }

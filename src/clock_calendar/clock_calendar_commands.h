@@ -3,5 +3,7 @@
 
 #include <cstdint>
 
-void ClockCommand(std::uint32_t number);
-void CalendarCommand(std::uint32_t number);
+#include "services/commands.h"
+
+void ClockCommand(Command command);
+void CalendarCommand(Command command);

@@ -1,11 +1,9 @@
 #include "mail_music/mail_music_commands.h"
 
-#include "platform/window.h"
-#include "shell/panel.h"
+#include "services/panel_entry.h"
 
-// The numbers are known and answered; their windows are not there yet, so all
-// that is left of an entry is that the panel closes.
-void MailMusicCommand(std::uint32_t) {
-  SendClose(Panel.hDiskMenu);
-  Panel.MenuPanelState = 0;
+// The windows are not there yet: all that is left of an entry of the panel is that
+// the panel closes. The other numbers are known, and do nothing.
+void MailMusicCommand(Command command) {
+  if (command == Command::MailSettings || command == Command::MusicTable) PanelLeave();
 }

@@ -3,4 +3,6 @@
 
 #include <cstdint>
 
-void MailMusicCommand(std::uint32_t number);
+#include "services/commands.h"
+
+void MailMusicCommand(Command command);

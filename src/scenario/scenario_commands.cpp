@@ -1,11 +1,11 @@
 #include "scenario/scenario_commands.h"
 
-#include "platform/window.h"
-#include "shell/panel.h"
+#include "services/panel_entry.h"
 
-// The numbers are known and answered; their windows are not there yet, so all
-// that is left of an entry is that the panel closes.
-void ScenarioCommand(std::uint32_t) {
-  SendClose(Panel.hDiskMenu);
-  Panel.MenuPanelState = 0;
+// The windows are not there yet: all that is left of an entry of the panel is that
+// the panel closes. The other numbers are known, and do nothing.
+void ScenarioCommand(Command command) {
+  if (command == Command::ScenarioLoad || command == Command::ScenarioDelete ||
+      command == Command::ScenarioNew)
+    PanelLeave();
 }

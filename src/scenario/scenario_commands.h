@@ -3,4 +3,6 @@
 
 #include <cstdint>
 
-void ScenarioCommand(std::uint32_t number);
+#include "services/commands.h"
+
+void ScenarioCommand(Command command);

@@ -3,5 +3,7 @@
 
 #include <cstdint>
 
+#include "services/commands.h"
+
 // All numbers of the schedule, the plans and the application list.
-void ScheduleCommand(std::uint32_t number);
+void ScheduleCommand(Command command);

@@ -1,7 +1,7 @@
 #include "services/dialog_family.h"
 
 #include "platform/dialog.h"
-#include "shell/panel.h"
+#include "services/panel_entry.h"
 
 DialogsState Dialogs;
 
@@ -11,8 +11,9 @@ constexpr int kDepth = 8;
 
 // Which handler serves which open dialog of a family; a dialog gets its entry at
 // Init.
+template <typename Number>
 struct Family {
-  int* id;
+  Number* id;
   WindowHandle* handle;
   bool isMenu;
   EventHandler next;  // the handler of the dialog about to be made
@@ -22,25 +23,28 @@ struct Family {
   } open[kDepth];
 };
 
-Family menuFamily{&Dialogs.DlgIdMenu, &Dialogs.hMenuDlg, true, nullptr, {}};
-Family toolFamily{&Dialogs.DlgIdTool, &Dialogs.hToolDlg, false, nullptr, {}};
-Family subFamily{&Dialogs.DlgIdSub, &Dialogs.hSubDlg, false, nullptr, {}};
-Family snryFamily{&Dialogs.DlgIdSnry, &Dialogs.hSnryDlg, false, nullptr, {}};
+Family<MenuDialog> menuFamily{&Dialogs.DlgIdMenu, &Dialogs.hMenuDlg, true, nullptr, {}};
+Family<ToolDialog> toolFamily{&Dialogs.DlgIdTool, &Dialogs.hToolDlg, false, nullptr, {}};
+Family<SubDialog> subFamily{&Dialogs.DlgIdSub, &Dialogs.hSubDlg, false, nullptr, {}};
+Family<SnryDialog> snryFamily{&Dialogs.DlgIdSnry, &Dialogs.hSnryDlg, false, nullptr, {}};
 
-EventHandler HandlerOf(const Family& family, WindowHandle window) {
+template <typename Number>
+EventHandler HandlerOf(const Family<Number>& family, WindowHandle window) {
   for (const auto& entry : family.open) {
     if (entry.window == window) return entry.handler;
   }
   return nullptr;
 }
 
-void End(Family& family, WindowHandle dialog, int result) {
-  if (family.isMenu) Panel.MenuPanelState = 0;
+template <typename Number>
+void End(Family<Number>& family, WindowHandle dialog, int result) {
+  if (family.isMenu) PanelStateClear();
   if (*family.handle == dialog) *family.handle = nullptr;
   DialogEnd(dialog, result);
 }
 
-bool Proc(Family& family, const Event& event) {
+template <typename Number>
+bool Proc(Family<Number>& family, const Event& event) {
   if (event.kind == EventKind::Init) {
     for (auto& entry : family.open) {
       if (entry.window) continue;
@@ -77,28 +81,29 @@ bool SnryDlgProc(const Event& event) {
   return Proc(snryFamily, event);
 }
 
-int Run(Family& family, EventHandler proc, int dlgId, int templateId, WindowHandle owner,
+template <typename Number>
+int Run(Family<Number>& family, EventHandler proc, Number dialog, int templateId, WindowHandle owner,
         EventHandler handler) {
-  *family.id = dlgId;
+  *family.id = dialog;
   family.next = handler;
   const int result = DialogRun(templateId, owner, proc);
-  *family.id = 0;
+  *family.id = Number::None;
   return result;
 }
 
 }  // namespace
 
-int MenuDialogRun(int dlgId, int templateId, WindowHandle owner, EventHandler handler) {
-  return Run(menuFamily, MenuDlgProc, dlgId, templateId, owner, handler);
+int MenuDialogRun(MenuDialog dialog, int templateId, WindowHandle owner, EventHandler handler) {
+  return Run(menuFamily, MenuDlgProc, dialog, templateId, owner, handler);
 }
-int ToolDialogRun(int dlgId, int templateId, WindowHandle owner, EventHandler handler) {
-  return Run(toolFamily, ToolDlgProc, dlgId, templateId, owner, handler);
+int ToolDialogRun(ToolDialog dialog, int templateId, WindowHandle owner, EventHandler handler) {
+  return Run(toolFamily, ToolDlgProc, dialog, templateId, owner, handler);
 }
-int SubDialogRun(int dlgId, int templateId, WindowHandle owner, EventHandler handler) {
-  return Run(subFamily, SubDlgProc, dlgId, templateId, owner, handler);
+int SubDialogRun(SubDialog dialog, int templateId, WindowHandle owner, EventHandler handler) {
+  return Run(subFamily, SubDlgProc, dialog, templateId, owner, handler);
 }
-int SnryDialogRun(int dlgId, int templateId, WindowHandle owner, EventHandler handler) {
-  return Run(snryFamily, SnryDlgProc, dlgId, templateId, owner, handler);
+int SnryDialogRun(SnryDialog dialog, int templateId, WindowHandle owner, EventHandler handler) {
+  return Run(snryFamily, SnryDlgProc, dialog, templateId, owner, handler);
 }
 
 void MenuDialogEnd(WindowHandle dialog, int result) {

@@ -4,16 +4,17 @@
 #pragma once
 
 #include "platform/event.h"
+#include "services/dialog_numbers.h"
 
 struct DialogsState {
   WindowHandle hMenuDlg = nullptr;  // the open dialog of each family
   WindowHandle hToolDlg = nullptr;
   WindowHandle hSubDlg = nullptr;
   WindowHandle hSnryDlg = nullptr;
-  int DlgIdMenu = 0;  // the template in force of each family; 0 for none
-  int DlgIdTool = 0;
-  int DlgIdSub = 0;
-  int DlgIdSnry = 0;
+  MenuDialog DlgIdMenu = MenuDialog::None;  // the template in force of each family; 0 for none
+  ToolDialog DlgIdTool = ToolDialog::None;
+  SubDialog DlgIdSub = SubDialog::None;
+  SnryDialog DlgIdSnry = SnryDialog::None;
 };
 extern DialogsState Dialogs;
 
@@ -22,10 +23,10 @@ extern DialogsState Dialogs;
 // first about every event; what it leaves (returns false for) of button 1,
 // button 2 and Close ends the dialog with 1 or 2. Returns the dialog's result,
 // -1 when it cannot be made.
-int MenuDialogRun(int dlgId, int templateId, WindowHandle owner, EventHandler handler);
-int ToolDialogRun(int dlgId, int templateId, WindowHandle owner, EventHandler handler);
-int SubDialogRun(int dlgId, int templateId, WindowHandle owner, EventHandler handler);
-int SnryDialogRun(int dlgId, int templateId, WindowHandle owner, EventHandler handler);
+int MenuDialogRun(MenuDialog dialog, int templateId, WindowHandle owner, EventHandler handler);
+int ToolDialogRun(ToolDialog dialog, int templateId, WindowHandle owner, EventHandler handler);
+int SubDialogRun(SubDialog dialog, int templateId, WindowHandle owner, EventHandler handler);
+int SnryDialogRun(SnryDialog dialog, int templateId, WindowHandle owner, EventHandler handler);
 
 // Ends a family's dialog from its own handler: clears the handle (for the menu
 // family the panel state too) and ends it with `result`.

@@ -37,8 +37,8 @@ bool Handle(const Event& event) {
 
 }  // namespace
 
-int FolderPickRun(int dlgId, int templateId, WindowHandle owner, char* folder, int size) {
-  if (ToolDialogRun(dlgId, templateId, owner, Handle) != 1) return 0;
+int FolderPickRun(ToolDialog number, int templateId, WindowHandle owner, char* folder, int size) {
+  if (ToolDialogRun(number, templateId, owner, Handle) != 1) return 0;
   if (folderOnShow[0] == '\0') return 0;  // where it stood could not be told
   const bool driveRoot = std::strcmp(folderOnShow + TextPrefix(folderOnShow, 1), ":\\") == 0;
   if (driveRoot) folderOnShow[2] = '\0';

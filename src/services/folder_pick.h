@@ -2,10 +2,11 @@
 #pragma once
 
 #include "platform/types.h"
+#include "services/dialog_numbers.h"
 
 // Runs such a dialog of the tool family (FileBackUpDirDlg, FileDivFileDlg,
-// FileUDivFileDlg), beginning in the current folder; `dlgId` is its number in the
+// FileUDivFileDlg), beginning in the current folder; `number` is its own in the
 // family. 1, with the folder in `folder` (`size` bytes, terminated, no backslash at
 // its end, so that a drive root is "C:"), or 0 when the user chose none or the
 // dialog cannot be made; `folder` is then as it was.
-int FolderPickRun(int dlgId, int templateId, WindowHandle owner, char* folder, int size);
+int FolderPickRun(ToolDialog number, int templateId, WindowHandle owner, char* folder, int size);

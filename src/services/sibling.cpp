@@ -2,10 +2,10 @@
 
 #include "platform/file.h"
 #include "platform/process.h"
-#include "shell/panel.h"
+#include "services/panel_entry.h"
 
 void SiblingStart(const char* folder, const char* commandLine) {
-  Panel.MenuPanelState = 0;
+  PanelLeave();
   FolderSetCurrent(folder);
   const ProcessHandle process = ProcessStart(commandLine);
   ProcessWaitIdle(process, 5000);

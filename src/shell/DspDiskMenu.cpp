@@ -10,12 +10,15 @@
 #include "platform/window.h"
 #include "resources/ids.h"
 #include "schedule/table/table_scroll.h"
+#include "services/commands.h"
 #include "services/drawing_objects.h"
+#include "services/feature_dialog.h"
 #include "services/painting.h"
+#include "services/panel_entry.h"
 #include "services/program.h"
 #include "services/screen_figures.h"
-#include "shell/commands.h"
 #include "shell/panel.h"
+#include "shell/shell_commands.h"
 
 PanelState Panel;
 
@@ -38,8 +41,8 @@ constexpr std::int32_t kStateStays = -1;
 
 struct Row {
   const char* text;
-  std::int32_t state;     // of MenuPanelState; kStateStays: as it is
-  std::uint32_t command;  // 0: the panel only closes
+  std::int32_t state;  // of MenuPanelState; kStateStays: as it is
+  Command command;     // None: the panel only closes
 };
 
 struct Level {
@@ -49,41 +52,51 @@ struct Level {
   Row rows[kRowMax];
 };
 
-constexpr Row kCancel = {" キャンセル  ", 0, 0};
+constexpr Row kCancel = {" キャンセル  ", 0, Command::None};
 
 constexpr Level kLevels[] = {
     {kPanelTop,
      200,
      8,
-     {{" ファイル オープン  ", 2, 1900},
-      {" ファイル バックアップ  ", 3, 1901},
-      {" その他のファイル操作  ", kPanelFiles, 1902},
-      {" 操作説明書 ", kStateStays, 2377},
-      {" スケジュール/時間設定 ", kPanelSchedule, 1904},
-      {" アプリケーション", kPanelApplications, 1906},
-      {" オプション  ", kPanelOptions, 1907},
-      {" プログラム終了 ", kStateStays, 1908}}},
-    {kPanelFiles, 80, 3, {{" フォルダースコープ ", 400, 1914}, {" ファイル分割  ", 401, 1915}, kCancel}},
+     {{" ファイル オープン  ", 2, Command::FileOpen},
+      {" ファイル バックアップ  ", 3, Command::BackUpFiles},
+      {" その他のファイル操作  ", kPanelFiles, Command::PanelFiles},
+      {" 操作説明書 ", kStateStays, Command::Manual},
+      {" スケジュール/時間設定 ", kPanelSchedule, Command::PanelSchedule},
+      {" アプリケーション", kPanelApplications, Command::PanelApplications},
+      {" オプション  ", kPanelOptions, Command::PanelOptions},
+      {" プログラム終了 ", kStateStays, Command::Exit}}},
+    {kPanelFiles,
+     80,
+     3,
+     {{" フォルダースコープ ", 400, Command::FolderScope},
+      {" ファイル分割  ", 401, Command::DivideRestore},
+      kCancel}},
     // kept: no row leads here, but command 1903 does.
-    {kPanelCommunication, 60, 2, {{" メール受信連絡 ", 500, 1918}, {"BGM自動演奏設定 ", 501, 1921}}},
+    {kPanelCommunication,
+     60,
+     2,
+     {{" メール受信連絡 ", 500, Command::MailSettings}, {"BGM自動演奏設定 ", 501, Command::MusicTable}}},
     {kPanelSchedule,
      100,
      4,
-     {{" スケジュール表 ", 600, 1910},
-      {" 時計表示  ", 601, 1911},
-      {" カレンダー表示  ", 603, 1913},
+     {{" スケジュール表 ", 600, Command::ScheduleTable},
+      {" 時計表示  ", 601, Command::ClockSelect},
+      {" カレンダー表示  ", 603, Command::CalendarSelect},
       kCancel}},
     // kept: the last row counts as a fourth one, with nothing in the third's place.
     {kPanelApplications,
      80,
      3,
-     {{" シナリオライター", 702, 2365}, {" キャラクタエディター", 700, 1927}, kCancel}},
+     {{" シナリオライター", 702, Command::ScenarioWriter},
+      {" キャラクタエディター", 700, Command::CharacterEditor},
+      kCancel}},
     {kPanelOptions,
      100,
      4,
-     {{" ミルレールキャラクタ", 800, 2281},
-      {" アラームキャラクタ", 800, 2282},
-      {" レイアウト設定 ", 800, 2283},
+     {{" ミルレールキャラクタ", 800, Command::OptionMainCharacter},
+      {" アラームキャラクタ", 800, Command::OptionAlarmCharacter},
+      {" レイアウト設定 ", 800, Command::OptionLayout},
       kCancel}},
 };
 
@@ -181,7 +194,7 @@ void Pressed(const Event& event) {
   if (row >= level->rowCount) return;
   const Row& chosen = level->rows[row];
   if (chosen.state != kStateStays) Panel.MenuPanelState = chosen.state;
-  if (chosen.command != 0) SendCommand(Program.hMainWnd, chosen.command);
+  if (chosen.command != Command::None) CommandSend(chosen.command);
   // A dialog that the command ran has closed the panel long ago. What runs no
   // dialog only clears the state.
   if (Panel.MenuPanelState == 0 && Panel.hDiskMenu == event.window) End(event.window);
@@ -224,25 +237,29 @@ void OpenTop() {
   Panel.MenuCloseCount = kCloseTicks;
   if (Character.MenuFrame != 0) {
     CharaMenuOn();
-    if (Stage.StageRedraw != kRedrawNothing) SendCommand(Program.hMainWnd, kStageRedrawCommand);
+    if (Stage.StageRedraw != kRedrawNothing) CommandSend(Command::StageRedraw);
   }
   DialogRun(IDD_DspDiskMenu, Program.hMainWnd, PanelProc);
   WindowInvalidate(Program.hMainWnd, false);
 }
 
 struct SubPanel {
-  std::uint32_t command;
+  Command command;
   std::int32_t state;  // kStateStays: the level is the one of the moment
-  std::int32_t funcNo;
+  Feature feature;
 };
 constexpr SubPanel kSubPanels[] = {
-    {1902, kPanelFiles, 4},  {1903, kPanelCommunication, 5}, {1904, kPanelSchedule, 8},
-    {1905, kStateStays, 10}, {1906, kPanelApplications, 13}, {1907, kPanelOptions, 19},
+    {Command::PanelFiles, kPanelFiles, Feature::PanelFiles},
+    {Command::PanelCommunication, kPanelCommunication, Feature::PanelCommunication},
+    {Command::PanelSchedule, kPanelSchedule, Feature::PanelSchedule},
+    {Command::PanelDesktop, kStateStays, Feature::PanelDesktop},
+    {Command::PanelApplications, kPanelApplications, Feature::PanelApplications},
+    {Command::PanelOptions, kPanelOptions, Feature::PanelOptions},
 };
 
 void RunSubPanel(const SubPanel& sub) {
   SendClose(Panel.hDiskMenu);
-  Panel.FuncNo = sub.funcNo;
+  Panel.FuncNo = static_cast<std::int32_t>(sub.feature);
   if (sub.state != kStateStays) Panel.MenuPanelState = sub.state;
   DialogRun(IDD_DspDiskMenu, Program.hMainWnd, PanelProc);
   // Closed from outside, with nothing chosen: the pointer must be able to open the
@@ -254,10 +271,33 @@ void RunSubPanel(const SubPanel& sub) {
 
 }  // namespace
 
-void CommandPanelLevel(std::uint32_t number) {
+void CommandPanelLevel(Command command) {
   for (const SubPanel& sub : kSubPanels) {
-    if (sub.command == number) RunSubPanel(sub);
+    if (sub.command == command) RunSubPanel(sub);
   }
+}
+
+void PanelEntryBegin(Feature feature) {
+  SendClose(Panel.hDiskMenu);
+  Panel.FuncNo = static_cast<std::int32_t>(feature);
+}
+
+void PanelEntryDone() {
+  Panel.FuncNo = 0;
+  Panel.MenuPanelState = 0;
+}
+
+void PanelLeave() {
+  SendClose(Panel.hDiskMenu);
+  Panel.MenuPanelState = 0;
+}
+
+void PanelStateClear() {
+  Panel.MenuPanelState = 0;
+}
+
+Feature PanelFeature() {
+  return static_cast<Feature>(Panel.FuncNo);
 }
 
 void PanelPointerOnStage(const Event& event) {

@@ -8,17 +8,17 @@
 #include "platform/dialog.h"
 #include "platform/window.h"
 #include "resources/ids.h"
+#include "services/commands.h"
 #include "services/dialog_family.h"
 #include "services/feature_dialog.h"
 #include "services/painting.h"
+#include "services/panel_entry.h"
 #include "services/program.h"
 #include "shell/layout.h"
-#include "shell/panel.h"
 #include "shell/settings.h"
 
 namespace {
 
-constexpr int kDlgId = 2015;
 constexpr int kOk = 1;
 constexpr int kCancel = 2;
 constexpr int kDefault = 2292;
@@ -131,7 +131,7 @@ void Cancel(WindowHandle dialog) {
   MenuDialogEnd(dialog, kCancel);
 }
 
-bool Command(const Event& event) {
+bool HandleCommand(const Event& event) {
   switch (event.command) {
     case kDefault:
       Default(event.window);
@@ -165,7 +165,7 @@ bool OptionSelDlg3Proc(const Event& event) {
       DragEnd();
       return true;
     case EventKind::Command:
-      return Command(event);
+      return HandleCommand(event);
     case EventKind::Close:
       Cancel(event.window);
       return true;
@@ -176,15 +176,16 @@ bool OptionSelDlg3Proc(const Event& event) {
 
 }  // namespace
 
-void CommandOptionLayout(std::uint32_t) {
-  FeatureDialogRun(Panel.FuncNo, [] {
+void CommandOptionLayout(Command) {
+  FeatureDialogRun(PanelFeature(), [] {
     Layout.LayoutChange = 0;
     // The program may end while the dialog is up: then nothing was confirmed.
-    if (MenuDialogRun(kDlgId, IDD_OptionSelDlg3, Program.hMainWnd, OptionSelDlg3Proc) != kOk)
+    if (MenuDialogRun(MenuDialog::OptionSelDlg3, IDD_OptionSelDlg3, Program.hMainWnd, OptionSelDlg3Proc) !=
+        kOk)
       Layout.LayoutChange = 0;
     if (Layout.LayoutChange != 0) {
       SysFileWrite();
-      SendCommand(Program.hMainWnd, kLayoutApplyCommand);
+      CommandSend(Command::LayoutApply);
     }
     return 0;
   });

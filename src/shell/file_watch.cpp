@@ -13,7 +13,9 @@
 #include "filetools/open/open_history.h"
 #include "platform/file.h"
 #include "platform/window.h"
+#include "services/commands.h"
 #include "services/dialog_family.h"
+#include "services/dialog_numbers.h"
 #include "services/program.h"
 #include "shell/settings.h"
 
@@ -65,7 +67,8 @@ bool CalendarSnapshotDiffers() {
 
 void CalendarLook() {
   // The dialogs that edit the calendars hold their changes in memory.
-  if (Dialogs.DlgIdMenu == 2007 || Dialogs.DlgIdMenu == 2009 || !ChangeTake(WatchedFile::CalendarFile))
+  if (Dialogs.DlgIdMenu == MenuDialog::SelWatchDlg || Dialogs.DlgIdMenu == MenuDialog::SelCalenderDlg ||
+      !ChangeTake(WatchedFile::CalendarFile))
     return;
   CalendarSnapshotTake();
   CalenFileRead();
@@ -77,18 +80,19 @@ void CalendarLook() {
 void CalendarAnswer() {
   if (!calendarReload) return;
   calendarReload = false;
-  SendCommand(Program.hMainWnd, 2381);
+  CommandSend(Command::CalendarYears);
   SendClose(Calendar.hCalenWnd);
-  if (Calendar.CalenShow) SendCommand(Program.hMainWnd, 2379);
+  if (Calendar.CalenShow) CommandSend(Command::CalendarOpen);
   if (calendarTell) {
     calendarTell = false;
-    SendCommand(Program.hMainWnd, 2382);
+    CommandSend(Command::CalendarChanged);
   }
 }
 
 void CharacterLook() {
   // The dialogs that choose characters work on the tables.
-  if (Dialogs.DlgIdMenu == 2013 || Dialogs.DlgIdMenu == 2014 || !ChangeTake(WatchedFile::CharacterFile))
+  if (Dialogs.DlgIdMenu == MenuDialog::OptionSelDlg1_2 || Dialogs.DlgIdMenu == MenuDialog::OptionSelDlg2 ||
+      !ChangeTake(WatchedFile::CharacterFile))
     return;
   CharaFileRead();
   alarmReload = true;
@@ -109,13 +113,13 @@ void CharacterAnswer() {
   OptionPreviewsFree();
   if (CharaSelect(Character.CharaIndex)) OpnHisTakeWalkSettings();
   Stage.StageRedraw = kRedrawReload;
-  SendCommand(Program.hMainWnd, kStageRedrawCommand);
+  CommandSend(Command::StageRedraw);
 }
 
 void ClockAnswer() {
   if (!clockRestart) return;
   clockRestart = false;
-  SendCommand(Program.hMainWnd, 2254);
+  CommandSend(Command::ClockOpen);
 }
 
 void ClockAlarmLook() {

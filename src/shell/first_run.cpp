@@ -3,13 +3,14 @@
 
 #include "platform/window.h"
 #include "schedule/applications/application_list.h"
+#include "services/commands.h"
 #include "services/program.h"
-#include "shell/commands.h"
 #include "shell/entry.h"
 #include "shell/layout.h"
 #include "shell/settings.h"
+#include "shell/shell_commands.h"
 
-void CommandFirstRun(std::uint32_t) {
+void CommandFirstRun(Command) {
   if (std::memcmp(Entry.CommandLine, "_1_", 3) != 0) return;
   LayoutDefault();
   Layout.LayoutChange = kLayoutAll;
@@ -18,5 +19,5 @@ void CommandFirstRun(std::uint32_t) {
   ApliListSetFirst(program);
   ApliListSave();
   SysFileWrite();
-  SendCommand(Program.hMainWnd, kLayoutApplyCommand);
+  CommandSend(Command::LayoutApply);
 }

@@ -9,6 +9,7 @@
 #include "clock_calendar/clock_calendar_tick.h"
 #include "platform/time.h"
 #include "platform/window.h"
+#include "services/commands.h"
 #include "services/screen_figures.h"
 
 LayoutState Layout;
@@ -116,7 +117,7 @@ void LayoutDefault() {
   }
 }
 
-void CommandLayoutApply(std::uint32_t) {
+void CommandLayoutApply(Command) {
   if ((Layout.LayoutChange & kLayoutStage) != 0) StageMove(true);
   if ((Layout.LayoutChange & kLayoutClock) != 0) ClockApply();
   if ((Layout.LayoutChange & kLayoutCalendar) != 0) CalendarApply();

@@ -14,9 +14,6 @@ inline constexpr std::int32_t kLayoutClock = 2;
 inline constexpr std::int32_t kLayoutCalendar = 4;
 inline constexpr std::int32_t kLayoutAll = 7;
 
-// Moves what LayoutChange names.
-inline constexpr std::uint32_t kLayoutApplyCommand = 2374;
-
 // --- The image. Its values are the true ones divided by LayoutDiv.
 
 struct LayoutExtent {

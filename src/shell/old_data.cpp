@@ -3,10 +3,11 @@
 #include "platform/dialog.h"
 #include "platform/memory.h"
 #include "services/boxes.h"
+#include "services/commands.h"
 #include "services/data_file.h"
 #include "services/program.h"
 #include "services/text.h"
-#include "shell/commands.h"
+#include "shell/shell_commands.h"
 
 OldFormatState OldFormat;
 
@@ -94,12 +95,10 @@ void OldDataFree() {
   blockPath.text[0] = '\0';
 }
 
-void CommandOldData(std::uint32_t number) {
-  constexpr std::uint32_t kLoad = 5;
-  constexpr std::uint32_t kSave = 6;
-  if (number == kLoad) {
+void CommandOldData(Command command) {
+  if (command == Command::OldLoad) {
     OldDataLoad();
-  } else if (number == kSave) {
+  } else if (command == Command::OldSave) {
     OldDataSave();
   } else {
     OldDataSaveAs();

@@ -10,11 +10,12 @@
 #include "platform/window.h"
 #include "resources/ids.h"
 #include "schedule/table/table_scroll.h"
+#include "services/commands.h"
 #include "services/dialog_family.h"
 #include "services/file_picker.h"
 #include "services/program.h"
-#include "shell/commands.h"
 #include "shell/panel.h"
+#include "shell/shell_commands.h"
 
 PopupsState Popups;
 
@@ -25,7 +26,7 @@ namespace {
 bool Popup(int menuId, WindowHandle window) {
   const std::uint32_t command = MenuPopup(menuId, window, Popups.PopupPoint.x, Popups.PopupPoint.y, true);
   if (command == 0) return false;
-  SendCommand(Program.hMainWnd, command);
+  CommandSend(static_cast<Command>(command));
   return true;
 }
 
@@ -40,19 +41,19 @@ bool PopupMayOpen() {
   return true;
 }
 
-void CommandSchedulePopup(std::uint32_t) {
+void CommandSchedulePopup(Command) {
   // The plan chart has the same menu for its lines.
   const WindowHandle table = SclTable.hSclTableWnd ? SclTable.hSclTableWnd : SclTable.hPlanWnd;
   if (table) Popup(IDM_SCHEDULE_LINE, table);
 }
 
-void CommandCalendarPopup(std::uint32_t) {
+void CommandCalendarPopup(Command) {
   if (!Calendar.hCalenWnd || Popup(IDM_CALENDAR_DAY, Calendar.hCalenWnd)) return;
   Calendar.CalenClickedDay = 0;
   SendPaint(Calendar.hCalenWnd);
 }
 
-void CommandClockPopup(std::uint32_t) {
+void CommandClockPopup(Command) {
   if (!Clock.hClockWnd || Popup(IDM_CLOCK, Clock.hClockWnd)) return;
   SendPaint(Clock.hClockWnd);
 }

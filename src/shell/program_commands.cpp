@@ -4,16 +4,17 @@
 #include "platform/process.h"
 #include "platform/window.h"
 #include "schedule/applications/application_list.h"
+#include "services/commands.h"
 #include "services/program.h"
 #include "services/sibling.h"
-#include "shell/commands.h"
 #include "shell/panel.h"
+#include "shell/shell_commands.h"
 
-void CommandCloseProgram(std::uint32_t) {
+void CommandCloseProgram(Command) {
   SendClose(Program.hMainWnd);
 }
 
-void CommandExit(std::uint32_t) {
+void CommandExit(Command) {
   SendClose(Panel.hDiskMenu);
   const BoxAnswer answer = MessageBoxRun(Program.hMainWnd, "プログラムを終了します。", "プログラム終了",
                                          BoxButtons::OkCancel, BoxIcon::Question);
@@ -24,36 +25,36 @@ void CommandExit(std::uint32_t) {
   }
 }
 
-void CommandFocusStage(std::uint32_t) {
+void CommandFocusStage(Command) {
   WindowSetFocus(Program.hMainWnd);
 }
 
-void CommandDropPopup(std::uint32_t) {
+void CommandDropPopup(Command) {
   MenuPopupEnd();
 }
 
 // The bats' switch is set by nothing, so there is nothing to open.
-void CommandBat(std::uint32_t) {}
+void CommandBat(Command) {}
 
 namespace {
 struct Sibling {
-  std::uint32_t command;
+  Command command;
   const char* commandLine;
 };
 constexpr Sibling kSiblings[] = {
-    {1927, "REALM_EDITOR.exe"},
-    {2365, "MOVEPLAY.exe"},
-    {2377, "使用手引.exe"},
+    {Command::CharacterEditor, "REALM_EDITOR.exe"},
+    {Command::ScenarioWriter, "MOVEPLAY.exe"},
+    {Command::Manual, "使用手引.exe"},
 };
 }  // namespace
 
-void CommandStartSibling(std::uint32_t number) {
+void CommandStartSibling(Command command) {
   for (const Sibling& sibling : kSiblings) {
-    if (sibling.command == number) SiblingStart(Program.RootFolder, sibling.commandLine);
+    if (sibling.command == command) SiblingStart(Program.RootFolder, sibling.commandLine);
   }
 }
 
-void CommandCalendarChanged(std::uint32_t) {
+void CommandCalendarChanged(Command) {
   // Set while a box is up: a second one would open over it from the tick.
   static bool telling = false;
   if (telling || !ApliListHasSelected()) return;

@@ -6,6 +6,8 @@
 
 #include <cstdint>
 
+#include "services/settings_save.h"
+
 inline constexpr int kSysFileSize = 172720;
 inline constexpr int kSysFileMagicSize = 20;
 
@@ -21,10 +23,6 @@ int SysFileMagic(char* buffer);
 // FileStatus -1 (cannot be opened) or -2 (short). A wrong magic gives 0 with
 // FileStatus -2 and leaves the variables as they were.
 int SysFileRead();
-
-// Replaces the file. Returns 0, or -1 with FileStatus -1 (cannot be created) or
-// -2 (short write; the old file is gone by then).
-int SysFileWrite();
 
 // Fills the variables with what a new data set holds. Nothing in the program
 // calls it; the tool that makes data sets does.

@@ -17,6 +17,7 @@
 #include "schedule/applications/application_list.h"
 #include "schedule/execution/schedule_run.h"
 #include "services/boxes.h"
+#include "services/commands.h"
 #include "services/drawing_objects.h"
 #include "services/file_picker.h"
 #include "services/program.h"
@@ -98,6 +99,6 @@ void StartSequence(WindowHandle window) {
 
   AlarmCharaLoad();
   ClockReactivate();
-  if (Clock.ClockShow) SendCommand(Program.hMainWnd, 2254);
+  if (Clock.ClockShow) CommandSend(Command::ClockOpen);
   if (Calendar.CalenShow && !Calendar.hCalenWnd) CalenWindowOpen();
 }

@@ -24,7 +24,9 @@
 #include "schedule/execution/schedule_run.h"
 #include "schedule/execution/scl_notice.h"
 #include "schedule/table/table_scroll.h"
+#include "services/commands.h"
 #include "services/dialog_family.h"
+#include "services/dialog_numbers.h"
 #include "services/five_ticks.h"
 #include "services/program.h"
 #include "services/today.h"
@@ -44,19 +46,20 @@ constexpr std::uint32_t kPanelCloseCommand = 2;
 void CommandLineStep() {
   if (Entry.PendingCommandLine[0] == '\0') return;
   CommandLineTake();
-  SendCommand(Program.hMainWnd, 2373);
+  CommandSend(Command::FirstRun);
 }
 
 void BackUpStepTell() {
-  if (BackUpRun.BackUpActive) SendCommand(BackUpRun.hBackUpDlg, 2375);
+  if (BackUpRun.BackUpActive) CommandSendTo(BackUpRun.hBackUpDlg, Command::BackUpStep);
 }
 
 void SteppedWorkTell() {
-  if (Stepped.progressMode >= 1 && Stepped.progressMode <= 4) SendCommand(Stepped.hSearchDlg, 2376);
+  if (Stepped.progressMode >= 1 && Stepped.progressMode <= 4)
+    CommandSendTo(Stepped.hSearchDlg, Command::WorkStep);
 }
 
 void HandOffStep() {
-  if (SclHandOffCheck()) SendCommand(Program.hMainWnd, 2372);
+  if (SclHandOffCheck()) CommandSend(Command::ApplicationHandOff);
 }
 
 void ReopenGuardStep() {
@@ -93,31 +96,31 @@ void MailStep() {
   }
   if (Mail.MailMinuteCount == 0) {
     Mail.MailMinuteCount = Mail.MailInterval;
-    SendCommand(Program.hMainWnd, 2079);
+    CommandSend(Command::MailCheck);
   }
   if (Mail.MailNoticeFlag == 1) MailNoticeStart();
 }
 
 void ClockStep() {
-  const bool adjusting = Dialogs.DlgIdTool == 2016 && Dialogs.hToolDlg;
+  const bool adjusting = Dialogs.DlgIdTool == ToolDialog::WatchAdustDlg && Dialogs.hToolDlg;
   if (!adjusting && !Clock.hClockWnd && !SclIsRunning() && !Calendar.hCalenWnd) return;
   TimeGetLocal(&Today.SharedTime);
   if (adjusting) WatchAdustTimeDraw();
   if (Clock.hClockWnd && ClockTickCheck(Today.SharedTime.hour, Today.SharedTime.minute) != 0)
     SendPaint(Clock.hClockWnd);
-  if (SclIsRunning() && SclDueCheck()) SendCommand(Program.hMainWnd, 2265);
+  if (SclIsRunning() && SclDueCheck()) CommandSend(Command::ScheduleNotice);
   if (Calendar.hCalenWnd || ClockNotice.hClockNoticeWnd) {
     if (CalenTickCheck() != 0) SendPaint(Calendar.hCalenWnd);
     if (ClockAlarmCheck(Today.SharedTime.hour, Today.SharedTime.minute) != 0)
-      SendCommand(Program.hMainWnd, 2336);
+      CommandSend(Command::ClockNoticeOpen);
     if (ClockNotice.hClockNoticeWnd && ClockNoticeWaitIsOver())
-      SendCommand(ClockNotice.hClockNoticeWnd, 2258);
+      CommandSendTo(ClockNotice.hClockNoticeWnd, Command::NextStep);
     if (Calendar.hCalenWnd) CalenTickerTick();
   }
 }
 
 void MotionStep() {
-  if (CharaMotionTick() != 0) SendCommand(Program.hMainWnd, 2293);
+  if (CharaMotionTick() != 0) CommandSend(Command::StageRedraw);
 }
 
 void PreviewStep() {

@@ -7,6 +7,7 @@
 #include "character/character.h"
 #include "character/stage.h"
 #include "services/dialog_family.h"
+#include "services/dialog_numbers.h"
 #include "services/program.h"
 #include "services/random.h"
 #include "shell/panel.h"
@@ -261,11 +262,11 @@ TEST_F(MotionTest, WhileTheCharacterDialogIsOpenTheCharacterStandsStill) {
   Patterns({1});
   Motion.BoredSec = 9;
   CharaMenuOn();
-  Dialogs.DlgIdMenu = 2013;
+  Dialogs.DlgIdMenu = MenuDialog::OptionSelDlg1_2;
   for (int i = 0; i < 100; ++i) EXPECT_EQ(CharaMotionTick(), 0);
   EXPECT_EQ(Motion.CharaStepCount, 0);
   EXPECT_EQ(Motion.CharaMotion, kMotionMenu);
-  Dialogs.DlgIdMenu = 2014;
+  Dialogs.DlgIdMenu = MenuDialog::OptionSelDlg2;
   EXPECT_EQ(CharaMotionTick(), 1);
 }
 

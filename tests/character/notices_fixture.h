@@ -27,7 +27,6 @@
 inline constexpr std::uint32_t kSclNotice = 2265;
 inline constexpr std::uint32_t kNoteNotice = 2294;
 inline constexpr std::uint32_t kClockNotice = 2336;
-inline constexpr std::uint32_t kNextStep = 2258;
 
 inline constexpr int kSclCharacter = 8;
 inline constexpr int kClockCharacter = 9;

@@ -9,9 +9,11 @@
 #include "character/character_tables.h"
 #include "character/stage.h"
 #include "services/dialog_family.h"
+#include "services/dialog_numbers.h"
 #include "services/five_ticks.h"
 #include "services/program.h"
 #include "shell/panel.h"
+#include "shell/shell_commands.h"
 #include "tests/character/walk_fixture.h"
 #include "world/world_list.h"
 
@@ -71,14 +73,14 @@ class OptionsTest : public WalkFixture {
 
 TEST_F(OptionsTest, TheListShowsTheNamesAndTheCurrentCharacter) {
   Then([] {
-    EXPECT_EQ(Dialogs.DlgIdMenu, 2013);
+    EXPECT_EQ(Dialogs.DlgIdMenu, MenuDialog::OptionSelDlg1_2);
     EXPECT_EQ(ListRows(Dialogs.hMenuDlg, 100), (std::vector<std::string>{"chara1", "chara2", ""}));
     EXPECT_EQ(ListSelected(Dialogs.hMenuDlg, 100), 0);
     EXPECT_EQ(ControlText(Dialogs.hMenuDlg, 101), "chara1");
     Press(Dialogs.hMenuDlg, 2);
   });
-  CommandOptionMainCharacter(2281);
-  EXPECT_EQ(Dialogs.DlgIdMenu, 0);
+  CommandRoute(2281);
+  EXPECT_EQ(Dialogs.DlgIdMenu, MenuDialog::None);
   EXPECT_EQ(Dialogs.hMenuDlg, nullptr);
   EXPECT_EQ(Panel.FuncNo, 0);
   EXPECT_EQ(Panel.MenuPanelState, 0);
@@ -92,7 +94,7 @@ TEST_F(OptionsTest, NamesAreEmptyForNumbersThatTheWorldListDoesNotHold) {
     EXPECT_EQ(ControlText(Dialogs.hMenuDlg, 101), "");
     Press(Dialogs.hMenuDlg, 2);
   });
-  CommandOptionMainCharacter(2281);
+  CommandRoute(2281);
 }
 
 // The client area is 600 by 368: the preview runs from 600 * 140 / 300 = 280 to 600
@@ -121,7 +123,7 @@ TEST_F(OptionsTest, ASelectionShowsTheFirstFrameInThePreviewArea) {
     Press(Dialogs.hMenuDlg, 2);
   });
   const int blocks = DiagnosticsLive().blocks;
-  CommandOptionMainCharacter(2281);
+  CommandRoute(2281);
   EXPECT_EQ(DiagnosticsLive().blocks, blocks);
 }
 
@@ -132,7 +134,7 @@ TEST_F(OptionsTest, OkTakesAnotherCharacterOverSavesItAndReloadsTheStage) {
     ChooseRow(Dialogs.hMenuDlg, 100, 1);
     Press(Dialogs.hMenuDlg, 1);
   });
-  CommandOptionMainCharacter(2281);
+  CommandRoute(2281);
   EXPECT_EQ(Character.CharaIndex, 1);
   EXPECT_EQ(Character.MenuFrame, 7);
   EXPECT_EQ(Character.CharaSet[100], 55);
@@ -146,7 +148,7 @@ TEST_F(OptionsTest, OkTakesAnotherCharacterOverSavesItAndReloadsTheStage) {
 TEST_F(OptionsTest, OkWithTheSameCharacterNeitherSavesNorReloads) {
   CharaTables.MainCharas[0].menuFrame = 7;
   Then([] { Press(Dialogs.hMenuDlg, 1); });
-  CommandOptionMainCharacter(2281);
+  CommandRoute(2281);
   EXPECT_EQ(Character.MenuFrame, 7);  // taken over all the same
   EXPECT_FALSE(SettingsWritten());
   EXPECT_TRUE(commands.empty());
@@ -160,7 +162,7 @@ TEST_F(OptionsTest, AWalkingRowHandsItsSoundAndFlagsOnToTheOpeningOfFiles) {
     ChooseRow(Dialogs.hMenuDlg, 100, 1);
     Press(Dialogs.hMenuDlg, 1);
   });
-  CommandOptionMainCharacter(2281);
+  CommandRoute(2281);
   const std::string file = Get(kHistory);
   ASSERT_EQ(file.size(), 240804U);
   EXPECT_STREQ(file.c_str() + 240503, "foot2.wav");
@@ -178,7 +180,7 @@ TEST_F(OptionsTest, CancelAndCloseLeaveTheCharacter) {
         Press(Dialogs.hMenuDlg, 2);
       }
     });
-    CommandOptionMainCharacter(2281);
+    CommandRoute(2281);
     EXPECT_EQ(Character.CharaIndex, 0);
     EXPECT_FALSE(SettingsWritten());
   }
@@ -197,7 +199,7 @@ TEST_F(OptionsTest, ForACharacterNumberOf0NoFileIsLookedFor) {
     Press(Dialogs.hMenuDlg, 2);
   });
   Then([] { Press(Dialogs.hSubDlg, 2); });
-  CommandOptionMainCharacter(2281);
+  CommandRoute(2281);
 }
 
 TEST_F(OptionsTest, AnEmptyListTakesNothingOver) {
@@ -207,14 +209,14 @@ TEST_F(OptionsTest, AnEmptyListTakesNothingOver) {
     EXPECT_EQ(Dialogs.hToolDlg, nullptr);
     Press(Dialogs.hMenuDlg, 1);
   });
-  CommandOptionMainCharacter(2281);
+  CommandRoute(2281);
   EXPECT_EQ(Character.CharaIndex, 0);
   EXPECT_TRUE(commands.empty());
 }
 
 TEST_F(OptionsTest, ADialogThatCannotBeMadeChangesNothing) {
   FaultArm(FaultKind::Window, 1);
-  CommandOptionMainCharacter(2281);
+  CommandRoute(2281);
   FaultClear();
   EXPECT_EQ(Panel.MenuPanelState, 0);
   EXPECT_TRUE(commands.empty());
@@ -231,17 +233,17 @@ class PreviewTest : public OptionsTest {
       Press(Dialogs.hMenuDlg, 2369);
     });
     Then([button] {
-      EXPECT_EQ(Dialogs.DlgIdTool, 2045);
+      EXPECT_EQ(Dialogs.DlgIdTool, ToolDialog::OptionSelDlg1_1);
       Press(Dialogs.hToolDlg, button);
     });
     Then([button, look] {
-      EXPECT_EQ(Dialogs.DlgIdSub, 2021 + button - 2285);
+      EXPECT_EQ(static_cast<int>(Dialogs.DlgIdSub), 2021 + button - 2285);
       look();
       Press(Dialogs.hSubDlg, 2);
     });
     Then([] { Press(Dialogs.hToolDlg, 2); });
     Then([] { Press(Dialogs.hMenuDlg, 2); });
-    CommandOptionMainCharacter(2281);
+    CommandRoute(2281);
     EXPECT_EQ(MotionPreviewTick(), 0);
   }
   static std::vector<int> TicksWithFrame(int count) {
@@ -369,7 +371,7 @@ class AlarmOptionsTest : public OptionsTest {
 
 TEST_F(AlarmOptionsTest, BothComboBoxesShowTheAlarmCharactersAndTheSelections) {
   Then([] {
-    EXPECT_EQ(Dialogs.DlgIdMenu, 2014);
+    EXPECT_EQ(Dialogs.DlgIdMenu, MenuDialog::OptionSelDlg2);
     const std::vector<std::string> rows = {"未設定", "chara6", "chara8", "chara9"};
     EXPECT_EQ(ListRows(Dialogs.hMenuDlg, 100), rows);
     EXPECT_EQ(ListRows(Dialogs.hMenuDlg, 101), rows);
@@ -377,7 +379,7 @@ TEST_F(AlarmOptionsTest, BothComboBoxesShowTheAlarmCharactersAndTheSelections) {
     EXPECT_EQ(ListSelected(Dialogs.hMenuDlg, 101), 0);
     Press(Dialogs.hMenuDlg, 2);
   });
-  CommandOptionAlarmCharacter(2282);
+  CommandRoute(2282);
   EXPECT_FALSE(SettingsWritten());
   EXPECT_EQ(Panel.MenuPanelState, 0);
 }
@@ -388,7 +390,7 @@ TEST_F(AlarmOptionsTest, OkStoresBothSelectionsLoadsTheRowsAndSaves) {
     ChooseRow(Dialogs.hMenuDlg, 101, 3);
     Press(Dialogs.hMenuDlg, 1);
   });
-  CommandOptionAlarmCharacter(2282);
+  CommandRoute(2282);
   EXPECT_EQ(Character.AlarmCharaSel[0], 1);
   EXPECT_EQ(Character.AlarmCharaSel[1], 2);
   EXPECT_EQ(Character.AlarmCharaSel[2], 3);
@@ -412,7 +414,7 @@ TEST_F(AlarmOptionsTest, NumbersThatTheWorldListDoesNotHoldShowEmptyRows) {
     EXPECT_EQ(ListSelected(Dialogs.hMenuDlg, 100), 1);
     Press(Dialogs.hMenuDlg, 2);
   });
-  CommandOptionAlarmCharacter(2282);
+  CommandRoute(2282);
 }
 
 TEST_F(AlarmOptionsTest, SelectionsBeyondTheListShowNobody) {
@@ -423,7 +425,7 @@ TEST_F(AlarmOptionsTest, SelectionsBeyondTheListShowNobody) {
     EXPECT_EQ(ListSelected(Dialogs.hMenuDlg, 101), 0);
     Press(Dialogs.hMenuDlg, 2);
   });
-  CommandOptionAlarmCharacter(2282);
+  CommandRoute(2282);
   EXPECT_EQ(Character.AlarmCharaSel[1], 4);
 }
 
@@ -437,7 +439,7 @@ TEST_F(AlarmOptionsTest, TheChecksPlayTheSelectedRowsAndTheMailsRow) {
       Press(Dialogs.hMenuDlg, check.button);
     });
     Then([check] {
-      EXPECT_EQ(Dialogs.DlgIdTool, check.id);
+      EXPECT_EQ(static_cast<int>(Dialogs.DlgIdTool), check.id);
       EXPECT_EQ(WindowText(Dialogs.hToolDlg), "アラーム動作の確認");
       EXPECT_EQ(FiveTicks.FrameDivider, 1);
       DrawingClear();
@@ -446,7 +448,7 @@ TEST_F(AlarmOptionsTest, TheChecksPlayTheSelectedRowsAndTheMailsRow) {
       Press(Dialogs.hToolDlg, 2);
     });
     Then([] { Press(Dialogs.hMenuDlg, 2); });
-    CommandOptionAlarmCharacter(2282);
+    CommandRoute(2282);
   }
   EXPECT_EQ(Character.AlarmCharaSel[1], 1);
   EXPECT_EQ(DiagnosticsLive().blocks, blocks);  // the pictures of the checks are gone
@@ -476,7 +478,7 @@ TEST_F(AlarmOptionsTest, ACheckGoesRoundAndIsDrawnInMemoryAt1010) {
     AlarmCheckFrameStep();  // closed: nothing
     Press(Dialogs.hMenuDlg, 2);
   });
-  CommandOptionAlarmCharacter(2282);
+  CommandRoute(2282);
 }
 
 TEST_F(AlarmOptionsTest, ACheckOfNobodyStaysEmpty) {
@@ -492,7 +494,7 @@ TEST_F(AlarmOptionsTest, ACheckOfNobodyStaysEmpty) {
     Press(Dialogs.hToolDlg, 2);
   });
   Then([] { Press(Dialogs.hMenuDlg, 2); });
-  CommandOptionAlarmCharacter(2282);
+  CommandRoute(2282);
   AlarmCheckRun(Program.hMainWnd, 3, 1);
   AlarmCheckRun(Program.hMainWnd, -1, 1);
   EXPECT_EQ(Dialogs.hToolDlg, nullptr);

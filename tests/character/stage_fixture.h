@@ -15,6 +15,7 @@
 #include "platform/screen.h"
 #include "platform/window.h"
 #include "services/dialog_family.h"
+#include "services/dialog_numbers.h"
 #include "services/program.h"
 #include "services/screen_figures.h"
 #include "shell/panel.h"
@@ -68,7 +69,7 @@ class StageFixture : public CharaFiles {
     Motion.BoredPattern = Motion.BoredLen1 = Motion.BoredLen2 = Motion.BoredLeft = Motion.BoredHold =
         Motion.BoredRepeat = 0;
     Motion.BlinkDone = false;
-    Dialogs.DlgIdMenu = Dialogs.DlgIdTool = Dialogs.DlgIdSub = 0;
+    Dialogs = {};
     Panel.hDiskMenu = nullptr;
     Walk.OpeningState = Mail.MailPhase = Panel.FuncNo = Panel.MenuPanelState = 0;
   }

@@ -8,6 +8,7 @@
 #include "clock_calendar/clock/performance.h"
 #include "platform/posix/faults.h"
 #include "resources/ids.h"
+#include "services/commands.h"
 #include "tests/character/notices_fixture.h"
 
 namespace {
@@ -146,7 +147,7 @@ TEST_F(ClockNoticeTest, Message2258MovesToTheNextPicture) {
   Send(kClockNotice);
   for (const int step : {1, 2, 0}) {
     DrawingClear();
-    SendCommand(ClockNotice.hClockNoticeWnd, kNextStep);
+    CommandSendTo(ClockNotice.hClockNoticeWnd, Command::NextStep);
     EXPECT_EQ(Performance.PerformanceStep, step);
     const std::vector<DrawCall> dibs = Dibs(ClockNotice.hClockNoticeWnd);
     ASSERT_EQ(dibs.size(), 2U);
@@ -160,7 +161,7 @@ TEST_F(ClockNoticeTest, TheTicksWaitIsOverEveryFourthTime) {
   for (int round = 0; round < 2; ++round) {
     for (int tick = 0; tick < 3; ++tick) EXPECT_FALSE(ClockNoticeWaitIsOver());
     EXPECT_TRUE(ClockNoticeWaitIsOver());
-    SendCommand(ClockNotice.hClockNoticeWnd, kNextStep);
+    CommandSendTo(ClockNotice.hClockNoticeWnd, Command::NextStep);
   }
 }
 
@@ -182,7 +183,7 @@ TEST_F(ClockNoticeTest, TheTickMovesThePerformanceOnWhileTheClockIsOpen) {
 TEST_F(ClockNoticeTest, WithoutASlotTheFigureGoesAwayAfterFivePassesAndTheWindowStays) {
   Performance.PerformanceActive = 1;
   Send(kClockNotice);
-  for (int i = 0; i < 100; ++i) SendCommand(ClockNotice.hClockNoticeWnd, kNextStep);
+  for (int i = 0; i < 100; ++i) CommandSendTo(ClockNotice.hClockNoticeWnd, Command::NextStep);
   EXPECT_NE(ClockNotice.hClockNoticeWnd, nullptr);
   EXPECT_EQ(Performance.PerformanceActive, 0);
   Repaint(ClockNotice.hClockNoticeWnd);

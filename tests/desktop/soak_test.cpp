@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 #include <psapi.h>
 
+#include "services/commands.h"
 #include "tests/desktop/companion.h"
 #include "tests/desktop/data_set.h"
 #include "tests/desktop/dialogs.h"
@@ -47,8 +48,8 @@ class SoakTest : public testing::Test {
 
   // A walk to its end; there is no file to open then.
   void Walk() {
-    constexpr unsigned kOpenCommand = 2004;
-    companion_.Post(kOpenCommand);
+    constexpr unsigned Command::OpenWalk = 2004;
+    companion_.Post(Command::OpenWalk);
     ASSERT_TRUE(WaitFor([&] { return companion_.Value(kShowOpeningState) == 1; }));
     ASSERT_TRUE(TickUntil(companion_, [&] { return companion_.Value(kShowOpeningState) == 0; }));
   }

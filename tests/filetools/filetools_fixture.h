@@ -8,22 +8,23 @@
 #include <vector>
 
 #include "filetools/back_up/back_up.h"
-#include "filetools/back_up/back_up_commands.h"
-#include "filetools/divide/divide_commands.h"
 #include "filetools/stepped_work.h"
 #include "platform/dialog.h"
 #include "platform/headless/headless.h"
 #include "platform/posix/faults.h"
 #include "platform/window.h"
 #include "resources/ids.h"
+#include "services/commands.h"
 #include "services/data_file.h"
 #include "services/dialog_family.h"
+#include "services/dialog_numbers.h"
 #include "services/file_picker.h"
 #include "services/folder_list.h"
 #include "services/program.h"
 #include "services/random.h"
 #include "services/screen_figures.h"
 #include "services/text.h"
+#include "shell/shell_commands.h"
 #include "tests/support/desktop.h"
 
 using Rows = std::vector<std::string>;
@@ -46,8 +47,8 @@ class FileToolsTest : public DesktopTest {
     EXPECT_EQ(Dialogs.hToolDlg, nullptr);
     EXPECT_EQ(BackUpRun.hBackUpDlg, nullptr);
     EXPECT_EQ(Stepped.hSearchDlg, nullptr);
-    EXPECT_EQ(Dialogs.DlgIdMenu, 0);
-    EXPECT_EQ(Dialogs.DlgIdTool, 0);
+    EXPECT_EQ(Dialogs.DlgIdMenu, MenuDialog::None);
+    EXPECT_EQ(Dialogs.DlgIdTool, ToolDialog::None);
     EXPECT_EQ(Stepped.progressMode, 0);
     EXPECT_FALSE(BackUpRun.BackUpActive);
     DesktopTest::TearDown();
@@ -55,39 +56,15 @@ class FileToolsTest : public DesktopTest {
   }
 
   static bool Stage(const Event& event) {
-    struct Route {
-      int number;
-      void (*command)();
-    };
-    static constexpr Route kRoutes[] = {
-        {kCommandBackUp, BackUpCommand},
-        {kCommandBackUpAdd, BackUpAddCommand},
-        {kCommandBackUpFolder, BackUpFolderCommand},
-        {kCommandBackUpLoad, BackUpLoadCommand},
-        {kCommandBackUpSave, BackUpSaveCommand},
-        {kCommandDivideMenu, DivideMenuCommand},
-        {kCommandDivide, DivideCommand},
-        {kCommandRestore, RestoreCommand},
-        {kCommandDividePick, DividePickCommand},
-        {kCommandDivideFolder, DivideFolderCommand},
-        {kCommandDivideRun, DivideRunCommand},
-        {kCommandRestorePick, RestorePickCommand},
-        {kCommandRestoreFolder, RestoreFolderCommand},
-    };
-    if (event.kind != EventKind::Command) return false;
-    for (const Route& route : kRoutes) {
-      if (static_cast<std::uint32_t>(route.number) != event.command) continue;
-      route.command();
-      return true;
-    }
-    return false;
+    return event.kind == EventKind::Command && CommandRoute(event.command);
   }
 
   // One tick, as far as stepped work goes.
   static void StepTick() {
-    if (BackUpRun.BackUpActive && BackUpRun.hBackUpDlg) SendCommand(BackUpRun.hBackUpDlg, 2375);
+    if (BackUpRun.BackUpActive && BackUpRun.hBackUpDlg)
+      CommandSendTo(BackUpRun.hBackUpDlg, Command::BackUpStep);
     if (Stepped.progressMode >= 1 && Stepped.progressMode <= 4 && Stepped.hSearchDlg)
-      SendCommand(Stepped.hSearchDlg, 2376);
+      CommandSendTo(Stepped.hSearchDlg, Command::WorkStep);
   }
   static void ThenTicks(int count) {
     for (int i = 0; i < count; ++i) Then(StepTick);

@@ -1,3 +1,4 @@
+#include <tuple>
 // Commands from outside that would open the dialog of a feature over the one of
 // another.
 #include "services/dialog_family.h"
@@ -7,11 +8,11 @@
 
 namespace {
 
-struct Feature {
+struct FeatureRow {
   std::uint32_t command;
   int templateId;
 };
-constexpr Feature kFeatures[] = {
+constexpr FeatureRow kFeatures[] = {
     {1900, IDD_FileOpnDialog},    {1901, IDD_FileBackUpSetDlg},  {1914, IDD_FolderScopeSetDlg},
     {1915, IDD_FileDivideSetDlg}, {1920, IDD_FileDesktopClrDlg}, {1922, IDD_DesktopIconSetDlg},
     {2008, IDD_FileOpnGrpSetDlg}, {2066, IDD_FileDivideSetDlg2}, {2067, IDD_FileDivideSetDlg3},
@@ -20,16 +21,21 @@ constexpr Feature kFeatures[] = {
 
 using OneFeatureTest = OpenFixture;
 
+using Marks = std::tuple<MenuDialog, ToolDialog, std::int32_t>;
+Marks MarksNow() {
+  return {Dialogs.DlgIdMenu, Dialogs.DlgIdTool, Panel.FuncNo};
+}
+
 TEST_F(OneFeatureTest, NoFeatureOpensOverAnother) {
-  for (const Feature& first : kFeatures) {
+  for (const FeatureRow& first : kFeatures) {
     Then([first] {
       const WindowHandle dialog = TopDialog();
       ASSERT_EQ(TemplateOf(dialog), first.templateId);
       const int windows = OpenWindowCount();
       const WindowHandle menu = Dialogs.hMenuDlg;
       const WindowHandle tool = Dialogs.hToolDlg;
-      const std::vector<std::int32_t> marks = {Dialogs.DlgIdMenu, Dialogs.DlgIdTool, Panel.FuncNo};
-      for (const Feature& second : kFeatures) {
+      const Marks marks = MarksNow();
+      for (const FeatureRow& second : kFeatures) {
         // FileOpnDialog has the groups as a button of its own.
         if (first.command == 1900 && second.command == 2008) continue;
         SendCommand(Program.hMainWnd, second.command);
@@ -37,7 +43,7 @@ TEST_F(OneFeatureTest, NoFeatureOpensOverAnother) {
         EXPECT_EQ(TopDialog(), dialog);
         EXPECT_EQ(Dialogs.hMenuDlg, menu);
         EXPECT_EQ(Dialogs.hToolDlg, tool);
-        EXPECT_EQ((std::vector<std::int32_t>{Dialogs.DlgIdMenu, Dialogs.DlgIdTool, Panel.FuncNo}), marks);
+        EXPECT_EQ(MarksNow(), marks);
       }
       SendClose(dialog);
     });
@@ -48,7 +54,7 @@ TEST_F(OneFeatureTest, NoFeatureOpensOverAnother) {
 
 TEST_F(OneFeatureTest, EachFeatureOpensAgainWhenTheOtherHasClosed) {
   for (int round = 0; round < 2; ++round) {
-    for (const Feature& feature : kFeatures) {
+    for (const FeatureRow& feature : kFeatures) {
       Then([feature] {
         EXPECT_EQ(TemplateOf(TopDialog()), feature.templateId);
         SendClose(TopDialog());

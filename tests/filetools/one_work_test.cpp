@@ -3,6 +3,7 @@
 #include "filetools/scope/folder_scope.h"
 #include "filetools/scope/scope_dialogs.h"
 #include "filetools/stepped_work.h"
+#include "services/commands.h"
 #include "services/drawing_objects.h"
 #include "services/program.h"
 #include "tests/filetools/divide/divide_fixture.h"
@@ -49,10 +50,10 @@ TEST_F(OneWorkTest, TheProgressOfADivisionDoesNotTakeTheTickFromASearch) {
 TEST_F(OneWorkTest, TheRunCommandTouchesNoFileWhileASearchIsRunning) {
   Prepare(Simple(10, 2));
   Then([] {
-    DuringASearch([] { SendCommand(Program.hMainWnd, kCommandDivideRun); });
+    DuringASearch([] { CommandSend(Command::DivideRun); });
     Press(FindDialog(IDD_FileDivideSetDlg2), 2);
   });
-  SendCommand(Program.hMainWnd, kCommandDivide);
+  CommandSend(Command::Divide);
   EXPECT_EQ(FolderNames(kPieces), Rows());
 }
 

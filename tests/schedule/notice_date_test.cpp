@@ -2,6 +2,7 @@
 #include "platform/posix/test_clock.h"
 #include "platform/window.h"
 #include "schedule/execution/scl_notice.h"
+#include "services/commands.h"
 #include "services/program.h"
 #include "services/text.h"
 #include "services/today.h"
@@ -26,14 +27,14 @@ class NoticeDateTest : public ProgramTest {
 
 TEST_F(NoticeDateTest, TodayIsTheMachinesDayThoughTheSharedDateMayBeYesterdays) {
   Today.TodayDay = 19;
-  SendCommand(Program.hMainWnd, 2265);
+  CommandSend(Command::ScheduleNotice);
   SendPaint(Notices.hSclNoticeWnd);
   EXPECT_TRUE(TextStands(Notices.hSclNoticeWnd, "予定 : 9 時 30 分 ～ 12 時 5 分", 10, 30));
 }
 
 TEST_F(NoticeDateTest, PastMidnightTheItemIsOfAnotherDay) {
   TestClockSet({2026, 11, 22, 0, 0, 0, 1, 0});
-  SendCommand(Program.hMainWnd, 2265);
+  CommandSend(Command::ScheduleNotice);
   SendPaint(Notices.hSclNoticeWnd);
   EXPECT_TRUE(TextStands(Notices.hSclNoticeWnd, "予定 : 8 時 0 分 ～ 18 時 0 分", 10, 30));
 }

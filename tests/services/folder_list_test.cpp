@@ -61,7 +61,8 @@ TEST_F(FolderListTest, TheListOfAFolderDialogDoesTheSame) {
     EXPECT_EQ(Folders(), (Rows{"[..]", "[deep]", "[-c-]", "[-z-]"}));
     Press(TopDialog(), 1);
   });
-  EXPECT_EQ(FolderPickRun(2008, IDD_FileBackUpDirDlg, nullptr, folder, sizeof folder), 1);
+  EXPECT_EQ(FolderPickRun(ToolDialog::FileBackUpDirDlg, IDD_FileBackUpDirDlg, nullptr, folder, sizeof folder),
+            1);
   EXPECT_EQ(folder, kFits);
 }
 

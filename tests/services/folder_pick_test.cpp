@@ -3,6 +3,7 @@
 #include "platform/posix/faults.h"
 #include "resources/ids.h"
 #include "services/dialog_family.h"
+#include "services/dialog_numbers.h"
 #include "tests/services/picker_fixture.h"
 
 namespace {
@@ -22,17 +23,19 @@ class FolderPickTest : public PickerFixture {
  protected:
   void TearDown() override {
     EXPECT_EQ(Dialogs.hToolDlg, nullptr);
-    EXPECT_EQ(Dialogs.DlgIdTool, 0);
+    EXPECT_EQ(Dialogs.DlgIdTool, ToolDialog::None);
     PickerFixture::TearDown();
   }
-  int Run() { return FolderPickRun(2008, IDD_FileBackUpDirDlg, nullptr, folder, sizeof folder); }
+  int Run() {
+    return FolderPickRun(ToolDialog::FileBackUpDirDlg, IDD_FileBackUpDirDlg, nullptr, folder, sizeof folder);
+  }
   char folder[300] = "as it was";
 };
 
 TEST_F(FolderPickTest, EachDialogHasItsTitleAndNumber) {
   for (const PickDialog& dialog : kDialogs) {
     Then([&] {
-      EXPECT_EQ(Dialogs.DlgIdTool, dialog.dlgId);
+      EXPECT_EQ(Dialogs.DlgIdTool, static_cast<ToolDialog>(dialog.dlgId));
       EXPECT_EQ(Dialogs.hToolDlg, TopDialog());
       EXPECT_EQ(WindowText(TopDialog()), dialog.title);
       EXPECT_EQ(ControlText(TopDialog(), 1), "   選 択   ");
@@ -41,7 +44,9 @@ TEST_F(FolderPickTest, EachDialogHasItsTitleAndNumber) {
       EXPECT_TRUE(TextStands(TopDialog(), "Path: C:\\start", 12, 42));
       Press(TopDialog(), 1);
     });
-    EXPECT_EQ(FolderPickRun(dialog.dlgId, dialog.templateId, nullptr, folder, sizeof folder), 1);
+    EXPECT_EQ(FolderPickRun(static_cast<ToolDialog>(dialog.dlgId), dialog.templateId, nullptr, folder,
+                            sizeof folder),
+              1);
     EXPECT_STREQ(folder, "C:\\start");
   }
 }
@@ -95,7 +100,8 @@ TEST_F(FolderPickTest, ADialogThatCannotBeMadeChoosesNothing) {
 TEST_F(FolderPickTest, TheResultStaysInsideTheCallersBuffer) {
   char small[6] = "";
   Then([] { Press(TopDialog(), 1); });
-  EXPECT_EQ(FolderPickRun(2008, IDD_FileBackUpDirDlg, nullptr, small, sizeof small), 1);
+  EXPECT_EQ(FolderPickRun(ToolDialog::FileBackUpDirDlg, IDD_FileBackUpDirDlg, nullptr, small, sizeof small),
+            1);
   EXPECT_STREQ(small, "C:\\st");
 }
 

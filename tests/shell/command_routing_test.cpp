@@ -6,15 +6,15 @@
 #include "platform/headless/resource_file.h"
 #include "resources/ids.h"
 #include "services/program.h"
-#include "shell/commands.h"
 #include "shell/panel.h"
+#include "shell/shell_commands.h"
 #include "tests/support/program.h"
 
 namespace {
 
-#define COMMAND(number, name, handler) number,
+#define COMMAND(number, name, shownName, handler) number,
 const std::vector<std::uint32_t> kRouted = {
-#include "shell/command_table.inc"
+#include "services/command_table.inc"
 };
 #undef COMMAND
 

@@ -12,7 +12,9 @@
 #include "platform/posix/faults.h"
 #include "platform/window.h"
 #include "schedule/applications/application_list.h"
+#include "services/commands.h"
 #include "services/dialog_family.h"
+#include "services/dialog_numbers.h"
 #include "services/program.h"
 #include "shell/settings.h"
 #include "shell/tick.h"
@@ -75,12 +77,12 @@ TEST_F(FileWatchTest, AChangedCharacterFileIsReadAt201Ticks) {
 
 TEST_F(FileWatchTest, AFileChangedWhileItsDialogIsOpenIsPickedUp201TicksAfterTheDialogCloses) {
   for (const int dialog : {2013, 2014}) {
-    Dialogs.DlgIdMenu = dialog;
+    Dialogs.DlgIdMenu = static_cast<MenuDialog>(dialog);
     const auto number = static_cast<unsigned char>(dialog == 2013 ? 2 : 4);
     ChangeCharacterFile(number);
     Ticks(201 * 3);
     EXPECT_NE(CharaTables.MainCharas[0].charaNo, number);
-    Dialogs.DlgIdMenu = 0;
+    Dialogs.DlgIdMenu = MenuDialog::None;
     ASSERT_EQ(TickCounts.FileWatchCount, 0);
     Ticks(200);
     EXPECT_NE(CharaTables.MainCharas[0].charaNo, number);
@@ -90,8 +92,8 @@ TEST_F(FileWatchTest, AFileChangedWhileItsDialogIsOpenIsPickedUp201TicksAfterThe
 }
 
 TEST_F(FileWatchTest, AnEmptyDlgIdMenuDoesNotBlockTheWatch) {
-  Dialogs.DlgIdMenu = 0;
-  Dialogs.DlgIdTool = 2013;
+  Dialogs.DlgIdMenu = MenuDialog::None;
+  Dialogs.DlgIdTool = ToolDialog::FileDesktopClrDlg;
   ChangeCharacterFile(2);
   Ticks(201);
   EXPECT_EQ(CharaTables.MainCharas[0].charaNo, 2);
@@ -212,12 +214,12 @@ TEST_F(FileWatchTest, AChangedCalendarTellsTheScheduleProgramOnlyWhenTheSelected
 
 TEST_F(FileWatchTest, TheCalendarIsLeftAloneWhileItsDialogsAreOpen) {
   for (const int dialog : {2007, 2009}) {
-    Dialogs.DlgIdMenu = dialog;
+    Dialogs.DlgIdMenu = static_cast<MenuDialog>(dialog);
     SetFileTime(kCalendarFile, 4000000 + dialog);
     RemoveFile(kSettingsFile);
     Ticks(201);
     EXPECT_FALSE(FileThere(kSettingsFile));
-    Dialogs.DlgIdMenu = 0;
+    Dialogs.DlgIdMenu = MenuDialog::None;
     ASSERT_EQ(TickCounts.FileWatchCount, 0);
     Ticks(200);
     EXPECT_FALSE(FileThere(kSettingsFile));
@@ -232,13 +234,13 @@ TEST_F(FileWatchTest, ACalendarNoticeIsNotShownTwiceAtOnce) {
   Applications.ApliStarted = 1;
   ExpectBox("予定表の編集データセーブ後に予定表を閉じて再起動させてください",
             "カレンダーが変更されました(ミルレール)", BoxAnswer::Ok,
-            [] { SendCommand(Program.hMainWnd, 2382); });
-  SendCommand(Program.hMainWnd, 2382);
+            [] { CommandSend(Command::CalendarChanged); });
+  CommandSend(Command::CalendarChanged);
   EXPECT_EQ(BoxesShown().size(), 1U);
 }
 
 TEST_F(FileWatchTest, WithNoProgramMarkedACalendarChangeIsNotTold) {
-  SendCommand(Program.hMainWnd, 2382);
+  CommandSend(Command::CalendarChanged);
   EXPECT_TRUE(BoxesShown().empty());
 }
 

@@ -13,6 +13,7 @@
 #include "platform/window.h"
 #include "resources/ids.h"
 #include "services/dialog_family.h"
+#include "services/dialog_numbers.h"
 #include "services/program.h"
 #include "services/screen_figures.h"
 #include "shell/panel.h"
@@ -178,12 +179,12 @@ TEST_F(LayoutTest, ACalendarThatWasNeverOpenHasTheSizeOfItsPage) {
 TEST_F(LayoutTest, TheDialogHasItsLegendAndButtons) {
   RunDialog({[] {
     EXPECT_EQ(TemplateOf(TopDialog()), IDD_OptionSelDlg3);
-    EXPECT_EQ(Dialogs.DlgIdMenu, 2015);
+    EXPECT_EQ(Dialogs.DlgIdMenu, MenuDialog::OptionSelDlg3);
     EXPECT_EQ(Dialogs.hMenuDlg, TopDialog());
     EXPECT_EQ(ControlText(TopDialog(), kDefaultButton), "デフォルトに設定");
     Cancel();
   }});
-  EXPECT_EQ(Dialogs.DlgIdMenu, 0);
+  EXPECT_EQ(Dialogs.DlgIdMenu, MenuDialog::None);
   EXPECT_EQ(Dialogs.hMenuDlg, nullptr);
 }
 

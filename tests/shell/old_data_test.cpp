@@ -3,7 +3,7 @@
 
 #include "platform/posix/faults.h"
 #include "services/data_file.h"
-#include "shell/commands.h"
+#include "shell/shell_commands.h"
 #include "tests/support/program.h"
 
 namespace {

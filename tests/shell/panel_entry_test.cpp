@@ -3,6 +3,7 @@
 #include "character/motion.h"
 #include "platform/dialog.h"
 #include "resources/ids.h"
+#include "services/commands.h"
 #include "services/program.h"
 #include "shell/panel.h"
 #include "tests/shell/panel_fixture.h"
@@ -108,7 +109,7 @@ TEST_F(PanelTest, ASubLevelBeginsWithTheMarkOfTheLevelBefore) {
 }
 
 TEST_F(PanelTest, ALevelWithTheStateAsItStandsDrawsTheLevelOfTheMoment) {
-  Open({[] { SendCommand(Program.hMainWnd, 1905); },
+  Open({[] { CommandSend(Command::PanelDesktop); },
         [] {
           EXPECT_EQ(Panel.FuncNo, 10);
           EXPECT_EQ(Panel.MenuPanelState, 1);

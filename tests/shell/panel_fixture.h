@@ -16,8 +16,8 @@
 #include "services/drawing_objects.h"
 #include "services/program.h"
 #include "services/screen_figures.h"
-#include "shell/commands.h"
 #include "shell/panel.h"
+#include "shell/shell_commands.h"
 #include "shell/start.h"
 #include "shell/tick.h"
 #include "tests/support/desktop.h"
@@ -37,7 +37,7 @@ inline int stagePaints;
 inline void (*onCommand)(std::uint32_t number);
 
 inline void PanelCommandsOnly(std::uint32_t number) {
-  if (number >= 1902 && number <= 1907) CommandPanelLevel(number);
+  if (number >= 1902 && number <= 1907) CommandPanelLevel(static_cast<Command>(number));
 }
 
 inline bool StageStandIn(const Event& event) {
@@ -110,7 +110,7 @@ class PanelTest : public DesktopTest {
   }
   static void OpenLevel(std::uint32_t command, std::vector<std::function<void()>> steps) {
     for (auto& step : steps) Then(std::move(step));
-    CommandPanelLevel(command);
+    CommandPanelLevel(static_cast<Command>(command));
   }
   static void Escape() { PressKey(TopDialog(), 27); }
   static void Click(int row, unsigned keys = kLeftHeld) {

@@ -18,8 +18,8 @@
 #include "services/dialog_family.h"
 #include "services/file_picker.h"
 #include "services/program.h"
-#include "shell/commands.h"
 #include "shell/panel.h"
+#include "shell/shell_commands.h"
 #include "tests/support/desktop.h"
 
 namespace {
@@ -64,7 +64,7 @@ TEST_F(PopupsTest, WhatIsChosenForALineOfTheScheduleIsSentToTheMainWindow) {
   for (const std::uint32_t entry : {2209U, 2040U, 2210U, 2211U, 2344U, 2345U}) {
     sentCommands.clear();
     ExpectMenu(IDM_SCHEDULE_LINE, entry);
-    CommandSchedulePopup(2039);
+    CommandRoute(2039);
     EXPECT_EQ(sentCommands, Numbers{entry});
   }
 }
@@ -72,7 +72,7 @@ TEST_F(PopupsTest, WhatIsChosenForALineOfTheScheduleIsSentToTheMainWindow) {
 TEST_F(PopupsTest, ThePlanHasTheMenuOfTheSchedule) {
   SclTable.hPlanWnd = window;
   ExpectMenu(IDM_SCHEDULE_LINE, 2211);
-  CommandSchedulePopup(2039);
+  CommandRoute(2039);
   EXPECT_EQ(sentCommands, Numbers{2211});
 }
 
@@ -82,7 +82,7 @@ TEST_F(PopupsTest, WhatIsChosenForADayIsSentAndTheDayStaysClicked) {
     sentCommands.clear();
     Calendar.CalenClickedDay = 9;
     ExpectMenu(IDM_CALENDAR_DAY, entry);
-    CommandCalendarPopup(2279);
+    CommandRoute(2279);
     EXPECT_EQ(sentCommands, Numbers{entry});
     EXPECT_EQ(Calendar.CalenClickedDay, 9);
     EXPECT_EQ(paints, 0);
@@ -93,7 +93,7 @@ TEST_F(PopupsTest, WithNothingChosenTheClickedDayIsClearedAndTheCalendarPainted)
   Calendar.hCalenWnd = window;
   Calendar.CalenClickedDay = 9;
   ExpectMenu(IDM_CALENDAR_DAY, 0);
-  CommandCalendarPopup(2279);
+  CommandRoute(2279);
   EXPECT_TRUE(sentCommands.empty());
   EXPECT_EQ(Calendar.CalenClickedDay, 0);
   EXPECT_EQ(paints, 1);
@@ -104,7 +104,7 @@ TEST_F(PopupsTest, WhatIsChosenOnTheClockIsSent) {
   for (const std::uint32_t entry : {2330U, 2339U, 1911U}) {
     sentCommands.clear();
     ExpectMenu(IDM_CLOCK, entry);
-    CommandClockPopup(2337);
+    CommandRoute(2337);
     EXPECT_EQ(sentCommands, Numbers{entry});
     EXPECT_EQ(paints, 0);
   }
@@ -113,7 +113,7 @@ TEST_F(PopupsTest, WhatIsChosenOnTheClockIsSent) {
 TEST_F(PopupsTest, WithNothingChosenTheClockIsDrawn) {
   Clock.hClockWnd = window;
   ExpectMenu(IDM_CLOCK, 0);
-  CommandClockPopup(2337);
+  CommandRoute(2337);
   EXPECT_TRUE(sentCommands.empty());
   EXPECT_EQ(paints, 1);
 }
@@ -121,19 +121,19 @@ TEST_F(PopupsTest, WithNothingChosenTheClockIsDrawn) {
 TEST_F(PopupsTest, Command50TakesAPopupAwayThatIsStillUp) {
   Clock.hClockWnd = window;
   ExpectMenu(IDM_CLOCK, 2330, [] { CommandRoute(50); });
-  CommandClockPopup(2337);
+  CommandRoute(2337);
   EXPECT_TRUE(sentCommands.empty());
   EXPECT_EQ(paints, 1) << "as with nothing chosen";
   CommandRoute(50);  // with none up it does nothing
   ExpectMenu(IDM_CLOCK, 2330);
-  CommandClockPopup(2337);
+  CommandRoute(2337);
   EXPECT_EQ(sentCommands, Numbers{2330});
 }
 
 TEST_F(PopupsTest, WithoutItsWindowNoPopupOpens) {
-  CommandSchedulePopup(2039);
-  CommandCalendarPopup(2279);
-  CommandClockPopup(2337);
+  CommandRoute(2039);
+  CommandRoute(2279);
+  CommandRoute(2337);
   EXPECT_TRUE(sentCommands.empty());
 }
 

@@ -8,6 +8,7 @@
 #include "mail_music/mail/mail.h"
 #include "platform/window.h"
 #include "schedule/table/table_scroll.h"
+#include "services/commands.h"
 #include "services/five_ticks.h"
 #include "services/program.h"
 #include "shell/panel.h"
@@ -251,11 +252,11 @@ TEST_F(MainWindowTest, PaintGoesOnToClockCalendarPlanAndTable) {
 TEST_F(MainWindowTest, ExitAsksAndCancelOnlyClearsThePanelState) {
   Panel.MenuPanelState = 1;
   ExpectBox("プログラムを終了します。", "プログラム終了", BoxAnswer::Cancel);
-  SendCommand(Program.hMainWnd, 1908);
+  CommandSend(Command::Exit);
   EXPECT_EQ(Panel.MenuPanelState, 0);
   EXPECT_FALSE(QuitWasAsked());
   ExpectBox("プログラムを終了します。", "プログラム終了", BoxAnswer::Ok);
-  SendCommand(Program.hMainWnd, 1908);
+  CommandSend(Command::Exit);
   EXPECT_TRUE(QuitWasAsked());
 }
 

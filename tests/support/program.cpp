@@ -84,7 +84,7 @@ void ShellReset() {
         &SclTable.hSclTableWnd, &SclTable.hPlanWnd, &Music.hBgmWnd}) {
     *handle = nullptr;
   }
-  for (int* id : {&Dialogs.DlgIdMenu, &Dialogs.DlgIdTool, &Dialogs.DlgIdSub, &Dialogs.DlgIdSnry}) *id = 0;
+  Dialogs = {};
   for (std::int32_t* counter :
        {&Panel.MenuCloseCount, &Panel.MenuReopenGuard, &Mail.MailTickCount, &Mail.MailMinuteCount,
         &FiveTicks.FrameDivider, &SclTable.AutoScrollDelay, &GroupRun.GroupOpenDelay,

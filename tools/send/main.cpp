@@ -16,9 +16,9 @@ struct NamedCommand {
   const char* name;
 };
 
-#define COMMAND(number, name, function) {number, name},
+#define COMMAND(number, name, shownName, function) {number, shownName},
 constexpr NamedCommand kCommands[] = {
-#include "shell/command_table.inc"
+#include "services/command_table.inc"
 };
 #undef COMMAND
 

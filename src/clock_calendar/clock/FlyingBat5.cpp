@@ -13,6 +13,7 @@
 #include "platform/dialog.h"
 #include "platform/window.h"
 #include "resources/ids.h"
+#include "services/commands.h"
 #include "services/painting.h"
 #include "services/program.h"
 #include "services/text.h"
@@ -23,7 +24,6 @@ ClockNoticeState ClockNotice;
 
 namespace {
 
-constexpr std::uint32_t kNextStep = 2258;
 constexpr int kTextX = 10;
 constexpr int kTextY = 10;
 constexpr int kLineStep = 20;
@@ -81,7 +81,7 @@ constexpr NoticeWindow kNotice{&ClockNotice.hClockNoticeWnd, Begin, Paint};
 
 bool ClockNoticeProc(const Event& event) {
   if (NoticeEvent(kNotice, event)) return true;
-  if (event.kind == EventKind::Command && event.command == kNextStep) NextStep();
+  if (CommandIs(event, Command::NextStep)) NextStep();
   if (event.kind == EventKind::Destroy) PerformanceEnd();
   return event.kind == EventKind::Command || event.kind == EventKind::Destroy;
 }
@@ -92,7 +92,7 @@ bool ClockNoticeWaitIsOver() {
   return PerformanceWaitIsOver(Today.SharedTime);
 }
 
-void CommandClockNotice(std::uint32_t) {
+void CommandClockNotice(Command) {
   if (NoticeClosed(&ClockNotice.hClockNoticeWnd))
     DialogOpen(IDD_FlyingBat5, Program.hMainWnd, ClockNoticeProc);
 }

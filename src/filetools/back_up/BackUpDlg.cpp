@@ -5,10 +5,9 @@
 #include "platform/dialog.h"
 #include "resources/ids.h"
 #include "services/boxes.h"
+#include "services/commands.h"
 
 namespace {
-
-constexpr std::uint32_t kStepCommand = 2375;
 
 bool completed;
 
@@ -34,7 +33,7 @@ bool Handle(const Event& event) {
     BackUpRun.hBackUpDlg = event.window;
     BackUp.fileCursor = 0;
     BackUpRun.BackUpActive = true;
-  } else if (event.kind == EventKind::Command && event.command == kStepCommand) {
+  } else if (CommandIs(event, Command::BackUpStep)) {
     Step(event.window);
   } else if (EndIsAsked(event)) {
     End(event.window);

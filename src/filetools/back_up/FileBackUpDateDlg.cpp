@@ -9,13 +9,11 @@
 
 namespace {
 
-constexpr int kDateDialogId = 2033;
-constexpr int kContentDialogId = 2049;
 constexpr int kRowSize = 160;
 
 bool Handle(const Event& event) {
   if (event.kind != EventKind::Init) return false;
-  const auto list = Dialogs.DlgIdTool == kDateDialogId ? BackUpListDate : BackUpListContent;
+  const auto list = Dialogs.DlgIdTool == ToolDialog::FileBackUpDateDlg ? BackUpListDate : BackUpListContent;
   const ListQuiet quiet(event.window, IDC_BACKUP_ROWS);
   for (int row = 0; row < BackUp.fileCount; ++row) {
     char text[kRowSize];
@@ -27,9 +25,9 @@ bool Handle(const Event& event) {
 }  // namespace
 
 void FileBackUpDateDlgRun(WindowHandle owner) {
-  ToolDialogRun(kDateDialogId, IDD_FileBackUpDateDlg, owner, Handle);
+  ToolDialogRun(ToolDialog::FileBackUpDateDlg, IDD_FileBackUpDateDlg, owner, Handle);
 }
 
 void FileBackUpContentDlgRun(WindowHandle owner) {
-  ToolDialogRun(kContentDialogId, IDD_FileBackUpContentDlg, owner, Handle);
+  ToolDialogRun(ToolDialog::FileBackUpContentDlg, IDD_FileBackUpContentDlg, owner, Handle);
 }

@@ -8,6 +8,7 @@
 #include "platform/window.h"
 #include "resources/ids.h"
 #include "services/boxes.h"
+#include "services/commands.h"
 #include "services/dialog_family.h"
 #include "services/path.h"
 #include "services/program.h"
@@ -15,11 +16,10 @@
 
 namespace {
 
-constexpr int kDialogId = 2002;
 constexpr int kRowSize = 1100;
 
 bool IsOpen() {
-  return Dialogs.hMenuDlg && Dialogs.DlgIdMenu == kDialogId;
+  return Dialogs.hMenuDlg && Dialogs.DlgIdMenu == MenuDialog::FileBackUpSetDlg;
 }
 
 void Remove() {
@@ -89,18 +89,18 @@ void CompareContents() {
 struct Button {
   std::uint32_t id;
   void (*action)();
-  std::uint32_t command;
+  Command command;
 };
 constexpr Button kButtons[] = {
-    {IDC_BACKUP_ADD, nullptr, kCommandBackUpAdd},
-    {IDC_BACKUP_FOLDER, nullptr, kCommandBackUpFolder},
-    {IDC_BACKUP_LOAD, nullptr, kCommandBackUpLoad},
-    {IDC_BACKUP_SAVE, nullptr, kCommandBackUpSave},
-    {IDC_BACKUP_REMOVE, Remove, 0},
-    {IDC_BACKUP_CLEAR, Clear, 0},
-    {IDC_BACKUP_RUN, Run, 0},
-    {IDC_BACKUP_DATES, CompareDates, 0},
-    {IDC_BACKUP_CONTENTS, CompareContents, 0},
+    {IDC_BACKUP_ADD, nullptr, Command::BackUpAdd},
+    {IDC_BACKUP_FOLDER, nullptr, Command::BackUpFolder},
+    {IDC_BACKUP_LOAD, nullptr, Command::BackUpLoad},
+    {IDC_BACKUP_SAVE, nullptr, Command::BackUpSave},
+    {IDC_BACKUP_REMOVE, Remove, Command::None},
+    {IDC_BACKUP_CLEAR, Clear, Command::None},
+    {IDC_BACKUP_RUN, Run, Command::None},
+    {IDC_BACKUP_DATES, CompareDates, Command::None},
+    {IDC_BACKUP_CONTENTS, CompareContents, Command::None},
 };
 
 bool Press(std::uint32_t id) {
@@ -109,7 +109,7 @@ bool Press(std::uint32_t id) {
     if (button.action) {
       BackUpGuarded(button.action);
     } else {
-      SendCommand(Program.hMainWnd, button.command);
+      CommandSend(button.command);
     }
     return true;
   }
@@ -134,7 +134,7 @@ void AddRow(int list, const char* path) {
 }  // namespace
 
 int FileBackUpSetDlgRun() {
-  return MenuDialogRun(kDialogId, IDD_FileBackUpSetDlg, Program.hMainWnd, Handle);
+  return MenuDialogRun(MenuDialog::FileBackUpSetDlg, IDD_FileBackUpSetDlg, Program.hMainWnd, Handle);
 }
 
 void FileBackUpSetDlgShowLists() {

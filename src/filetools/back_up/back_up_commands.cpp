@@ -14,7 +14,6 @@
 
 namespace {
 
-constexpr int kFolderDialogId = 2008;
 constexpr char kSettingsMask[] = "*.BUP";
 
 WindowHandle Owner() {
@@ -37,8 +36,8 @@ void Add() {
 }
 
 void Folder() {
-  if (FolderPickRun(kFolderDialogId, IDD_FileBackUpDirDlg, Owner(), BackUp.destDir, sizeof BackUp.destDir) ==
-      0) {
+  if (FolderPickRun(ToolDialog::FileBackUpDirDlg, IDD_FileBackUpDirDlg, Owner(), BackUp.destDir,
+                    sizeof BackUp.destDir) == 0) {
     return;
   }
   BackUp.dirty = true;
@@ -87,7 +86,7 @@ void BackUpGuarded(void (*action)()) {
 }
 
 void BackUpCommand() {
-  FeatureDialogRun(2, FileBackUpSetDlgRun);
+  FeatureDialogRun(Feature::FileBackUp, FileBackUpSetDlgRun);
 }
 void BackUpAddCommand() {
   BackUpGuarded(Add);

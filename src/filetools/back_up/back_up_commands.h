@@ -1,12 +1,6 @@
 // The back-up's numbered commands, as the main window routes them.
 #pragma once
 
-inline constexpr int kCommandBackUp = 1901;
-inline constexpr int kCommandBackUpAdd = 2041;
-inline constexpr int kCommandBackUpFolder = 2042;
-inline constexpr int kCommandBackUpLoad = 2044;
-inline constexpr int kCommandBackUpSave = 2045;
-
 void BackUpCommand();        // 1901: FileBackUpSetDlg
 void BackUpAddCommand();     // 2041: picks a source
 void BackUpFolderCommand();  // 2042: FileBackUpDirDlg

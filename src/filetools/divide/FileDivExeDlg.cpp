@@ -7,11 +7,10 @@
 #include "platform/dialog.h"
 #include "resources/ids.h"
 #include "services/boxes.h"
+#include "services/commands.h"
 #include "services/data_file.h"
 
 namespace {
-
-constexpr std::uint32_t kStepCommand = 2376;
 
 // Where the two dialogs differ.
 struct Kind {
@@ -81,7 +80,7 @@ bool Handle(const Event& event) {
   }
   if (event.kind != EventKind::Command) return false;
   switch (event.command) {
-    case kStepCommand:
+    case static_cast<std::uint32_t>(Command::WorkStep):
       Step(event.window);
       return true;
     case 1:

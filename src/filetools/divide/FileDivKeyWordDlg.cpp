@@ -12,11 +12,8 @@
 
 namespace {
 
-constexpr int kDivideId = 2043;
-constexpr int kRestoreId = 2044;
-
 bool Dividing() {
-  return Dialogs.DlgIdTool == kDivideId;
+  return Dialogs.DlgIdTool == ToolDialog::FileDivKeyWordDlg;
 }
 
 void Forget() {
@@ -69,9 +66,9 @@ bool Handle(const Event& event) {
 }  // namespace
 
 void FileDivKeyWordDlgRun(WindowHandle owner) {
-  ToolDialogRun(kDivideId, IDD_FileDivKeyWordDlg, owner, Handle);
+  ToolDialogRun(ToolDialog::FileDivKeyWordDlg, IDD_FileDivKeyWordDlg, owner, Handle);
 }
 
 void FileDivKeyWordDlg2Run(WindowHandle owner) {
-  ToolDialogRun(kRestoreId, IDD_FileDivKeyWordDlg2, owner, Handle);
+  ToolDialogRun(ToolDialog::FileDivKeyWordDlg2, IDD_FileDivKeyWordDlg2, owner, Handle);
 }

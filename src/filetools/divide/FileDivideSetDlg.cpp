@@ -3,19 +3,18 @@
 #include "filetools/divide/divide_commands.h"
 #include "filetools/divide/divide_dialogs.h"
 #include "resources/ids.h"
+#include "services/commands.h"
 #include "services/dialog_family.h"
 #include "services/program.h"
 
 namespace {
 
-constexpr int kDialogId = 2010;
-
 bool Handle(const Event& event) {
   if (event.kind != EventKind::Command) return false;
   if (event.command == IDC_DIVIDE_CHOOSE_DIVIDE) {
-    ToolDialogEnd(event.window, kCommandDivide);
+    ToolDialogEnd(event.window, kChoseDivide);
   } else if (event.command == IDC_DIVIDE_CHOOSE_RESTORE) {
-    ToolDialogEnd(event.window, kCommandRestore);
+    ToolDialogEnd(event.window, kChoseRestore);
   } else {
     return false;
   }
@@ -25,5 +24,5 @@ bool Handle(const Event& event) {
 }  // namespace
 
 int FileDivideSetDlgRun() {
-  return ToolDialogRun(kDialogId, IDD_FileDivideSetDlg, Program.hMainWnd, Handle);
+  return ToolDialogRun(ToolDialog::FileDivideSetDlg, IDD_FileDivideSetDlg, Program.hMainWnd, Handle);
 }

@@ -8,6 +8,7 @@
 #include "platform/dialog.h"
 #include "platform/window.h"
 #include "resources/ids.h"
+#include "services/commands.h"
 #include "services/decimal.h"
 #include "services/dialog_family.h"
 #include "services/drawing_objects.h"
@@ -21,17 +22,17 @@ constexpr int kRowSize = 1100;
 
 // Where the two dialogs differ.
 struct Kind {
-  int dialogId;
+  MenuDialog dialogId;
   int templateId;
-  std::uint32_t pickCommand;
-  std::uint32_t folderCommand;
+  Command pickCommand;
+  Command folderCommand;
   const char* banner;
   Rect bannerBox;  // in dialog units; wiped when there is no banner
 };
-constexpr Kind kDivide{kDivideDialogId,      IDD_FileDivideSetDlg2,  kCommandDividePick,
-                       kCommandDivideFolder, "ファイル分割中です !", {215, 108, 375, 143}};
-constexpr Kind kRestore{kRestoreDialogId,      IDD_FileDivideSetDlg3, kCommandRestorePick,
-                        kCommandRestoreFolder, "ファイル合成中です!", {277, 58, 370, 93}};
+constexpr Kind kDivide{MenuDialog::FileDivideSetDlg2, IDD_FileDivideSetDlg2,  Command::DividePick,
+                       Command::DivideFolder,         "ファイル分割中です !", {215, 108, 375, 143}};
+constexpr Kind kRestore{MenuDialog::FileDivideSetDlg3, IDD_FileDivideSetDlg3, Command::RestorePick,
+                        Command::RestoreFolder,        "ファイル合成中です!", {277, 58, 370, 93}};
 constexpr int kBannerInset = 2;
 
 // The two sizes of a division, in dialog units: beside their labels, as wide as the
@@ -74,7 +75,7 @@ void Paint(WindowHandle dialog, const Kind& kind) {
   CanvasBrush(canvas, Drawing.FaceBrush);
   CanvasPen(canvas, PenNothing());
   CanvasBackTransparent(canvas, true);
-  if (kind.dialogId == kDivideDialogId) {
+  if (kind.dialogId == MenuDialog::FileDivideSetDlg2) {
     DrawSize(canvas, DialogUnits(dialog, kSourceSize), FileDivide.sourceSize);
     DrawSize(canvas, DialogUnits(dialog, kPieceSize), FileDivide.pieceSize);
   }
@@ -99,17 +100,17 @@ void Open(WindowHandle dialog) {
   ControlSetChecked(dialog, IDC_DIVIDE_ENCRYPT, FileDivide.encryptFlag != 0);
 }
 
-bool Command(const Event& event, const Kind& kind) {
+bool HandleCommand(const Event& event, const Kind& kind) {
   if (event.notice != Notice::Click) return false;
   switch (event.command) {
     case IDC_DIVIDE_PICK:
-      SendCommand(Program.hMainWnd, kind.pickCommand);
+      CommandSend(kind.pickCommand);
       return true;
     case IDC_DIVIDE_PICK_FOLDER:
-      SendCommand(Program.hMainWnd, kind.folderCommand);
+      CommandSend(kind.folderCommand);
       return true;
     case IDC_DIVIDE_RUN:
-      SendCommand(Program.hMainWnd, kCommandDivideRun);
+      CommandSend(Command::DivideRun);
       return true;
     case IDC_DIVIDE_ENCRYPT:
       FileDivide.encryptFlag = ControlIsChecked(event.window, IDC_DIVIDE_ENCRYPT) ? 1 : 0;
@@ -130,7 +131,7 @@ bool Handle(const Event& event) {
       Paint(event.window, *kind);
       return true;
     case EventKind::Command:
-      return Command(event, *kind);
+      return HandleCommand(event, *kind);
     default:
       return false;
   }

@@ -6,6 +6,7 @@
 #include "platform/window.h"
 #include "resources/ids.h"
 #include "services/boxes.h"
+#include "services/commands.h"
 #include "services/data_file.h"
 #include "services/dialog_family.h"
 #include "services/feature_dialog.h"
@@ -15,9 +16,6 @@
 #include "services/text.h"
 
 namespace {
-
-constexpr int kDivideFolderDialogId = 2012;
-constexpr int kRestoreFolderDialogId = 2015;
 
 WindowHandle Owner() {
   return Dialogs.hMenuDlg ? Dialogs.hMenuDlg : Program.hMainWnd;
@@ -51,17 +49,17 @@ void PickCof() {
   if (Pick("*.COF")) DivideDialogShow();
 }
 
-void PickFolder(int dialogId, int templateId) {
+void PickFolder(ToolDialog dialogId, int templateId) {
   if (FolderPickRun(dialogId, templateId, Owner(), FileDivide.storeDir, sizeof FileDivide.storeDir) != 0) {
     DivideDialogShow();
   }
 }
 
 void PickDivideFolder() {
-  PickFolder(kDivideFolderDialogId, IDD_FileDivFileDlg);
+  PickFolder(ToolDialog::FileDivFileDlg, IDD_FileDivFileDlg);
 }
 void PickRestoreFolder() {
-  PickFolder(kRestoreFolderDialogId, IDD_FileUDivFileDlg);
+  PickFolder(ToolDialog::FileUDivFileDlg, IDD_FileUDivFileDlg);
 }
 
 void Tell(const char* text) {
@@ -121,24 +119,23 @@ void Restore() {
 
 void RunOpenDialog() {
   if (Stepped.hSearchDlg) return;  // a search is running; no file is replaced for a run that cannot go on
-  if (Dialogs.DlgIdMenu == kDivideDialogId) Divide();
-  if (Dialogs.DlgIdMenu == kRestoreDialogId) Restore();
+  if (Dialogs.DlgIdMenu == MenuDialog::FileDivideSetDlg2) Divide();
+  if (Dialogs.DlgIdMenu == MenuDialog::FileDivideSetDlg3) Restore();
 }
 
 }  // namespace
 
 void DivideMenuCommand() {
-  const int chosen = FeatureDialogRun(7, FileDivideSetDlgRun);
-  if (chosen == kCommandDivide || chosen == kCommandRestore) {
-    SendCommand(Program.hMainWnd, static_cast<std::uint32_t>(chosen));
-  }
+  const int chosen = FeatureDialogRun(Feature::DivideChoice, FileDivideSetDlgRun);
+  if (chosen == kChoseDivide) CommandSend(Command::Divide);
+  if (chosen == kChoseRestore) CommandSend(Command::Restore);
 }
 
 void DivideCommand() {
-  FeatureDialogRun(8, FileDivideSetDlg2Run);
+  FeatureDialogRun(Feature::Divide, FileDivideSetDlg2Run);
 }
 void RestoreCommand() {
-  FeatureDialogRun(9, FileDivideSetDlg3Run);
+  FeatureDialogRun(Feature::Restore, FileDivideSetDlg3Run);
 }
 void DividePickCommand() {
   Guarded(PickSource);

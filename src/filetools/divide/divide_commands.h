@@ -2,15 +2,6 @@
 // them.
 #pragma once
 
-inline constexpr int kCommandDivideMenu = 1915;
-inline constexpr int kCommandDivide = 2066;
-inline constexpr int kCommandRestore = 2067;
-inline constexpr int kCommandDividePick = 2068;
-inline constexpr int kCommandDivideFolder = 2069;
-inline constexpr int kCommandDivideRun = 2070;
-inline constexpr int kCommandRestorePick = 2071;
-inline constexpr int kCommandRestoreFolder = 2094;
-
 void DivideMenuCommand();     // 1915: FileDivideSetDlg
 void DivideCommand();         // 2066: FileDivideSetDlg2
 void RestoreCommand();        // 2067: FileDivideSetDlg3

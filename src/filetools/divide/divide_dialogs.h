@@ -3,13 +3,11 @@
 
 #include "platform/types.h"
 
-// FileDivideSetDlg, the choice between the two. Returns the command of what was
-// chosen, or another number for nothing.
+// FileDivideSetDlg, the choice between the two. Returns one of these, or another
+// number for nothing.
+inline constexpr int kChoseDivide = 10;
+inline constexpr int kChoseRestore = 11;
 int FileDivideSetDlgRun();
-
-// Numbers of the next two in their family.
-inline constexpr int kDivideDialogId = 2004;
-inline constexpr int kRestoreDialogId = 2005;
 
 // FileDivideSetDlg2 and FileDivideSetDlg3: what is to be divided or restored, and
 // where to. Modal over the stage.

@@ -13,8 +13,6 @@
 
 namespace {
 
-constexpr int kDialogId = 2032;
-
 bool changed;
 
 // The chosen row of the history, -1 for none.
@@ -86,6 +84,6 @@ bool Handle(const Event& event) {
 
 bool DelListOpnFileHisDlgRun(WindowHandle owner) {
   changed = false;
-  ToolDialogRun(kDialogId, IDD_DelListOpnFileHisDlg, owner, Handle);
+  ToolDialogRun(ToolDialog::DelListOpnFileHisDlg, IDD_DelListOpnFileHisDlg, owner, Handle);
   return changed;
 }

@@ -9,7 +9,6 @@
 
 namespace {
 
-constexpr int kDialogId = 2013;
 constexpr int kLineSize = kOpnTextUsed + 40;
 
 void Open(WindowHandle dialog) {
@@ -41,5 +40,5 @@ bool Handle(const Event& event) {
 }  // namespace
 
 void DspListOpnFileHisDlgRun(WindowHandle owner) {
-  SubDialogRun(kDialogId, IDD_DspListOpnFileHisDlg, owner, Handle);
+  SubDialogRun(SubDialog::DspListOpnFileHisDlg, IDD_DspListOpnFileHisDlg, owner, Handle);
 }

@@ -7,8 +7,6 @@
 
 namespace {
 
-constexpr int kDialogId = 2029;
-
 bool Handle(const Event& event) {
   if (event.kind != EventKind::Init) return false;
   OpnRecordShow(event.window);
@@ -18,5 +16,5 @@ bool Handle(const Event& event) {
 }  // namespace
 
 void DspListOpnFileRecDlgRun(WindowHandle owner) {
-  ToolDialogRun(kDialogId, IDD_DspListOpnFileRecDlg, owner, Handle);
+  ToolDialogRun(ToolDialog::DspListOpnFileRecDlg, IDD_DspListOpnFileRecDlg, owner, Handle);
 }

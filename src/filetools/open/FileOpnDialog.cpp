@@ -10,6 +10,7 @@
 #include "platform/window.h"
 #include "resources/ids.h"
 #include "services/boxes.h"
+#include "services/commands.h"
 #include "services/data_file.h"
 #include "services/dialog_family.h"
 #include "services/file_picker.h"
@@ -17,10 +18,8 @@
 
 namespace {
 
-constexpr int kDialogId = 2000;
 constexpr int kCancelled = 2;
 constexpr int kLeftForGroups = 2008;
-constexpr std::uint32_t kOpenCommand = 2004;
 
 // What the lists show is chosen in OpnWork too.
 void ChoiceTake() {
@@ -37,7 +36,7 @@ void Open() {
   ChoiceTake();
   if (!OpnSelectionFromLists(Dialogs.hMenuDlg)) return;
   const WindowHandle dialog = Dialogs.hMenuDlg;
-  SendCommand(Program.hMainWnd, kOpenCommand);
+  CommandSend(Command::OpenWalk);
   MenuDialogEnd(dialog, 0);
 }
 
@@ -98,7 +97,7 @@ bool Press(std::uint32_t id) {
     if (button.action) {
       button.action();
     } else {
-      SendCommand(Program.hMainWnd, id);
+      CommandSend(static_cast<Command>(id));
     }
     return true;
   }
@@ -130,13 +129,13 @@ bool Pick(char* path) {
 }  // namespace
 
 bool FileOpnDialogRun() {
-  const int result = MenuDialogRun(kDialogId, IDD_FileOpnDialog, Program.hMainWnd, Handle);
+  const int result = MenuDialogRun(MenuDialog::FileOpnDialog, IDD_FileOpnDialog, Program.hMainWnd, Handle);
   if (result == kCancelled) OpnWorkReset();
   return result == kLeftForGroups;
 }
 
 bool FileOpnDialogIsOpen() {
-  return Dialogs.hMenuDlg && Dialogs.DlgIdMenu == kDialogId;
+  return Dialogs.hMenuDlg && Dialogs.DlgIdMenu == MenuDialog::FileOpnDialog;
 }
 
 void FileOpnDialogRefresh() {

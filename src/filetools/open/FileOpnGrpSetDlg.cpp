@@ -13,8 +13,6 @@
 
 namespace {
 
-constexpr int kDialogId = 2000;
-
 int shown;   // the group on show
 bool dirty;  // its files, or another group's, were changed
 
@@ -131,5 +129,5 @@ bool Handle(const Event& event) {
 }  // namespace
 
 void FileOpnGrpSetDlgRun() {
-  ToolDialogRun(kDialogId, IDD_FileOpnGrpSetDlg, Program.hMainWnd, Handle);
+  ToolDialogRun(ToolDialog::FileOpnGrpSetDlg, IDD_FileOpnGrpSetDlg, Program.hMainWnd, Handle);
 }

@@ -8,7 +8,6 @@
 
 namespace {
 
-constexpr int kDialogId = 2030;
 constexpr int kChoose = 1;
 
 int chosen;
@@ -44,6 +43,6 @@ bool Handle(const Event& event) {
 
 int SerchOpnFileGrpSelDlgRun(WindowHandle owner) {
   chosen = -1;
-  SubDialogRun(kDialogId, IDD_SerchOpnFileGrpSelDlg, owner, Handle);
+  SubDialogRun(SubDialog::SerchOpnFileGrpSelDlg, IDD_SerchOpnFileGrpSelDlg, owner, Handle);
   return chosen;
 }

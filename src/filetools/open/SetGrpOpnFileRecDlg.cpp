@@ -11,8 +11,6 @@
 
 namespace {
 
-constexpr int kDialogId = 2030;
-
 void Open(WindowHandle dialog) {
   ControlSetLimit(dialog, IDC_OPN_COMMENT, kOpnCommentSize - 1);
   OpnGroupsShow(dialog, 0);
@@ -52,5 +50,5 @@ bool Handle(const Event& event) {
 }  // namespace
 
 void SetGrpOpnFileRecDlgRun(WindowHandle owner) {
-  ToolDialogRun(kDialogId, IDD_SetGrpOpnFileRecDlg, owner, Handle);
+  ToolDialogRun(ToolDialog::SetGrpOpnFileRecDlg, IDD_SetGrpOpnFileRecDlg, owner, Handle);
 }

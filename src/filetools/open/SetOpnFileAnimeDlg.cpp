@@ -15,14 +15,13 @@
 #include "platform/file.h"
 #include "platform/window.h"
 #include "resources/ids.h"
+#include "services/commands.h"
 #include "services/dialog_family.h"
 #include "services/program.h"
 #include "shell/panel.h"
 #include "world/world_list.h"
 
 namespace {
-
-constexpr int kDialogId = 2014;
 
 // What a walk begins with.
 struct Settings {
@@ -116,7 +115,7 @@ void End(WindowHandle dialog, int result) {
   WalkAbort();
   const bool fileWaits = Walk.OpeningState == kOpeningFile && Mail.MailPhase != kMailWalking;
   Walk.OpeningState = 0;
-  if (fileWaits) SendCommand(Program.hMainWnd, kCarryOutCommand);
+  if (fileWaits) CommandSend(Command::OpenLaunch);
 }
 
 void Set(WindowHandle dialog) {
@@ -147,5 +146,5 @@ bool Handle(const Event& event) {
 
 bool SetOpnFileAnimeDlgRun(WindowHandle owner) {
   const int templateId = IsMail() ? IDD_SetMailAnimeDlg : IDD_SetOpnFileAnimeDlg;
-  return SubDialogRun(kDialogId, templateId, owner, Handle) == 1;
+  return SubDialogRun(SubDialog::SetOpnFileAnimeDlg, templateId, owner, Handle) == 1;
 }

@@ -11,7 +11,6 @@
 
 namespace {
 
-constexpr int kDialogId = 2001;
 constexpr int kCalled = 1;
 
 // The two ways to look for groups.
@@ -67,5 +66,5 @@ bool Handle(const Event& event) {
 }  // namespace
 
 bool TakeOpnGrpSetDlgRun(WindowHandle owner) {
-  return ToolDialogRun(kDialogId, IDD_TakeOpnGrpSetDlg, owner, Handle) == kCalled;
+  return ToolDialogRun(ToolDialog::TakeOpnGrpSetDlg, IDD_TakeOpnGrpSetDlg, owner, Handle) == kCalled;
 }

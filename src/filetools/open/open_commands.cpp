@@ -7,14 +7,12 @@
 #include "filetools/open/open_programs.h"
 #include "platform/window.h"
 #include "services/boxes.h"
+#include "services/commands.h"
 #include "services/dialog_family.h"
 #include "services/feature_dialog.h"
 #include "services/program.h"
 
 namespace {
-
-constexpr int kFuncNo = 1;
-constexpr std::uint32_t kGroupSetCommand = 2008;
 
 void TablesRead() {
   if (OpnHisLoad() != 0) {
@@ -40,23 +38,23 @@ int GroupSet() {
 
 }  // namespace
 
-void CommandFileOpen(std::uint32_t) {
-  if (FeatureDialogRun(kFuncNo, FileOpen) != 0) SendCommand(Program.hMainWnd, kGroupSetCommand);
+void CommandFileOpen(Command) {
+  if (FeatureDialogRun(Feature::FileOpening, FileOpen) != 0) CommandSend(Command::OpenGroupSet);
 }
 
-void CommandOpenAddFile(std::uint32_t) {
+void CommandOpenAddFile(Command) {
   FileOpnDialogAddFile();
 }
 
-void CommandOpenAddProgram(std::uint32_t) {
+void CommandOpenAddProgram(Command) {
   FileOpnDialogAddProgram();
 }
 
-void CommandOpenGroupSet(std::uint32_t) {
+void CommandOpenGroupSet(Command) {
   if (Dialogs.hToolDlg) return;  // FileOpnDialog is not left under a dialog of its own
   if (FileOpnDialogIsOpen()) {
     FileOpnDialogLeaveForGroups();
   } else {
-    FeatureDialogRun(kFuncNo, GroupSet);
+    FeatureDialogRun(Feature::FileOpening, GroupSet);
   }
 }

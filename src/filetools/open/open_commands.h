@@ -3,9 +3,11 @@
 
 #include <cstdint>
 
+#include "services/commands.h"
+
 // Opening files.
-void CommandFileOpen(std::uint32_t number);
-void CommandOpenAddFile(std::uint32_t number);
-void CommandOpenAddProgram(std::uint32_t number);
-void CommandOpenGroupSet(std::uint32_t number);
-void CommandOpenLaunch(std::uint32_t number);
+void CommandFileOpen(Command command);
+void CommandOpenAddFile(Command command);
+void CommandOpenAddProgram(Command command);
+void CommandOpenGroupSet(Command command);
+void CommandOpenLaunch(Command command);

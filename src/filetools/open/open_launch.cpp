@@ -8,6 +8,7 @@
 #include "filetools/open/open_state.h"
 #include "platform/file.h"
 #include "platform/process.h"
+#include "services/commands.h"
 #include "services/text.h"
 
 namespace {
@@ -46,7 +47,7 @@ void OpnLaunch() {
   ProcessClose(process);
 }
 
-void CommandOpenLaunch(std::uint32_t) {
+void CommandOpenLaunch(Command) {
   if (OpnSelection.fileName[0] == '\0') return;  // nothing was chosen yet
   OpnLaunch();
   const bool changed = OpnHisUpdate();

@@ -15,8 +15,6 @@
 
 namespace {
 
-constexpr int kDlgId = 2009;
-constexpr int kFuncNo = 6;
 constexpr int kMargin = 12;
 constexpr int kListBottom = 160;  // dialog units, where the template's file list ends too
 
@@ -67,11 +65,11 @@ bool Handle(const Event& event) {
 }
 
 int Run() {
-  return ToolDialogRun(kDlgId, IDD_FolderScopeSetDlg, Program.hMainWnd, Handle);
+  return ToolDialogRun(ToolDialog::FolderScopeSetDlg, IDD_FolderScopeSetDlg, Program.hMainWnd, Handle);
 }
 
 }  // namespace
 
 void FolderScopeCommand() {
-  FeatureDialogRun(kFuncNo, Run);
+  FeatureDialogRun(Feature::FolderScope, Run);
 }

@@ -12,7 +12,6 @@
 
 namespace {
 
-constexpr int kDlgId = 2003;
 constexpr int kTextSize = 320;
 
 // Where a column stands: its disc's top left corner, from there the texts above and
@@ -138,5 +137,5 @@ bool Handle(const Event& event) {
 }  // namespace
 
 void FolderStaticsDlgRun(WindowHandle owner) {
-  MenuDialogRun(kDlgId, IDD_FolderStaticsDlg, owner, Handle);
+  MenuDialogRun(MenuDialog::FolderStaticsDlg, IDD_FolderStaticsDlg, owner, Handle);
 }

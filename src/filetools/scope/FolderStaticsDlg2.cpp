@@ -17,7 +17,6 @@
 
 namespace {
 
-constexpr int kDlgId = 2003;
 constexpr int kRowHeight = 20;
 constexpr int kNameX = 20;
 constexpr int kBoxX = 212;
@@ -143,5 +142,5 @@ bool Handle(const Event& event) {
 }  // namespace
 
 void FolderStaticsDlg2Run(WindowHandle owner) {
-  MenuDialogRun(kDlgId, IDD_FolderStaticsDlg2, owner, Handle);
+  MenuDialogRun(MenuDialog::FolderStaticsDlg2, IDD_FolderStaticsDlg2, owner, Handle);
 }

@@ -7,10 +7,10 @@
 #include "filetools/stepped_work.h"
 #include "platform/dialog.h"
 #include "resources/ids.h"
+#include "services/commands.h"
 
 namespace {
 
-constexpr std::uint32_t kStepCommand = 2376;
 constexpr int kDriveSearch = 1;
 constexpr int kFolderSearch = 2;
 constexpr int kStopped = -1;
@@ -41,7 +41,7 @@ bool Handle(const Event& event) {
   if (event.kind == EventKind::Init) {
     Stepped.hSearchDlg = event.window;
     ScopeStepReset();
-  } else if (event.kind == EventKind::Command && event.command == kStepCommand) {
+  } else if (CommandIs(event, Command::WorkStep)) {
     Step(event.window);
   } else if (EndIsAsked(event)) {
     End(event.window, kStopped);

@@ -9,19 +9,16 @@
 
 namespace {
 
-constexpr int kDlgId = 2006;
-constexpr int kFuncNo = 15;
-
 bool Handle(const Event& /*event*/) {
   return false;
 }
 
 int Run() {
-  return MenuDialogRun(kDlgId, IDD_DesktopIconSetDlg, Program.hMainWnd, Handle);
+  return MenuDialogRun(MenuDialog::DesktopIconSetDlg, IDD_DesktopIconSetDlg, Program.hMainWnd, Handle);
 }
 
 }  // namespace
 
 void DesktopCoverCommand() {
-  FeatureDialogRun(kFuncNo, Run);
+  FeatureDialogRun(Feature::DesktopCover, Run);
 }

@@ -12,9 +12,6 @@
 
 namespace {
 
-constexpr int kDlgId = 2013;
-constexpr int kFuncNo = 12;
-
 bool Handle(const Event& event) {
   if (event.kind == EventKind::Init) {
     ControlSetLimit(event.window, IDC_TIDY_FOLDER, kTidyNameSize - 1);
@@ -29,11 +26,11 @@ bool Handle(const Event& event) {
 }
 
 int Run() {
-  return ToolDialogRun(kDlgId, IDD_FileDesktopClrDlg, Program.hMainWnd, Handle);
+  return ToolDialogRun(ToolDialog::FileDesktopClrDlg, IDD_FileDesktopClrDlg, Program.hMainWnd, Handle);
 }
 
 }  // namespace
 
 void DesktopTidyCommand() {
-  FeatureDialogRun(kFuncNo, Run);
+  FeatureDialogRun(Feature::DesktopTidy, Run);
 }

@@ -2,8 +2,5 @@
 // the panel sends them.
 #pragma once
 
-inline constexpr int kCommandDesktopTidy = 1920;
-inline constexpr int kCommandDesktopCover = 1922;
-
 void DesktopTidyCommand();   // 1920: FileDesktopClrDlg
 void DesktopCoverCommand();  // 1922: DesktopIconSetDlg

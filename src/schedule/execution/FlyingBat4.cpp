@@ -10,6 +10,7 @@
 #include "platform/window.h"
 #include "resources/ids.h"
 #include "schedule/execution/scl_notice.h"
+#include "services/commands.h"
 #include "services/five_ticks.h"
 #include "services/program.h"
 #include "services/text.h"
@@ -129,12 +130,12 @@ void SclNoticeFrameStep() {
   SendPaint(Notices.hSclNoticeWnd);
 }
 
-void CommandSclNotice(std::uint32_t) {
+void CommandSclNotice(Command) {
   if (!Notices.SclNotice.due || !NoticeClosed(&Notices.hSclNoticeWnd)) return;
   Open(kKindSchedule);
 }
 
-void CommandNoteNotice(std::uint32_t) {
+void CommandNoteNotice(Command) {
   for (int note = 0; note < kNoteNoticeCount; ++note) {
     if (!Notices.NoteNotices[note].due) continue;
     if (!NoticeClosed(&Notices.hSclNoticeWnd)) return;

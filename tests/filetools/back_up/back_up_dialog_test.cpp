@@ -1,8 +1,10 @@
 #include "filetools/back_up/back_up.h"
 #include "platform/file.h"
 #include "platform/time.h"
+#include "services/commands.h"
 #include "services/data_file.h"
 #include "services/dialog_family.h"
+#include "services/dialog_numbers.h"
 #include "services/program.h"
 #include "shell/panel.h"
 #include "tests/filetools/back_up/back_up_fixture.h"
@@ -17,7 +19,7 @@ class BackUpDialogTest : public BackUpFixture {
   // Opens FileBackUpSetDlg, runs the steps that wait and closes it.
   static void RunDialog() {
     ThenPress(2);
-    SendCommand(Program.hMainWnd, kCommandBackUp);
+    CommandSend(Command::BackUpFiles);
   }
   static Rows Sources() { return ListRows(Dialogs.hMenuDlg, kSources); }
   static Rows Copies() { return ListRows(Dialogs.hMenuDlg, kCopies); }
@@ -29,7 +31,7 @@ TEST_F(BackUpDialogTest, TheDialogOpensFromItsCommandAndClosesThePanelState) {
     EXPECT_EQ(TemplateOf(TopDialog()), IDD_FileBackUpSetDlg);
     EXPECT_EQ(WindowText(TopDialog()), "ファイル バックアップ");
     EXPECT_EQ(Dialogs.hMenuDlg, TopDialog());
-    EXPECT_EQ(Dialogs.DlgIdMenu, 2002);
+    EXPECT_EQ(Dialogs.DlgIdMenu, MenuDialog::FileBackUpSetDlg);
     EXPECT_EQ(Panel.FuncNo, 2);
   });
   RunDialog();
@@ -99,7 +101,7 @@ TEST_F(BackUpDialogTest, AChosenFolderIsStoredAndTheCopiesFollow) {
   ThenPress(IDC_BACKUP_FOLDER);
   Then([] {
     EXPECT_EQ(TemplateOf(TopDialog()), IDD_FileBackUpDirDlg);
-    EXPECT_EQ(Dialogs.DlgIdTool, 2008);
+    EXPECT_EQ(Dialogs.DlgIdTool, ToolDialog::FileBackUpDirDlg);
   });
   ThenPickFolder("[copies]");
   Then([] { EXPECT_EQ(Copies(), (Rows{"a.txt [C:\\mirrell\\copies\\]"})); });
@@ -293,7 +295,7 @@ TEST_F(BackUpDialogTest, AMissingCopyIsListedByDateAndRefusedByContent) {
   Then([] {
     EXPECT_EQ(TemplateOf(TopDialog()), IDD_FileBackUpDateDlg);
     EXPECT_EQ(WindowText(TopDialog()), "バックアップファイル日付比較");
-    EXPECT_EQ(Dialogs.DlgIdTool, 2033);
+    EXPECT_EQ(Dialogs.DlgIdTool, ToolDialog::FileBackUpDateDlg);
     EXPECT_EQ(ListRows(TopDialog(), IDC_BACKUP_ROWS),
               (Rows{"a.txt (" + TimeTold(1700000000) + " -  ****** )",
                     "c.txt (" + TimeTold(1700000000) + " - " + TimeTold(1600000000) + ")"}));
@@ -315,7 +317,7 @@ TEST_F(BackUpDialogTest, DifferentContentsAreListedThoughTheTimesAreEqual) {
   ThenPress(IDC_BACKUP_CONTENTS);
   Then([] {
     EXPECT_EQ(TemplateOf(TopDialog()), IDD_FileBackUpContentDlg);
-    EXPECT_EQ(Dialogs.DlgIdTool, 2049);
+    EXPECT_EQ(Dialogs.DlgIdTool, ToolDialog::FileBackUpContentDlg);
     const std::string time = TimeTold(1700000000);
     EXPECT_EQ(ListRows(TopDialog(), IDC_BACKUP_ROWS), (Rows{"b.txt (" + time + " - " + time + ")"}));
     SendClose(TopDialog());
@@ -418,9 +420,9 @@ TEST_F(BackUpDialogTest, WhileAPickerIsOpenNoOtherOpens) {
   ThenPress(IDC_BACKUP_ADD);
   Then([] {
     const int windows = OpenWindowCount();
-    for (const int command :
-         {kCommandBackUpAdd, kCommandBackUpFolder, kCommandBackUpLoad, kCommandBackUpSave}) {
-      SendCommand(Program.hMainWnd, static_cast<std::uint32_t>(command));
+    for (const Command command :
+         {Command::BackUpAdd, Command::BackUpFolder, Command::BackUpLoad, Command::BackUpSave}) {
+      CommandSend(command);
     }
     EXPECT_EQ(OpenWindowCount(), windows);
   });
@@ -488,10 +490,10 @@ TEST_F(BackUpDialogTest, AFolderThatCannotBeToldIsNoChoice) {
 
 TEST_F(BackUpDialogTest, CommandsWithoutTheDialogWorkOnTheList) {
   ThenPick("a.txt");
-  SendCommand(Program.hMainWnd, kCommandBackUpAdd);
+  CommandSend(Command::BackUpAdd);
   EXPECT_STREQ(BackUp.sourcePath[0], "C:\\mirrell\\a.txt");
   ThenPickFolder("[copies]");
-  SendCommand(Program.hMainWnd, kCommandBackUpFolder);
+  CommandSend(Command::BackUpFolder);
   EXPECT_STREQ(BackUp.destPath[0], "C:\\mirrell\\copies\\a.txt");
 }
 

@@ -1,7 +1,9 @@
 // FileDivideSetDlg, the choice, and FileDivideSetDlg2, a division, with its progress.
 #include "filetools/stepped_work.h"
+#include "services/commands.h"
 #include "services/data_file.h"
 #include "services/dialog_family.h"
+#include "services/dialog_numbers.h"
 #include "services/program.h"
 #include "shell/panel.h"
 #include "tests/filetools/divide/divide_fixture.h"
@@ -20,11 +22,11 @@ TEST_F(DivideDialogTest, TheChoiceOpensFromItsCommandAndCanBeLeft) {
     EXPECT_EQ(WindowText(TopDialog()), "ファイル 分割/復元選択");
     EXPECT_EQ(ControlText(TopDialog(), IDC_DIVIDE_CHOOSE_DIVIDE), "ファイルを分割する");
     EXPECT_EQ(ControlText(TopDialog(), IDC_DIVIDE_CHOOSE_RESTORE), "分割ファイルを復元する");
-    EXPECT_EQ(Dialogs.DlgIdTool, 2010);
+    EXPECT_EQ(Dialogs.DlgIdTool, ToolDialog::FileDivideSetDlg);
     EXPECT_EQ(Panel.FuncNo, 7);
     SendClose(TopDialog());
   });
-  SendCommand(Program.hMainWnd, kCommandDivideMenu);
+  CommandSend(Command::DivideRestore);
   EXPECT_EQ(Panel.FuncNo, 0);
   EXPECT_EQ(Panel.MenuPanelState, 0);
 }
@@ -34,7 +36,7 @@ TEST_F(DivideDialogTest, TheChoiceClosesAndItsDialogOpens) {
     EXPECT_EQ(Dialogs.hToolDlg, nullptr);
     EXPECT_EQ(TemplateOf(TopDialog()), IDD_FileDivideSetDlg2);
     EXPECT_EQ(WindowText(TopDialog()), "ファイル 分割");
-    EXPECT_EQ(Dialogs.DlgIdMenu, 2004);
+    EXPECT_EQ(Dialogs.DlgIdMenu, MenuDialog::FileDivideSetDlg2);
     EXPECT_EQ(Panel.FuncNo, 8);
     EXPECT_EQ(FindDialog(IDD_FileDivideSetDlg), nullptr);
   });
@@ -42,7 +44,7 @@ TEST_F(DivideDialogTest, TheChoiceClosesAndItsDialogOpens) {
   In([] {
     EXPECT_EQ(TemplateOf(TopDialog()), IDD_FileDivideSetDlg3);
     EXPECT_EQ(WindowText(TopDialog()), "ファイル 復元");
-    EXPECT_EQ(Dialogs.DlgIdMenu, 2005);
+    EXPECT_EQ(Dialogs.DlgIdMenu, MenuDialog::FileDivideSetDlg3);
     EXPECT_EQ(Panel.FuncNo, 9);
   });
   RunRestore();
@@ -107,7 +109,7 @@ TEST_F(DivideDialogTest, BothDialogsChooseTheOneFolder) {
   InPress(IDC_DIVIDE_PICK_FOLDER);
   In([] {
     EXPECT_EQ(TemplateOf(TopDialog()), IDD_FileDivFileDlg);
-    EXPECT_EQ(Dialogs.DlgIdTool, 2012);
+    EXPECT_EQ(Dialogs.DlgIdTool, ToolDialog::FileDivFileDlg);
     Press(TopDialog(), 1);
   });
   In([] { EXPECT_EQ(ControlText(TopDialog(), IDC_DIVIDE_FOLDER), "C:\\mirrell"); });
@@ -116,7 +118,7 @@ TEST_F(DivideDialogTest, BothDialogsChooseTheOneFolder) {
   InPress(IDC_DIVIDE_PICK_FOLDER);
   In([] {
     EXPECT_EQ(TemplateOf(TopDialog()), IDD_FileUDivFileDlg);
-    EXPECT_EQ(Dialogs.DlgIdTool, 2015);
+    EXPECT_EQ(Dialogs.DlgIdTool, ToolDialog::FileUDivFileDlg);
     Press(TopDialog(), 1);
   });
   RunRestore();
@@ -344,7 +346,7 @@ TEST_F(DivideDialogTest, AFileErrorOfAnotherFeatureDoesNotFailTheRun) {
 // --- Guards
 
 TEST_F(DivideDialogTest, TheRunCommandNeedsOneOfTheTwoDialogs) {
-  SendCommand(Program.hMainWnd, kCommandDivideRun);
+  CommandSend(Command::DivideRun);
   EXPECT_EQ(Stepped.stepCounter, 0);
 }
 
@@ -355,9 +357,9 @@ TEST_F(DivideDialogTest, NoCommandStartsASecondRunUnderTheFirst) {
   InTicks(1);
   In([] {
     const int windows = OpenWindowCount();
-    for (const int command : {kCommandDivideRun, kCommandDividePick, kCommandRestorePick,
-                              kCommandDivideFolder, kCommandRestoreFolder}) {
-      SendCommand(Program.hMainWnd, static_cast<std::uint32_t>(command));
+    for (const Command command : {Command::DivideRun, Command::DividePick, Command::RestorePick,
+                                  Command::DivideFolder, Command::RestoreFolder}) {
+      CommandSend(command);
     }
     EXPECT_EQ(OpenWindowCount(), windows);
     EXPECT_EQ(Stepped.stepCounter, 3);

@@ -5,6 +5,7 @@
 #include "filetools/divide/file_divide.h"
 #include "filetools/stepped_work.h"
 #include "platform/posix/posix_paths.h"
+#include "services/commands.h"
 #include "services/data_file.h"
 #include "services/drawing_objects.h"
 #include "services/program.h"
@@ -119,7 +120,7 @@ class DivideDialogTest : public DivideFixture {
     Then([button] { Press(TopDialog(), button); });
     for (auto& step : steps) Then(step);
     Then([] { Press(TopDialog(), 2); });
-    SendCommand(Program.hMainWnd, kCommandDivideMenu);
+    CommandSend(Command::DivideRestore);
   }
   // Steps inside the dialog.
   using DialogSteps = std::vector<std::function<void()>>;

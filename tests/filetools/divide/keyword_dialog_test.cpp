@@ -1,5 +1,6 @@
 // FileDivKeyWordDlg: the keyword of a division.
 #include "services/dialog_family.h"
+#include "services/dialog_numbers.h"
 #include "tests/filetools/divide/divide_fixture.h"
 
 namespace {
@@ -16,7 +17,7 @@ TEST_F(DivideDialogTest, AScrambledDivisionAsksForItsKeywordFirst) {
   In([] {
     EXPECT_EQ(TemplateOf(TopDialog()), IDD_FileDivKeyWordDlg);
     EXPECT_EQ(WindowText(TopDialog()), "暗号化キーワード入力");
-    EXPECT_EQ(Dialogs.DlgIdTool, 2043);
+    EXPECT_EQ(Dialogs.DlgIdTool, ToolDialog::FileDivKeyWordDlg);
     EXPECT_EQ(ControlText(TopDialog(), IDC_DIVIDE_KEYWORD), "");
   });
   ExpectBox(Question("abcd").c_str(), "ファイル分割の実行");

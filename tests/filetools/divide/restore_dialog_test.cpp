@@ -3,6 +3,7 @@
 
 #include "filetools/stepped_work.h"
 #include "services/dialog_family.h"
+#include "services/dialog_numbers.h"
 #include "tests/filetools/divide/divide_fixture.h"
 
 namespace {
@@ -54,7 +55,7 @@ TEST_F(RestoreDialogTest, AScrambledFileAsksForItsKeywordWithoutAQuestion) {
   In([] {
     EXPECT_EQ(TemplateOf(TopDialog()), IDD_FileDivKeyWordDlg2);
     EXPECT_EQ(WindowText(TopDialog()), "暗号化キーワード入力");
-    EXPECT_EQ(Dialogs.DlgIdTool, 2044);
+    EXPECT_EQ(Dialogs.DlgIdTool, ToolDialog::FileDivKeyWordDlg2);
   });
   InKeyword("abcd");
   InTicks(2);

@@ -1,6 +1,8 @@
 // FileOpnGrpSetDlg, which files belong to which group.
 #include "filetools/open/open_groups.h"
+#include "services/commands.h"
 #include "services/dialog_family.h"
+#include "services/dialog_numbers.h"
 #include "services/program.h"
 #include "tests/filetools/open/open_fixture.h"
 
@@ -28,8 +30,8 @@ TEST_F(GroupSetTest, TheGroupsOpenWhenFileOpnDialogHasClosedAndKeepItsChoice) {
     ThenExpect([] {
       EXPECT_EQ(TemplateOf(TopDialog()), IDD_FileOpnGrpSetDlg);
       EXPECT_EQ(FindDialog(IDD_FileOpnDialog), nullptr);
-      EXPECT_EQ(Dialogs.DlgIdTool, 2000);
-      EXPECT_EQ(Dialogs.DlgIdMenu, 0);
+      EXPECT_EQ(Dialogs.DlgIdTool, ToolDialog::FileOpnGrpSetDlg);
+      EXPECT_EQ(Dialogs.DlgIdMenu, MenuDialog::None);
       EXPECT_EQ(RowsOf(IDC_OPN_FILE).size(), 3U);
       EXPECT_EQ(ChosenOf(IDC_OPN_FILE), 2);
       EXPECT_EQ(ChosenOf(IDC_OPN_PROGRAM), 1);
@@ -191,7 +193,7 @@ TEST_F(GroupSetTest, TheDetailsListTheHistory) {
     ThenPress(IDC_OPN_DETAILS);
     ThenExpect([] {
       EXPECT_EQ(TemplateOf(TopDialog()), IDD_DspListOpnFileHisDlg);
-      EXPECT_EQ(Dialogs.DlgIdSub, 2013);
+      EXPECT_EQ(Dialogs.DlgIdSub, SubDialog::DspListOpnFileHisDlg);
       EXPECT_EQ(RowsOf(IDC_OPN_LINES),
                 (Rows{"--項目 No. 1--", "   ファイル名: 表紙.txt", "   ファイルパス: C:\\書類\\",
                       "--項目 No. 2--", "   ファイル名: b.txt", "   ファイルパス: C:\\data\\",
@@ -233,12 +235,12 @@ TEST_F(GroupSetTest, TheGroupsOpenByTheirCommandAloneWithTheirFiles) {
   std::memset(OpnGroups.OpnGroupTable, 0, sizeof OpnGroups.OpnGroupTable);
   ThenExpect([] {
     EXPECT_EQ(RowsOf(IDC_OPN_GROUP)[0], "*  1 ()");
-    SendCommand(Program.hMainWnd, 2008);  // is up already
-    SendCommand(Program.hMainWnd, 1900);  // would read the tables that are in work
+    CommandSend(Command::OpenGroupSet);  // is up already
+    CommandSend(Command::FileOpen);      // would read the tables that are in work
     EXPECT_EQ(OpenWindowCount(), 2);
   });
   ThenPress(kOk);
-  SendCommand(Program.hMainWnd, 2008);
+  CommandSend(Command::OpenGroupSet);
   ASSERT_EQ(OpnGroupLoad(), 0);
   EXPECT_EQ(GroupFiles(0), Rows{"a [C:\\data\\]"});
 }

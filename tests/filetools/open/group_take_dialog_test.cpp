@@ -2,6 +2,7 @@
 #include "character/walk.h"
 #include "filetools/open/open_groups.h"
 #include "services/dialog_family.h"
+#include "services/dialog_numbers.h"
 #include "tests/filetools/open/open_fixture.h"
 
 namespace {
@@ -14,7 +15,7 @@ TEST_F(OpenDialogTest, ACalledGroupOpensOnTheNextTickWithNobodyToWalk) {
   ThenPress(IDC_OPN_TAKE_GROUP);
   ThenExpect([] {
     EXPECT_EQ(TemplateOf(TopDialog()), IDD_TakeOpnGrpSetDlg);
-    EXPECT_EQ(Dialogs.DlgIdTool, 2001);
+    EXPECT_EQ(Dialogs.DlgIdTool, ToolDialog::TakeOpnGrpSetDlg);
     EXPECT_EQ(RowsOf(IDC_OPN_GROUP_FILES), Rows{});
     ChooseRow(TopDialog(), IDC_OPN_GROUP, 2);
     EXPECT_EQ(RowsOf(IDC_OPN_GROUP_FILES), (Rows{"a [C:\\data\\]", "b [C:\\data\\]"}));
@@ -76,7 +77,7 @@ TEST_F(OpenDialogTest, ASearchByNameLeadsToTheChosenGroup) {
     ThenExpect([] {
       EXPECT_EQ(TemplateOf(TopDialog()), IDD_SerchOpnFileGrpSelDlg);
       EXPECT_EQ(WindowText(TopDialog()), "検索したグループの選択");
-      EXPECT_EQ(Dialogs.DlgIdSub, 2030);
+      EXPECT_EQ(Dialogs.DlgIdSub, SubDialog::SerchOpnFileGrpSelDlg);
       EXPECT_EQ(RowsOf(IDC_OPN_GROUP), (Rows{"*  4 ()", "*  9 (二)"}));
       ChooseRow(TopDialog(), IDC_OPN_GROUP, 1);
       Press(TopDialog(), kOk);

@@ -1,5 +1,6 @@
 // DelListOpnFileHisDlg: files are taken out of the history.
 #include "services/dialog_family.h"
+#include "services/dialog_numbers.h"
 #include "tests/filetools/open/open_fixture.h"
 
 namespace {
@@ -14,7 +15,7 @@ TEST_F(OpenDialogTest, AHistoryRowIsShownAndRemovedWhenTheUserAgrees) {
     ThenExpect([] {
       const WindowHandle dialog = TopDialog();
       EXPECT_EQ(TemplateOf(dialog), IDD_DelListOpnFileHisDlg);
-      EXPECT_EQ(Dialogs.DlgIdTool, 2032);
+      EXPECT_EQ(Dialogs.DlgIdTool, ToolDialog::DelListOpnFileHisDlg);
       EXPECT_EQ(RowsOf(IDC_OPN_FILE), (Rows{"表紙.txt [C:\\書類\\]", "b.txt [C:\\data\\]"}));
       Press(dialog, IDC_OPN_REMOVE);  // no row is chosen
       ChooseRow(dialog, IDC_OPN_FILE, 1);

@@ -4,6 +4,7 @@
 #include "character/walk.h"
 #include "mail_music/mail/mail.h"
 #include "services/dialog_family.h"
+#include "services/dialog_numbers.h"
 #include "services/program.h"
 #include "shell/panel.h"
 #include "tests/filetools/open/open_fixture.h"
@@ -32,7 +33,7 @@ TEST_F(OpenAnimeTest, ThePresentSettingsAreShown) {
       const WindowHandle dialog = TopDialog();
       EXPECT_EQ(TemplateOf(dialog), IDD_SetOpnFileAnimeDlg);
       EXPECT_EQ(WindowText(dialog), "ファイルオープン アニメーション/サウンド設定");
-      EXPECT_EQ(Dialogs.DlgIdSub, 2014);
+      EXPECT_EQ(Dialogs.DlgIdSub, SubDialog::SetOpnFileAnimeDlg);
       EXPECT_TRUE(ControlIsChecked(dialog, IDC_OPN_ANIME));
       EXPECT_FALSE(ControlIsChecked(dialog, IDC_OPN_SOUND));
       EXPECT_EQ(RowsOf(IDC_OPN_SOUND_FILE), (Rows{"foot1.wav", "foot2.wav", "鐘.wav"}));
@@ -190,7 +191,7 @@ TEST_F(OpenAnimeTest, WithTheMailSettingsActiveTheDialogServesTheMailNotice) {
     const WindowHandle dialog = TopDialog();
     EXPECT_EQ(TemplateOf(dialog), IDD_SetMailAnimeDlg);
     EXPECT_EQ(WindowText(dialog), "メール受信時アニメーション設定");
-    EXPECT_EQ(Dialogs.DlgIdSub, 2014);
+    EXPECT_EQ(Dialogs.DlgIdSub, SubDialog::SetOpnFileAnimeDlg);
     EXPECT_FALSE(ControlIsChecked(dialog, IDC_OPN_ANIME));
     EXPECT_TRUE(ControlIsChecked(dialog, IDC_OPN_SOUND));
     EXPECT_EQ(ChosenOf(IDC_OPN_SOUND_FILE), 0);

@@ -2,6 +2,7 @@
 // short is still opened.
 #include "character/character.h"
 #include "character/walk.h"
+#include "services/commands.h"
 #include "services/program.h"
 #include "tests/filetools/open/open_fixture.h"
 
@@ -23,7 +24,7 @@ class OpenAnimeWalkTest : public OpenFixture {
     ThenExpect([] {
       EXPECT_EQ(TemplateOf(TopDialog()), IDD_SetOpnFileAnimeDlg);
       ASSERT_TRUE(OpnSelectionFill(0, 1));
-      SendCommand(Program.hMainWnd, 2004);
+      CommandSend(Command::OpenWalk);
       EXPECT_EQ(Walk.OpeningState, 1);
       EXPECT_TRUE(Walk.WalkActive);
       EXPECT_EQ(Started(), Rows{});

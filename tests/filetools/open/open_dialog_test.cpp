@@ -1,7 +1,9 @@
 // FileOpnDialog, driven by a user.
 #include "character/walk.h"
+#include "services/commands.h"
 #include "services/data_file.h"
 #include "services/dialog_family.h"
+#include "services/dialog_numbers.h"
 #include "services/program.h"
 #include "shell/panel.h"
 #include "tests/filetools/open/open_fixture.h"
@@ -18,7 +20,7 @@ TEST_F(OpenDialogTest, AFirstStartWithNoFilesShowsEmptyListsAndTheAssociations) 
   ThenExpect([] {
     EXPECT_EQ(TemplateOf(TopDialog()), IDD_FileOpnDialog);
     EXPECT_EQ(WindowText(TopDialog()), "ファイル オープン");
-    EXPECT_EQ(Dialogs.DlgIdMenu, 2000);
+    EXPECT_EQ(Dialogs.DlgIdMenu, MenuDialog::FileOpnDialog);
     EXPECT_EQ(Panel.FuncNo, 1);
     EXPECT_EQ(RowsOf(IDC_OPN_FILE), Rows{});
     EXPECT_EQ(ChosenOf(IDC_OPN_FILE), -1);
@@ -253,7 +255,7 @@ TEST_F(OpenDialogTest, TheListsAreShownAnewWhenAFileOpensWhileTheDialogStands) {
   ThenPick("new.txt");
   ThenExpect([] {
     ASSERT_TRUE(OpnSelectionFill(2, 0));
-    SendCommand(Program.hMainWnd, 2202);
+    CommandSend(Command::OpenLaunch);
     EXPECT_EQ(RowsOf(IDC_OPN_FILE)[0], "new.txt [C:\\mirrell\\]");
     EXPECT_EQ(ChosenOf(IDC_OPN_FILE), 0);
   });
@@ -262,14 +264,14 @@ TEST_F(OpenDialogTest, TheListsAreShownAnewWhenAFileOpensWhileTheDialogStands) {
 }
 
 TEST_F(OpenDialogTest, CommandsThatBelongToTheDialogDoNothingWithoutIt) {
-  SendCommand(Program.hMainWnd, 2002);
-  SendCommand(Program.hMainWnd, 2003);
+  CommandSend(Command::OpenAddFile);
+  CommandSend(Command::OpenAddProgram);
   EXPECT_EQ(OpnWork.fileCount, 0);
 }
 
 TEST_F(OpenDialogTest, TheDialogIsNotOpenedTwice) {
   ThenExpect([] {
-    SendCommand(Program.hMainWnd, 1900);
+    CommandSend(Command::FileOpen);
     EXPECT_EQ(OpenWindowCount(), 2);
     EXPECT_EQ(Panel.FuncNo, 1);
   });
@@ -281,8 +283,8 @@ TEST_F(OpenDialogTest, ASecondPickerDoesNotOpenOverTheFirst) {
   ThenPress(IDC_OPN_ADD_FILE);
   ThenExpect([] {
     const WindowHandle picker = TopDialog();
-    SendCommand(Program.hMainWnd, 2002);
-    SendCommand(Program.hMainWnd, 2003);
+    CommandSend(Command::OpenAddFile);
+    CommandSend(Command::OpenAddProgram);
     EXPECT_EQ(TopDialog(), picker);
     Press(picker, kFolderCancelId);
   });

@@ -24,8 +24,10 @@
 #include "platform/posix/faults.h"
 #include "platform/window.h"
 #include "resources/ids.h"
+#include "services/commands.h"
 #include "services/data_file.h"
 #include "services/dialog_family.h"
+#include "services/dialog_numbers.h"
 #include "services/file_picker.h"
 #include "services/folder_list.h"
 #include "services/program.h"
@@ -51,9 +53,9 @@ class OpenFixture : public ProgramTest {
     EXPECT_EQ(Dialogs.hMenuDlg, nullptr);
     EXPECT_EQ(Dialogs.hToolDlg, nullptr);
     EXPECT_EQ(Dialogs.hSubDlg, nullptr);
-    EXPECT_EQ(Dialogs.DlgIdMenu, 0);
-    EXPECT_EQ(Dialogs.DlgIdTool, 0);
-    EXPECT_EQ(Dialogs.DlgIdSub, 0);
+    EXPECT_EQ(Dialogs.DlgIdMenu, MenuDialog::None);
+    EXPECT_EQ(Dialogs.DlgIdTool, ToolDialog::None);
+    EXPECT_EQ(Dialogs.DlgIdSub, SubDialog::None);
     EXPECT_EQ(Panel.FuncNo, 0);
     EXPECT_EQ(Panel.MenuPanelState, 0);
     ProgramTest::TearDown();
@@ -154,7 +156,7 @@ class OpenFixture : public ProgramTest {
   // --- The user
 
   // Runs FileOpnDialog with the steps that were scripted.
-  static void OpenDialog() { SendCommand(Program.hMainWnd, 1900); }
+  static void OpenDialog() { CommandSend(Command::FileOpen); }
   static void ThenPress(int id) {
     Then([id] { Press(TopDialog(), id); });
   }

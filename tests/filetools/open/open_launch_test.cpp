@@ -1,6 +1,7 @@
 // Starting programs: command lines, the launch command, groups from the tick.
 #include "character/walk.h"
 #include "filetools/open/open_state.h"
+#include "services/commands.h"
 #include "services/program.h"
 #include "tests/filetools/open/open_fixture.h"
 
@@ -79,7 +80,7 @@ TEST_F(OpenLaunchTest, AProgramThatDoesNotStartIsSilent) {
 // --- The launch command
 
 TEST_F(OpenLaunchTest, NothingChosenStartsNothing) {
-  SendCommand(Program.hMainWnd, 2202);
+  CommandSend(Command::OpenLaunch);
   EXPECT_EQ(Started(), Rows{});
   EXPECT_EQ(OpnRecord.recCount, 0);
   EXPECT_FALSE(FileThere(HistoryPath()));
@@ -90,7 +91,7 @@ TEST_F(OpenLaunchTest, AFailedStartIsRecordedAllTheSame) {
   OpnWorkReset();
   ASSERT_TRUE(OpnSelectionFill(0, 0));
   FaultArm(FaultKind::Process, 1);
-  SendCommand(Program.hMainWnd, 2202);
+  CommandSend(Command::OpenLaunch);
   FaultClear();
   EXPECT_EQ(OpnRecord.recCount, 1);
 }
@@ -99,12 +100,12 @@ TEST_F(OpenLaunchTest, TheHistoryIsWrittenOnlyWhenItHasChanged) {
   AddHistories(2);
   OpnWorkReset();
   ASSERT_TRUE(OpnSelectionFill(0, 0));
-  SendCommand(Program.hMainWnd, 2202);
+  CommandSend(Command::OpenLaunch);
   EXPECT_FALSE(FileThere(HistoryPath()));
   OpnBrowseProgram("C:\\edit.exe");
   ASSERT_TRUE(OpnSelectionFill(0, 1));
   OpnWork.progSel = 1;
-  SendCommand(Program.hMainWnd, 2202);
+  CommandSend(Command::OpenLaunch);
   EXPECT_TRUE(FileThere(HistoryPath()));
   EXPECT_EQ(OpnRecord.recCount, 2);
 }
@@ -115,7 +116,7 @@ TEST_F(OpenLaunchTest, AHistoryThatCannotBeWrittenIsSilent) {
   OpnBrowseFile("C:\\new.txt");
   ASSERT_TRUE(OpnSelectionFill(1, 0));
   FaultArm(FaultKind::Create, 1);
-  SendCommand(Program.hMainWnd, 2202);
+  CommandSend(Command::OpenLaunch);
   EXPECT_TRUE(FaultWasMet());
   FaultClear();
   EXPECT_TRUE(BoxesShown().empty());

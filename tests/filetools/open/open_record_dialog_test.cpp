@@ -2,6 +2,7 @@
 // SetGrpOpnFileRecDlg puts it into a group.
 #include "filetools/open/open_groups.h"
 #include "services/dialog_family.h"
+#include "services/dialog_numbers.h"
 #include "tests/filetools/open/open_fixture.h"
 
 namespace {
@@ -12,7 +13,7 @@ TEST_F(OpenDialogTest, TheRecordIsShownInItsColumns) {
   In(IDC_OPN_SHOW_RECORD, [] {
     ThenExpect([] {
       EXPECT_EQ(TemplateOf(TopDialog()), IDD_DspListOpnFileRecDlg);
-      EXPECT_EQ(Dialogs.DlgIdTool, 2029);
+      EXPECT_EQ(Dialogs.DlgIdTool, ToolDialog::DspListOpnFileRecDlg);
       EXPECT_EQ(RowsOf(IDC_OPN_RECORD),
                 Rows{"表紙.txt" + std::string(28, ' ') + "関連プログラム" + std::string(56, ' ')});
     });
@@ -54,7 +55,7 @@ TEST_F(RecordToGroupTest, TheRecordGoesIntoTheChosenGroupWithItsComment) {
   In(IDC_OPN_RECORD_TO_GROUP, [] {
     ThenExpect([] {
       EXPECT_EQ(TemplateOf(TopDialog()), IDD_SetGrpOpnFileRecDlg);
-      EXPECT_EQ(Dialogs.DlgIdTool, 2030);
+      EXPECT_EQ(Dialogs.DlgIdTool, ToolDialog::SetGrpOpnFileRecDlg);
       EXPECT_EQ(RowsOf(IDC_OPN_RECORD).size(), 2U);
       EXPECT_EQ(RowsOf(IDC_OPN_RECORD)[0].substr(0, 3), "r1 ");
       ChooseRow(TopDialog(), IDC_OPN_GROUP, 1);

@@ -7,7 +7,9 @@
 #include "platform/dialog.h"
 #include "platform/posix/faults.h"
 #include "resources/ids.h"
+#include "services/commands.h"
 #include "services/dialog_family.h"
+#include "services/dialog_numbers.h"
 #include "services/folder_list.h"
 #include "shell/panel.h"
 #include "tests/filetools/scope/scope_dialog_fixture.h"
@@ -19,14 +21,14 @@ namespace {
 TEST_F(FolderScopeDialogTest, TheCommandOpensTheScopeInItsFamilyAndTakesItsMarksBack) {
   Panel.MenuPanelState = 400;
   Then([] {
-    EXPECT_EQ(Dialogs.DlgIdTool, 2009);
+    EXPECT_EQ(Dialogs.DlgIdTool, ToolDialog::FolderScopeSetDlg);
     EXPECT_EQ(Panel.FuncNo, 6);
     EXPECT_EQ(Dialogs.hToolDlg, TopDialog());
     EXPECT_EQ(WindowText(TopDialog()), "フォルダースコープ");
     Press(TopDialog(), 3);
   });
   FolderScopeCommand();
-  EXPECT_EQ(Dialogs.DlgIdTool, 0);
+  EXPECT_EQ(Dialogs.DlgIdTool, ToolDialog::None);
   EXPECT_EQ(Panel.FuncNo, 0);
   EXPECT_EQ(Panel.MenuPanelState, 0);
   EXPECT_EQ(Dialogs.hToolDlg, nullptr);
@@ -110,8 +112,8 @@ TEST_F(FolderScopeDialogTest, BothStatisticsOpenOverTheScopeAndGoBackToIt) {
   Then([] {
     EXPECT_EQ(TemplateOf(TopDialog()), IDD_FolderStaticsDlg);
     EXPECT_EQ(WindowText(TopDialog()), "フォルダー統計 円グラフ");
-    EXPECT_EQ(Dialogs.DlgIdMenu, 2003);
-    EXPECT_EQ(Dialogs.DlgIdTool, 2009);
+    EXPECT_EQ(Dialogs.DlgIdMenu, MenuDialog::FolderStaticsDlg);
+    EXPECT_EQ(Dialogs.DlgIdTool, ToolDialog::FolderScopeSetDlg);
     EXPECT_EQ(Dialogs.hMenuDlg, TopDialog());
     EXPECT_EQ(Stepped.progressMode, 0);
     EXPECT_EQ(ControlText(TopDialog(), IDC_STATICS_FOLDER), "C:\\data\\photos");
@@ -129,12 +131,12 @@ TEST_F(FolderScopeDialogTest, BothStatisticsOpenOverTheScopeAndGoBackToIt) {
   Then([] {
     EXPECT_EQ(TemplateOf(TopDialog()), IDD_FolderStaticsDlg2);
     EXPECT_EQ(WindowText(TopDialog()), "フォルダー統計 棒グラフ");
-    EXPECT_EQ(Dialogs.DlgIdMenu, 2003);
+    EXPECT_EQ(Dialogs.DlgIdMenu, MenuDialog::FolderStaticsDlg);
     EXPECT_EQ(ControlText(TopDialog(), IDC_STATICS_FOLDER), "C:\\data\\photos");
     SendClose(TopDialog());
   });
   Then([] {
-    EXPECT_EQ(Dialogs.DlgIdMenu, 0);
+    EXPECT_EQ(Dialogs.DlgIdMenu, MenuDialog::None);
     Press(TopDialog(), 3);
   });
   FolderScopeCommand();
@@ -146,7 +148,7 @@ TEST_F(FolderScopeDialogTest, StopInTheDriveSearchEndsTheStatistics) {
   MakeTree();
   Choose("C:\\data");
   Then([] {
-    SendCommand(Stepped.hSearchDlg, 2376);
+    CommandSendTo(Stepped.hSearchDlg, Command::WorkStep);
     EXPECT_EQ(DiagnosticsLive().searches, 1);
     Press(TopDialog(), 2);
   });
@@ -163,7 +165,7 @@ TEST_F(FolderScopeDialogTest, StopInTheFolderSearchEndsTheStatistics) {
   Choose("C:\\data");
   Then(TicksOfSearch);
   Then([] {
-    SendCommand(Stepped.hSearchDlg, 2376);
+    CommandSendTo(Stepped.hSearchDlg, Command::WorkStep);
     SendClose(TopDialog());
   });
   FolderStaticsDlgRun(nullptr);
@@ -194,7 +196,7 @@ TEST_F(FolderScopeDialogTest, AStepBehindTheEndOfASearchIsPassedOver) {
   Then([] {
     const WindowHandle dialog = Stepped.hSearchDlg;
     TicksOfSearch();
-    SendCommand(dialog, 2376);
+    CommandSendTo(dialog, Command::WorkStep);
     SendCommand(dialog, 2);
   });
   EXPECT_EQ(ScopeSearchRun(nullptr, 1), 1);
@@ -204,7 +206,7 @@ TEST_F(FolderScopeDialogTest, AStepBehindTheEndOfASearchIsPassedOver) {
 TEST_F(FolderScopeDialogTest, ASecondSearchWhileOneIsRunningIsRefused) {
   Choose("C:\\");
   Then([] {
-    SendCommand(Stepped.hSearchDlg, 2376);
+    CommandSendTo(Stepped.hSearchDlg, Command::WorkStep);
     EXPECT_EQ(ScopeSearchRun(nullptr, 2), -1);
     EXPECT_EQ(Stepped.progressMode, 1);
     TicksOfSearch();

@@ -16,6 +16,7 @@
 #include "platform/memory.h"
 #include "platform/posix/posix_paths.h"
 #include "platform/window.h"
+#include "services/commands.h"
 #include "services/drawing_objects.h"
 #include "services/screen_figures.h"
 #include "services/text.h"
@@ -133,7 +134,7 @@ class ScopeFixture : public DesktopTest {
   static void TicksOfSearch() {
     while (Stepped.hSearchDlg) {
       ASSERT_TRUE(Stepped.progressMode == 1 || Stepped.progressMode == 2);
-      SendCommand(Stepped.hSearchDlg, 2376);
+      CommandSendTo(Stepped.hSearchDlg, Command::WorkStep);
     }
   }
 };

@@ -14,6 +14,7 @@
 #include "platform/window.h"
 #include "resources/ids.h"
 #include "services/dialog_family.h"
+#include "services/dialog_numbers.h"
 #include "shell/panel.h"
 #include "tests/support/desktop.h"
 
@@ -422,7 +423,7 @@ TEST_F(DesktopTidyTest, TheDormantRunPutsItemsIntoFoldersByKind) {
 
 TEST_F(DesktopTidyTest, TheCommandOpensTheDialogInItsFamilyAndTakesItsMarksBack) {
   Then([] {
-    EXPECT_EQ(Dialogs.DlgIdTool, 2013);
+    EXPECT_EQ(Dialogs.DlgIdTool, ToolDialog::FileDesktopClrDlg);
     EXPECT_EQ(Panel.FuncNo, 12);
     EXPECT_EQ(Dialogs.hToolDlg, TopDialog());
     EXPECT_EQ(WindowText(TopDialog()), "デスクトップの整理");
@@ -431,7 +432,7 @@ TEST_F(DesktopTidyTest, TheCommandOpensTheDialogInItsFamilyAndTakesItsMarksBack)
     Press(TopDialog(), 2);
   });
   DesktopTidyCommand();
-  EXPECT_EQ(Dialogs.DlgIdTool, 0);
+  EXPECT_EQ(Dialogs.DlgIdTool, ToolDialog::None);
   EXPECT_EQ(Panel.FuncNo, 0);
   EXPECT_EQ(Dialogs.hToolDlg, nullptr);
 }
@@ -507,7 +508,7 @@ TEST_F(DesktopTidyTest, TheOtherControlsHaveNoFunction) {
 
 TEST_F(DesktopTidyTest, OfTheCoverDialogOnlyTheLastButtonWorks) {
   Then([] {
-    EXPECT_EQ(Dialogs.DlgIdMenu, 2006);
+    EXPECT_EQ(Dialogs.DlgIdMenu, MenuDialog::DesktopIconSetDlg);
     EXPECT_EQ(Panel.FuncNo, 15);
     EXPECT_EQ(WindowText(TopDialog()), "デスクトップ カバー設定");
     Press(TopDialog(), IDC_COVER_PUT);
@@ -518,7 +519,7 @@ TEST_F(DesktopTidyTest, OfTheCoverDialogOnlyTheLastButtonWorks) {
   });
   DesktopCoverCommand();
   EXPECT_EQ(Dialogs.hMenuDlg, nullptr);
-  EXPECT_EQ(Dialogs.DlgIdMenu, 0);
+  EXPECT_EQ(Dialogs.DlgIdMenu, MenuDialog::None);
   EXPECT_EQ(Panel.FuncNo, 0);
 }
 

@@ -1,5 +1,3 @@
-#include "shell/commands.h"
-
 #include <algorithm>
 #include <iterator>
 
@@ -13,29 +11,30 @@
 #include "mail_music/mail_music_commands.h"
 #include "scenario/scenario_commands.h"
 #include "schedule/schedule_commands.h"
+#include "shell/shell_commands.h"
 
 namespace {
 
 // A handler serves one number, or several and is told which.
 struct Route {
-  constexpr Route(std::uint32_t n, void (*handler)()) : number(n), one(handler) {}
-  constexpr Route(std::uint32_t n, void (*handler)(std::uint32_t)) : number(n), several(handler) {}
-  void Run() const { one ? one() : several(number); }
+  constexpr Route(Command c, void (*handler)()) : command(c), one(handler) {}
+  constexpr Route(Command c, void (*handler)(Command)) : command(c), several(handler) {}
+  void Run() const { one ? one() : several(command); }
 
-  std::uint32_t number;
+  Command command;
   void (*one)() = nullptr;
-  void (*several)(std::uint32_t) = nullptr;
+  void (*several)(Command) = nullptr;
 };
 
-#define COMMAND(number, name, function) {number, function},
+#define COMMAND(number, name, shownName, function) {Command::name, function},
 constexpr Route kRoutes[] = {
-#include "shell/command_table.inc"
+#include "services/command_table.inc"
 };
 #undef COMMAND
 
 constexpr bool NumbersRise() {
   for (std::size_t i = 1; i < std::size(kRoutes); ++i) {
-    if (kRoutes[i - 1].number >= kRoutes[i].number) return false;
+    if (kRoutes[i - 1].command >= kRoutes[i].command) return false;
   }
   return true;
 }
@@ -44,10 +43,11 @@ static_assert(NumbersRise(), "the command table is searched by halves");
 }  // namespace
 
 bool CommandRoute(std::uint32_t number) {
+  const auto command = static_cast<Command>(number);
   const Route* end = std::end(kRoutes);
-  const Route* route = std::lower_bound(std::begin(kRoutes), end, number,
-                                        [](const Route& r, std::uint32_t n) { return r.number < n; });
-  if (route == end || route->number != number) return false;
+  const Route* route = std::lower_bound(std::begin(kRoutes), end, command,
+                                        [](const Route& r, Command c) { return r.command < c; });
+  if (route == end || route->command != command) return false;
   route->Run();
   return true;
 }

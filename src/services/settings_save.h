@@ -1,0 +1,7 @@
+// Saving the settings, for whoever has changed one. The shell, which knows the file,
+// defines it.
+#pragma once
+
+// Replaces the settings file. Returns 0, or -1 with FileStatus -1 (cannot be created)
+// or -2 (short write; the old file is gone by then).
+int SysFileWrite();
