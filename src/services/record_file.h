@@ -1,0 +1,65 @@
+// Records and tables of them, read from and written to data files: services/record.h
+// tells how they lie there, services/data_file.h how a file goes on after a short
+// transfer.
+#pragma once
+
+#include "services/record.h"
+#include "shell/data_file.h"
+
+// Reads up to `size` bytes in one transfer. Returns how many came; fewer than asked
+// for make the file fail.
+int RecordBytesRead(DataFile& data, unsigned char* to, int size);
+
+// Bytes of one transfer of a table.
+inline constexpr int kRecordTransfer = 16384;
+template <class T>
+inline constexpr int kRecordBatch = std::max(1, kRecordTransfer / RecordSize<T>());
+
+// Reads a record in one transfer. False when the file is too short: the fields before
+// the cut have been taken then, those behind it are as they were.
+template <class T>
+bool RecordRead(DataFile& data, T& record) {
+  unsigned char image[RecordSize<T>()];
+  const int size = RecordBytesRead(data, image, RecordSize<T>());
+  return RecordTake(record, image, size);
+}
+
+// Writes a record in one transfer; bytes that no field owns are 0.
+template <class T>
+bool RecordWrite(DataFile& data, const T& record) {
+  unsigned char image[RecordSize<T>()] = {};
+  RecordPut(record, image, RecordSize<T>());
+  return DataWrite(data, image, RecordSize<T>());
+}
+
+// The same for `count` records one behind the other, as many in a transfer as a batch
+// holds.
+template <class T>
+bool RecordsRead(DataFile& data, T* records, int count) {
+  unsigned char image[kRecordBatch<T> * RecordSize<T>()];
+  for (int done = 0; done < count && !data.failed; done += kRecordBatch<T>) {
+    const int batch = std::min(kRecordBatch<T>, count - done);
+    RecordReader io(image, RecordBytesRead(data, image, batch * RecordSize<T>()));
+    for (int i = 0; i < batch && !io.Failed(); ++i) io.Record(records[done + i]);
+  }
+  return !data.failed;
+}
+template <class T>
+bool RecordsWrite(DataFile& data, const T* records, int count) {
+  for (int done = 0; done < count && !data.failed; done += kRecordBatch<T>) {
+    const int batch = std::min(kRecordBatch<T>, count - done);
+    unsigned char image[kRecordBatch<T> * RecordSize<T>()] = {};
+    RecordWriter io(image, batch * RecordSize<T>());
+    for (int i = 0; i < batch; ++i) io.Record(const_cast<T&>(records[done + i]));
+    DataWrite(data, image, batch * RecordSize<T>());
+  }
+  return !data.failed;
+}
+template <class T, std::size_t N>
+bool RecordsRead(DataFile& data, T (&table)[N]) {
+  return RecordsRead(data, table, static_cast<int>(N));
+}
+template <class T, std::size_t N>
+bool RecordsWrite(DataFile& data, const T (&table)[N]) {
+  return RecordsWrite(data, table, static_cast<int>(N));
+}
