@@ -1,0 +1,71 @@
+#include "character/chara_records.h"
+
+#include "tests/support/record_check.h"
+
+TEST(CharaRecords, LieAsTold) {
+  RecordCheck<CharaSetRecord>();
+  RecordCheck<MainChara>();
+  RecordCheck<ClockDesignRecord>();
+}
+
+TEST(CharaRecords, CharaSetHasItsFieldsInTheirPlaces) {
+  EXPECT_EQ(RecordOffset<&CharaSetRecord::charaNo>(), 0);
+  EXPECT_EQ(RecordOffset<&CharaSetRecord::motionA>(), 2);
+  EXPECT_EQ(RecordOffset<&CharaSetRecord::motionB>(), 22);
+  EXPECT_EQ(RecordOffset<&CharaSetRecord::motionC>(), 42);
+  EXPECT_EQ(RecordOffset<&CharaSetRecord::motionD>(), 50);
+  EXPECT_EQ(RecordOffset<&CharaSetRecord::motionE>(), 54);
+  EXPECT_EQ(RecordOffset<&CharaSetRecord::motionF>(), 64);
+  EXPECT_EQ(RecordOffset<&CharaSetRecord::motionG>(), 164);
+  EXPECT_EQ(RecordOffset<&CharaSetRecord::motionH>(), 264);
+  EXPECT_EQ(RecordOffset<&CharaSetRecord::motionI>(), 304);
+  EXPECT_EQ(RecordOffset<&CharaSetRecord::walkRow>(), 324);
+  EXPECT_EQ(RecordOffset<&CharaSetRecord::walkUse>(), 344);
+  EXPECT_EQ(RecordOffset<&CharaSetRecord::walkStartX>(), 354);
+  EXPECT_EQ(RecordOffset<&CharaSetRecord::walkStartY>(), 374);
+  EXPECT_EQ(RecordOffset<&CharaSetRecord::walkStepX>(), 396);
+  EXPECT_EQ(RecordOffset<&CharaSetRecord::walkStepY>(), 436);
+  EXPECT_EQ(RecordOffset<&CharaSetRecord::walkPeriod>(), 476);
+  EXPECT_EQ(RecordOffset<&CharaSetRecord::walkCount>(), 496);
+  EXPECT_EQ(RecordOffset<&CharaSetRecord::walkFrames>(), 516);
+  EXPECT_EQ(RecordOffset<&CharaSetRecord::endFrames>(), 566);
+  EXPECT_EQ(RecordOffset<&CharaSetRecord::endWait>(), 616);
+  EXPECT_EQ(RecordOffset<&CharaSetRecord::walkStartPoint>(), 636);
+}
+
+// Its number is big-endian and keeps 16 bits; inside CharaSet the low byte is first.
+TEST(CharaRecords, AMainCharacterHasBothOrders) {
+  std::string bytes(740, '\0');
+  bytes.replace(0, 8, std::string("\xFF\x01\x02\x03\x00\x00\x00\x04", 8));
+  bytes.replace(64, 2, std::string("\x05\x06", 2));
+  bytes.replace(64 + 396, 4, "\xFE\xFF\xFF\xFF");
+  MainChara chara{};
+  ASSERT_TRUE(RecordTake(chara, bytes.data(), 740));
+  EXPECT_EQ(chara.charaNo, 0x0203);
+  EXPECT_EQ(chara.menuFrame, 4);
+  EXPECT_EQ(chara.charaSet.charaNo, 0x0605);
+  EXPECT_EQ(chara.charaSet.walkStepX[0], -2);
+  EXPECT_EQ(RecordOffset<&MainChara::blinkFrame>(), 8);
+  EXPECT_EQ(RecordOffset<&MainChara::bored1Frames>(), 12);
+  EXPECT_EQ(RecordOffset<&MainChara::bored2Frames>(), 32);
+  EXPECT_EQ(RecordOffset<&MainChara::boredDelaySel>(), 52);
+  EXPECT_EQ(RecordOffset<&MainChara::boredSpeedSel>(), 56);
+  EXPECT_EQ(RecordOffset<&MainChara::boredRepeatSel>(), 60);
+}
+
+TEST(CharaRecords, AClockDesignHasItsFieldsInTheirPlaces) {
+  EXPECT_EQ(RecordOffset<&ClockDesignRecord::hand>(), 0);
+  EXPECT_EQ(RecordOffset<&ClockDesignRecord::repeat>(), 1);
+  EXPECT_EQ(RecordOffset<&ClockDesignRecord::strikeMode>(), 2);
+  EXPECT_EQ(RecordOffset<&ClockDesignRecord::soundOn>(), 3);
+  EXPECT_EQ(RecordOffset<&ClockDesignRecord::hourLength>(), 4);
+  EXPECT_EQ(RecordOffset<&ClockDesignRecord::minuteLength>(), 6);
+  EXPECT_EQ(RecordOffset<&ClockDesignRecord::centreX>(), 8);
+  EXPECT_EQ(RecordOffset<&ClockDesignRecord::centreY>(), 10);
+  EXPECT_EQ(RecordOffset<&ClockDesignRecord::handColour>(), 12);
+  EXPECT_EQ(RecordOffset<&ClockDesignRecord::faceColour>(), 15);
+  EXPECT_EQ(RecordOffset<&ClockDesignRecord::strikeDelay>(), 18);
+  EXPECT_EQ(RecordOffset<&ClockDesignRecord::hourFigures>(), 32);
+  EXPECT_EQ(RecordOffset<&ClockDesignRecord::sound>(), 124);
+  EXPECT_EQ(RecordOffset<&ClockDesignRecord::name>(), 380);
+}
