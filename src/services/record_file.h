@@ -4,7 +4,7 @@
 #pragma once
 
 #include "services/record.h"
-#include "shell/data_file.h"
+#include "services/data_file.h"
 
 // Reads up to `size` bytes in one transfer. Returns how many came; fewer than asked
 // for make the file fail.

@@ -1,4 +1,4 @@
-#include "schedule/application_records.h"
+#include "schedule/applications/application_records.h"
 
 #include "tests/support/record_check.h"
 
