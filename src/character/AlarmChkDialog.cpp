@@ -2,7 +2,7 @@
 
 #include "character/alarm_images.h"
 #include "character/options.h"
-#include "resources/ids.h"
+#include "resources/character_ids.h"
 #include "services/dialog_family.h"
 #include "services/five_ticks.h"
 

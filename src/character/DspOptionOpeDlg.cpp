@@ -6,7 +6,7 @@
 #include "character/options.h"
 #include "platform/canvas.h"
 #include "platform/window.h"
-#include "resources/ids.h"
+#include "resources/character_ids.h"
 #include "services/dialog_family.h"
 #include "services/dib.h"
 #include "services/painting.h"

@@ -1,7 +1,7 @@
 // The motions of a main character, each behind a button.
 
 #include "character/options.h"
-#include "resources/ids.h"
+#include "resources/character_ids.h"
 #include "services/dialog_family.h"
 
 namespace {

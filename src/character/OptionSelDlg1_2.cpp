@@ -11,7 +11,7 @@
 #include "platform/canvas.h"
 #include "platform/dialog.h"
 #include "platform/window.h"
-#include "resources/ids.h"
+#include "resources/character_ids.h"
 #include "services/commands.h"
 #include "services/dialog_family.h"
 #include "services/dib.h"

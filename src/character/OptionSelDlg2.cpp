@@ -8,7 +8,7 @@
 #include "character/options.h"
 #include "platform/dialog.h"
 #include "platform/window.h"
-#include "resources/ids.h"
+#include "resources/character_ids.h"
 #include "services/commands.h"
 #include "services/dialog_family.h"
 #include "services/feature_dialog.h"

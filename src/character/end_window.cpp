@@ -7,7 +7,7 @@
 #include "platform/canvas.h"
 #include "platform/dialog.h"
 #include "platform/window.h"
-#include "resources/ids.h"
+#include "resources/character_ids.h"
 #include "services/dib.h"
 #include "services/program.h"
 #include "shell/panel.h"

@@ -4,7 +4,7 @@
 
 #include "platform/dialog.h"
 #include "platform/window.h"
-#include "resources/ids.h"
+#include "resources/services_ids.h"
 #include "services/extension_filter.h"
 #include "services/folder_list.h"
 #include "services/path.h"

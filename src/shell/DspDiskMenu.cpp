@@ -8,7 +8,7 @@
 #include "platform/canvas.h"
 #include "platform/dialog.h"
 #include "platform/window.h"
-#include "resources/ids.h"
+#include "resources/shell_ids.h"
 #include "schedule/table/table_scroll.h"
 #include "services/commands.h"
 #include "services/drawing_objects.h"

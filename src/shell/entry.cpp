@@ -2,7 +2,7 @@
 
 #include "platform/dialog.h"
 #include "platform/window.h"
-#include "resources/ids.h"
+#include "resources/program_ids.h"
 #include "services/text.h"
 #include "shell/main_window.h"
 

@@ -4,6 +4,7 @@
 #include "character/character.h"
 #include "character/character_tables.h"
 #include "character/walk.h"
+#include "resources/character_ids.h"
 #include "services/random.h"
 #include "tests/character/walk_fixture.h"
 

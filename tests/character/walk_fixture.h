@@ -12,7 +12,6 @@
 #include "filetools/open/open_state.h"
 #include "mail_music/mail/mail.h"
 #include "mail_music/mail/mail_setting.h"
-#include "resources/ids.h"
 #include "tests/character/stage_fixture.h"
 
 class WalkFixture : public StageFixture {

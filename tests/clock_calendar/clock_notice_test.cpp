@@ -7,7 +7,7 @@
 #include "clock_calendar/clock/clock.h"
 #include "clock_calendar/clock/performance.h"
 #include "platform/posix/faults.h"
-#include "resources/ids.h"
+#include "resources/clock_calendar_ids.h"
 #include "services/commands.h"
 #include "tests/character/notices_fixture.h"
 

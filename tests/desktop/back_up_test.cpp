@@ -3,7 +3,7 @@
 
 #include <cstring>
 
-#include "resources/ids.h"
+#include "resources/filetools_ids.h"
 #include "services/file_picker.h"
 #include "tests/desktop/companion.h"
 #include "tests/desktop/dialogs.h"

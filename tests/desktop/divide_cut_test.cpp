@@ -1,7 +1,7 @@
 // A restore from a joining file that ends too early, through the real dialogs.
 #include <gtest/gtest.h>
 
-#include "resources/ids.h"
+#include "resources/filetools_ids.h"
 #include "tests/desktop/dialogs.h"
 #include "tests/desktop/divide_fixture.h"
 

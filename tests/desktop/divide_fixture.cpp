@@ -1,6 +1,6 @@
 #include "tests/desktop/divide_fixture.h"
 
-#include "resources/ids.h"
+#include "resources/filetools_ids.h"
 #include "services/file_picker.h"
 #include "tests/desktop/dialogs.h"
 

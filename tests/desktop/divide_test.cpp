@@ -2,7 +2,7 @@
 // is what the format says.
 #include <gtest/gtest.h>
 
-#include "resources/ids.h"
+#include "resources/filetools_ids.h"
 #include "tests/desktop/dialogs.h"
 #include "tests/desktop/divide_fixture.h"
 

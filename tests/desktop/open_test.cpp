@@ -8,7 +8,7 @@
 #include <cstdlib>
 #include <cstring>
 
-#include "resources/ids.h"
+#include "resources/filetools_ids.h"
 #include "tests/desktop/companion.h"
 
 namespace {

@@ -1,7 +1,7 @@
 // The folder scope of the real program on a tree of known sizes.
 #include <gtest/gtest.h>
 
-#include "resources/ids.h"
+#include "resources/filetools_ids.h"
 #include "tests/desktop/companion.h"
 #include "tests/desktop/dialogs.h"
 

@@ -4,7 +4,7 @@
 
 #include <algorithm>
 
-#include "resources/ids.h"
+#include "resources/filetools_ids.h"
 #include "tests/desktop/companion.h"
 #include "tests/desktop/dialogs.h"
 

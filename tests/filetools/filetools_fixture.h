@@ -13,7 +13,7 @@
 #include "platform/headless/headless.h"
 #include "platform/posix/faults.h"
 #include "platform/window.h"
-#include "resources/ids.h"
+#include "resources/program_ids.h"
 #include "services/commands.h"
 #include "services/data_file.h"
 #include "services/dialog_family.h"

@@ -7,7 +7,8 @@
 #include <vector>
 
 #include "platform/headless/resource_file.h"
-#include "resources/ids.h"
+#include "resources/filetools_ids.h"
+#include "resources/mail_music_ids.h"
 
 namespace {
 

@@ -1,6 +1,9 @@
 #include <tuple>
 // Commands from outside that would open the dialog of a feature over the one of
 // another.
+#include "resources/character_ids.h"
+#include "resources/filetools_ids.h"
+#include "resources/shell_ids.h"
 #include "services/dialog_family.h"
 #include "services/program.h"
 #include "shell/panel.h"

@@ -3,6 +3,7 @@
 #include "filetools/scope/folder_scope.h"
 #include "filetools/scope/scope_dialogs.h"
 #include "filetools/stepped_work.h"
+#include "resources/filetools_ids.h"
 #include "services/commands.h"
 #include "services/drawing_objects.h"
 #include "services/program.h"

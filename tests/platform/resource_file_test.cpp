@@ -7,7 +7,7 @@
 #include <iterator>
 #include <random>
 
-#include "resources/ids.h"
+#include "resources/character_ids.h"
 #include "tests/support/test_dialogs.h"
 
 namespace {

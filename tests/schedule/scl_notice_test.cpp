@@ -6,7 +6,7 @@
 #include "character/alarm_images.h"
 #include "clock_calendar/clock/clock_notice.h"
 #include "platform/posix/faults.h"
-#include "resources/ids.h"
+#include "resources/schedule_ids.h"
 #include "services/drawing_objects.h"
 #include "services/five_ticks.h"
 #include "tests/character/notices_fixture.h"

@@ -15,7 +15,7 @@
 #include "platform/posix/faults.h"
 #include "platform/posix/posix_paths.h"
 #include "platform/window.h"
-#include "resources/ids.h"
+#include "resources/services_ids.h"
 #include "tests/support/desktop.h"
 
 namespace {

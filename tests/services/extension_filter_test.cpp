@@ -9,7 +9,7 @@
 #include "platform/dialog.h"
 #include "platform/headless/headless.h"
 #include "platform/window.h"
-#include "resources/ids.h"
+#include "resources/services_ids.h"
 #include "tests/services/folders.h"
 #include "tests/support/desktop.h"
 

@@ -2,7 +2,7 @@
 #include "services/file_picker.h"
 
 #include "platform/posix/faults.h"
-#include "resources/ids.h"
+#include "resources/services_ids.h"
 #include "services/data_file.h"
 #include "tests/services/picker_fixture.h"
 

@@ -2,7 +2,7 @@
 #include <unistd.h>
 
 #include "platform/posix/posix_paths.h"
-#include "resources/ids.h"
+#include "resources/filetools_ids.h"
 #include "services/file_picker.h"
 #include "services/folder_pick.h"
 #include "services/path.h"

@@ -1,7 +1,7 @@
 #include "services/folder_pick.h"
 
 #include "platform/posix/faults.h"
-#include "resources/ids.h"
+#include "resources/filetools_ids.h"
 #include "services/dialog_family.h"
 #include "services/dialog_numbers.h"
 #include "tests/services/picker_fixture.h"

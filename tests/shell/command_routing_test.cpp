@@ -4,7 +4,7 @@
 #include <set>
 
 #include "platform/headless/resource_file.h"
-#include "resources/ids.h"
+#include "resources/shell_ids.h"
 #include "services/program.h"
 #include "shell/panel.h"
 #include "shell/shell_commands.h"

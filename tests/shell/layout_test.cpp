@@ -11,7 +11,7 @@
 #include "platform/posix/faults.h"
 #include "platform/posix/test_clock.h"
 #include "platform/window.h"
-#include "resources/ids.h"
+#include "resources/shell_ids.h"
 #include "services/dialog_family.h"
 #include "services/dialog_numbers.h"
 #include "services/program.h"

@@ -2,7 +2,7 @@
 #include "character/character.h"
 #include "character/motion.h"
 #include "platform/dialog.h"
-#include "resources/ids.h"
+#include "resources/schedule_ids.h"
 #include "services/commands.h"
 #include "services/program.h"
 #include "shell/panel.h"

@@ -1,6 +1,6 @@
 // The tool menu panel's levels: their rows, their drawing, the pointer and the keyboard.
 #include "character/motion.h"
-#include "resources/ids.h"
+#include "resources/shell_ids.h"
 #include "services/drawing_objects.h"
 #include "shell/panel.h"
 #include "tests/shell/panel_fixture.h"

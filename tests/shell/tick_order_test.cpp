@@ -18,7 +18,7 @@
 #include "mail_music/mail/mail.h"
 #include "platform/dialog.h"
 #include "platform/window.h"
-#include "resources/ids.h"
+#include "resources/schedule_ids.h"
 #include "schedule/execution/scl_notice.h"
 #include "schedule/table/table_scroll.h"
 #include "services/dialog_family.h"

@@ -18,7 +18,7 @@
 #include "mail_music/mail/mail.h"
 #include "mail_music/music/music.h"
 #include "platform/window.h"
-#include "resources/ids.h"
+#include "resources/program_ids.h"
 #include "schedule/applications/application_list.h"
 #include "schedule/execution/scl_notice.h"
 #include "schedule/table/table_scroll.h"

@@ -12,7 +12,7 @@
 #include "platform/canvas.h"
 #include "platform/dialog.h"
 #include "platform/window.h"
-#include "resources/ids.h"
+#include "resources/clock_calendar_ids.h"
 #include "services/commands.h"
 #include "services/painting.h"
 #include "services/program.h"

@@ -4,7 +4,7 @@
 #include "filetools/back_up/back_up.h"
 #include "filetools/back_up/back_up_dialogs.h"
 #include "platform/dialog.h"
-#include "resources/ids.h"
+#include "resources/filetools_ids.h"
 #include "services/dialog_family.h"
 
 namespace {

@@ -6,7 +6,7 @@
 #include "filetools/path_row.h"
 #include "platform/dialog.h"
 #include "platform/window.h"
-#include "resources/ids.h"
+#include "resources/filetools_ids.h"
 #include "services/boxes.h"
 #include "services/commands.h"
 #include "services/dialog_family.h"

@@ -2,7 +2,7 @@
 
 #include "filetools/back_up/back_up.h"
 #include "filetools/back_up/back_up_dialogs.h"
-#include "resources/ids.h"
+#include "resources/filetools_ids.h"
 #include "services/boxes.h"
 #include "services/data_file.h"
 #include "services/dialog_family.h"

@@ -5,7 +5,7 @@
 #include "filetools/divide/divide_dialogs.h"
 #include "filetools/divide/file_divide.h"
 #include "platform/dialog.h"
-#include "resources/ids.h"
+#include "resources/filetools_ids.h"
 #include "services/boxes.h"
 #include "services/dialog_family.h"
 #include "services/text.h"

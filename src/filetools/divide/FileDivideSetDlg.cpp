@@ -2,7 +2,7 @@
 
 #include "filetools/divide/divide_commands.h"
 #include "filetools/divide/divide_dialogs.h"
-#include "resources/ids.h"
+#include "resources/filetools_ids.h"
 #include "services/commands.h"
 #include "services/dialog_family.h"
 #include "services/program.h"

@@ -7,7 +7,7 @@
 #include "platform/canvas.h"
 #include "platform/dialog.h"
 #include "platform/window.h"
-#include "resources/ids.h"
+#include "resources/filetools_ids.h"
 #include "services/commands.h"
 #include "services/decimal.h"
 #include "services/dialog_family.h"

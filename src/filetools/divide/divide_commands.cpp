@@ -4,7 +4,7 @@
 #include "filetools/divide/file_divide.h"
 #include "filetools/stepped_work.h"
 #include "platform/window.h"
-#include "resources/ids.h"
+#include "resources/filetools_ids.h"
 #include "services/boxes.h"
 #include "services/commands.h"
 #include "services/data_file.h"

@@ -2,7 +2,7 @@
 
 #include "filetools/open/open_controls.h"
 #include "filetools/open/open_dialogs.h"
-#include "resources/ids.h"
+#include "resources/filetools_ids.h"
 #include "services/dialog_family.h"
 
 namespace {

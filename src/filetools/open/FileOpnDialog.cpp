@@ -8,7 +8,7 @@
 #include "filetools/open/open_record.h"
 #include "platform/dialog.h"
 #include "platform/window.h"
-#include "resources/ids.h"
+#include "resources/filetools_ids.h"
 #include "services/boxes.h"
 #include "services/commands.h"
 #include "services/data_file.h"

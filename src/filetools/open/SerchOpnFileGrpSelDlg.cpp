@@ -3,7 +3,7 @@
 #include "filetools/open/open_dialogs.h"
 #include "filetools/open/open_search.h"
 #include "platform/dialog.h"
-#include "resources/ids.h"
+#include "resources/filetools_ids.h"
 #include "services/dialog_family.h"
 
 namespace {

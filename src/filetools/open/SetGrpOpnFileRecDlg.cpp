@@ -4,7 +4,7 @@
 #include "filetools/open/open_dialogs.h"
 #include "filetools/open/open_groups.h"
 #include "platform/dialog.h"
-#include "resources/ids.h"
+#include "resources/filetools_ids.h"
 #include "services/boxes.h"
 #include "services/dialog_family.h"
 #include "services/text.h"

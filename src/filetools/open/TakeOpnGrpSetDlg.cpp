@@ -5,7 +5,7 @@
 #include "filetools/open/open_dialogs.h"
 #include "filetools/open/open_search.h"
 #include "platform/dialog.h"
-#include "resources/ids.h"
+#include "resources/filetools_ids.h"
 #include "services/boxes.h"
 #include "services/dialog_family.h"
 

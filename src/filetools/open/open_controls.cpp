@@ -5,7 +5,7 @@
 #include "filetools/open/open_record.h"
 #include "filetools/open/open_text.h"
 #include "platform/dialog.h"
-#include "resources/ids.h"
+#include "resources/filetools_ids.h"
 #include "services/text.h"
 
 void OpnRowAdd(WindowHandle dialog, int list, const char* name, const char* folder) {

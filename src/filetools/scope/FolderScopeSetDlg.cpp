@@ -6,7 +6,7 @@
 #include "filetools/scope/scope_dialogs.h"
 #include "platform/dialog.h"
 #include "platform/window.h"
-#include "resources/ids.h"
+#include "resources/filetools_ids.h"
 #include "services/dialog_family.h"
 #include "services/extension_filter.h"
 #include "services/feature_dialog.h"

@@ -5,7 +5,7 @@
 #include "filetools/scope/scope_dialogs.h"
 #include "filetools/scope/scope_pie.h"
 #include "filetools/scope/scope_unit.h"
-#include "resources/ids.h"
+#include "resources/filetools_ids.h"
 #include "services/dialog_family.h"
 #include "services/drawing_objects.h"
 #include "services/text.h"

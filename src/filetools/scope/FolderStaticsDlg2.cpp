@@ -9,7 +9,7 @@
 #include "filetools/scope/scope_unit.h"
 #include "platform/dialog.h"
 #include "platform/window.h"
-#include "resources/ids.h"
+#include "resources/filetools_ids.h"
 #include "services/dialog_family.h"
 #include "services/drawing_objects.h"
 #include "services/scroll_set.h"

@@ -6,7 +6,7 @@
 #include "filetools/scope/scope_dialogs.h"
 #include "filetools/stepped_work.h"
 #include "platform/dialog.h"
-#include "resources/ids.h"
+#include "resources/filetools_ids.h"
 #include "services/commands.h"
 
 namespace {

@@ -7,7 +7,7 @@
 #include "filetools/scope/scope_pie.h"
 #include "platform/dialog.h"
 #include "platform/window.h"
-#include "resources/ids.h"
+#include "resources/filetools_ids.h"
 #include "services/drawing_objects.h"
 #include "services/painting.h"
 #include "services/text.h"

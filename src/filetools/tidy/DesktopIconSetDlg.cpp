@@ -2,7 +2,7 @@
 // stays empty and only " 終了" works.
 
 #include "filetools/tidy/tidy_commands.h"
-#include "resources/ids.h"
+#include "resources/filetools_ids.h"
 #include "services/dialog_family.h"
 #include "services/feature_dialog.h"
 #include "services/program.h"

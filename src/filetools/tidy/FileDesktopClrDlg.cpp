@@ -5,7 +5,7 @@
 #include "filetools/tidy/desktop_tidy.h"
 #include "filetools/tidy/tidy_commands.h"
 #include "platform/dialog.h"
-#include "resources/ids.h"
+#include "resources/filetools_ids.h"
 #include "services/dialog_family.h"
 #include "services/feature_dialog.h"
 #include "services/program.h"

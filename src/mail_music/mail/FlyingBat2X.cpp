@@ -9,7 +9,7 @@
 #include "platform/canvas.h"
 #include "platform/dialog.h"
 #include "platform/window.h"
-#include "resources/ids.h"
+#include "resources/mail_music_ids.h"
 #include "services/dib.h"
 #include "services/five_ticks.h"
 #include "services/program.h"

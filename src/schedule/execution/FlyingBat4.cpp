@@ -8,7 +8,7 @@
 #include "platform/dialog.h"
 #include "platform/time.h"
 #include "platform/window.h"
-#include "resources/ids.h"
+#include "resources/schedule_ids.h"
 #include "schedule/execution/scl_notice.h"
 #include "services/commands.h"
 #include "services/five_ticks.h"

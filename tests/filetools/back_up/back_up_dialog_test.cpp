@@ -1,6 +1,7 @@
 #include "filetools/back_up/back_up.h"
 #include "platform/file.h"
 #include "platform/time.h"
+#include "resources/filetools_ids.h"
 #include "services/commands.h"
 #include "services/data_file.h"
 #include "services/dialog_family.h"

@@ -1,5 +1,6 @@
 // FileDivideSetDlg, the choice, and FileDivideSetDlg2, a division, with its progress.
 #include "filetools/stepped_work.h"
+#include "resources/filetools_ids.h"
 #include "services/commands.h"
 #include "services/data_file.h"
 #include "services/dialog_family.h"

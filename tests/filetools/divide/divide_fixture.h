@@ -11,6 +11,7 @@
 #include "services/program.h"
 #include "tests/filetools/divide/divide_draws.h"
 #include "tests/filetools/filetools_fixture.h"
+#include "resources/filetools_ids.h"
 
 class DivideFixture : public FileToolsTest {
  protected:

@@ -1,4 +1,5 @@
 // FileDivKeyWordDlg: the keyword of a division.
+#include "resources/filetools_ids.h"
 #include "services/dialog_family.h"
 #include "services/dialog_numbers.h"
 #include "tests/filetools/divide/divide_fixture.h"

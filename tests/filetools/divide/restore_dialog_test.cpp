@@ -2,6 +2,7 @@
 #include <cstring>
 
 #include "filetools/stepped_work.h"
+#include "resources/filetools_ids.h"
 #include "services/dialog_family.h"
 #include "services/dialog_numbers.h"
 #include "tests/filetools/divide/divide_fixture.h"

@@ -1,5 +1,6 @@
 // FileOpnGrpSetDlg, which files belong to which group.
 #include "filetools/open/open_groups.h"
+#include "resources/filetools_ids.h"
 #include "services/commands.h"
 #include "services/dialog_family.h"
 #include "services/dialog_numbers.h"

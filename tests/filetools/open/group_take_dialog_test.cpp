@@ -1,6 +1,7 @@
 // TakeOpnGrpSetDlg: a group is looked for, called and opened.
 #include "character/walk.h"
 #include "filetools/open/open_groups.h"
+#include "resources/filetools_ids.h"
 #include "services/dialog_family.h"
 #include "services/dialog_numbers.h"
 #include "tests/filetools/open/open_fixture.h"

@@ -1,4 +1,5 @@
 // DelListOpnFileHisDlg: files are taken out of the history.
+#include "resources/filetools_ids.h"
 #include "services/dialog_family.h"
 #include "services/dialog_numbers.h"
 #include "tests/filetools/open/open_fixture.h"

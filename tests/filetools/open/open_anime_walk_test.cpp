@@ -2,6 +2,7 @@
 // short is still opened.
 #include "character/character.h"
 #include "character/walk.h"
+#include "resources/filetools_ids.h"
 #include "services/commands.h"
 #include "services/program.h"
 #include "tests/filetools/open/open_fixture.h"

@@ -1,5 +1,6 @@
 // FileOpnDialog, driven by a user.
 #include "character/walk.h"
+#include "resources/filetools_ids.h"
 #include "services/commands.h"
 #include "services/data_file.h"
 #include "services/dialog_family.h"

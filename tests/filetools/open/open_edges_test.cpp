@@ -1,5 +1,6 @@
 // Full groups and a group file that is not there, met through the dialogs.
 #include "filetools/open/open_groups.h"
+#include "resources/filetools_ids.h"
 #include "tests/filetools/open/open_fixture.h"
 
 namespace {

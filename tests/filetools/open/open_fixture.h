@@ -23,7 +23,6 @@
 #include "mail_music/mail/mail_setting.h"
 #include "platform/posix/faults.h"
 #include "platform/window.h"
-#include "resources/ids.h"
 #include "services/commands.h"
 #include "services/data_file.h"
 #include "services/dialog_family.h"

@@ -1,6 +1,7 @@
 // The open record: DspListOpnFileRecDlg shows it, FileOpnDialog clears it, and
 // SetGrpOpnFileRecDlg puts it into a group.
 #include "filetools/open/open_groups.h"
+#include "resources/filetools_ids.h"
 #include "services/dialog_family.h"
 #include "services/dialog_numbers.h"
 #include "tests/filetools/open/open_fixture.h"

@@ -6,7 +6,7 @@
 #include "filetools/stepped_work.h"
 #include "platform/dialog.h"
 #include "platform/posix/faults.h"
-#include "resources/ids.h"
+#include "resources/filetools_ids.h"
 #include "services/commands.h"
 #include "services/dialog_family.h"
 #include "services/dialog_numbers.h"

@@ -8,7 +8,7 @@
 #include "filetools/stepped_work.h"
 #include "platform/headless/headless.h"
 #include "platform/posix/faults.h"
-#include "resources/ids.h"
+#include "resources/filetools_ids.h"
 #include "services/dialog_family.h"
 #include "tests/filetools/scope/scope_fixture.h"
 

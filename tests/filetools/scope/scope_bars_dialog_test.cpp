@@ -1,7 +1,7 @@
 // FolderStaticsDlg2: the entries of a folder as bars, and their scrolling.
 #include "filetools/scope/folder_scope.h"
 #include "platform/dialog.h"
-#include "resources/ids.h"
+#include "resources/filetools_ids.h"
 #include "tests/filetools/scope/scope_dialog_fixture.h"
 
 namespace {

@@ -12,7 +12,7 @@
 #include "platform/posix/faults.h"
 #include "platform/posix/posix_paths.h"
 #include "platform/window.h"
-#include "resources/ids.h"
+#include "resources/filetools_ids.h"
 #include "services/dialog_family.h"
 #include "services/dialog_numbers.h"
 #include "shell/panel.h"

@@ -1,42 +1,9 @@
-/* Numbers of all resources: one list for the .rc files and the code.
-   Dialog templates are IDD_ and the template's name. */
-#ifndef MIRRELL_RESOURCES_IDS_H
-#define MIRRELL_RESOURCES_IDS_H
+/* File tools: 3500 on.
+   Numbers of the resources, for the .rc files and the code; a dialog template is IDD_
+   and its name. */
+#ifndef MIRRELL_RESOURCES_FILETOOLS_IDS_H
+#define MIRRELL_RESOURCES_FILETOOLS_IDS_H
 
-/* Numbers that are fixed by the process entry. */
-#define IDS_TITLE 103
-#define IDI_MAIN 107
-#define IDI_SMALL 108
-#define IDR_MAIN 109 /* class name string, class menu and accelerators */
-
-/* Popup menus. */
-#define IDM_SCHEDULE_LINE 2038
-#define IDM_CALENDAR_DAY 2280
-#define IDM_CLOCK 2338
-
-/* Shell: 3000 on. */
-#define IDD_DspDiskMenu 3000
-#define IDD_FileSelectForLoadDlg 3001
-#define IDD_FileSelectForSaveDlg 3002
-
-/* Character: 3100 on. */
-#define IDD_FlyingBat1 3100
-#define IDD_FlyingBat2 3101
-#define IDD_FlyingBat2X 3102
-#define IDD_FlyingBat3 3103
-#define IDD_FlyingBat4 3104
-#define IDD_FlyingBat5 3105
-#define IDD_FlyingBat6 3106
-#define IDD_OptionSelDlg1 3110
-#define IDD_OptionSelDlg1_1 3111
-#define IDD_OptionSelDlg1_1_2 3112
-#define IDD_OptionSelDlg1_2 3113
-#define IDD_OptionSelDlg2 3114
-#define IDD_OptionSelDlg3 3115
-#define IDD_DspOptionOpeDlg 3116
-#define IDD_AlarmChkDialog 3117
-
-/* File tools: 3500 on. */
 #define IDD_FileOpnDialog 3500
 #define IDD_FileOpnGrpSetDlg 3501
 #define IDD_TakeOpnGrpSetDlg 3502
@@ -46,7 +13,6 @@
 #define IDD_DelListOpnFileHisDlg 3506
 #define IDD_DspListOpnFileHisDlg 3507
 #define IDD_SetOpnFileAnimeDlg 3508
-#define IDD_SetMailAnimeDlg 3509
 /* Controls of the dialogs that open files. */
 #define IDC_OPN_FILE 101
 #define IDC_OPN_PROGRAM 102
