@@ -7,6 +7,8 @@
 #include <iterator>
 #include <sstream>
 
+#include "tests/support/house_rules.h"
+
 namespace fs = std::filesystem;
 
 namespace {
@@ -39,9 +41,10 @@ bool SeparatesDigits(const std::string& text, std::size_t at) {
   return !prefix || (at > 1 && IsWord(text[at - 2]));
 }
 
-// The text with comments and the insides of literals blanked, line by line the
-// same length; names in #include stay.
-std::string CodeOnly(const std::string& text) {
+}  // namespace
+
+// Line by line the same length; names in #include stay.
+std::string SourceCodeOnly(const std::string& text) {
   std::string code = text;
   enum class In { Code, Line, Block, Text, Letter } in = In::Code;
   bool include = false;
@@ -91,6 +94,8 @@ std::string CodeOnly(const std::string& text) {
   return code;
 }
 
+namespace {
+
 constexpr const char* kForbiddenCalls[] = {"strcpy", "strcat", "sprintf", "vsprintf",
                                            "gets",   "system", "strtok",  "popen"};
 
@@ -122,7 +127,7 @@ std::string IncludedBy(const std::string& line, char* bracket) {
 
 std::vector<std::string> LintSource(const std::string& path, const std::string& text) {
   std::vector<std::string> findings;
-  std::istringstream lines(CodeOnly(text));
+  std::istringstream lines(SourceCodeOnly(text));
   std::string line;
   for (int number = 1; std::getline(lines, line); ++number) {
     const auto find = [&](const std::string& what) {
