@@ -1,9 +1,9 @@
 // FolderStaticsDlg, "フォルダー統計 円グラフ": the drive and the chosen folder as
 // pies, each with a key below and leader lines beside.
 
-#include "filetools/scope/folder_scope.h"
 #include "filetools/scope/scope_dialogs.h"
 #include "filetools/scope/scope_pie.h"
+#include "filetools/scope/scope_state.h"
 #include "filetools/scope/scope_unit.h"
 #include "resources/filetools_ids.h"
 #include "services/dialog_family.h"
@@ -113,13 +113,13 @@ void Draw(Canvas* canvas, const Rect& area) {
              drive.valueFrac, ScopeUnitText(drive.unit));
   // kept: the sizes of the left key stand at 228 of the window, those of the right
   // one 228 from their key.
-  DrawColumn(canvas, {ScopePieDrive, kDriveLeaders, x0, y0, kSizeX}, "対 ルートドライブ 容量比", amount);
-  if (ScopePieFolder.count == 0) return;
+  DrawColumn(canvas, {Scope.drivePie, kDriveLeaders, x0, y0, kSizeX}, "対 ルートドライブ 容量比", amount);
+  if (Scope.folderPie.count == 0) return;
   const ScopeAmount folder = ScopeUnit(Scope.chosenTotal);
   TextFormat(amount, sizeof amount, "フォルダー容量:%d.%d %s", folder.valueInt, folder.valueFrac,
              ScopeUnitText(folder.unit));
   const int rightX = x0 + kRight;
-  DrawColumn(canvas, {ScopePieFolder, kFolderLeaders, rightX, y0, rightX - kKeyLeft + kSizeX},
+  DrawColumn(canvas, {Scope.folderPie, kFolderLeaders, rightX, y0, rightX - kKeyLeft + kSizeX},
              "指定フォルダー内容量比", amount);
 }
 

@@ -11,6 +11,7 @@
 #include "filetools/scope/folder_scope.h"
 #include "filetools/scope/scope_bars.h"
 #include "filetools/scope/scope_pie.h"
+#include "filetools/scope/scope_tables.h"
 #include "filetools/stepped_work.h"
 #include "platform/file.h"
 #include "platform/memory.h"
@@ -65,25 +66,10 @@ class ScopeFixture : public DesktopTest {
     Drawing.FaceBrush = BrushFace();
     Screen.CharWidth = 8;
     PosixDiskSpaceSet(8388608, 1048576);
-    ScopeStepReset();
-    Scope.scopeFolder[0] = '\0';
-    Scope.scopeFolderCount = 0;
-    Scope.scopeDriveCount = 0;
-    Scope.firstLevelIndex = -1;
-    Scope.folderIndex = -1;
-    Scope.folderTotal = 0;
-    Scope.driveTotal = 0;
-    Scope.driveFree = 0;
-    Scope.firstLevelTotal = 1;
-    Scope.chosenTotal = 0;
-    Scope.areaTotal = 0;
-    Scope.scopeOverflow = false;
-    Scope.scopeBarChart = false;
-    ScopePieDrive.count = 0;
-    ScopePieFolder.count = 0;
+    ScopeReset();
   }
   void TearDown() override {
-    ScopeStepReset();
+    ScopeReset();
     PosixDiskSpaceSet(0, 0);
     for (BrushHandle& brush : Drawing.Brushes) {
       BrushDelete(brush);
@@ -125,7 +111,7 @@ class ScopeFixture : public DesktopTest {
   static std::vector<std::string> Ranked(ScopeArea area, int count) {
     std::vector<std::string> names;
     for (int rank = 0; rank < count; ++rank) {
-      names.emplace_back(ScopeEntryGet(area, ScopeOrder(area, rank)).name);
+      names.emplace_back(ScopeEntryGet(area, ScopeOrder(area, rank, count)).name);
     }
     return names;
   }
