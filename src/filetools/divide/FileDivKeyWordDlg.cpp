@@ -3,7 +3,7 @@
 #include <cstring>
 
 #include "filetools/divide/divide_dialogs.h"
-#include "filetools/divide/file_divide.h"
+#include "filetools/divide/divide_state.h"
 #include "platform/dialog.h"
 #include "resources/filetools_ids.h"
 #include "services/boxes.h"

@@ -2,7 +2,7 @@
 
 #include "filetools/divide/divide_commands.h"
 #include "filetools/divide/divide_dialogs.h"
-#include "filetools/divide/file_divide.h"
+#include "filetools/divide/divide_state.h"
 #include "filetools/path_row.h"
 #include "platform/canvas.h"
 #include "platform/dialog.h"

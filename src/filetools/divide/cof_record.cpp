@@ -3,7 +3,7 @@
 #include <cstring>
 
 #include "filetools/divide/div_scramble.h"
-#include "filetools/divide/file_divide.h"
+#include "filetools/divide/divide_state.h"
 #include "platform/file.h"
 #include "services/big_endian.h"
 #include "services/path.h"

@@ -1,6 +1,6 @@
 #include "filetools/divide/div_key_block.h"
 
-#include "filetools/divide/file_divide.h"
+#include "filetools/divide/divide_state.h"
 #include "services/random.h"
 
 namespace {

@@ -11,14 +11,7 @@
 #include "services/path.h"
 #include "services/text.h"
 
-FileDivideState FileDivide;
-
 namespace {
-
-// Bodies go by blocks of 5000 bytes as far as anyone can tell from a run that
-// failed, and for speed by many of them at once, which are whole pages of memory.
-constexpr std::int32_t kBlock = 5000;
-constexpr std::int32_t kTransfer = 512 * kBlock;
 
 // Room for <storeDir>\<baseName><number>.<extension>, both full.
 constexpr int kPathSize = 640;
@@ -33,14 +26,8 @@ void CloseFile(int& file) {
   file = kNoFile;
 }
 
-void CloseAll() {
-  CloseFile(FileDivide.pieceFile);
-  CloseFile(FileDivide.cofFile);
-  CloseFile(FileDivide.sourceFile);
-}
-
 int FailClosed(int status) {
-  CloseAll();
+  DivideFilesClose();
   return Fail(status);
 }
 
@@ -60,7 +47,7 @@ void BeginRun() {
   FileResult.FileStatus = 0;
   // A run that ended by a short source, or whose dialog was closed by OK, has
   // left files open until now.
-  CloseAll();
+  DivideFilesClose();
   FileDivide.bodyTableCursor = 0;
   FileDivide.recordTableCursor = 0;
   std::memset(FileDivide.numberUsed, 0, sizeof FileDivide.numberUsed);
@@ -80,12 +67,12 @@ using Cipher = std::int32_t (*)(std::int32_t, std::int32_t, const std::uint8_t*,
 // Moves a piece's bytes. When the source ends early, the whole blocks that did
 // arrive have been written. A negative size moves nothing.
 Copied CopyBody(int from, int to, std::int32_t size, Cipher cipher) {
-  static std::uint8_t buffer[kTransfer];
+  std::uint8_t* buffer = DivideTransfer.bytes;
   FileDivide.bodyKeyPos = 0;
   for (std::int32_t left = size; left > 0;) {
-    const std::int32_t want = std::min(left, kTransfer);
+    const std::int32_t want = std::min(left, kDivTransfer);
     const std::int32_t got = FileRead(from, buffer, want);
-    const std::int32_t whole = got == want ? want : std::max(got, 0) / kBlock * kBlock;
+    const std::int32_t whole = got == want ? want : std::max(got, 0) / kDivBlock * kDivBlock;
     FileDivide.bodyKeyPos = cipher(FileDivide.bodyKeyPos, whole, buffer, buffer, FileDivide.bodyTableCursor);
     if (whole > 0 && FileWrite(to, buffer, whole) != whole) return Copied::ShortWrite;
     if (got != want) return Copied::ShortRead;

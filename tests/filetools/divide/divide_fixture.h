@@ -17,7 +17,7 @@ class DivideFixture : public FileToolsTest {
  protected:
   void SetUp() override {
     FileToolsTest::SetUp();
-    FileDivide = FileDivideState{};
+    FileDivideReset();
     MakeFolder(kPieces);
     MakeFolder(kRestored);
   }
