@@ -4,17 +4,21 @@
 
 #include "platform/dialog.h"
 #include "platform/file.h"
+#include "services/state.h"
 #include "services/text.h"
 
 TidyState Tidy;
 
 namespace {
 
-constexpr char kDefaultName[] = "整理用フォルダー";
-
 // Goes to a folder, which is made if it is not there. False if that fails too.
+// settled: a folder that was made becomes the current one like one that was there, so
+// that the folder of an earlier run is free to be moved.
 bool EnsureFolder(const char* path) {
-  return FolderSetCurrent(path) || FolderCreate(path);
+  if (FolderSetCurrent(path)) return true;
+  if (!FolderCreate(path)) return false;
+  FolderSetCurrent(path);
+  return true;
 }
 
 BoxAnswer Ask(WindowHandle owner, const char* format, const char* name, const char* caption) {
@@ -44,7 +48,7 @@ bool MoveItem(const char* name) {
 }  // namespace
 
 void TidyReset() {
-  TextCopy(Tidy.tidyFolderName, sizeof Tidy.tidyFolderName, kDefaultName);
+  StateReset(Tidy);
 }
 
 bool TidyNthItem(int n, char (&name)[260]) {
@@ -68,7 +72,9 @@ bool TidyNthItem(int n, char (&name)[260]) {
 int TidyRun(WindowHandle owner) {
   Tidy.desktopPath[0] = '\0';
   if (!FolderDesktop(Tidy.desktopPath, kTidyPathSize - kTidyNameSize - 1)) Tidy.desktopPath[0] = '\0';
-  if (Tidy.tidyFolderName[0] == '\0') TidyReset();
+  if (Tidy.tidyFolderName[0] == '\0') {
+    TextCopy(Tidy.tidyFolderName, sizeof Tidy.tidyFolderName, TidyState{}.tidyFolderName);
+  }
   // Without a desktop there is nothing to find, and no place for the folder.
   if (Tidy.desktopPath[0] == '\0') return 0;
   TextFormat(Tidy.tidyBasePath, sizeof Tidy.tidyBasePath, "%s\\%s", Tidy.desktopPath, Tidy.tidyFolderName);
