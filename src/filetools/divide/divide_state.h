@@ -12,16 +12,20 @@ inline constexpr int kDivTableSize = 160;
 inline constexpr int kDivNumberCount = 100;  // piece numbers that are shuffled
 inline constexpr int kDivCountMax = 200;
 
-// Bodies go by blocks of 5000 bytes as far as anyone can tell from a run that
+// settled: pieces go by blocks of 5,000 bytes as far as anyone can tell from a run that
 // failed, and for speed by many of them at once, which are whole pages of memory.
 inline constexpr std::int32_t kDivBlock = 5000;
 inline constexpr std::int32_t kDivTransfer = 512 * kDivBlock;
 
 struct FileDivideState {
-  char sourcePath[600];      // the file to divide, or the joining file of a restore
-  std::uint32_t sourceSize;  // taken when the file was picked, and not again
+  char sourcePath[600];  // the file to divide, or the joining file of a restore
+  // kept: the size of the file to divide is taken when it is picked, and not again when the
+  // run begins.
+  std::uint32_t sourceSize;
   std::int32_t divideCount;  // as typed
-  std::uint8_t encryptFlag;  // 0 or 1; a restore leaves the joining file's byte here
+  // kept: a restore leaves the first byte of its joining file in the check box of the divide
+  // dialog.
+  std::uint8_t encryptFlag;
   char keyword[kDivKeywordMax + 1];
   std::int32_t keywordLength;  // 0: none set
   char storeDir[300];          // takes the pieces, or the rebuilt file

@@ -20,8 +20,11 @@
 // Size of a file, low 32 bits; 0 if it cannot be opened.
 std::uint32_t DivFileSize(const char* path);
 
-// Bytes in the piece of that 0-based index. Negative for a source of 2 GiB and
-// more, see there.
+// True if the chosen source is of 2 GiB or more, as it was picked or as it is now; such a
+// source is not divided.
+bool DivSourceTooLarge();
+
+// Bytes in the piece of that 0-based index.
 std::int32_t DivPieceSize(std::int32_t index);
 
 // The number in the name of the piece of that ordinal (from 1).

@@ -85,7 +85,7 @@ void Open(WindowHandle dialog) {
 }
 
 void ScrollRows(const Event& event) {
-  // kept: the last position is the number of entries less 2, not the last page.
+  // kept: the bars scroll to the number of entries less 2, not to the last page.
   const int last = std::max(Scope.scopeFolderCount - 2, 0);
   int to = Scope.firstBar;
   switch (event.scroll) {

@@ -28,8 +28,8 @@ float TotalBelow(const char* folder, const char* name) {
 }
 
 // `path` has kWalkPathSize bytes and is as it was when the call returns, but for
-// what stands behind `length`. bounded: a path longer than the buffer is not
-// followed.
+// what stands behind `length`. kept: a folder that cannot be searched adds nothing to its
+// parent's size, and nobody is told. bounded: a path longer than 4,096 bytes is not followed.
 void Walk(char* path, std::size_t length) {
   constexpr char kEverything[] = "\\*.*";
   if (length + sizeof kEverything > kWalkPathSize) return;
@@ -38,11 +38,12 @@ void Walk(char* path, std::size_t length) {
   const SearchHandle search = SearchFirst(path, &entry);
   if (search == kNoSearch) return;
   do {
+    // kept: names that begin with a full stop count as nothing in the folder scope.
     if (entry.name[0] == '.') continue;
     if ((entry.attributes & kAttributeFolder) == 0) {
       ++Scope.walkedFiles;
-      // kept: single precision. A large tree loses its small files, and the
-      // figures on show depend on it.
+      // kept: sizes are summed in single precision; a large tree loses its small files, and
+      // the figures on show depend on it.
       Scope.areaTotal += ScopeFloat(Whole(entry.sizeHigh, entry.sizeLow));
       continue;
     }
@@ -56,6 +57,8 @@ void Walk(char* path, std::size_t length) {
   SearchClose(search);
 }
 
+// settled: a search that is stopped or meets its limit puts the current folder back too, as
+// its end does.
 void EndStep() {
   SearchClose(Scope.step.search);
   Scope.step.search = kNoSearch;
@@ -65,7 +68,8 @@ void EndStep() {
 
 bool FirstEntry(const char* folder, SearchEntry* entry) {
   FolderGetCurrent(Scope.step.back, sizeof Scope.step.back);
-  // A drive that is not there must not show what lies in the current folder.
+  // settled: a drive that is not there has no entries; it does not show those of the folder
+  // that is current.
   if (FolderSetCurrent(folder)) Scope.step.search = SearchFirst("*.*", entry);
   return Scope.step.search != kNoSearch;
 }
@@ -134,6 +138,7 @@ std::uint64_t ScopeBytes(float size) {
 }
 
 void ScopeSplitPath() {
+  // kept: the colon of a drive is looked for in the first 10 bytes of a path.
   const void* colon = std::memchr(Scope.scopeFolder, ':', TextLength(Scope.scopeFolder, kColonWithin));
   const std::size_t drive =
       colon ? static_cast<std::size_t>(static_cast<const char*>(colon) - Scope.scopeFolder) + 1 : 0;

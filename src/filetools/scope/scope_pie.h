@@ -4,8 +4,8 @@
 #include "filetools/scope/scope_state.h"
 #include "platform/types.h"
 
-// Makes the rows of a pie: at most `wanted` of entries (bounded: as many as the
-// table holds), then the computed ones. With a bar chart there is no geometry.
+// Makes the rows of a pie: at most `wanted` of entries, and as many as the table holds,
+// then the computed ones. With a bar chart there is no geometry.
 // The searches, their sorting and ScopeDiskSpace come before.
 void ScopeBuildPieDrive(int wanted, int cx, int cy, int radius);
 // Nothing to draw when the chosen folder is a drive root.

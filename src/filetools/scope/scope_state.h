@@ -62,16 +62,19 @@ struct ScopeState {
   int scopeFolderCount = 0;                  // entries of an area; negative: stopped or too many
   int scopeDriveCount = 0;
   int firstLevelIndex = -1;  // the path's first folder among the drive's entries, -1: not found
-  int folderIndex = -1;      // the chosen folder in its parent, -1: not found
-  float folderTotal = 0;     // sum of the chosen folder's entries
+  // kept: the chosen folder's place is counted among the entries of its parent, and tells
+  // no more than that it was found.
+  int folderIndex = -1;   // the chosen folder in its parent, -1: not found
+  float folderTotal = 0;  // sum of the chosen folder's entries
   float driveTotal = 0;
   float driveFree = 0;
   float firstLevelTotal = 1.0F;  // 1 until it is known
   float chosenTotal = 0;
   float areaTotal = 0;         // the running sum of ScopeFolderSize
-  bool scopeOverflow = false;  // a search has met the limit
+  bool scopeOverflow = false;  // kept: that a search has met its limit is noted for nobody
   bool scopeBarChart = false;  // the bars are being made, not the pies
-  int walkedFolders = 0;       // counted by every walk, and asked for by nobody
+  // kept: folders and files are counted on every walk, and nobody asks how many they were.
+  int walkedFolders = 0;
   int walkedFiles = 0;
   ScopeStepState step;
   ScopePie drivePie;

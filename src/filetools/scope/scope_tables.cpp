@@ -25,8 +25,8 @@ static_assert(offsetof(ScopeBlockTables, drive) == 2000000);
 static_assert(sizeof(ScopeBlockTables) <= kScopeBlockSize);
 
 // CastBlock as the folder scope has it.
-// kept: the scenario's cast records live in the same block, and a run of the statistics
-// overwrites those that stand where it puts its order of the entries.
+// kept: the scenario's cast records share the work blocks with the folder scope, and a run of
+// the statistics overwrites what stands there.
 struct CastBlockTables {
   std::int32_t folder[125000];
   std::int32_t drive[kScopeLimit];
@@ -63,7 +63,7 @@ void ScopeEntryPut(ScopeArea area, int number, const ScopeEntry& entry) {
 ScopeEntry ScopeEntryGet(ScopeArea area, int number) {
   const ScopeEntry* at = EntryAt(area, number);
   ScopeEntry entry = at ? *at : ScopeEntry{};
-  entry.name[kScopeNameSize - 1] = '\0';  // bounded: in a shared block a name may lack its end
+  entry.name[kScopeNameSize - 1] = '\0';  // bounded: in a shared work block a name may lack its end
   return entry;
 }
 
@@ -74,7 +74,7 @@ std::uint64_t ScopeEntrySize(ScopeArea area, int number) {
 
 int ScopeOrder(ScopeArea area, int rank, int count) {
   const std::int32_t* at = rank < count ? OrderAt(area, rank) : nullptr;
-  // bounded: in a shared block a number of an entry may be anything.
+  // bounded: in a shared work block the number of an entry may be anything.
   return at && *at >= 0 && *at < kScopeLimit ? *at : -1;
 }
 

@@ -11,8 +11,8 @@ inline constexpr int kScopeNameSize = 256;
 // The chosen folder's entries, and those of the drive's first level.
 enum class ScopeArea { Folder, Drive };
 
-// One entry of an area. A folder's size is the total of all files below it. The times
-// are copied, low word first, and not used further.
+// One entry of an area. A folder's size is the total of all files below it.
+// kept: the times of an entry are copied, low word first, and not used further.
 struct ScopeEntry {
   std::uint32_t attributes = 0;
   std::uint32_t creationTime[2] = {};
