@@ -1,5 +1,5 @@
-// What the folder scope works on: a drive C: whose room is told, the two work
-// blocks, the shared drawing objects, and a hand that drives the searches.
+// What the folder scope works on: the program, started without data files, a drive C:
+// whose room is told, and a hand that drives the searches.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -22,7 +22,8 @@
 #include "services/screen_figures.h"
 #include "services/text.h"
 #include "services/work_blocks.h"
-#include "tests/support/desktop.h"
+#include "shell/tick.h"
+#include "tests/support/program.h"
 
 // A file of that many bytes, without a byte on the disk.
 inline void MakeSized(const std::string& path, std::uintmax_t size) {
@@ -56,31 +57,19 @@ inline std::vector<std::string> SearchOrder(const std::string& folder) {
   return names;
 }
 
-class ScopeFixture : public DesktopTest {
+class ScopeFixture : public ProgramTest {
  protected:
   void SetUp() override {
-    DesktopTest::SetUp();
-    WorkBlocks.CastBlock = static_cast<unsigned char*>(MemoryAllocate(kCastBlockSize));
-    WorkBlocks.ScopeBlock = static_cast<unsigned char*>(MemoryAllocate(kScopeBlockSize));
-    for (int i = 0; i < kBrushCount; ++i) Drawing.Brushes[i] = BrushCreate(kBrushColours[i]);
-    Drawing.FaceBrush = BrushFace();
-    Screen.CharWidth = 8;
-    PosixDiskSpaceSet(8388608, 1048576);
+    ProgramTest::SetUp();
     ScopeReset();
+    SteppedReset();
+    StartProgram();
+    PosixDiskSpaceSet(8388608, 1048576);
   }
   void TearDown() override {
     ScopeReset();
     PosixDiskSpaceSet(0, 0);
-    for (BrushHandle& brush : Drawing.Brushes) {
-      BrushDelete(brush);
-      brush = nullptr;
-    }
-    Drawing.FaceBrush = nullptr;
-    MemoryFree(WorkBlocks.CastBlock);
-    MemoryFree(WorkBlocks.ScopeBlock);
-    WorkBlocks.CastBlock = nullptr;
-    WorkBlocks.ScopeBlock = nullptr;
-    DesktopTest::TearDown();
+    ProgramTest::TearDown();
   }
 
   static void Choose(const std::string& folder) {
@@ -120,7 +109,7 @@ class ScopeFixture : public DesktopTest {
   static void TicksOfSearch() {
     while (Stepped.hSearchDlg) {
       ASSERT_TRUE(Stepped.progressMode == 1 || Stepped.progressMode == 2);
-      CommandSendTo(Stepped.hSearchDlg, Command::WorkStep);
+      MainTick();
     }
   }
 };
