@@ -26,8 +26,8 @@ struct BackUpSet {
   char comment[256];
   std::int8_t differs[kBackUpMax];  // last comparison by content: 0 or -3
   std::int32_t fileCursor;          // the next file of a run
-  // kept: the list was changed; nothing asks for it, and the back-up's dialog closes without
-  // a question.
+  // kept: a change of the back-up list is noted, but nothing asks for it, and the dialog
+  // closes without a question.
   bool dirty;
 };
 extern BackUpSet BackUp;

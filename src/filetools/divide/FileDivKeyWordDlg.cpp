@@ -57,7 +57,7 @@ bool Handle(const Event& event) {
     Accept(event.window);
     return true;
   }
-  // kept: Cancel leaves a keyword of an earlier run in force, and the restore goes on with it.
+  // kept: a restore whose keyword is cancelled goes on with the one of an earlier run.
   const bool cancelled =
       event.kind == EventKind::Close || (event.kind == EventKind::Command && event.command == 2);
   if (cancelled && Dividing()) Forget();

@@ -77,7 +77,7 @@ void Paint(WindowHandle dialog, const Kind& kind) {
   CanvasBackTransparent(canvas, true);
   if (kind.dialogId == MenuDialog::FileDivideSetDlg2) {
     DrawSize(canvas, kSourceSize, FileDivide.sourceSize);
-    // kept: the size of the pieces is that of the last division until a new one begins.
+    // kept: the size of the pieces on show is that of the last division until a new one begins.
     DrawSize(canvas, kPieceSize, FileDivide.pieceSize);
   }
   DrawBanner(canvas, kind.banner, kind.bannerBox);

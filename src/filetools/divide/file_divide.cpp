@@ -199,7 +199,9 @@ std::int32_t DivPieceSize(std::int32_t index) {
   // The sizes are compared as signed numbers.
   const auto total = static_cast<std::int32_t>(FileDivide.sourceSize);
   const auto nominal = static_cast<std::int32_t>(FileDivide.pieceSize);
-  if (total < nominal) return total;  // kept: a piece is never larger than its source
+  // kept: a source smaller than a piece gives its own size, though the size of a piece is the
+  // source's divided by their number.
+  if (total < nominal) return total;
   const auto rest = static_cast<std::int32_t>(FileDivide.sourceSize -
                                               static_cast<std::uint32_t>(index) * FileDivide.pieceSize);
   if (rest < nominal || index + 1 == FileDivide.pieceTotal) return rest;

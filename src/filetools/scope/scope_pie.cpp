@@ -102,8 +102,8 @@ void Place(ScopePie& pie) {
 
 // Where a slice crosses the vertical axis: with 6 o'clock inside it, or else 12 o'clock,
 // not as its begin or end.
-// settled: its angles decide. Its end points are whole pixels, and those of a slice that
-// begins or ends at the top lie on both sides of the axis.
+// settled: whether a slice crosses the vertical axis is decided by its angles; its end points
+// are whole pixels, and one that stands for the top may lie on either side.
 enum class Crossing { None, Below, Above };
 Crossing AxisCrossing(float begin, float end) {
   constexpr float kEdge = 0.0001F;  // less than a pixel of the rim, more than the sums' rounding
