@@ -74,14 +74,14 @@ void SetUp(bool scrambled) {
 
 void Divide(bool scrambled) {
   SetUp(scrambled);
-  Stepped.stepCounter = 1;
+  SteppedNext(1);
   while (Stepped.stepCounter != 0) Check(FileDivideStep() == 0, "dividing");
 }
 
 void Restore() {
   TextCopy(FileDivide.storeDir, sizeof FileDivide.storeDir, ProgramPath(room / "restored").c_str());
   const std::string cof = ProgramPath(room / "pieces" / "part0.cof");
-  Stepped.stepCounter = 1;
+  SteppedNext(1);
   while (Stepped.stepCounter != 0) Check(FileRestoreStep(cof.c_str()) == 0, "restoring");
 }
 

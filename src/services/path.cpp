@@ -22,6 +22,34 @@ int LastSeparator(const char* path) {
   return last;
 }
 
+char UpperCase(char letter) {
+  return letter >= 'a' && letter <= 'z' ? static_cast<char>(letter - 'a' + 'A') : letter;
+}
+
+bool BeginsWith(const char* name, const char* upper) {
+  while (*upper != '\0' && UpperCase(*name) == *upper) ++name, ++upper;
+  return *upper == '\0';
+}
+
+// True if the name is one that the system keeps for a device; a file of that name, with
+// whatever extension, is never made.
+bool IsDevice(const char* name) {
+  struct Device {
+    const char* name;
+    bool numbered;  // from 1 to 9
+  };
+  constexpr Device devices[] = {{"CON", false}, {"PRN", false}, {"AUX", false},
+                                {"NUL", false}, {"COM", true},  {"LPT", true}};
+  for (const Device& device : devices) {
+    if (!BeginsWith(name, device.name)) continue;
+    const char* rest = name + std::strlen(device.name);
+    if (device.numbered && (*rest < '1' || *rest++ > '9')) continue;
+    while (*rest == ' ') ++rest;
+    if (*rest == '\0' || *rest == '.') return true;
+  }
+  return false;
+}
+
 }  // namespace
 
 void PathSplit(const char* path) {
@@ -40,7 +68,7 @@ bool PathIsBareName(const char* name) {
     if (*at == '\\' || *at == '/' || *at == ':') return false;
     if (Cp932Leads(*at) && at[1] != '\0' && at[1] != '/' && at[1] != ':') ++at;
   }
-  return name[0] != '\0';
+  return name[0] != '\0' && !IsDevice(name);
 }
 
 int FileExists(const char* path) {

@@ -19,7 +19,7 @@ extern PathPartsState PathParts;
 void PathSplit(const char* path);
 
 // True if a name from a foreign file names a file of the folder it is put behind: it is
-// not empty and holds no backslash, slash or colon.
+// not empty, holds no backslash, slash or colon, and is no device's ("NUL", "com1.txt").
 bool PathIsBareName(const char* name);
 
 // 1 if the file can be opened for read and write, else 0. Clears FileStatus.

@@ -1,5 +1,4 @@
-// A desktop with a stage that routes the commands of the file tools, and with a
-// tick that drives their stepped work.
+// The program, started without data files, and a user of its file tools.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -22,24 +21,19 @@
 #include "services/folder_list.h"
 #include "services/program.h"
 #include "services/random.h"
-#include "services/screen_figures.h"
 #include "services/text.h"
-#include "shell/shell_commands.h"
-#include "tests/support/desktop.h"
+#include "shell/tick.h"
+#include "tests/support/program.h"
 
 using Rows = std::vector<std::string>;
 
-class FileToolsTest : public DesktopTest {
+class FileToolsTest : public ProgramTest {
  protected:
   void SetUp() override {
-    DesktopTest::SetUp();
-    Screen.CharWidth = 8;
+    ProgramTest::SetUp();
+    SteppedReset();
+    StartProgram();
     FileResult.FileStatus = 0;
-    Stepped.stepCounter = 0;
-    Stepped.progressMode = 0;
-    Program.hMainWnd =
-        MainWindowCreate({"stage", "stage", IDI_MAIN, IDI_SMALL, IDR_MAIN, Stage}, 0, 0, 120, 160);
-    ASSERT_NE(Program.hMainWnd, nullptr);
   }
 
   void TearDown() override {
@@ -51,23 +45,11 @@ class FileToolsTest : public DesktopTest {
     EXPECT_EQ(Dialogs.DlgIdTool, ToolDialog::None);
     EXPECT_EQ(Stepped.progressMode, 0);
     EXPECT_FALSE(BackUpRun.BackUpActive);
-    DesktopTest::TearDown();
-    Program.hMainWnd = nullptr;
+    ProgramTest::TearDown();
   }
 
-  static bool Stage(const Event& event) {
-    return event.kind == EventKind::Command && CommandRoute(event.command);
-  }
-
-  // One tick, as far as stepped work goes.
-  static void StepTick() {
-    if (BackUpRun.BackUpActive && BackUpRun.hBackUpDlg)
-      CommandSendTo(BackUpRun.hBackUpDlg, Command::BackUpStep);
-    if (Stepped.progressMode >= 1 && Stepped.progressMode <= 4 && Stepped.hSearchDlg)
-      CommandSendTo(Stepped.hSearchDlg, Command::WorkStep);
-  }
   static void ThenTicks(int count) {
-    for (int i = 0; i < count; ++i) Then(StepTick);
+    for (int i = 0; i < count; ++i) Then(MainTick);
   }
 
   static void ThenPress(int id) {

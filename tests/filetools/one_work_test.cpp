@@ -13,10 +13,6 @@ namespace {
 
 class OneWorkTest : public DivideFixture {
  protected:
-  void SetUp() override {
-    DivideFixture::SetUp();
-    Drawing.FaceBrush = BrushFace();
-  }
   // Runs a step while a folder search is up, then lets the user stop the search.
   static void DuringASearch(std::function<void()> step) {
     Set(Scope.scopeFolder, sizeof Scope.scopeFolder, "C:\\mirrell");
@@ -31,7 +27,7 @@ class OneWorkTest : public DivideFixture {
       EXPECT_EQ(Stepped.stepCounter, 0);
       Press(search, 2);
     });
-    EXPECT_EQ(ScopeSearchRun(Program.hMainWnd, 2), -1);
+    EXPECT_EQ(ScopeSearchRun(Program.hMainWnd, kStepFolderSearch), -1);
   }
 };
 
@@ -40,7 +36,7 @@ TEST_F(OneWorkTest, TheProgressOfADivisionDoesNotTakeTheTickFromASearch) {
   for (auto* run : {FileDivExeDlgRun, FileUnDivExeDlgRun}) {
     DuringASearch([run, files] {
       Prepare(Simple(10, 2));
-      Stepped.stepCounter = 1;
+      SteppedNext(1);
       ASSERT_EQ(FileDivideStep(), 0);
       run(Program.hMainWnd);
       EXPECT_EQ(DiagnosticsLive().files, files) << "the run is over, its files closed";

@@ -61,6 +61,17 @@ TEST_F(PathTest, ABareNameIsNotEmptyAndHoldsNoSeparator) {
   }
 }
 
+TEST_F(PathTest, ADevicesNameIsNoBareNameWhateverItsExtension) {
+  for (const char* name : {"NUL", "nul", "CON", "prn", "Aux", "COM1", "com9", "LPT1", "lpt9", "NUL.txt",
+                           "com1.tar.gz", "nul.", "NUL .txt", "aux  "}) {
+    EXPECT_FALSE(PathIsBareName(name)) << name;
+  }
+  for (const char* name :
+       {"NULL", "CO", "CON1", "aNUL", "COM", "COM0", "COM10", "LPTx", "a.NUL", "NU", "con-1"}) {
+    EXPECT_TRUE(PathIsBareName(name)) << name;
+  }
+}
+
 TEST_F(PathTest, HalfWidthKatakanaStandAlone) {
   // 0xB1 is a character of one byte: the backslash behind it separates.
   PathSplit("C:\\\xB1\\x");

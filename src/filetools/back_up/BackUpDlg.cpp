@@ -9,8 +9,6 @@
 
 namespace {
 
-bool completed;
-
 void End(WindowHandle dialog) {
   if (BackUpRun.hBackUpDlg != dialog) return;
   BackUpRun.BackUpActive = false;
@@ -21,8 +19,8 @@ void End(WindowHandle dialog) {
 void Step(WindowHandle dialog) {
   const int result = BackUpStep();
   if (result == 0) return;
-  completed = result > 0;
-  if (!completed) {
+  BackUpRun.completed = result > 0;
+  if (!BackUpRun.completed) {
     BoxTell(dialog, "ファイルをコピーできません", "ファイルバックアップエラー");
   }
   End(dialog);
@@ -36,6 +34,7 @@ bool Handle(const Event& event) {
   } else if (CommandIs(event, Command::BackUpStep)) {
     Step(event.window);
   } else if (EndIsAsked(event)) {
+    // kept: a back-up that is stopped ends without a word, and what was copied stays.
     End(event.window);
   } else {
     return false;
@@ -46,7 +45,7 @@ bool Handle(const Event& event) {
 }  // namespace
 
 bool BackUpDlgRun(WindowHandle owner) {
-  completed = false;
+  BackUpRun.completed = false;
   DialogRun(IDD_BackUpDlg, owner, Handle);
-  return completed;
+  return BackUpRun.completed;
 }

@@ -6,6 +6,8 @@
 #include "platform/time.h"
 #include "services/data_file.h"
 #include "services/path.h"
+#include "services/record_file.h"
+#include "services/state.h"
 #include "services/text.h"
 
 BackUpRunState BackUpRun;
@@ -15,11 +17,7 @@ BackUpSet BackUp;
 namespace {
 
 constexpr char kMagic[] = "File BackUp Setting DATA for MIRRELL HOME:   ";
-constexpr int kMagicSize = sizeof kMagic - 1;
-static_assert(kMagicSize == 45);
-static_assert(kMagicSize + 4 + sizeof BackUp.destDir + sizeof BackUp.destPath + sizeof BackUp.sourcePath +
-                  sizeof BackUp.comment ==
-              kBackUpFileSize);
+static_assert(sizeof kMagic - 1 == sizeof BackUpHead::magic);
 
 // Bytes of a path that are kept and compared.
 constexpr int kPathBytes = 512;
@@ -29,35 +27,24 @@ constexpr int kPartBytes = 256;
 constexpr int kNameBytes = 24;
 
 // True if the path begins with the row.
-// kept: a row counts as equal though the path goes on behind it, so that "a.txt" in the
-// list refuses "a.txt.bak".
+// kept: in the back-up list a source refuses every new path that begins with it, without a
+// word: "a.txt" refuses "a.txt.bak" in its folder.
 bool RowRefuses(const char* row, const char* path) {
   const std::size_t length = TextLength(row, kPathBytes);
   return std::strncmp(row, path, length) == 0;
 }
 
-// bounded: the fields of a foreign settings file may lack their terminators.
-void Terminate() {
-  for (int row = 0; row < BackUp.fileCount; ++row) {
-    BackUp.sourcePath[row][kBackUpPathSize - 1] = '\0';
-    BackUp.destPath[row][kBackUpPathSize - 1] = '\0';
-  }
-  BackUp.destDir[sizeof BackUp.destDir - 1] = '\0';
-  BackUp.comment[sizeof BackUp.comment - 1] = '\0';
-}
-
 // Reads into the tables as they come. False at a short read, at another magic
 // and at a count that the tables cannot hold.
+// kept: back-up settings that are cut short leave in the list what came before the cut.
+// settled: a count of sources that the table cannot hold makes the settings bad content,
+// and the list stays as it was.
 bool ReadFields(DataFile& data) {
-  char magic[kMagicSize];
-  std::int32_t count = 0;
-  if (!DataRead(data, magic, kMagicSize) || std::memcmp(magic, kMagic, kMagicSize) != 0) return false;
-  if (!DataReadBE32(data, count) || count < 0 || count > kBackUpMax) return false;
-  BackUp.fileCount = count;
-  DataRead(data, BackUp.destDir, sizeof BackUp.destDir);
-  DataRead(data, BackUp.destPath, sizeof BackUp.destPath);
-  DataRead(data, BackUp.sourcePath, sizeof BackUp.sourcePath);
-  return DataRead(data, BackUp.comment, sizeof BackUp.comment);
+  BackUpHead head;
+  if (!RecordRead(data, head) || std::memcmp(head.magic, kMagic, sizeof head.magic) != 0) return false;
+  if (head.fileCount < 0 || head.fileCount > kBackUpMax) return false;
+  BackUp.fileCount = head.fileCount;
+  return RecordRead(data, BackUp);
 }
 
 // Last-write time of a file; false if it cannot be opened.
@@ -71,6 +58,8 @@ bool WriteTime(const char* path, std::uint64_t* time) {
 
 // Both files are at their beginnings. Lengths need not be known beforehand: the
 // reads say them.
+// settled: files are compared in blocks of 65,536 bytes, which find what blocks of 10,000
+// bytes find.
 bool SameContent(int source, int copy) {
   constexpr int kBlock = 65536;
   unsigned char left[kBlock];
@@ -112,6 +101,11 @@ bool ComparisonRow(int row, char* text, int size) {
 
 }  // namespace
 
+void BackUpReset() {
+  StateReset(BackUp);
+  StateReset(BackUpRun);
+}
+
 bool BackUpIsFull() {
   return BackUp.fileCount >= kBackUpMax;
 }
@@ -148,6 +142,8 @@ void BackUpClearSources() {
   BackUp.dirty = true;
 }
 
+// kept: two sources of the same name get the same copy; the later one overwrites the
+// earlier one's, and nothing warns of it.
 void BackUpRebuildDest() {
   if (BackUp.fileCount == 0 || BackUp.destDir[0] == '\0') return;
   for (int row = 0; row < BackUp.fileCount; ++row) {
@@ -165,7 +161,6 @@ int BackUpLoad(const char* path) {
   if (!DataOpenRead(data, path, OpenMode::ReadDenyWrite)) return FileResult.FileStatus;
   if (!ReadFields(data)) FileResult.FileStatus = -2;
   DataClose(data);
-  Terminate();
   if (FileResult.FileStatus == 0) BackUp.dirty = false;
   return FileResult.FileStatus;
 }
@@ -174,16 +169,16 @@ int BackUpSave(const char* path) {
   FileResult.FileStatus = 0;
   DataFile data;
   if (!DataReplace(data, path)) return FileResult.FileStatus;
-  DataWrite(data, kMagic, kMagicSize);
-  DataWriteBE32(data, static_cast<std::uint32_t>(BackUp.fileCount));
-  DataWrite(data, BackUp.destDir, sizeof BackUp.destDir);
-  DataWrite(data, BackUp.destPath, sizeof BackUp.destPath);
-  DataWrite(data, BackUp.sourcePath, sizeof BackUp.sourcePath);
-  if (!DataWrite(data, BackUp.comment, sizeof BackUp.comment)) FileResult.FileStatus = -2;
+  BackUpHead head{{}, BackUp.fileCount};
+  std::memcpy(head.magic, kMagic, sizeof head.magic);
+  RecordWrite(data, head);
+  if (!RecordWrite(data, BackUp)) FileResult.FileStatus = -2;
   DataClose(data);
   return FileResult.FileStatus;
 }
 
+// kept: a back-up copies every file every time; no date is looked at, and a copy that is
+// there is overwritten.
 int BackUpStep() {
   if (BackUp.fileCursor < BackUp.fileCount) {
     if (FileCopy(BackUp.sourcePath[BackUp.fileCursor], BackUp.destPath[BackUp.fileCursor], false)) {
@@ -197,6 +192,8 @@ int BackUpStep() {
   return 1;
 }
 
+// kept: a missing copy is a difference for the comparison by date and an error for the one
+// by content.
 int BackUpCompareDate() {
   for (int row = 0; row < BackUp.fileCount; ++row) {
     std::uint64_t source = 0;

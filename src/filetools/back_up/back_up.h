@@ -1,31 +1,22 @@
 // The back-up: a list of source files, the folder they are copied to, and what
-// can be done with them. A settings file (*.BUP) keeps the list:
-//
-//   offset  size    content
-//        0  45      magic, no terminator
-//       45  4       fileCount, big-endian
-//       49  300     destDir
-//      349  60000   destPath, 100 fields of 600 bytes
-//    60349  60000   sourcePath, 100 fields of 600 bytes
-//   120349  256     comment
-//
-// All 100 fields of both tables are always there; those past fileCount hold
-// what stands in memory.
+// can be done with them. A settings file (*.BUP) keeps the list.
 #pragma once
 
 #include <cstdint>
 
 #include "platform/types.h"
+#include "services/record.h"
 
 struct BackUpRunState {
   WindowHandle hBackUpDlg = nullptr;  // BackUpDlg, the progress
   bool BackUpActive = false;          // a run copies a file a tick
+  bool completed = false;             // the run has copied all files
+  bool busy = false;                  // an action of the dialog is running
 };
 extern BackUpRunState BackUpRun;
 
 inline constexpr int kBackUpMax = 100;
 inline constexpr int kBackUpPathSize = 600;
-inline constexpr int kBackUpFileSize = 120605;
 
 struct BackUpSet {
   std::int32_t fileCount;  // 0 to 100
@@ -35,9 +26,50 @@ struct BackUpSet {
   char comment[256];
   std::int8_t differs[kBackUpMax];  // last comparison by content: 0 or -3
   std::int32_t fileCursor;          // the next file of a run
-  bool dirty;                       // the list was changed; nothing asks for it
+  // kept: a change of the back-up list is noted, but nothing asks for it, and the dialog
+  // closes without a question.
+  bool dirty;
 };
 extern BackUpSet BackUp;
+
+// The settings file, 120605 bytes: a head of 49
+//
+// offset  size  field
+//      0    45  magic, no terminator
+//     45     4  fileCount, big-endian
+struct BackUpHead {
+  char magic[45];
+  std::int32_t fileCount;
+};
+
+template <class Io>
+constexpr void Fields(Io& io, BackUpHead& head) {
+  io.Bytes(head.magic);
+  io.BE32(head.fileCount);
+}
+static_assert(RecordSize<BackUpHead>() == 49);
+
+// and behind it, of BackUp, 120556
+//
+// offset   size  field
+//      0    300  destDir
+//    300  60000  destPath, 100 of 600
+//  60300  60000  sourcePath, 100 of 600
+// 120300    256  comment
+//
+// All 100 fields of both tables are always there; those past fileCount hold what stands
+// in memory.
+template <class Io>
+constexpr void Fields(Io& io, BackUpSet& set) {
+  io.Text(set.destDir);
+  io.Text(set.destPath);
+  io.Text(set.sourcePath);
+  io.Text(set.comment);
+}
+static_assert(RecordSize<BackUpSet>() == 120556);
+
+// Makes all of this what it is in a fresh process.
+void BackUpReset();
 
 // True if no more file can be added.
 bool BackUpIsFull();

@@ -71,18 +71,18 @@ void Save() {
   if (PickFileForSave(Owner(), kSettingsMask, path) == 0 || !OverwriteAllowed(Owner(), path)) return;
   const int status = BackUpSave(path);
   if (status == -1) Tell("ファイルを開けません", kCaption);
-  // kept: the writer reports a full disk as -2, so nobody hears of it.
+  // kept: back-up settings that could not be written whole are told by no box: the writer
+  // says -2, and only 2 would be told.
   if (status == 2) Tell("ファイルセーブできません", kCaption);
 }
 
 }  // namespace
 
 void BackUpGuarded(void (*action)()) {
-  static bool busy = false;
-  if (busy) return;
-  busy = true;
+  if (BackUpRun.busy) return;
+  BackUpRun.busy = true;
   action();
-  busy = false;
+  BackUpRun.busy = false;
 }
 
 void BackUpCommand() {

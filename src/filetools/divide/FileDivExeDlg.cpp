@@ -14,7 +14,7 @@ namespace {
 
 // Where the two dialogs differ.
 struct Kind {
-  std::int32_t mode;  // progressMode
+  SteppedWork work;
   int templateId;
   int (*step)();
   const char* failed;
@@ -26,13 +26,13 @@ int RestoreStep() {
   return FileRestoreStep(FileDivide.sourcePath);
 }
 
-constexpr Kind kDivide{3,
+constexpr Kind kDivide{kStepDivide,
                        IDD_FileDivExeDlg,
                        FileDivideStep,
                        "分割データファイルに書き込めません",
                        "ファイル分割を終了しました",
                        "分割を正常終了"};
-constexpr Kind kRestore{4,
+constexpr Kind kRestore{kStepRestore,
                         IDD_FileUnDivExeDlg,
                         RestoreStep,
                         "分割データファイルが読み込めません",
@@ -40,17 +40,15 @@ constexpr Kind kRestore{4,
                         "復元を正常終了"};
 
 void End(WindowHandle dialog) {
-  if (Stepped.hSearchDlg != dialog) return;
-  Stepped.hSearchDlg = nullptr;
-  DialogEnd(dialog, 0);
+  if (SteppedHidden(dialog)) DialogEnd(dialog, 0);
 }
 
-// A step command that comes while a box of the dialog is up finds stepCounter at
-// 0 and ends the dialog under the box.
+// kept: a step that comes while the last box of a division or restore is up ends the
+// progress dialog under the box.
 void Step(WindowHandle dialog) {
   if (Stepped.stepCounter > 1) {
-    const Kind& kind = Stepped.progressMode == kDivide.mode ? kDivide : kRestore;
-    if (kind.step() != 0) Stepped.stepCounter = 0;
+    const Kind& kind = Stepped.progressMode == kDivide.work ? kDivide : kRestore;
+    if (kind.step() != 0) SteppedNext(0);
     if (FileResult.FileStatus != 0) {
       BoxTell(dialog, kind.failed, "分割エラー");
     } else if (Stepped.stepCounter == 0) {
@@ -58,20 +56,20 @@ void Step(WindowHandle dialog) {
     }
   }
   if (Stepped.stepCounter == 0) {
-    Stepped.progressMode = 0;
+    SteppedEnd();
     End(dialog);
   }
 }
 
 void Stop(WindowHandle dialog) {
   FileDivideStop();
-  Stepped.progressMode = 0;
+  SteppedEnd();
   End(dialog);
 }
 
 bool Handle(const Event& event) {
   if (event.kind == EventKind::Init) {
-    Stepped.hSearchDlg = event.window;
+    SteppedShown(event.window);
     return true;
   }
   if (event.kind == EventKind::Close) {
@@ -84,7 +82,8 @@ bool Handle(const Event& event) {
       Step(event.window);
       return true;
     case 1:
-      // kept: this way out leaves the run where it is, its files open.
+      // kept: the Enter key ends the progress of a division or restore and leaves the run
+      // where it is, its files open.
       End(event.window);
       return true;
     case 2:
@@ -97,13 +96,13 @@ bool Handle(const Event& event) {
 
 void Run(const Kind& kind, WindowHandle owner) {
   // The tick drives one work at a time; a command from outside may ask for another.
-  if (Stepped.hSearchDlg) {
+  if (SteppedBusy()) {
     FileDivideStop();
     return;
   }
-  Stepped.progressMode = kind.mode;
+  SteppedBegin(kind.work);
   if (DialogRun(kind.templateId, owner, Handle) < 0) FileDivideStop();
-  Stepped.progressMode = 0;
+  SteppedEnd();
 }
 
 }  // namespace

@@ -3,7 +3,7 @@
 #include <cstring>
 
 #include "filetools/divide/divide_dialogs.h"
-#include "filetools/divide/file_divide.h"
+#include "filetools/divide/divide_state.h"
 #include "platform/dialog.h"
 #include "resources/filetools_ids.h"
 #include "services/boxes.h"
@@ -28,9 +28,10 @@ bool Confirmed(WindowHandle dialog, const char* keyword) {
   return BoxAsk(dialog, text, "ファイル分割の実行");
 }
 
-// kept: whether a keyword is the right one is never tested.
+// kept: a keyword is never tested; a wrong one gives a wrong file, or a failure that says
+// nothing of keywords.
 void Accept(WindowHandle dialog) {
-  // kept: a double-byte character at the eighth byte is cut in two.
+  // kept: a double-byte character at the eighth byte of a keyword is cut in two.
   char keyword[kDivKeywordMax + 1] = {};
   ControlGetText(dialog, IDC_DIVIDE_KEYWORD, keyword, sizeof keyword);
   const std::size_t length = TextLength(keyword, kDivKeywordMax);
@@ -56,7 +57,7 @@ bool Handle(const Event& event) {
     Accept(event.window);
     return true;
   }
-  // kept: a cancelled restore leaves the keyword of an earlier run in force.
+  // kept: a restore whose keyword is cancelled goes on with the one of an earlier run.
   const bool cancelled =
       event.kind == EventKind::Close || (event.kind == EventKind::Command && event.command == 2);
   if (cancelled && Dividing()) Forget();

@@ -2,7 +2,7 @@
 
 #include "filetools/divide/divide_commands.h"
 #include "filetools/divide/divide_dialogs.h"
-#include "filetools/divide/file_divide.h"
+#include "filetools/divide/divide_state.h"
 #include "filetools/path_row.h"
 #include "platform/canvas.h"
 #include "platform/dialog.h"
@@ -27,18 +27,18 @@ struct Kind {
   Command pickCommand;
   Command folderCommand;
   const char* banner;
-  Rect bannerBox;  // in dialog units; wiped when there is no banner
+  Rect bannerBox;  // in pixels; wiped when there is no banner
 };
 constexpr Kind kDivide{MenuDialog::FileDivideSetDlg2, IDD_FileDivideSetDlg2,  Command::DividePick,
-                       Command::DivideFolder,         "ファイル分割中です !", {215, 108, 375, 143}};
+                       Command::DivideFolder,         "ファイル分割中です !", {430, 216, 750, 286}};
 constexpr Kind kRestore{MenuDialog::FileDivideSetDlg3, IDD_FileDivideSetDlg3, Command::RestorePick,
-                        Command::RestoreFolder,        "ファイル合成中です!", {277, 58, 370, 93}};
+                        Command::RestoreFolder,        "ファイル合成中です!", {554, 116, 740, 186}};
 constexpr int kBannerInset = 2;
 
-// The two sizes of a division, in dialog units: beside their labels, as wide as the
-// longest one.
-constexpr Rect kSourceSize{105, 68, 165, 76};
-constexpr Rect kPieceSize{105, 90, 165, 98};
+// The two sizes of a division, in pixels: beside their labels, as large as the longest
+// one.
+constexpr Rect kSourceSize{210, 136, 330, 152};
+constexpr Rect kPieceSize{210, 180, 330, 196};
 
 // The kind that is open; null if none is.
 const Kind* OpenKind() {
@@ -76,10 +76,11 @@ void Paint(WindowHandle dialog, const Kind& kind) {
   CanvasPen(canvas, PenNothing());
   CanvasBackTransparent(canvas, true);
   if (kind.dialogId == MenuDialog::FileDivideSetDlg2) {
-    DrawSize(canvas, DialogUnits(dialog, kSourceSize), FileDivide.sourceSize);
-    DrawSize(canvas, DialogUnits(dialog, kPieceSize), FileDivide.pieceSize);
+    DrawSize(canvas, kSourceSize, FileDivide.sourceSize);
+    // kept: the size of the pieces on show is that of the last division until a new one begins.
+    DrawSize(canvas, kPieceSize, FileDivide.pieceSize);
   }
-  DrawBanner(canvas, kind.banner, DialogUnits(dialog, kind.bannerBox));
+  DrawBanner(canvas, kind.banner, kind.bannerBox);
   CanvasRelease(canvas);
 }
 
@@ -160,5 +161,7 @@ void FileDivideSetDlg2Take() {
   ControlGetText(Dialogs.hMenuDlg, IDC_DIVIDE_NAME, FileDivide.baseName, sizeof FileDivide.baseName);
   ControlGetText(Dialogs.hMenuDlg, IDC_DIVIDE_COUNT, count, sizeof count);
   FileDivide.divideCount = DecimalParse(count);
+  // kept: a number of pieces beyond 200 becomes 200, which two characters reach only when
+  // they are no digits.
   if (FileDivide.divideCount > kDivCountMax) FileDivide.divideCount = kDivCountMax;
 }

@@ -1,50 +1,38 @@
 #include "filetools/divide/cof_record.h"
 
-#include <cstring>
-
 #include "filetools/divide/div_scramble.h"
-#include "filetools/divide/file_divide.h"
-#include "platform/file.h"
-#include "services/big_endian.h"
 #include "services/path.h"
 #include "services/text.h"
 
 namespace {
 
-struct Field {
-  int offset;
-  int size;
-  std::int32_t keyPos;
-};
-constexpr Field kFields[] = {{0, 4, 0}, {4, 4, 4}, {8, kCofNameSize, 8}};
+constexpr int kSize = RecordSize<CofRecord>();
+
+// Where the fields begin, and where the last one ends.
+constexpr int kFields[] = {RecordOffset<&CofRecord::number>(), RecordOffset<&CofRecord::value>(),
+                           RecordOffset<&CofRecord::name>(), kSize};
+
+void EachField(std::uint8_t (&raw)[kSize], DivCipher cipher) {
+  for (const int* at = kFields; *at < kSize; ++at) {
+    cipher(at[0], at[1] - at[0], raw + at[0], raw + at[0], FileDivide.recordTableCursor);
+  }
+}
 
 }  // namespace
 
 bool DivWriteRecord(int file, std::int32_t number, std::int32_t value, const char* path) {
-  std::uint8_t raw[kCofRecordSize] = {};
-  PutBE32(raw, static_cast<std::uint32_t>(number));
-  PutBE32(raw + 4, static_cast<std::uint32_t>(value));
+  CofRecord record{number, value, ""};
   PathSplit(path);
-  char name[kCofNameSize] = {};
-  TextCopy(name, sizeof name, PathParts.PathName);
-  std::memcpy(raw + 8, name, sizeof name);
-  for (const Field& field : kFields) {
-    std::uint8_t* at = raw + field.offset;
-    DivScramble(field.keyPos, field.size, at, at, FileDivide.recordTableCursor);
-  }
-  return FileWrite(file, raw, kCofRecordSize) == kCofRecordSize;
+  TextCopy(record.name, sizeof record.name, PathParts.PathName);
+  std::uint8_t raw[kSize];
+  RecordPut(record, raw, kSize);
+  EachField(raw, DivScramble);
+  return FileWrite(file, raw, kSize) == kSize;
 }
 
 bool DivReadRecord(int file, CofRecord& record) {
-  std::uint8_t raw[kCofRecordSize];
-  if (FileRead(file, raw, kCofRecordSize) != kCofRecordSize) return false;
-  for (const Field& field : kFields) {
-    std::uint8_t* at = raw + field.offset;
-    DivUnscramble(field.keyPos, field.size, at, at, FileDivide.recordTableCursor);
-  }
-  record.number = static_cast<std::int32_t>(GetBE32(raw));
-  record.value = static_cast<std::int32_t>(GetBE32(raw + 4));
-  std::memcpy(record.name, raw + 8, kCofNameSize);
-  record.name[kCofNameSize - 1] = '\0';  // bounded: a damaged name may lack its end
-  return true;
+  std::uint8_t raw[kSize];
+  if (FileRead(file, raw, kSize) != kSize) return false;
+  EachField(raw, DivUnscramble);
+  return RecordTake(record, raw, kSize);
 }

@@ -1,24 +1,45 @@
-// One record of a joining file, 308 bytes, each field scrambled by itself:
-//
-//   offset  size   head record          piece record          key position
-//        0     4   0                    ordinal, from 1       0
-//        4     4   number of pieces     bytes in the piece    4
-//        8   300   name of the source   name of the piece     8
-//
-// The key position is where the keyword begins at the field's start; the table
-// runs on through all records of the file. Names are without a folder.
+// The records of a joining file. Numbers are big-endian.
 #pragma once
 
-#include <cstdint>
+#include "filetools/divide/divide_state.h"
+#include "services/record.h"
 
-inline constexpr int kCofRecordSize = 308;
 inline constexpr int kCofNameSize = 300;
 
+// What a joining file begins with, of FileDivide, never scrambled, 101 bytes
+//
+// offset  size  field
+//      0     1  encryptFlag
+//      1   100  keyBlock
+template <class Io>
+constexpr void Fields(Io& io, FileDivideState& state) {
+  io.U8(state.encryptFlag);
+  io.Bytes(state.keyBlock);
+}
+static_assert(RecordSize<FileDivideState>() == 101);
+
+// A record behind it, 308 bytes, each field scrambled by itself
+//
+// offset  size  head record          piece record
+//      0     4  0                    ordinal, from 1
+//      4     4  number of pieces     bytes in the piece
+//      8   300  name of the source   name of the piece
+//
+// A field's offset is also where the keyword begins at its start; the table runs on
+// through all records of the file. Names are without a folder.
 struct CofRecord {
   std::int32_t number;
   std::int32_t value;
-  char name[kCofNameSize];  // always terminated
+  char name[kCofNameSize];
 };
+
+template <class Io>
+constexpr void Fields(Io& io, CofRecord& record) {
+  io.BE32(record.number);
+  io.BE32(record.value);
+  io.Text(record.name);
+}
+static_assert(RecordSize<CofRecord>() == 308);
 
 // Writes a record with the name of `path` at the file's place. False if it came
 // short. Moves recordTableCursor on.

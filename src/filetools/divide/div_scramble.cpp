@@ -4,7 +4,7 @@
 #include <cstring>
 #include <numeric>
 
-#include "filetools/divide/file_divide.h"
+#include "filetools/divide/divide_state.h"
 
 namespace {
 

@@ -14,3 +14,7 @@ std::int32_t DivScramble(std::int32_t keyPos, std::int32_t length, const std::ui
 // The reverse.
 std::int32_t DivUnscramble(std::int32_t keyPos, std::int32_t length, const std::uint8_t* in,
                            std::uint8_t* out, std::int32_t& tableCursor);
+
+// Either of the two.
+using DivCipher = std::int32_t (*)(std::int32_t keyPos, std::int32_t length, const std::uint8_t* in,
+                                   std::uint8_t* out, std::int32_t& tableCursor);

@@ -23,11 +23,10 @@ WindowHandle Owner() {
 
 // Runs an action unless another one of these is still running.
 void Guarded(void (*action)()) {
-  static bool busy = false;
-  if (busy) return;
-  busy = true;
+  if (FileDivide.busy) return;
+  FileDivide.busy = true;
   action();
-  busy = false;
+  FileDivide.busy = false;
 }
 
 bool Pick(const char* mask) {
@@ -66,8 +65,8 @@ void Tell(const char* text) {
   BoxTell(Owner(), text, "分割エラー");
 }
 
-// kept: a source or joining file that does not open, or a joining file that
-// cannot be made, is told by two boxes in a row.
+// kept: a source or joining file that does not open, and a joining file that cannot be
+// made, are told by two boxes in a row.
 void TellStartFailed(int status, const char* general) {
   if (status == kDivCannotOpen) Tell("分割ソースファイルが開けません");
   if (status == kDivCofNotMade) Tell("合成用ファイルが開けません");
@@ -78,7 +77,7 @@ void TellStartFailed(int status, const char* general) {
 int Start(int (*step)()) {
   FileDivide.banner = true;
   DivideDialogPaint();
-  Stepped.stepCounter = 1;
+  SteppedNext(1);
   const int status = step();
   FileDivide.banner = false;
   DivideDialogPaint();
@@ -91,13 +90,19 @@ int RestoreStep() {
 
 void Divide() {
   FileDivideSetDlg2Take();
+  // settled: a source of 2 GiB and more is refused before anything is written; the sizes in
+  // a joining file are signed numbers of 32 bits, and its pieces would be empty.
+  if (DivSourceTooLarge()) {
+    Tell("分割ソースファイルが大きすぎます(2GB未満のファイルを分割できます)");
+    return;
+  }
   if (FileDivide.encryptFlag != 0) {
     FileDivKeyWordDlgRun(Dialogs.hMenuDlg);
     if (FileDivide.keywordLength == 0) return;
   }
   const int status = Start(FileDivideStep);
   if (status != 0) {
-    Stepped.stepCounter = 0;
+    SteppedNext(0);
     TellStartFailed(status, "分割データファイルに書き込めません");
     return;
   }
@@ -107,18 +112,17 @@ void Divide() {
 void Restore() {
   if (CofReadFlag(FileDivide.sourcePath) != 0) {
     FileDivKeyWordDlg2Run(Dialogs.hMenuDlg);
-    // kept: a keyword that was entered earlier counts, even after a Cancel.
     if (FileDivide.keywordLength == 0) return;
   }
   const int status = Start(RestoreStep);
   if (status != 0) TellStartFailed(status, "分割データファイルが読み込めません");
-  // kept: the progress dialog opens after a failure too, and stands, with
-  // stepCounter at 1, until it is stopped.
+  // kept: after a failed first step of a restore the progress dialog opens all the same and
+  // stands until it is stopped.
   FileUnDivExeDlgRun(Dialogs.hMenuDlg);
 }
 
 void RunOpenDialog() {
-  if (Stepped.hSearchDlg) return;  // a search is running; no file is replaced for a run that cannot go on
+  if (SteppedBusy()) return;  // a search is running; no file is replaced for a run that cannot go on
   if (Dialogs.DlgIdMenu == MenuDialog::FileDivideSetDlg2) Divide();
   if (Dialogs.DlgIdMenu == MenuDialog::FileDivideSetDlg3) Restore();
 }

@@ -9,16 +9,13 @@
 #include "filetools/stepped_work.h"
 #include "services/data_file.h"
 #include "services/path.h"
+#include "services/record_file.h"
 #include "services/text.h"
-
-FileDivideState FileDivide;
 
 namespace {
 
-// Bodies go by blocks of 5000 bytes as far as anyone can tell from a run that
-// failed, and for speed by many of them at once, which are whole pages of memory.
-constexpr std::int32_t kBlock = 5000;
-constexpr std::int32_t kTransfer = 512 * kBlock;
+// Sizes count as signed numbers.
+constexpr std::uint32_t kSizeMax = 0x7FFFFFFF;
 
 // Room for <storeDir>\<baseName><number>.<extension>, both full.
 constexpr int kPathSize = 640;
@@ -33,19 +30,15 @@ void CloseFile(int& file) {
   file = kNoFile;
 }
 
-void CloseAll() {
-  CloseFile(FileDivide.pieceFile);
-  CloseFile(FileDivide.cofFile);
-  CloseFile(FileDivide.sourceFile);
-}
-
 int FailClosed(int status) {
-  CloseAll();
+  DivideFilesClose();
   return Fail(status);
 }
 
 // Replaces a file and leaves it open in `file`. Returns 0, or which of the two
 // went wrong; FileStatus is the caller's to set.
+// kept: a piece, a joining file or a joined file that is there already is replaced without a
+// question; one that cannot be deleted shows at its creation.
 int MakeFile(const char* path, int& file, int notCreated, int notReopened) {
   DataFile data;
   if (DataReplace(data, path)) {
@@ -60,7 +53,7 @@ void BeginRun() {
   FileResult.FileStatus = 0;
   // A run that ended by a short source, or whose dialog was closed by OK, has
   // left files open until now.
-  CloseAll();
+  DivideFilesClose();
   FileDivide.bodyTableCursor = 0;
   FileDivide.recordTableCursor = 0;
   std::memset(FileDivide.numberUsed, 0, sizeof FileDivide.numberUsed);
@@ -69,23 +62,24 @@ void BeginRun() {
 int EndRun() {
   CloseFile(FileDivide.cofFile);
   CloseFile(FileDivide.sourceFile);
-  Stepped.stepCounter = 0;
+  SteppedNext(0);
   return 0;
 }
 
 enum class Copied { All, ShortRead, ShortWrite };
-using Cipher = std::int32_t (*)(std::int32_t, std::int32_t, const std::uint8_t*, std::uint8_t*,
-                                std::int32_t&);
 
 // Moves a piece's bytes. When the source ends early, the whole blocks that did
-// arrive have been written. A negative size moves nothing.
-Copied CopyBody(int from, int to, std::int32_t size, Cipher cipher) {
-  static std::uint8_t buffer[kTransfer];
+// arrive have been written.
+// settled: a negative size is that of a source too large to be divided, and counts as a
+// source that ends early: its joined file would be empty.
+Copied CopyBody(int from, int to, std::int32_t size, DivCipher cipher) {
+  std::uint8_t* buffer = DivideTransfer.bytes;
   FileDivide.bodyKeyPos = 0;
+  if (size < 0) return Copied::ShortRead;
   for (std::int32_t left = size; left > 0;) {
-    const std::int32_t want = std::min(left, kTransfer);
+    const std::int32_t want = std::min(left, kDivTransfer);
     const std::int32_t got = FileRead(from, buffer, want);
-    const std::int32_t whole = got == want ? want : std::max(got, 0) / kBlock * kBlock;
+    const std::int32_t whole = got == want ? want : std::max(got, 0) / kDivBlock * kDivBlock;
     FileDivide.bodyKeyPos = cipher(FileDivide.bodyKeyPos, whole, buffer, buffer, FileDivide.bodyTableCursor);
     if (whole > 0 && FileWrite(to, buffer, whole) != whole) return Copied::ShortWrite;
     if (got != want) return Copied::ShortRead;
@@ -104,21 +98,21 @@ int DivideStart() {
   TextFormat(path, sizeof path, "%s\\%s%d.cof", FileDivide.storeDir, FileDivide.baseName, 0);
   if (MakeFile(path, FileDivide.cofFile, kDivCofNotMade, kDivCofNotMade) != 0)
     return FailClosed(kDivCofNotMade);
-  if (FileWrite(FileDivide.cofFile, &FileDivide.encryptFlag, 1) != 1) return FailClosed(kDivTransferShort);
   DivBuildKeyBlock();
-  if (FileWrite(FileDivide.cofFile, FileDivide.keyBlock, kDivKeyBlockSize) != kDivKeyBlockSize ||
+  DataFile cof{FileDivide.cofFile};
+  if (!RecordWrite(cof, FileDivide) ||
       !DivWriteRecord(FileDivide.cofFile, 0, FileDivide.pieceTotal, FileDivide.sourcePath)) {
     return FailClosed(kDivTransferShort);
   }
-  Stepped.stepCounter = 2;
+  SteppedNext(2);
   return 0;
 }
 
 int DividePiece(std::int32_t index) {
   FileResult.FileStatus = 0;
   if (index >= FileDivide.pieceTotal) return EndRun();
-  // kept: only a flag of exactly 1 shuffles the numbers; another value, left by
-  // a foreign joining file, scrambles the bytes all the same.
+  // kept: only an encryption flag of exactly 1 shuffles the numbers of the pieces; another
+  // value, left by a foreign joining file, scrambles their bytes all the same.
   const std::int32_t number = FileDivide.encryptFlag == 1 ? DivNextPieceNumber(index + 1) : index + 1;
   char path[kPathSize];
   TextFormat(path, sizeof path, "%s\\%s%d.div", FileDivide.storeDir, FileDivide.baseName, number);
@@ -127,7 +121,8 @@ int DividePiece(std::int32_t index) {
   const std::int32_t size = DivPieceSize(index);
   switch (CopyBody(FileDivide.sourceFile, FileDivide.pieceFile, size, DivScramble)) {
     case Copied::ShortRead:
-      // kept: the joining file and the piece stay open, until the next run.
+      // kept: a source that ends before its pieces are full leaves the joining file and the
+      // piece open until the next run.
       CloseFile(FileDivide.sourceFile);
       return Fail(kDivSourceShort);
     case Copied::ShortWrite:
@@ -137,7 +132,7 @@ int DividePiece(std::int32_t index) {
   }
   if (!DivWriteRecord(FileDivide.cofFile, index + 1, size, path)) return FailClosed(kDivTransferShort);
   CloseFile(FileDivide.pieceFile);
-  ++Stepped.stepCounter;
+  SteppedNext(Stepped.stepCounter + 1);
   return 0;
 }
 
@@ -147,21 +142,20 @@ int RestoreStart(const char* cofPath) {
   TextCopy(FileDivide.cofDir, sizeof FileDivide.cofDir, PathParts.PathFolder);
   FileDivide.cofFile = FileOpen(cofPath, OpenMode::ReadDenyWrite);
   if (FileDivide.cofFile == kNoFile) return Fail(kDivCannotOpen);
-  if (FileRead(FileDivide.cofFile, &FileDivide.encryptFlag, 1) != 1 ||
-      FileRead(FileDivide.cofFile, FileDivide.keyBlock, kDivKeyBlockSize) != kDivKeyBlockSize) {
-    return FailClosed(kDivHeadShort);
-  }
+  DataFile cof{FileDivide.cofFile};
+  if (!RecordRead(cof, FileDivide)) return FailClosed(kDivHeadShort);
   DivLoadKeyBlock();
   CofRecord head;
   if (!DivReadRecord(FileDivide.cofFile, head)) return FailClosed(kDivTransferShort);
   FileDivide.pieceTotal = head.value;
-  // A joining file may come from anywhere: its names reach no other folder.
+  // settled: a joining file may come from anywhere; its names reach no other folder and no
+  // device, and one that would counts as a file that cannot be made or opened.
   if (!PathIsBareName(head.name)) return FailClosed(kDivNotCreated);
   char path[kPathSize];
   TextFormat(path, sizeof path, "%s\\%s", FileDivide.storeDir, head.name);
   const int made = MakeFile(path, FileDivide.sourceFile, kDivNotCreated, kDivNotReopened);
   if (made != 0) return FailClosed(made);
-  Stepped.stepCounter = 2;
+  SteppedNext(2);
   return 0;
 }
 
@@ -170,16 +164,17 @@ int RestorePiece(std::int32_t index) {
   if (index >= FileDivide.pieceTotal) return EndRun();
   CofRecord piece;
   if (!DivReadRecord(FileDivide.cofFile, piece)) return FailClosed(kDivTransferShort);
-  // kept: cofDir ends in a backslash already, and the base name of the divide
-  // dialog makes room for the piece's path.
+  // kept: the folder of the joining file ends in a backslash already and gets another one,
+  // and the path of the piece takes the place of the base name in the divide dialog.
   TextFormat(FileDivide.baseName, sizeof FileDivide.baseName, "%s\\%s", FileDivide.cofDir, piece.name);
   if (!PathIsBareName(piece.name)) return FailClosed(kDivCannotOpen);
   FileDivide.pieceFile = FileOpen(FileDivide.baseName, OpenMode::ReadDenyWrite);
   if (FileDivide.pieceFile == kNoFile) return FailClosed(kDivCannotOpen);
+  // kept: a piece that is longer than its record says is cut off in silence.
   const Copied copied = CopyBody(FileDivide.pieceFile, FileDivide.sourceFile, piece.value, DivUnscramble);
   if (copied != Copied::All) return FailClosed(kDivTransferShort);
   CloseFile(FileDivide.pieceFile);
-  ++Stepped.stepCounter;
+  SteppedNext(Stepped.stepCounter + 1);
   return 0;
 }
 
@@ -192,11 +187,20 @@ std::uint32_t DivFileSize(const char* path) {
   return size;
 }
 
+bool DivSourceTooLarge() {
+  const int file = FileOpen(FileDivide.sourcePath, OpenMode::ReadDenyWrite);
+  std::uint32_t high = 0;
+  const std::uint32_t low = FileSize(file, &high);
+  FileClose(file);
+  return high != 0 || low > kSizeMax || FileDivide.sourceSize > kSizeMax;
+}
+
 std::int32_t DivPieceSize(std::int32_t index) {
-  // kept: the comparisons are signed, so a source of 2 GiB or more gives its
-  // size as a negative number, and its pieces stay empty.
+  // The sizes are compared as signed numbers.
   const auto total = static_cast<std::int32_t>(FileDivide.sourceSize);
   const auto nominal = static_cast<std::int32_t>(FileDivide.pieceSize);
+  // kept: a source smaller than a piece gives its own size, though the size of a piece is the
+  // source's divided by their number.
   if (total < nominal) return total;
   const auto rest = static_cast<std::int32_t>(FileDivide.sourceSize -
                                               static_cast<std::uint32_t>(index) * FileDivide.pieceSize);

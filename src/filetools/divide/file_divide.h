@@ -15,57 +15,16 @@
 
 #include <cstdint>
 
-#include "platform/file.h"
-
-inline constexpr int kDivKeywordMin = 4;
-inline constexpr int kDivKeywordMax = 8;
-inline constexpr int kDivKeyBlockSize = 100;
-inline constexpr int kDivTableSize = 160;
-inline constexpr int kDivNumberCount = 100;  // piece numbers that are shuffled
-inline constexpr int kDivCountMax = 200;
-
-struct FileDivideState {
-  char sourcePath[600];      // the file to divide, or the joining file of a restore
-  std::uint32_t sourceSize;  // taken when the file was picked, and not again
-  std::int32_t divideCount;  // as typed
-  std::uint8_t encryptFlag;  // 0 or 1; a restore leaves the joining file's byte here
-  char keyword[kDivKeywordMax + 1];
-  std::int32_t keywordLength;  // 0: none set
-  char storeDir[300];          // takes the pieces, or the rebuilt file
-  char baseName[300];          // of the pieces; in a restore the path of the piece being read
-  char cofDir[300];            // folder of the joining file, with its trailing backslash
-  std::int32_t pieceTotal;
-  std::uint32_t pieceSize;  // nominal
-  std::int32_t bodyKeyPos;
-  std::int32_t bodyTableCursor;
-  std::int32_t recordTableCursor;
-  std::uint8_t numberUsed[kDivNumberCount];
-  std::uint8_t keyBlock[kDivKeyBlockSize];
-  std::uint8_t scrambleTable[kDivTableSize];
-  int cofFile = kNoFile;
-  int sourceFile = kNoFile;  // the source; in a restore the target
-  int pieceFile = kNoFile;
-  bool banner;  // the dialog says that work is being started
-};
-extern FileDivideState FileDivide;
-
-// Values of FileStatus beside 0.
-enum : int {
-  kDivCannotOpen = -1,      // source or joining file; a piece in a restore
-  kDivHeadShort = -2,       // flag byte or key block of the joining file
-  kDivSourceShort = 2,      // the source ended early
-  kDivPieceShort = -10,     // short write to a piece
-  kDivTransferShort = -11,  // joining file; a piece or the target in a restore
-  kDivCofNotMade = -100,
-  kDivNotCreated = -101,   // a piece or the target
-  kDivNotReopened = -102,  // the same, after its creation
-};
+#include "filetools/divide/divide_state.h"
 
 // Size of a file, low 32 bits; 0 if it cannot be opened.
 std::uint32_t DivFileSize(const char* path);
 
-// Bytes in the piece of that 0-based index. Negative for a source of 2 GiB and
-// more, see there.
+// True if the chosen source is of 2 GiB or more, as it was picked or as it is now; such a
+// source is not divided.
+bool DivSourceTooLarge();
+
+// Bytes in the piece of that 0-based index.
 std::int32_t DivPieceSize(std::int32_t index);
 
 // The number in the name of the piece of that ordinal (from 1).

@@ -18,9 +18,6 @@ namespace {
 constexpr int kMargin = 12;
 constexpr int kListBottom = 160;  // dialog units, where the template's file list ends too
 
-FolderList folders;
-static_assert(kFolderSize == kScopePathSize);
-
 void ScopeListFiles() {
   FilterListFiles(Dialogs.hToolDlg, IDC_SCOPE_FILES, Scope.scopeFolder,
                   ListSelected(Dialogs.hToolDlg, IDC_SCOPE_FILTER), nullptr);
@@ -36,12 +33,12 @@ void Open(WindowHandle dialog) {
   ListSelect(dialog, IDC_SCOPE_FILTER, kFilterAll);
   const Rect place{kMargin, FolderListTop(dialog), WindowClientRect(dialog).right / 2 - kMargin / 2,
                    DialogUnits(dialog, {0, 0, 0, kListBottom}).bottom};
-  FolderListOpenWide(folders, dialog, place, Scope.scopeFolder, "", FolderChanged);
+  FolderListOpenWide(Scope.folders, dialog, place, Scope.scopeFolder, "", FolderChanged);
   FolderChanged();
 }
 
 bool Handle(const Event& event) {
-  if (FolderListEvent(folders, event)) return true;
+  if (FolderListEvent(Scope.folders, event)) return true;
   if (FolderListIsCancel(event)) {
     ToolDialogEnd(event.window, 2);
     return true;
@@ -49,7 +46,7 @@ bool Handle(const Event& event) {
   if (event.kind == EventKind::Init) {
     Open(event.window);
   } else if (event.kind == EventKind::Paint) {
-    FolderListPaint(folders);
+    FolderListPaint(Scope.folders);
   } else if (event.kind != EventKind::Command) {
     return false;
   } else if (event.command == IDC_SCOPE_FILTER) {

@@ -1,9 +1,9 @@
 // FolderStaticsDlg, "フォルダー統計 円グラフ": the drive and the chosen folder as
 // pies, each with a key below and leader lines beside.
 
-#include "filetools/scope/folder_scope.h"
 #include "filetools/scope/scope_dialogs.h"
 #include "filetools/scope/scope_pie.h"
+#include "filetools/scope/scope_state.h"
 #include "filetools/scope/scope_unit.h"
 #include "resources/filetools_ids.h"
 #include "services/dialog_family.h"
@@ -41,6 +41,7 @@ BrushHandle BrushOf(const ScopePieRow& row, int line) {
       kBrush0000E6, kBrushFF0000, kBrush00C800, kBrush8CE6F0, kBrush00F0F0, kBrushF000F0, kBrushFFFF00,
   };
   constexpr int kColours = 7;
+  // kept: the chosen folder has the colour of the slice that it lies in.
   if (row.tag == kTagChosen) line = 0;
   return Drawing.Brushes[brushes[line < kColours ? line : line % kColours + 1]];
 }
@@ -52,7 +53,7 @@ void DrawSlices(Canvas* canvas, const Column& column) {
   CanvasEllipse(canvas, column.x0, column.y0, right, bottom);
   for (int i = 0; i < column.pie.count; ++i) {
     const ScopePieRow& row = column.pie.rows[i];
-    // kept: a slice whose ends meet is not drawn, be it nothing or the whole.
+    // kept: a slice whose ends meet is not drawn, be it nothing or the whole pie.
     if (row.tag == kTagFree || (row.x1 == row.x2 && row.y1 == row.y2)) continue;
     CanvasBrush(canvas, BrushOf(row, i));
     CanvasPie(canvas, column.x0, column.y0, right, bottom, row.x1, row.y1, row.x2, row.y2);
@@ -60,7 +61,10 @@ void DrawSlices(Canvas* canvas, const Column& column) {
 }
 
 void DrawKey(Canvas* canvas, const Column& column) {
-  // A long name ends with the last whole character in front of the sizes.
+  // settled: a name of 23 bytes behind its number ends 240 or 248 pixels from its key's left
+  // edge. The sizes stand 188 from it on the left and 228 on the right, and with sizes further
+  // out, which take 96, the left key would run into the right one, which begins 320 from it.
+  // A longer line ends with the last whole character in front of the sizes.
   const int keyX = column.x0 - kKeyLeft;
   const int columns = (column.sizeX - keyX) / kColumn;
   for (int i = 0; i < column.pie.count; ++i) {
@@ -111,15 +115,15 @@ void Draw(Canvas* canvas, const Rect& area) {
   const ScopeAmount drive = ScopeUnit(Scope.driveTotal);
   TextFormat(amount, sizeof amount, "ドライブ %c 容量:%d.%d %s", Scope.driveRoot[0], drive.valueInt,
              drive.valueFrac, ScopeUnitText(drive.unit));
-  // kept: the sizes of the left key stand at 228 of the window, those of the right
-  // one 228 from their key.
-  DrawColumn(canvas, {ScopePieDrive, kDriveLeaders, x0, y0, kSizeX}, "対 ルートドライブ 容量比", amount);
-  if (ScopePieFolder.count == 0) return;
+  // kept: the sizes of the left key stand at 228 of the window, those of the right key at 228
+  // from its left edge.
+  DrawColumn(canvas, {Scope.drivePie, kDriveLeaders, x0, y0, kSizeX}, "対 ルートドライブ 容量比", amount);
+  if (Scope.folderPie.count == 0) return;
   const ScopeAmount folder = ScopeUnit(Scope.chosenTotal);
   TextFormat(amount, sizeof amount, "フォルダー容量:%d.%d %s", folder.valueInt, folder.valueFrac,
              ScopeUnitText(folder.unit));
   const int rightX = x0 + kRight;
-  DrawColumn(canvas, {ScopePieFolder, kFolderLeaders, rightX, y0, rightX - kKeyLeft + kSizeX},
+  DrawColumn(canvas, {Scope.folderPie, kFolderLeaders, rightX, y0, rightX - kKeyLeft + kSizeX},
              "指定フォルダー内容量比", amount);
 }
 

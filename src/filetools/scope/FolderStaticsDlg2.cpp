@@ -3,9 +3,10 @@
 
 #include <algorithm>
 
-#include "filetools/scope/folder_scope.h"
 #include "filetools/scope/scope_bars.h"
 #include "filetools/scope/scope_dialogs.h"
+#include "filetools/scope/scope_state.h"
+#include "filetools/scope/scope_tables.h"
 #include "filetools/scope/scope_unit.h"
 #include "platform/dialog.h"
 #include "platform/window.h"
@@ -25,9 +26,6 @@ constexpr int kColumn = 8;  // a half-width character
 constexpr int kBarWidth = 16;
 constexpr int kPage = 10;
 
-WindowHandle hScroll;  // null while the dialog is closed or still searching
-int firstRow;          // the scroll position
-
 // The folder's own row and one for each entry.
 int Lines() {
   return Scope.scopeFolderCount + 1;
@@ -42,7 +40,7 @@ void DrawRow(Canvas* canvas, int line, int y) {
   char text[64] = "指定フォルダ";
   int row = 0;
   if (line > 0) {
-    const int number = ScopeOrder(ScopeArea::Folder, line - 1);
+    const int number = ScopeOrder(ScopeArea::Folder, line - 1, Scope.scopeFolderCount);
     if (number < 0) return;
     StaticsName(text, sizeof text, "", ScopeEntryGet(ScopeArea::Folder, number).name);
     row = number + 1;
@@ -64,32 +62,32 @@ void Draw(Canvas* canvas, const Rect& area) {
   const Rect rows = RowsArea(area);
   const int fit = RectHeight(rows) / kRowHeight;
   CanvasClip(canvas, rows);
-  for (int i = 0; i < fit && firstRow + i < Lines(); ++i)
-    DrawRow(canvas, firstRow + i, rows.top + i * kRowHeight);
+  for (int i = 0; i < fit && Scope.firstBar + i < Lines(); ++i)
+    DrawRow(canvas, Scope.firstBar + i, rows.top + i * kRowHeight);
   CanvasClipNone(canvas);
 }
 
 void UpdateScroll(WindowHandle dialog) {
-  ScrollSet(dialog, StaticsArea(dialog).top, kRowHeight, Lines(), firstRow, hScroll);
+  ScrollSet(dialog, StaticsArea(dialog).top, kRowHeight, Lines(), Scope.firstBar, Scope.hBarScroll);
 }
 
 void Open(WindowHandle dialog) {
-  hScroll = nullptr;
-  firstRow = 0;
+  Scope.hBarScroll = nullptr;
+  Scope.firstBar = 0;
   if (!StaticsOpen(dialog, true)) {
     MenuDialogEnd(dialog, 2);
     return;
   }
   const Rect area = StaticsArea(dialog);
-  hScroll = ControlCreate(dialog, ControlKind::VerticalScrollBar, IDC_STATICS_SCROLL,
-                          {RowsArea(area).right, area.top, area.right, area.bottom}, "");
+  Scope.hBarScroll = ControlCreate(dialog, ControlKind::VerticalScrollBar, IDC_STATICS_SCROLL,
+                                   {RowsArea(area).right, area.top, area.right, area.bottom}, "");
   UpdateScroll(dialog);
 }
 
 void ScrollRows(const Event& event) {
-  // kept: the last position is the number of entries less 2, not the last page.
+  // kept: the bars scroll to the number of entries less 2, not to the last page.
   const int last = std::max(Scope.scopeFolderCount - 2, 0);
-  int to = firstRow;
+  int to = Scope.firstBar;
   switch (event.scroll) {
     case Scroll::LineUp:
       to -= 1;
@@ -115,7 +113,7 @@ void ScrollRows(const Event& event) {
     case Scroll::End:
       return;
   }
-  firstRow = std::clamp(to, 0, last);
+  Scope.firstBar = std::clamp(to, 0, last);
   UpdateScroll(event.window);
   SendPaint(event.window);
 }
@@ -129,10 +127,10 @@ bool Handle(const Event& event) {
       StaticsPaint(event.window, Draw);
       return true;
     case EventKind::VScroll:
-      if (event.control == hScroll) ScrollRows(event);
+      if (event.control == Scope.hBarScroll) ScrollRows(event);
       return true;
     case EventKind::Destroy:
-      hScroll = nullptr;
+      Scope.hBarScroll = nullptr;
       return false;
     default:
       return false;

@@ -11,16 +11,13 @@
 
 namespace {
 
-constexpr int kDriveSearch = 1;
-constexpr int kFolderSearch = 2;
 constexpr int kStopped = -1;
 
 // Takes the search away from the tick; what it has open is closed.
 void Leave(WindowHandle dialog) {
-  if (Stepped.hSearchDlg != dialog) return;
+  if (!SteppedHidden(dialog)) return;
   ScopeStepStop();
-  Stepped.progressMode = 0;
-  Stepped.hSearchDlg = nullptr;
+  SteppedEnd();
 }
 
 void End(WindowHandle dialog, int entries) {
@@ -31,15 +28,16 @@ void End(WindowHandle dialog, int entries) {
 void Step(WindowHandle dialog) {
   if (Stepped.hSearchDlg != dialog) return;
   int result = 0;
-  if (Stepped.progressMode == kDriveSearch) result = ScopeDriveStep();
-  if (Stepped.progressMode == kFolderSearch) result = ScopeFolderStep();
-  // kept: too many entries give -2 here, which is taken like a stop.
+  if (Stepped.progressMode == kStepDriveSearch) result = ScopeDriveStep();
+  if (Stepped.progressMode == kStepFolderSearch) result = ScopeFolderStep();
+  // kept: a folder with 3105 entries or more closes the statistics without a word: its count
+  // of -2 is taken like a stop.
   if (result != 0) End(dialog, result - 1);
 }
 
 bool Handle(const Event& event) {
   if (event.kind == EventKind::Init) {
-    Stepped.hSearchDlg = event.window;
+    SteppedShown(event.window);
     ScopeStepReset();
   } else if (CommandIs(event, Command::WorkStep)) {
     Step(event.window);
@@ -55,11 +53,12 @@ bool Handle(const Event& event) {
 
 }  // namespace
 
-int ScopeSearchRun(WindowHandle owner, int mode) {
+int ScopeSearchRun(WindowHandle owner, SteppedWork work) {
   // The tick drives one work at a time; a command from outside may ask for another.
-  if (Stepped.hSearchDlg) return kStopped;
-  Stepped.progressMode = mode;
-  const int entries = DialogRun(mode == kDriveSearch ? IDD_SerchDrvDlg : IDD_SerchFolderDlg, owner, Handle);
-  Stepped.progressMode = 0;
+  if (SteppedBusy()) return kStopped;
+  SteppedBegin(work);
+  const int entries =
+      DialogRun(work == kStepDriveSearch ? IDD_SerchDrvDlg : IDD_SerchFolderDlg, owner, Handle);
+  SteppedEnd();
   return entries;
 }

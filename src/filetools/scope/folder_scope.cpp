@@ -2,80 +2,17 @@
 
 #include <cstring>
 
-#include "filetools/scope/scope_bars.h"
+#include "filetools/scope/scope_tables.h"
 #include "platform/file.h"
-#include "services/big_endian.h"
 #include "services/path.h"
+#include "services/state.h"
 #include "services/text.h"
 #include "services/work_blocks.h"
 
-ScopeState Scope;
-
-// An entry in memory, numbers little-endian. 3105 of them fill the 2,000,000
-// bytes of an area:
-//
-//   offset  size  field
-//        0     4  attributes
-//        4     8  creationTime
-//       12     8  lastWriteTime
-//       20     4  sizeHigh
-//       24     4  sizeLow
-//       28   256  name
-//      284   360  not used
-//
-// An order table is a row of 32-bit entry numbers, little-endian.
 namespace {
-
-constexpr int kAttributesAt = 0;
-constexpr int kCreationAt = 4;
-constexpr int kLastWriteAt = 12;
-constexpr int kSizeHighAt = 20;
-constexpr int kSizeLowAt = 24;
-constexpr int kNameAt = 28;
-constexpr int kEntrySize = 644;
-static_assert(kNameAt + kScopeNameSize <= kEntrySize);
-static_assert(kEntrySize * kScopeLimit <= kScopeSecondArea);
-static_assert(kEntrySize * (kScopeLimit + 1) > kScopeSecondArea);
-static_assert(kScopeSecondArea + kEntrySize * kScopeLimit <= kScopeBlockSize);
-static_assert(kScopeLimit * 4 <= kScopeSecondOrder && kScopeSecondOrder + kScopeLimit * 4 <= kCastBlockSize);
 
 constexpr int kWalkPathSize = 4096;
 constexpr std::size_t kColonWithin = 10;
-
-// What a step call has to know of the one before.
-struct StepState {
-  bool begun = false;
-  SearchHandle search = kNoSearch;
-  int count = 0;
-  char back[600] = "";  // the folder that was current
-};
-StepState step;
-
-// Written by every walk for whoever looks with a debugger.
-int walkedFolders;
-int walkedFiles;
-
-unsigned char* EntryAt(ScopeArea area, int number) {
-  if (!WorkBlocks.ScopeBlock || number < 0 || number >= kScopeLimit) return nullptr;
-  return WorkBlocks.ScopeBlock + (area == ScopeArea::Drive ? kScopeSecondArea : 0) + number * kEntrySize;
-}
-
-unsigned char* OrderAt(ScopeArea area, int rank) {
-  return WorkBlocks.CastBlock + (area == ScopeArea::Drive ? kScopeSecondOrder : 0) + rank * 4;
-}
-
-int CountOf(ScopeArea area) {
-  return area == ScopeArea::Drive ? Scope.scopeDriveCount : Scope.scopeFolderCount;
-}
-
-std::uint64_t GetLE64(const unsigned char* from) {
-  return GetLE32(from) | (std::uint64_t{GetLE32(from + 4)} << 32U);
-}
-
-void PutLE64(unsigned char* to, std::uint64_t value) {
-  PutLE32(to, static_cast<std::uint32_t>(value));
-  PutLE32(to + 4, static_cast<std::uint32_t>(value >> 32U));
-}
 
 std::uint64_t Whole(std::uint32_t high, std::uint32_t low) {
   return (std::uint64_t{high} << 32U) | low;
@@ -91,8 +28,8 @@ float TotalBelow(const char* folder, const char* name) {
 }
 
 // `path` has kWalkPathSize bytes and is as it was when the call returns, but for
-// what stands behind `length`. bounded: a path longer than the buffer is not
-// followed.
+// what stands behind `length`. kept: a folder that cannot be searched adds nothing to its
+// parent's size, and nobody is told. bounded: a path longer than 4,096 bytes is not followed.
 void Walk(char* path, std::size_t length) {
   constexpr char kEverything[] = "\\*.*";
   if (length + sizeof kEverything > kWalkPathSize) return;
@@ -101,15 +38,16 @@ void Walk(char* path, std::size_t length) {
   const SearchHandle search = SearchFirst(path, &entry);
   if (search == kNoSearch) return;
   do {
+    // kept: names that begin with a full stop count as nothing in the folder scope.
     if (entry.name[0] == '.') continue;
     if ((entry.attributes & kAttributeFolder) == 0) {
-      ++walkedFiles;
-      // kept: single precision. A large tree loses its small files, and the
-      // figures on show depend on it.
+      ++Scope.walkedFiles;
+      // kept: sizes are summed in single precision; a large tree loses its small files, and
+      // the figures on show depend on it.
       Scope.areaTotal += ScopeFloat(Whole(entry.sizeHigh, entry.sizeLow));
       continue;
     }
-    ++walkedFolders;
+    ++Scope.walkedFolders;
     const std::size_t name = std::strlen(entry.name);
     if (length + 1 + name >= kWalkPathSize) continue;
     path[length] = '\\';
@@ -119,105 +57,73 @@ void Walk(char* path, std::size_t length) {
   SearchClose(search);
 }
 
+// settled: a search that is stopped or meets its limit puts the current folder back too, as
+// its end does.
 void EndStep() {
-  SearchClose(step.search);
-  step.search = kNoSearch;
-  if (step.back[0] != '\0') FolderSetCurrent(step.back);
-  step.back[0] = '\0';
+  SearchClose(Scope.step.search);
+  Scope.step.search = kNoSearch;
+  if (Scope.step.back[0] != '\0') FolderSetCurrent(Scope.step.back);
+  Scope.step.back[0] = '\0';
 }
 
 bool FirstEntry(const char* folder, SearchEntry* entry) {
-  FolderGetCurrent(step.back, sizeof step.back);
-  // A drive that is not there must not show what lies in the current folder.
-  if (FolderSetCurrent(folder)) step.search = SearchFirst("*.*", entry);
-  return step.search != kNoSearch;
+  FolderGetCurrent(Scope.step.back, sizeof Scope.step.back);
+  // settled: a drive that is not there has no entries; it does not show those of the folder
+  // that is current.
+  if (FolderSetCurrent(folder)) Scope.step.search = SearchFirst("*.*", entry);
+  return Scope.step.search != kNoSearch;
+}
+
+void PutTime(std::uint32_t (&to)[2], std::uint64_t time) {
+  to[0] = static_cast<std::uint32_t>(time);
+  to[1] = static_cast<std::uint32_t>(time >> 32U);
 }
 
 // Puts an entry into its area, with the total of all below if it is a folder.
 void Take(ScopeArea area, const char* folder, const SearchEntry& found) {
-  ScopeEntry entry{found.attributes, found.creationTime, found.lastWriteTime,
-                   found.sizeHigh,   found.sizeLow,      ""};
+  ScopeEntry entry;
+  entry.attributes = found.attributes;
+  PutTime(entry.creationTime, found.creationTime);
+  PutTime(entry.lastWriteTime, found.lastWriteTime);
+  entry.sizeHigh = found.sizeHigh;
+  entry.sizeLow = found.sizeLow;
   TextCopy(entry.name, sizeof entry.name, found.name);
   float size = ScopeFloat(Whole(found.sizeHigh, found.sizeLow));
   if ((found.attributes & kAttributeFolder) != 0) {
     if (area == ScopeArea::Drive && std::strcmp(entry.name, Scope.firstLevelName) == 0)
-      Scope.firstLevelIndex = step.count;
+      Scope.firstLevelIndex = Scope.step.count;
     size = TotalBelow(folder, entry.name);
     const std::uint64_t bytes = ScopeBytes(size);
     entry.sizeHigh = static_cast<std::uint32_t>(bytes >> 32U);
     entry.sizeLow = static_cast<std::uint32_t>(bytes);
   }
-  ScopeEntryPut(area, step.count, entry);
+  ScopeEntryPut(area, Scope.step.count, entry);
   if (area == ScopeArea::Folder && Scope.scopeBarChart) {
     Scope.folderTotal += size;
-    ScopeBarSizePut(step.count + 1, size);
+    ScopeBarRow bar;
+    bar.size = size;
+    ScopeBarPut(Scope.step.count + 1, bar);
   }
 }
 
 int Step(ScopeArea area, const char* folder) {
   if (!WorkBlocks.ScopeBlock) return -1;
   SearchEntry entry;
-  const bool first = !step.begun;
-  step.begun = true;
-  if (!(first ? FirstEntry(folder, &entry) : SearchNext(step.search, &entry))) {
+  const bool first = !Scope.step.begun;
+  Scope.step.begun = true;
+  if (!(first ? FirstEntry(folder, &entry) : SearchNext(Scope.step.search, &entry))) {
     EndStep();
-    return step.count + 1;
+    return Scope.step.count + 1;
   }
   if (entry.name[0] == '.') return 0;
   Take(area, folder, entry);
-  if (++step.count < kScopeLimit) return 0;
+  if (++Scope.step.count < kScopeLimit) return 0;
   Scope.scopeOverflow = true;
   EndStep();
   return -1;
 }
 
-void Sort(ScopeArea area) {
-  if (!WorkBlocks.ScopeBlock || !WorkBlocks.CastBlock) return;
-  for (int n = 0; n < CountOf(area); ++n) {
-    const std::uint64_t size = ScopeEntrySize(area, n);
-    int rank = n;
-    while (rank > 0 && ScopeEntrySize(area, ScopeOrder(area, rank - 1)) < size) {
-      std::memcpy(OrderAt(area, rank), OrderAt(area, rank - 1), 4);
-      --rank;
-    }
-    PutLE32(OrderAt(area, rank), static_cast<std::uint32_t>(n));
-  }
-}
-
 }  // namespace
-
-void ScopeEntryPut(ScopeArea area, int number, const ScopeEntry& entry) {
-  unsigned char* at = EntryAt(area, number);
-  if (!at) return;
-  PutLE32(at + kAttributesAt, entry.attributes);
-  PutLE64(at + kCreationAt, entry.creationTime);
-  PutLE64(at + kLastWriteAt, entry.lastWriteTime);
-  PutLE32(at + kSizeHighAt, entry.sizeHigh);
-  PutLE32(at + kSizeLowAt, entry.sizeLow);
-  std::memcpy(at + kNameAt, entry.name, kScopeNameSize);
-}
-
-ScopeEntry ScopeEntryGet(ScopeArea area, int number) {
-  const unsigned char* at = EntryAt(area, number);
-  if (!at) return {};
-  ScopeEntry entry{GetLE32(at + kAttributesAt), GetLE64(at + kCreationAt), GetLE64(at + kLastWriteAt),
-                   GetLE32(at + kSizeHighAt),   GetLE32(at + kSizeLowAt),  ""};
-  std::memcpy(entry.name, at + kNameAt, kScopeNameSize);
-  entry.name[kScopeNameSize - 1] = '\0';
-  return entry;
-}
-
-std::uint64_t ScopeEntrySize(ScopeArea area, int number) {
-  const unsigned char* at = EntryAt(area, number);
-  return at ? Whole(GetLE32(at + kSizeHighAt), GetLE32(at + kSizeLowAt)) : 0;
-}
-
-int ScopeOrder(ScopeArea area, int rank) {
-  if (!WorkBlocks.CastBlock || rank < 0 || rank >= kScopeLimit || rank >= CountOf(area)) return -1;
-  // bounded: the block is shared, so a number may be anything.
-  const std::uint32_t number = GetLE32(OrderAt(area, rank));
-  return number < kScopeLimit ? static_cast<int>(number) : -1;
-}
 
 float ScopeFloat(std::uint64_t size) {
   return static_cast<float>(size);
@@ -232,6 +138,7 @@ std::uint64_t ScopeBytes(float size) {
 }
 
 void ScopeSplitPath() {
+  // kept: the colon of a drive is looked for in the first 10 bytes of a path.
   const void* colon = std::memchr(Scope.scopeFolder, ':', TextLength(Scope.scopeFolder, kColonWithin));
   const std::size_t drive =
       colon ? static_cast<std::size_t>(static_cast<const char*>(colon) - Scope.scopeFolder) + 1 : 0;
@@ -266,7 +173,7 @@ void ScopeFolderSize(const char* path) {
 
 void ScopeStepReset() {
   ScopeStepStop();
-  step = StepState{};
+  StateReset(Scope.step);
 }
 
 int ScopeDriveStep() {
@@ -274,7 +181,7 @@ int ScopeDriveStep() {
 }
 
 int ScopeFolderStep() {
-  if (!step.begun) Scope.folderTotal = 0.0F;
+  if (!Scope.step.begun) Scope.folderTotal = 0.0F;
   return Step(ScopeArea::Folder, Scope.scopeFolder);
 }
 
@@ -308,11 +215,11 @@ void ScopeFindFolder() {
 }
 
 void ScopeSortFolder() {
-  Sort(ScopeArea::Folder);
+  ScopeSort(ScopeArea::Folder, Scope.scopeFolderCount);
 }
 
 void ScopeSortDrive() {
-  Sort(ScopeArea::Drive);
+  ScopeSort(ScopeArea::Drive, Scope.scopeDriveCount);
 }
 
 void ScopeDiskSpace() {

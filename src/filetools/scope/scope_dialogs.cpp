@@ -48,11 +48,11 @@ bool StaticsOpen(WindowHandle dialog, bool barChart) {
   Reset(barChart);
   ScopeSplitPath();
   if (!barChart) {
-    Scope.scopeDriveCount = ScopeSearchRun(dialog, 1);
+    Scope.scopeDriveCount = ScopeSearchRun(dialog, kStepDriveSearch);
     if (Scope.scopeDriveCount < 0) return false;
     ScopeFindFolder();
   }
-  Scope.scopeFolderCount = ScopeSearchRun(dialog, 2);
+  Scope.scopeFolderCount = ScopeSearchRun(dialog, kStepFolderSearch);
   if (Scope.scopeFolderCount < 0) return false;
   ScopeSortFolder();
   if (!barChart) ScopeSortDrive();

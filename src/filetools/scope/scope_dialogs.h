@@ -1,6 +1,7 @@
 // The folder scope's dialogs, and what those of the statistics share.
 #pragma once
 
+#include "filetools/stepped_work.h"
 #include "platform/canvas.h"
 #include "platform/types.h"
 
@@ -9,10 +10,10 @@
 void FolderStaticsDlgRun(WindowHandle owner);
 void FolderStaticsDlg2Run(WindowHandle owner);
 
-// Runs the search of a progress mode, 1 or 2, under SerchDrvDlg or SerchFolderDlg.
+// Runs the search of the drive or of the folder, under SerchDrvDlg or SerchFolderDlg.
 // Returns the number of entries; negative if the user stopped it, there are too
 // many, other stepped work is running, or the dialog cannot be made.
-int ScopeSearchRun(WindowHandle owner, int mode);
+int ScopeSearchRun(WindowHandle owner, SteppedWork search);
 
 // The part of a statistics dialog that is drawn on: it is left to the code.
 Rect StaticsArea(WindowHandle dialog);

@@ -4,18 +4,16 @@
 #include <cstdlib>
 
 #include "filetools/scope/folder_scope.h"
+#include "filetools/scope/scope_tables.h"
 #include "filetools/scope/scope_unit.h"
 #include "services/text.h"
-
-ScopePie ScopePieDrive;
-ScopePie ScopePieFolder;
 
 namespace {
 
 constexpr float kTwelve = 1.5707964F;  // the angle of 12 o'clock
 constexpr float kPi = 3.1415927F;
 
-// bounded: with a full table nothing is added.
+// bounded: to a full table of slices nothing is added.
 void AddRow(ScopePie& pie, std::uint8_t kind, std::int32_t tag, const char* name, float size,
             std::uint64_t bytes) {
   if (pie.count >= kScopePieRows) return;
@@ -42,7 +40,7 @@ void AddComputed(ScopePie& pie, std::int32_t tag, const char* name, float size) 
 // table free. Returns the sum of their sizes on top of `sum`.
 float AddLargest(ScopePie& pie, ScopeArea area, int entries, int without, int wanted, int kept, float sum) {
   for (int rank = 0; rank < entries && wanted > 0 && pie.count < kScopePieRows - kept; ++rank) {
-    const int number = ScopeOrder(area, rank);
+    const int number = ScopeOrder(area, rank, entries);
     if (number < 0 || number == without) continue;
     AddEntry(pie, area, number, rank);
     sum += pie.rows[pie.count - 1].size;
@@ -53,7 +51,7 @@ float AddLargest(ScopePie& pie, ScopeArea area, int entries, int without, int wa
 
 int RankOf(ScopeArea area, int entries, int number) {
   int rank = 0;
-  while (rank < entries - 1 && ScopeOrder(area, rank) != number) ++rank;
+  while (rank < entries - 1 && ScopeOrder(area, rank, entries) != number) ++rank;
   return rank;
 }
 
@@ -102,6 +100,18 @@ void Place(ScopePie& pie) {
   }
 }
 
+// Where a slice crosses the vertical axis: with 6 o'clock inside it, or else 12 o'clock,
+// not as its begin or end.
+// settled: whether a slice crosses the vertical axis is decided by its angles; its end points
+// are whole pixels, and one that stands for the top may lie on either side.
+enum class Crossing { None, Below, Above };
+Crossing AxisCrossing(float begin, float end) {
+  constexpr float kEdge = 0.0001F;  // less than a pixel of the rim, more than the sums' rounding
+  const auto inside = [begin, end](float angle) { return begin + kEdge < angle && angle < end - kEdge; };
+  if (inside(kPi) || inside(3 * kPi)) return Crossing::Below;
+  return inside(2 * kPi) ? Crossing::Above : Crossing::None;
+}
+
 void Begin(ScopePie& pie, int cx, int cy, int radius) {
   pie.count = 0;
   pie.centre = {cx, cy};
@@ -111,7 +121,7 @@ void Begin(ScopePie& pie, int cx, int cy, int radius) {
 }  // namespace
 
 void ScopeBuildPieDrive(int wanted, int cx, int cy, int radius) {
-  ScopePie& pie = ScopePieDrive;
+  ScopePie& pie = Scope.drivePie;
   Begin(pie, cx, cy, radius);
   float sum = 0.0F;
   if (Scope.firstLevelIndex >= 0) {
@@ -133,7 +143,7 @@ void ScopeBuildPieDrive(int wanted, int cx, int cy, int radius) {
 }
 
 void ScopeBuildPieFolder(int wanted, int cx, int cy, int radius) {
-  ScopePie& pie = ScopePieFolder;
+  ScopePie& pie = Scope.folderPie;
   Begin(pie, cx, cy, radius);
   if (Scope.firstLevelIndex < 0 && Scope.folderIndex < 0) return;
   if (Scope.folderIndex < 0) Scope.chosenTotal = Scope.firstLevelTotal;
@@ -152,17 +162,19 @@ void ScopePieLeaders(const ScopePie& pie, const ScopeLeaderRule& rule,
   int lines = 0;  // on the side in work
   bool leftBegun = false;
   int lastY = 0;
+  float turned = 0.0F;  // clockwise from 12 o'clock to the slice in work
   for (int i = 0; i < pie.count; ++i) {
     const ScopePieRow& row = pie.rows[i];
     int x = (row.x1 + row.x2) / 2;
     int y = (row.y1 + row.y2) / 2;
     const bool right = i < rule.rightRows || (row.x1 > pie.centre.x && row.x2 > pie.centre.x);
     // A slice that crosses the vertical axis is met at its rim, below or above.
-    const bool crossesBelow = row.x2 > pie.centre.x && row.x1 < pie.centre.x;
-    const bool crossesAbove = row.x2 < pie.centre.x && row.x1 > pie.centre.x;
-    if (crossesBelow || crossesAbove) {
+    const float begin = row.tag == kTagChosen ? 0.0F : turned;
+    const Crossing crossing = AxisCrossing(begin, begin + row.sweep);
+    if (row.tag != kTagChosen) turned += row.sweep;
+    if (crossing != Crossing::None) {
       x = pie.centre.x;
-      y = corner.y + (crossesBelow ? 198 : 2);
+      y = corner.y + (crossing == Crossing::Below ? 198 : 2);
     }
     if (!right && !leftBegun) {
       leftBegun = true;

@@ -16,7 +16,8 @@ constexpr UnitStep kSteps[] = {
 };
 constexpr int kUnits = 4;
 
-// kept: the hundredths are shown as a plain number, so that 1.05 reads as "1.5".
+// kept: the hundredths of a size or share are shown as a plain number, so that 1.05 reads as
+// "1.5".
 int Hundredths(float value, int whole) {
   return ScopeWhole((value - static_cast<float>(whole)) * 100.0F);
 }
@@ -30,12 +31,14 @@ int ScopeWhole(float value) {
 
 ScopeAmount ScopeUnit(float size) {
   int unit = 0;
+  // kept: a size of exactly 1024 of a unit is still told in the unit below.
   while (unit < kUnits - 1 && size > kSteps[unit].upTo) ++unit;
   const float value = size / kSteps[unit].divisor;
   const int whole = ScopeWhole(value);
   return {unit, whole, Hundredths(value, whole)};
 }
 
+// settled: a drive that does not tell its room makes every share 0.
 float ScopeRatio(float size, float total) {
   return total > 0.0F ? size / total : 0.0F;
 }

@@ -1,5 +1,6 @@
-// DesktopIconSetDlg, "デスクトップ カバー設定": a template without logic. The list
-// stays empty and only " 終了" works.
+// DesktopIconSetDlg, "デスクトップ カバー設定".
+// kept: the dialog of the desktop's covers has no logic; its list stays empty, and only the
+// button that closes it works.
 
 #include "filetools/tidy/tidy_commands.h"
 #include "resources/filetools_ids.h"

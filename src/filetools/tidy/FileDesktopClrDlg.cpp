@@ -1,6 +1,6 @@
-// FileDesktopClrDlg, "デスクトップの整理": runs desktop tidy. The buttons that open the
-// tidy folder and bring its content back, the two check boxes and the combo box have
-// no function.
+// FileDesktopClrDlg, "デスクトップの整理": runs desktop tidy.
+// kept: in the dialog of desktop tidy the buttons that open the tidy folder and bring its
+// content back, the two check boxes and the combo box have no function.
 
 #include "filetools/tidy/desktop_tidy.h"
 #include "filetools/tidy/tidy_commands.h"

@@ -4,17 +4,22 @@
 
 #include "platform/dialog.h"
 #include "platform/file.h"
+#include "services/state.h"
 #include "services/text.h"
 
 TidyState Tidy;
 
 namespace {
 
-constexpr char kDefaultName[] = "整理用フォルダー";
-
 // Goes to a folder, which is made if it is not there. False if that fails too.
+// kept: tidying the desktop leaves the tidy folder as the current one.
+// settled: a tidy folder that was made becomes the current one like one that was there, so
+// that the folder of an earlier run is free to be moved.
 bool EnsureFolder(const char* path) {
-  return FolderSetCurrent(path) || FolderCreate(path);
+  if (FolderSetCurrent(path)) return true;
+  if (!FolderCreate(path)) return false;
+  FolderSetCurrent(path);
+  return true;
 }
 
 BoxAnswer Ask(WindowHandle owner, const char* format, const char* name, const char* caption) {
@@ -23,7 +28,7 @@ BoxAnswer Ask(WindowHandle owner, const char* format, const char* name, const ch
   return MessageBoxRun(owner, text, caption, BoxButtons::YesNo, BoxIcon::Question);
 }
 
-// Moves an item of the desktop into its folder. bounded: paths that do not fit are
+// Moves an item of the desktop into its folder. bounded: an item whose path does not fit is
 // not moved.
 bool MoveItem(const char* name) {
   TextCopy(Tidy.tidyTargetPath, sizeof Tidy.tidyTargetPath, Tidy.tidyBasePath);
@@ -44,7 +49,7 @@ bool MoveItem(const char* name) {
 }  // namespace
 
 void TidyReset() {
-  TextCopy(Tidy.tidyFolderName, sizeof Tidy.tidyFolderName, kDefaultName);
+  StateReset(Tidy);
 }
 
 bool TidyNthItem(int n, char (&name)[260]) {
@@ -68,10 +73,13 @@ bool TidyNthItem(int n, char (&name)[260]) {
 int TidyRun(WindowHandle owner) {
   Tidy.desktopPath[0] = '\0';
   if (!FolderDesktop(Tidy.desktopPath, kTidyPathSize - kTidyNameSize - 1)) Tidy.desktopPath[0] = '\0';
-  if (Tidy.tidyFolderName[0] == '\0') TidyReset();
-  // Without a desktop there is nothing to find, and no place for the folder.
+  if (Tidy.tidyFolderName[0] == '\0') {
+    TextCopy(Tidy.tidyFolderName, sizeof Tidy.tidyFolderName, TidyState{}.tidyFolderName);
+  }
+  // settled: without a desktop there is nothing to find, and no tidy folder is made.
   if (Tidy.desktopPath[0] == '\0') return 0;
   TextFormat(Tidy.tidyBasePath, sizeof Tidy.tidyBasePath, "%s\\%s", Tidy.desktopPath, Tidy.tidyFolderName);
+  // kept: a tidy folder that cannot be made ends the run without a word.
   if (!EnsureFolder(Tidy.tidyBasePath)) return -1;
   char name[260];
   int n = 0;
@@ -107,8 +115,9 @@ int TidyClassify(const char* name, std::uint32_t attributes, const char** extens
   return length == 0 ? 0 : length + 1;
 }
 
-// kept: kind 2 is an extension of one letter, so that the shortcuts' folder is out
-// of reach and files with longer extensions stay in the tidy folder itself.
+// kept: the tidying by extension, which nothing switches on, gives folders to extensions of
+// one letter only; its folder of shortcuts is out of reach, and files with longer extensions
+// stay in the tidy folder itself.
 void TidyTargetFolder(int kind, const char* extension) {
   TextCopy(Tidy.tidyTargetPath, sizeof Tidy.tidyTargetPath, Tidy.tidyBasePath);
   char part[kTidyNameSize] = "";

@@ -10,7 +10,7 @@ inline constexpr int kTidyNameSize = 256;
 inline constexpr int kTidyPathSize = 600;
 
 struct TidyState {
-  char tidyFolderName[kTidyNameSize] = "整理用フォルダー";  // kept for the run of the program
+  char tidyFolderName[kTidyNameSize] = "整理用フォルダー";  // lasts as long as the program runs
   char desktopPath[kTidyPathSize] = {};
   char tidyBasePath[kTidyPathSize] = {};    // the tidy folder
   char tidyTargetPath[kTidyPathSize] = {};  // the folder that takes the next item
@@ -19,12 +19,13 @@ struct TidyState {
 };
 extern TidyState Tidy;
 
-// Sets the folder name's default, at the program's start.
+// Makes Tidy what it is at the program's start.
 void TidyReset();
 
-// Tidies the desktop; the boxes belong to `owner`. 0: through with all items, -1:
-// the tidy folder cannot be made, -2: stopped by the user after a failed move.
-// The tidy folder becomes the current folder.
+// Tidies the desktop; the boxes belong to `owner`. 0: through with all items, or there
+// is no desktop; -1: the tidy folder cannot be made; -2: stopped by the user after a
+// failed move. But for those without a desktop and with -1, the tidy folder is the
+// current folder then, if it lets itself be gone to.
 int TidyRun(WindowHandle owner);
 
 // The n-th item of the desktop, from 0, that does not begin with a full stop: its

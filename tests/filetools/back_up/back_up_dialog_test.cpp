@@ -172,7 +172,7 @@ TEST_F(BackUpDialogTest, ARunCopiesOneFileATickAndTellsTheEnd) {
     EXPECT_EQ(ControlText(TopDialog(), 2), "中止");
     EXPECT_EQ(BackUpRun.hBackUpDlg, TopDialog());
     EXPECT_TRUE(BackUpRun.BackUpActive);
-    StepTick();
+    MainTick();
     EXPECT_TRUE(FileThere("C:\\mirrell\\copies\\a"));
     EXPECT_FALSE(FileThere("C:\\mirrell\\copies\\b"));
   });
@@ -197,7 +197,7 @@ TEST_F(BackUpDialogTest, ARunWithAMissingSourceStopsThereWithTheCopyError) {
   ThenTicks(1);
   ExpectBox("ファイルをコピーできません", "ファイルバックアップエラー", BoxAnswer::Ok, [] {
     EXPECT_FALSE(BackUpRun.BackUpActive);
-    StepTick();  // the run is over, the tick leaves it alone
+    MainTick();  // the run is over, the tick leaves it alone
   });
   ThenTicks(1);
   Then([] { EXPECT_EQ(TopDialog(), Dialogs.hMenuDlg); });
@@ -214,7 +214,7 @@ TEST_F(BackUpDialogTest, AStoppedRunKeepsWhatWasCopiedWithoutAWord) {
   ThenPress(2);
   Then([] {
     EXPECT_EQ(BackUpRun.hBackUpDlg, nullptr);
-    StepTick();
+    MainTick();
     EXPECT_EQ(TopDialog(), Dialogs.hMenuDlg);
   });
   RunDialog();
@@ -385,7 +385,7 @@ TEST_F(BackUpDialogTest, ASettingsFileThatCannotBeMadeIsTold) {
 TEST_F(BackUpDialogTest, AShortWriteIsToldByNoBox) {
   ThenPress(IDC_BACKUP_SAVE);
   Then([] {
-    FaultArm(FaultKind::Write, 3);
+    FaultArm(FaultKind::Write, 2);
     Type(TopDialog(), kPickNameId, "week");
     Press(TopDialog(), 1);
   });

@@ -11,7 +11,7 @@ class BackUpFixture : public FileToolsTest {
  protected:
   void SetUp() override {
     FileToolsTest::SetUp();
-    std::memset(&BackUp, 0, sizeof BackUp);
+    BackUpReset();
     MakeFolder("C:\\mirrell\\copies");
   }
 

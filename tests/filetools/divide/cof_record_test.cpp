@@ -2,8 +2,17 @@
 #include "filetools/divide/cof_record.h"
 
 #include "tests/filetools/divide/divide_fixture.h"
+#include "tests/support/record_check.h"
 
 namespace {
+
+TEST(CofRecordRecord, LiesAsTold) {
+  RecordCheck<FileDivideState>();
+  EXPECT_EQ(RecordOffset<&FileDivideState::keyBlock>(), 1);
+  RecordCheck<CofRecord>();
+  EXPECT_EQ(RecordOffset<&CofRecord::value>(), 4);
+  EXPECT_EQ(RecordOffset<&CofRecord::name>(), 8);
+}
 
 TEST_F(DivideTest, ARecordTakesTheNameWithoutItsFolder) {
   const int file = FileCreate("C:\\mirrell\\r");
@@ -54,11 +63,11 @@ TEST_F(DivideTest, AHugeCountFailsAtTheFirstRecordThatIsNotThere) {
   EXPECT_EQ(Target("t"), "abc");
 }
 
-TEST_F(DivideTest, ANegativePieceSizeMovesNothingAndAHugeOneFails) {
+TEST_F(DivideTest, APieceSizeThatIsNegativeOrHugeFails) {
   PutFile("C:\\mirrell\\pieces\\p", "abc");
   for (const std::uint32_t size : {0x80000000U, 0xFFFFFFFFU}) {
     PutFile(kCof, Head() + Record(0, 1, "t") + Record(1, size, "p"));
-    EXPECT_EQ(Restore(), 0);
+    EXPECT_EQ(Restore(), -11);
     EXPECT_EQ(Target("t"), "");
   }
   PutFile(kCof, Head() + Record(0, 1, "t") + Record(1, 0x7FFFFFFF, "p"));

@@ -1,5 +1,9 @@
 // FileDivideSetDlg, the choice, and FileDivideSetDlg2, a division, with its progress.
+#include <filesystem>
+#include <map>
+
 #include "filetools/stepped_work.h"
+#include "platform/headless/resource_file.h"
 #include "resources/filetools_ids.h"
 #include "services/commands.h"
 #include "services/data_file.h"
@@ -142,7 +146,7 @@ TEST_F(DivideDialogTest, ADivisionRunsAPieceATickAndTellsTheEnd) {
     EXPECT_EQ(Stepped.stepCounter, 2);
     EXPECT_EQ(FolderNames(kPieces), (Rows{"part0.cof"}));
     EXPECT_TRUE(TextStands(Dialogs.hMenuDlg, "3 Byte", 210, 180));
-    StepTick();
+    MainTick();
     EXPECT_EQ(Stepped.stepCounter, 3);
     EXPECT_EQ(FolderNames(kPieces), (Rows{"part0.cof", "part1.div"}));
   });
@@ -165,10 +169,10 @@ TEST_F(DivideDialogTest, AStepCommandUnderTheLastBoxEndsTheDialogThere) {
   InPress(IDC_DIVIDE_RUN);
   InTicks(1);
   ExpectBox("ファイル分割を終了しました", "分割を正常終了", BoxAnswer::Ok, [] {
-    StepTick();
+    MainTick();
     EXPECT_EQ(Stepped.progressMode, 0);
     EXPECT_EQ(Stepped.hSearchDlg, nullptr);
-    StepTick();
+    MainTick();
   });
   InTicks(1);
   In([] { EXPECT_EQ(TopDialog(), Dialogs.hMenuDlg); });
@@ -292,6 +296,46 @@ TEST_F(DivideDialogTest, ASourceThatCannotBeOpenedGivesTwoBoxes) {
   for (const Box& box : BoxesShown()) EXPECT_EQ(box.icon, BoxIcon::Exclamation);
 }
 
+TEST_F(DivideDialogTest, ASourceOfTwoGigabytesAndMoreIsRefusedBeforeAnythingIsWritten) {
+  constexpr std::uintmax_t kTwo = 2147483648U;
+  // As picked and as it is when the run is asked for.
+  const std::pair<std::uintmax_t, std::uintmax_t> sizes[] = {
+      {kTwo, kTwo}, {2 * kTwo, 2 * kTwo}, {2 * kTwo + 10, 2 * kTwo + 10}, {kTwo, 10}, {10, kTwo}};
+  Prepare(Simple(10, 2, "abcd"));
+  const std::string path = PosixPath(FileDivide.sourcePath);
+  for (const auto& [picked, now] : sizes) {
+    In([&path, picked = picked, now = now] {
+      std::filesystem::resize_file(path, picked);
+      FileDivide.sourceSize = DivFileSize(FileDivide.sourcePath);
+      std::filesystem::resize_file(path, now);
+    });
+    ExpectBox("分割ソースファイルが大きすぎます(2GB未満のファイルを分割できます)", kErrorCaption);
+    InPress(IDC_DIVIDE_RUN);
+    In([] { EXPECT_EQ(TopDialog(), Dialogs.hMenuDlg) << "no keyword is asked for"; });
+  }
+  RunDivide();
+  EXPECT_EQ(FolderNames(kPieces), Rows());
+}
+
+TEST_F(DivideDialogTest, ASourceOfLessThanTwoGigabytesIsNotTooLarge) {
+  Prepare(Simple(10, 2));
+  std::filesystem::resize_file(PosixPath(FileDivide.sourcePath), 2147483647U);
+  FileDivide.sourceSize = DivFileSize(FileDivide.sourcePath);
+  EXPECT_FALSE(DivSourceTooLarge());
+}
+
+// The desktop's font makes a unit of 17 / 8 pixels of the height.
+TEST_F(DivideDialogTest, TheSizesStandBesideTheirLabelsOnTheDesktop) {
+  ResourceSet set;
+  ASSERT_EQ(ResourceLoad(MIRRELL_RES_FILE, &set), nullptr);
+  std::map<std::string, int> tops;
+  for (const ResourceControl& control : set.dialogs.at(IDD_FileDivideSetDlg2).controls) {
+    tops[control.text] = control.y * 17 / 8;
+  }
+  EXPECT_NEAR(tops.at("ソースファイルサイス: "), 136, 1);
+  EXPECT_NEAR(tops.at("分割サイズ: "), 180, 1);
+}
+
 TEST_F(DivideDialogTest, AJoiningFileThatCannotBeMadeGivesTwoBoxes) {
   Prepare(Simple(10, 2));
   MakeFolder(kCof);
@@ -336,7 +380,7 @@ TEST_F(DivideDialogTest, AFileErrorOfAnotherFeatureDoesNotFailTheRun) {
   InPress(IDC_DIVIDE_RUN);
   In([] {
     FileResult.FileStatus = -1;
-    StepTick();
+    MainTick();
     FileResult.FileStatus = -2;
   });
   ExpectBox("ファイル分割を終了しました", "分割を正常終了");

@@ -78,8 +78,8 @@ TEST_F(FaultTest, EachFileCallOfADivisionFailingInTurn) {
           {FaultKind::Create, {-100, -101, -101}},
           {FaultKind::Delete, {0, 0, 0}},
           {FaultKind::Read, {2, 2}},
-          // Flag, key block, head record; then a piece and its record, twice.
-          {FaultKind::Write, {-11, -11, -11, -10, -11, -10, -11}},
+          // Flag and key block, head record; then a piece and its record, twice.
+          {FaultKind::Write, {-11, -11, -10, -11, -10, -11}},
       },
       false);
 }
@@ -91,8 +91,8 @@ TEST_F(FaultTest, EachFileCallOfARestoreFailingInTurn) {
           {FaultKind::Open, {-1, 0, -102, -1, -1}},
           {FaultKind::Create, {-101}},
           {FaultKind::Delete, {0}},
-          // Flag, key block, head record; then a record and its piece, twice.
-          {FaultKind::Read, {-2, -2, -11, -11, -11, -11, -11}},
+          // Flag and key block, head record; then a record and its piece, twice.
+          {FaultKind::Read, {-2, -11, -11, -11, -11, -11}},
           {FaultKind::Write, {-11, -11}},
       },
       true);
@@ -122,7 +122,7 @@ TEST_F(FaultTest, FilesLeftOpenAreClosedByTheNextRun) {
 TEST_F(FaultTest, AStoppedRunKeepsWhatWasMadeAndClosesItsFiles) {
   const int before = DiagnosticsLive().files;
   Prepare(Simple(30, 3));
-  Stepped.stepCounter = 1;
+  SteppedNext(1);
   EXPECT_EQ(FileDivideStep(), 0);
   EXPECT_EQ(Stepped.stepCounter, 2);
   EXPECT_EQ(FileDivideStep(), 0);

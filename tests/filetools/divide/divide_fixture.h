@@ -17,7 +17,7 @@ class DivideFixture : public FileToolsTest {
  protected:
   void SetUp() override {
     FileToolsTest::SetUp();
-    FileDivide = FileDivideState{};
+    FileDivideReset();
     MakeFolder(kPieces);
     MakeFolder(kRestored);
   }
@@ -30,9 +30,9 @@ class DivideFixture : public FileToolsTest {
   static void DropFiles() {
     FaultClear();
     FileDivide.sourcePath[0] = '\0';
-    Stepped.stepCounter = 1;
+    SteppedNext(1);
     FileDivideStep();
-    Stepped.stepCounter = 0;
+    SteppedNext(0);
     FileResult.FileStatus = 0;
   }
 
@@ -75,7 +75,7 @@ class DivideFixture : public FileToolsTest {
 
   // Steps until the run ends or fails; the last result.
   static int RunSteps(bool restore, const char* cof = kCof) {
-    Stepped.stepCounter = 1;
+    SteppedNext(1);
     for (;;) {
       const int result = restore ? FileRestoreStep(cof) : FileDivideStep();
       EXPECT_EQ(result, FileResult.FileStatus);
@@ -107,10 +107,6 @@ class DivideTest : public DivideFixture {};
 // A user who divides and restores through the dialogs.
 class DivideDialogTest : public DivideFixture {
  protected:
-  void SetUp() override {
-    DivideFixture::SetUp();
-    Drawing.FaceBrush = BrushFace();
-  }
   // Opens FileDivideSetDlg2 or 3 through the choice, runs the steps that wait and
   // closes it.
   static void RunDivide() { RunChoice(IDC_DIVIDE_CHOOSE_DIVIDE); }
@@ -136,7 +132,7 @@ class DivideDialogTest : public DivideFixture {
     });
   }
   static void InTicks(int count) {
-    for (int i = 0; i < count; ++i) In(StepTick);
+    for (int i = 0; i < count; ++i) In(MainTick);
   }
   static void InType(int id, const std::string& text) {
     In([id, text] { Type(TopDialog(), id, text.c_str()); });

@@ -4,12 +4,13 @@
 
 namespace {
 
-// Names that lead elsewhere, or nowhere.
-const Rows kBadNames = {"",          "..\\out",   "\\out",    "C:\\mirrell\\out", "C:out",   "a:stream",
-                        "../out",    "/out",      "sub\\out", "sub/out",          "表\\out", "\x83\x83\\out",
-                        "\xA1\\out", "\x80\\out", "out\\",    "\x81/out",         "\x81:out"};
+// Names that lead elsewhere, to a device, or nowhere.
+const Rows kBadNames = {
+    "",         "..\\out", "\\out",   "C:\\mirrell\\out", "C:out",     "a:stream",  "../out",  "/out",
+    "sub\\out", "sub/out", "表\\out", "\x83\x83\\out",    "\xA1\\out", "\x80\\out", "out\\",   "\x81/out",
+    "\x81:out", "NUL",     "con",     "PRN.txt",          "aux",       "COM1",      "lpt9.bin"};
 // Names that look so, but whose backslash is the second half of a character.
-const Rows kGoodNames = {"out", "表", "十表.txt", "\xB1\x95\x5C", "a b", "..a"};
+const Rows kGoodNames = {"out", "表", "十表.txt", "\xB1\x95\x5C", "a b", "..a", "NULL", "COM0"};
 
 class RestoreNamesTest : public DivideFixture {
  protected:

@@ -148,7 +148,7 @@ TEST_F(FolderScopeDialogTest, StopInTheDriveSearchEndsTheStatistics) {
   MakeTree();
   Choose("C:\\data");
   Then([] {
-    CommandSendTo(Stepped.hSearchDlg, Command::WorkStep);
+    MainTick();
     EXPECT_EQ(DiagnosticsLive().searches, 1);
     Press(TopDialog(), 2);
   });
@@ -165,7 +165,7 @@ TEST_F(FolderScopeDialogTest, StopInTheFolderSearchEndsTheStatistics) {
   Choose("C:\\data");
   Then(TicksOfSearch);
   Then([] {
-    CommandSendTo(Stepped.hSearchDlg, Command::WorkStep);
+    MainTick();
     SendClose(TopDialog());
   });
   FolderStaticsDlgRun(nullptr);
@@ -199,19 +199,19 @@ TEST_F(FolderScopeDialogTest, AStepBehindTheEndOfASearchIsPassedOver) {
     CommandSendTo(dialog, Command::WorkStep);
     SendCommand(dialog, 2);
   });
-  EXPECT_EQ(ScopeSearchRun(nullptr, 1), 1);
+  EXPECT_EQ(ScopeSearchRun(nullptr, kStepDriveSearch), 1);
   EXPECT_EQ(Stepped.progressMode, 0);
 }
 
 TEST_F(FolderScopeDialogTest, ASecondSearchWhileOneIsRunningIsRefused) {
   Choose("C:\\");
   Then([] {
-    CommandSendTo(Stepped.hSearchDlg, Command::WorkStep);
-    EXPECT_EQ(ScopeSearchRun(nullptr, 2), -1);
+    MainTick();
+    EXPECT_EQ(ScopeSearchRun(nullptr, kStepFolderSearch), -1);
     EXPECT_EQ(Stepped.progressMode, 1);
     TicksOfSearch();
   });
-  EXPECT_EQ(ScopeSearchRun(nullptr, 1), 1);  // "mirrell"
+  EXPECT_EQ(ScopeSearchRun(nullptr, kStepDriveSearch), 1);  // "mirrell"
 }
 
 TEST_F(FolderScopeDialogTest, ASecondScopeWhileOneIsOpenIsRefused) {

@@ -30,7 +30,8 @@ class FolderScopeTest : public ScopeFixture {
 // --- Records.
 
 TEST_F(FolderScopeTest, AnEntryLiesAtItsOffsetsInItsArea) {
-  ScopeEntry entry{0x01020304, 0x1112131415161718, 0x2122232425262728, 0x31323334, 0x41424344, "abc"};
+  const ScopeEntry entry{
+      0x01020304, {0x15161718, 0x11121314}, {0x25262728, 0x21222324}, 0x31323334, 0x41424344, "abc", {}};
   ScopeEntryPut(ScopeArea::Drive, 2, entry);
   const unsigned char* at = WorkBlocks.ScopeBlock + 2000000 + 2 * 644;
   EXPECT_EQ(GetLE32(at), 0x01020304U);
@@ -42,14 +43,14 @@ TEST_F(FolderScopeTest, AnEntryLiesAtItsOffsetsInItsArea) {
   EXPECT_EQ(GetLE32(at + 24), 0x41424344U);
   EXPECT_STREQ(reinterpret_cast<const char*>(at + 28), "abc");
   const ScopeEntry back = ScopeEntryGet(ScopeArea::Drive, 2);
-  EXPECT_EQ(back.creationTime, 0x1112131415161718U);
-  EXPECT_EQ(back.lastWriteTime, 0x2122232425262728U);
+  EXPECT_EQ(back.creationTime[1], 0x11121314U);
+  EXPECT_EQ(back.lastWriteTime[0], 0x25262728U);
   EXPECT_EQ(ScopeEntrySize(ScopeArea::Drive, 2), 0x3132333441424344U);
   EXPECT_EQ(ScopeEntrySize(ScopeArea::Folder, 2), 0U);
 }
 
 TEST_F(FolderScopeTest, TheLastEntryFitsAndTheOneBehindIsRefused) {
-  ScopeEntry entry{16, 1, 2, 3, 4, "last"};
+  const ScopeEntry entry{16, {1, 1}, {2, 2}, 3, 4, "last", {}};
   ScopeEntryPut(ScopeArea::Folder, kScopeLimit - 1, entry);
   EXPECT_STREQ(ScopeEntryGet(ScopeArea::Folder, kScopeLimit - 1).name, "last");
   const Names before(1, std::string(reinterpret_cast<char*>(WorkBlocks.ScopeBlock), kScopeBlockSize));
@@ -63,13 +64,13 @@ TEST_F(FolderScopeTest, TheLastEntryFitsAndTheOneBehindIsRefused) {
 TEST_F(FolderScopeTest, AnOrderThatAnotherUseOfTheBlockHasOverwrittenIsNoEntry) {
   Scope.scopeFolderCount = 3;
   std::memset(WorkBlocks.CastBlock, 0xFF, kCastBlockSize);
-  EXPECT_EQ(ScopeOrder(ScopeArea::Folder, 0), -1);
+  EXPECT_EQ(ScopeOrder(ScopeArea::Folder, 0, Scope.scopeFolderCount), -1);
   PutLE32(WorkBlocks.CastBlock, kScopeLimit);
-  EXPECT_EQ(ScopeOrder(ScopeArea::Folder, 0), -1);
+  EXPECT_EQ(ScopeOrder(ScopeArea::Folder, 0, Scope.scopeFolderCount), -1);
   PutLE32(WorkBlocks.CastBlock, kScopeLimit - 1);
-  EXPECT_EQ(ScopeOrder(ScopeArea::Folder, 0), kScopeLimit - 1);
-  EXPECT_EQ(ScopeOrder(ScopeArea::Folder, 3), -1);
-  EXPECT_EQ(ScopeOrder(ScopeArea::Folder, -1), -1);
+  EXPECT_EQ(ScopeOrder(ScopeArea::Folder, 0, Scope.scopeFolderCount), kScopeLimit - 1);
+  EXPECT_EQ(ScopeOrder(ScopeArea::Folder, 3, Scope.scopeFolderCount), -1);
+  EXPECT_EQ(ScopeOrder(ScopeArea::Folder, -1, Scope.scopeFolderCount), -1);
 }
 
 TEST_F(FolderScopeTest, BytesAreTheWholePartOfASize) {
@@ -219,9 +220,12 @@ TEST_F(FolderScopeTest, AMadeTreeOfThreeThousandEntriesHasItsKnownSize) {
   SearchFolder();
   ASSERT_EQ(Scope.scopeFolderCount, 30);
   // f29 holds 29 x 99 x 99 + (0 + ... + 98).
-  EXPECT_STREQ(ScopeEntryGet(ScopeArea::Folder, ScopeOrder(ScopeArea::Folder, 0)).name, "f29");
-  EXPECT_EQ(ScopeEntrySize(ScopeArea::Folder, ScopeOrder(ScopeArea::Folder, 0)), 289080U);
-  EXPECT_EQ(ScopeEntrySize(ScopeArea::Folder, ScopeOrder(ScopeArea::Folder, 29)), 4851U);
+  EXPECT_STREQ(
+      ScopeEntryGet(ScopeArea::Folder, ScopeOrder(ScopeArea::Folder, 0, Scope.scopeFolderCount)).name, "f29");
+  EXPECT_EQ(ScopeEntrySize(ScopeArea::Folder, ScopeOrder(ScopeArea::Folder, 0, Scope.scopeFolderCount)),
+            289080U);
+  EXPECT_EQ(ScopeEntrySize(ScopeArea::Folder, ScopeOrder(ScopeArea::Folder, 29, Scope.scopeFolderCount)),
+            4851U);
 }
 
 // --- Steps.
@@ -384,15 +388,20 @@ TEST_F(FolderScopeTest, FindsNoFolderWithFewerThanTwoLevelsOrOfAnotherName) {
 TEST_F(FolderScopeTest, SortsByBothHalvesOfTheSizeWithoutASign) {
   const std::uint64_t sizes[] = {5, 0x8000000000000000U, 0xFFFFFFFF, 0x100000000, 5, 0x80000000};
   for (int n = 0; n < 6; ++n) {
-    ScopeEntryPut(
-        ScopeArea::Drive, n,
-        {0, 0, 0, static_cast<std::uint32_t>(sizes[n] >> 32U), static_cast<std::uint32_t>(sizes[n]), ""});
+    ScopeEntryPut(ScopeArea::Drive, n,
+                  {0,
+                   {},
+                   {},
+                   static_cast<std::uint32_t>(sizes[n] >> 32U),
+                   static_cast<std::uint32_t>(sizes[n]),
+                   "",
+                   {}});
   }
   Scope.scopeDriveCount = 6;
   ScopeSortDrive();
   const int expected[] = {1, 3, 2, 5, 0, 4};
   for (int rank = 0; rank < 6; ++rank) {
-    EXPECT_EQ(ScopeOrder(ScopeArea::Drive, rank), expected[rank]) << rank;
+    EXPECT_EQ(ScopeOrder(ScopeArea::Drive, rank, Scope.scopeDriveCount), expected[rank]) << rank;
     EXPECT_EQ(GetLE32(WorkBlocks.CastBlock + 500000 + rank * 4), static_cast<std::uint32_t>(expected[rank]));
   }
 }

@@ -68,7 +68,7 @@ TEST_F(FolderScopeDialogTest, ABarRunAfterAPieRunReadsNoEntriesOfTheDrive) {
   ASSERT_GT(Scope.scopeDriveCount, 0);
   Bars("C:\\data\\photos", [] {
     EXPECT_EQ(Scope.scopeDriveCount, 0);
-    EXPECT_EQ(ScopePieFolder.count, 0);
+    EXPECT_EQ(Scope.folderPie.count, 0);
     ExpectTexts({{"p1.bin", 20, 180}, {"62.50%", 512, 180}, {"(640.0 K B)", 560, 180}});
   });
 }

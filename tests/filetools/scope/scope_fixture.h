@@ -1,5 +1,5 @@
-// What the folder scope works on: a drive C: whose room is told, the two work
-// blocks, the shared drawing objects, and a hand that drives the searches.
+// What the folder scope works on: the program, started without data files, a drive C:
+// whose room is told, and a hand that drives the searches.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -11,6 +11,7 @@
 #include "filetools/scope/folder_scope.h"
 #include "filetools/scope/scope_bars.h"
 #include "filetools/scope/scope_pie.h"
+#include "filetools/scope/scope_tables.h"
 #include "filetools/stepped_work.h"
 #include "platform/file.h"
 #include "platform/memory.h"
@@ -21,7 +22,8 @@
 #include "services/screen_figures.h"
 #include "services/text.h"
 #include "services/work_blocks.h"
-#include "tests/support/desktop.h"
+#include "shell/tick.h"
+#include "tests/support/program.h"
 
 // A file of that many bytes, without a byte on the disk.
 inline void MakeSized(const std::string& path, std::uintmax_t size) {
@@ -55,46 +57,19 @@ inline std::vector<std::string> SearchOrder(const std::string& folder) {
   return names;
 }
 
-class ScopeFixture : public DesktopTest {
+class ScopeFixture : public ProgramTest {
  protected:
   void SetUp() override {
-    DesktopTest::SetUp();
-    WorkBlocks.CastBlock = static_cast<unsigned char*>(MemoryAllocate(kCastBlockSize));
-    WorkBlocks.ScopeBlock = static_cast<unsigned char*>(MemoryAllocate(kScopeBlockSize));
-    for (int i = 0; i < kBrushCount; ++i) Drawing.Brushes[i] = BrushCreate(kBrushColours[i]);
-    Drawing.FaceBrush = BrushFace();
-    Screen.CharWidth = 8;
+    ProgramTest::SetUp();
+    ScopeReset();
+    SteppedReset();
+    StartProgram();
     PosixDiskSpaceSet(8388608, 1048576);
-    ScopeStepReset();
-    Scope.scopeFolder[0] = '\0';
-    Scope.scopeFolderCount = 0;
-    Scope.scopeDriveCount = 0;
-    Scope.firstLevelIndex = -1;
-    Scope.folderIndex = -1;
-    Scope.folderTotal = 0;
-    Scope.driveTotal = 0;
-    Scope.driveFree = 0;
-    Scope.firstLevelTotal = 1;
-    Scope.chosenTotal = 0;
-    Scope.areaTotal = 0;
-    Scope.scopeOverflow = false;
-    Scope.scopeBarChart = false;
-    ScopePieDrive.count = 0;
-    ScopePieFolder.count = 0;
   }
   void TearDown() override {
-    ScopeStepReset();
+    ScopeReset();
     PosixDiskSpaceSet(0, 0);
-    for (BrushHandle& brush : Drawing.Brushes) {
-      BrushDelete(brush);
-      brush = nullptr;
-    }
-    Drawing.FaceBrush = nullptr;
-    MemoryFree(WorkBlocks.CastBlock);
-    MemoryFree(WorkBlocks.ScopeBlock);
-    WorkBlocks.CastBlock = nullptr;
-    WorkBlocks.ScopeBlock = nullptr;
-    DesktopTest::TearDown();
+    ProgramTest::TearDown();
   }
 
   static void Choose(const std::string& folder) {
@@ -125,7 +100,7 @@ class ScopeFixture : public DesktopTest {
   static std::vector<std::string> Ranked(ScopeArea area, int count) {
     std::vector<std::string> names;
     for (int rank = 0; rank < count; ++rank) {
-      names.emplace_back(ScopeEntryGet(area, ScopeOrder(area, rank)).name);
+      names.emplace_back(ScopeEntryGet(area, ScopeOrder(area, rank, count)).name);
     }
     return names;
   }
@@ -134,7 +109,7 @@ class ScopeFixture : public DesktopTest {
   static void TicksOfSearch() {
     while (Stepped.hSearchDlg) {
       ASSERT_TRUE(Stepped.progressMode == 1 || Stepped.progressMode == 2);
-      CommandSendTo(Stepped.hSearchDlg, Command::WorkStep);
+      MainTick();
     }
   }
 };

@@ -77,7 +77,7 @@ TEST_F(FolderScopeDialogTest, LeaderLinesStandBesideTheSlices) {
     ExpectLine(lines[3], 230, 370, 270);
     ExpectLine(lines[4], 160, 398, 40);
     ExpectLine(lines[5], 124, 214, 40);
-    ExpectLine(lines[6], 530, 285, 590);
+    ExpectLine(lines[6], 480, 398, 590);
     ExpectLine(lines[7], 444, 285, 360);
     ExpectTexts({{"1", 272, 246},
                  {"2", 272, 210},
@@ -85,7 +85,7 @@ TEST_F(FolderScopeDialogTest, LeaderLinesStandBesideTheSlices) {
                  {"4", 272, 366},
                  {"5", 22, 394},
                  {"6", 22, 210},
-                 {"1", 592, 281},
+                 {"1", 592, 394},
                  {"2", 342, 281},
                  {"3", 342, 196}});
   });

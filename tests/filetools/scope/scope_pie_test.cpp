@@ -18,7 +18,8 @@ class ScopePieTest : public ScopeFixture {
   static void Fill(ScopeArea area, const std::vector<std::uint32_t>& sizes) {
     int n = 0;
     for (const std::uint32_t size : sizes) {
-      ScopeEntry entry{0, 0, 0, 0, size, ""};
+      ScopeEntry entry;
+      entry.sizeLow = size;
       TextFormat(entry.name, sizeof entry.name, "e%d", n);
       ScopeEntryPut(area, n++, entry);
     }
@@ -58,15 +59,15 @@ TEST_F(ScopePieTest, OfADriveRootThereIsNoFirstLevelRow) {
   Scope.driveTotal = 8000;
   Scope.driveFree = 3000;
   BuildDrive(3);
-  ASSERT_EQ(ScopePieDrive.count, 5);
-  Row(ScopePieDrive, 0, 1, "e1", 1500);
-  Row(ScopePieDrive, 1, 2, "e2", 1000);
-  Row(ScopePieDrive, 2, 3, "e0", 500);
-  Row(ScopePieDrive, 3, -1, "その他", 2000);
-  Row(ScopePieDrive, 4, -2, "空き", 3000);
+  ASSERT_EQ(Scope.drivePie.count, 5);
+  Row(Scope.drivePie, 0, 1, "e1", 1500);
+  Row(Scope.drivePie, 1, 2, "e2", 1000);
+  Row(Scope.drivePie, 2, 3, "e0", 500);
+  Row(Scope.drivePie, 3, -1, "その他", 2000);
+  Row(Scope.drivePie, 4, -2, "空き", 3000);
   EXPECT_EQ(Scope.firstLevelTotal, 1.0F);
   BuildFolder();
-  EXPECT_EQ(ScopePieFolder.count, 0);
+  EXPECT_EQ(Scope.folderPie.count, 0);
 }
 
 TEST_F(ScopePieTest, SlicesFollowEachOtherClockwiseFromTwelve) {
@@ -74,17 +75,17 @@ TEST_F(ScopePieTest, SlicesFollowEachOtherClockwiseFromTwelve) {
   Scope.driveTotal = 8000;
   Scope.driveFree = 3000;
   BuildDrive(3);
-  ASSERT_EQ(ScopePieDrive.count, 5);
-  EXPECT_EQ(ScopePieDrive.rows[0].sweep, 0.125F * kTurn);
-  EXPECT_EQ(ScopePieDrive.rows[3].sweep, 0.25F * kTurn);
-  Arc(ScopePieDrive, 0, kEighths[1], kEighths[0]);
-  Arc(ScopePieDrive, 1, kEighths[2], kEighths[1]);
-  Arc(ScopePieDrive, 2, kEighths[3], kEighths[2]);
-  Arc(ScopePieDrive, 3, kEighths[5], kEighths[3]);
+  ASSERT_EQ(Scope.drivePie.count, 5);
+  EXPECT_EQ(Scope.drivePie.rows[0].sweep, 0.125F * kTurn);
+  EXPECT_EQ(Scope.drivePie.rows[3].sweep, 0.25F * kTurn);
+  Arc(Scope.drivePie, 0, kEighths[1], kEighths[0]);
+  Arc(Scope.drivePie, 1, kEighths[2], kEighths[1]);
+  Arc(Scope.drivePie, 2, kEighths[3], kEighths[2]);
+  Arc(Scope.drivePie, 3, kEighths[5], kEighths[3]);
   // The last comes back to 12 o'clock, but for the rounding of the angle.
-  EXPECT_NEAR(ScopePieDrive.rows[4].x1, 160, 1);
-  EXPECT_EQ(ScopePieDrive.rows[4].y1, 200);
-  EXPECT_EQ(ScopePieDrive.rows[4].x2, 89);
+  EXPECT_NEAR(Scope.drivePie.rows[4].x1, 160, 1);
+  EXPECT_EQ(Scope.drivePie.rows[4].y1, 200);
+  EXPECT_EQ(Scope.drivePie.rows[4].x2, 89);
 }
 
 TEST_F(ScopePieTest, OfAFirstLevelFolderTheDriveStartsWithItAndHasNoRowForTheChosen) {
@@ -93,19 +94,19 @@ TEST_F(ScopePieTest, OfAFirstLevelFolderTheDriveStartsWithItAndHasNoRowForTheCho
   Scope.driveTotal = 8000;
   Scope.driveFree = 3000;
   BuildDrive(3);
-  ASSERT_EQ(ScopePieDrive.count, 5);
-  Row(ScopePieDrive, 0, 2, "e2", 1000);
-  Row(ScopePieDrive, 1, 1, "e1", 2000);
-  Row(ScopePieDrive, 2, 3, "e0", 500);
-  Row(ScopePieDrive, 3, -1, "その他", 1500);
+  ASSERT_EQ(Scope.drivePie.count, 5);
+  Row(Scope.drivePie, 0, 2, "e2", 1000);
+  Row(Scope.drivePie, 1, 1, "e1", 2000);
+  Row(Scope.drivePie, 2, 3, "e0", 500);
+  Row(Scope.drivePie, 3, -1, "その他", 1500);
   EXPECT_EQ(Scope.firstLevelTotal, 1000.0F);
   Fill(ScopeArea::Folder, {250, 750});
   BuildFolder(2);
   EXPECT_EQ(Scope.chosenTotal, 1000.0F);
-  ASSERT_EQ(ScopePieFolder.count, 3);
-  Row(ScopePieFolder, 0, 1, "e1", 750);
-  Row(ScopePieFolder, 1, 2, "e0", 250);
-  Row(ScopePieFolder, 2, -1, "その他", 0);
+  ASSERT_EQ(Scope.folderPie.count, 3);
+  Row(Scope.folderPie, 0, 1, "e1", 750);
+  Row(Scope.folderPie, 1, 2, "e0", 250);
+  Row(Scope.folderPie, 2, -1, "その他", 0);
 }
 
 TEST_F(ScopePieTest, TheChosenFolderShowsInsideTheStartOfItsParentsSlice) {
@@ -117,14 +118,14 @@ TEST_F(ScopePieTest, TheChosenFolderShowsInsideTheStartOfItsParentsSlice) {
   Scope.driveFree = 1000;
   TextCopy(Scope.folderName, sizeof Scope.folderName, "photos");
   BuildDrive(3);
-  ASSERT_EQ(ScopePieDrive.count, 5);
-  Row(ScopePieDrive, 0, 1, "e0", 4000);
-  Row(ScopePieDrive, 1, -4, "photos", 1000);
-  Row(ScopePieDrive, 2, 2, "e1", 1000);
-  Row(ScopePieDrive, 3, -1, "その他", 2000);
-  Arc(ScopePieDrive, 0, kEighths[4], kEighths[0]);
-  Arc(ScopePieDrive, 1, kEighths[1], kEighths[0]);
-  Arc(ScopePieDrive, 2, kEighths[5], kEighths[4]);
+  ASSERT_EQ(Scope.drivePie.count, 5);
+  Row(Scope.drivePie, 0, 1, "e0", 4000);
+  Row(Scope.drivePie, 1, -4, "photos", 1000);
+  Row(Scope.drivePie, 2, 2, "e1", 1000);
+  Row(Scope.drivePie, 3, -1, "その他", 2000);
+  Arc(Scope.drivePie, 0, kEighths[4], kEighths[0]);
+  Arc(Scope.drivePie, 1, kEighths[1], kEighths[0]);
+  Arc(Scope.drivePie, 2, kEighths[5], kEighths[4]);
 }
 
 TEST_F(ScopePieTest, OfManyEntriesTheLargestAreShownAndTheRestIsOthers) {
@@ -132,11 +133,11 @@ TEST_F(ScopePieTest, OfManyEntriesTheLargestAreShownAndTheRestIsOthers) {
   Scope.driveTotal = 1000;
   Scope.driveFree = 500;
   BuildDrive(6);
-  ASSERT_EQ(ScopePieDrive.count, 8);
-  Row(ScopePieDrive, 0, 1, "e7", 80);
-  Row(ScopePieDrive, 5, 6, "e2", 30);
-  Row(ScopePieDrive, 6, -1, "その他", 170);
-  Row(ScopePieDrive, 7, -2, "空き", 500);
+  ASSERT_EQ(Scope.drivePie.count, 8);
+  Row(Scope.drivePie, 0, 1, "e7", 80);
+  Row(Scope.drivePie, 5, 6, "e2", 30);
+  Row(Scope.drivePie, 6, -1, "その他", 170);
+  Row(Scope.drivePie, 7, -2, "空き", 500);
 }
 
 TEST_F(ScopePieTest, OthersAreAtLeastNothing) {
@@ -148,9 +149,9 @@ TEST_F(ScopePieTest, OthersAreAtLeastNothing) {
   Scope.driveTotal = 1000;
   Scope.driveFree = 500;
   BuildDrive(1);
-  Row(ScopePieDrive, 2, -1, "その他", 0);
+  Row(Scope.drivePie, 2, -1, "その他", 0);
   BuildFolder(1);
-  Row(ScopePieFolder, 1, -1, "その他", 0);
+  Row(Scope.folderPie, 1, -1, "その他", 0);
 }
 
 TEST_F(ScopePieTest, WithOneEntryWantedTheChosenFolderTakesNoFurtherRow) {
@@ -159,7 +160,7 @@ TEST_F(ScopePieTest, WithOneEntryWantedTheChosenFolderTakesNoFurtherRow) {
   Scope.folderIndex = 0;
   Scope.driveTotal = 1000;
   BuildDrive(1);
-  EXPECT_EQ(ScopePieDrive.count, 4);
+  EXPECT_EQ(Scope.drivePie.count, 4);
 }
 
 TEST_F(ScopePieTest, TheTableIsNeverOverrun) {
@@ -171,11 +172,11 @@ TEST_F(ScopePieTest, TheTableIsNeverOverrun) {
   Scope.driveTotal = 1000;
   BuildDrive(50);
   BuildFolder(50);
-  EXPECT_EQ(ScopePieDrive.count, kScopePieRows);
-  EXPECT_EQ(ScopePieDrive.rows[8].tag, kTagFree);
-  EXPECT_EQ(ScopePieDrive.rows[7].tag, kTagOthers);
-  EXPECT_EQ(ScopePieFolder.count, kScopePieRows);
-  EXPECT_EQ(ScopePieFolder.rows[8].tag, kTagOthers);
+  EXPECT_EQ(Scope.drivePie.count, kScopePieRows);
+  EXPECT_EQ(Scope.drivePie.rows[8].tag, kTagFree);
+  EXPECT_EQ(Scope.drivePie.rows[7].tag, kTagOthers);
+  EXPECT_EQ(Scope.folderPie.count, kScopePieRows);
+  EXPECT_EQ(Scope.folderPie.rows[8].tag, kTagOthers);
 }
 
 TEST_F(ScopePieTest, AFolderWithOneFileOfSizeZeroShowsZeros) {
@@ -184,48 +185,48 @@ TEST_F(ScopePieTest, AFolderWithOneFileOfSizeZeroShowsZeros) {
   Scope.firstLevelIndex = 0;
   Scope.chosenTotal = 0;
   BuildFolder(1);
-  ASSERT_EQ(ScopePieFolder.count, 2);
+  ASSERT_EQ(Scope.folderPie.count, 2);
   for (int i = 0; i < 2; ++i) {
-    const ScopePieRow& row = ScopePieFolder.rows[i];
+    const ScopePieRow& row = Scope.folderPie.rows[i];
     EXPECT_EQ(row.valueInt, 0);
     EXPECT_EQ(row.valueFrac, 0);
     EXPECT_EQ(row.percentInt, 0);
     EXPECT_EQ(row.percentFrac, 0);
     EXPECT_EQ(row.sweep, 0.0F);
-    Arc(ScopePieFolder, i, kEighths[0], kEighths[0]);
+    Arc(Scope.folderPie, i, kEighths[0], kEighths[0]);
   }
 }
 
 TEST_F(ScopePieTest, ADriveThatTellsNothingGivesSlicesOfNothing) {
   Fill(ScopeArea::Drive, {5});
   BuildDrive(1);
-  ASSERT_EQ(ScopePieDrive.count, 3);
-  for (int i = 0; i < 3; ++i) Arc(ScopePieDrive, i, kEighths[0], kEighths[0]);
+  ASSERT_EQ(Scope.drivePie.count, 3);
+  for (int i = 0; i < 3; ++i) Arc(Scope.drivePie, i, kEighths[0], kEighths[0]);
 }
 
 TEST_F(ScopePieTest, RowsKnowTheirShareAndUnit) {
   Fill(ScopeArea::Drive, {2097152, 105});
   Scope.driveTotal = 8388608;
   BuildDrive(2);
-  EXPECT_EQ(ScopePieDrive.rows[0].percentInt, 25);
-  EXPECT_EQ(ScopePieDrive.rows[0].percentFrac, 0);
-  EXPECT_EQ(ScopePieDrive.rows[0].unit, 1);
-  EXPECT_EQ(ScopePieDrive.rows[0].valueInt, 2);
-  EXPECT_EQ(ScopePieDrive.rows[1].unit, 0);
-  EXPECT_EQ(ScopePieDrive.rows[1].valueFrac, 10);  // 105 / 1024
+  EXPECT_EQ(Scope.drivePie.rows[0].percentInt, 25);
+  EXPECT_EQ(Scope.drivePie.rows[0].percentFrac, 0);
+  EXPECT_EQ(Scope.drivePie.rows[0].unit, 1);
+  EXPECT_EQ(Scope.drivePie.rows[0].valueInt, 2);
+  EXPECT_EQ(Scope.drivePie.rows[1].unit, 0);
+  EXPECT_EQ(Scope.drivePie.rows[1].valueFrac, 10);  // 105 / 1024
 }
 
 TEST_F(ScopePieTest, SizesOverFourGigabytesKeepBothHalves) {
-  ScopeEntryPut(ScopeArea::Drive, 0, {0, 0, 0, 2, 512, "big"});
+  ScopeEntryPut(ScopeArea::Drive, 0, {0, {}, {}, 2, 512, "big", {}});
   Scope.scopeDriveCount = 1;
   ScopeSortDrive();
   Scope.driveTotal = 4 * 4294967296.0F;
   Scope.driveFree = 4294967296.0F;
   BuildDrive(1);
-  EXPECT_EQ(ScopePieDrive.rows[0].sizeHigh, 2U);
-  EXPECT_EQ(ScopePieDrive.rows[0].sizeLow, 512U);
-  EXPECT_EQ(ScopePieDrive.rows[2].sizeHigh, 1U);
-  EXPECT_EQ(ScopePieDrive.rows[2].sizeLow, 0U);
+  EXPECT_EQ(Scope.drivePie.rows[0].sizeHigh, 2U);
+  EXPECT_EQ(Scope.drivePie.rows[0].sizeLow, 512U);
+  EXPECT_EQ(Scope.drivePie.rows[2].sizeHigh, 1U);
+  EXPECT_EQ(Scope.drivePie.rows[2].sizeLow, 0U);
 }
 
 TEST_F(ScopePieTest, WithABarChartThereIsNoGeometry) {
@@ -233,32 +234,43 @@ TEST_F(ScopePieTest, WithABarChartThereIsNoGeometry) {
   Scope.driveTotal = 8000;
   Scope.scopeBarChart = true;
   BuildDrive(1);
-  ASSERT_EQ(ScopePieDrive.count, 3);
-  EXPECT_EQ(ScopePieDrive.rows[0].sweep, 0.125F * kTurn);
-  Arc(ScopePieDrive, 0, {0, 0}, {0, 0});
+  ASSERT_EQ(Scope.drivePie.count, 3);
+  EXPECT_EQ(Scope.drivePie.rows[0].sweep, 0.125F * kTurn);
+  Arc(Scope.drivePie, 0, {0, 0}, {0, 0});
 }
 
 // --- Leader lines. The disc's corner is (60, 200).
 
-ScopePie PieOf(const std::vector<std::pair<Point, Point>>& arcs) {
+// A slice: its arc's end and start, and how far it goes round.
+struct Slice {
+  Point end;
+  Point start;
+  float degrees;
+};
+
+ScopePie PieOf(const std::vector<Slice>& slices) {
   ScopePie pie{};
   pie.centre = {kCx, kCy};
   pie.radius = kRadius;
-  for (const auto& [end, start] : arcs) {
+  for (const Slice& slice : slices) {
     ScopePieRow& row = pie.rows[pie.count++];
-    row.x1 = end.x;
-    row.y1 = end.y;
-    row.x2 = start.x;
-    row.y2 = start.y;
+    row.x1 = slice.end.x;
+    row.y1 = slice.end.y;
+    row.x2 = slice.start.x;
+    row.y2 = slice.start.y;
+    row.sweep = slice.degrees / 360 * kTurn;
   }
   return pie;
 }
 
 using Leaders = std::array<ScopeLeader, kScopePieRows>;
-Leaders LeadersOf(const ScopeLeaderRule& rule, const std::vector<std::pair<Point, Point>>& arcs) {
+Leaders LeadersOf(const ScopeLeaderRule& rule, const ScopePie& pie) {
   ScopeLeader leaders[kScopePieRows];
-  ScopePieLeaders(PieOf(arcs), rule, leaders);
+  ScopePieLeaders(pie, rule, leaders);
   return std::to_array(leaders);
+}
+Leaders LeadersOf(const ScopeLeaderRule& rule, const std::vector<Slice>& slices) {
+  return LeadersOf(rule, PieOf(slices));
 }
 
 void Leader(const ScopeLeader& leader, int x, int y, int endX, Point number) {
@@ -270,15 +282,15 @@ void Leader(const ScopeLeader& leader, int x, int y, int endX, Point number) {
 }
 
 TEST(ScopeLeadersTest, CloseLinesStepOutAndTheLeftSideStartsOver) {
-  const Leaders leaders = LeadersOf(kDriveLeaders, {{{230, 229}, {160, 200}},
-                                                    {{260, 300}, {230, 229}},
-                                                    {{240, 310}, {260, 300}},
-                                                    {{238, 316}, {240, 310}},
-                                                    {{235, 320}, {238, 316}},
-                                                    {{89, 370}, {235, 320}},
-                                                    {{60, 300}, {89, 370}},
-                                                    {{60, 298}, {60, 300}},
-                                                    {{60, 296}, {60, 298}}});
+  const Leaders leaders = LeadersOf(kDriveLeaders, {{{230, 229}, {160, 200}, 45},
+                                                    {{260, 300}, {230, 229}, 45},
+                                                    {{240, 310}, {260, 300}, 6},
+                                                    {{238, 316}, {240, 310}, 3},
+                                                    {{235, 320}, {238, 316}, 3},
+                                                    {{89, 370}, {235, 320}, 123},
+                                                    {{60, 300}, {89, 370}, 45},
+                                                    {{60, 298}, {60, 300}, 1},
+                                                    {{60, 296}, {60, 298}, 1}});
   Leader(leaders[0], 195, 214, 270, {272, 210});
   Leader(leaders[1], 245, 264, 270, {272, 260});
   Leader(leaders[2], 250, 305, 270, {272, 301});
@@ -291,10 +303,10 @@ TEST(ScopeLeadersTest, CloseLinesStepOutAndTheLeftSideStartsOver) {
 }
 
 TEST(ScopeLeadersTest, ADistanceOfTenTakesTheStepBack) {
-  const Leaders leaders = LeadersOf(kDriveLeaders, {{{250, 210}, {250, 210}},
-                                                    {{250, 215}, {250, 215}},
-                                                    {{250, 225}, {250, 225}},
-                                                    {{250, 230}, {250, 230}}});
+  const Leaders leaders = LeadersOf(kDriveLeaders, {{{250, 210}, {250, 210}, 0},
+                                                    {{250, 215}, {250, 215}, 0},
+                                                    {{250, 225}, {250, 225}, 0},
+                                                    {{250, 230}, {250, 230}, 0}});
   EXPECT_EQ(leaders[0].endX, 270);
   EXPECT_EQ(leaders[1].endX, 280);
   EXPECT_EQ(leaders[2].endX, 270);
@@ -303,24 +315,26 @@ TEST(ScopeLeadersTest, ADistanceOfTenTakesTheStepBack) {
 
 TEST(ScopeLeadersTest, TheFirstLineOnTheLeftIsNeverShifted) {
   const Leaders leaders = LeadersOf(
-      kDriveLeaders, {{{250, 300}, {250, 300}}, {{250, 395}, {250, 395}}, {{150, 398}, {150, 398}}});
+      kDriveLeaders, {{{250, 300}, {250, 300}, 0}, {{250, 395}, {250, 395}, 0}, {{150, 398}, {150, 398}, 0}});
   EXPECT_EQ(leaders[2].endX, 40);
 }
 
 TEST(ScopeLeadersTest, OfTheDriveTheFirstTwoRowsGoRightEvenFromTheLeftHalf) {
-  const Leaders leaders = LeadersOf(
-      kDriveLeaders,
-      {{{89, 370}, {160, 200}}, {{80, 340}, {89, 370}}, {{60, 300}, {80, 340}}, {{160, 200}, {60, 300}}});
-  Leader(leaders[0], 210, 285, 270, {272, 281});
+  const Leaders leaders = LeadersOf(kDriveLeaders, {{{89, 370}, {160, 200}, 225},
+                                                    {{80, 340}, {89, 370}, 10},
+                                                    {{60, 300}, {80, 340}, 35},
+                                                    {{160, 200}, {60, 300}, 90}});
+  Leader(leaders[0], 160, 398, 270, {272, 394});
   Leader(leaders[1], 210, 355, 270, {272, 351});
   Leader(leaders[2], 70, 320, 40, {22, 316});
   Leader(leaders[3], 110, 250, 40, {22, 246});
 }
 
 TEST(ScopeLeadersTest, OfTheFolderOnlyTheFirstGoesRightAndLinesToTheLeftBeginLeftOfTheCentre) {
-  const Leaders leaders = LeadersOf(
-      kFolderLeaders,
-      {{{230, 229}, {160, 200}}, {{89, 370}, {230, 229}}, {{160, 200}, {89, 370}}, {{160, 200}, {160, 200}}});
+  const Leaders leaders = LeadersOf(kFolderLeaders, {{{230, 229}, {160, 200}, 45},
+                                                     {{89, 370}, {230, 229}, 180},
+                                                     {{160, 200}, {89, 370}, 135},
+                                                     {{160, 200}, {160, 200}, 0}});
   Leader(leaders[0], 195, 214, 270, {272, 210});
   Leader(leaders[1], 150, 398, 40, {22, 394});
   Leader(leaders[2], 124, 285, 40, {22, 281});
@@ -329,8 +343,45 @@ TEST(ScopeLeadersTest, OfTheFolderOnlyTheFirstGoesRightAndLinesToTheLeftBeginLef
 
 TEST(ScopeLeadersTest, ASliceAcrossTwelveIsMetAtItsTop) {
   const Leaders leaders = LeadersOf(
-      kDriveLeaders, {{{250, 300}, {250, 300}}, {{250, 280}, {250, 280}}, {{200, 210}, {100, 220}}});
+      kDriveLeaders,
+      {{{250, 300}, {250, 300}, 200}, {{250, 280}, {250, 280}, 100}, {{200, 210}, {100, 220}, 120}});
   Leader(leaders[2], 160, 202, 40, {22, 198});
+}
+
+// The slice that is left for the free room ends at the top.
+TEST(ScopeLeadersTest, ASliceOfMoreThanHalfThatEndsAtTheTopIsMetBelow) {
+  const Leaders leaders =
+      LeadersOf(kDriveLeaders,
+                {{{230, 229}, {160, 200}, 45}, {{230, 370}, {230, 229}, 90}, {{160, 200}, {230, 370}, 225}});
+  Leader(leaders[2], 160, 398, 40, {22, 394});
+}
+
+TEST(ScopeLeadersTest, ASliceOfMoreThanHalfThatBeginsAtTheTopIsMetBelow) {
+  const Leaders leaders =
+      LeadersOf(kDriveLeaders, {{{60, 300}, {160, 200}, 270}, {{160, 200}, {60, 300}, 90}});
+  Leader(leaders[0], 160, 398, 270, {272, 394});
+  Leader(leaders[1], 210, 250, 270, {272, 246});
+}
+
+TEST(ScopeLeadersTest, AnEndAtSixOrTwelveIsNoCrossingWhereverItsPixelLies) {
+  for (const int pixel : {-1, 0, 1}) {
+    const Leaders leaders = LeadersOf(kFolderLeaders, {{{230, 229}, {160, 200}, 45},
+                                                       {{160 + pixel, 400}, {230, 229}, 135},
+                                                       {{160 + pixel, 200}, {160 + pixel, 400}, 180}});
+    EXPECT_EQ(leaders[1].y, 314) << pixel;
+    EXPECT_EQ(leaders[2].y, 300) << pixel;
+  }
+}
+
+// The chosen folder lies over the begin of the first slice and moves no other one.
+TEST(ScopeLeadersTest, TheChosenFolderHasAnAngleOfItsOwn) {
+  ScopePie pie =
+      PieOf({{{89, 370}, {160, 200}, 225}, {{230, 370}, {160, 200}, 135}, {{60, 300}, {89, 370}, 45}});
+  pie.rows[1].tag = kTagChosen;
+  const Leaders leaders = LeadersOf(kDriveLeaders, pie);
+  Leader(leaders[0], 160, 398, 270, {272, 394});
+  Leader(leaders[1], 195, 285, 270, {272, 281});
+  Leader(leaders[2], 74, 335, 40, {22, 331});
 }
 
 }  // namespace

@@ -56,6 +56,11 @@ class DesktopTidyTest : public DesktopTest {
     SearchClose(search);
     return items;
   }
+  static std::string Current() {
+    char current[64] = "";
+    FolderGetCurrent(current, sizeof current);
+    return current;
+  }
   static void ExpectAsk(const std::string& name, BoxAnswer answer) {
     ExpectBox((name + " を整理します").c_str(), kAsk, answer);
   }
@@ -212,11 +217,6 @@ class TidyFaultsTest : public DesktopTidyTest {
     SearchClose(search);
     return names;
   }
-  static std::string Current() {
-    char current[64] = "";
-    FolderGetCurrent(current, sizeof current);
-    return current;
-  }
 
   // Runs with a fault; those in `moved` are asked about, in that order, and go. True
   // if the fault was met.
@@ -315,10 +315,26 @@ TEST_F(DesktopTidyTest, AnItemWhoseNameBeginsWithADotIsSkippedWithoutAQuestion) 
   EXPECT_EQ(FolderNames(kTidy), Names{"shown"});
 }
 
-TEST_F(DesktopTidyTest, AFileOfTheTidyFoldersNameIsNoFolderAndTakesPart) {
-  // With a file in its place the folder cannot be made.
+TEST_F(DesktopTidyTest, AFileInTheTidyFoldersPlaceEndsTheRunAndStays) {
+  Put("a.txt");
   PutFile(kTidy, "x");
   EXPECT_EQ(TidyRun(nullptr), -1);
+  EXPECT_TRUE(BoxesShown().empty());
+  EXPECT_EQ(FileBytes(kTidy), "x");
+  EXPECT_EQ(FolderNames(kDesktop), (Names{"a.txt", "整理用フォルダー"}));
+}
+
+TEST_F(DesktopTidyTest, TheFolderThatWasMadeBecomesTheCurrentOne) {
+  EXPECT_EQ(TidyRun(nullptr), 0);
+  EXPECT_EQ(Current(), kTidy);
+}
+
+TEST_F(DesktopTidyTest, ASecondNameLeavesTheFirstFolderFreeToBeMoved) {
+  EXPECT_EQ(TidyRun(nullptr), 0);
+  std::strcpy(Tidy.tidyFolderName, "新しい");
+  ExpectAsk("整理用フォルダー", BoxAnswer::No);
+  EXPECT_EQ(TidyRun(nullptr), 0);
+  EXPECT_EQ(Current(), "C:\\desk\\新しい");
 }
 
 TEST_F(DesktopTidyTest, AnotherNameMakesANewFolderAndTheOldOneIsAnyFolder) {
