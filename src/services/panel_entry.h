@@ -2,7 +2,7 @@
 // do their work on lower floors.
 #pragma once
 
-#include "services/feature_dialog.h"
+#include "services/feature_numbers.h"
 
 // An entry's work begins: the panel on show closes, the feature is the active one.
 void PanelEntryBegin(Feature feature);
