@@ -4,6 +4,7 @@
 #include <cstdint>
 
 #include "platform/types.h"
+#include "services/tick_step.h"
 
 // Values of progressMode.
 enum SteppedWork { kStepNone, kStepDriveSearch, kStepFolderSearch, kStepDivide, kStepRestore };
@@ -14,3 +15,8 @@ struct SteppedState {
   WindowHandle hSearchDlg = nullptr;  // the progress dialog
 };
 extern SteppedState Stepped;
+
+// The work's step of the tick: its dialog does the next piece.
+void SteppedWorkTick();
+int SteppedWorkDue();
+inline constexpr TickStep kSteppedWorkStep{SteppedWorkTick, SteppedWorkDue};

@@ -16,5 +16,8 @@ void PanelLeave();
 // A dialog of the panel's family ends: the panel may open again.
 void PanelStateClear();
 
+// Whether the panel is on show.
+bool PanelIsOpen();
+
 // The active feature.
 Feature PanelFeature();

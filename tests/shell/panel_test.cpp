@@ -1,11 +1,14 @@
 // The tool menu panel as a window: where it opens, which row is hit, when it closes.
 #include "shell/panel.h"
+#include "shell/tick_timer.h"
 
 #include "character/character.h"
 #include "character/motion.h"
 #include "character/stage.h"
 #include "platform/posix/faults.h"
 #include "services/program.h"
+#include "services/tick_step.h"
+#include "services/tick_step.h"
 #include "tests/shell/panel_fixture.h"
 
 namespace {

@@ -22,7 +22,7 @@
 #include "services/program.h"
 #include "services/text.h"
 #include "services/today.h"
-#include "shell/entry.h"
+#include "platform/entry.h"
 #include "shell/popups.h"
 
 namespace {

@@ -50,3 +50,11 @@ bool BackUpDlgRun(WindowHandle owner) {
   DialogRun(IDD_BackUpDlg, owner, Handle);
   return completed;
 }
+
+void BackUpTick() {
+  if (BackUpRun.BackUpActive) CommandSendTo(BackUpRun.hBackUpDlg, Command::BackUpStep);
+}
+
+int BackUpDue() {
+  return TickDueIf(BackUpRun.BackUpActive || BackUpRun.hBackUpDlg);
+}

@@ -3,6 +3,7 @@
 #include "mail_music/music/music.h"
 #include "platform/memory.h"
 #include "schedule/table/table_scroll.h"
+#include "services/commands.h"
 
 SclRunState SclRun;
 
@@ -31,4 +32,12 @@ bool SclDueCheck() {
 void SclMapFree() {
   MemoryFree(SclRun.SclMapBlock);
   SclRun.SclMapBlock = nullptr;
+}
+
+void SclRunTick() {
+  if (SclDueCheck()) CommandSend(Command::ScheduleNotice);
+}
+
+int SclRunDue() {
+  return TickDueIf(SclIsRunning());
 }

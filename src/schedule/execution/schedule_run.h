@@ -3,6 +3,8 @@
 
 #include <cstdint>
 
+#include "services/tick_step.h"
+
 // Hours of a table: how many are on show, and where the day begins and ends.
 struct SclHours {
   std::int32_t span;
@@ -35,3 +37,8 @@ bool SclIsRunning();
 bool SclDueCheck();
 
 void SclMapFree();
+
+// The running schedule's step of the tick: a due item sends command 2265.
+void SclRunTick();
+int SclRunDue();
+inline constexpr TimedStep kScheduleRunStep{SclIsRunning, {SclRunTick, SclRunDue}};
