@@ -1,6 +1,5 @@
 #include "schedule/execution/schedule_run.h"
 
-#include "mail_music/music/music.h"
 #include "platform/memory.h"
 #include "schedule/table/table_scroll.h"
 #include "services/commands.h"
@@ -17,7 +16,6 @@ void SclDefaults() {
 void SclTablesClear() {
   SclTable.hSclTableWnd = nullptr;
   SclTable.hPlanWnd = nullptr;
-  Music.hBgmWnd = nullptr;
 }
 
 // There is no schedule model yet: none can be named, and none runs.
