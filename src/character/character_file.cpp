@@ -5,7 +5,6 @@
 #include "character/chara_set.h"
 #include "character/character.h"
 #include "character/character_tables.h"
-#include "clock_calendar/clock/clock.h"
 #include "services/data_file.h"
 #include "services/program.h"
 #include "services/text.h"
@@ -203,9 +202,7 @@ int CharaFileRead() {
   CopyOut(staged);
   const bool whole = ReadBlinkSpeeds(t.data);
   DataClose(t.data);
-  if (whole) {
-    for (int i = 0; i < CharaTables.ClockDesignCount; ++i) ClockDesignTakeListValues(i);
-  }
+  if (whole) ClockDesignsTakeListValues();
   return 0;
 }
 

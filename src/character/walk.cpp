@@ -239,3 +239,11 @@ void WalkForOpening() {
   Walk.OpeningState = 0;
   CommandSend(Command::OpenLaunch);
 }
+
+int WalkDue() {
+  return TickDueIf(Walk.WalkActive);
+}
+
+int WalkEndDue() {
+  return TickDueIf(Walk.WalkEndActive);
+}

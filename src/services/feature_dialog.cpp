@@ -4,7 +4,7 @@
 #include "services/panel_entry.h"
 
 int FeatureDialogRun(Feature feature, int (*dialog)()) {
-  if (Dialogs.hMenuDlg || Dialogs.hToolDlg || Dialogs.hSubDlg || Dialogs.hSnryDlg) return 0;
+  if (FamilyDialogIsUp()) return 0;
   PanelEntryBegin(feature);
   const int result = dialog();
   PanelEntryDone();

@@ -44,7 +44,7 @@ class FileWatchTest : public ProgramTest {
     SetFileTime(kCalendarFile, 1000000);
     StartProgram();
     MainTick1();
-    TickCounts.FileWatchCount = 0;
+    Watch.FileWatchCount = 0;
   }
   static void MainTick1() { Ticks(1); }
 
@@ -83,7 +83,7 @@ TEST_F(FileWatchTest, AFileChangedWhileItsDialogIsOpenIsPickedUp201TicksAfterThe
     Ticks(201 * 3);
     EXPECT_NE(CharaTables.MainCharas[0].charaNo, number);
     Dialogs.DlgIdMenu = MenuDialog::None;
-    ASSERT_EQ(TickCounts.FileWatchCount, 0);
+    ASSERT_EQ(Watch.FileWatchCount, 0);
     Ticks(200);
     EXPECT_NE(CharaTables.MainCharas[0].charaNo, number);
     Ticks(1);
@@ -220,7 +220,7 @@ TEST_F(FileWatchTest, TheCalendarIsLeftAloneWhileItsDialogsAreOpen) {
     Ticks(201);
     EXPECT_FALSE(FileThere(kSettingsFile));
     Dialogs.DlgIdMenu = MenuDialog::None;
-    ASSERT_EQ(TickCounts.FileWatchCount, 0);
+    ASSERT_EQ(Watch.FileWatchCount, 0);
     Ticks(200);
     EXPECT_FALSE(FileThere(kSettingsFile));
     Ticks(1);

@@ -12,6 +12,7 @@
 #include "clock_calendar/calendar/calendar.h"
 #include "clock_calendar/clock/clock.h"
 #include "clock_calendar/clock/clock_notice.h"
+#include "clock_calendar/clock/performance.h"
 #include "filetools/back_up/back_up.h"
 #include "filetools/open/open_state.h"
 #include "filetools/stepped_work.h"
@@ -25,6 +26,8 @@
 #include "services/five_ticks.h"
 #include "services/program.h"
 #include "services/text.h"
+#include "services/today.h"
+#include "shell/file_watch.h"
 #include "shell/panel.h"
 #include "shell/settings.h"
 #include "shell/tick.h"
@@ -102,7 +105,7 @@ class TickOrderTest : public ProgramTest {
   // The character file as a sibling leaves it.
   static void CharacterFileChanges() {
     SetFileTime("C:\\mirrell\\mirrell_chara_file.dcx", 4000000000);
-    TickCounts.FileWatchCount = 200;
+    Watch.FileWatchCount = 200;
   }
   std::unique_ptr<OpnGroupRec> group_;
 };
@@ -194,6 +197,31 @@ TEST_F(TickOrderTest, WithNeitherCalendarNorClockNoticeNoAlarmIsLookedFor) {
   EXPECT_EQ(std::count(heard.begin(), heard.end(), "main 2336"), 0);
 }
 
+TEST_F(TickOrderTest, WithOnlyTheClockNoticeOpenDayAndAlarmsAreLookedAt) {
+  Ticks(1);
+  ClockNotice.hClockNoticeWnd = OpenListener("bell");
+  Today.TodayDay = 0;
+  AlarmNow();
+  ListenToEverything();
+  PerformanceWaitStart(0, Today.SharedTime);
+  Ticks(1);
+  EXPECT_EQ(TakeHeard(), (Words{"main 2336", "bell close", "bell command 2258"}));
+  EXPECT_EQ(Today.TodayDay, 20);
+}
+
+// The calendar's repaint, the alarm, the notice's step.
+TEST_F(TickOrderTest, TheChecksOfTheCalendarsStepRunInTheirOrder) {
+  Ticks(1);
+  Calendar.hCalenWnd = OpenListener("calendar");
+  ClockNotice.hClockNoticeWnd = OpenListener("bell");
+  Today.TodayDay = 0;
+  AlarmNow();
+  ListenToEverything();
+  PerformanceWaitStart(0, Today.SharedTime);
+  Ticks(1);
+  EXPECT_EQ(TakeHeard(), (Words{"calendar paint", "main 2336", "bell close", "bell command 2258"}));
+}
+
 TEST_F(TickOrderTest, TheMailIsAskedForWhenItsCountIsOver) {
   Ticks(1);
   Mail.MailCheckOn = true;
@@ -236,7 +264,7 @@ TEST_F(TickOrderTest, AfterTheShutdownTheRestOfTheTickIsNotRun) {
   EXPECT_TRUE(QuitWasAsked());
   EXPECT_EQ(TakeHeard(), Words{});
   EXPECT_EQ(Panel.MenuReopenGuard, 5);
-  EXPECT_EQ(TickCounts.FileWatchCount, 200);
+  EXPECT_EQ(Watch.FileWatchCount, 200);
   EXPECT_FALSE(FileThere("C:\\mirrell\\mirrell_sys_file.svs"));
 }
 

@@ -15,6 +15,7 @@
 #include "mail_music/mail/mail.h"
 #include "mail_music/mail/mail_setting.h"
 #include "platform/dialog.h"
+#include "platform/entry.h"
 #include "platform/window.h"
 #include "resources/character_ids.h"
 #include "resources/clock_calendar_ids.h"
@@ -23,7 +24,6 @@
 #include "services/program.h"
 #include "services/text.h"
 #include "services/today.h"
-#include "shell/entry.h"
 #include "shell/popups.h"
 
 namespace {

@@ -196,7 +196,7 @@ inline constexpr int kClockListTextSize = 50;
 
 // Copies the five values of a list record (name, sound file, the three flags)
 // into the design of the same place. A design without a list record stays as it
-// is. The reader of the character file calls it for each design at its end.
+// is.
 void ClockDesignTakeListValues(int place);
 // The reverse, for a new data set: one list record for each design.
 void ClockListTakeDesigns();

@@ -2,6 +2,7 @@
 #include <cmath>
 #include <cstring>
 
+#include "character/character_file.h"
 #include "character/character_tables.h"
 #include "clock_calendar/clock/clock.h"
 #include "services/text.h"
@@ -152,6 +153,10 @@ void ClockDesignTakeListValues(int place) {
   TextFromField(fields.sound, sizeof fields.sound, list + kClockListSound, kClockListTextSize);
   TextFromField(fields.name, sizeof fields.name, list + kClockListName, kClockListTextSize);
   ClockDesignPut(row->record, fields);
+}
+
+void ClockDesignsTakeListValues() {
+  for (int place = 0; place < CharaTables.ClockDesignCount; ++place) ClockDesignTakeListValues(place);
 }
 
 void ClockListTakeDesigns() {

@@ -49,3 +49,11 @@ bool BackUpDlgRun(WindowHandle owner) {
   DialogRun(IDD_BackUpDlg, owner, Handle);
   return BackUpRun.completed;
 }
+
+void BackUpTick() {
+  if (BackUpRun.BackUpActive) CommandSendTo(BackUpRun.hBackUpDlg, Command::BackUpStep);
+}
+
+int BackUpDue() {
+  return TickDueIf(BackUpRun.BackUpActive || BackUpRun.hBackUpDlg);
+}

@@ -38,7 +38,7 @@ int sclFrame;
 int noteFrame;
 
 void Begin(WindowHandle window) {
-  FiveTicks.FrameDivider = kFirstFrameTicks;
+  FiveTicksStart(kFirstFrameTicks);
   sclFrame = 0;
   noteFrame = 0;
   NoticeShow(window);
@@ -143,4 +143,8 @@ void CommandNoteNotice(Command) {
     Open(kKindNote + note);
     return;
   }
+}
+
+int SclNoticeFrameDue() {
+  return TickDueIf(Notices.hSclNoticeWnd != nullptr);
 }

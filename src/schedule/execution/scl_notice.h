@@ -5,6 +5,7 @@
 
 #include "platform/types.h"
 #include "services/scl_date.h"
+#include "services/tick_step.h"
 
 inline constexpr int kSclNoticeTextSize = 128;
 
@@ -45,3 +46,6 @@ extern NoticesState Notices;
 
 // The five-tick step of the open notice: its next picture, and its repaint.
 void SclNoticeFrameStep();
+
+int SclNoticeFrameDue();
+inline constexpr TickStep kSclNoticeFrames{SclNoticeFrameStep, SclNoticeFrameDue};
