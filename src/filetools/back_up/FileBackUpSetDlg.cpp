@@ -87,7 +87,7 @@ void CompareContents() {
 
 // What the buttons do: here, or by the main window's command.
 struct Button {
-  std::uint32_t id;
+  int id;
   void (*action)();
   Command command;
 };
@@ -103,7 +103,7 @@ constexpr Button kButtons[] = {
     {IDC_BACKUP_CONTENTS, CompareContents, Command::None},
 };
 
-bool Press(std::uint32_t id) {
+bool Press(int id) {
   for (const Button& button : kButtons) {
     if (button.id != id) continue;
     if (button.action) {
@@ -122,7 +122,7 @@ bool Handle(const Event& event) {
     FileBackUpSetDlgShowComment();
     return true;
   }
-  return event.kind == EventKind::Command && event.notice == Notice::Click && Press(event.command);
+  return event.kind == EventKind::Pressed && Press(event.id);
 }
 
 void AddRow(int list, const char* path) {
