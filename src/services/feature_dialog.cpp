@@ -1,10 +1,11 @@
 #include "services/feature_dialog.h"
 
+#include "platform/dialog.h"
 #include "services/dialog_family.h"
 #include "services/panel_entry.h"
 
 int FeatureDialogRun(Feature feature, int (*dialog)()) {
-  if (FamilyDialogIsUp()) return 0;
+  if (FamilyDialogIsUp() || FileDialogIsUp()) return 0;
   PanelEntryBegin(feature);
   const int result = dialog();
   PanelEntryDone();
