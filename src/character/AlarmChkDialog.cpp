@@ -33,7 +33,7 @@ bool Proc(const Event& event) {
   switch (event.kind) {
     case EventKind::Init:
       frameNow = kFrameMax;  // the first step goes round to frame 0
-      FiveTicks.FrameDivider = 1;
+      FiveTicksStart(1);
       return true;
     case EventKind::Paint:
       if (row >= 0) Show(row);

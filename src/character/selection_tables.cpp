@@ -27,19 +27,6 @@ T ValueAt(const T (&table)[N], int selection, T other) {
 
 }  // namespace
 
-const char* const kBoredDelayLabels[kBoredDelayLabelCount] = {"5分",   "10分",  "30分",  "1時間", "1時間30分",
-                                                              "2時間", "3時間", "4時間", "5h",    "ランダム"};
-
-// kept: the last two rows read the same, though the last one holds a frame longer.
-const char* const kBoredSpeedLabels[kBoredSpeedLabelCount] = {"0秒", "30ﾐﾘ秒", "40ﾐﾘ秒", "50ﾐﾘ秒",
-                                                              "1秒", "2秒",    "10秒",   "10秒"};
-
-const char* const kBoredRepeatLabels[kBoredRepeatLabelCount] = {"0",  "2",  "3",   "4",   "5",
-                                                                "10", "50", "100", "500", "無限"};
-
-const char* const kBlinkSpeedLabels[kBlinkSpeedLabelCount] = {"10秒", "20秒", "30秒", "40秒", "1分",
-                                                              "2分",  "5分",  "10分", "30分", "ランダム"};
-
 void BoredDelayValue(int selection, int* hours, int* minutes) {
   const Delay delay = selection == kRandomRow ? Delay{RandomBelow(2), RandomBelow(60)}
                                               : ValueAt(kBoredDelays, selection, kOtherDelay);

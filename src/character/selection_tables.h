@@ -3,15 +3,15 @@
 // place in its list, from 0, as the settings and character files keep it.
 #pragma once
 
-inline constexpr int kBoredDelayLabelCount = 10;
-inline constexpr int kBoredSpeedLabelCount = 8;
-inline constexpr int kBoredRepeatLabelCount = 10;
-inline constexpr int kBlinkSpeedLabelCount = 10;
-
-extern const char* const kBoredDelayLabels[kBoredDelayLabelCount];
-extern const char* const kBoredSpeedLabels[kBoredSpeedLabelCount];
-extern const char* const kBoredRepeatLabels[kBoredRepeatLabelCount];
-extern const char* const kBlinkSpeedLabels[kBlinkSpeedLabelCount];
+inline constexpr const char* kBoredDelayLabels[] = {"5分",   "10分",  "30分",  "1時間", "1時間30分",
+                                                    "2時間", "3時間", "4時間", "5h",    "ランダム"};
+// kept: the last two rows read the same, though the last one holds a frame longer.
+inline constexpr const char* kBoredSpeedLabels[] = {"0秒", "30ﾐﾘ秒", "40ﾐﾘ秒", "50ﾐﾘ秒",
+                                                    "1秒", "2秒",    "10秒",   "10秒"};
+inline constexpr const char* kBoredRepeatLabels[] = {"0",  "2",  "3",   "4",   "5",
+                                                     "10", "50", "100", "500", "無限"};
+inline constexpr const char* kBlinkSpeedLabels[] = {"10秒", "20秒", "30秒", "40秒", "1分",
+                                                    "2分",  "5分",  "10分", "30分", "ランダム"};
 
 // Hours and minutes until boredom, in the character's counting units. The last
 // row draws them at random; a selection beyond the list is half an hour.

@@ -59,7 +59,7 @@ TEST(SelectionTables, AnIndexBeyondBoredDelaySel9Gives30MinutesAndBeyondBlinkSpe
 
 TEST(SelectionTables, BoredSpeedHasEightLabelsAndNineValues) {
   const char* const kLabels[] = {"0秒", "30ﾐﾘ秒", "40ﾐﾘ秒", "50ﾐﾘ秒", "1秒", "2秒", "10秒", "10秒"};
-  static_assert(kBoredSpeedLabelCount == 8);
+  static_assert(std::size(kBoredSpeedLabels) == 8);
   for (int i = 0; i < 8; ++i) EXPECT_STREQ(kBoredSpeedLabels[i], kLabels[i]);
   const int kSteps[] = {0, 1, 2, 3, 4, 5, 6, 10, 20};
   for (int i = 0; i < 9; ++i) EXPECT_EQ(BoredSpeedValue(i), kSteps[i]) << i;

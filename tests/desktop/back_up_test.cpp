@@ -4,7 +4,6 @@
 #include <cstring>
 
 #include "resources/filetools_ids.h"
-#include "services/file_picker.h"
 #include "tests/desktop/companion.h"
 #include "tests/desktop/dialogs.h"
 
@@ -48,7 +47,7 @@ class BackUpTest : public testing::Test {
     ASSERT_TRUE(WaitFor([&] { return ListRowCount(dialog_, IDC_BACKUP_SOURCES) == kFileMax - 1; }));
     ASSERT_TRUE(PickFile(companion_, dialog_, IDC_BACKUP_ADD, L"source99.txt"));
     ASSERT_TRUE(WaitFor([&] { return ListRowCount(dialog_, IDC_BACKUP_SOURCES) == kFileMax; }));
-    ASSERT_TRUE(Picker.PickFolder(companion_, dialog_, IDC_BACKUP_FOLDER, L"バックアップ先ディレクトリ指定",
+    ASSERT_TRUE(PickFolder(companion_, dialog_, IDC_BACKUP_FOLDER, L"バックアップ先ディレクトリ指定",
                                   L"copies"));
     ASSERT_TRUE(WaitFor([&] { return ListRowCount(dialog_, IDC_BACKUP_COPIES) == kFileMax; }));
   }

@@ -1,6 +1,5 @@
 #include "tests/desktop/dialogs.h"
 
-#include "services/file_picker.h"
 
 namespace {
 
@@ -46,7 +45,7 @@ bool PickFile(const Companion& companion, HWND dialog, int button, const std::ws
   return EndBy(picker, kOk);
 }
 
-bool Picker.PickFolder(const Companion& companion, HWND dialog, int button, const std::wstring& title,
+bool PickFolder(const Companion& companion, HWND dialog, int button, const std::wstring& title,
                        const std::wstring& below) {
   const HWND picker = OpenBy(companion, dialog, button, title);
   if (!picker) return false;

@@ -4,7 +4,6 @@
 #include <functional>
 #include <string>
 
-#include "services/file_picker.h"
 #include "tests/desktop/companion.h"
 
 // Waits for a message box, presses one of its buttons (IDOK, ...) and waits until it
@@ -22,7 +21,7 @@ bool EndBy(HWND dialog, int button);
 bool PickFile(const Companion& companion, HWND dialog, int button, const std::wstring& name);
 
 // Takes the folder on show, or one in it, in the folder dialog of that title.
-bool Picker.PickFolder(const Companion& companion, HWND dialog, int button, const std::wstring& title,
+bool PickFolder(const Companion& companion, HWND dialog, int button, const std::wstring& title,
                        const std::wstring& below = L"");
 
 // Ticks that come in turn with everything else: what the ticks open may be modal.

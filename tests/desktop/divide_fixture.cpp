@@ -1,7 +1,6 @@
 #include "tests/desktop/divide_fixture.h"
 
 #include "resources/filetools_ids.h"
-#include "services/file_picker.h"
 #include "tests/desktop/dialogs.h"
 
 namespace {
@@ -67,7 +66,7 @@ HWND DivideFixture::OpenDivide(int count, bool scrambled) {
   const HWND dialog = Choose(IDC_DIVIDE_CHOOSE_DIVIDE, L"ファイル 分割");
   EXPECT_TRUE(dialog && PickFile(companion_, dialog, IDC_DIVIDE_PICK, kSource));
   EXPECT_TRUE(
-      Picker.PickFolder(companion_, dialog, IDC_DIVIDE_PICK_FOLDER, L"分割ファイル格納先ディレクトリ選択"));
+      PickFolder(companion_, dialog, IDC_DIVIDE_PICK_FOLDER, L"分割ファイル格納先ディレクトリ選択"));
   EXPECT_EQ(EditText(dialog, IDC_DIVIDE_FOLDER), companion_.Folder());
   SetEdit(dialog, IDC_DIVIDE_NAME, L"piece");
   SetEdit(dialog, IDC_DIVIDE_COUNT, std::to_wstring(count));
@@ -79,7 +78,7 @@ HWND DivideFixture::OpenRestore() {
   const HWND dialog = Choose(IDC_DIVIDE_CHOOSE_RESTORE, L"ファイル 復元");
   EXPECT_TRUE(dialog && PickFile(companion_, dialog, IDC_DIVIDE_PICK, kCof));
   EXPECT_TRUE(
-      Picker.PickFolder(companion_, dialog, IDC_DIVIDE_PICK_FOLDER, L"合成ファイル格納先ディレクトリ選択"));
+      PickFolder(companion_, dialog, IDC_DIVIDE_PICK_FOLDER, L"合成ファイル格納先ディレクトリ選択"));
   return dialog;
 }
 

@@ -48,8 +48,7 @@ class SoakTest : public testing::Test {
 
   // A walk to its end; there is no file to open then.
   void Walk() {
-    constexpr unsigned Command::OpenWalk = 2004;
-    companion_.Post(Command::OpenWalk);
+    companion_.Post(static_cast<unsigned>(Command::OpenWalk));
     ASSERT_TRUE(WaitFor([&] { return companion_.Value(kShowOpeningState) == 1; }));
     ASSERT_TRUE(TickUntil(companion_, [&] { return companion_.Value(kShowOpeningState) == 0; }));
   }
