@@ -1,7 +1,8 @@
 #include "shell/file_watch.h"
 
+#include <algorithm>
 #include <cstdint>
-#include <cstring>
+#include <iterator>
 
 #include "character/alarm_images.h"
 #include "character/character.h"
@@ -52,17 +53,17 @@ bool ChangeTake(WatchedFile file) {
 }
 
 // What the schedule program knows of the selected calendar.
-unsigned char calendarBefore[kDefinitionSize];
-unsigned char monthsBefore[kMonthsOfYear * kMonthBlockSize];
+CalenDefinition calendarBefore;
+CalenMonth monthsBefore[kMonthsOfYear];
 
 void CalendarSnapshotTake() {
-  std::memcpy(calendarBefore, CalenDefinition(), sizeof calendarBefore);
-  std::memcpy(monthsBefore, Calendar.CalenSheets[CalenSelected()], sizeof monthsBefore);
+  calendarBefore = CalenSelectedDefinition();
+  std::copy_n(Calendar.CalenSheets[CalenSelected()], kMonthsOfYear, monthsBefore);
 }
 
 bool CalendarSnapshotDiffers() {
-  return std::memcmp(calendarBefore, CalenDefinition(), sizeof calendarBefore) != 0 ||
-         std::memcmp(monthsBefore, Calendar.CalenSheets[CalenSelected()], sizeof monthsBefore) != 0;
+  return calendarBefore != CalenSelectedDefinition() ||
+         !std::equal(std::begin(monthsBefore), std::end(monthsBefore), Calendar.CalenSheets[CalenSelected()]);
 }
 
 void CalendarLook() {
