@@ -1,7 +1,8 @@
 #include "shell/file_watch.h"
 
+#include <algorithm>
 #include <cstdint>
-#include <cstring>
+#include <iterator>
 
 #include "character/alarm_images.h"
 #include "character/character.h"
@@ -46,14 +47,13 @@ bool ChangeTake(WatchedFile file) {
 }
 
 void CalendarSnapshotTake() {
-  std::memcpy(Watch.calendarBefore, CalenDefinition(), sizeof Watch.calendarBefore);
-  std::memcpy(Watch.monthsBefore, Calendar.CalenSheets[CalenSelected()], sizeof Watch.monthsBefore);
+  Watch.calendarBefore = CalenSelectedDefinition();
+  std::copy_n(Calendar.CalenSheets[CalenSelected()], kMonthsOfYear, Watch.monthsBefore);
 }
 
 bool CalendarSnapshotDiffers() {
-  return std::memcmp(Watch.calendarBefore, CalenDefinition(), sizeof Watch.calendarBefore) != 0 ||
-         std::memcmp(Watch.monthsBefore, Calendar.CalenSheets[CalenSelected()], sizeof Watch.monthsBefore) !=
-             0;
+  return Watch.calendarBefore != CalenSelectedDefinition() ||
+         !std::equal(std::begin(Watch.monthsBefore), std::end(Watch.monthsBefore), Calendar.CalenSheets[CalenSelected()]);
 }
 
 void CalendarLook() {

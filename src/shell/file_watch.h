@@ -20,8 +20,8 @@ struct FileWatchState {
   bool alarmReload = false;
   bool characterReload = false;
   // What the schedule program knows of the selected calendar.
-  unsigned char calendarBefore[kDefinitionSize] = {};
-  unsigned char monthsBefore[kMonthsOfYear * kMonthBlockSize] = {};
+  CalenDefinition calendarBefore = {};
+  CalenMonth monthsBefore[kMonthsOfYear] = {};
 };
 extern FileWatchState Watch;
 

@@ -53,7 +53,7 @@ class TickOrderTest : public ProgramTest {
     for (const WindowHandle window : OpenWindows()) {
       if (window != Program.hMainWnd && WindowIsOpen(window)) WindowDestroy(window);
     }
-    AlarmSlotPut(0, AlarmSlot{});
+    Clock.ClockEvents[0] = AlarmSlot{};
     ClockAlarmForget();
     Clock.ClockAlarmSlot = -1;
     Character.BlinkFrame = 0;
@@ -67,11 +67,10 @@ class TickOrderTest : public ProgramTest {
   }
   // An alarm at the clock's 9:30.
   static void AlarmNow() {
-    AlarmSlot alarm{};
-    alarm.enabled = true;
+    AlarmSlot& alarm = Clock.ClockEvents[0];
+    alarm.enabled = 1;
     alarm.hour = 9;
     alarm.minute = 30;
-    AlarmSlotPut(0, alarm);
     ClockAlarmCheckReset();
   }
   // The next step of the motion shows frame 0 again.

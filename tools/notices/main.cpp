@@ -47,23 +47,25 @@ void FillSchedule() {
 }
 
 void FillNotes() {
-  constexpr const char* kTexts[kNoteNoticeCount] = {
+  constexpr const char* kTexts[kNoteDays] = {
       "歯医者 10:30",
       "図書館に本を返す。「花と庭」「星の本」の二冊。",
       "おばあさんの誕生日。花屋さんに花束を頼み、電車の切符も前の日までに買っておく。",
   };
-  for (int note = 0; note < kNoteNoticeCount; ++note) {
-    Notices.NoteNotices[note] = {true, Today.TodayYear, 9 + note, {}};
-    TextCopy(Notices.NoteNotices[note].text, sizeof Notices.NoteNotices[note].text, kTexts[note]);
+  for (int note = 0; note < kNoteDays; ++note) {
+    Calendar.CalenNotes[note] = {true, Today.TodayYear, 9 + note, {}};
+    TextCopy(Calendar.CalenNotes[note].text, sizeof Calendar.CalenNotes[note].text, kTexts[note]);
   }
 }
 
 void FillAlarm() {
   Clock.ClockAlarmSlot = 0;
-  AlarmSlot alarm{false, 7, 0, 1, {}};
+  AlarmSlot& alarm = Clock.ClockEvents[0];
+  alarm = AlarmSlot{};
+  alarm.hour = 7;
+  alarm.performance = 1;
   TextCopy(alarm.comment, sizeof alarm.comment,
            "おはようございます。今日は燃えるごみの日です。八時までに出してから、植木に水をやりましょう。");
-  AlarmSlotPut(Clock.ClockAlarmSlot, alarm);
 }
 
 // A hidden window in the place of one that is not open, for a menu to belong to.
