@@ -9,7 +9,6 @@
 #include "clock_calendar/clock_calendar_tick.h"
 #include "filetools/tidy/desktop_tidy.h"
 #include "mail_music/mail/mail.h"
-#include "mail_music/music/music.h"
 #include "platform/file.h"
 #include "platform/memory.h"
 #include "platform/screen.h"
@@ -30,6 +29,7 @@
 #include "shell/file_dialog_defaults.h"
 #include "shell/file_watch.h"
 #include "shell/settings.h"
+#include "shell/states.h"
 #include "shell/tick_timer.h"
 #include "world/world_list.h"
 
@@ -58,14 +58,13 @@ void ScreenFiguresTake() {
 }  // namespace
 
 void StartSequence(WindowHandle window) {
+  if (Program.Started) StatesReset();
+  Program.Started = true;
   Program.hMainWnd = window;
-  Program.Quitting = false;
   DiagnosticsShowAll();
   FileDialogDefaultsSet();
   TextFiguresTake(window);
   DrawingObjectsCreate();
-  SclTablesClear();
-  MusicReset();
   WorkBlocks.CastBlock = static_cast<unsigned char*>(MemoryAllocate(kCastBlockSize));
   WorkBlocks.ScopeBlock = static_cast<unsigned char*>(MemoryAllocate(kScopeBlockSize));
   RandomSeed(1);

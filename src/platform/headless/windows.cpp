@@ -129,6 +129,7 @@ bool EventSend(const Event& event) {
     Failure("events nest without end");
     return false;
   }
+  OverhearTell(event);
   ++nesting;
   const bool done = window->handler(event);
   if (!done) DefaultAction(event, window);
