@@ -10,8 +10,6 @@
 #include "filetools/tidy/desktop_tidy.h"
 #include "mail_music/mail/mail.h"
 #include "platform/file.h"
-#include "platform/memory.h"
-#include "platform/screen.h"
 #include "platform/time.h"
 #include "platform/window.h"
 #include "schedule/applications/application_list.h"
@@ -48,13 +46,6 @@ void TimerBegin() {
   BoxTell(Program.hMainWnd, "ミルレール", "タイマー設定できません");
 }
 
-void ScreenFiguresTake() {
-  Screen.SizeButtonWidth = ScreenMetric(Metric::SizeButtonWidth);
-  Screen.MenuBarHeight = ScreenMetric(Metric::MenuHeight);
-  Screen.FrameWidth = ScreenMetric(Metric::FrameWidth);
-  Screen.FrameHeight = ScreenMetric(Metric::FrameHeight);
-}
-
 }  // namespace
 
 void StartSequence(WindowHandle window) {
@@ -65,8 +56,7 @@ void StartSequence(WindowHandle window) {
   FileDialogDefaultsSet();
   TextFiguresTake(window);
   DrawingObjectsCreate();
-  WorkBlocks.CastBlock = static_cast<unsigned char*>(MemoryAllocate(kCastBlockSize));
-  WorkBlocks.ScopeBlock = static_cast<unsigned char*>(MemoryAllocate(kScopeBlockSize));
+  WorkBlocksAllocate();
   RandomSeed(1);
   RandomSeed(static_cast<std::uint32_t>(TimeSeconds()));
   FoldersTake();
@@ -78,7 +68,7 @@ void StartSequence(WindowHandle window) {
   SetDateDefaults();
   Stage.StageWidth = 300;
   Stage.StageHeight = 200;
-  ScreenFiguresTake();
+  FrameFiguresTake();
 
   const int settings = SysFileRead();
   ApliListOpen();
