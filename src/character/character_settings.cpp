@@ -3,6 +3,7 @@
 #include <cstring>
 #include <iterator>
 
+#include "character/chara_set.h"
 #include "character/character_tables.h"
 #include "services/text.h"
 

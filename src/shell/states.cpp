@@ -108,7 +108,7 @@ void ScheduleReset() {
 void FileToolsReset() {
   ResetAll(BackUp, BackUpRun, FileDivide, GroupRun, OpnGroups, OpnHistory, OpnPendingGroup, OpnProgList,
            OpnProgListBuilt, OpnRecord, OpnSearchResult, OpnSelection, OpnSelectionSave, OpnWork, Scope,
-           ScopePieDrive, ScopePieFolder, Stepped, Tidy);
+           Stepped, Tidy);
 }
 
 void MailMusicReset() {
