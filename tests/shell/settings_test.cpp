@@ -15,7 +15,7 @@
 #include "platform/posix/faults.h"
 #include "platform/posix/posix_paths.h"
 #include "schedule/model/schedule.h"
-#include "services/big_endian.h"
+#include "tests/support/byte_order.h"
 #include "services/data_file.h"
 #include "services/program.h"
 #include "services/record.h"
