@@ -21,3 +21,6 @@ bool PanelIsOpen();
 
 // The active feature.
 Feature PanelFeature();
+
+// True while the panel is on show.
+bool PanelIsOpen();

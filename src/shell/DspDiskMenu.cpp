@@ -315,6 +315,10 @@ Feature PanelFeature() {
   return static_cast<Feature>(Panel.FuncNo);
 }
 
+bool PanelIsOpen() {
+  return Panel.hDiskMenu != nullptr;
+}
+
 void PanelPointerOnStage(const Event& event) {
   if (Panel.MenuPanelState == 0 && Panel.MenuReopenGuard == 0) {
     OpenTop();
