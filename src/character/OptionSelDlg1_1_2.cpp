@@ -6,15 +6,14 @@
 
 namespace {
 
-constexpr std::uint32_t kFirstButton = 2285;
-constexpr std::uint32_t kLastButton = 2288;
+constexpr int kFirstButton = 2285;
+constexpr int kLastButton = 2288;
 
 int shown;
 
 bool Proc(const Event& event) {
-  if (event.kind != EventKind::Command || event.command < kFirstButton || event.command > kLastButton)
-    return false;
-  const auto place = static_cast<int>(event.command - kFirstButton);
+  if (event.kind != EventKind::Pressed || event.id < kFirstButton || event.id > kLastButton) return false;
+  const int place = event.id - kFirstButton;
   MotionPreviewRun(event.window, shown, static_cast<Preview>(static_cast<int>(Preview::Menu) + place));
   return true;
 }

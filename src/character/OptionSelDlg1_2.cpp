@@ -28,7 +28,7 @@ constexpr int kList = 100;
 constexpr int kName = 101;
 constexpr int kOk = 1;
 constexpr int kCancel = 2;
-constexpr std::uint32_t kDetail = 2369;
+constexpr int kDetail = 2369;
 
 // First frames of the characters that were shown, by their places in the list.
 ImageHandle previews[kMainCharaMax];
@@ -92,11 +92,8 @@ void Leave(WindowHandle dialog) {
   MenuDialogEnd(dialog, kCancel);
 }
 
-bool HandleCommand(const Event& event) {
-  switch (event.command) {
-    case kList:
-      if (event.notice == Notice::SelectChange) Show(event.window, ListSelected(event.window, kList));
-      return true;
+bool Press(const Event& event) {
+  switch (event.id) {
     case kDetail:
       if (IsListed(shown)) CharacterDetailRun(event.window, shown);
       return true;
@@ -117,8 +114,11 @@ bool Proc(const Event& event) {
     case EventKind::Init:
       Fill(event.window);
       return true;
-    case EventKind::Command:
-      return HandleCommand(event);
+    case EventKind::Chosen:
+      Show(event.window, ListSelected(event.window, kList));
+      return true;
+    case EventKind::Pressed:
+      return Press(event);
     case EventKind::Paint:
       DrawPreview(event.window);
       return true;

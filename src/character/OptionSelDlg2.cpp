@@ -56,8 +56,8 @@ void Take(WindowHandle dialog) {
   changed = true;
 }
 
-bool HandleCommand(const Event& event) {
-  switch (event.command) {
+bool Press(const Event& event) {
+  switch (event.id) {
     case kCheckMail:
       AlarmCheckRun(event.window, kAlarmMail, Character.AlarmCharaSel[kAlarmMail]);
       return true;
@@ -81,7 +81,7 @@ bool Proc(const Event& event) {
     Fill(event.window);
     return true;
   }
-  return event.kind == EventKind::Command && HandleCommand(event);
+  return event.kind == EventKind::Pressed && Press(event);
 }
 
 }  // namespace

@@ -22,9 +22,9 @@ struct LiveObjects {
 
 LiveObjects DiagnosticsLive();
 
-// Lays a variable open under a number from 0 to 63. On Windows the registered
-// message "MirrellDiagnostics" to the main window answers with the value of
-// number wParam, and with the live counts, in the order above, from 100 on.
+// Lays a variable open under a number from 0 to 63. In the build for the end-to-end
+// tests the registered message "MirrellDiagnostics" to the main window answers with the
+// value of number wParam, and with the live counts, in the order above, from 100 on.
 inline constexpr int kDiagnosticsCount = 64;
 inline constexpr int kDiagnosticsLiveFirst = 100;
 inline constexpr int kDiagnosticsLiveCount = 11;

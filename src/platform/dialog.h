@@ -6,12 +6,13 @@
 
 // Runs a dialog until DialogEnd and returns that result; -1 when it cannot be
 // made. The message loop inside keeps the timer going. The owner is disabled
-// meanwhile.
-int DialogRun(int templateId, WindowHandle owner, EventHandler handler);
+// meanwhile. `context` comes with every event, so that a handler that serves several
+// dialogs need not guess which one it is.
+int DialogRun(int templateId, WindowHandle owner, EventHandler handler, void* context = nullptr);
 
 // Opens a dialog beside everything else. It ends with WindowDestroy. Null on
 // failure.
-WindowHandle DialogOpen(int templateId, WindowHandle owner, EventHandler handler);
+WindowHandle DialogOpen(int templateId, WindowHandle owner, EventHandler handler, void* context = nullptr);
 
 // Ends a modal dialog; DialogRun returns when the event is through. On a
 // modeless one it only hides it.
@@ -20,8 +21,9 @@ void DialogEnd(WindowHandle dialog, int result);
 // The pixels of a rectangle given in dialog units.
 Rect DialogUnits(WindowHandle dialog, const Rect& units);
 
-// --- Controls, by dialog and id. A control that is not there is passed over
-// and reads as empty, 0 or -1.
+// --- Controls, by dialog and id. Of a dialog that is not open (null) a control is
+// passed over and reads as empty, 0 or -1. To ask an open one for a control that it has
+// not is a mistake; it is passed over too, and fails the test.
 
 WindowHandle Control(WindowHandle dialog, int id);
 
@@ -40,7 +42,9 @@ bool ControlIsChecked(WindowHandle dialog, int id);
 
 // List boxes and the lists of combo boxes.
 void ListClear(WindowHandle dialog, int id);
-int ListAdd(WindowHandle dialog, int id, const char* text);  // the new row
+// Adds a row and returns its place. A list box with a horizontal scroll bar (WS_HSCROLL)
+// scrolls as far as its longest row needs.
+int ListAdd(WindowHandle dialog, int id, const char* text);
 // Whether a list draws each change of its rows; when that is on again, all is drawn.
 void ListDraw(WindowHandle dialog, int id, bool on);
 int ListCount(WindowHandle dialog, int id);
@@ -110,3 +114,6 @@ bool FileDialogLoad(WindowHandle owner, const char* title, const char* filterTex
                     const char* startFolder, char* path, int size);
 bool FileDialogSave(WindowHandle owner, const char* title, const char* filterText, const char* mask,
                     const char* startFolder, char* path, int size);
+
+// Whether one of them is up: no dialog of a feature opens over it.
+bool FileDialogIsUp();

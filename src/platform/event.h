@@ -1,11 +1,18 @@
-// What happens to a window, as its handler is told.
+// What happens to a window, as its handler is told: what the user meant, not what the
+// system sent. Changes of the focus, lists that drop down and the like stay in the
+// backends.
 #pragma once
 
 #include "platform/types.h"
 
 enum class EventKind {
   Init,        // the window or dialog has been made and is about to be used
-  Command,     // a numbered command, a menu entry, or something a control reports
+  Pressed,     // id: a button, a check box or a label that reports; also Enter and Escape
+  Chosen,      // id: another row of a list or combo box
+  Opened,      // id: double click on a row of a list
+  Edited,      // id: the text of a field has changed
+  Command,     // command: a number that was sent, a menu entry, an accelerator
+  Apply,       // a page of a property sheet is to take over what it shows
   Paint,       // draw now, through CanvasGet
   MouseMove,   // x, y, keys
   LeftDown,    // x, y, keys
@@ -25,15 +32,6 @@ enum class EventKind {
   User,        // the first private message; nothing uses it
 };
 
-// What a control reports with a Command.
-enum class Notice {
-  Click,         // a button was pressed; also every plain numbered command
-  SelectChange,  // another row of a list or combo box
-  DoubleClick,   // double click in a list
-  EditChange,    // the text of an edit field
-  Other,         // anything else (focus, drop-down, ...)
-};
-
 enum class Scroll { LineUp, LineDown, PageUp, PageDown, Thumb, Top, Bottom, End };
 
 // Bits of Event::keys.
@@ -43,11 +41,9 @@ inline constexpr unsigned kShiftHeld = 4;
 struct Event {
   EventKind kind = EventKind::Init;
   WindowHandle window = nullptr;
-  // Command: the number, whole; of a control's report the control's id.
-  std::uint32_t command = 0;
-  Notice notice = Notice::Click;
-  // True when a control of the window sent the Command, not a SendCommand.
-  bool fromControl = false;
+  void* context = nullptr;    // what the dialog was opened with
+  int id = 0;                 // of the control: Pressed, Chosen, Opened, Edited
+  std::uint32_t command = 0;  // Command: the number, whole
   int x = 0;
   int y = 0;
   unsigned keys = 0;
@@ -58,11 +54,24 @@ struct Event {
   WindowHandle control = nullptr;
 };
 
-// True for what ends a window by its default: button 1 or 2, whose numbers Enter
-// and Escape send too, and Close.
+inline bool IsPressed(const Event& event, int id) {
+  return event.kind == EventKind::Pressed && event.id == id;
+}
+inline bool IsChosen(const Event& event, int id) {
+  return event.kind == EventKind::Chosen && event.id == id;
+}
+inline bool IsOpened(const Event& event, int id) {
+  return event.kind == EventKind::Opened && event.id == id;
+}
+
+// In a dialog these two numbers are Enter's and Escape's: they come as Pressed whether
+// there is such a button or not, and also when they were sent as a command.
+inline constexpr int kOkButton = 1;
+inline constexpr int kCancelButton = 2;
+
+// True for what ends a window by its default: Enter, Escape and Close.
 inline bool EndIsAsked(const Event& event) {
-  const bool button = event.kind == EventKind::Command && (event.command == 1 || event.command == 2);
-  return button || event.kind == EventKind::Close;
+  return IsPressed(event, kOkButton) || IsPressed(event, kCancelButton) || event.kind == EventKind::Close;
 }
 
 // Handles the events of one window. True: the event is done with; false: the

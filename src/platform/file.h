@@ -51,12 +51,13 @@ bool FileCopy(const char* from, const char* to, bool failIfExists);
 
 bool FolderCreate(const char* path);
 
-// The current folder, without a trailing backslash unless it is a drive root.
-// Returns the length, 0 on failure and when it does not fit.
+// The current folder, without a trailing backslash unless it is a drive root; by its
+// short names when code page 932 cannot hold the long ones. Returns the length, 0 on
+// failure, when it does not fit, and when it has no name that the code page can hold.
 int FolderGetCurrent(char* buffer, int size);
 bool FolderSetCurrent(const char* path);
 
-// The user's desktop folder. False when it cannot be told or does not fit.
+// The user's desktop folder, named likewise. False when it cannot be told or does not fit.
 bool FolderDesktop(char* buffer, int size);
 
 inline constexpr std::uint32_t kAttributeFolder = 16;

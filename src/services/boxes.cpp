@@ -9,3 +9,11 @@ void BoxTell(WindowHandle owner, const char* text, const char* caption) {
 bool BoxAsk(WindowHandle owner, const char* text, const char* caption) {
   return MessageBoxRun(owner, text, caption, BoxButtons::OkCancel, BoxIcon::Question) == BoxAnswer::Ok;
 }
+
+void BoxTell(WindowHandle owner, const BoxWords& words) {
+  if (words.text) BoxTell(owner, words.text, words.caption);
+}
+
+bool BoxAsk(WindowHandle owner, const BoxWords& words) {
+  return !words.text || BoxAsk(owner, words.text, words.caption);
+}

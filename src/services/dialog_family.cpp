@@ -56,7 +56,7 @@ bool Proc(Family<Number>& family, const Event& event) {
   const EventHandler handler = HandlerOf(family, event.window);
   bool done = handler && handler(event);
   if (!done && EndIsAsked(event)) {
-    End(family, event.window, event.command == 1 ? 1 : 2);
+    End(family, event.window, IsPressed(event, 1) ? 1 : 2);
     done = true;
   }
   if (event.kind == EventKind::Destroy) {
@@ -83,27 +83,30 @@ bool SnryDlgProc(const Event& event) {
 
 template <typename Number>
 int Run(Family<Number>& family, EventHandler proc, Number dialog, int templateId, WindowHandle owner,
-        EventHandler handler) {
+        EventHandler handler, void* context) {
   *family.id = dialog;
   family.next = handler;
-  const int result = DialogRun(templateId, owner, proc);
+  const int result = DialogRun(templateId, owner, proc, context);
   *family.id = Number::None;
   return result;
 }
 
 }  // namespace
 
-int MenuDialogRun(MenuDialog dialog, int templateId, WindowHandle owner, EventHandler handler) {
-  return Run(menuFamily, MenuDlgProc, dialog, templateId, owner, handler);
+int MenuDialogRun(MenuDialog dialog, int templateId, WindowHandle owner, EventHandler handler,
+                  void* context) {
+  return Run(menuFamily, MenuDlgProc, dialog, templateId, owner, handler, context);
 }
-int ToolDialogRun(ToolDialog dialog, int templateId, WindowHandle owner, EventHandler handler) {
-  return Run(toolFamily, ToolDlgProc, dialog, templateId, owner, handler);
+int ToolDialogRun(ToolDialog dialog, int templateId, WindowHandle owner, EventHandler handler,
+                  void* context) {
+  return Run(toolFamily, ToolDlgProc, dialog, templateId, owner, handler, context);
 }
-int SubDialogRun(SubDialog dialog, int templateId, WindowHandle owner, EventHandler handler) {
-  return Run(subFamily, SubDlgProc, dialog, templateId, owner, handler);
+int SubDialogRun(SubDialog dialog, int templateId, WindowHandle owner, EventHandler handler, void* context) {
+  return Run(subFamily, SubDlgProc, dialog, templateId, owner, handler, context);
 }
-int SnryDialogRun(SnryDialog dialog, int templateId, WindowHandle owner, EventHandler handler) {
-  return Run(snryFamily, SnryDlgProc, dialog, templateId, owner, handler);
+int SnryDialogRun(SnryDialog dialog, int templateId, WindowHandle owner, EventHandler handler,
+                  void* context) {
+  return Run(snryFamily, SnryDlgProc, dialog, templateId, owner, handler, context);
 }
 
 void MenuDialogEnd(WindowHandle dialog, int result) {

@@ -21,12 +21,16 @@ extern DialogsState Dialogs;
 // Runs a modal dialog of a family: sets the family's id, runs, and clears the
 // id. The handle is set at Init and cleared at the close. `handler` is asked
 // first about every event; what it leaves (returns false for) of button 1,
-// button 2 and Close ends the dialog with 1 or 2. Returns the dialog's result,
-// -1 when it cannot be made.
-int MenuDialogRun(MenuDialog dialog, int templateId, WindowHandle owner, EventHandler handler);
-int ToolDialogRun(ToolDialog dialog, int templateId, WindowHandle owner, EventHandler handler);
-int SubDialogRun(SubDialog dialog, int templateId, WindowHandle owner, EventHandler handler);
-int SnryDialogRun(SnryDialog dialog, int templateId, WindowHandle owner, EventHandler handler);
+// button 2 and Close ends the dialog with 1 or 2. `context` comes with every event.
+// Returns the dialog's result, -1 when it cannot be made.
+int MenuDialogRun(MenuDialog dialog, int templateId, WindowHandle owner, EventHandler handler,
+                  void* context = nullptr);
+int ToolDialogRun(ToolDialog dialog, int templateId, WindowHandle owner, EventHandler handler,
+                  void* context = nullptr);
+int SubDialogRun(SubDialog dialog, int templateId, WindowHandle owner, EventHandler handler,
+                 void* context = nullptr);
+int SnryDialogRun(SnryDialog dialog, int templateId, WindowHandle owner, EventHandler handler,
+                  void* context = nullptr);
 
 // Ends a family's dialog from its own handler: clears the handle (for the menu
 // family the panel state too) and ends it with `result`.

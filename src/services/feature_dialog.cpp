@@ -1,10 +1,12 @@
 #include "services/feature_dialog.h"
 
+#include "platform/dialog.h"
 #include "services/dialog_family.h"
 #include "services/panel_entry.h"
 
 int FeatureDialogRun(Feature feature, int (*dialog)()) {
-  if (Dialogs.hMenuDlg || Dialogs.hToolDlg || Dialogs.hSubDlg || Dialogs.hSnryDlg) return 0;
+  if (Dialogs.hMenuDlg || Dialogs.hToolDlg || Dialogs.hSubDlg || Dialogs.hSnryDlg || FileDialogIsUp())
+    return 0;
   PanelEntryBegin(feature);
   const int result = dialog();
   PanelEntryDone();

@@ -83,19 +83,19 @@ void NameFromFiles(WindowHandle dialog) {
   if (ListText(dialog, kPickFilesId, row, name, sizeof name) > 0) ControlSetText(dialog, kPickNameId, name);
 }
 
-bool HandleCommand(const Event& event) {
+bool HandleControl(const Event& event) {
   if (FolderListEvent(folders, event)) return true;
   if (FolderListIsCancel(event)) {
     End(event.window);
-  } else if (event.command == kOkId && event.notice == Notice::Click) {
+  } else if (IsPressed(event, kOkId)) {
     Accept(event.window);
-  } else if (event.command == kPickFilterId && event.notice == Notice::SelectChange) {
+  } else if (IsChosen(event, kPickFilterId)) {
     const int row = ListSelected(event.window, kPickFilterId);
     if (row >= 0) Picker.PickFilterSel = row;
     ListFiles();
-  } else if (event.command == kPickFilesId && event.notice == Notice::SelectChange) {
+  } else if (IsChosen(event, kPickFilesId)) {
     NameFromFiles(event.window);
-  } else if (event.command == kPickFilesId && event.notice == Notice::DoubleClick) {
+  } else if (IsOpened(event, kPickFilesId)) {
     NameFromFiles(event.window);
     Accept(event.window);
   } else {
@@ -109,8 +109,6 @@ bool Handle(const Event& event) {
     case EventKind::Init:
       Open(event.window);
       return true;
-    case EventKind::Command:
-      return HandleCommand(event);
     case EventKind::Paint:
       FolderListPaint(folders);
       return true;
@@ -121,7 +119,7 @@ bool Handle(const Event& event) {
       Picker.hFilePickDlg = nullptr;
       return false;
     default:
-      return false;
+      return HandleControl(event);
   }
 }
 

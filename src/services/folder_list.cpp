@@ -23,9 +23,11 @@ int UpWidth() {
 }
 
 void UpdateUp(const FolderList& list) {
+  if (!list.hasUp) return;
   const bool up = PathCanGoUp(list.folder);
   // A button that goes grey under the keyboard would leave it nowhere.
-  if (!up && WindowHasFocus(Control(list.dialog, kFolderUpId))) ControlSetFocus(list.dialog, kFolderListId);
+  const bool focus = WindowHasFocus(Control(list.dialog, kFolderUpId));
+  if (!up && focus && list.hasRows) ControlSetFocus(list.dialog, kFolderListId);
   ControlEnable(list.dialog, kFolderUpId, up);
 }
 
@@ -50,11 +52,16 @@ void GoTo(const FolderList& list, const char* folder) {
   for (int up = 0; up < kAnyFolderSize / 2 && !ReadCurrent(list); ++up) FolderSetCurrent("..");
 }
 
+void ShowRows(const FolderList& list) {
+  if (!list.hasRows) return;
+  ListClear(list.dialog, kFolderListId);
+  ListFolders(list.dialog, kFolderListId);
+}
+
 // To list.folder, as far as that can be done.
 void Go(const FolderList& list) {
   GoTo(list, list.folder);
-  ListClear(list.dialog, kFolderListId);
-  ListFolders(list.dialog, kFolderListId);
+  ShowRows(list);
   FolderListPaint(list);
   if (list.changed) list.changed();
   UpdateUp(list);
@@ -94,13 +101,13 @@ void FolderListOpen(FolderList& list, WindowHandle dialog, const Rect& place, in
   const int bandTop = place.top - kBandAbove;
   const Rect band{place.left, bandTop, place.left + bandWidth, bandTop + kBandHeight};
   const int upLeft = band.right + kBandGap;
-  list = {dialog, folder, band, changed};
-  ControlCreate(dialog, ControlKind::ListBox, kFolderListId, place, "");
-  ControlCreate(dialog, ControlKind::Button, kFolderUpId,
-                {upLeft, bandTop, upLeft + UpWidth(), bandTop + kUpHeight}, "↑");
+  list = {dialog, folder, band, changed, false, false};
+  list.hasRows = ControlCreate(dialog, ControlKind::ListBox, kFolderListId, place, "") != nullptr;
+  list.hasUp = ControlCreate(dialog, ControlKind::Button, kFolderUpId,
+                             {upLeft, bandTop, upLeft + UpWidth(), bandTop + kUpHeight}, "↑") != nullptr;
   folder[0] = '\0';
   GoTo(list, start);
-  ListFolders(dialog, kFolderListId);
+  ShowRows(list);
   UpdateUp(list);
 }
 
@@ -110,13 +117,13 @@ void FolderListOpenWide(FolderList& list, WindowHandle dialog, const Rect& place
 }
 
 bool FolderListEvent(FolderList& list, const Event& event) {
-  if (event.kind != EventKind::Command) return false;
-  if (event.command == kFolderUpId) {
-    if (event.notice == Notice::Click) GoUp(list);
-    return true;
+  if (IsPressed(event, kFolderUpId)) {
+    GoUp(list);
+  } else if (IsOpened(event, kFolderListId)) {
+    OpenRow(list);
+  } else {
+    return IsChosen(event, kFolderListId);
   }
-  if (event.command != kFolderListId || event.notice == Notice::Click) return false;
-  if (event.notice == Notice::DoubleClick) OpenRow(list);
   return true;
 }
 
@@ -134,6 +141,5 @@ void FolderListPaint(const FolderList& list) {
 }
 
 bool FolderListIsCancel(const Event& event) {
-  return event.kind == EventKind::Command && event.notice == Notice::Click &&
-         (event.command == kFolderListId || event.command == kFolderCancelId);
+  return IsPressed(event, kFolderListId) || IsPressed(event, kFolderCancelId);
 }

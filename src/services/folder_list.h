@@ -5,9 +5,9 @@
 // band above it with "Path: " and the folder, and the button "↑" at the band's
 // right. It moves the program's current folder.
 //
-// The list box has the number 2, and so has the command of Escape. They are told
-// apart by the notice: Escape is a Click, a list box never reports one. A dialog
-// with a folder list gives its cancel button another number, kFolderCancelId.
+// The list box has the number 2, and so has Escape. They are told apart by the event:
+// Escape is Pressed, which a list box never is. A dialog with a folder list gives its
+// cancel button another number, kFolderCancelId.
 #pragma once
 
 #include "platform/event.h"
@@ -23,6 +23,8 @@ struct FolderList {
   char* folder = nullptr;       // its owner's buffer of kFolderSize bytes: the folder on show
   Rect band{};                  // where the path is drawn
   void (*changed)() = nullptr;  // told after the user has gone to another folder; may be null
+  bool hasRows = false;         // whether the list and its button could be made
+  bool hasUp = false;
 };
 
 // How far the list stands below the top of the dialog: 4 times the height of the

@@ -217,9 +217,9 @@ bool PanelProc(const Event& event) {
     case EventKind::Char:
       if (event.key == kEscape) Dismiss(event.window);
       return true;
-    case EventKind::Command:
+    case EventKind::Pressed:
       // From the tick, and from the keyboard: Escape arrives as 2, Enter as 1.
-      if (event.command == 1 || event.command == 2) Dismiss(event.window);
+      if (event.id == 1 || event.id == 2) Dismiss(event.window);
       return true;
     case EventKind::Close:
       End(event.window);

@@ -131,8 +131,8 @@ void Cancel(WindowHandle dialog) {
   MenuDialogEnd(dialog, kCancel);
 }
 
-bool HandleCommand(const Event& event) {
-  switch (event.command) {
+bool Press(const Event& event) {
+  switch (event.id) {
     case kDefault:
       Default(event.window);
       return true;
@@ -164,8 +164,8 @@ bool OptionSelDlg3Proc(const Event& event) {
     case EventKind::LeftUp:
       DragEnd();
       return true;
-    case EventKind::Command:
-      return HandleCommand(event);
+    case EventKind::Pressed:
+      return Press(event);
     case EventKind::Close:
       Cancel(event.window);
       return true;

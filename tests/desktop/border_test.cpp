@@ -3,11 +3,14 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cstring>
 #include <string>
+#include <vector>
 
 #include "platform/file.h"
 #include "platform/process.h"
+#include "tests/desktop/companion.h"
 
 namespace {
 
@@ -74,6 +77,68 @@ TEST(FolderBorderTest, AFolderThatDoesNotFitIsAFailureAndNoOtherFolder) {
   EXPECT_TRUE(FolderDesktop(text, desktop + 1));
   EXPECT_FALSE(FolderDesktop(text, desktop));
   EXPECT_FALSE(FolderDesktop(text, 1));
+}
+
+// A folder whose name code page 932 cannot hold.
+class ForeignFolderTest : public testing::Test {
+ protected:
+  void SetUp() override {
+    GetCurrentDirectoryW(MAX_PATH, before_);
+    wchar_t temp[MAX_PATH];
+    GetTempPathW(MAX_PATH, temp);
+    folder_ = std::wstring(temp) + L"J\x00F6rg" + std::to_wstring(GetCurrentProcessId());
+    ASSERT_TRUE(CreateDirectoryW(folder_.c_str(), nullptr));
+    ASSERT_TRUE(SetCurrentDirectoryW(folder_.c_str()));
+  }
+  void TearDown() override {
+    SetCurrentDirectoryW(before_);
+    DeleteFileW((folder_ + L"\\a.bin").c_str());
+    RemoveDirectoryW(folder_.c_str());
+  }
+
+  wchar_t before_[MAX_PATH] = L"";
+  std::wstring folder_;
+};
+
+TEST_F(ForeignFolderTest, ItIsEnteredByItsShortNameOrNotAtAll) {
+  char name[MAX_PATH];
+  const int length = FolderGetCurrent(name, sizeof name);
+  wchar_t shortName[MAX_PATH];
+  GetShortPathNameW(folder_.c_str(), shortName, MAX_PATH);
+  const bool hasShort = std::wstring(shortName).find(L'\x00F6') == std::wstring::npos;
+  EXPECT_EQ(length > 0, hasShort);
+  if (length == 0) return;
+  ASSERT_TRUE(FolderSetCurrent("C:\\"));
+  ASSERT_TRUE(FolderSetCurrent(name));
+  FileClose(FileCreate("a.bin"));
+  EXPECT_NE(GetFileAttributesW((folder_ + L"\\a.bin").c_str()), INVALID_FILE_ATTRIBUTES);
+}
+
+TEST(BorderTest, ANumberOfMoreThanThirtyTwoBitsIsNoCommand) {
+  Companion companion;
+  companion.Start();
+  ASSERT_FALSE(HasFatalFailure());
+  // Cut to 32 bits this would be 8, which ends the program.
+  SendMessageW(companion.Window(), WM_COMMAND, 0x100000008, 0);
+  companion.Tick();
+  EXPECT_TRUE(companion.Runs());
+}
+
+// Whether the bytes of a program hold a text.
+bool Holds(const std::wstring& program, const std::wstring& text) {
+  const std::vector<unsigned char> bytes = ReadWholeFile(program);
+  const auto* wanted = reinterpret_cast<const unsigned char*>(text.data());
+  return std::search(bytes.begin(), bytes.end(), wanted, wanted + text.size() * sizeof text[0]) !=
+         bytes.end();
+}
+
+TEST(BorderTest, TheShippedProgramAnswersNoTest) {
+  const Companion companion;
+  for (const wchar_t* text : {L"MirrellDiagnostics", L"MIRRELL_LIVE_REPORT"}) {
+    EXPECT_FALSE(Holds(companion.File(L"shipped.exe"), text));
+    EXPECT_TRUE(Holds(companion.File(L"mirrell.exe"), text));
+  }
+  EXPECT_TRUE(Holds(companion.File(L"shipped.exe"), L"MS Gothic"));  // what is there is found
 }
 
 }  // namespace

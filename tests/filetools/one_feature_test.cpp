@@ -55,6 +55,17 @@ TEST_F(OneFeatureTest, NoFeatureOpensOverAnother) {
   }
 }
 
+TEST_F(OneFeatureTest, NoFeatureOpensOverAFileDialogOfTheSystem) {
+  ExpectFileDialog("", [] {
+    for (const FeatureRow& feature : kFeatures) {
+      SendCommand(Program.hMainWnd, feature.command);
+      EXPECT_EQ(TopDialog(), nullptr) << feature.command;
+    }
+  });
+  char path[100] = "";
+  FileDialogLoad(Program.hMainWnd, "", "", "*.*", "", path, sizeof path);
+}
+
 TEST_F(OneFeatureTest, EachFeatureOpensAgainWhenTheOtherHasClosed) {
   for (int round = 0; round < 2; ++round) {
     for (const FeatureRow& feature : kFeatures) {

@@ -67,6 +67,21 @@ TEST_F(BoxTest, MeanwhileRunsWhileTheOwnerIsDisabled) {
   WindowDestroy(owner);
 }
 
+TEST_F(BoxTest, FileDialogIsUpWhileItRuns) {
+  const WindowHandle owner = OpenControls();
+  EXPECT_FALSE(FileDialogIsUp());
+  ExpectFileDialog("", [owner] {
+    EXPECT_TRUE(FileDialogIsUp());
+    Press(owner, 1);
+    EXPECT_NE(TheFailure().find("another dialog stands in front"), std::string::npos);
+  });
+  char path[100] = "";
+  EXPECT_FALSE(FileDialogLoad(owner, "t", "f", "*.*", "", path, sizeof path));
+  EXPECT_FALSE(FileDialogIsUp());
+  Press(owner, 20);
+  WindowDestroy(owner);
+}
+
 TEST_F(BoxTest, MenuReturnsItsCommand) {
   const WindowHandle window = OpenControls();
   ExpectMenu(IDM_Test, 501);

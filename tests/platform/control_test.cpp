@@ -45,7 +45,7 @@ TEST_F(ControlTest, AutomaticCheckBoxTurnsOverBeforeTheCommand) {
   Press(dialog_, 20);
   EXPECT_FALSE(seen);
   reaction = nullptr;
-  EXPECT_EQ(heard, (Names{"command 20 click", "command 20 click"}));
+  EXPECT_EQ(heard, (Names{"pressed 20", "pressed 20"}));
 }
 
 TEST_F(ControlTest, PlainCheckBoxStaysAsItIs) {
@@ -74,7 +74,8 @@ TEST_F(ControlTest, SetCheckedTouchesOneButtonOnly) {
   ControlSetChecked(dialog_, 30, true);
   ControlSetChecked(dialog_, 31, true);
   EXPECT_TRUE(ControlIsChecked(dialog_, 30));
-  ControlSetChecked(dialog_, 1, true);  // a push button has no mark
+  ControlSetChecked(dialog_, 1, true);
+  EXPECT_EQ(TheFailure(), "ControlSetChecked 1 of dialog 100: the control has no mark");
   EXPECT_FALSE(ControlIsChecked(dialog_, 1));
   EXPECT_TRUE(heard.empty());
 }
@@ -84,7 +85,7 @@ TEST_F(ControlTest, PressOnADisabledControlIsAFailure) {
   EXPECT_EQ(TheFailure(), "Press 81 of dialog 100: the control is disabled");
   ControlEnable(dialog_, 81, true);
   Press(dialog_, 81);
-  EXPECT_EQ(heard, Names{"command 81 click"});
+  EXPECT_EQ(heard, Names{"pressed 81"});
 }
 
 TEST_F(ControlTest, PressOnAHiddenControlIsAFailure) {
@@ -93,7 +94,7 @@ TEST_F(ControlTest, PressOnAHiddenControlIsAFailure) {
   ControlShow(dialog_, 80, true);
   EXPECT_TRUE(ControlIsVisible(dialog_, 80));
   Press(dialog_, 80);
-  EXPECT_EQ(heard, Names{"command 80 click"});
+  EXPECT_EQ(heard, Names{"pressed 80"});
 }
 
 TEST_F(ControlTest, PressInAHiddenDialogIsAFailure) {
@@ -113,7 +114,7 @@ TEST_F(ControlTest, PressOnWhatIsNotThereIsAFailure) {
 
 TEST_F(ControlTest, LabelThatReportsCanBePressed) {
   Press(dialog_, 70);
-  EXPECT_EQ(heard, Names{"command 70 click"});
+  EXPECT_EQ(heard, Names{"pressed 70"});
 }
 
 // --- Edit fields
@@ -121,7 +122,7 @@ TEST_F(ControlTest, LabelThatReportsCanBePressed) {
 TEST_F(ControlTest, TypingReplacesTheTextAndReportsTheChange) {
   Type(dialog_, 10, "日本");
   EXPECT_EQ(ControlText(dialog_, 10), "日本");
-  EXPECT_EQ(heard, Names{"command 10 edit"});
+  EXPECT_EQ(heard, Names{"edited 10"});
   EXPECT_TRUE(WindowHasFocus(Control(dialog_, 10)));
 }
 
@@ -156,7 +157,7 @@ TEST_F(ControlTest, TypingWhereNothingCanBeTypedIsAFailure) {
 
 TEST_F(ControlTest, TextSetByTheProgramIsReportedByAOneLineField) {
   ControlSetText(dialog_, 10, "x");
-  EXPECT_EQ(heard, Names{"command 10 edit"});
+  EXPECT_EQ(heard, Names{"edited 10"});
   heard.clear();
   ControlSetText(dialog_, 12, "x");
   ControlSetText(dialog_, 1, "x");
@@ -170,9 +171,10 @@ TEST_F(ControlTest, TextIsCutByBytesEvenInsideAPair) {
   EXPECT_EQ(GetText(10, 1), "");
 }
 
-TEST_F(ControlTest, ControlThatIsNotThereIsPassedOver) {
+TEST_F(ControlTest, UseOfAControlThatIsNotThereIsAFailureAndPassedOver) {
   char buffer[8] = "x";
   ControlSetText(dialog_, 999, "a");
+  EXPECT_EQ(TheFailure(), "ControlSetText 999 of dialog 100: there is no such control");
   ControlEnable(dialog_, 999, false);
   ControlShow(dialog_, 999, false);
   ControlSetFocus(dialog_, 999);
@@ -187,6 +189,54 @@ TEST_F(ControlTest, ControlThatIsNotThereIsPassedOver) {
   EXPECT_EQ(ListCount(dialog_, 999), 0);
   EXPECT_EQ(ListSelected(dialog_, 999), -1);
   EXPECT_EQ(ListText(dialog_, 999, 0, buffer, sizeof buffer), -1);
+  EXPECT_EQ(HeadlessTakeFailures().size(), 13U);  // one for each call
+}
+
+TEST_F(ControlTest, ControlsOfADialogThatIsNotOpenArePassedOverInSilence) {
+  ControlSetText(nullptr, 10, "a");
+  EXPECT_EQ(Control(nullptr, 10), nullptr);
+  EXPECT_EQ(ListAdd(nullptr, 40, "a"), -1);
+}
+
+TEST_F(ControlTest, AskingAboutWhatIsNotThereIsAFailure) {
+  EXPECT_FALSE(ControlIsEnabled(dialog_, 999));
+  EXPECT_EQ(TheFailure(), "ControlIsEnabled 999 of dialog 100: there is no such control");
+  EXPECT_EQ(ControlText(nullptr, 10), "");
+  EXPECT_EQ(TheFailure(), "ControlText 10: no dialog is open");
+}
+
+TEST_F(ControlTest, ControlOfAnotherKindIsAFailure) {
+  EXPECT_EQ(ListAdd(dialog_, 10, "a"), -1);
+  EXPECT_EQ(TheFailure(), "ListAdd 10 of dialog 100: the control is no list");
+  ControlSetLimit(dialog_, 20, 3);
+  EXPECT_EQ(TheFailure(), "ControlSetLimit 20 of dialog 100: the control takes no text");
+}
+
+TEST_F(ControlTest, MouseMeantForTheDialogMustNotMeetAControl) {
+  // Edit 10 stands at (50, 4) to (130, 16) units, the label before it at (6, 6).
+  Mouse(dialog_, EventKind::LeftDown, 101, 9);
+  EXPECT_EQ(TheFailure(), "Mouse at 101, 9: a control stands there");
+  Mouse(dialog_, EventKind::MouseMove, 400, 10);
+  EXPECT_EQ(TheFailure(), "Mouse at 400, 10: the point lies outside");
+  Mouse(dialog_, EventKind::MouseMove, 13, 13);  // a label lets it through
+  ControlEnable(dialog_, 10, false);
+  Mouse(dialog_, EventKind::MouseMove, 101, 9);  // so does a disabled control
+  ControlShow(dialog_, 10, false);
+  EXPECT_EQ(heard, (Names{"move 13 13", "move 101 9"}));
+}
+
+TEST_F(ControlTest, ListThatScrollsSidewaysReachesItsLongestRow) {
+  const WindowHandle form = DialogOpen(IDD_TestForm, nullptr, Listen);
+  ListAdd(form, 30, "abc");
+  EXPECT_EQ(ListExtent(form, 30), 3 * 8 + 4);
+  ListAdd(form, 30, "日本語abc");
+  ListAdd(form, 30, "a");
+  EXPECT_EQ(ListExtent(form, 30), 9 * 8 + 4);
+  ListClear(form, 30);
+  EXPECT_EQ(ListExtent(form, 30), 0);
+  ListAdd(dialog_, 40, "one that does not scroll");
+  EXPECT_EQ(ListExtent(dialog_, 40), 0);
+  WindowDestroy(form);
 }
 
 // --- Lists
@@ -197,7 +247,7 @@ TEST_F(ControlTest, ChosenRowIsSelectedAndReported) {
   EXPECT_EQ(ListSelected(dialog_, 40), -1);
   ChooseRow(dialog_, 40, 1);
   EXPECT_EQ(ListSelected(dialog_, 40), 1);
-  EXPECT_EQ(heard, Names{"command 40 select"});
+  EXPECT_EQ(heard, Names{"chosen 40"});
 }
 
 TEST_F(ControlTest, AQuietListDrawsItsRowsOnceAndLeavesTheOthersAlone) {
@@ -222,10 +272,10 @@ TEST_F(ControlTest, DoubleClickSelectsFirst) {
   ListAdd(dialog_, 40, "a");
   ListAdd(dialog_, 40, "b");
   DoubleClickRow(dialog_, 40, 1);
-  EXPECT_EQ(heard, (Names{"command 40 select", "command 40 double"}));
+  EXPECT_EQ(heard, (Names{"chosen 40", "opened 40"}));
   heard.clear();
   DoubleClickRow(dialog_, 40, 1);
-  EXPECT_EQ(heard, Names{"command 40 double"});
+  EXPECT_EQ(heard, Names{"opened 40"});
 }
 
 TEST_F(ControlTest, SelectByTheProgramTellsNobody) {
@@ -300,7 +350,7 @@ TEST_F(ControlTest, ComboBoxShowsItsSelection) {
   ListAdd(dialog_, 50, "二");
   ChooseRow(dialog_, 50, 1);
   EXPECT_EQ(ControlText(dialog_, 50), "二");
-  EXPECT_EQ(heard, Names{"command 50 select"});
+  EXPECT_EQ(heard, Names{"chosen 50"});
   ControlSetText(dialog_, 50, "三");  // a list without a field keeps its row
   EXPECT_EQ(ControlText(dialog_, 50), "二");
   ListClear(dialog_, 50);
@@ -315,7 +365,7 @@ TEST_F(ControlTest, ComboBoxWithAFieldTakesText) {
   Type(dialog_, 51, "九");
   EXPECT_EQ(ControlText(dialog_, 51), "九");
   EXPECT_EQ(ListSelected(dialog_, 51), -1);
-  EXPECT_EQ(heard, (Names{"command 51 select", "command 51 edit"}));
+  EXPECT_EQ(heard, (Names{"chosen 51", "edited 51"}));
 }
 
 TEST_F(ControlTest, FolderListHasUpFoldersAndDrives) {
@@ -343,12 +393,13 @@ TEST_F(ControlTest, ControlMadeAtRunTimeIsOneOfTheDialogs) {
   ASSERT_NE(button, nullptr);
   EXPECT_EQ(Control(dialog_, 900), button);
   Press(dialog_, 900);
-  EXPECT_EQ(heard, Names{"command 900 click"});
+  EXPECT_EQ(heard, Names{"pressed 900"});
   const Rect frame = WindowRect(dialog_);
   EXPECT_EQ(WindowRect(button).left, frame.left + 3 + 10);
   EXPECT_EQ(WindowRect(button).bottom, frame.top + 22 + 40);
   WindowDestroy(button);
   EXPECT_EQ(Control(dialog_, 900), nullptr);
+  EXPECT_EQ(TheFailure(), "Control 900 of dialog 100: there is no such control");
 }
 
 TEST_F(ControlTest, ListMadeAtRunTimeSortsAndReports) {
@@ -357,7 +408,7 @@ TEST_F(ControlTest, ListMadeAtRunTimeSortsAndReports) {
   ListAdd(dialog_, 901, "a");
   EXPECT_EQ(ListRows(dialog_, 901), (Names{"a", "b"}));
   ChooseRow(dialog_, 901, 0);
-  EXPECT_EQ(heard, Names{"command 901 select"});
+  EXPECT_EQ(heard, Names{"chosen 901"});
 }
 
 TEST_F(ControlTest, ControlGoesWithItsParent) {
@@ -370,7 +421,8 @@ TEST_F(ControlTest, ControlGoesWithItsParent) {
 TEST_F(ControlTest, ControlThatCannotBeMadeIsNull) {
   FaultArm(FaultKind::Window, 1);
   EXPECT_EQ(ControlCreate(dialog_, ControlKind::Button, 900, {0, 0, 9, 9}, ""), nullptr);
-  EXPECT_EQ(Control(dialog_, 900), nullptr);
+  Press(dialog_, 900);
+  EXPECT_EQ(TheFailure(), "Press 900 of dialog 100: there is no such control");
 }
 
 TEST_F(ControlTest, ScrollBarKeepsItsThumbInRange) {

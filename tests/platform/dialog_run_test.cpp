@@ -15,7 +15,7 @@ TEST_F(DialogRunTest, ModalDialogRunsTheScriptUntilItEnds) {
     Press(TopDialog(), 1);
   });
   EXPECT_EQ(DialogRun(IDD_TestControls, nullptr, Listen), 10);
-  EXPECT_EQ(heard, (Names{"init", "size 400 320", "paint", "command 1 click", "destroy"}));
+  EXPECT_EQ(heard, (Names{"init", "size 400 320", "paint", "pressed 1", "destroy"}));
   EXPECT_EQ(TopDialog(), nullptr);
   EXPECT_EQ(OpenWindowCount(), 0);
 }
@@ -55,11 +55,11 @@ TEST_F(DialogRunTest, EndHidesAtOnceAndTheLoopReturnsWhenTheStepIsThrough) {
 
 TEST_F(DialogRunTest, NestedDialogsTakeTheStepsInOrder) {
   reaction = [](const Event& event) {
-    if (event.kind == EventKind::Command && event.command == 20) {
+    if (IsPressed(event, 20)) {
       EXPECT_EQ(DialogRun(IDD_TestPlain, event.window, Listen), 31);
       return true;
     }
-    if (event.kind == EventKind::Command && event.command == 1) {
+    if (IsPressed(event, 1)) {
       DialogEnd(event.window, TemplateOf(event.window) == IDD_TestPlain ? 31 : 32);
       return true;
     }
@@ -100,7 +100,7 @@ TEST_F(DialogRunTest, OwnerIsDisabledMeanwhile) {
 
 TEST_F(DialogRunTest, OuterDialogEndedFromInsideWaitsForTheInnerOne) {
   reaction = [](const Event& event) {
-    if (event.kind == EventKind::Command && event.command == 20) {
+    if (IsPressed(event, 20)) {
       EXPECT_EQ(DialogRun(IDD_TestPlain, event.window, Listen), 8);
       return true;
     }
@@ -138,7 +138,7 @@ TEST_F(DialogRunTest, DialogThatCannotBeMadeIsMinusOneOrNull) {
 TEST_F(DialogRunTest, CloseThatNobodyHandlesBecomesCommandTwo) {
   Then([] { SendClose(TopDialog()); });
   EXPECT_EQ(DialogRun(IDD_TestControls, nullptr, Listen), 20);
-  EXPECT_EQ(heard, (Names{"init", "size 400 320", "paint", "close", "command 2 click", "destroy"}));
+  EXPECT_EQ(heard, (Names{"init", "size 400 320", "paint", "close", "pressed 2", "destroy"}));
 }
 
 TEST_F(DialogRunTest, CloseThatIsHandledStaysWithoutEffect) {
@@ -347,6 +347,111 @@ TEST_F(DialogRunTest, StepAddedInsideAStepRunsLast) {
   EXPECT_EQ(DialogRun(IDD_TestControls, nullptr, Listen), 20);
   EXPECT_EQ(order, (Names{"first", "second", "added"}));
   EXPECT_EQ(StepsLeft(), 0);
+}
+
+// --- Enter and Escape
+
+TEST_F(DialogRunTest, EnterPressesTheDefaultButton) {
+  Then([] { PressEnter(TopDialog()); });
+  EXPECT_EQ(DialogRun(IDD_TestControls, nullptr, Listen), 10);
+  EXPECT_EQ(heard, (Names{"init", "size 400 320", "paint", "pressed 1", "destroy"}));
+}
+
+TEST_F(DialogRunTest, EnterPressesTheButtonThatHasTheFocus) {
+  Then([] {
+    ControlSetFocus(TopDialog(), 2);
+    PressEnter(TopDialog());
+  });
+  EXPECT_EQ(DialogRun(IDD_TestControls, nullptr, Listen), 20);
+}
+
+TEST_F(DialogRunTest, EnterIsOneWhereNoButtonIsTheDefault) {
+  Then([] { PressEnter(TopDialog()); });
+  EXPECT_EQ(DialogRun(IDD_TestPanel, nullptr, Listen), 10);
+}
+
+TEST_F(DialogRunTest, EnterInAFieldThatWantsItIsANewLine) {
+  Then([] {
+    ControlSetFocus(TopDialog(), 12);
+    heard.clear();
+    PressEnter(TopDialog());
+    EXPECT_EQ(heard, Names{"edited 12"});
+    EXPECT_EQ(ControlText(TopDialog(), 12), "\r\n");
+    Press(TopDialog(), 1);
+  });
+  EXPECT_EQ(DialogRun(IDD_TestControls, nullptr, Listen), 10);
+}
+
+TEST_F(DialogRunTest, EscapeIsTwoWhetherThereIsSuchAButtonOrNot) {
+  Then([] { PressEscape(TopDialog()); });
+  EXPECT_EQ(DialogRun(IDD_TestControls, nullptr, Listen), 20);
+  Then([] { PressEscape(TopDialog()); });
+  EXPECT_EQ(DialogRun(IDD_TestPanel, nullptr, Listen), 20);
+}
+
+TEST_F(DialogRunTest, EnterAndEscapePressNoDisabledButton) {
+  Then([] {
+    ControlEnable(TopDialog(), 1, false);
+    ControlEnable(TopDialog(), 2, false);
+    heard.clear();
+    PressEnter(TopDialog());
+    PressEscape(TopDialog());
+    EXPECT_TRUE(heard.empty());
+    DialogEnd(TopDialog(), 4);
+  });
+  EXPECT_EQ(DialogRun(IDD_TestControls, nullptr, Listen), 4);
+}
+
+TEST_F(DialogRunTest, KeysOfTheDialogManagerReachNothingElse) {
+  PressEscape(nullptr);
+  EXPECT_EQ(TheFailure(), "PressEscape: no dialog is open");
+  const WindowHandle owner = OpenControls();
+  PressEnter(owner);
+  EXPECT_EQ(TheFailure(), "PressEnter: only a modal dialog hears this key");
+  Then([] {
+    PressKey(TopDialog(), 27);
+    EXPECT_EQ(TheFailure(), "PressKey: the dialog manager takes this key");
+    PressKey(TopDialog(), 'a');
+    EXPECT_EQ(TheFailure(), "PressKey: control 10 has the keyboard");
+    const WindowHandle outer = TopDialog();
+    Then([outer] {
+      PressEscape(outer);
+      EXPECT_EQ(TheFailure(), "PressEscape: another dialog stands in front");
+      DialogEnd(TopDialog(), 1);
+      DialogEnd(outer, 1);
+    });
+    DialogRun(IDD_TestPlain, outer, Listen);
+  });
+  DialogRun(IDD_TestControls, owner, Listen);
+  WindowDestroy(owner);
+}
+
+TEST_F(DialogRunTest, NumbersOneAndTwoThatAreSentToADialogAreItsButtons) {
+  const WindowHandle dialog = OpenControls();
+  reaction = [](const Event&) { return true; };
+  SendCommand(dialog, 1);
+  SendCommand(dialog, 2);
+  SendCommand(dialog, 3);
+  EXPECT_EQ(heard, (Names{"pressed 1", "pressed 2", "command 3"}));
+  reaction = nullptr;
+  WindowDestroy(dialog);
+}
+
+TEST_F(DialogRunTest, EveryEventBringsTheContextOfItsDialog) {
+  int number = 7;
+  static std::vector<void*> contexts;
+  contexts.clear();
+  const auto keep = [](const Event& event) {
+    contexts.push_back(event.context);
+    return false;
+  };
+  const WindowHandle dialog = DialogOpen(IDD_TestControls, nullptr, keep, &number);
+  WindowShow(dialog, true);
+  Press(dialog, 20);
+  SendCommand(dialog, 5);
+  WindowDestroy(dialog);
+  EXPECT_EQ(contexts.size(), 5U);  // init, size, pressed, command, destroy
+  for (void* context : contexts) EXPECT_EQ(context, &number);
 }
 
 TEST_F(DialogRunTest, QuitLeavesTheModalLoop) {

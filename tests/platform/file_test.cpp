@@ -5,6 +5,7 @@
 #include <cstring>
 
 #include "platform/posix/faults.h"
+#include "platform/posix/files_opened.h"
 #include "platform/posix/posix_paths.h"
 #include "platform/time.h"
 #include "tests/support/desktop.h"
@@ -67,6 +68,16 @@ TEST_F(FileTest, ReadWriteGoesOnWhereItReads) {
   EXPECT_EQ(FileWrite(file, "xy", 2), 2);
   FileClose(file);
   EXPECT_EQ(FileBytes("a.bin"), "12xy5");
+}
+
+TEST_F(FileTest, HowFilesWereOpenedIsWrittenDown) {
+  FileClose(FileCreate("a.bin"));
+  FileClose(FileOpen("C:\\mirrell\\a.bin", OpenMode::ReadDenyWrite));
+  EXPECT_EQ(FileOpen("none", OpenMode::Read), kNoFile);
+  EXPECT_EQ(FilesOpened(), (std::vector<FileOpened>{{"a.bin", true, OpenMode::ReadWrite},
+                                                    {"C:\\mirrell\\a.bin", false, OpenMode::ReadDenyWrite}}));
+  FilesOpenedClear();
+  EXPECT_TRUE(FilesOpened().empty());
 }
 
 TEST_F(FileTest, WhatIsNotThereCannotBeOpened) {

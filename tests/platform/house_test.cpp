@@ -1,6 +1,7 @@
 // The rules of the house, checked on the tree and on the compiled resources.
 #include <gtest/gtest.h>
 
+#include "resources/program_ids.h"
 #include "tests/support/resource_lint.h"
 #include "tests/support/source_lint.h"
 #include "tests/support/test_dialogs.h"
@@ -23,6 +24,13 @@ TEST(HouseTest, DialogsOfTheProductAreTidy) {
   const ResourceSet set = Load(MIRRELL_RES_FILE);
   const std::string findings = LintResources(set);
   EXPECT_TRUE(findings.empty()) << findings;
+}
+
+TEST(HouseTest, NoKeyOfTheProgramIsACommand) {
+  // Alt+F4 would end the whole program from whichever of its windows has the keyboard.
+  const ResourceSet set = Load(MIRRELL_RES_FILE);
+  ASSERT_TRUE(set.accelerators.contains(IDR_MAIN));
+  EXPECT_TRUE(set.accelerators.at(IDR_MAIN).empty());
 }
 
 TEST(HouseTest, ATidyDialogHasNoFindings) {

@@ -8,30 +8,22 @@ std::function<bool(const Event&)> reaction;
 
 namespace {
 
-std::string CommandName(const Event& event) {
-  std::string name = "command " + std::to_string(event.command);
-  if (!event.fromControl) return name;
-  switch (event.notice) {
-    case Notice::Click:
-      return name + " click";
-    case Notice::SelectChange:
-      return name + " select";
-    case Notice::DoubleClick:
-      return name + " double";
-    case Notice::EditChange:
-      return name + " edit";
-    case Notice::Other:
-      break;
-  }
-  return name + " other";
-}
-
 std::string NameOf(const Event& event) {
   switch (event.kind) {
     case EventKind::Init:
       return "init";
+    case EventKind::Pressed:
+      return "pressed " + std::to_string(event.id);
+    case EventKind::Chosen:
+      return "chosen " + std::to_string(event.id);
+    case EventKind::Opened:
+      return "opened " + std::to_string(event.id);
+    case EventKind::Edited:
+      return "edited " + std::to_string(event.id);
     case EventKind::Command:
-      return CommandName(event);
+      return "command " + std::to_string(event.command);
+    case EventKind::Apply:
+      return "apply";
     case EventKind::Paint:
       return "paint";
     case EventKind::Size:
@@ -58,8 +50,8 @@ std::string NameOf(const Event& event) {
 bool Listen(const Event& event) {
   heard.push_back(NameOf(event));
   if (reaction) return reaction(event);
-  if (event.kind != EventKind::Command || event.command == 0 || event.command > 2) return false;
-  DialogEnd(event.window, static_cast<int>(event.command) * 10);
+  if (event.kind != EventKind::Pressed || event.id == 0 || event.id > 2) return false;
+  DialogEnd(event.window, event.id * 10);
   return true;
 }
 

@@ -8,12 +8,12 @@
 
 #include "tests/support/desktop.h"
 
-// What Listen was told, each event in short: "init", "command 7",
-// "command 7 edit" (the notice of a control), "size 40 60", "paint", ...
+// What Listen was told, each event in short: "init", "command 7", "edited 7",
+// "size 40 60", "paint", ...
 extern std::vector<std::string> heard;
 
 // What Listen does about an event; without one it ends a modal dialog at the
-// commands 1 and 2 with 10 and 20.
+// buttons 1 and 2 with 10 and 20.
 extern std::function<bool(const Event&)> reaction;
 
 bool Listen(const Event& event);

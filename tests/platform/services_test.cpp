@@ -11,11 +11,13 @@
 #include "platform/posix/faults.h"
 #include "platform/posix/live_counts.h"
 #include "platform/posix/test_clock.h"
+#include "platform/posix/test_network.h"
 #include "platform/process.h"
 #include "platform/socket.h"
 #include "platform/sound.h"
 #include "platform/time.h"
 #include "tests/platform/machinery.h"
+#include "tests/support/scripted_server.h"
 
 namespace {
 
@@ -168,6 +170,69 @@ TEST_F(ServicesTest, SocketThatCannotConnectIsMinusFour) {
 
 TEST_F(ServicesTest, UnknownHostIsMinusTwo) {
   EXPECT_EQ(SocketConnect("no host of that name", 110), -2);
+}
+
+TEST_F(ServicesTest, ScriptedServerTalksLineByLine) {
+  ScriptedServer server;
+  server.Send("+OK ready\r\n");
+  server.ExpectLine("USER me");
+  server.SendPieces({"+O", "K\r\n"});
+  server.SendMany('x', 100000);
+  server.Begin();
+  TestPortSet(110, server.Port());
+  ASSERT_TRUE(SocketsStart());
+  const int client = SocketConnect("localhost", 110);
+  ASSERT_GE(client, 0);
+  char buffer[1000];
+  EXPECT_EQ(SocketReceive(client, buffer, sizeof buffer), 11);
+  EXPECT_EQ(SocketSend(client, "USER me\r\n", 9), 9);
+  // Each piece comes by itself.
+  EXPECT_EQ(SocketReceive(client, buffer, sizeof buffer), 2);
+  EXPECT_EQ(SocketReceive(client, buffer, 3), 3);
+  int total = 0;
+  for (int got = 1; got > 0; total += got) got = SocketReceive(client, buffer, sizeof buffer);
+  EXPECT_EQ(total, 100000);
+  SocketClose(client);
+  SocketsEnd();
+  EXPECT_EQ(server.End(), "");
+  TestPortSet(110, 0);
+}
+
+TEST_F(ServicesTest, ScriptedServerTellsWhatWentWrong) {
+  ScriptedServer server;
+  server.ExpectLine("QUIT");
+  server.Begin();
+  const int client = SocketConnect("127.0.0.1", server.Port());
+  EXPECT_EQ(SocketSend(client, "NOOP\r\n", 6), 6);
+  SocketClose(client);
+  EXPECT_EQ(server.End(), "the line \"NOOP\" came, expected was \"QUIT\"");
+}
+
+// What a client comes to that sends a line and waits for the end: 0, or the step at which
+// it failed, counted down from -1.
+int Talk(int port) {
+  char buffer[4];
+  if (!SocketsStart()) return -1;
+  const int client = SocketConnect("127.0.0.1", port);
+  int result = client < 0 ? client : 0;
+  if (result == 0 && SocketSend(client, "a\r\n", 3) != 3) result = -5;
+  if (result == 0 && SocketReceive(client, buffer, 4) != 0) result = -6;
+  SocketClose(client);
+  SocketsEnd();
+  return result;
+}
+
+TEST_F(ServicesTest, EachStepOfTheNetworkFailsInItsTurn) {
+  const int expected[] = {-1, -2, -3, -4, -5, -6, 0};
+  for (int nth = 1; nth <= 7; ++nth) {
+    ScriptedServer server;
+    server.ExpectLine("a");
+    constexpr int kConnected = 5;  // the step behind the connection
+    if (nth >= kConnected) server.Begin();
+    FaultArm(FaultKind::Socket, nth);
+    EXPECT_EQ(Talk(server.Port()), expected[nth - 1]);
+    EXPECT_EQ(FaultWasMet(), nth < 7);
+  }
 }
 
 TEST_F(ServicesTest, NoSocketIsRefused) {

@@ -224,7 +224,35 @@ TEST_F(WindowTest, MouseSetsThePointerAndReachesTheWindow) {
 TEST_F(WindowTest, KeyReachesTheWindow) {
   const WindowHandle window = Open();
   PressKey(window, 27);
+  EXPECT_EQ(TheFailure(), "PressKey: the window takes no keys");
+  WindowShowFirst(window, 1);
+  heard.clear();
+  PressKey(window, 27);
   EXPECT_EQ(heard, Names{"char 27"});
+}
+
+TEST_F(WindowTest, CommandsOneAndTwoOfTheMainWindowAreNoButtons) {
+  const WindowHandle window = Open();
+  SendCommand(window, 1);
+  SendCommand(window, 2);
+  EXPECT_EQ(heard, (Names{"command 1", "command 2"}));
+}
+
+TEST_F(WindowTest, TheUserClosesOnlyWhatIsShownAndEnabled) {
+  const WindowHandle window = Open();
+  PressClose(window);
+  EXPECT_EQ(TheFailure(), "PressClose: the window cannot be closed");
+  WindowShowFirst(window, 1);
+  WindowEnable(window, false);
+  PressClose(window);
+  EXPECT_EQ(TheFailure(), "PressClose: the window cannot be closed");
+  WindowEnable(window, true);
+  PressClose(window);
+  EXPECT_FALSE(WindowIsOpen(window));
+  const WindowHandle bare = DialogOpen(IDD_TestPlain, nullptr, Listen);
+  PressClose(bare);  // its caption has no sign to press
+  EXPECT_EQ(TheFailure(), "PressClose: the window cannot be closed");
+  WindowDestroy(bare);
 }
 
 TEST_F(WindowTest, RegionBelongsToTheWindowFromThenOn) {

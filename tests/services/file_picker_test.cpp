@@ -242,10 +242,11 @@ TEST_F(FilePickerTest, WithoutTheFolderListANameCanStillBeTyped) {
     GoTo("C:\\start");
     Propose("");
     FaultArm(FaultKind::Window, nth);
-    Then([] {
+    const bool hasUp = nth == 2;  // the first of the two is the list, the second the button
+    Then([hasUp] {
       EXPECT_EQ(Files().size(), 7U);
-      SendCommand(TopDialog(), kFolderUpId);
-      EXPECT_STREQ(Picker.PickFolder, "C:\\");
+      if (hasUp) Press(TopDialog(), kFolderUpId);
+      EXPECT_STREQ(Picker.PickFolder, hasUp ? "C:\\" : "C:\\start");
       TypeName("x");
       PressOk();
     });

@@ -306,13 +306,13 @@ TEST_F(LayoutTest, ADraggedItemFollowsThePointerAndIsPaintedAgain) {
 
 TEST_F(LayoutTest, AnItemCanBeDraggedOutsideTheImageAndItsPlaceGoesNegative) {
   RunDialog({[] {
-    Drag(15, 25, -40, -60);
-    EXPECT_EQ(Layout.LayoutPos[1].x, -45);
-    EXPECT_EQ(Layout.LayoutPos[1].y, -65);
+    Drag(15, 25, -10, -34);  // the corner of the dialog
+    EXPECT_EQ(Layout.LayoutPos[1].x, -15);
+    EXPECT_EQ(Layout.LayoutPos[1].y, -39);
     Ok();
   }});
-  EXPECT_EQ(Clock.ClockX, -135);
-  EXPECT_EQ(Clock.ClockY, -195);
+  EXPECT_EQ(Clock.ClockX, -45);
+  EXPECT_EQ(Clock.ClockY, -117);
 }
 
 TEST_F(LayoutTest, OkStoresAndSavesWhatDiffersAndMovesTheStage) {

@@ -144,7 +144,7 @@ TEST_F(PanelTest, ASubLevelThatIsClosedFromOutsideLetsThePointerOpenThePanelAgai
 // A feature's dialog opens from a command that the panel sent from within its own
 // mouse handler: panel and stage are still on the stack.
 bool FeatureProc(const Event& event) {
-  if (event.kind != EventKind::Command) return false;
+  if (event.kind != EventKind::Pressed) return false;
   DialogEnd(event.window, 0);
   return true;
 }

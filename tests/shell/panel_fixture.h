@@ -112,7 +112,7 @@ class PanelTest : public DesktopTest {
     for (auto& step : steps) Then(std::move(step));
     CommandPanelLevel(static_cast<Command>(command));
   }
-  static void Escape() { PressKey(TopDialog(), 27); }
+  static void Escape() { PressEscape(TopDialog()); }
   static void Click(int row, unsigned keys = kLeftHeld) {
     Mouse(TopDialog(), EventKind::LeftDown, 50, 10 + 20 * row, keys);
   }

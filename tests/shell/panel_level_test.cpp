@@ -160,7 +160,8 @@ TEST_P(PanelLevelTest, EveryRowSetsItsStateAndSendsItsCommand) {
 // does nothing, and the panel stays.
 TEST_P(PanelLevelTest, ClickBelowTheLastRowDoesNothingAndThePanelStays) {
   OpenIt({[] {
-    for (int row = static_cast<int>(GetParam().rows.size()); row < 12; ++row) {
+    const int rows = static_cast<int>(GetParam().rows.size());
+    for (int row = rows; 10 + 20 * row < WindowClientRect(TopDialog()).bottom; ++row) {
       Click(row);
       EXPECT_TRUE(sentCommands.empty());
       EXPECT_EQ(Panel.hDiskMenu, TopDialog());
@@ -173,7 +174,8 @@ TEST_P(PanelLevelTest, ClickBelowTheLastRowDoesNothingAndThePanelStays) {
 TEST_P(PanelLevelTest, ClickWithShiftHeldDoesNothing) {
   Motion.BoredHour = 77;
   OpenIt({[] {
-    for (int row = 0; row < 10; ++row) Click(row, kLeftHeld | kShiftHeld);
+    const int rows = static_cast<int>(GetParam().rows.size());
+    for (int row = 0; row < rows; ++row) Click(row, kLeftHeld | kShiftHeld);
     EXPECT_TRUE(sentCommands.empty());
     EXPECT_EQ(Panel.MenuPanelState, GetParam().state);
     EXPECT_EQ(Motion.BoredHour, 77);

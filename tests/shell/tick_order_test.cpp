@@ -157,7 +157,7 @@ TEST_F(TickOrderTest, TheStepsOfATickRunInTheirOrder) {
                        "main 2373",             // 1
                        "back-up command 2375",  // 2
                        "search command 2376",   // 3
-                       "panel command 2",       // 6
+                       "panel pressed 2",       // 6
                        "main 2079",             // 8
                        "start",                 // 9
                        "walk command 2258",     // 10

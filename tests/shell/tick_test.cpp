@@ -60,7 +60,7 @@ TEST_F(TickTest, PanelThatWasNeverEnteredClosesAfter40Ticks) {
   EXPECT_EQ(TakeHeard(), Words{});
   MainTick();
   EXPECT_EQ(Panel.MenuPanelState, 0);
-  EXPECT_EQ(TakeHeard(), Words{"command 2"});
+  EXPECT_EQ(TakeHeard(), Words{"pressed 2"});
   WindowDestroy(Panel.hDiskMenu);
 }
 
@@ -75,7 +75,7 @@ TEST_F(TickTest, MenuCloseCountAtTheMarkNeverTimesOutOnlyThePointerLeavingCloses
   SetPointer(300, 299);
   MainTick();
   EXPECT_EQ(Panel.MenuPanelState, 0);
-  EXPECT_EQ(TakeHeard(), Words{"command 2"});
+  EXPECT_EQ(TakeHeard(), Words{"pressed 2"});
   WindowDestroy(Panel.hDiskMenu);
 }
 

@@ -11,6 +11,7 @@
 #include <sstream>
 
 #include "platform/posix/faults.h"
+#include "platform/posix/files_opened.h"
 #include "platform/posix/posix_paths.h"
 #include "platform/posix/test_clock.h"
 #include "services/program.h"
@@ -41,6 +42,7 @@ void DesktopTest::SetUp() {
   HeadlessReset();
   HeadlessResourceFile(MIRRELL_RES_FILE);
   FaultClear();
+  FilesOpenedClear();
   TestClockSet({2026, 11, 21, 6, 9, 30, 15, 0});
   TextCopy(Program.RootFolder, sizeof Program.RootFolder, "C:\\mirrell");
   live_ = DiagnosticsLive();

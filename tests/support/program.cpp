@@ -51,6 +51,9 @@ void Hear(const std::string& text) {
 bool Listen(const Event& event) {
   const std::string name = names.contains(event.window) ? names[event.window] : "";
   switch (event.kind) {
+    case EventKind::Pressed:
+      Hear(name + "pressed " + std::to_string(event.id));
+      break;
     case EventKind::Command:
       Hear(name + "command " + std::to_string(event.command));
       break;

@@ -5,40 +5,63 @@
 #include "filetools/back_up/back_up_dialogs.h"
 #include "filetools/path_row.h"
 #include "platform/dialog.h"
-#include "platform/window.h"
 #include "resources/filetools_ids.h"
 #include "services/boxes.h"
-#include "services/commands.h"
+#include "services/dialog_acts.h"
 #include "services/dialog_family.h"
+#include "services/list_editor.h"
 #include "services/path.h"
 #include "services/program.h"
 #include "services/text.h"
 
 namespace {
 
-constexpr int kRowSize = 1100;
-
 bool IsOpen() {
   return Dialogs.hMenuDlg && Dialogs.DlgIdMenu == MenuDialog::FileBackUpSetDlg;
 }
 
-void Remove() {
-  const int row = ListSelected(Dialogs.hMenuDlg, IDC_BACKUP_SOURCES);
-  if (row < 0 || row >= BackUp.fileCount) return;
-  char text[kRowSize];
-  PathSplit(BackUp.sourcePath[row]);
-  TextFormat(text, sizeof text, "ソースから%sの選択を除きます。", PathParts.PathName);
-  if (!BoxAsk(Dialogs.hMenuDlg, text, "バックアップソース選択を解除")) return;
-  BackUpRemoveSource(row);
-  FileBackUpSetDlgShowLists();
+// --- The lists
+
+void SourceRow(int row, char* text, int size) {
+  PathRow(BackUp.sourcePath[row], text, size);
 }
 
-void Clear() {
-  if (!BoxAsk(Dialogs.hMenuDlg, "全バックアップソース選択を解除します", "全バックアップソース選択の解除"))
-    return;
-  BackUpClearSources();
-  FileBackUpSetDlgShowLists();
+// A source without a place for its copy has no row.
+bool CopyRow(int row, char* text, int size) {
+  PathRow(BackUp.destPath[row], text, size);
+  return BackUp.destPath[row][0] != '\0';
 }
+
+constexpr ListEditor kSources{IDC_BACKUP_SOURCES, [] { return static_cast<int>(BackUp.fileCount); },
+                              SourceRow};
+
+constexpr ListDeed kRemove{.needsRow = true,
+                           .questionOf =
+                               [](int row, char* text, int size) {
+                                 PathSplit(BackUp.sourcePath[row]);
+                                 TextFormat(text, static_cast<std::size_t>(size),
+                                            "ソースから%sの選択を除きます。", PathParts.PathName);
+                               },
+                           .question = {nullptr, "バックアップソース選択を解除"},
+                           .act =
+                               [](WindowHandle, int row) {
+                                 BackUpRemoveSource(row);
+                                 return true;
+                               }};
+constexpr ListDeed kClear{
+    .question = {"全バックアップソース選択を解除します", "全バックアップソース選択の解除"},
+    .act = [](WindowHandle, int) {
+      BackUpClearSources();
+      return true;
+    }};
+
+// What is done to the sources is done to their copies.
+template <const ListDeed& deed>
+void Edit() {
+  if (ListDeedRun(Dialogs.hMenuDlg, kSources, deed)) FileBackUpSetDlgShowCopies();
+}
+
+// --- The run and the comparisons
 
 void Run() {
   if (BackUp.fileCount == 0) {
@@ -48,87 +71,63 @@ void Run() {
   }
 }
 
-void CompareDates() {
+struct Comparison {
+  int (*run)();
+  BoxWords nothing;                  // there are no sources
+  BoxWords found[3];                 // what it has found: by 0, -1 and -2 ...
+  void (*show)(WindowHandle owner);  // ... and for anything else
+};
+constexpr Comparison kDates{BackUpCompareDate,
+                            {"バックアップファイルが指定されていません!", "日付で比較"},
+                            {{"ファイルの日付に違いはありません", "日付で比較"},
+                             {"バックアップ ソース ファイルがありません", "日付で比較エラー"},
+                             {}},
+                            FileBackUpDateDlgRun};
+constexpr Comparison kContents{BackUpCompareContent,
+                               {"バックアップファイルが指定されていません!", "内容で比較"},
+                               {{"ファイル内容に違いはありません", "内容で比較"},
+                                {"バックアップ ソース ファイルがありません", "内容で比較エラー"},
+                                {"バックアップ先ファイルがありません", "内容で比較エラー"}},
+                               FileBackUpContentDlgRun};
+
+template <const Comparison& comparison>
+void Compare() {
   if (BackUp.fileCount == 0) {
-    BoxTell(Dialogs.hMenuDlg, "バックアップファイルが指定されていません!", "日付で比較");
+    BoxTell(Dialogs.hMenuDlg, comparison.nothing);
     return;
   }
-  switch (BackUpCompareDate()) {
-    case 0:
-      BoxTell(Dialogs.hMenuDlg, "ファイルの日付に違いはありません", "日付で比較");
-      break;
-    case -1:
-      BoxTell(Dialogs.hMenuDlg, "バックアップ ソース ファイルがありません", "日付で比較エラー");
-      break;
-    default:
-      FileBackUpDateDlgRun(Dialogs.hMenuDlg);
-  }
+  const int result = comparison.run();
+  const bool told = result <= 0 && result >= -2;
+  told ? BoxTell(Dialogs.hMenuDlg, comparison.found[-result]) : comparison.show(Dialogs.hMenuDlg);
 }
 
-void CompareContents() {
-  if (BackUp.fileCount == 0) {
-    BoxTell(Dialogs.hMenuDlg, "バックアップファイルが指定されていません!", "内容で比較");
-    return;
-  }
-  switch (BackUpCompareContent()) {
-    case 0:
-      BoxTell(Dialogs.hMenuDlg, "ファイル内容に違いはありません", "内容で比較");
-      break;
-    case -1:
-      BoxTell(Dialogs.hMenuDlg, "バックアップ ソース ファイルがありません", "内容で比較エラー");
-      break;
-    case -2:
-      BoxTell(Dialogs.hMenuDlg, "バックアップ先ファイルがありません", "内容で比較エラー");
-      break;
-    default:
-      FileBackUpContentDlgRun(Dialogs.hMenuDlg);
-  }
+// --- The dialog
+
+void Open() {
+  FileBackUpSetDlgShowLists();
+  FileBackUpSetDlgShowComment();
 }
 
-// What the buttons do: here, or by the main window's command.
-struct Button {
-  std::uint32_t id;
-  void (*action)();
-  Command command;
+template <void (*act)()>
+void Guarded() {
+  BackUpGuarded(act);
+}
+
+constexpr DialogAct kActs[] = {
+    {EventKind::Init, Open},
+    {IDC_BACKUP_ADD, Command::BackUpAdd},
+    {IDC_BACKUP_FOLDER, Command::BackUpFolder},
+    {IDC_BACKUP_LOAD, Command::BackUpLoad},
+    {IDC_BACKUP_SAVE, Command::BackUpSave},
+    {IDC_BACKUP_REMOVE, Guarded<Edit<kRemove>>},
+    {IDC_BACKUP_CLEAR, Guarded<Edit<kClear>>},
+    {IDC_BACKUP_RUN, Guarded<Run>},
+    {IDC_BACKUP_DATES, Guarded<Compare<kDates>>},
+    {IDC_BACKUP_CONTENTS, Guarded<Compare<kContents>>},
 };
-constexpr Button kButtons[] = {
-    {IDC_BACKUP_ADD, nullptr, Command::BackUpAdd},
-    {IDC_BACKUP_FOLDER, nullptr, Command::BackUpFolder},
-    {IDC_BACKUP_LOAD, nullptr, Command::BackUpLoad},
-    {IDC_BACKUP_SAVE, nullptr, Command::BackUpSave},
-    {IDC_BACKUP_REMOVE, Remove, Command::None},
-    {IDC_BACKUP_CLEAR, Clear, Command::None},
-    {IDC_BACKUP_RUN, Run, Command::None},
-    {IDC_BACKUP_DATES, CompareDates, Command::None},
-    {IDC_BACKUP_CONTENTS, CompareContents, Command::None},
-};
-
-bool Press(std::uint32_t id) {
-  for (const Button& button : kButtons) {
-    if (button.id != id) continue;
-    if (button.action) {
-      BackUpGuarded(button.action);
-    } else {
-      CommandSend(button.command);
-    }
-    return true;
-  }
-  return false;
-}
 
 bool Handle(const Event& event) {
-  if (event.kind == EventKind::Init) {
-    FileBackUpSetDlgShowLists();
-    FileBackUpSetDlgShowComment();
-    return true;
-  }
-  return event.kind == EventKind::Command && event.notice == Notice::Click && Press(event.command);
-}
-
-void AddRow(int list, const char* path) {
-  char text[kRowSize];
-  PathRow(path, text, sizeof text);
-  ListAdd(Dialogs.hMenuDlg, list, text);
+  return DialogActRun(event, kActs);
 }
 
 }  // namespace
@@ -139,24 +138,17 @@ int FileBackUpSetDlgRun() {
 
 void FileBackUpSetDlgShowLists() {
   if (!IsOpen()) return;
-  const ListQuiet quiet(Dialogs.hMenuDlg, IDC_BACKUP_SOURCES);
-  ListClear(Dialogs.hMenuDlg, IDC_BACKUP_SOURCES);
-  for (int row = 0; row < BackUp.fileCount; ++row) AddRow(IDC_BACKUP_SOURCES, BackUp.sourcePath[row]);
+  ListEditorShow(Dialogs.hMenuDlg, kSources);
   FileBackUpSetDlgShowCopies();
 }
 
 void FileBackUpSetDlgShowCopies() {
   if (!IsOpen()) return;
-  const ListQuiet quiet(Dialogs.hMenuDlg, IDC_BACKUP_COPIES);
-  ListClear(Dialogs.hMenuDlg, IDC_BACKUP_COPIES);
-  for (int row = 0; row < BackUp.fileCount; ++row) {
-    if (BackUp.destPath[row][0] != '\0') AddRow(IDC_BACKUP_COPIES, BackUp.destPath[row]);
-  }
-  if (BackUp.fileCount == 0 && BackUp.destDir[0] != '\0') {
-    char text[kRowSize];
-    TextFormat(text, sizeof text, "ディレクトリ名 --> %s", BackUp.destDir);
-    ListAdd(Dialogs.hMenuDlg, IDC_BACKUP_COPIES, text);
-  }
+  RowsShow(Dialogs.hMenuDlg, IDC_BACKUP_COPIES, RowsOf(BackUp.fileCount, CopyRow));
+  if (BackUp.fileCount != 0 || BackUp.destDir[0] == '\0') return;
+  char text[kRowTextSize];
+  TextFormat(text, sizeof text, "ディレクトリ名 --> %s", BackUp.destDir);
+  ListAdd(Dialogs.hMenuDlg, IDC_BACKUP_COPIES, text);
 }
 
 void FileBackUpSetDlgShowComment() {

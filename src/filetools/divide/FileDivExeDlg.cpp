@@ -76,11 +76,12 @@ bool Handle(const Event& event) {
     Stop(event.window);
     return true;
   }
-  if (event.kind != EventKind::Command) return false;
-  switch (event.command) {
-    case static_cast<std::uint32_t>(Command::WorkStep):
-      Step(event.window);
-      return true;
+  if (CommandIs(event, Command::WorkStep)) {
+    Step(event.window);
+    return true;
+  }
+  if (event.kind != EventKind::Pressed) return false;
+  switch (event.id) {
     case 1:
       // kept: the Enter key ends the progress of a division or restore and leaves the run
       // where it is, its files open.

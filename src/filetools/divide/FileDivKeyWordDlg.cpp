@@ -53,13 +53,12 @@ bool Handle(const Event& event) {
     }
     return true;
   }
-  if (event.kind == EventKind::Command && event.command == 1) {
+  if (IsPressed(event, 1)) {
     Accept(event.window);
     return true;
   }
   // kept: a restore whose keyword is cancelled goes on with the one of an earlier run.
-  const bool cancelled =
-      event.kind == EventKind::Close || (event.kind == EventKind::Command && event.command == 2);
+  const bool cancelled = event.kind == EventKind::Close || IsPressed(event, 2);
   if (cancelled && Dividing()) Forget();
   return false;
 }

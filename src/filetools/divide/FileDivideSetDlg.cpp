@@ -10,10 +10,9 @@
 namespace {
 
 bool Handle(const Event& event) {
-  if (event.kind != EventKind::Command) return false;
-  if (event.command == IDC_DIVIDE_CHOOSE_DIVIDE) {
+  if (IsPressed(event, IDC_DIVIDE_CHOOSE_DIVIDE)) {
     ToolDialogEnd(event.window, kChoseDivide);
-  } else if (event.command == IDC_DIVIDE_CHOOSE_RESTORE) {
+  } else if (IsPressed(event, IDC_DIVIDE_CHOOSE_RESTORE)) {
     ToolDialogEnd(event.window, kChoseRestore);
   } else {
     return false;

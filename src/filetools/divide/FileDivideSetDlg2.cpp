@@ -91,9 +91,10 @@ void Show(WindowHandle dialog) {
   ControlSetText(dialog, IDC_DIVIDE_FOLDER, FileDivide.storeDir);
 }
 
-// The fields that only the division has are passed over in the other dialog.
 void Open(WindowHandle dialog) {
   Show(dialog);
+  // The other dialog has no more than these.
+  if (OpenKind() != &kDivide) return;
   char count[16];
   TextFormat(count, sizeof count, "%d", static_cast<int>(FileDivide.divideCount));
   ControlSetText(dialog, IDC_DIVIDE_NAME, FileDivide.baseName);
@@ -101,9 +102,8 @@ void Open(WindowHandle dialog) {
   ControlSetChecked(dialog, IDC_DIVIDE_ENCRYPT, FileDivide.encryptFlag != 0);
 }
 
-bool HandleCommand(const Event& event, const Kind& kind) {
-  if (event.notice != Notice::Click) return false;
-  switch (event.command) {
+bool Press(const Event& event, const Kind& kind) {
+  switch (event.id) {
     case IDC_DIVIDE_PICK:
       CommandSend(kind.pickCommand);
       return true;
@@ -131,8 +131,8 @@ bool Handle(const Event& event) {
     case EventKind::Paint:
       Paint(event.window, *kind);
       return true;
-    case EventKind::Command:
-      return HandleCommand(event, *kind);
+    case EventKind::Pressed:
+      return Press(event, *kind);
     default:
       return false;
   }

@@ -64,11 +64,12 @@ bool Handle(const Event& event) {
     Show(event.window);
     return true;
   }
-  if (event.kind != EventKind::Command) return false;
-  switch (event.command) {
-    case IDC_OPN_FILE:
-      if (event.notice == Notice::SelectChange) DetailsShow(event.window);
-      return true;
+  if (IsChosen(event, IDC_OPN_FILE)) {
+    DetailsShow(event.window);
+    return true;
+  }
+  if (event.kind != EventKind::Pressed) return false;
+  switch (event.id) {
     case IDC_OPN_REMOVE:
       Remove(event.window);
       return true;

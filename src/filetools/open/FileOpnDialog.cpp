@@ -75,7 +75,7 @@ void Animation() {
 
 // What the buttons do: here, or by the main window's command of the same number.
 struct Button {
-  std::uint32_t id;
+  int id;
   void (*action)();
 };
 constexpr Button kButtons[] = {
@@ -91,7 +91,7 @@ constexpr Button kButtons[] = {
     {IDC_OPN_ANIMATION, Animation},
 };
 
-bool Press(std::uint32_t id) {
+bool Press(int id) {
   for (const Button& button : kButtons) {
     if (button.id != id) continue;
     if (button.action) {
@@ -109,12 +109,11 @@ bool Handle(const Event& event) {
     FileOpnDialogRefresh();
     return true;
   }
-  if (event.kind != EventKind::Command) return false;
-  if (event.command == IDC_OPN_FILE && event.notice == Notice::SelectChange) {
+  if (IsChosen(event, IDC_OPN_FILE)) {
     FileChosen();
     return true;
   }
-  return event.notice == Notice::Click && Press(event.command);
+  return event.kind == EventKind::Pressed && Press(event.id);
 }
 
 // Picks a path. False when the user cancels, or when a picker is up already.

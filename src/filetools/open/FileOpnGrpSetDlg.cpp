@@ -85,7 +85,7 @@ void Cancel(WindowHandle dialog) {
 }
 
 struct Button {
-  std::uint32_t id;
+  int id;
   void (*action)(WindowHandle dialog);
 };
 constexpr Button kButtons[] = {
@@ -96,15 +96,14 @@ constexpr Button kButtons[] = {
     {2, Cancel},
 };
 
-bool Command(const Event& event) {
-  if (event.notice == Notice::SelectChange) {
-    if (event.command == IDC_OPN_GROUP) GroupChosen(event.window);
-    if (event.command == IDC_OPN_FILE) FileChosen(event.window);
-    return true;
-  }
-  if (event.notice != Notice::Click) return true;
+void Chosen(const Event& event) {
+  if (event.id == IDC_OPN_GROUP) GroupChosen(event.window);
+  if (event.id == IDC_OPN_FILE) FileChosen(event.window);
+}
+
+bool Press(const Event& event) {
   for (const Button& button : kButtons) {
-    if (button.id != event.command) continue;
+    if (button.id != event.id) continue;
     button.action(event.window);
     return true;
   }
@@ -116,8 +115,11 @@ bool Handle(const Event& event) {
     case EventKind::Init:
       Open(event.window);
       return true;
-    case EventKind::Command:
-      return Command(event);
+    case EventKind::Chosen:
+      Chosen(event);
+      return true;
+    case EventKind::Pressed:
+      return Press(event);
     case EventKind::Close:
       Cancel(event.window);
       return true;

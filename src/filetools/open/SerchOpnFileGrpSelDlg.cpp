@@ -34,7 +34,7 @@ bool Handle(const Event& event) {
     Open(event.window);
     return true;
   }
-  if (event.kind != EventKind::Command || event.command != kChoose) return false;
+  if (!IsPressed(event, kChoose)) return false;
   Choose(event.window);
   return true;
 }

@@ -40,9 +40,8 @@ bool Handle(const Event& event) {
     Open(event.window);
     return true;
   }
-  if (event.kind != EventKind::Command) return false;
   if (OpnGroupListEvent(event)) return true;
-  if (event.command != IDC_OPN_GROUP_REGISTER) return false;
+  if (!IsPressed(event, IDC_OPN_GROUP_REGISTER)) return false;
   Register(event.window);
   return true;
 }

@@ -133,10 +133,10 @@ bool Handle(const Event& event) {
     case EventKind::Close:
       End(event.window, 2);
       return true;
-    case EventKind::Command:
-      if (event.command == IDC_OPN_CHECK) Check(event.window);
-      if (event.command == 1) Set(event.window);
-      if (event.command == 2) End(event.window, 2);
+    case EventKind::Pressed:
+      if (event.id == IDC_OPN_CHECK) Check(event.window);
+      if (event.id == 1) Set(event.window);
+      if (event.id == 2) End(event.window, 2);
       return true;
     default:
       return false;

@@ -15,7 +15,7 @@ constexpr int kCalled = 1;
 
 // The two ways to look for groups.
 struct Search {
-  std::uint32_t button;
+  int button;
   int field;
   int (*run)(const char* text);
   const char* failed;
@@ -49,15 +49,14 @@ bool Handle(const Event& event) {
     Open(event.window);
     return true;
   }
-  if (event.kind != EventKind::Command) return false;
   if (OpnGroupListEvent(event)) return true;
-  if (event.notice != Notice::Click) return true;
+  if (event.kind != EventKind::Pressed) return false;
   for (const Search& search : kSearches) {
-    if (event.command != search.button) continue;
+    if (event.id != search.button) continue;
     SearchRun(event.window, search);
     return true;
   }
-  if (event.command != kCalled) return false;
+  if (event.id != kCalled) return false;
   OpnGroupStart(OpnGroupOfList(event.window));
   ToolDialogEnd(event.window, kCalled);
   return true;

@@ -70,8 +70,8 @@ void OpnGroupShow(WindowHandle dialog, int group) {
 }
 
 bool OpnGroupListEvent(const Event& event) {
-  if (event.command != IDC_OPN_GROUP) return false;
-  if (event.notice == Notice::SelectChange) OpnGroupShow(event.window, OpnGroupOfList(event.window));
+  if (!IsChosen(event, IDC_OPN_GROUP)) return false;
+  OpnGroupShow(event.window, OpnGroupOfList(event.window));
   return true;
 }
 

@@ -25,8 +25,7 @@ int OpnGroupOfList(WindowHandle dialog);
 void OpnGroupFilesShow(WindowHandle dialog, int group);
 void OpnGroupShow(WindowHandle dialog, int group);
 
-// For a dialog's Command: shows the group that is chosen in the list. True if the
-// list sent it.
+// Shows the group that is chosen in the list. True if the event was that.
 bool OpnGroupListEvent(const Event& event);
 
 // Takes the comment field over into a group. True if it was another one.

@@ -47,13 +47,11 @@ bool Handle(const Event& event) {
     Open(event.window);
   } else if (event.kind == EventKind::Paint) {
     FolderListPaint(Scope.folders);
-  } else if (event.kind != EventKind::Command) {
-    return false;
-  } else if (event.command == IDC_SCOPE_FILTER) {
-    if (event.notice == Notice::SelectChange) ScopeListFiles();
-  } else if (event.command == IDC_SCOPE_PIES) {
+  } else if (IsChosen(event, IDC_SCOPE_FILTER)) {
+    ScopeListFiles();
+  } else if (IsPressed(event, IDC_SCOPE_PIES)) {
     FolderStaticsDlgRun(event.window);
-  } else if (event.command == IDC_SCOPE_BARS) {
+  } else if (IsPressed(event, IDC_SCOPE_BARS)) {
     FolderStaticsDlg2Run(event.window);
   } else {
     return false;

@@ -16,7 +16,7 @@ bool Handle(const Event& event) {
   if (event.kind == EventKind::Init) {
     ControlSetLimit(event.window, IDC_TIDY_FOLDER, kTidyNameSize - 1);
     ControlSetText(event.window, IDC_TIDY_FOLDER, Tidy.tidyFolderName);
-  } else if (event.kind == EventKind::Command && event.command == IDC_TIDY_RUN) {
+  } else if (IsPressed(event, IDC_TIDY_RUN)) {
     ControlGetText(event.window, IDC_TIDY_FOLDER, Tidy.tidyFolderName, sizeof Tidy.tidyFolderName);
     TidyRun(event.window);
   } else {

@@ -22,9 +22,14 @@ struct ExpectedMenu {
 };
 
 std::deque<ExpectedBox> expectedBoxes;
-std::deque<std::string> expectedFiles;
+struct ExpectedFile {
+  std::string path;
+  std::function<void()> meanwhile;
+};
+std::deque<ExpectedFile> expectedFiles;
 std::deque<ExpectedMenu> expectedMenus;
 bool menuIsUp = false;
+bool fileDialogIsUp = false;
 std::vector<Box> boxesShown;
 std::vector<FileDialogCall> fileDialogs;
 
@@ -71,15 +76,28 @@ const ResourceMenuItem* FindCommand(const std::vector<ResourceMenuItem>& items, 
   return nullptr;
 }
 
+void FileDialogShow(const WindowPointer& owner, const std::function<void()>& meanwhile) {
+  if (!meanwhile) return;
+  const bool enabled = owner && owner->enabled;
+  if (owner) owner->enabled = false;
+  fileDialogIsUp = true;
+  PaintDue();
+  meanwhile();
+  fileDialogIsUp = false;
+  if (enabled) owner->enabled = true;
+}
+
 bool FileDialogRun(const FileDialogCall& call, char* path, int size) {
-  WindowUse(call.owner, "the owner of a file dialog");
+  const WindowPointer owner = OwnerOf(call.owner, "the owner of a file dialog");
   fileDialogs.push_back(call);
   if (expectedFiles.empty()) {
     Failure("nobody expected the file dialog " + Quoted(call.title));
     return false;
   }
-  const std::string chosen = expectedFiles.front();
+  const ExpectedFile expected = expectedFiles.front();
   expectedFiles.pop_front();
+  FileDialogShow(owner, expected.meanwhile);
+  const std::string& chosen = expected.path;
   if (chosen.empty()) return false;
   if (static_cast<int>(chosen.size()) >= size) {
     Failure("the path " + Quoted(chosen) + " does not fit the caller's buffer");
@@ -94,7 +112,7 @@ bool FileDialogRun(const FileDialogCall& call, char* path, int size) {
 BoxAnswer MessageBoxRun(WindowHandle owner, const char* text, const char* caption, BoxButtons buttons,
                         BoxIcon icon) {
   boxesShown.push_back({text, caption, buttons, icon, owner});
-  const WindowPointer ownerWindow = WindowUse(owner, "the owner of a message box");
+  const WindowPointer ownerWindow = OwnerOf(owner, "the owner of a message box");
   if (expectedBoxes.empty()) {
     Failure("nobody expected the box " + Told(text, caption));
     return Harmless(buttons);
@@ -189,8 +207,12 @@ bool FileDialogSave(WindowHandle owner, const char* title, const char* filterTex
                        size);
 }
 
-void ExpectFileDialog(const char* path) {
-  expectedFiles.emplace_back(path);
+void ExpectFileDialog(const char* path, std::function<void()> meanwhile) {
+  expectedFiles.push_back({path, std::move(meanwhile)});
+}
+
+bool FileDialogIsUp() {
+  return fileDialogIsUp;
 }
 
 const std::vector<FileDialogCall>& FileDialogsShown() {

@@ -67,14 +67,33 @@ void ControlTurn(const WindowPointer& control) {
   }
 }
 
-WindowPointer ControlUse(WindowHandle dialog, int id, const char* call) {
-  const WindowPointer parent = WindowUse(dialog, call);
+bool IsPushButton(const HeadlessWindow& control) {
+  constexpr std::uint32_t kPushButton = 0;
+  constexpr std::uint32_t kDefaultPushButton = 1;
+  if (control.controlClass != ControlClass::Button) return false;
+  return ButtonKind(control) == kPushButton || ButtonKind(control) == kDefaultPushButton;
+}
+
+WindowPointer ControlFind(WindowHandle dialog, int id) {
+  const WindowPointer parent = Windows().Find(dialog);
   if (!parent) return nullptr;
   for (const WindowHandle child : parent->children) {
     const WindowPointer control = Windows().Find(child);
     if (control && control->id == id) return control;
   }
   return nullptr;
+}
+
+WindowPointer ControlUse(WindowHandle dialog, int id, const char* call) {
+  if (!WindowUse(dialog, call)) return nullptr;
+  WindowPointer control = ControlFind(dialog, id);
+  if (!control) Failure(Deed(call, dialog, id) + ": there is no such control");
+  return control;
+}
+
+WindowPointer ControlAsked(WindowHandle dialog, int id, const char* call) {
+  if (!dialog) Failure(std::string(call) + " " + std::to_string(id) + ": no dialog is open");
+  return ControlUse(dialog, id, call);
 }
 
 WindowHandle Control(WindowHandle dialog, int id) {
@@ -89,7 +108,7 @@ void ControlSetText(WindowHandle dialog, int id, const char* text) {
   control->text = text;
   // A one-line edit field reports every change, whoever made it.
   if (control->controlClass == ControlClass::Edit && (control->style & kStyleMultiline) == 0) {
-    NoticeSend(*control, Notice::EditChange);
+    ControlTells(*control, EventKind::Edited);
   }
 }
 
@@ -121,12 +140,21 @@ void ControlSetFocus(WindowHandle dialog, int id) {
 
 void ControlSetLimit(WindowHandle dialog, int id, int characters) {
   const WindowPointer control = ControlUse(dialog, id, "ControlSetLimit");
-  if (control) control->limit = characters > 0 ? characters : 32767;
+  if (!control) return;
+  const bool field =
+      control->controlClass == ControlClass::Edit || control->controlClass == ControlClass::ComboBox;
+  if (!field) Failure(Deed("ControlSetLimit", dialog, id) + ": the control takes no text");
+  control->limit = characters > 0 ? characters : 32767;
 }
 
 void ControlSetChecked(WindowHandle dialog, int id, bool checked) {
   const WindowPointer control = ControlUse(dialog, id, "ControlSetChecked");
-  if (control && IsCheckControl(*control)) control->checked = checked;
+  if (!control) return;
+  if (IsCheckControl(*control)) {
+    control->checked = checked;
+  } else {
+    Failure(Deed("ControlSetChecked", dialog, id) + ": the control has no mark");
+  }
 }
 
 bool ControlIsChecked(WindowHandle dialog, int id) {
@@ -188,16 +216,16 @@ ScrollState ScrollBarState(WindowHandle bar) {
 }
 
 bool ControlIsEnabled(WindowHandle dialog, int id) {
-  const WindowPointer control = ControlUse(dialog, id, "ControlIsEnabled");
+  const WindowPointer control = ControlAsked(dialog, id, "ControlIsEnabled");
   return control && control->enabled;
 }
 
 bool ControlIsVisible(WindowHandle dialog, int id) {
-  const WindowPointer control = ControlUse(dialog, id, "ControlIsVisible");
+  const WindowPointer control = ControlAsked(dialog, id, "ControlIsVisible");
   return control && control->visible;
 }
 
 std::string ControlText(WindowHandle dialog, int id) {
-  const WindowPointer control = ControlUse(dialog, id, "ControlText");
+  const WindowPointer control = ControlAsked(dialog, id, "ControlText");
   return control ? control->text : std::string();
 }

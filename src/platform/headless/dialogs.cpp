@@ -11,6 +11,7 @@ constexpr std::uint32_t kStyleVisible = 0x10000000;
 constexpr std::uint32_t kStyleDisabled = 0x08000000;
 constexpr std::uint32_t kStyleCaption = 0x00C00000;
 constexpr std::uint32_t kStyleBorder = 0x00800000;
+constexpr std::uint32_t kStyleSystemMenu = 0x00080000;
 constexpr std::uint32_t kStyleSizeFrame = 0x00040000;
 constexpr std::uint32_t kStyleTabStop = 0x00010000;
 constexpr std::uint32_t kStyleModalFrame = 0x80;
@@ -51,7 +52,7 @@ void AddControl(const WindowPointer& dialog, const ResourceControl& from) {
 }
 
 // Null, with a failure, when there is no such template.
-WindowPointer Make(WindowKind kind, int templateId, WindowHandle owner, EventHandler handler) {
+WindowPointer Make(WindowKind kind, int templateId, WindowHandle owner, EventHandler handler, void* context) {
   if (owner && !WindowUse(owner, "the owner of a dialog")) return nullptr;
   const auto at = Resources().dialogs.find(templateId);
   if (at == Resources().dialogs.end()) {
@@ -64,6 +65,7 @@ WindowPointer Make(WindowKind kind, int templateId, WindowHandle owner, EventHan
   dialog->parent = owner;
   dialog->templateId = templateId;
   dialog->handler = handler;
+  dialog->context = context;
   dialog->text = from.caption;
   dialog->style = from.style;
   dialog->border = BorderOf(from.style, from.menuId);
@@ -102,13 +104,13 @@ void SendInit(const WindowPointer& dialog) {
 
 }  // namespace
 
-int DialogRun(int templateId, WindowHandle owner, EventHandler handler) {
-  if (FaultMeets(FaultKind::Window)) return -1;
-  const WindowPointer dialog = Make(WindowKind::Modal, templateId, owner, handler);
-  if (!dialog) return -1;
+namespace {
+
+// Runs a modal dialog that has been made.
+int Run(const WindowPointer& dialog, WindowHandle owner) {
   const WindowHandle handle = dialog->handle;
   const WindowHandle focusBefore = focusWindow;
-  const WindowPointer ownerWindow = Windows().Find(owner);
+  const WindowPointer ownerWindow = OwnerOf(owner, "the owner of a dialog");
   const bool ownerEnabled = ownerWindow && ownerWindow->enabled;
   if (ownerWindow) ownerWindow->enabled = false;
   modalStack.push_back(handle);
@@ -118,8 +120,8 @@ int DialogRun(int templateId, WindowHandle owner, EventHandler handler) {
   while (!dialog->ended && dialog->alive && !quitAsked) {
     PaintDue();
     if (dialog->ended || ScriptStep()) continue;
-    Failure("the script is empty while dialog " + std::to_string(templateId) + " " + Quoted(dialog->text) +
-            " is open");
+    Failure("the script is empty while dialog " + std::to_string(dialog->templateId) + " " +
+            Quoted(dialog->text) + " is open");
     dialog->ended = true;
     dialog->result = kForcedResult;
   }
@@ -131,9 +133,51 @@ int DialogRun(int templateId, WindowHandle owner, EventHandler handler) {
   return dialog->result;
 }
 
-WindowHandle DialogOpen(int templateId, WindowHandle owner, EventHandler handler) {
+void AddButton(const WindowPointer& sheet, int id, bool enabled) {
+  ResourceControl button;
+  button.controlClass = ControlClass::Button;
+  button.id = id;
+  button.style =
+      kStyleVisible | kStyleTabStop | (id == kOkButton ? 1U : 0U) | (enabled ? 0U : kStyleDisabled);
+  AddControl(sheet, button);
+}
+
+}  // namespace
+
+int DialogRun(int templateId, WindowHandle owner, EventHandler handler, void* context) {
+  if (FaultMeets(FaultKind::Window)) return -1;
+  const WindowPointer dialog = Make(WindowKind::Modal, templateId, owner, handler, context);
+  return dialog ? Run(dialog, owner) : -1;
+}
+
+int SheetWindowRun(WindowHandle owner, const char* caption, EventHandler handler, void* context) {
+  if (FaultMeets(FaultKind::Window)) return -1;
+  auto sheet = std::make_shared<HeadlessWindow>();
+  sheet->kind = WindowKind::Modal;
+  sheet->parent = owner;
+  sheet->handler = handler;
+  sheet->context = context;
+  sheet->text = caption;
+  sheet->style = kStyleCaption | kStyleSystemMenu;
+  WindowAdd(sheet);
+  AddButton(sheet, kOkButton, true);
+  AddButton(sheet, kCancelButton, true);
+  AddButton(sheet, kSheetApplyButton, false);
+  return Run(sheet, owner);
+}
+
+WindowHandle SheetPageMake(WindowHandle sheet, const SheetPage& page) {
   if (FaultMeets(FaultKind::Window)) return nullptr;
-  const WindowPointer dialog = Make(WindowKind::Modeless, templateId, owner, handler);
+  const WindowPointer made = Make(WindowKind::Page, page.templateId, sheet, page.handler, page.context);
+  if (!made) return nullptr;
+  made->visible = false;
+  SendInit(made);
+  return made->handle;
+}
+
+WindowHandle DialogOpen(int templateId, WindowHandle owner, EventHandler handler, void* context) {
+  if (FaultMeets(FaultKind::Window)) return nullptr;
+  const WindowPointer dialog = Make(WindowKind::Modeless, templateId, owner, handler, context);
   if (!dialog) return nullptr;
   SendInit(dialog);
   if (!dialog->alive) return nullptr;
@@ -181,7 +225,8 @@ WindowHandle TopDialog() {
 WindowHandle FindDialog(int templateId) {
   WindowHandle found = nullptr;
   for (const auto& [number, window] : Windows().All()) {
-    const bool dialog = window->kind == WindowKind::Modal || window->kind == WindowKind::Modeless;
+    const bool dialog = window->kind == WindowKind::Modal || window->kind == WindowKind::Modeless ||
+                        window->kind == WindowKind::Page;
     if (dialog && window->templateId == templateId) found = window->handle;
   }
   return found;

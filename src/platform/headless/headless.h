@@ -4,9 +4,10 @@
 // Windows and dialogs live in memory. Dialogs are made from the product's own
 // compiled resources, so control ids and kinds are the real ones. A modal
 // dialog runs the script: its loop takes one step after the other until the
-// dialog ends. A script that is empty while a dialog is still open, and a box
-// or file dialog that nobody expected, are failures; HeadlessFailures lists them
-// and the test fixture reports them.
+// dialog ends. A script that is empty while a dialog is still open, a box or file
+// dialog that nobody expected, a deed that no user could do, and the use of a control
+// that is not there are failures; HeadlessFailures lists them and the test fixture
+// reports them.
 #pragma once
 
 #include <functional>
@@ -45,6 +46,12 @@ void DoubleClickRow(WindowHandle dialog, int id, int row);
 void Type(WindowHandle dialog, int id, const char* text);  // replaces an edit field's text
 void Mouse(WindowHandle window, EventKind kind, int x, int y, unsigned keys = 0);
 void PressKey(WindowHandle window, int code);  // Char
+// Enter and Escape in a modal dialog, as the dialog manager hears them: Enter presses
+// the button with the focus, else the default one, else sends 1; Escape sends 2. A
+// disabled button is not pressed. A field of several lines may take Enter itself.
+void PressEnter(WindowHandle dialog);
+void PressEscape(WindowHandle dialog);
+void PressClose(WindowHandle window);  // the sign in the caption, or Alt+F4
 // A key with an entry in the accelerators of the running message loop. `flags`:
 // 4 shift, 8 control, 16 alt.
 void PressAccelerator(int key, unsigned flags);
@@ -53,6 +60,11 @@ void ScrollBy(WindowHandle window, WindowHandle bar, Scroll scroll, int position
 void SetPointer(int x, int y);
 // Fires every running timer `times` times.
 void Tick(int times = 1);
+
+// The tab of a page, from 0, of the property sheet that is the innermost dialog. Its
+// buttons are pressed as 1, 2 and this number; the page on show is found by its template.
+void SheetPageChoose(int page);
+inline constexpr int kSheetApplyButton = 0x3021;
 
 // --- What will be asked
 
@@ -70,7 +82,8 @@ void ExpectBox(const char* text, const char* caption, BoxAnswer answer = BoxAnsw
 int BoxesLeft();
 const std::vector<Box>& BoxesShown();
 // The next file dialog of the platform ends with this path, or is cancelled by "".
-void ExpectFileDialog(const char* path);
+// `meanwhile` runs while it is up.
+void ExpectFileDialog(const char* path, std::function<void()> meanwhile = nullptr);
 // The next popup menu must be this one; `command` is chosen, 0 for none, unless
 // `meanwhile`, which runs while the menu is up, takes it away.
 void ExpectMenu(int menuId, std::uint32_t command, std::function<void()> meanwhile = nullptr);
@@ -106,6 +119,8 @@ std::vector<std::string> ListRows(WindowHandle dialog, int id);
 
 // How often a list has drawn its rows.
 int ListDrawings(WindowHandle dialog, int id);
+// How many pixels a list box scrolls sideways over; 0 for one that does not.
+int ListExtent(WindowHandle dialog, int id);
 std::string WindowText(WindowHandle window);
 bool TimerIsRunning(WindowHandle window, int id);
 int TimerPeriod(WindowHandle window, int id);  // milliseconds; 0 when it is not running

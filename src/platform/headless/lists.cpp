@@ -11,6 +11,9 @@
 namespace {
 
 constexpr std::uint32_t kListSort = 2;
+constexpr std::uint32_t kStyleScrollsSideways = 0x00100000;
+constexpr int kColumn = 8;  // pixels of a half-width character, which is one byte
+constexpr int kRowMargin = 4;
 constexpr std::uint32_t kComboSort = 0x100;
 
 bool Sorts(const HeadlessWindow& list) {
@@ -34,7 +37,9 @@ std::string Folded(const std::string& text) {
 
 WindowPointer ListUse(WindowHandle dialog, int id, const char* call) {
   const WindowPointer list = ControlUse(dialog, id, call);
-  return list && HasRows(*list) ? list : nullptr;
+  if (!list || HasRows(*list)) return list;
+  Failure(Deed(call, dialog, id) + ": the control is no list");
+  return nullptr;
 }
 
 void Drawn(HeadlessWindow& list) {
@@ -60,6 +65,7 @@ void ListClear(WindowHandle dialog, int id) {
   const WindowPointer list = ListUse(dialog, id, "ListClear");
   if (!list) return;
   list->rows.clear();
+  list->extent = 0;
   RowSelect(list, -1);
   Drawn(*list);
 }
@@ -67,6 +73,10 @@ void ListClear(WindowHandle dialog, int id) {
 int ListAdd(WindowHandle dialog, int id, const char* text) {
   const WindowPointer list = ListUse(dialog, id, "ListAdd");
   if (!list) return -1;
+  const int needed = static_cast<int>(std::strlen(text)) * kColumn + kRowMargin;
+  const bool sideways =
+      list->controlClass == ControlClass::ListBox && (list->style & kStyleScrollsSideways) != 0;
+  if (sideways) list->extent = std::max(list->extent, needed);
   auto at = list->rows.end();
   if (Sorts(*list)) {
     const std::string key = Folded(text);
@@ -88,8 +98,13 @@ void ListDraw(WindowHandle dialog, int id, bool on) {
 }
 
 int ListDrawings(WindowHandle dialog, int id) {
-  const WindowPointer list = ListUse(dialog, id, "ListDrawings");
+  const WindowPointer list = ControlAsked(dialog, id, "ListDrawings");
   return list ? list->drawings : 0;
+}
+
+int ListExtent(WindowHandle dialog, int id) {
+  const WindowPointer list = ControlAsked(dialog, id, "ListExtent");
+  return list ? list->extent : 0;
 }
 
 int ListCount(WindowHandle dialog, int id) {
@@ -146,6 +161,6 @@ void ListFolders(WindowHandle dialog, int id) {
 }
 
 std::vector<std::string> ListRows(WindowHandle dialog, int id) {
-  const WindowPointer list = ListUse(dialog, id, "ListRows");
+  const WindowPointer list = ControlAsked(dialog, id, "ListRows");
   return list ? list->rows : std::vector<std::string>();
 }

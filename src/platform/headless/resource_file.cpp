@@ -313,6 +313,7 @@ bool ReadStrings(Reader in, int bundle, std::map<int, std::string>* strings) {
 }
 
 bool ReadAccelerators(Reader in, std::vector<ResourceAccelerator>* accelerators) {
+  if (in.Left() == 0) return true;  // a table without a key
   for (;;) {
     ResourceAccelerator entry;
     const unsigned flags = in.U16();

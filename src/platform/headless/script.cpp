@@ -75,6 +75,7 @@ void HeadlessResourceFile(const std::string& path) {
 void HeadlessReset() {
   WindowsReset();
   BoxesReset();
+  SheetsReset();
   CanvasReset();
   ScreenReset();
   ProcessReset();

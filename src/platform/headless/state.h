@@ -13,10 +13,12 @@
 #include "platform/headless/handles.h"
 #include "platform/headless/headless.h"
 #include "platform/headless/resource_file.h"
+#include "platform/sheet.h"
 
 // --- Windows
 
-enum class WindowKind { Main, Modal, Modeless, Control };
+// A page is a dialog inside a property sheet, which is its parent.
+enum class WindowKind { Main, Modal, Modeless, Page, Control };
 
 struct HeadlessWindow {
   WindowHandle handle = nullptr;
@@ -24,6 +26,7 @@ struct HeadlessWindow {
   WindowHandle parent = nullptr;  // of a control; the owner of a dialog
   int templateId = 0;
   EventHandler handler = nullptr;
+  void* context = nullptr;             // handed to the handler with every event
   std::vector<WindowHandle> children;  // in tab order
   std::string text;
   Rect rect{};    // on the screen; of a control in its parent's client area
@@ -51,6 +54,7 @@ struct HeadlessWindow {
   int selected = -1;
   bool draws = true;  // each change of the rows
   int drawings = 0;
+  int extent = 0;  // pixels to scroll over sideways
   int limit = 32767;
   ScrollState scroll;
 };
@@ -64,7 +68,15 @@ HandleTable<WindowTag, HeadlessWindow>& Windows();
 WindowPointer WindowUse(WindowHandle window, const char* call);
 
 // A dialog's control; null when it is not there.
+WindowPointer ControlFind(WindowHandle dialog, int id);
+// The same for `call`, which is about to use it: one that is not there is a failure.
+// The null handle stands for a dialog that is not open, and is passed over.
 WindowPointer ControlUse(WindowHandle dialog, int id, const char* call);
+// The same for what a test asks: without a dialog there is nothing to ask about.
+WindowPointer ControlAsked(WindowHandle dialog, int id, const char* call);
+
+// "Press 12 of dialog 3500"
+std::string Deed(const char* what, WindowHandle dialog, int id);
 
 // Makes the window known and counts it.
 WindowHandle WindowAdd(const WindowPointer& window);
@@ -80,7 +92,7 @@ Point ClientOrigin(const HeadlessWindow& window);
 bool EventSend(const Event& event);
 
 // What a control tells its parent.
-void NoticeSend(const HeadlessWindow& control, Notice notice);
+void ControlTells(const HeadlessWindow& control, EventKind kind);
 
 // Shows or hides; the first show brings a Size event.
 void WindowSetVisible(const WindowPointer& window, bool visible);
@@ -102,8 +114,19 @@ bool IsCheckControl(const HeadlessWindow& control);
 bool HasRows(const HeadlessWindow& control);
 // Turns an automatic check box or radio button over.
 void ControlTurn(const WindowPointer& control);
+bool IsPushButton(const HeadlessWindow& control);
 // Selects as ListSelect does.
 void RowSelect(const WindowPointer& control, int row);
+
+// --- Sheets
+
+// Runs a modal window with the buttons of a property sheet.
+int SheetWindowRun(WindowHandle owner, const char* caption, EventHandler handler, void* context);
+// Makes a page, hidden; null when that fails.
+WindowHandle SheetPageMake(WindowHandle sheet, const SheetPage& page);
+
+// The window that a modal dialog or a box of this owner disables: of a page, its sheet.
+WindowPointer OwnerOf(WindowHandle owner, const char* call);
 
 // --- Script
 
@@ -122,6 +145,7 @@ const ResourceSet& Resources();
 
 void WindowsReset();
 void BoxesReset();
+void SheetsReset();
 void CanvasReset();
 void ScreenReset();
 void ProcessReset();

@@ -35,13 +35,12 @@ void DefaultAction(const Event& event, const WindowPointer& window) {
     WindowDestroy(event.window);
     return;
   }
-  if (window->kind == WindowKind::Control) return;
-  const WindowPointer cancel = ControlUse(event.window, 2, "Close");
+  if (window->kind == WindowKind::Control || window->kind == WindowKind::Page) return;
+  const WindowPointer cancel = ControlFind(event.window, kCancelButton);
   if (cancel && !cancel->enabled) return;
-  Event command = EventOf(EventKind::Command, event.window);
-  command.command = 2;
-  command.fromControl = cancel != nullptr;
-  EventSend(command);
+  Event pressed = EventOf(EventKind::Pressed, event.window);
+  pressed.id = kCancelButton;
+  EventSend(pressed);
 }
 
 }  // namespace
@@ -56,6 +55,11 @@ WindowPointer WindowUse(WindowHandle window, const char* call) {
   WindowPointer found = Windows().Find(window);
   if (!found) Failure(std::string(call) + ": the window is no more");
   return found;
+}
+
+WindowPointer OwnerOf(WindowHandle owner, const char* call) {
+  WindowPointer found = WindowUse(owner, call);
+  return found && found->kind == WindowKind::Page ? Windows().Find(found->parent) : found;
 }
 
 WindowHandle WindowAdd(const WindowPointer& window) {
@@ -127,17 +131,17 @@ bool EventSend(const Event& event) {
     return false;
   }
   ++nesting;
-  const bool done = window->handler(event);
-  if (!done) DefaultAction(event, window);
+  Event told = event;
+  told.context = window->context;
+  const bool done = window->handler(told);
+  if (!done) DefaultAction(told, window);
   --nesting;
   return done;
 }
 
-void NoticeSend(const HeadlessWindow& control, Notice notice) {
-  Event event = EventOf(EventKind::Command, control.parent);
-  event.command = static_cast<std::uint32_t>(control.id) & 0xFFFFU;  // 16 bits travel
-  event.notice = notice;
-  event.fromControl = true;
+void ControlTells(const HeadlessWindow& control, EventKind kind) {
+  Event event = EventOf(kind, control.parent);
+  event.id = control.id & 0xFFFF;  // 16 bits travel
   EventSend(event);
 }
 
@@ -213,9 +217,12 @@ bool QuitWasAsked() {
 }
 
 void SendCommand(WindowHandle window, std::uint32_t command) {
-  if (!WindowUse(window, "SendCommand")) return;
-  Event event = EventOf(EventKind::Command, window);
-  event.command = command;
+  const WindowPointer found = WindowUse(window, "SendCommand");
+  if (!found) return;
+  const bool button = found->kind != WindowKind::Main && (command == kOkButton || command == kCancelButton);
+  Event event = EventOf(button ? EventKind::Pressed : EventKind::Command, window);
+  event.id = button ? static_cast<int>(command) : 0;
+  event.command = button ? 0 : command;
   EventSend(event);
 }
 

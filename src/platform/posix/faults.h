@@ -25,6 +25,7 @@ enum class FaultKind {
   Window,    // a window or dialog cannot be made
   Timer,     // TimerStart
   Process,   // ProcessStart
+  Socket,    // each step of the network in turn: start, host, socket, connect, send, receive
   Count
 };
 

@@ -14,6 +14,7 @@
 
 #include "platform/cp932.h"
 #include "platform/posix/faults.h"
+#include "platform/posix/files_opened.h"
 #include "platform/posix/live_counts.h"
 #include "platform/posix/posix_paths.h"
 
@@ -102,6 +103,7 @@ bool NextOf(const Search& search, SearchEntry* entry) {
 }
 
 std::string desktopFolder;
+std::vector<FileOpened> filesOpened;
 std::uint64_t toldTotal = 0;
 std::uint64_t toldFree = 0;
 
@@ -116,6 +118,14 @@ void PosixDiskSpaceSet(unsigned long long total, unsigned long long free) {
   toldFree = free;
 }
 
+const std::vector<FileOpened>& FilesOpened() {
+  return filesOpened;
+}
+
+void FilesOpenedClear() {
+  filesOpened.clear();
+}
+
 int FileOpen(const char* path, OpenMode mode) {
   if (FaultMeets(FaultKind::Open)) return kNoFile;
   const int flags = mode == OpenMode::ReadWrite ? O_RDWR : O_RDONLY;
@@ -126,6 +136,7 @@ int FileOpen(const char* path, OpenMode mode) {
     close(file);
     return kNoFile;
   }
+  filesOpened.push_back({path, false, mode});
   ++PosixLive().files;
   return file;
 }
@@ -134,6 +145,7 @@ int FileCreate(const char* path) {
   if (FaultMeets(FaultKind::Create)) return kNoFile;
   const int file = open(PosixPath(path).c_str(), O_RDWR | O_CREAT | O_TRUNC | O_CLOEXEC, 0666);
   if (file < 0) return kNoFile;
+  filesOpened.push_back({path, true, OpenMode::ReadWrite});
   ++PosixLive().files;
   return file;
 }

@@ -52,6 +52,23 @@ bool CopyNarrowWhole(const wchar_t* text, char* buffer, int size) {
   return true;
 }
 
+namespace {
+// Whether the text is the same after going to code page 932 and back.
+bool IsNarrow(const wchar_t* text) {
+  BOOL replaced = FALSE;
+  const int needed =
+      WideCharToMultiByte(kCodePage, WC_NO_BEST_FIT_CHARS, text, -1, nullptr, 0, nullptr, &replaced);
+  return needed > 0 && !replaced;
+}
+}  // namespace
+
+bool CopyNarrowPath(const wchar_t* path, char* buffer, int size) {
+  if (IsNarrow(path)) return CopyNarrowWhole(path, buffer, size);
+  wchar_t shortPath[MAX_PATH];
+  const DWORD length = GetShortPathNameW(path, shortPath, MAX_PATH);
+  return length > 0 && length < MAX_PATH && IsNarrow(shortPath) && CopyNarrowWhole(shortPath, buffer, size);
+}
+
 LiveObjects& Live() {
   static LiveObjects live{};
   return live;

@@ -23,6 +23,10 @@ int CopyNarrowBytes(const wchar_t* text, char* buffer, int size);
 // All of it or nothing: false, with `buffer` as it was, when it does not fit.
 bool CopyNarrowWhole(const wchar_t* text, char* buffer, int size);
 
+// The same for a path that there is, and only as code page 932 can hold it: by its short
+// names when the long ones have other characters. False when it has none.
+bool CopyNarrowPath(const wchar_t* path, char* buffer, int size);
+
 inline HWND Hwnd(WindowHandle window) {
   return reinterpret_cast<HWND>(window);
 }
@@ -35,7 +39,16 @@ LiveObjects& Live();
 // The fixed text font, made at first use: 8 x 16 with Japanese glyphs.
 HFONT TextFont();
 
-// Turns a Windows message into an event for `handler`. False when the message
-// is none of ours. `result` takes what the window procedure is to return.
+// The parts of a dialog's procedure. The first begins it and sends Init, and returns what
+// WM_INITDIALOG is to; the second handles every other message; the third hands an event to
+// the handler.
 struct Event;
-bool EventFromMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam, Event* event);
+INT_PTR DialogBegin(HWND window, bool (*handler)(const Event&), void* context);
+INT_PTR DialogMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+bool DialogTell(HWND window, const Event& event);
+
+// Turns a Windows message to the main window or to a dialog into an event. False when
+// the message is none of ours.
+enum class MessageTarget { MainWindow, Dialog };
+bool EventFromMessage(MessageTarget target, HWND window, UINT message, WPARAM wParam, LPARAM lParam,
+                      Event* event);

@@ -10,38 +10,21 @@
 
 namespace {
 
-bool focusWasSet = false;
+constexpr int kRowMargin = 4;  // pixels beside a list's text
 
-// The handler of a dialog is kept in the window's own long, next to what the
-// dialog manager keeps there.
+bool focusWasSet = false;
+bool fileDialogIsUp = false;
+
+// What a dialog gets at its start.
+struct Opening {
+  EventHandler handler;
+  void* context;
+};
+
 INT_PTR CALLBACK DialogProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-  if (message == WM_INITDIALOG) {
-    ++Live().windows;
-    SetWindowLongPtrW(window, DWLP_USER, lParam);
-    Event event;
-    event.kind = EventKind::Init;
-    event.window = Window(window);
-    focusWasSet = false;
-    reinterpret_cast<EventHandler>(lParam)(event);
-    return focusWasSet ? FALSE : TRUE;
-  }
-  const auto handler = reinterpret_cast<EventHandler>(GetWindowLongPtrW(window, DWLP_USER));
-  Event event;
-  if (!handler || message == WM_SETCURSOR) return FALSE;
-  if (!EventFromMessage(window, message, wParam, lParam, &event)) return FALSE;
-  if (message == WM_PAINT) {
-    PAINTSTRUCT paint;
-    BeginPaint(window, &paint);
-    EndPaint(window, &paint);
-    handler(event);
-    return TRUE;
-  }
-  const bool done = handler(event);
-  if (message == WM_DESTROY) {
-    --Live().windows;
-    SetWindowLongPtrW(window, DWLP_USER, 0);
-  }
-  return done ? TRUE : FALSE;
+  if (message != WM_INITDIALOG) return DialogMessage(window, message, wParam, lParam);
+  const Opening& opening = *reinterpret_cast<const Opening*>(lParam);
+  return DialogBegin(window, opening.handler, opening.context);
 }
 
 bool IsComboBox(HWND control) {
@@ -57,6 +40,24 @@ HWND ListControl(WindowHandle dialog, int id) {
   const bool same = last && IsWindow(last) && GetParent(last) == Hwnd(dialog) && GetDlgCtrlID(last) == id;
   if (!same) last = GetDlgItem(Hwnd(dialog), id);
   return last;
+}
+
+bool ScrollsSideways(HWND list) {
+  return list && (GetWindowLongPtrW(list, GWL_STYLE) & WS_HSCROLL) != 0 && !IsComboBox(list);
+}
+
+// Lets a list scroll as far as `row` needs, in the list's own font.
+void Widen(HWND list, const std::wstring& row) {
+  HDC canvas = GetDC(list);
+  const auto font = reinterpret_cast<HFONT>(SendMessageW(list, WM_GETFONT, 0, 0));
+  HGDIOBJ old = SelectObject(canvas, font ? font : TextFont());
+  SIZE size{};
+  GetTextExtentPoint32W(canvas, row.c_str(), static_cast<int>(row.size()), &size);
+  SelectObject(canvas, old);
+  ReleaseDC(list, canvas);
+  const LRESULT needed = size.cx + kRowMargin;
+  if (needed <= SendMessageW(list, LB_GETHORIZONTALEXTENT, 0, 0)) return;
+  SendMessageW(list, LB_SETHORIZONTALEXTENT, static_cast<WPARAM>(needed), 0);
 }
 
 // Sends the message that a list of either kind knows for the same thing.
@@ -92,21 +93,65 @@ bool FileDialog(bool save, WindowHandle owner, const char* title, const char* fi
   dialog.lpstrInitialDir = folder.empty() ? nullptr : folder.c_str();
   dialog.Flags = OFN_HIDEREADONLY;
   auto* run = save ? LATE("comdlg32.dll", GetSaveFileNameW) : LATE("comdlg32.dll", GetOpenFileNameW);
+  fileDialogIsUp = true;
   const BOOL good = run ? run(&dialog) : FALSE;
-  if (good) CopyNarrow(name, path, size);
+  fileDialogIsUp = false;
+  if (good && !CopyNarrowPath(name, path, size)) CopyNarrow(name, path, size);
   return good != FALSE;
 }
 
 }  // namespace
 
-int DialogRun(int templateId, WindowHandle owner, EventHandler handler) {
-  return static_cast<int>(DialogBoxParamW(GetModuleHandleW(nullptr), MAKEINTRESOURCEW(templateId),
-                                          Hwnd(owner), DialogProc, reinterpret_cast<LPARAM>(handler)));
+// The handler of a dialog is kept in the window's own long, next to what the dialog
+// manager keeps there, and its context in the one that is free for the window.
+INT_PTR DialogBegin(HWND window, EventHandler handler, void* context) {
+  ++Live().windows;
+  SetWindowLongPtrW(window, DWLP_USER, reinterpret_cast<LONG_PTR>(handler));
+  SetWindowLongPtrW(window, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(context));
+  Event event;
+  event.kind = EventKind::Init;
+  event.window = Window(window);
+  focusWasSet = false;
+  DialogTell(window, event);
+  return focusWasSet ? FALSE : TRUE;
 }
 
-WindowHandle DialogOpen(int templateId, WindowHandle owner, EventHandler handler) {
+bool DialogTell(HWND window, const Event& event) {
+  const auto handler = reinterpret_cast<EventHandler>(GetWindowLongPtrW(window, DWLP_USER));
+  Event told = event;
+  told.context = reinterpret_cast<void*>(GetWindowLongPtrW(window, GWLP_USERDATA));
+  return handler && handler(told);
+}
+
+INT_PTR DialogMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+  Event event;
+  if (GetWindowLongPtrW(window, DWLP_USER) == 0 || message == WM_SETCURSOR) return FALSE;
+  if (!EventFromMessage(MessageTarget::Dialog, window, message, wParam, lParam, &event)) return FALSE;
+  if (message == WM_PAINT) {
+    PAINTSTRUCT paint;
+    BeginPaint(window, &paint);
+    EndPaint(window, &paint);
+    DialogTell(window, event);
+    return TRUE;
+  }
+  const bool done = DialogTell(window, event);
+  if (message == WM_DESTROY) {
+    --Live().windows;
+    SetWindowLongPtrW(window, DWLP_USER, 0);
+  }
+  return done ? TRUE : FALSE;
+}
+
+int DialogRun(int templateId, WindowHandle owner, EventHandler handler, void* context) {
+  Opening opening{handler, context};
+  return static_cast<int>(DialogBoxParamW(GetModuleHandleW(nullptr), MAKEINTRESOURCEW(templateId),
+                                          Hwnd(owner), DialogProc, reinterpret_cast<LPARAM>(&opening)));
+}
+
+WindowHandle DialogOpen(int templateId, WindowHandle owner, EventHandler handler, void* context) {
+  Opening opening{handler, context};
   return Window(CreateDialogParamW(GetModuleHandleW(nullptr), MAKEINTRESOURCEW(templateId), Hwnd(owner),
-                                   DialogProc, reinterpret_cast<LPARAM>(handler)));
+                                   DialogProc, reinterpret_cast<LPARAM>(&opening)));
 }
 
 void DialogEnd(WindowHandle dialog, int result) {
@@ -164,11 +209,16 @@ bool ControlIsChecked(WindowHandle dialog, int id) {
 
 void ListClear(WindowHandle dialog, int id) {
   ListSend(dialog, id, LB_RESETCONTENT, CB_RESETCONTENT, 0, 0);
+  if (ScrollsSideways(ListControl(dialog, id)))
+    SendMessageW(ListControl(dialog, id), LB_SETHORIZONTALEXTENT, 0, 0);
 }
 
 int ListAdd(WindowHandle dialog, int id, const char* text) {
+  const std::wstring row = Wide(text);
+  HWND list = ListControl(dialog, id);
+  if (ScrollsSideways(list)) Widen(list, row);
   return static_cast<int>(
-      ListSend(dialog, id, LB_ADDSTRING, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(Wide(text).c_str())));
+      ListSend(dialog, id, LB_ADDSTRING, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(row.c_str())));
 }
 
 void ListDraw(WindowHandle dialog, int id, bool on) {
@@ -280,4 +330,8 @@ bool FileDialogLoad(WindowHandle owner, const char* title, const char* filterTex
 bool FileDialogSave(WindowHandle owner, const char* title, const char* filterText, const char* mask,
                     const char* startFolder, char* path, int size) {
   return FileDialog(true, owner, title, filterText, mask, startFolder, path, size);
+}
+
+bool FileDialogIsUp() {
+  return fileDialogIsUp;
 }

@@ -8,22 +8,47 @@
 
 namespace {
 
-Notice NoticeOf(HWND control, UINT code) {
+// What a control reports, as an event. False for what nobody needs to hear.
+bool KindOfReport(HWND control, UINT code, EventKind* kind) {
   // Escape and Enter come as the press of control 2 or 1 even if that is no button;
   // no other kind of control has a report of its own with this number.
-  if (code == BN_CLICKED) return Notice::Click;
+  if (code == BN_CLICKED) {
+    *kind = EventKind::Pressed;
+    return true;
+  }
   wchar_t name[16] = L"";
   GetClassNameW(control, name, 16);
-  if (lstrcmpiW(name, L"Button") == 0 || lstrcmpiW(name, L"Static") == 0) {
-    return code == BN_DBLCLK ? Notice::DoubleClick : Notice::Other;
+  const bool list = lstrcmpiW(name, L"ListBox") == 0 || lstrcmpiW(name, L"ComboBox") == 0;
+  const bool field = lstrcmpiW(name, L"Edit") == 0 || lstrcmpiW(name, L"ComboBox") == 0;
+  // Both kinds of list report with the same two numbers.
+  if (list && code == LBN_SELCHANGE) {
+    *kind = EventKind::Chosen;
+  } else if (list && code == LBN_DBLCLK) {
+    *kind = EventKind::Opened;
+  } else if (field && code == (list ? UINT{CBN_EDITCHANGE} : UINT{EN_CHANGE})) {
+    *kind = EventKind::Edited;
+  } else {
+    return false;
   }
-  if (lstrcmpiW(name, L"ListBox") == 0 || lstrcmpiW(name, L"ComboBox") == 0) {
-    // Both kinds of list report with the same two numbers.
-    return code == LBN_SELCHANGE ? Notice::SelectChange
-           : code == LBN_DBLCLK  ? Notice::DoubleClick
-                                 : Notice::Other;
+  return true;
+}
+
+// A number that was sent, or what a control reports.
+bool EventFromCommand(MessageTarget target, WPARAM wParam, LPARAM lParam, Event* event) {
+  if (lParam != 0) {
+    event->id = LOWORD(wParam);
+    return KindOfReport(reinterpret_cast<HWND>(lParam), HIWORD(wParam), &event->kind);
   }
-  return code == EN_CHANGE ? Notice::EditChange : Notice::Other;
+  // No command has a number that does not fit: one that is cut would be another.
+  if (wParam > 0xFFFFFFFFU) return false;
+  if (target == MessageTarget::Dialog && (wParam == kOkButton || wParam == kCancelButton)) {
+    event->kind = EventKind::Pressed;
+    event->id = static_cast<int>(wParam);
+    return true;
+  }
+  event->kind = EventKind::Command;
+  event->command = static_cast<std::uint32_t>(wParam);
+  return true;
 }
 
 Scroll ScrollOf(UINT code) {
@@ -65,7 +90,8 @@ constexpr KindOfMessage kPlain[] = {
 
 }  // namespace
 
-bool EventFromMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam, Event* event) {
+bool EventFromMessage(MessageTarget target, HWND window, UINT message, WPARAM wParam, LPARAM lParam,
+                      Event* event) {
   *event = Event{};
   event->window = Window(window);
   for (const KindOfMessage& mouse : kMouse) {
@@ -83,11 +109,7 @@ bool EventFromMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam, E
   }
   switch (message) {
     case WM_COMMAND:
-      event->kind = EventKind::Command;
-      event->fromControl = lParam != 0;
-      event->command = event->fromControl ? LOWORD(wParam) : static_cast<std::uint32_t>(wParam);
-      if (event->fromControl) event->notice = NoticeOf(reinterpret_cast<HWND>(lParam), HIWORD(wParam));
-      return true;
+      return EventFromCommand(target, wParam, lParam, event);
     case WM_CHAR:
     case WM_KEYDOWN:
       event->kind = message == WM_CHAR ? EventKind::Char : EventKind::KeyDown;

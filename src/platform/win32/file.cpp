@@ -118,7 +118,7 @@ int FolderGetCurrent(char* buffer, int size) {
   wchar_t path[MAX_PATH];
   // For a longer one the call tells the room it would need and writes nothing.
   const DWORD length = GetCurrentDirectoryW(MAX_PATH, path);
-  if (length == 0 || length >= MAX_PATH || !CopyNarrowWhole(path, buffer, size)) return 0;
+  if (length == 0 || length >= MAX_PATH || !CopyNarrowPath(path, buffer, size)) return 0;
   return static_cast<int>(std::strlen(buffer));
 }
 
@@ -135,7 +135,7 @@ bool FolderDesktop(char* buffer, int size) {
   wchar_t path[MAX_PATH];
   const bool good = pathOf(list, path) != FALSE;
   release(list);
-  return good && CopyNarrowWhole(path, buffer, size);
+  return good && CopyNarrowPath(path, buffer, size);
 }
 
 SearchHandle SearchFirst(const char* pattern, SearchEntry* entry) {

@@ -34,27 +34,27 @@ u_short NetworkOrder(int port) {
 
 }  // namespace
 
+bool SocketsStart() {
+  WSADATA data{};
+  return Sockets().IsWhole() && Sockets().startup(MAKEWORD(1, 1), &data) == 0;
+}
+
+void SocketsEnd() {
+  if (Sockets().IsWhole()) Sockets().cleanup();
+}
+
 int SocketConnect(const char* host, int port) {
   const Library& sockets = Sockets();
-  WSADATA data{};
-  if (!sockets.IsWhole() || sockets.startup(MAKEWORD(2, 2), &data) != 0) return -1;
-  const hostent* entry = sockets.hostByName(host);
-  if (!entry || entry->h_addrtype != AF_INET) {
-    sockets.cleanup();
-    return -2;
-  }
+  const hostent* entry = sockets.IsWhole() ? sockets.hostByName(host) : nullptr;
+  if (!entry || entry->h_addrtype != AF_INET) return -2;
   const SOCKET made = sockets.socket(AF_INET, SOCK_STREAM, 0);
-  if (made == INVALID_SOCKET) {
-    sockets.cleanup();
-    return -3;
-  }
+  if (made == INVALID_SOCKET) return -3;
   sockaddr_in address{};
   address.sin_family = AF_INET;
   address.sin_port = NetworkOrder(port);
   address.sin_addr = *reinterpret_cast<const in_addr*>(entry->h_addr_list[0]);
   if (sockets.connect(made, reinterpret_cast<const sockaddr*>(&address), sizeof address) != 0) {
     sockets.close(made);
-    sockets.cleanup();
     return -4;
   }
   return static_cast<int>(made);
@@ -71,7 +71,5 @@ int SocketReceive(int socket, char* buffer, int size) {
 }
 
 void SocketClose(int socket) {
-  if (socket == kNoSocket) return;
-  Sockets().close(static_cast<SOCKET>(socket));
-  Sockets().cleanup();
+  if (socket != kNoSocket) Sockets().close(static_cast<SOCKET>(socket));
 }

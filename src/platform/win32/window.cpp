@@ -3,11 +3,11 @@
 #include "platform/window.h"
 
 #include "platform/win32/border.h"
+#include "platform/win32/report.h"
 
 namespace {
 
 EventHandler mainHandler = nullptr;
-UINT diagnosticsMessage = 0;
 bool acceleratorRuns = false;
 
 void Validate(HWND window) {
@@ -16,27 +16,9 @@ void Validate(HWND window) {
   EndPaint(window, &paint);
 }
 
-// For the tests: what is still held when the message loop has ended, a number a
-// line, into the file that MIRRELL_LIVE_REPORT names.
-void LiveReportWrite() {
-  wchar_t path[MAX_PATH];
-  const DWORD length = GetEnvironmentVariableW(L"MIRRELL_LIVE_REPORT", path, MAX_PATH);
-  if (length == 0 || length >= MAX_PATH) return;
-  std::string text;
-  for (int i = 0; i < kDiagnosticsLiveCount; ++i) {
-    text += std::to_string(DiagnosticsValue(kDiagnosticsLiveFirst + i)) + "\n";
-  }
-  HANDLE file = CreateFileW(path, GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr);
-  if (file == INVALID_HANDLE_VALUE) return;
-  DWORD written = 0;
-  WriteFile(file, text.data(), static_cast<DWORD>(text.size()), &written, nullptr);
-  CloseHandle(file);
-}
-
 LRESULT CALLBACK MainWindowProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-  if (diagnosticsMessage != 0 && message == diagnosticsMessage) {
-    return DiagnosticsValue(static_cast<int>(wParam));
-  }
+  LRESULT answer = 0;
+  if (ReportAnswers(message, wParam, &answer)) return answer;
   Event event;
   if (message == WM_CREATE) {
     event.kind = EventKind::Init;
@@ -44,7 +26,7 @@ LRESULT CALLBACK MainWindowProc(HWND window, UINT message, WPARAM wParam, LPARAM
     mainHandler(event);
     return 0;
   }
-  if (!EventFromMessage(window, message, wParam, lParam, &event)) {
+  if (!EventFromMessage(MessageTarget::MainWindow, window, message, wParam, lParam, &event)) {
     return DefWindowProcW(window, message, wParam, lParam);
   }
   // An accelerator marks its number with a bit that is no part of it.
@@ -59,7 +41,6 @@ LRESULT CALLBACK MainWindowProc(HWND window, UINT message, WPARAM wParam, LPARAM
 WindowHandle MainWindowCreate(const MainWindowClass& windowClass, int x, int y, int width, int height) {
   HINSTANCE instance = GetModuleHandleW(nullptr);
   mainHandler = windowClass.handler;
-  diagnosticsMessage = RegisterWindowMessageW(L"MirrellDiagnostics");
   const std::wstring name = Wide(windowClass.className);
   WNDCLASSEXW registered{};
   registered.cbSize = sizeof registered;
@@ -97,7 +78,7 @@ int MessageLoop(WindowHandle window, int acceleratorId) {
     TranslateMessage(&message);
     DispatchMessageW(&message);
   }
-  LiveReportWrite();
+  ReportEnd();
   return static_cast<int>(message.wParam);
 }
 
