@@ -30,7 +30,8 @@ if [ ${#missing[@]} -gt 0 ]; then
   rm -f "$log"
 fi
 
-# Wine takes its code page from the locale.
+# Wine takes its code page from the locale. A folder of its own, and not the archive of
+# all: a shell that has looked into that already would not find a new one in it.
 if ! locale -a 2>/dev/null | grep -qi '^ja_JP\.utf-\?8$'; then
-  as_root localedef -i ja_JP -f UTF-8 ja_JP.UTF-8
+  as_root localedef --no-archive -i ja_JP -f UTF-8 ja_JP.UTF-8
 fi

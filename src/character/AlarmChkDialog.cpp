@@ -61,3 +61,7 @@ void AlarmCheckFrameStep() {
 void AlarmCheckFree() {
   for (AlarmRow& row : checked) AlarmRowFree(&row);
 }
+
+int AlarmCheckDue() {
+  return TickDueIf(Dialogs.hToolDlg != nullptr);
+}

@@ -144,3 +144,11 @@ int MotionPreviewTick() {
   played.place = (played.place + 1) % played.count;
   return 1;
 }
+
+void MotionPreviewStep() {
+  if (MotionPreviewTick() != 0) SendPaint(Dialogs.hSubDlg);
+}
+
+int MotionPreviewDue() {
+  return TickDueIf(Dialogs.hSubDlg != nullptr);
+}

@@ -83,7 +83,7 @@ void Take(WindowHandle dialog) {
   if (!IsListed(place) || !CharaSelect(place)) return;
   Stage.StageRedraw = kRedrawReload;
   changed = true;
-  if (WalkRow(Character.CharaSet) != 0) OpnHisTakeWalkSettings();
+  if (Character.CharaSet.WalkRow[0] != 0) OpnHisTakeWalkSettings();
 }
 
 // Until OK nothing but the previews has changed, so there is nothing to roll back.

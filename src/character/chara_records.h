@@ -12,95 +12,97 @@ inline constexpr int kCharaSetFrames = 5;  // frames of a walk, and of its end
 // CharaSet, 676 bytes
 //
 // offset  size  field
-//      0     2  charaNo, number of the character, from 1
-//      2    20  motionA
-//     22    20  motionB
-//     42     8  motionC
-//     50     4  motionD
-//     54     5  motionE
+//      0     2  CharaNo, number of the character, from 1
+//      2    20  MotionA
+//     22    20  MotionB
+//     42     8  MotionC
+//     50     4  MotionD
+//     54     5  MotionE
 //     59     5  spare1
-//     64   100  motionF
-//    164   100  motionG
-//    264    40  motionH
-//    304    20  motionI
-//    324    20  walkRow: the row of WalkCharas and WalkFlags that walks, from 1; 0 for none
-//    344    10  walkUse, bits kWalkUse*
-//    354    20  walkStartX, in pixels of the screen
-//    374    20  walkStartY
+//     64   100  MotionF
+//    164   100  MotionG
+//    264    40  MotionH
+//    304    20  MotionI
+//    324    20  WalkRow: the row of WalkCharas and WalkFlags that walks, from 1; 0 for none
+//    344    10  WalkUse, bits kWalkUse*
+//    354    20  WalkStartX, in pixels of the screen
+//    374    20  WalkStartY
 //    394     2  spare2
-//    396    40  walkStepX, pixels of one step
-//    436    40  walkStepY
-//    476    20  walkPeriod, ticks between two steps
-//    496    20  walkCount, steps of the whole walk
-//    516    50  walkFrames, from 1; 0 is unused
-//    566    50  endFrames, the same
-//    616    20  endWait, ticks that the end picture stays
-//    636     2  walkStartPoint, code of the point where walks begin: see WalkStartPlace
+//    396    40  WalkStepX, pixels of one step
+//    436    40  WalkStepY
+//    476    20  WalkPeriod, ticks between two steps
+//    496    20  WalkCount, steps of the whole walk
+//    516    50  WalkFrames, from 1; 0 is unused
+//    566    50  EndFrames, the same
+//    616    20  EndWait, ticks that the end picture stays
+//    636     2  WalkStartPoint, code of the point where walks begin: see WalkStartPlace
 //    638    38  spare3
 //
-// Nothing of this program reads motionA to motionI; they travel with the record. Of
+// Nothing of this program reads MotionA to MotionI; they travel with the record. Of
 // the ten uses of a walk only use 0 is played.
 struct CharaSetRecord {
-  std::uint16_t charaNo;
-  unsigned char motionA[20];
-  unsigned char motionB[20];
-  std::uint16_t motionC[4];
-  unsigned char motionD[4];
-  unsigned char motionE[5];
+  std::uint16_t CharaNo;
+  unsigned char MotionA[20];
+  unsigned char MotionB[20];
+  std::uint16_t MotionC[4];
+  unsigned char MotionD[4];
+  unsigned char MotionE[5];
   unsigned char spare1[5];
-  unsigned char motionF[5][20];
-  unsigned char motionG[5][20];
-  unsigned char motionH[40];
-  unsigned char motionI[20];
-  std::uint16_t walkRow[kCharaSetUses];
-  std::uint8_t walkUse[kCharaSetUses];
-  std::uint16_t walkStartX[kCharaSetUses];
-  std::uint16_t walkStartY[kCharaSetUses];
+  unsigned char MotionF[5][20];
+  unsigned char MotionG[5][20];
+  unsigned char MotionH[40];
+  unsigned char MotionI[20];
+  std::uint16_t WalkRow[kCharaSetUses];
+  std::uint8_t WalkUse[kCharaSetUses];
+  std::uint16_t WalkStartX[kCharaSetUses];
+  std::uint16_t WalkStartY[kCharaSetUses];
   unsigned char spare2[2];
-  std::int32_t walkStepX[kCharaSetUses];
-  std::int32_t walkStepY[kCharaSetUses];
-  std::uint16_t walkPeriod[kCharaSetUses];
-  std::uint16_t walkCount[kCharaSetUses];
-  std::uint8_t walkFrames[kCharaSetUses][kCharaSetFrames];
-  std::uint8_t endFrames[kCharaSetUses][kCharaSetFrames];
-  std::uint16_t endWait[kCharaSetUses];
-  std::uint16_t walkStartPoint;
+  std::int32_t WalkStepX[kCharaSetUses];
+  std::int32_t WalkStepY[kCharaSetUses];
+  std::uint16_t WalkPeriod[kCharaSetUses];
+  std::uint16_t WalkCount[kCharaSetUses];
+  std::uint8_t WalkFrames[kCharaSetUses][kCharaSetFrames];
+  std::uint8_t EndFrames[kCharaSetUses][kCharaSetFrames];
+  std::uint16_t EndWait[kCharaSetUses];
+  std::uint16_t WalkStartPoint;
   unsigned char spare3[38];
+
+  bool operator==(const CharaSetRecord&) const = default;
 };
 
-// Bits of walkUse.
+// Bits of WalkUse.
 inline constexpr unsigned kWalkUseOpen = 1;
 inline constexpr unsigned kWalkUseMail = 2;
 
 template <class Io>
 constexpr void Fields(Io& io, CharaSetRecord& set) {
-  io.LE16(set.charaNo);
-  io.Bytes(set.motionA);
-  io.Bytes(set.motionB);
-  io.LE16(set.motionC);
-  io.Bytes(set.motionD);
-  io.Bytes(set.motionE);
+  io.LE16(set.CharaNo);
+  io.Bytes(set.MotionA);
+  io.Bytes(set.MotionB);
+  io.LE16(set.MotionC);
+  io.Bytes(set.MotionD);
+  io.Bytes(set.MotionE);
   io.Bytes(set.spare1);
   io.At(64);
-  io.Bytes(set.motionF);
-  io.Bytes(set.motionG);
-  io.Bytes(set.motionH);
-  io.Bytes(set.motionI);
+  io.Bytes(set.MotionF);
+  io.Bytes(set.MotionG);
+  io.Bytes(set.MotionH);
+  io.Bytes(set.MotionI);
   io.At(324);
-  io.LE16(set.walkRow);
-  io.U8(set.walkUse);
-  io.LE16(set.walkStartX);
-  io.LE16(set.walkStartY);
+  io.LE16(set.WalkRow);
+  io.U8(set.WalkUse);
+  io.LE16(set.WalkStartX);
+  io.LE16(set.WalkStartY);
   io.Bytes(set.spare2);
   io.At(396);
-  io.LE32(set.walkStepX);
-  io.LE32(set.walkStepY);
-  io.LE16(set.walkPeriod);
-  io.LE16(set.walkCount);
-  io.U8(set.walkFrames);
-  io.U8(set.endFrames);
-  io.LE16(set.endWait);
-  io.LE16(set.walkStartPoint);
+  io.LE32(set.WalkStepX);
+  io.LE32(set.WalkStepY);
+  io.LE16(set.WalkPeriod);
+  io.LE16(set.WalkCount);
+  io.U8(set.WalkFrames);
+  io.U8(set.EndFrames);
+  io.LE16(set.EndWait);
+  io.LE16(set.WalkStartPoint);
   io.Bytes(set.spare3);
 }
 static_assert(RecordSize<CharaSetRecord>() == 676);

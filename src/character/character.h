@@ -3,11 +3,10 @@
 
 #include <cstdint>
 
-#include "character/chara_set.h"
+#include "character/chara_records.h"
 
 // --- The current character's settings, as the settings file keeps them.
 
-inline constexpr int kBoredFrameCount = 5;
 inline constexpr int kAlarmRowCount = 3;
 
 struct CharacterState {
@@ -25,6 +24,6 @@ struct CharacterState {
   // Row 0 the mail notice, 1 the schedule alarm, 2 the clock alarm and calendar
   // note; 0 for none, else 1 + place in the alarm list.
   std::int32_t AlarmCharaSel[kAlarmRowCount] = {};
-  unsigned char CharaSet[kCharaSetSize] = {};  // the current character's record, as it stands in the files
+  CharaSetRecord CharaSet = {};  // of the current character
 };
 extern CharacterState Character;

@@ -1,20 +1,21 @@
 #include "character/character_file.h"
 
+#include <algorithm>
 #include <cstring>
+#include <limits>
 
-#include "character/chara_set.h"
 #include "character/character.h"
 #include "character/character_tables.h"
-#include "clock_calendar/clock/clock.h"
 #include "services/data_file.h"
 #include "services/program.h"
+#include "services/record_file.h"
 #include "services/text.h"
 
 // The file, all numbers big-endian:
 //   order  size     field
 //     1    23       magic "Mirrell Character File:"
 //     2    4        N, number of main characters
-//     3    N * 740  main character records
+//     3    740 * N  main character records
 //     4    4        A, number of alarm characters
 //     5    4 * A    their character numbers
 //     6    4 * N    second number list of the main characters
@@ -27,18 +28,7 @@
 //    13    50       WalkFlags, always all of them
 //    14    4 * N    BlinkSpeedSel of the main characters; older files end here
 //
-// A main character record, 740 bytes:
-//     0    4        CharaNo, kept as 16 bits
-//     4    4        MenuFrame
-//     8    4        BlinkFrame
-//    12    20       Bored1Frames
-//    32    20       Bored2Frames
-//    52    4        BoredDelaySel
-//    56    4        BoredSpeedSel
-//    60    4        BoredRepeatSel
-//    64    676      CharaSet
-//
-// Reader and writer go through one list of fields, Fields; what differs is the
+// Reader and writer go through one list of parts, Parts; what differs is the
 // transfer that they hand to it.
 
 namespace {
@@ -47,47 +37,10 @@ constexpr char kMagic[] = "Mirrell Character File:";
 constexpr int kMagicSize = sizeof kMagic - 1;
 static_assert(kMagicSize == 23);
 
-// Everything that the file holds but the blink intervals.
-struct Tables {
-  std::int32_t mainCount;
-  MainChara mains[kMainCharaMax];
-  std::int32_t alarmCount;
-  std::int32_t alarms[kAlarmCharaMax];
-  std::int32_t walkCount;
-  WalkChara walks[kWalkCharaMax];
-  unsigned char walkFlags[kWalkCharaMax];
-  std::int32_t designCount;
-  ClockDesignRow designs[kClockDesignMax];
-};
-
 // A file is read into this copy first, so that a broken one changes nothing. Rows
 // behind a file's counts keep what they held: a current character that is no longer
 // listed stays as it was.
-Tables staged;
-
-void CopyIn(Tables& to) {
-  to.mainCount = CharaTables.MainCharaCount;
-  std::memcpy(to.mains, CharaTables.MainCharas, sizeof CharaTables.MainCharas);
-  to.alarmCount = CharaTables.AlarmCharaCount;
-  std::memcpy(to.alarms, CharaTables.AlarmCharas, sizeof CharaTables.AlarmCharas);
-  to.walkCount = CharaTables.WalkCharaCount;
-  std::memcpy(to.walks, CharaTables.WalkCharas, sizeof CharaTables.WalkCharas);
-  std::memcpy(to.walkFlags, CharaTables.WalkFlags, sizeof CharaTables.WalkFlags);
-  to.designCount = CharaTables.ClockDesignCount;
-  std::memcpy(to.designs, CharaTables.ClockDesigns, sizeof CharaTables.ClockDesigns);
-}
-
-void CopyOut(const Tables& from) {
-  CharaTables.MainCharaCount = from.mainCount;
-  std::memcpy(CharaTables.MainCharas, from.mains, sizeof CharaTables.MainCharas);
-  CharaTables.AlarmCharaCount = from.alarmCount;
-  std::memcpy(CharaTables.AlarmCharas, from.alarms, sizeof CharaTables.AlarmCharas);
-  CharaTables.WalkCharaCount = from.walkCount;
-  std::memcpy(CharaTables.WalkCharas, from.walks, sizeof CharaTables.WalkCharas);
-  std::memcpy(CharaTables.WalkFlags, from.walkFlags, sizeof CharaTables.WalkFlags);
-  CharaTables.ClockDesignCount = from.designCount;
-  std::memcpy(CharaTables.ClockDesigns, from.designs, sizeof CharaTables.ClockDesigns);
-}
+CharaTablesState staged;
 
 struct ReadTransfer {
   DataFile data;
@@ -95,12 +48,11 @@ struct ReadTransfer {
 
   bool Block(void* block, int size) { return DataRead(data, block, size); }
   bool Number(std::int32_t& value) { return DataReadBE32(data, value); }
-  bool Number32As16(std::uint16_t& value) {
-    std::uint32_t wide = 0;
-    if (DataReadBE32(data, wide)) value = static_cast<std::uint16_t>(wide);
-    return !data.failed;
-  }
   bool Number16(std::uint16_t& value) { return DataReadBE16(data, value); }
+  template <class T>
+  bool Records(T* records, int count) {
+    return RecordsRead(data, records, count);
+  }
   // bounded: a count beyond its table is bad content; nothing behind it is read.
   bool Count(std::int32_t& count, int most) {
     if (!DataReadBE32(data, count)) return false;
@@ -114,6 +66,16 @@ struct ReadTransfer {
     badCount = count > most;
     return !badCount;
   }
+  // A count and its numbers. settled: those that the table has no room for are passed
+  // over, so that what stands behind them is not lost with them.
+  bool NumberList(std::int32_t& count, std::int32_t* numbers, int most) {
+    if (!Count(count, std::numeric_limits<std::int32_t>::max())) return false;
+    const std::int32_t listed = count;
+    count = std::min(count, most);
+    for (int i = 0; i < count && !data.failed; ++i) Number(numbers[i]);
+    for (std::int32_t i = count, passedOver = 0; i < listed && !data.failed; ++i) Number(passedOver);
+    return !data.failed;
+  }
 };
 
 struct WriteTransfer {
@@ -121,39 +83,36 @@ struct WriteTransfer {
 
   bool Block(const void* block, int size) { return DataWrite(data, block, size); }
   bool Number(std::int32_t value) { return DataWriteBE32(data, static_cast<std::uint32_t>(value)); }
-  bool Number32As16(std::uint16_t value) { return DataWriteBE32(data, value); }
   bool Number16(std::uint16_t value) { return DataWriteBE16(data, value); }
+  template <class T>
+  bool Records(const T* records, int count) {
+    return RecordsWrite(data, records, count);
+  }
   bool Count(std::int32_t count, int) { return Number(count); }
   bool CountByte(std::int32_t count, int) { return DataWriteByte(data, static_cast<std::uint8_t>(count)); }
+  bool NumberList(std::int32_t count, const std::int32_t* numbers, int) {
+    Number(count);
+    for (int i = 0; i < count; ++i) Number(numbers[i]);
+    return !data.failed;
+  }
 };
 
+// Parts 2 to 13.
 template <class Transfer>
-bool MainFields(Transfer& t, MainChara& m) {
-  bool good = t.Number32As16(m.charaNo) && t.Number(m.menuFrame) && t.Number(m.blinkFrame);
-  for (auto& frame : m.bored1Frames) good = good && t.Number(frame);
-  for (auto& frame : m.bored2Frames) good = good && t.Number(frame);
-  return good && t.Number(m.boredDelaySel) && t.Number(m.boredSpeedSel) && t.Number(m.boredRepeatSel) &&
-         t.Block(m.charaSet, kCharaSetSize);
+bool Parts(Transfer& t, CharaTablesState& f) {
+  bool good = t.Count(f.MainCharaCount, kMainCharaMax) && t.Records(f.MainCharas, f.MainCharaCount) &&
+              t.NumberList(f.AlarmCharaCount, f.AlarmCharas, kAlarmCharaMax);
+  for (int i = 0; good && i < f.MainCharaCount; ++i) good = t.Number(f.MainCharas[i].secondNumber);
+  good = good && t.CountByte(f.WalkCharaCount, kWalkCharaMax);
+  for (int i = 0; good && i < f.WalkCharaCount; ++i) good = t.Number16(f.WalkCharas[i].number);
+  for (int i = 0; good && i < f.WalkCharaCount; ++i) good = t.Block(f.WalkCharas[i].sound, kWalkSoundSize);
+  good = good && t.CountByte(f.ClockDesignCount, kClockDesignMax);
+  for (int i = 0; good && i < f.ClockDesignCount; ++i) good = t.Number16(f.ClockDesigns[i].number);
+  for (int i = 0; good && i < f.ClockDesignCount; ++i) good = t.Records(&f.ClockDesigns[i].record, 1);
+  return good && t.Block(f.WalkFlags, kWalkCharaMax);
 }
 
-// Fields 2 to 13.
-template <class Transfer>
-bool Fields(Transfer& t, Tables& f) {
-  bool good = t.Count(f.mainCount, kMainCharaMax);
-  for (int i = 0; good && i < f.mainCount; ++i) good = MainFields(t, f.mains[i]);
-  good = good && t.Count(f.alarmCount, kAlarmCharaMax);
-  for (int i = 0; good && i < f.alarmCount; ++i) good = t.Number(f.alarms[i]);
-  for (int i = 0; good && i < f.mainCount; ++i) good = t.Number(f.mains[i].secondNumber);
-  good = good && t.CountByte(f.walkCount, kWalkCharaMax);
-  for (int i = 0; good && i < f.walkCount; ++i) good = t.Number16(f.walks[i].number);
-  for (int i = 0; good && i < f.walkCount; ++i) good = t.Block(f.walks[i].sound, kWalkSoundSize);
-  good = good && t.CountByte(f.designCount, kClockDesignMax);
-  for (int i = 0; good && i < f.designCount; ++i) good = t.Number16(f.designs[i].number);
-  for (int i = 0; good && i < f.designCount; ++i) good = t.Block(f.designs[i].record, kClockDesignSize);
-  return good && t.Block(f.walkFlags, kWalkCharaMax);
-}
-
-// Field 14, an interval at a time: those that are there are taken.
+// Part 14, an interval at a time: those that are there are taken.
 bool ReadBlinkSpeeds(DataFile& data) {
   for (int i = 0; i < CharaTables.MainCharaCount; ++i) {
     if (!DataReadBE32(data, CharaTables.MainCharas[i].blinkSpeedSel)) return false;
@@ -170,10 +129,11 @@ void SetFixedValues() {
   std::memcpy(Character.AlarmCharaSel, kAlarmSelections, sizeof kAlarmSelections);
   CharaTables.MainCharas[3].secondNumber = 4;
   for (int i = 2; i <= 3; ++i) {
-    unsigned char* set = CharaTables.MainCharas[i].charaSet;
-    SetWalkStep(set, 0, -28, -24);
-    SetWalkPeriod(set, 0, 4);
-    SetWalkCount(set, 0, 24);
+    CharaSetRecord& set = CharaTables.MainCharas[i].charaSet;
+    set.WalkStepX[0] = -28;
+    set.WalkStepY[0] = -24;
+    set.WalkPeriod[0] = 4;
+    set.WalkCount[0] = 24;
   }
   for (int row = 0; row <= 3; ++row) CharaTables.WalkFlags[row] = 0;
   TextCopy(CharaTables.WalkCharas[1].sound, kWalkSoundSize, "foot1.wav");
@@ -194,30 +154,28 @@ int CharaFileRead() {
   char magic[kMagicSize];
   if (!t.Block(magic, kMagicSize)) return DataFailShort(t.data);
   const bool known = std::memcmp(magic, kMagic, kMagicSize) == 0;
-  CopyIn(staged);
-  if (!known || !Fields(t, staged)) {
+  staged = CharaTables;
+  if (!known || !Parts(t, staged)) {
     const bool bad = !known || t.badCount;
     DataFailShort(t.data);
     return bad ? -2 : -1;
   }
-  CopyOut(staged);
+  CharaTables = staged;
   const bool whole = ReadBlinkSpeeds(t.data);
   DataClose(t.data);
-  if (whole) {
-    for (int i = 0; i < CharaTables.ClockDesignCount; ++i) ClockDesignTakeListValues(i);
-  }
+  if (whole) ClockDesignsTakeListValues();
   return 0;
 }
 
 int CharaFileWrite() {
   SetFixedValues();
-  CopyIn(staged);
+  staged = CharaTables;
   char path[kCharaFilePathSize];
   CharaFilePath(path);
   FileResult.FileStatus = 0;
   WriteTransfer t;
   if (!DataReplace(t.data, path)) return -1;
-  bool good = t.Block(kMagic, kMagicSize) && Fields(t, staged);
+  bool good = t.Block(kMagic, kMagicSize) && Parts(t, staged);
   for (int i = 0; good && i < CharaTables.MainCharaCount; ++i)
     good = t.Number(CharaTables.MainCharas[i].blinkSpeedSel);
   if (!good) return DataFailShort(t.data);

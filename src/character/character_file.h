@@ -17,6 +17,10 @@ int CharaFilePath(char* buffer);
 // missing and the clock designs' list values stay as they were.
 int CharaFileRead();
 
+// Every clock design takes the values that the user gave it. CharaFileRead calls it
+// at the end of a file; the clock, whose list they stand in, defines it.
+void ClockDesignsTakeListValues();
+
 // Puts the fixed values of a new data set into the tables and writes the file. It
 // is the character editor's form of the file; nothing of this program calls it.
 // Returns 0; -1 with FileStatus -1 when the file cannot be made and with

@@ -1,8 +1,9 @@
 // The tables of mirrell_chara_file.dcx: which numbered characters play which
 // role on the desktop. They are filled by the reader of that file.
 //
-// The capacities are fixed; a count beyond them is bad content of a file. A
-// character number is the number in the names of the picture files, from 1.
+// The capacities are fixed; a count beyond them is bad content of a file, but for
+// alarm characters beyond theirs, which are passed over. A character number is the
+// number in the names of the picture files, from 1.
 #pragma once
 
 #include <cstdint>
@@ -10,27 +11,10 @@
 #include "character/character.h"
 
 inline constexpr int kMainCharaMax = 50;
-inline constexpr int kAlarmCharaMax = 50;
+inline constexpr int kAlarmCharaMax = 512;  // as many as there can be characters
 inline constexpr int kWalkCharaMax = 50;
 inline constexpr int kClockDesignMax = 50;
 inline constexpr int kWalkSoundSize = 256;
-inline constexpr int kClockDesignSize = 464;
-
-// One main character with its idle settings; the fields are those of the same
-// names in character.h.
-struct MainChara {
-  std::uint16_t charaNo;
-  std::int32_t menuFrame;
-  std::int32_t blinkFrame;
-  std::int32_t bored1Frames[kBoredFrameCount];
-  std::int32_t bored2Frames[kBoredFrameCount];
-  std::int32_t boredDelaySel;
-  std::int32_t boredSpeedSel;
-  std::int32_t boredRepeatSel;
-  std::int32_t blinkSpeedSel;
-  std::int32_t secondNumber;  // read and kept, no effect
-  unsigned char charaSet[kCharaSetSize];
-};
 
 // Characters that walk over the screen, with the sound file in the folder
 // "\サウンド" that goes with the walk.
@@ -43,11 +27,10 @@ inline constexpr unsigned kWalkTrail = 1;  // each step leaves a copy of the win
 inline constexpr unsigned kWalkWipe = 2;   // the picture is revealed from the right
 inline constexpr unsigned kWalkShake = 4;  // each step jumps up or down by up to 49 pixels
 
-// Clock designs: the character whose frames they use, and the design record,
-// whose fields clock_calendar/clock.h names.
+// Clock designs: the character whose frames they use, and the design record.
 struct ClockDesignRow {
   std::uint16_t number;
-  unsigned char record[kClockDesignSize];
+  ClockDesignRecord record;
 };
 
 struct CharaTablesState {

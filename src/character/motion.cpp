@@ -6,9 +6,10 @@
 #include "character/frames.h"
 #include "character/selection_tables.h"
 #include "character/stage.h"
+#include "services/commands.h"
 #include "services/dialog_family.h"
+#include "services/panel_entry.h"
 #include "services/random.h"
-#include "shell/panel.h"
 
 MotionState Motion;
 
@@ -35,10 +36,6 @@ int CountFrames(const std::int32_t (&frames)[kBoredFrameCount]) {
 // Frame 0 is the idle frame and no blink; a frame with no picture is none either.
 bool BlinkIsUsable() {
   return Character.BlinkFrame != 0 && FramePicture(kStageRow, Character.BlinkFrame) != nullptr;
-}
-
-bool PanelIsClosed() {
-  return Panel.hDiskMenu == nullptr;
 }
 
 void GoIdle() {
@@ -169,7 +166,7 @@ int CharaMotionTick() {
     const Step step = StepMotion();
     if (step != Step::GoOn) return step == Step::Redraw ? 1 : 0;
   }
-  if (Motion.CharaMotion != kMotionMenu || !PanelIsClosed()) return 0;
+  if (Motion.CharaMotion != kMotionMenu || PanelIsOpen()) return 0;
   CharaMenuOff();
   return 1;
 }
@@ -200,4 +197,8 @@ void BoredTimerReset() {
 void BoredFramesCount() {
   Motion.BoredLen1 = CountFrames(Character.Bored1Frames);
   Motion.BoredLen2 = CountFrames(Character.Bored2Frames);
+}
+
+void CharaMotionStep() {
+  if (CharaMotionTick() != 0) CommandSend(Command::StageRedraw);
 }

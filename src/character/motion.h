@@ -5,6 +5,8 @@
 
 #include <cstdint>
 
+#include "services/tick_step.h"
+
 // States of CharaMotion.
 inline constexpr std::int32_t kMotionIdle = 0;
 inline constexpr std::int32_t kMotionBlink = 2;
@@ -47,3 +49,7 @@ void BoredTimerReset();
 
 // Counts the frames of both bored patterns, up to the first negative entry.
 void BoredFramesCount();
+
+// The character's step of the tick: a new frame sends command 2293.
+void CharaMotionStep();
+inline constexpr TickStep kMotionStep{CharaMotionStep, CharaMotionDue};

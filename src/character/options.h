@@ -4,6 +4,7 @@
 #include <cstdint>
 
 #include "platform/types.h"
+#include "services/tick_step.h"
 
 // --- OptionSelDlg1_2: the main character is chosen.
 
@@ -37,3 +38,13 @@ void AlarmCheckFrameStep();
 
 // Frees the pictures of all checks.
 void AlarmCheckFree();
+
+// --- Their steps of the tick.
+
+// The preview's window is painted when it has another frame.
+void MotionPreviewStep();
+int MotionPreviewDue();
+inline constexpr TickStep kMotionPreviewStep{MotionPreviewStep, MotionPreviewDue};
+
+int AlarmCheckDue();
+inline constexpr TickStep kAlarmCheckFrames{AlarmCheckFrameStep, AlarmCheckDue};

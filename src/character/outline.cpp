@@ -3,8 +3,7 @@
 #include <algorithm>
 
 #include "character/frames.h"
-#include "platform/file.h"
-#include "services/big_endian.h"
+#include "services/record_file.h"
 #include "services/screen_figures.h"
 
 // The file, big-endian:
@@ -14,35 +13,41 @@
 //     0     4     point count, at most 1024
 //     4     4 * n the points, x then y, unsigned 16-bit
 
+template <class Io>
+constexpr void Fields(Io& io, Point& point) {
+  io.BE16(point.x);
+  io.BE16(point.y);
+}
+static_assert(RecordSize<Point>() == 4);
+
 namespace {
 
 constexpr int kWalkerMargin = 4;  // of the dialog template
 
-int OpenDwc(int number) {
-  return number < 0 ? kNoFile : FileOpen(CharaDwcPath(number), OpenMode::Read);
+bool OpenDwc(DataFile& data, int number) {
+  data.file = number < 0 ? kNoFile : FileOpen(CharaDwcPath(number), OpenMode::Read);
+  return data.file != kNoFile;
 }
 
 // One frame, from where the file stands.
-int ReadFrame(int file, Outline* outline) {
+int ReadFrame(DataFile& data, Outline* outline) {
   outline->count = 0;
-  unsigned char raw[4 * kOutlinePointMax];
-  if (FileRead(file, raw, 4) != 4) return -2;
-  const std::uint32_t count = GetBE32(raw);
+  std::uint32_t count = 0;
+  if (!DataReadBE32(data, count)) return -2;
   if (count > kOutlinePointMax) return -2;  // bounded: more points than the table takes
-  const int wanted = static_cast<int>(4 * count);
-  const int got = FileRead(file, raw, wanted);
-  outline->count = std::max(got, 0) / 4;
-  for (int i = 0; i < outline->count; ++i) {
-    outline->points[i] = {GetBE16(raw + 4 * i), GetBE16(raw + 4 * i + 2)};
-  }
-  return got == wanted ? 0 : -3;
+  unsigned char image[RecordSize<Point>() * kOutlinePointMax];
+  const int size = RecordBytesRead(data, image, static_cast<int>(count) * RecordSize<Point>());
+  outline->count = size / RecordSize<Point>();
+  RecordReader io(image, size);
+  for (int i = 0; i < outline->count; ++i) io.Record(outline->points[i]);
+  return data.failed ? -3 : 0;
 }
 
 // The frames of an open file in turn, up to one that fails; their sizes are known only
 // from their counts.
-int ReadFrames(int file, int frames, Outline (&outlines)[kFrameMax]) {
+int ReadFrames(DataFile& data, int frames, Outline (&outlines)[kFrameMax]) {
   int result = 0;
-  for (int i = 0; result == 0 && i < frames; ++i) result = ReadFrame(file, &outlines[i]);
+  for (int i = 0; result == 0 && i < frames; ++i) result = ReadFrame(data, &outlines[i]);
   return result;
 }
 
@@ -50,25 +55,25 @@ int ReadFrames(int file, int frames, Outline (&outlines)[kFrameMax]) {
 
 int OutlineReadCounted(int number, Outline (&outlines)[kFrameMax], int* frameCount) {
   for (Outline& outline : outlines) outline.count = 0;
-  const int file = OpenDwc(number);
-  if (file == kNoFile) return -1;
-  unsigned char count = 0;
+  DataFile data;
+  if (!OpenDwc(data, number)) return -1;
+  std::uint8_t count = 0;
   int result = -2;
-  if (FileRead(file, &count, 1) == 1) {
+  if (DataReadByte(data, count)) {
     *frameCount = std::min<int>(count, kFrameMax);
-    if (count <= kFrameMax) result = ReadFrames(file, count, outlines);
+    if (count <= kFrameMax) result = ReadFrames(data, count, outlines);
   }
-  FileClose(file);
+  DataClose(data);
   return result;
 }
 
 int OutlineReadAll(int number, Outline (&outlines)[kFrameMax]) {
   for (Outline& outline : outlines) outline.count = 0;
-  const int file = OpenDwc(number);
-  if (file == kNoFile) return -1;
-  unsigned char ignored = 0;
-  const int result = FileRead(file, &ignored, 1) == 1 ? ReadFrames(file, kFrameMax, outlines) : -2;
-  FileClose(file);
+  DataFile data;
+  if (!OpenDwc(data, number)) return -1;
+  std::uint8_t ignored = 0;
+  const int result = DataReadByte(data, ignored) ? ReadFrames(data, kFrameMax, outlines) : -2;
+  DataClose(data);
   return result;
 }
 

@@ -25,7 +25,7 @@ constexpr int kSquare = 200;
 // The current main character's number minus 1; -1 when the list does not hold it,
 // or holds no character there.
 int StageCharaNumber() {
-  const int place = CharaSetNo(Character.CharaSet) - 1;
+  const int place = Character.CharaSet.CharaNo - 1;
   return place >= 0 && place < kMainCharaMax ? CharaTables.MainCharas[place].charaNo - 1 : -1;
 }
 
@@ -101,7 +101,7 @@ void ShapeStage() {
 int CharaLoadStage() {
   FramesFree(kStageRow);
   Stage.CharaFrame = 0;
-  if (CharaSetNo(Character.CharaSet) == 0) return 1;
+  if (Character.CharaSet.CharaNo == 0) return 1;
   const int number = StageCharaNumber();
   for (Outline& outline : Stage.StageOutlines) outline.count = 0;
   LoadIdleOutline(number);
@@ -133,11 +133,11 @@ void CharaTakeCurrent(int index) {
 
 bool CharaSelect(int index) {
   if (index < 0 || index >= kMainCharaMax) return false;
-  const int before = CharaSetNo(Character.CharaSet);
+  const int before = Character.CharaSet.CharaNo;
   Character.CharaIndex = index;
   CharaTakeCurrent(index);
-  for (int i = 0; i < kCharaSetSize; ++i) Character.CharaSet[i] = CharaTables.MainCharas[index].charaSet[i];
-  SetCharaSetNo(Character.CharaSet, index + 1);
+  Character.CharaSet = CharaTables.MainCharas[index].charaSet;
+  Character.CharaSet.CharaNo = static_cast<std::uint16_t>(index + 1);
   return before != index + 1;
 }
 

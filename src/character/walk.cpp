@@ -47,25 +47,26 @@ int MailSlot() {
 
 // The walk of the current character. -1: it has no walking row.
 int SlotSetUp(WalkSlot& s) {
-  if (WalkRow(Character.CharaSet) == 0) return -1;
+  if (Character.CharaSet.WalkRow[0] == 0) return -1;
   int x = 0;
   int y = 0;
-  WalkStartPlace(WalkStartPoint(Character.CharaSet), &x, &y);
-  SetWalkStart(Character.CharaSet, 0, x, y);
-  s.x = WalkStartX(Character.CharaSet);
-  s.y = WalkStartY(Character.CharaSet);
-  s.stepX = WalkStepX(Character.CharaSet);
-  s.stepY = WalkStepY(Character.CharaSet);
+  WalkStartPlace(Character.CharaSet.WalkStartPoint, &x, &y);
+  Character.CharaSet.WalkStartX[0] = static_cast<std::uint16_t>(x);
+  Character.CharaSet.WalkStartY[0] = static_cast<std::uint16_t>(y);
+  s.x = Character.CharaSet.WalkStartX[0];
+  s.y = Character.CharaSet.WalkStartY[0];
+  s.stepX = Character.CharaSet.WalkStepX[0];
+  s.stepY = Character.CharaSet.WalkStepY[0];
   s.WalkWait = 0;
-  s.WalkLeft = WalkCount(Character.CharaSet);
+  s.WalkLeft = Character.CharaSet.WalkCount[0];
   s.place = 0;
   for (int i = 0; i < kWalkListMax; ++i) {
-    s.frames[i] = WalkFrames(Character.CharaSet, 0, i);
-    s.endFrames[i] = EndFrames(Character.CharaSet, 0, i);
+    s.frames[i] = Character.CharaSet.WalkFrames[0][i];
+    s.endFrames[i] = Character.CharaSet.EndFrames[0][i];
   }
   s.frameCount = FramesInUse(s.frames);
   s.endFrameCount = FramesInUse(s.endFrames);
-  s.endWait = EndWait(Character.CharaSet);
+  s.endWait = Character.CharaSet.EndWait[0];
   return 0;
 }
 
@@ -160,7 +161,7 @@ void WalkTick(int slot) {
     return;
   }
   --s.WalkLeft;
-  s.WalkWait = WalkPeriod(Character.CharaSet);
+  s.WalkWait = Character.CharaSet.WalkPeriod[0];
   WalkStepOn(slot);
   WalkShow(slot);
 }
@@ -216,7 +217,7 @@ void WalkAbort() {
 }
 
 unsigned WalkFlagsNow() {
-  const int row = WalkRow(Character.CharaSet);
+  const int row = Character.CharaSet.WalkRow[0];
   return row >= 1 && row <= kWalkCharaMax ? CharaTables.WalkFlags[row - 1] : 0;  // bounded: rows end there
 }
 
@@ -238,4 +239,12 @@ void WalkForOpening() {
   if (WalkStartOpen() == 0) return;
   Walk.OpeningState = 0;
   CommandSend(Command::OpenLaunch);
+}
+
+int WalkDue() {
+  return TickDueIf(Walk.WalkActive);
+}
+
+int WalkEndDue() {
+  return TickDueIf(Walk.WalkEndActive);
 }

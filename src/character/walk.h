@@ -12,6 +12,7 @@
 #include "character/outline.h"
 #include "platform/types.h"
 #include "services/dib.h"
+#include "services/tick_step.h"
 
 inline constexpr int kWalkSlotMax = 50;
 inline constexpr int kWalkListMax = 5;  // frames of a walk, and of its end
@@ -92,3 +93,8 @@ RegionHandle WalkRegion(int frame);
 // A file is to be opened (command 2004): the walk goes first if there is one, else
 // command 2202 follows at once.
 void WalkForOpening();
+
+int WalkDue();
+int WalkEndDue();
+inline constexpr TickStep kWalkStep{WalkTickAll, WalkDue};
+inline constexpr TickStep kWalkEndStep{WalkEndTickAll, WalkEndDue};

@@ -21,6 +21,12 @@ PictureSize DesignSize(std::int32_t design) {
   return size;
 }
 
+// settled: with none chosen, as a new data set has it, the clock counts as large as the
+// first design, so that it has a place of its own once it is shown.
+std::int32_t DesignOrFirst() {
+  return Clock.ClockDesign == kClockNone ? 0 : Clock.ClockDesign;
+}
+
 // Pages are square; 0, 1 and 2 are the sizes of the settings.
 // kept: the first of them, which the list calls " 大", is the smallest.
 int PageWidth() {
@@ -32,7 +38,11 @@ constexpr int kBelowPage = 20;
 }  // namespace
 
 int ClockLayoutWidth() {
-  return DesignSize(Clock.ClockDesign).width;
+  return DesignSize(DesignOrFirst()).width;
+}
+
+int ClockPictureHeight() {
+  return DesignSize(DesignOrFirst()).height;
 }
 
 int ClockLayoutHeight() {

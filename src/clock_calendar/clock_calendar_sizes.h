@@ -2,10 +2,12 @@
 // desktop.
 #pragma once
 
-// In pixels, as the layout reckons: the width of the current design and the height
-// of the first one, of its character's first picture. 0 without one.
+// In pixels, of a design's character's first picture; 0 without one. The layout reckons
+// with the width of the current design and the height of the first one, and its image
+// shows the current one's own height. With none chosen the first is the current one.
 int ClockLayoutWidth();
 int ClockLayoutHeight();
+int ClockPictureHeight();
 
 // Of the calendar's window; of one that has not been open yet, by the page size.
 int CalenLayoutWidth();

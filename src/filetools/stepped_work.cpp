@@ -1,5 +1,6 @@
 #include "filetools/stepped_work.h"
 
+#include "services/commands.h"
 #include "services/state.h"
 
 SteppedState Stepped;
@@ -32,4 +33,13 @@ void SteppedEnd() {
 
 void SteppedReset() {
   StateReset(Stepped);
+}
+
+void SteppedWorkTick() {
+  if (Stepped.progressMode >= kStepDriveSearch && Stepped.progressMode <= kStepRestore)
+    CommandSendTo(Stepped.hSearchDlg, Command::WorkStep);
+}
+
+int SteppedWorkDue() {
+  return TickDueIf(Stepped.progressMode != kStepNone || Stepped.hSearchDlg);
 }

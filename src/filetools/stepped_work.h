@@ -5,6 +5,7 @@
 #include <cstdint>
 
 #include "platform/types.h"
+#include "services/tick_step.h"
 
 // Values of progressMode.
 enum SteppedWork { kStepNone, kStepDriveSearch, kStepFolderSearch, kStepDivide, kStepRestore };
@@ -35,3 +36,8 @@ void SteppedEnd();
 
 // Makes Stepped what it is in a fresh process.
 void SteppedReset();
+
+// The work's step of the tick: its dialog does the next piece.
+void SteppedWorkTick();
+int SteppedWorkDue();
+inline constexpr TickStep kSteppedWorkStep{SteppedWorkTick, SteppedWorkDue};

@@ -53,6 +53,12 @@ void WindowSetTopmost(WindowHandle window);
 void WindowInvalidate(WindowHandle window, bool erase);
 void WindowSetFocus(WindowHandle window);
 bool WindowHasFocus(WindowHandle window);
+
+// From now on the pointer's moves and buttons come to this window wherever the pointer
+// is, until PointerRelease; for dragging.
+void PointerCapture(WindowHandle window);
+void PointerRelease();
+
 void WindowSetText(WindowHandle window, const char* text);
 // Text of a window, terminated; returns its length.
 int WindowGetText(WindowHandle window, char* buffer, int size);

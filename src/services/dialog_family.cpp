@@ -93,6 +93,10 @@ int Run(Family<Number>& family, EventHandler proc, Number dialog, int templateId
 
 }  // namespace
 
+bool FamilyDialogIsUp() {
+  return Dialogs.hMenuDlg || Dialogs.hToolDlg || Dialogs.hSubDlg || Dialogs.hSnryDlg;
+}
+
 int MenuDialogRun(MenuDialog dialog, int templateId, WindowHandle owner, EventHandler handler,
                   void* context) {
   return Run(menuFamily, MenuDlgProc, dialog, templateId, owner, handler, context);

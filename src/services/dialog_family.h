@@ -18,6 +18,9 @@ struct DialogsState {
 };
 extern DialogsState Dialogs;
 
+// Whether a dialog of one of the families is up.
+bool FamilyDialogIsUp();
+
 // Runs a modal dialog of a family: sets the family's id, runs, and clears the
 // id. The handle is set at Init and cleared at the close. `handler` is asked
 // first about every event; what it leaves (returns false for) of button 1,

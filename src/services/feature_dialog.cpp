@@ -5,8 +5,7 @@
 #include "services/panel_entry.h"
 
 int FeatureDialogRun(Feature feature, int (*dialog)()) {
-  if (Dialogs.hMenuDlg || Dialogs.hToolDlg || Dialogs.hSubDlg || Dialogs.hSnryDlg || FileDialogIsUp())
-    return 0;
+  if (FamilyDialogIsUp() || FileDialogIsUp()) return 0;
   PanelEntryBegin(feature);
   const int result = dialog();
   PanelEntryDone();

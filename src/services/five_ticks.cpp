@@ -15,3 +15,7 @@ bool FiveTicksTick() {
   FiveTicks.FrameDivider = kPeriod;
   return true;
 }
+
+int FiveTicksDue() {
+  return FiveTicks.FrameDivider > 0 ? FiveTicks.FrameDivider : kTickNever;
+}

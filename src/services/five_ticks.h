@@ -3,6 +3,8 @@
 
 #include <cstdint>
 
+#include "services/tick_step.h"
+
 struct FiveTicksState {
   std::int32_t FrameDivider = 0;  // ticks until the next step; 0 is off
 };
@@ -13,3 +15,6 @@ void FiveTicksStart(std::int32_t first);
 
 // One tick. True when the step is due.
 bool FiveTicksTick();
+
+// In how many ticks the step is due; kTickNever while it is off.
+int FiveTicksDue();

@@ -2,7 +2,7 @@
 // do their work on lower floors.
 #pragma once
 
-#include "services/feature_dialog.h"
+#include "services/feature_numbers.h"
 
 // An entry's work begins: the panel on show closes, the feature is the active one.
 void PanelEntryBegin(Feature feature);
@@ -15,6 +15,9 @@ void PanelLeave();
 
 // A dialog of the panel's family ends: the panel may open again.
 void PanelStateClear();
+
+// Whether the panel is on show.
+bool PanelIsOpen();
 
 // The active feature.
 Feature PanelFeature();

@@ -163,13 +163,14 @@ void End(WindowHandle panel) {
   DialogEnd(panel, 0);
 }
 
-// The user leaves the panel without a choice.
+void Leave() {
+  Panel.MenuPanelState = 0;
+  Panel.FuncNo = 0;
+  Panel.MenuReopenGuard = 0;
+}
+
 void Dismiss(WindowHandle panel) {
-  if (Panel.MenuPanelState != 0) {
-    Panel.MenuPanelState = 0;
-    Panel.FuncNo = 0;
-    Panel.MenuReopenGuard = 0;
-  }
+  if (Panel.MenuPanelState != 0) Leave();
   End(panel);
 }
 
@@ -258,7 +259,7 @@ constexpr SubPanel kSubPanels[] = {
 };
 
 void RunSubPanel(const SubPanel& sub) {
-  SendClose(Panel.hDiskMenu);
+  PanelWindowClose();
   Panel.FuncNo = static_cast<std::int32_t>(sub.feature);
   if (sub.state != kStateStays) Panel.MenuPanelState = sub.state;
   DialogRun(IDD_DspDiskMenu, Program.hMainWnd, PanelProc);
@@ -277,8 +278,22 @@ void CommandPanelLevel(Command command) {
   }
 }
 
-void PanelEntryBegin(Feature feature) {
+void PanelWindowClose() {
   SendClose(Panel.hDiskMenu);
+}
+
+void PanelDismiss() {
+  if (Panel.MenuPanelState == 0) return;
+  Leave();
+  PanelWindowClose();
+}
+
+bool PanelIsOpen() {
+  return Panel.hDiskMenu != nullptr;
+}
+
+void PanelEntryBegin(Feature feature) {
+  PanelWindowClose();
   Panel.FuncNo = static_cast<std::int32_t>(feature);
 }
 
@@ -288,7 +303,7 @@ void PanelEntryDone() {
 }
 
 void PanelLeave() {
-  SendClose(Panel.hDiskMenu);
+  PanelWindowClose();
   Panel.MenuPanelState = 0;
 }
 

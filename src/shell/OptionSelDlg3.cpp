@@ -30,8 +30,6 @@ constexpr int kLabelInset = 4;
 
 constexpr const char* kLabels[kLayoutItemCount] = {"サ", "時", "カ"};
 
-Point dragFrom;
-
 // The buttons under the image, in dialog units of the template.
 struct Button {
   int id;
@@ -92,20 +90,23 @@ void DragBegin(const Event& event) {
   if (item < 0) return;
   std::fill_n(Layout.LayoutDrag, +kLayoutItemCount, false);
   Layout.LayoutDrag[item] = true;
-  dragFrom = {event.x, event.y};
+  // The pointer may leave the dialog on its way.
+  PointerCapture(event.window);
+  Layout.dragFrom = {event.x, event.y};
 }
 
 void DragOn(const Event& event) {
   for (int item = 0; item < kLayoutItemCount; ++item) {
     if (!Layout.LayoutDrag[item]) continue;
-    Layout.LayoutPos[item].x += event.x - dragFrom.x;
-    Layout.LayoutPos[item].y += event.y - dragFrom.y;
-    dragFrom = {event.x, event.y};
+    Layout.LayoutPos[item].x += event.x - Layout.dragFrom.x;
+    Layout.LayoutPos[item].y += event.y - Layout.dragFrom.y;
+    Layout.dragFrom = {event.x, event.y};
     Paint(event.window);
   }
 }
 
 void DragEnd() {
+  PointerRelease();
   std::fill_n(Layout.LayoutDrag, +kLayoutItemCount, false);
 }
 

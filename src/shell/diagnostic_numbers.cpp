@@ -7,6 +7,7 @@
 #include "mail_music/mail/mail.h"
 #include "platform/diagnostics.h"
 #include "services/five_ticks.h"
+#include "shell/file_watch.h"
 #include "shell/panel.h"
 #include "shell/tick.h"
 
@@ -17,7 +18,7 @@ void DiagnosticsShowAll() {
   DiagnosticsShow(kShowStageRedraw, &Stage.StageRedraw);
   DiagnosticsShow(kShowMenuPanelState, &Panel.MenuPanelState);
   DiagnosticsShow(kShowMenuCloseCount, &Panel.MenuCloseCount);
-  DiagnosticsShow(kShowFileWatchCount, &TickCounts.FileWatchCount);
+  DiagnosticsShow(kShowFileWatchCount, &Watch.FileWatchCount);
   DiagnosticsShow(kShowOpeningState, &Walk.OpeningState);
   DiagnosticsShow(kShowFrameDivider, &FiveTicks.FrameDivider);
   DiagnosticsShow(kShowMailPhase, &Mail.MailPhase);

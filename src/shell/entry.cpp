@@ -1,12 +1,12 @@
-#include "shell/entry.h"
+// The process entry: the main window, and the message loop.
+#include "platform/entry.h"
 
 #include "platform/dialog.h"
 #include "platform/window.h"
 #include "resources/program_ids.h"
 #include "services/text.h"
+#include "shell/command_line.h"
 #include "shell/main_window.h"
-
-EntryState Entry;
 
 int ProcessEntry(const char* commandLine, int showMode) {
   char title[100];
@@ -17,11 +17,6 @@ int ProcessEntry(const char* commandLine, int showMode) {
   const WindowHandle window = MainWindowCreate(mainClass, 500, 300, 120, 160);
   if (!window) return 0;
   WindowShowFirst(window, showMode);
-  TextFormat(Entry.PendingCommandLine, sizeof Entry.PendingCommandLine, "%s", commandLine);
+  CommandLineKeep(commandLine);
   return MessageLoop(window, IDR_MAIN);
-}
-
-void CommandLineTake() {
-  TextCopy(Entry.CommandLine, sizeof Entry.CommandLine, Entry.PendingCommandLine);
-  Entry.PendingCommandLine[0] = '\0';
 }

@@ -2,6 +2,7 @@
 #include <cstring>
 #include <iterator>
 
+#include "character/chara_set.h"
 #include "character/character.h"
 #include "character/character_tables.h"
 #include "character/notice_window.h"
@@ -29,9 +30,9 @@ constexpr const char* kWalkSounds[] = {"旗印.wav", "foot1.wav", "foot2.wav", "
 // hands that fit it. The last one is a display that letters shine in.
 constexpr int kFirstClockNumber = 15;
 struct FactoryDesign {
-  int hand;
-  int hourLength;
-  int minuteLength;
+  std::uint8_t hand;
+  std::uint16_t hourLength;
+  std::uint16_t minuteLength;
   Point centre;
   unsigned char handColour[3];
   unsigned char faceColour[3];
@@ -57,22 +58,25 @@ void SetCharacters() {
   std::memcpy(CharaTables.AlarmCharas, kAlarmNumbers, sizeof kAlarmNumbers);
   std::memcpy(Character.AlarmCharaSel, kAlarmSelections, sizeof kAlarmSelections);
 
-  std::memset(Character.CharaSet, 0, kCharaSetSize);
-  SetCharaSetNo(Character.CharaSet, Character.CharaIndex + 1);
-  Character.CharaSet[kCharaSetMotionE] = 5;
-  SetWalkRow(Character.CharaSet, 0, 1);
-  SetWalkUse(Character.CharaSet, 0, kWalkUseOpen | kWalkUseMail);
+  CharaSetRecord& set = Character.CharaSet;
+  set = CharaSetRecord{};
+  set.CharaNo = static_cast<std::uint16_t>(Character.CharaIndex + 1);
+  set.MotionE[0] = 5;
+  set.WalkRow[0] = 1;
+  set.WalkUse[0] = kWalkUseOpen | kWalkUseMail;
   int x = 0;
   int y = 0;
-  WalkStartPlace(WalkStartPoint(Character.CharaSet), &x, &y);
-  SetWalkStart(Character.CharaSet, 0, x, y);
-  SetWalkStep(Character.CharaSet, 0, -14, -12);
-  SetWalkPeriod(Character.CharaSet, 0, 3);
-  SetWalkCount(Character.CharaSet, 0, 49);
-  SetEndWait(Character.CharaSet, 0, 30);
-  SetWalkFrames(Character.CharaSet, 0, 0, 1);
-  SetWalkFrames(Character.CharaSet, 0, 1, 2);
-  SetEndFrames(Character.CharaSet, 0, 0, 3);
+  WalkStartPlace(set.WalkStartPoint, &x, &y);
+  set.WalkStartX[0] = static_cast<std::uint16_t>(x);
+  set.WalkStartY[0] = static_cast<std::uint16_t>(y);
+  set.WalkStepX[0] = -14;
+  set.WalkStepY[0] = -12;
+  set.WalkPeriod[0] = 3;
+  set.WalkCount[0] = 49;
+  set.EndWait[0] = 30;
+  set.WalkFrames[0][0] = 1;
+  set.WalkFrames[0][1] = 2;
+  set.EndFrames[0][0] = 3;
 
   CharaTables.WalkCharaCount = static_cast<std::int32_t>(std::size(kWalkSounds));
   for (int i = 0; i < CharaTables.WalkCharaCount; ++i) {
@@ -82,31 +86,30 @@ void SetCharacters() {
   }
 }
 
+void SetDesign(ClockDesignRecord& record, const FactoryDesign& design) {
+  record.hand = design.hand;
+  record.repeat = 1;
+  record.strikeMode = kStrikeEveryHour;
+  record.soundOn = 1;
+  record.hourLength = design.hourLength;
+  record.minuteLength = design.minuteLength;
+  record.centreX = static_cast<std::int16_t>(design.centre.x);
+  record.centreY = static_cast<std::int16_t>(design.centre.y);
+  std::memcpy(record.handColour, design.handColour, sizeof record.handColour);
+  std::memcpy(record.faceColour, design.faceColour, sizeof record.faceColour);
+  for (int step = 0; step < kStrikeSteps; ++step) {
+    record.strikeDelay[step] = kStrikeTicks;
+    for (auto& hour : record.hourFigures) hour[step] = static_cast<std::uint8_t>(kFirstStrikeFrame + step);
+  }
+  TextCopy(record.sound, kDesignSoundSize, design.sound);
+}
+
 void SetClock() {
   CharaTables.ClockDesignCount = static_cast<std::int32_t>(std::size(kDesigns));
-  for (ClockDesignRow& row : CharaTables.ClockDesigns) std::memset(row.record, 0, sizeof row.record);
+  for (ClockDesignRow& row : CharaTables.ClockDesigns) row.record = ClockDesignRecord{};
   for (int i = 0; i < CharaTables.ClockDesignCount; ++i) {
-    const FactoryDesign& design = kDesigns[i];
-    ClockDesignFields fields{};
-    fields.hand = design.hand;
-    fields.repeat = true;
-    fields.strikeMode = kStrikeEveryHour;
-    fields.soundOn = true;
-    fields.hourLength = design.hourLength;
-    fields.minuteLength = design.minuteLength;
-    fields.centreX = design.centre.x;
-    fields.centreY = design.centre.y;
-    std::memcpy(fields.handColour, design.handColour, sizeof fields.handColour);
-    std::memcpy(fields.faceColour, design.faceColour, sizeof fields.faceColour);
-    for (int step = 0; step < kStrikeSteps; ++step) {
-      fields.strikeDelay[step] = kStrikeTicks;
-      for (unsigned char(&hour)[kStrikeSteps] : fields.hourFigures) {
-        hour[step] = static_cast<unsigned char>(kFirstStrikeFrame + step);
-      }
-    }
-    TextCopy(fields.sound, sizeof fields.sound, design.sound);
     CharaTables.ClockDesigns[i].number = static_cast<std::uint16_t>(kFirstClockNumber + i);
-    ClockDesignPut(CharaTables.ClockDesigns[i].record, fields);
+    SetDesign(CharaTables.ClockDesigns[i].record, kDesigns[i]);
   }
   Clock.ClockDesign = kClockNone;
   Clock.ClockWanted = 0;

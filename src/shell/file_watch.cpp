@@ -1,7 +1,8 @@
 #include "shell/file_watch.h"
 
+#include <algorithm>
 #include <cstdint>
-#include <cstring>
+#include <iterator>
 
 #include "character/alarm_images.h"
 #include "character/character.h"
@@ -19,19 +20,13 @@
 #include "services/program.h"
 #include "shell/settings.h"
 
+FileWatchState Watch;
+
 namespace {
 
 constexpr const char* kNames[] = {"\\mirrell_calen_file.dcd", "\\mirrell_chara_file.dcx",
                                   "\\mirrell_ClcAlmPerFile.clc"};
-std::uint64_t stamps[3];
-
-// Flags of the watch: set by a change, cleared by what answers it. They are
-// process-wide because answering sends commands, inside which a tick may come by.
-bool calendarReload;
-bool calendarTell;  // the schedule program must be told
-bool clockRestart;
-bool alarmReload;
-bool characterReload;
+constexpr std::int32_t kWatchTicks = 201;
 
 bool StampRead(WatchedFile file, std::uint64_t* stamp) {
   char path[kRootSize + 64];
@@ -43,7 +38,7 @@ bool StampRead(WatchedFile file, std::uint64_t* stamp) {
 // is stored. It is the one from before the file is read, so that what is written
 // meanwhile is a change of its own.
 bool ChangeTake(WatchedFile file) {
-  std::uint64_t& stored = stamps[static_cast<int>(file)];
+  std::uint64_t& stored = Watch.stamps[static_cast<int>(file)];
   std::uint64_t stamp = stored;
   StampRead(file, &stamp);
   if (stamp == stored) return false;
@@ -51,18 +46,14 @@ bool ChangeTake(WatchedFile file) {
   return true;
 }
 
-// What the schedule program knows of the selected calendar.
-unsigned char calendarBefore[kDefinitionSize];
-unsigned char monthsBefore[kMonthsOfYear * kMonthBlockSize];
-
 void CalendarSnapshotTake() {
-  std::memcpy(calendarBefore, CalenDefinition(), sizeof calendarBefore);
-  std::memcpy(monthsBefore, Calendar.CalenSheets[CalenSelected()], sizeof monthsBefore);
+  Watch.calendarBefore = CalenSelectedDefinition();
+  std::copy_n(Calendar.CalenSheets[CalenSelected()], kMonthsOfYear, Watch.monthsBefore);
 }
 
 bool CalendarSnapshotDiffers() {
-  return std::memcmp(calendarBefore, CalenDefinition(), sizeof calendarBefore) != 0 ||
-         std::memcmp(monthsBefore, Calendar.CalenSheets[CalenSelected()], sizeof monthsBefore) != 0;
+  return Watch.calendarBefore != CalenSelectedDefinition() ||
+         !std::equal(std::begin(Watch.monthsBefore), std::end(Watch.monthsBefore), Calendar.CalenSheets[CalenSelected()]);
 }
 
 void CalendarLook() {
@@ -72,19 +63,19 @@ void CalendarLook() {
     return;
   CalendarSnapshotTake();
   CalenFileRead();
-  calendarReload = true;
-  clockRestart = true;
-  calendarTell = CalendarSnapshotDiffers();
+  Watch.calendarReload = true;
+  Watch.clockRestart = true;
+  Watch.calendarTell = CalendarSnapshotDiffers();
 }
 
 void CalendarAnswer() {
-  if (!calendarReload) return;
-  calendarReload = false;
+  if (!Watch.calendarReload) return;
+  Watch.calendarReload = false;
   CommandSend(Command::CalendarYears);
   SendClose(Calendar.hCalenWnd);
   if (Calendar.CalenShow) CommandSend(Command::CalendarOpen);
-  if (calendarTell) {
-    calendarTell = false;
+  if (Watch.calendarTell) {
+    Watch.calendarTell = false;
     CommandSend(Command::CalendarChanged);
   }
 }
@@ -95,21 +86,21 @@ void CharacterLook() {
       !ChangeTake(WatchedFile::CharacterFile))
     return;
   CharaFileRead();
-  alarmReload = true;
-  characterReload = true;
-  clockRestart = true;
+  Watch.alarmReload = true;
+  Watch.characterReload = true;
+  Watch.clockRestart = true;
 }
 
 void AlarmAnswer() {
-  if (!alarmReload) return;
-  alarmReload = false;
+  if (!Watch.alarmReload) return;
+  Watch.alarmReload = false;
   AlarmCharaLoad();
   SysFileWrite();
 }
 
 void CharacterAnswer() {
-  if (!characterReload) return;
-  characterReload = false;
+  if (!Watch.characterReload) return;
+  Watch.characterReload = false;
   OptionPreviewsFree();
   if (CharaSelect(Character.CharaIndex)) OpnHisTakeWalkSettings();
   Stage.StageRedraw = kRedrawReload;
@@ -117,8 +108,8 @@ void CharacterAnswer() {
 }
 
 void ClockAnswer() {
-  if (!clockRestart) return;
-  clockRestart = false;
+  if (!Watch.clockRestart) return;
+  Watch.clockRestart = false;
   CommandSend(Command::ClockOpen);
 }
 
@@ -129,7 +120,7 @@ void ClockAlarmLook() {
 }  // namespace
 
 void FileWatchStampTake(WatchedFile file) {
-  StampRead(file, &stamps[static_cast<int>(file)]);
+  StampRead(file, &Watch.stamps[static_cast<int>(file)]);
 }
 
 void FileWatch() {
@@ -139,4 +130,14 @@ void FileWatch() {
     if (Program.Quitting) return;  // a box of an answer may have been up at the end of the program
     step();
   }
+}
+
+void FileWatchTick() {
+  if (++Watch.FileWatchCount < kWatchTicks) return;
+  Watch.FileWatchCount = 0;
+  FileWatch();
+}
+
+int FileWatchDue() {
+  return kWatchTicks - Watch.FileWatchCount;
 }

@@ -5,13 +5,13 @@
 #include "schedule/applications/application_list.h"
 #include "services/commands.h"
 #include "services/program.h"
-#include "shell/entry.h"
+#include "shell/command_line.h"
 #include "shell/layout.h"
 #include "shell/settings.h"
 #include "shell/shell_commands.h"
 
 void CommandFirstRun(Command) {
-  if (std::memcmp(Entry.CommandLine, "_1_", 3) != 0) return;
+  if (std::memcmp(ProgramLine.CommandLine, "_1_", 3) != 0) return;
   LayoutDefault();
   Layout.LayoutChange = kLayoutAll;
   char program[600];

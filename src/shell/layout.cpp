@@ -54,7 +54,7 @@ void LayoutTake() {
   Layout.LayoutDiv = DivFor(Screen.ScreenWidth, Screen.ScreenHeight);
   Layout.LayoutScreen = {Screen.ScreenWidth / Layout.LayoutDiv, Screen.ScreenHeight / Layout.LayoutDiv};
   const LayoutExtent sizes[kLayoutItemCount] = {{Stage.StageWidth, Stage.StageHeight},
-                                                {ClockLayoutWidth(), ClockLayoutHeight()},
+                                                {ClockLayoutWidth(), ClockPictureHeight()},
                                                 {CalenLayoutWidth(), CalenLayoutHeight()}};
   for (int item = 0; item < kLayoutItemCount; ++item) {
     Layout.LayoutPos[item] = {*kPlaces[item].x / Layout.LayoutDiv, *kPlaces[item].y / Layout.LayoutDiv};

@@ -28,6 +28,7 @@ struct LayoutState {
   LayoutExtent LayoutSize[kLayoutItemCount] = {};
   LayoutExtent LayoutScreen = {};
   bool LayoutDrag[kLayoutItemCount] = {};  // at most one is set
+  Point dragFrom = {};                     // where the pointer was last
 };
 extern LayoutState Layout;
 

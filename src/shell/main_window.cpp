@@ -48,12 +48,9 @@ void Close(const Event&) {
 }
 
 void Char(const Event& event) {
-  if (event.key != kEscape || Panel.MenuPanelState == 0) return;
-  Panel.MenuPanelState = 0;
-  Panel.FuncNo = 0;
-  Panel.MenuReopenGuard = 0;
-  // kept: the stage may have the keyboard while its panel is open, and closes it too.
-  SendClose(Panel.hDiskMenu);
+  // settled: the stage may have the keyboard while its panel is open; Escape then closes
+  // the panel's window too, which would hear nothing more.
+  if (event.key == kEscape) PanelDismiss();
 }
 
 void Nothing(const Event&) {}

@@ -5,6 +5,7 @@
 #include <cstdint>
 
 #include "platform/event.h"
+#include "services/tick_step.h"
 
 inline constexpr std::int32_t kMenuInside = -1;  // MenuCloseCount: the pointer has been inside
 inline constexpr std::int32_t kFuncMail = 11;    // FuncNo of the mail notice's settings
@@ -18,7 +19,7 @@ struct PanelState {
   std::int32_t MenuCloseCount = 0;  // from 40 down while the pointer is outside the panel; -1: inside it once
   std::int32_t MenuReopenGuard = 0;  // from 40 down; blocks opening the panel again
 };
-extern PanelState Panel;
+extern PanelState Panel;  // written by the panel's own files
 
 // Values of MenuPanelState that stand for a level on show. Others are an entry in
 // work, 0 is no panel.
@@ -32,3 +33,25 @@ inline constexpr std::int32_t kPanelOptions = 8;
 // The pointer moved on the stage: opens the panel at its top level and returns
 // when it has closed, or keeps the open one from timing out.
 void PanelPointerOnStage(const Event& event);
+
+// The panel's window closes, with its state as it is.
+void PanelWindowClose();
+
+// The user leaves the panel without a choice: nothing is active any more, and the
+// panel may open again at once. Nothing when there is no panel.
+void PanelDismiss();
+
+// --- The panel's steps of the tick.
+
+// The guard against opening again counts down.
+void PanelGuardTick();
+int PanelGuardDue();
+inline constexpr TickStep kPanelGuardStep{PanelGuardTick, PanelGuardDue};
+
+// At its top level the panel closes by count as long as the pointer has not been
+// inside, and then as soon as the pointer is outside.
+void PanelCountTick();
+void PanelPointerTick();
+int PanelDue();
+inline constexpr TickStep kPanelCountStep{PanelCountTick, PanelDue};
+inline constexpr TickStep kPanelPointerStep{PanelPointerTick, PanelDue};

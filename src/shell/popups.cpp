@@ -1,7 +1,5 @@
 #include "shell/popups.h"
 
-#include <initializer_list>
-
 #include "clock_calendar/calendar/calendar.h"
 #include "clock_calendar/clock/clock.h"
 #include "filetools/back_up/back_up.h"
@@ -14,8 +12,8 @@
 #include "services/commands.h"
 #include "services/dialog_family.h"
 #include "services/file_picker.h"
+#include "services/panel_entry.h"
 #include "services/program.h"
-#include "shell/panel.h"
 #include "shell/shell_commands.h"
 
 PopupsState Popups;
@@ -34,12 +32,8 @@ bool Popup(int menuId, WindowHandle window) {
 }  // namespace
 
 bool PopupMayOpen() {
-  for (const WindowHandle open :
-       {Panel.hDiskMenu, Dialogs.hMenuDlg, Dialogs.hToolDlg, Dialogs.hSubDlg, Dialogs.hSnryDlg,
-        BackUpRun.hBackUpDlg, Stepped.hSearchDlg, Picker.hFilePickDlg}) {
-    if (open) return false;
-  }
-  return true;
+  return !PanelIsOpen() && !FamilyDialogIsUp() && !BackUpRun.hBackUpDlg && !Stepped.hSearchDlg &&
+         !Picker.hFilePickDlg;
 }
 
 void CommandSchedulePopup(Command) {

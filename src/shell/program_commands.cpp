@@ -5,6 +5,7 @@
 #include "platform/window.h"
 #include "schedule/applications/application_list.h"
 #include "services/commands.h"
+#include "services/panel_entry.h"
 #include "services/program.h"
 #include "services/sibling.h"
 #include "shell/panel.h"
@@ -15,13 +16,13 @@ void CommandCloseProgram(Command) {
 }
 
 void CommandExit(Command) {
-  SendClose(Panel.hDiskMenu);
+  PanelWindowClose();
   const BoxAnswer answer = MessageBoxRun(Program.hMainWnd, "プログラムを終了します。", "プログラム終了",
                                          BoxButtons::OkCancel, BoxIcon::Question);
   if (answer == BoxAnswer::Ok) {
     SendClose(Program.hMainWnd);
   } else {
-    Panel.MenuPanelState = 0;
+    PanelStateClear();
   }
 }
 

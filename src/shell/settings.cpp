@@ -64,6 +64,7 @@
 #include "schedule/model/schedule.h"
 #include "services/data_file.h"
 #include "services/program.h"
+#include "services/record_file.h"
 
 namespace {
 
@@ -74,6 +75,7 @@ enum class Kind {
   Byte,    // the low byte of an std::int32_t; read back as 0 to 255
   Block,   // bytes as they stand
   Text,    // the same, terminated after the reading
+  Record,  // records, which tell themselves how they lie in the file
   Clock,   // nothing in the file: here the clock's design is activated
 };
 
@@ -83,6 +85,9 @@ struct Field {
   void* at;
   int size;
   int count;
+  bool (*read)(DataFile& data, void* record) = nullptr;
+  bool (*write)(DataFile& data, const void* record) = nullptr;
+  int step = 0;  // bytes from a record to the next in memory
 };
 
 constexpr int kNumberSize = 4;
@@ -98,6 +103,17 @@ constexpr Field Block(void* at, int size, int count = 1) {
 }
 constexpr Field Text(void* at, int size, int count = 1) {
   return {Kind::Text, at, size, count};
+}
+template <class T>
+constexpr Field Records(T* at, int count) {
+  return {
+      Kind::Record,
+      at,
+      RecordSize<T>(),
+      count,
+      [](DataFile& data, void* record) { return RecordRead(data, *static_cast<T*>(record)); },
+      [](DataFile& data, const void* record) { return RecordWrite(data, *static_cast<const T*>(record)); },
+      sizeof(T)};
 }
 // kept: in the middle of every save and load the clock takes its design afresh.
 constexpr Field ActivateClock() {
@@ -116,7 +132,7 @@ constexpr Field kFields[] = {
     Number(&Character.StageX),
     Number(&Character.StageY),
     Number(Character.AlarmCharaSel, kAlarmRowCount),
-    Block(Character.CharaSet, kCharaSetSize),
+    Records(&Character.CharaSet, 1),
     Number(&Clock.ClockStrikeMode),
     Number(&Clock.ClockStrikeSel),
     Number(&Clock.ClockSoundOn),
@@ -138,7 +154,7 @@ constexpr Field kFields[] = {
     Number(&Calendar.CalenYearCount),
     Number(&Calendar.CalenCount),
     Number(&Calendar.CalenKind),
-    Block(Calendar.CalenMonths, kMonthBlockSize, kCalenYearMax* kMonthsOfYear),
+    Records(Calendar.CalenMonths[0], kCalenYearMax* kMonthsOfYear),
     Number(&Calendar.CalenX),
     Number(&Calendar.CalenY),
     Number(&Calendar.CalenPageSize),
@@ -155,8 +171,8 @@ constexpr Field kFields[] = {
     Number(Calendar.CalenFigTurn, kFigureCount),
     Block(Calendar.CalenFigDir, kFigureCopies, kFigureCount),
     Text(Schedule.DefaultSclName, kSclPathSize),
-    Block(Calendar.CalenMonthFlags, kMonthFlagsSize, kCalenYearMax* kMonthsOfYear),
-    Block(Clock.ClockEvents, kAlarmSlotSize, kAlarmSlotCount),
+    Records(Calendar.CalenMonthFlags[0], kCalenYearMax* kMonthsOfYear),
+    Records(Clock.ClockEvents, kAlarmSlotCount),
     Number(&Character.BlinkSpeedSel),  // older files end before it
 };
 
@@ -186,6 +202,9 @@ void ReadElement(DataFile& data, const Field& field, int index) {
       if (field.kind == Kind::Text) element[field.size - 1] = '\0';
       break;
     }
+    case Kind::Record:
+      field.read(data, static_cast<char*>(field.at) + field.step * index);
+      break;
     case Kind::Clock:
       break;
   }
@@ -202,6 +221,9 @@ void WriteElement(DataFile& data, const Field& field, int index) {
     case Kind::Block:
     case Kind::Text:
       DataWrite(data, static_cast<const char*>(field.at) + field.size * index, field.size);
+      break;
+    case Kind::Record:
+      field.write(data, static_cast<const char*>(field.at) + field.step * index);
       break;
     case Kind::Clock:
       break;

@@ -9,6 +9,7 @@
 #include "clock_calendar/clock_calendar_tick.h"
 #include "filetools/tidy/desktop_tidy.h"
 #include "mail_music/mail/mail.h"
+#include "mail_music/music/music.h"
 #include "platform/file.h"
 #include "platform/memory.h"
 #include "platform/screen.h"
@@ -64,6 +65,7 @@ void StartSequence(WindowHandle window) {
   TextFiguresTake(window);
   DrawingObjectsCreate();
   SclTablesClear();
+  MusicReset();
   WorkBlocks.CastBlock = static_cast<unsigned char*>(MemoryAllocate(kCastBlockSize));
   WorkBlocks.ScopeBlock = static_cast<unsigned char*>(MemoryAllocate(kScopeBlockSize));
   RandomSeed(1);

@@ -2,14 +2,8 @@
 #pragma once
 
 #include "platform/types.h"
-#include "services/drawing_objects.h"
 
 // Brings the program up around its main window, in the fixed order. Reading
 // failures of data files are silent; without the settings file the sequence ends
 // early: no alarm images, no clock, no calendar.
 void StartSequence(WindowHandle window);
-
-// Makes the shared brushes and pens, in order; the opposite of
-// DrawingObjectsDelete.
-void DrawingObjectsCreate();
-void DrawingObjectsDelete();

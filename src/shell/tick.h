@@ -3,14 +3,9 @@
 
 #include <cstdint>
 
-// Milliseconds between two ticks, and the timer's number.
-inline constexpr int kTickMilliseconds = 30;
-inline constexpr int kTickTimer = 1;
-
 struct TickCountsState {
   // Ticks since the start, nested ones too.
   std::int32_t TickCount = 0;
-  std::int32_t FileWatchCount = 0;  // up to 201
 };
 extern TickCountsState TickCounts;
 
@@ -21,5 +16,5 @@ extern TickCountsState TickCounts;
 void MainTick();
 
 // How many ticks from now the first one falls that has more to do than to count: 1
-// when the very next one may. Only counts are looked at, no clock and no file.
+// when the very next one may. What the steps count says so, and the machine's clock.
 int TicksUntilDue();

@@ -1,103 +1,81 @@
 #include "shell/tick_timer.h"
 
 #include <algorithm>
-#include <cstdint>
-#include <initializer_list>
 
-#include "clock_calendar/calendar/calendar.h"
-#include "clock_calendar/clock/clock.h"
-#include "clock_calendar/clock/clock_notice.h"
-#include "filetools/back_up/back_up.h"
-#include "filetools/stepped_work.h"
-#include "mail_music/mail/mail.h"
 #include "mail_music/music/music.h"
 #include "platform/time.h"
 #include "platform/window.h"
-#include "schedule/execution/scl_notice.h"
-#include "schedule/table/table_scroll.h"
 #include "services/dialog_family.h"
 #include "services/file_picker.h"
 #include "services/program.h"
-#include "shell/panel.h"
+#include "services/tick_step.h"
 #include "shell/tick.h"
+
+TickTimerState TickTimer;
 
 namespace {
 
 // A timer that fires a little early has still fired for its last tick.
 constexpr std::uint64_t kEarly = 20;
 
-bool running;
-bool resting;
-int ticksOfPeriod = 1;
-std::uint64_t periodBegan;  // TimeMilliseconds
-int ticksOwed;              // ticks that have passed and are still to run
-
 void PeriodSet(int ticks) {
-  periodBegan = TimeMilliseconds();
-  if (ticks == ticksOfPeriod) return;
-  ticksOfPeriod = ticks;
+  TickTimer.periodBegan = TimeMilliseconds();
+  if (ticks == TickTimer.ticksOfPeriod) return;
+  TickTimer.ticksOfPeriod = ticks;
   TimerPeriodSet(Program.hMainWnd, kTickTimer, ticks * kTickMilliseconds);
 }
 
-// Ends the rest, if there is one. Returns the ticks that have passed in it.
+// Ends the rest, if there is one: from here on the timer fires for every tick, in the
+// loops too that one of the ticks may open. Returns the ticks that have passed in it.
 int RestEnd() {
-  if (!resting) return 0;
-  resting = false;
-  const auto passed = static_cast<int>((TimeMilliseconds() - periodBegan + kEarly) / kTickMilliseconds);
-  return std::min(passed, ticksOfPeriod);
+  if (!TickTimer.resting) return 0;
+  TickTimer.resting = false;
+  const auto passed =
+      static_cast<int>((TimeMilliseconds() - TickTimer.periodBegan + kEarly) / kTickMilliseconds);
+  const int ticks = std::min(passed, TickTimer.ticksOfPeriod);
+  PeriodSet(1);
+  return ticks;
 }
 
 // A tick may open a modal window, and the timer then fires nested: what is still
 // owed is shared with the nested ticks, so that each runs once.
 void Run(int ticks) {
-  ticksOwed += ticks;
-  while (ticksOwed > 0) {
-    --ticksOwed;
+  TickTimer.ticksOwed += ticks;
+  while (TickTimer.ticksOwed > 0) {
+    --TickTimer.ticksOwed;
     MainTick();
   }
 }
 
-// With any window but the stage open, its handlers may change at any time what a
-// tick has to do.
-bool OnlyTheStageIsOpen() {
-  for (const WindowHandle open :
-       {Panel.hDiskMenu, Dialogs.hMenuDlg, Dialogs.hToolDlg, Dialogs.hSubDlg, Dialogs.hSnryDlg,
-        Picker.hFilePickDlg, BackUpRun.hBackUpDlg, Stepped.hSearchDlg, Clock.hClockWnd, Calendar.hCalenWnd,
-        Mail.hMailNoticeWnd, Notices.hSclNoticeWnd, ClockNotice.hClockNoticeWnd, SclTable.hSclTableWnd,
-        SclTable.hPlanWnd, Music.hBgmWnd}) {
-    if (open) return false;
-  }
-  return true;
+// The handlers of these dialogs may change at any time what a tick has to do. Other
+// windows belong to a step of the tick, which says when it is due.
+bool DialogIsUp() {
+  return FamilyDialogIsUp() || Picker.hFilePickDlg || Music.hBgmWnd;
 }
 
 }  // namespace
 
 bool TickTimerStart() {
-  ticksOfPeriod = 1;
-  ticksOwed = 0;
-  resting = false;
-  running = TimerStart(Program.hMainWnd, kTickTimer, kTickMilliseconds);
-  return running;
+  TickTimer = {};
+  TickTimer.running = TimerStart(Program.hMainWnd, kTickTimer, kTickMilliseconds);
+  return TickTimer.running;
 }
 
 void TickTimerStop() {
-  running = false;
-  resting = false;
-  ticksOwed = 0;
+  TickTimer = {};
   TimerStop(Program.hMainWnd, kTickTimer);
 }
 
 void TickTimerFired() {
-  Run(std::max(RestEnd(), 1));
-  if (!running) return;
-  const int ticks = OnlyTheStageIsOpen() ? TicksUntilDue() : 1;
+  // The timer may have rested again in a loop that one of the ticks opened: what has
+  // passed in that rest is run too.
+  for (int ticks = std::max(RestEnd(), 1); ticks > 0; ticks = RestEnd()) Run(ticks);
+  if (!TickTimer.running) return;
+  const int ticks = DialogIsUp() ? 1 : TicksUntilDue();
   PeriodSet(ticks);
-  resting = ticks > 1;
+  TickTimer.resting = ticks > 1;
 }
 
 void TickTimerWake() {
-  if (!resting) return;
-  const int passed = RestEnd();
-  PeriodSet(1);
-  Run(passed);
+  if (TickTimer.resting) Run(RestEnd());
 }

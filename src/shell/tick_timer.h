@@ -8,6 +8,19 @@
 // they are at that time.
 #pragma once
 
+#include <cstdint>
+
+inline constexpr int kTickTimer = 1;  // its number
+
+struct TickTimerState {
+  bool running = false;
+  bool resting = false;
+  int ticksOfPeriod = 1;
+  std::uint64_t periodBegan = 0;  // TimeMilliseconds
+  int ticksOwed = 0;              // ticks that have passed and are still to run
+};
+extern TickTimerState TickTimer;
+
 // Starts the timer on the main window. False when no timer is to be had.
 bool TickTimerStart();
 void TickTimerStop();

@@ -1,41 +1,36 @@
 #include "world/world_list.h"
 
+#include <algorithm>
 #include <cstring>
 
-#include "services/big_endian.h"
-#include "services/data_file.h"
 #include "services/program.h"
+#include "services/record_file.h"
 #include "services/text.h"
 
 WorldState World;
 
 namespace {
 
-// Copies a text field of a record; both cut at `limit` bytes and at the
-// terminator, the cut never inside a pair.
-void TakeName(char* to, int limit, const unsigned char* field, int fieldSize) {
-  char text[kWorldFigureNameSize + 1] = {};
-  std::memcpy(text, field, static_cast<std::size_t>(fieldSize));
-  const std::size_t length = TextPrefix(text, static_cast<std::size_t>(limit));
+// Copies a text into an array that may be too short, the cut never inside a pair.
+template <std::size_t N>
+void TakeName(char (&to)[N], const char* text) {
+  const std::size_t length = TextPrefix(text, N - 1);
   std::memcpy(to, text, length);
-  std::memset(to + length, 0, static_cast<std::size_t>(limit) + 1 - length);
+  std::memset(to + length, 0, N - length);
 }
 
-void TakeFigure(WorldFigure& figure, const unsigned char* record) {
-  figure.used = record[kEdtcFigureUsed] != 0;
-  TakeName(figure.name, kWorldFigureNameSize, record + kEdtcFigureName, kWorldFigureNameSize);
+void TakeFigure(WorldFigure& figure, const EdtcFigureRec& record) {
+  figure.used = record.used;
+  TakeName(figure.name, record.name);
 }
 
-void TakeChara(WorldChara& chara, const unsigned char* record) {
-  chara.firstKept = record[kEdtcCharFirstKept];
-  chara.secondKept = record[kEdtcCharSecondKept];
-  TakeName(chara.name, kWorldNameSize, record + kEdtcCharName, kWorldNameSize);
+void TakeChara(WorldChara& chara, const EdtcCharRec& record) {
+  chara.firstKept = record.firstKept;
+  chara.secondKept = record.secondKept;
+  TakeName(chara.name, record.name);
   for (int frame = 0; frame < kWorldFrames; ++frame) {
-    TakeName(chara.frameNames[frame], kWorldFrameNameMax,
-             record + kEdtcCharFrameNames + kWorldFrameNameSize * frame, kWorldFrameNameSize);
-  }
-  for (int i = 0; i < kWorldFigureIds; ++i) {
-    chara.figureIds[i] = static_cast<std::uint16_t>(GetBE32(record + kEdtcCharFigureIds + 4 * i));
+    TakeName(chara.frameNames[frame], record.frameNames[frame]);
+    chara.figureIds[frame] = record.figures[frame].id;
   }
 }
 
@@ -45,18 +40,17 @@ bool ReadFlags() {
   WorldFlagPath(path, sizeof path);
   DataFile data;
   if (!DataOpenRead(data, path, OpenMode::Read)) return false;
-  unsigned char header[kEdtcHeaderSize];
-  bool good = DataRead(data, header, sizeof header);
-  const std::uint32_t charas = good ? GetBE32(header + kEdtcCharaCount) : 0;
-  const std::uint32_t figures = good ? GetBE32(header + kEdtcFigureCount) : 0;
-  good = good && charas <= kWorldCharaMax && figures <= kWorldFigureMax;
+  EdtcHead head;
+  bool good = RecordRead(data, head) && head.charaCount <= kWorldCharaMax;
   if (good) {
-    World.WorldCharaCount = static_cast<std::int32_t>(charas);
-    World.WorldFigureCount = static_cast<std::int32_t>(figures);
+    World.WorldCharaCount = static_cast<std::int32_t>(head.charaCount);
+    // settled: figures that the table has no room for are passed over.
+    World.WorldFigureCount =
+        static_cast<std::int32_t>(std::min<std::uint32_t>(head.figureCount, kWorldFigureMax));
   }
   for (int i = 0; good && i < World.WorldFigureCount; ++i) {
-    unsigned char record[kEdtcFigureSize];
-    good = DataRead(data, record, sizeof record);
+    EdtcFigureRec record;
+    good = RecordRead(data, record);
     if (good) TakeFigure(World.WorldFigures[i], record);
   }
   DataClose(data);
@@ -68,8 +62,8 @@ void ReadCharas() {
   WorldDataPath(path, sizeof path);
   DataFile data;
   if (!DataOpenRead(data, path, OpenMode::Read)) return;
-  unsigned char record[kEdtcCharSize];
-  for (int i = 0; i < World.WorldCharaCount && DataRead(data, record, sizeof record); ++i) {
+  EdtcCharRec record;
+  for (int i = 0; i < World.WorldCharaCount && RecordRead(data, record); ++i) {
     TakeChara(World.WorldCharas[i], record);
   }
   DataClose(data);

@@ -2,45 +2,17 @@
 // folder "\キャラクタ". The list gives the desktop characters and the cast of
 // the scenarios their names.
 //
-// EDTCFLAG.edf
-// offset  size       field
-//      0     4       ignored
-//      4     4       number of characters, big-endian
-//      8     4       number of figures, big-endian
-//     12   142 each  EdtcFigureRec: 1 used flag, 128 name, 13 not used here
-//
-// EDTCDATA.edf, an EdtcCharRec of 1520 bytes for each character
-// offset  size     field
-//      0     1     kept, no effect
-//      1    64     name
-//     76     1     kept, no effect
-//     77  20 x 64  frame names
-//   1440  20 x 4   figure ids, big-endian, of which the low 16 bits count
+// EDTCFLAG.edf holds an EdtcHead and an EdtcFigureRec for each figure, EDTCDATA.edf an
+// EdtcCharRec for each character.
 #pragma once
 
 #include <cstdint>
 
-inline constexpr int kWorldCharaMax = 512;
-inline constexpr int kWorldFigureMax = 1000;
-inline constexpr int kWorldFrames = 20;
-inline constexpr int kWorldFigureIds = 20;
-inline constexpr int kWorldNameSize = 64;
-inline constexpr int kWorldFrameNameSize = 64;  // in the file
-inline constexpr int kWorldFrameNameMax = 24;   // in memory
-inline constexpr int kWorldFigureNameSize = 128;
+#include "world/world_records.h"
 
-inline constexpr int kEdtcHeaderSize = 12;
-inline constexpr int kEdtcCharaCount = 4;
-inline constexpr int kEdtcFigureCount = 8;
-inline constexpr int kEdtcFigureSize = 142;
-inline constexpr int kEdtcFigureUsed = 0;
-inline constexpr int kEdtcFigureName = 1;
-inline constexpr int kEdtcCharSize = 1520;
-inline constexpr int kEdtcCharFirstKept = 0;
-inline constexpr int kEdtcCharName = 1;
-inline constexpr int kEdtcCharSecondKept = 76;
-inline constexpr int kEdtcCharFrameNames = 77;
-inline constexpr int kEdtcCharFigureIds = 1440;
+inline constexpr int kWorldCharaMax = 512;
+inline constexpr int kWorldFigureMax = 10240;  // as many as the characters can have
+inline constexpr int kWorldFrameNameMax = 24;  // in memory
 
 // Texts are terminated.
 struct WorldChara {
@@ -48,7 +20,7 @@ struct WorldChara {
   std::uint8_t secondKept;
   char name[kWorldNameSize + 1];
   char frameNames[kWorldFrames][kWorldFrameNameMax + 1];
-  std::uint16_t figureIds[kWorldFigureIds];  // 0 for none; nonzero: the frame is in use
+  std::uint16_t figureIds[kWorldFrames];  // 0 for none; nonzero: the frame is in use
 };
 
 struct WorldFigure {
@@ -65,7 +37,8 @@ struct WorldState {
 extern WorldState World;
 
 // Reads both files over the tables, and ends without a word where a file is
-// missing, short, or counts more than the tables hold; what was read stays.
+// missing, short, or counts more characters than there can be; what was read stays.
+// Figures beyond the table are passed over.
 void WorldListRead();
 
 // Name of a character by its number from 1; empty for one that the list does not

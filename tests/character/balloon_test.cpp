@@ -13,8 +13,8 @@ class BalloonTest : public WalkFixture {
  protected:
   void SetUp() override {
     WalkFixture::SetUp();
-    SetWalkCount(Character.CharaSet, 0, 0);
-    SetWalkPeriod(Character.CharaSet, 0, 0);
+    Character.CharaSet.WalkCount[0] = 0;
+    Character.CharaSet.WalkPeriod[0] = 0;
     group_ = std::make_unique<OpnGroupRec>();
     Walk.WalkLastX = 500;
     Walk.WalkLastY = 400;
@@ -65,7 +65,7 @@ TEST_F(BalloonTest, TheBalloonStandsUnderTheEndPicture) {
 }
 
 TEST_F(BalloonTest, WithoutAnEndPictureItStandsLeftAboveAndNotBeyondTheScreen) {
-  SetEndFrames(Character.CharaSet, 0, 0, 9);
+  Character.CharaSet.EndFrames[0][0] = 9;
   Walk.WalkLastX = 299;
   Walk.WalkLastY = 201;
   Walk.OpeningState = 1;

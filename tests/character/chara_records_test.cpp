@@ -9,28 +9,28 @@ TEST(CharaRecords, LieAsTold) {
 }
 
 TEST(CharaRecords, CharaSetHasItsFieldsInTheirPlaces) {
-  EXPECT_EQ(RecordOffset<&CharaSetRecord::charaNo>(), 0);
-  EXPECT_EQ(RecordOffset<&CharaSetRecord::motionA>(), 2);
-  EXPECT_EQ(RecordOffset<&CharaSetRecord::motionB>(), 22);
-  EXPECT_EQ(RecordOffset<&CharaSetRecord::motionC>(), 42);
-  EXPECT_EQ(RecordOffset<&CharaSetRecord::motionD>(), 50);
-  EXPECT_EQ(RecordOffset<&CharaSetRecord::motionE>(), 54);
-  EXPECT_EQ(RecordOffset<&CharaSetRecord::motionF>(), 64);
-  EXPECT_EQ(RecordOffset<&CharaSetRecord::motionG>(), 164);
-  EXPECT_EQ(RecordOffset<&CharaSetRecord::motionH>(), 264);
-  EXPECT_EQ(RecordOffset<&CharaSetRecord::motionI>(), 304);
-  EXPECT_EQ(RecordOffset<&CharaSetRecord::walkRow>(), 324);
-  EXPECT_EQ(RecordOffset<&CharaSetRecord::walkUse>(), 344);
-  EXPECT_EQ(RecordOffset<&CharaSetRecord::walkStartX>(), 354);
-  EXPECT_EQ(RecordOffset<&CharaSetRecord::walkStartY>(), 374);
-  EXPECT_EQ(RecordOffset<&CharaSetRecord::walkStepX>(), 396);
-  EXPECT_EQ(RecordOffset<&CharaSetRecord::walkStepY>(), 436);
-  EXPECT_EQ(RecordOffset<&CharaSetRecord::walkPeriod>(), 476);
-  EXPECT_EQ(RecordOffset<&CharaSetRecord::walkCount>(), 496);
-  EXPECT_EQ(RecordOffset<&CharaSetRecord::walkFrames>(), 516);
-  EXPECT_EQ(RecordOffset<&CharaSetRecord::endFrames>(), 566);
-  EXPECT_EQ(RecordOffset<&CharaSetRecord::endWait>(), 616);
-  EXPECT_EQ(RecordOffset<&CharaSetRecord::walkStartPoint>(), 636);
+  EXPECT_EQ(RecordOffset<&CharaSetRecord::CharaNo>(), 0);
+  EXPECT_EQ(RecordOffset<&CharaSetRecord::MotionA>(), 2);
+  EXPECT_EQ(RecordOffset<&CharaSetRecord::MotionB>(), 22);
+  EXPECT_EQ(RecordOffset<&CharaSetRecord::MotionC>(), 42);
+  EXPECT_EQ(RecordOffset<&CharaSetRecord::MotionD>(), 50);
+  EXPECT_EQ(RecordOffset<&CharaSetRecord::MotionE>(), 54);
+  EXPECT_EQ(RecordOffset<&CharaSetRecord::MotionF>(), 64);
+  EXPECT_EQ(RecordOffset<&CharaSetRecord::MotionG>(), 164);
+  EXPECT_EQ(RecordOffset<&CharaSetRecord::MotionH>(), 264);
+  EXPECT_EQ(RecordOffset<&CharaSetRecord::MotionI>(), 304);
+  EXPECT_EQ(RecordOffset<&CharaSetRecord::WalkRow>(), 324);
+  EXPECT_EQ(RecordOffset<&CharaSetRecord::WalkUse>(), 344);
+  EXPECT_EQ(RecordOffset<&CharaSetRecord::WalkStartX>(), 354);
+  EXPECT_EQ(RecordOffset<&CharaSetRecord::WalkStartY>(), 374);
+  EXPECT_EQ(RecordOffset<&CharaSetRecord::WalkStepX>(), 396);
+  EXPECT_EQ(RecordOffset<&CharaSetRecord::WalkStepY>(), 436);
+  EXPECT_EQ(RecordOffset<&CharaSetRecord::WalkPeriod>(), 476);
+  EXPECT_EQ(RecordOffset<&CharaSetRecord::WalkCount>(), 496);
+  EXPECT_EQ(RecordOffset<&CharaSetRecord::WalkFrames>(), 516);
+  EXPECT_EQ(RecordOffset<&CharaSetRecord::EndFrames>(), 566);
+  EXPECT_EQ(RecordOffset<&CharaSetRecord::EndWait>(), 616);
+  EXPECT_EQ(RecordOffset<&CharaSetRecord::WalkStartPoint>(), 636);
 }
 
 // Its number is big-endian and keeps 16 bits; inside CharaSet the low byte is first.
@@ -43,8 +43,8 @@ TEST(CharaRecords, AMainCharacterHasBothOrders) {
   ASSERT_TRUE(RecordTake(chara, bytes.data(), 740));
   EXPECT_EQ(chara.charaNo, 0x0203);
   EXPECT_EQ(chara.menuFrame, 4);
-  EXPECT_EQ(chara.charaSet.charaNo, 0x0605);
-  EXPECT_EQ(chara.charaSet.walkStepX[0], -2);
+  EXPECT_EQ(chara.charaSet.CharaNo, 0x0605);
+  EXPECT_EQ(chara.charaSet.WalkStepX[0], -2);
   EXPECT_EQ(RecordOffset<&MainChara::blinkFrame>(), 8);
   EXPECT_EQ(RecordOffset<&MainChara::bored1Frames>(), 12);
   EXPECT_EQ(RecordOffset<&MainChara::bored2Frames>(), 32);

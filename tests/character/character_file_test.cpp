@@ -26,7 +26,7 @@ constexpr unsigned char kListStrikeMode = 77;
 int DesignsTaken() {
   int count = 0;
   for (const ClockDesignRow& row : CharaTables.ClockDesigns) {
-    if (row.record[kDesignStrikeMode] == kListStrikeMode) ++count;
+    if (row.record.strikeMode == kListStrikeMode) ++count;
   }
   return count;
 }
@@ -35,7 +35,7 @@ int DesignsTaken() {
 std::string MainRecord(int base) {
   std::string record;
   for (int i = 0; i < 16; ++i) record += BE32(base + i);
-  std::string set(kCharaSetSize, static_cast<char>(base));
+  std::string set(676, static_cast<char>(base));
   set[0] = static_cast<char>(base);
   set[1] = 0;
   return record + set;
@@ -72,8 +72,7 @@ class CharacterFileTest : public CharaFiles {
     CharaFiles::SetUp();
     Clear();
     Clock.ClockListCount = kClockDesignMax;
-    for (unsigned char(&record)[kClockListSize] : Clock.ClockList)
-      record[kClockListStrikeMode] = kListStrikeMode;
+    for (ClockListRow& row : Clock.ClockList) row.strikeMode = kListStrikeMode;
   }
   void TearDown() override {
     Clear();
@@ -133,8 +132,8 @@ TEST_F(CharacterFileTest, EveryFieldReachesItsTable) {
   EXPECT_EQ(first.boredDelaySel, 113);
   EXPECT_EQ(first.boredSpeedSel, 114);
   EXPECT_EQ(first.boredRepeatSel, 115);
-  EXPECT_EQ(CharaSetNo(first.charaSet), 100);
-  EXPECT_EQ(first.charaSet[675], 100);
+  EXPECT_EQ(first.charaSet.CharaNo, 100);
+  EXPECT_EQ(first.charaSet.spare3[37], 100);
   EXPECT_EQ(first.secondNumber, -5);
   EXPECT_EQ(first.blinkSpeedSel, 9);
   EXPECT_EQ(CharaTables.MainCharas[1].charaNo, 50);
@@ -150,7 +149,7 @@ TEST_F(CharacterFileTest, EveryFieldReachesItsTable) {
   EXPECT_STREQ(CharaTables.WalkCharas[1].sound, "b.wav");
   EXPECT_EQ(CharaTables.ClockDesignCount, 1);
   EXPECT_EQ(CharaTables.ClockDesigns[0].number, 15);
-  EXPECT_EQ(CharaTables.ClockDesigns[0].record[463], 'd');
+  EXPECT_EQ(CharaTables.ClockDesigns[0].record.spare2[19], 'd');
   EXPECT_EQ(CharaTables.WalkFlags[1], 5);
   EXPECT_EQ(CharaTables.WalkFlags[49], 7);
   EXPECT_EQ(DesignsTaken(), 1);
@@ -239,10 +238,9 @@ TEST_F(CharacterFileTest, CountsBeyondTheTablesAreBadContent) {
     std::size_t at;
     std::string count;
   } kAbsurd[] = {
-      {23, BE32(51)},         {23, BE32(-1)},         {23, BE32(0x7FFFFFFF)},
-      {alarmCount, BE32(51)}, {alarmCount, BE32(-1)}, {alarmCount, BE32(1000000)},
-      {walkCount, "\x33"},    {walkCount, "\xFF"},    {designCount, "\x33"},
-      {designCount, "\xFF"},
+      {23, BE32(51)},         {23, BE32(-1)},           {23, BE32(0x7FFFFFFF)},
+      {alarmCount, BE32(-1)}, {alarmCount, BE32(-512)}, {walkCount, "\x33"},
+      {walkCount, "\xFF"},    {designCount, "\x33"},    {designCount, "\xFF"},
   };
   for (const auto& absurd : kAbsurd) {
     std::string file = good;
@@ -281,6 +279,34 @@ TEST_F(CharacterFileTest, FiftyOfEverythingFit) {
   EXPECT_EQ(CharaTables.ClockDesigns[49].number, 53);
   EXPECT_EQ(CharaTables.MainCharas[49].blinkSpeedSel, 54);
   EXPECT_EQ(DesignsTaken(), 50);
+}
+
+// The list of alarm characters has room for as many as there can be characters; those
+// behind it cost nothing of what follows them.
+TEST_F(CharacterFileTest, AlarmCharactersBeyondTheirTableArePassedOver) {
+  const std::size_t alarms = 23 + 4 + 2 * 740;
+  for (const int count : {51, 512, 513, 2000}) {
+    std::string list = BE32(count);
+    for (int i = 0; i < count; ++i) list += BE32(i + 1);
+    std::string file = SmallFile();
+    file.replace(alarms, 8, list);
+    Put(kName, file);
+    Clear();
+    EXPECT_EQ(CharaFileRead(), 0) << count;
+    EXPECT_EQ(CharaTables.AlarmCharaCount, count < 512 ? count : 512) << count;
+    EXPECT_EQ(CharaTables.AlarmCharas[CharaTables.AlarmCharaCount - 1], CharaTables.AlarmCharaCount) << count;
+    EXPECT_EQ(CharaTables.MainCharas[1].secondNumber, 6) << count;
+    EXPECT_STREQ(CharaTables.WalkCharas[1].sound, "b.wav") << count;
+    EXPECT_EQ(CharaTables.ClockDesigns[0].number, 15) << count;
+    EXPECT_EQ(CharaTables.MainCharas[1].blinkSpeedSel, 3) << count;
+  }
+  // A list that ends before its count is a short file.
+  std::string file = SmallFile();
+  file.replace(alarms, 4, BE32(1000000));
+  Put(kName, file);
+  Fill();
+  EXPECT_EQ(CharaFileRead(), -1);
+  EXPECT_TRUE(IsAsFilled());
 }
 
 TEST_F(CharacterFileTest, RandomMutationsLeaveTheTablesWithinTheirCapacities) {
@@ -358,13 +384,13 @@ TEST_F(CharacterFileTest, AWrittenFileHoldsTheTablesAndTheFixedValuesOfANewDataS
   EXPECT_EQ(CharaTables.AlarmCharas[2], 9);
   EXPECT_EQ(CharaTables.MainCharas[3].secondNumber, 4);
   for (int i = 2; i < 4; ++i) {
-    const unsigned char* set = CharaTables.MainCharas[i].charaSet;
-    EXPECT_EQ(WalkStepX(set), -28);
-    EXPECT_EQ(WalkStepY(set), -24);
-    EXPECT_EQ(WalkPeriod(set), 4);
-    EXPECT_EQ(WalkCount(set), 24);
+    const CharaSetRecord& set = CharaTables.MainCharas[i].charaSet;
+    EXPECT_EQ(set.WalkStepX[0], -28);
+    EXPECT_EQ(set.WalkStepY[0], -24);
+    EXPECT_EQ(set.WalkPeriod[0], 4);
+    EXPECT_EQ(set.WalkCount[0], 24);
   }
-  EXPECT_EQ(WalkStepX(CharaTables.MainCharas[1].charaSet), 0);
+  EXPECT_EQ(CharaTables.MainCharas[1].charaSet.WalkStepX[0], 0);
   for (int i = 0; i < 4; ++i) EXPECT_EQ(CharaTables.WalkFlags[i], 0);
   EXPECT_EQ(CharaTables.WalkFlags[4], 7);
   EXPECT_STREQ(CharaTables.WalkCharas[0].sound, "旗印.wav");
@@ -391,8 +417,8 @@ TEST_F(CharacterFileTest, WhatWasReadIsWrittenAsItStood) {
 TEST_F(CharacterFileTest, EveryFailingCallOfTheWriterGivesItsResult) {
   Put(kName, SmallFile());
   ASSERT_EQ(CharaFileRead(), 0);
-  // magic, N, 2 * 17, A, 3, 2, W, 2, 2, C, 1, 1, flags, 2
-  EXPECT_EQ(FailingWrites(CharaFileWrite, -1), 53);
+  // magic, N, its records, A, 3, 2, W, 2, 2, C, 1, 1, flags, 2
+  EXPECT_EQ(FailingWrites(CharaFileWrite, -1), 20);
   FaultArm(FaultKind::Create, 1);
   EXPECT_EQ(CharaFileWrite(), -1);
   EXPECT_EQ(FileResult.FileStatus, -1);

@@ -13,6 +13,7 @@
 #include "character/character.h"
 #include "character/character_tables.h"
 #include "character/notice_window.h"
+#include "clock_calendar/calendar/calendar.h"
 #include "clock_calendar/clock/clock.h"
 #include "clock_calendar/clock/clock_notice.h"
 #include "clock_calendar/clock/performance.h"
@@ -48,10 +49,10 @@ class NoticesTest : public ProgramTest {
     NoticePlace.NoticeW = 480;
     NoticePlace.NoticeH = 300;
     Notices.SclNotice = SclNoticeItem{};
-    for (NoteNoticeItem& note : Notices.NoteNotices) note = NoteNoticeItem{};
+    for (CalenNote& note : Calendar.CalenNotes) note = CalenNote{};
     Clock.ClockAlarmSlot = -1;
     Performance.PerformanceActive = 0;
-    std::memset(Clock.ClockEvents, 0, sizeof Clock.ClockEvents);
+    for (AlarmSlot& slot : Clock.ClockEvents) slot = AlarmSlot{};
   }
   void TearDown() override {
     SendClose(Notices.hSclNoticeWnd);
@@ -88,10 +89,10 @@ class NoticesTest : public ProgramTest {
     TextCopy(Notices.SclNotice.text, sizeof Notices.SclNotice.text, text);
   }
   static void NoteDue(int note, const char* text) {
-    Notices.NoteNotices[note].due = true;
-    Notices.NoteNotices[note].year = 26;
-    Notices.NoteNotices[note].monthAndDay = 20;
-    TextCopy(Notices.NoteNotices[note].text, sizeof Notices.NoteNotices[note].text, text);
+    Calendar.CalenNotes[note].due = true;
+    Calendar.CalenNotes[note].year = 26;
+    Calendar.CalenNotes[note].monthAndDay = 20;
+    TextCopy(Calendar.CalenNotes[note].text, sizeof Calendar.CalenNotes[note].text, text);
   }
   static void Send(std::uint32_t command) { SendCommand(Program.hMainWnd, command); }
   // Draws the window afresh.

@@ -129,7 +129,7 @@ TEST_F(OptionsTest, ASelectionShowsTheFirstFrameInThePreviewArea) {
 
 TEST_F(OptionsTest, OkTakesAnotherCharacterOverSavesItAndReloadsTheStage) {
   CharaTables.MainCharas[1].menuFrame = 7;
-  CharaTables.MainCharas[1].charaSet[100] = 55;
+  CharaTables.MainCharas[1].charaSet.MotionF[1][16] = 55;
   Then([] {
     ChooseRow(Dialogs.hMenuDlg, 100, 1);
     Press(Dialogs.hMenuDlg, 1);
@@ -137,8 +137,8 @@ TEST_F(OptionsTest, OkTakesAnotherCharacterOverSavesItAndReloadsTheStage) {
   CommandRoute(2281);
   EXPECT_EQ(Character.CharaIndex, 1);
   EXPECT_EQ(Character.MenuFrame, 7);
-  EXPECT_EQ(Character.CharaSet[100], 55);
-  EXPECT_EQ(CharaSetNo(Character.CharaSet), 2);
+  EXPECT_EQ(Character.CharaSet.MotionF[1][16], 55);
+  EXPECT_EQ(Character.CharaSet.CharaNo, 2);
   EXPECT_TRUE(SettingsWritten());
   EXPECT_EQ(commands, (std::vector<std::uint32_t>{2293}));
   EXPECT_EQ(DibWidth(FramePicture(kStageRow, 0)), 20);
@@ -148,14 +148,16 @@ TEST_F(OptionsTest, OkTakesAnotherCharacterOverSavesItAndReloadsTheStage) {
 TEST_F(OptionsTest, OkWithTheSameCharacterNeitherSavesNorReloads) {
   CharaTables.MainCharas[0].menuFrame = 7;
   Then([] { Press(Dialogs.hMenuDlg, 1); });
+  const int blocks = DiagnosticsLive().blocks;
   CommandRoute(2281);
+  EXPECT_EQ(DiagnosticsLive().blocks, blocks);  // the preview is gone
   EXPECT_EQ(Character.MenuFrame, 7);  // taken over all the same
   EXPECT_FALSE(SettingsWritten());
   EXPECT_TRUE(commands.empty());
 }
 
 TEST_F(OptionsTest, AWalkingRowHandsItsSoundAndFlagsOnToTheOpeningOfFiles) {
-  SetWalkRow(CharaTables.MainCharas[1].charaSet, 0, 3);
+  CharaTables.MainCharas[1].charaSet.WalkRow[0] = 3;
   TextCopy(CharaTables.WalkCharas[2].sound, kWalkSoundSize, "foot2.wav");
   CharaTables.WalkFlags[2] = 5;
   Then([] {

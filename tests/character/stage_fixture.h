@@ -50,7 +50,7 @@ class StageFixture : public CharaFiles {
     for (std::int32_t& number : CharaTables.AlarmCharas) number = 0;
     for (WalkChara& row : CharaTables.WalkCharas) row = WalkChara{};
     for (unsigned char& flags : CharaTables.WalkFlags) flags = 0;
-    for (unsigned char& byte : Character.CharaSet) byte = 0;
+    Character.CharaSet = CharaSetRecord{};
     for (std::int32_t& selection : Character.AlarmCharaSel) selection = 0;
     Character.CharaIndex = Character.MenuFrame = Character.BlinkFrame = 0;
     for (int i = 0; i < kBoredFrameCount; ++i) Character.Bored1Frames[i] = Character.Bored2Frames[i] = -1;
@@ -83,7 +83,7 @@ class StageFixture : public CharaFiles {
     }
     CharaTables.MainCharaCount = 1;
     CharaTables.MainCharas[0].charaNo = static_cast<std::uint16_t>(number);
-    SetCharaSetNo(Character.CharaSet, 1);
+    Character.CharaSet.CharaNo = 1;
   }
 
   static std::vector<std::uint32_t> commands;  // that the main window was sent

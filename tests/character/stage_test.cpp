@@ -65,7 +65,7 @@ TEST_F(StageTest, EachMotionOutlineIsFlippedWithItsOwnPicturesHeight) {
 TEST_F(StageTest, WithoutACharacterNumberOneIsReturnedAndThePicturesAreGone) {
   PutMain(7, {kTriangle});
   ASSERT_EQ(CharaLoadStage(), 0);
-  SetCharaSetNo(Character.CharaSet, 0);
+  Character.CharaSet.CharaNo = 0;
   EXPECT_EQ(CharaLoadStage(), 1);
   EXPECT_EQ(FramePicture(kStageRow, 0), nullptr);
 }
@@ -73,7 +73,7 @@ TEST_F(StageTest, WithoutACharacterNumberOneIsReturnedAndThePicturesAreGone) {
 TEST_F(StageTest, AMissingOutlineFileGivesARectangularStageAndFrameCount20) {
   PutBmp(7, 1, BmpFile(40, 30));
   CharaTables.MainCharas[0].charaNo = 7;
-  SetCharaSetNo(Character.CharaSet, 1);
+  Character.CharaSet.CharaNo = 1;
   Stage.CurrentOutline.count = 3;
   EXPECT_EQ(CharaLoadStage(), 0);
   EXPECT_EQ(Stage.StageFrameCount, 20);
@@ -86,7 +86,7 @@ TEST_F(StageTest, AMissingOutlineFileGivesARectangularStageAndFrameCount20) {
 
 TEST_F(StageTest, ACharacterNumberBeyondTheFilesGivesTwentyEmptyFramesAndAStageWithoutAPicture) {
   CharaTables.MainCharas[0].charaNo = 999;
-  SetCharaSetNo(Character.CharaSet, 1);
+  Character.CharaSet.CharaNo = 1;
   EXPECT_EQ(CharaLoadStage(), 0);
   for (int frame = 0; frame < kFrameMax; ++frame) EXPECT_EQ(FramePicture(kStageRow, frame), nullptr);
   EXPECT_EQ(Stage.StageWidth, 300);  // as it was
@@ -98,10 +98,10 @@ TEST_F(StageTest, ACharacterNumberBeyondTheFilesGivesTwentyEmptyFramesAndAStageW
 
 TEST_F(StageTest, ACharacterNumberBeyondTheListLoadsNothing) {
   PutMain(7, {kTriangle});
-  SetCharaSetNo(Character.CharaSet, 51);
+  Character.CharaSet.CharaNo = 51;
   EXPECT_EQ(CharaLoadStage(), 0);
   EXPECT_EQ(FramePicture(kStageRow, 0), nullptr);
-  SetCharaSetNo(Character.CharaSet, 65535);
+  Character.CharaSet.CharaNo = 65535;
   EXPECT_EQ(CharaLoadStage(), 0);
   EXPECT_EQ(FramePicture(kStageRow, 0), nullptr);
 }
@@ -196,13 +196,13 @@ TEST_F(StageTest, ForACharacterNumberOf0NoFileIsLookedFor) {
 }
 
 TEST_F(StageTest, SelectingACharacterCopiesItsRecordAndTellsWhetherItIsAnother) {
-  CharaTables.MainCharas[1].charaSet[100] = 77;
+  CharaTables.MainCharas[1].charaSet.MotionF[1][16] = 77;
   CharaTables.MainCharas[1].menuFrame = 5;
   EXPECT_TRUE(CharaSelect(1));
   EXPECT_EQ(Character.CharaIndex, 1);
   EXPECT_EQ(Character.MenuFrame, 5);
-  EXPECT_EQ(Character.CharaSet[100], 77);
-  EXPECT_EQ(CharaSetNo(Character.CharaSet), 2);
+  EXPECT_EQ(Character.CharaSet.MotionF[1][16], 77);
+  EXPECT_EQ(Character.CharaSet.CharaNo, 2);
   EXPECT_FALSE(CharaSelect(1));
 }
 
@@ -349,7 +349,7 @@ TEST_F(RedrawTest, ANewSizeAsksForARepaintOnlyWithoutAnOutline) {
 }
 
 TEST_F(RedrawTest, AFullReloadWithoutACharacterLeavesTheWindow) {
-  SetCharaSetNo(Character.CharaSet, 0);
+  Character.CharaSet.CharaNo = 0;
   Stage.StageRedraw = 3;
   CommandRedrawStage();
   EXPECT_EQ(Stage.StageRedraw, 0);

@@ -12,7 +12,7 @@ namespace {
 
 TEST_F(WalkTest, WithTheTrailOnTheFirstWindowResetsTheTrailAndTheTrailClosesAtTheWalksEnd) {
   CharaTables.WalkFlags[0] = kWalkTrail;
-  SetWalkPeriod(Character.CharaSet, 0, 0);
+  Character.CharaSet.WalkPeriod[0] = 0;
   WalkForOpening();
   Then([] {
     EXPECT_EQ(OpenWindowCount(), 2);
@@ -41,7 +41,7 @@ TEST_F(WalkTest, WithTheTrailOnTheFirstWindowResetsTheTrailAndTheTrailClosesAtTh
 
 TEST_F(WalkTest, ATrailWindowThatCannotBeMadeIsLeftOut) {
   CharaTables.WalkFlags[0] = kWalkTrail;
-  SetWalkPeriod(Character.CharaSet, 0, 0);
+  Character.CharaSet.WalkPeriod[0] = 0;
   ASSERT_EQ(WalkStartOpen(), 0);
   Then([] {
     FaultArm(FaultKind::Window, 1);
@@ -61,7 +61,7 @@ TEST_F(WalkTest, ATrailWindowThatCannotBeMadeIsLeftOut) {
 // the window opens and goes up with each step.
 TEST_F(WalkTest, WithTheWipeOnThePictureIsRevealedFromTheRightInEqualSlices) {
   CharaTables.WalkFlags[0] = kWalkWipe;
-  SetWalkPeriod(Character.CharaSet, 0, 0);
+  Character.CharaSet.WalkPeriod[0] = 0;
   ASSERT_EQ(WalkStartOpen(), 0);
   for (int i = 0; i < 4; ++i) {
     Then([i] {
@@ -85,7 +85,7 @@ TEST_F(WalkTest, WithTheWipeOnThePictureIsRevealedFromTheRightInEqualSlices) {
 
 TEST_F(WalkTest, WithoutAnEndWaitTheWipeHasThreeSlices) {
   CharaTables.WalkFlags[0] = kWalkWipe;
-  SetEndWait(Character.CharaSet, 0, 0);
+  Character.CharaSet.EndWait[0] = 0;
   ASSERT_EQ(WalkStartOpen(), 0);
   Then([] {
     DrawingClear();
@@ -100,9 +100,10 @@ TEST_F(WalkTest, WithoutAnEndWaitTheWipeHasThreeSlices) {
 TEST_F(WalkTest, WithTheShakeOnEachStepJumpsByUpTo49PixelsAndTheWalkItselfDoesNot) {
   RandomSeed(3);
   CharaTables.WalkFlags[0] = kWalkShake;
-  SetWalkPeriod(Character.CharaSet, 0, 0);
-  SetWalkCount(Character.CharaSet, 0, 200);
-  SetWalkStep(Character.CharaSet, 0, 0, 0);
+  Character.CharaSet.WalkPeriod[0] = 0;
+  Character.CharaSet.WalkCount[0] = 200;
+  Character.CharaSet.WalkStepX[0] = 0;
+  Character.CharaSet.WalkStepY[0] = 0;
   ASSERT_EQ(WalkStartOpen(), 0);
   Then([] {
     EXPECT_EQ(PlaceOf(WalkWindow()).top, 350);  // not when it opens
@@ -125,10 +126,10 @@ TEST_F(WalkTest, TheFlagsAreThoseOfTheWalkingRow) {
   CharaTables.WalkFlags[0] = 1;
   CharaTables.WalkFlags[49] = 4;
   EXPECT_EQ(WalkFlagsNow(), 1U);
-  SetWalkRow(Character.CharaSet, 0, 50);
+  Character.CharaSet.WalkRow[0] = 50;
   EXPECT_EQ(WalkFlagsNow(), 4U);
   for (const int row : {0, 51, 65535}) {
-    SetWalkRow(Character.CharaSet, 0, row);
+    Character.CharaSet.WalkRow[0] = static_cast<std::uint16_t>(row);
     EXPECT_EQ(WalkFlagsNow(), 0U) << row;
   }
 }

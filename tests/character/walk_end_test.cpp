@@ -10,7 +10,7 @@ namespace {
 // --- The end phase
 
 TEST_F(WalkTest, WithoutAnEndPictureOnlyTheBalloonStands) {
-  SetEndFrames(Character.CharaSet, 0, 0, 9);
+  Character.CharaSet.EndFrames[0][0] = 9;
   WalkForOpening();
   ThenTicks(15);
   Then([] {
@@ -25,7 +25,7 @@ TEST_F(WalkTest, WithoutAnEndPictureOnlyTheBalloonStands) {
 }
 
 TEST_F(WalkTest, AnUnusedEndFrameIsFrame0) {
-  SetEndFrames(Character.CharaSet, 0, 0, 0);
+  Character.CharaSet.EndFrames[0][0] = 0;
   WalkForOpening();
   ThenTicks(15);
   Then([] {

@@ -51,15 +51,16 @@ class WalkFixture : public StageFixture {
     PutBmp(10, 3, BmpFile(30, 20));
     CharaTables.WalkCharaCount = 1;
     CharaTables.WalkCharas[0].number = 10;
-    SetWalkRow(Character.CharaSet, 0, 1);
-    SetWalkStartPoint(Character.CharaSet, 4);
-    SetWalkStep(Character.CharaSet, 0, -14, -12);
-    SetWalkPeriod(Character.CharaSet, 0, 3);
-    SetWalkCount(Character.CharaSet, 0, 5);
-    SetWalkFrames(Character.CharaSet, 0, 0, 1);
-    SetWalkFrames(Character.CharaSet, 0, 1, 2);
-    SetEndFrames(Character.CharaSet, 0, 0, 3);
-    SetEndWait(Character.CharaSet, 0, 4);
+    Character.CharaSet.WalkRow[0] = 1;
+    Character.CharaSet.WalkStartPoint = 4;
+    Character.CharaSet.WalkStepX[0] = -14;
+    Character.CharaSet.WalkStepY[0] = -12;
+    Character.CharaSet.WalkPeriod[0] = 3;
+    Character.CharaSet.WalkCount[0] = 5;
+    Character.CharaSet.WalkFrames[0][0] = 1;
+    Character.CharaSet.WalkFrames[0][1] = 2;
+    Character.CharaSet.EndFrames[0][0] = 3;
+    Character.CharaSet.EndWait[0] = 4;
   }
 
   static void OnCommand(std::uint32_t command) {

@@ -14,7 +14,7 @@ class WalkRoundTest : public WalkFixture {
  protected:
   void SetUp() override {
     WalkFixture::SetUp();
-    SetWalkPeriod(Character.CharaSet, 0, 0);
+    Character.CharaSet.WalkPeriod[0] = 0;
   }
   // A walk in that slot with so many steps left.
   static void PutWalk(int slot, int left) {
@@ -50,7 +50,7 @@ TEST_F(WalkRoundTest, AnEndPhaseNeedsTheCommonFlagToo) {
 }
 
 TEST_F(WalkRoundTest, AnAbortEndsAWalkWithoutFrames) {
-  for (int place = 0; place < kWalkListMax; ++place) SetWalkFrames(Character.CharaSet, 0, place, 0);
+  for (int place = 0; place < kWalkListMax; ++place) Character.CharaSet.WalkFrames[0][place] = 0;
   ASSERT_EQ(WalkStartOpen(), 0);
   ASSERT_TRUE(Walk.WalkSlots[0].active);
   WalkAbort();

@@ -5,6 +5,7 @@
 #include "character/character_tables.h"
 #include "services/random.h"
 #include "tests/character/walk_fixture.h"
+#include "tests/support/record_check.h"
 
 namespace {
 
@@ -29,12 +30,12 @@ TEST_F(WalkTest, WithTheAnimationOffTheOpeningFollowsStraightAwayWithItsSound) {
 }
 
 TEST_F(WalkTest, AWalkingRowOf0OrAWalkingNumberOf0MeansThatTheActionGoesOnWithoutAWalk) {
-  SetWalkRow(Character.CharaSet, 0, 0);
+  Character.CharaSet.WalkRow[0] = 0;
   WalkForOpening();
   EXPECT_EQ(commands, (std::vector<std::uint32_t>{2202}));
   EXPECT_FALSE(Walk.WalkActive);
   EXPECT_FALSE(Walk.WalkSlots[0].active);
-  SetWalkRow(Character.CharaSet, 0, 1);
+  Character.CharaSet.WalkRow[0] = 1;
   CharaTables.WalkCharas[0].number = 0;
   WalkForOpening();
   EXPECT_EQ(commands, (std::vector<std::uint32_t>{2202, 2202}));
@@ -66,8 +67,8 @@ TEST_F(WalkTest, AStartSetsUpTheSlotFromTheCurrentCharacter) {
   EXPECT_FALSE(Walk.WalkSlots[49].active);
   EXPECT_EQ(s.x, 500);
   EXPECT_EQ(s.y, 350);
-  EXPECT_EQ(WalkStartX(Character.CharaSet), 500);  // the start is kept in the record
-  EXPECT_EQ(WalkStartY(Character.CharaSet), 350);
+  EXPECT_EQ(Character.CharaSet.WalkStartX[0], 500);  // the start is kept in the record
+  EXPECT_EQ(Character.CharaSet.WalkStartY[0], 350);
   EXPECT_EQ(s.stepX, -14);
   EXPECT_EQ(s.stepY, -12);
   EXPECT_EQ(s.WalkLeft, 5);
@@ -155,8 +156,9 @@ TEST_F(WalkTest, AWalkStepsEveryPeriodEndsWithItsPictureAndOnlyThenTheFileOpens)
 }
 
 TEST_F(WalkTest, TheFirstStepOpensTheWindowAtTheStartPointPlusOneStep) {
-  SetWalkStartPoint(Character.CharaSet, 3);
-  SetWalkStep(Character.CharaSet, 0, 25, 30);
+  Character.CharaSet.WalkStartPoint = 3;
+  Character.CharaSet.WalkStepX[0] = 25;
+  Character.CharaSet.WalkStepY[0] = 30;
   ASSERT_EQ(WalkStartOpen(), 0);
   Then([] {
     EXPECT_EQ(PlaceOf(WalkWindow()), (Place{25, 30, 60, 50}));
@@ -183,7 +185,7 @@ TEST_F(WalkTest, EachStepCutsTheWindowToItsFramesOutline) {
 }
 
 TEST_F(WalkTest, AFrameWithoutAnOutlineIsPaintedAtOnceAndAFrameWithoutAPictureIs300By200) {
-  SetWalkFrames(Character.CharaSet, 0, 0, 5);  // no files
+  Character.CharaSet.WalkFrames[0][0] = 5;  // no files
   ASSERT_EQ(WalkStartOpen(), 0);
   Then([] {
     EXPECT_EQ(PlaceOf(WalkWindow()), (Place{486, 338, 60, 50}));
@@ -201,8 +203,8 @@ TEST_F(WalkTest, AFrameWithoutAnOutlineIsPaintedAtOnceAndAFrameWithoutAPictureIs
 }
 
 TEST_F(WalkTest, AFrameNumberBeyondTheTableIsAFrameWithoutAPicture) {
-  SetWalkFrames(Character.CharaSet, 0, 1, 255);
-  SetEndFrames(Character.CharaSet, 0, 0, 255);
+  Character.CharaSet.WalkFrames[0][1] = 255;
+  Character.CharaSet.EndFrames[0][0] = 255;
   ASSERT_EQ(WalkStartOpen(), 0);
   Then([] {
     EXPECT_EQ(PlaceOf(WalkWindow()), (Place{486, 338, 300, 200}));
@@ -216,9 +218,10 @@ TEST_F(WalkTest, AFrameNumberBeyondTheTableIsAFrameWithoutAPicture) {
 // From (500, 350) with steps of (300, 0): the far edge stops at 1000, so x is 940;
 // with steps to the left x stops at 0. The frames keep turning.
 TEST_F(WalkTest, AWalkThatLeavesTheScreenStopsAtTheEdgeAndKeepsItsFramesTurning) {
-  SetWalkStep(Character.CharaSet, 0, 300, 2147483647);
-  SetWalkPeriod(Character.CharaSet, 0, 0);
-  SetWalkCount(Character.CharaSet, 0, 4);
+  Character.CharaSet.WalkStepX[0] = 300;
+  Character.CharaSet.WalkStepY[0] = 2147483647;
+  Character.CharaSet.WalkPeriod[0] = 0;
+  Character.CharaSet.WalkCount[0] = 4;
   ASSERT_EQ(WalkStartOpen(), 0);
   Then([] { EXPECT_EQ(PlaceOf(WalkWindow()), (Place{800, 650, 60, 50})); });
   for (int i = 0; i < 3; ++i) {
@@ -232,7 +235,8 @@ TEST_F(WalkTest, AWalkThatLeavesTheScreenStopsAtTheEdgeAndKeepsItsFramesTurning)
   ThenTicks(5);
   WalkTicks(1);
 
-  SetWalkStep(Character.CharaSet, 0, -2147483647 - 1, -300);
+  Character.CharaSet.WalkStepX[0] = -2147483647 - 1;
+  Character.CharaSet.WalkStepY[0] = -300;
   ASSERT_EQ(WalkStartOpen(), 0);
   Then([] {
     EXPECT_EQ(PlaceOf(WalkWindow()), (Place{0, 50, 60, 50}));
@@ -244,8 +248,8 @@ TEST_F(WalkTest, AWalkThatLeavesTheScreenStopsAtTheEdgeAndKeepsItsFramesTurning)
 }
 
 TEST_F(WalkTest, AWalkWithoutFramesStandsStillForGoodAndTheOpeningWaits) {
-  SetWalkFrames(Character.CharaSet, 0, 0, 0);
-  SetWalkFrames(Character.CharaSet, 0, 1, 0);
+  Character.CharaSet.WalkFrames[0][0] = 0;
+  Character.CharaSet.WalkFrames[0][1] = 0;
   WalkForOpening();
   WalkTicks(1000);
   EXPECT_TRUE(commands.empty());
@@ -255,8 +259,8 @@ TEST_F(WalkTest, AWalkWithoutFramesStandsStillForGoodAndTheOpeningWaits) {
 }
 
 TEST_F(WalkTest, AWalkOfNoStepsGoesStraightToItsEnd) {
-  SetWalkCount(Character.CharaSet, 0, 0);
-  SetEndWait(Character.CharaSet, 0, 0);
+  Character.CharaSet.WalkCount[0] = 0;
+  Character.CharaSet.EndWait[0] = 0;
   WalkForOpening();
   ThenTicks(1);
   WalkTicks(1);
@@ -264,8 +268,8 @@ TEST_F(WalkTest, AWalkOfNoStepsGoesStraightToItsEnd) {
 }
 
 TEST_F(WalkTest, AWindowThatCannotBeMadeIsTriedAgainAtTheNextStep) {
-  SetWalkPeriod(Character.CharaSet, 0, 0);
-  SetWalkCount(Character.CharaSet, 0, 2);
+  Character.CharaSet.WalkPeriod[0] = 0;
+  Character.CharaSet.WalkCount[0] = 2;
   WalkForOpening();
   FaultArm(FaultKind::Window, 1);
   WalkTicks(1);
@@ -344,12 +348,13 @@ TEST_F(WalkTest, RandomRecordsWalkInsideTheTables) {
     }
   };
   for (int round = 0; round < 1000; ++round) {
-    for (int i = kCharaSetWalkRow; i < kCharaSetSize; ++i) {
-      Character.CharaSet[i] =
-          static_cast<unsigned char>(RandomBelow(4) == 0 ? RandomBelow(256) : RandomBelow(3));
+    std::string set = RecordBytes(Character.CharaSet);
+    for (std::size_t i = 324; i < set.size(); ++i) {  // from the walks on
+      set[i] = static_cast<char>(RandomBelow(4) == 0 ? RandomBelow(256) : RandomBelow(3));
     }
-    SetWalkRow(Character.CharaSet, 0, RandomBelow(60));
-    SetWalkPeriod(Character.CharaSet, 0, RandomBelow(3));
+    RecordSet(Character.CharaSet, set);
+    Character.CharaSet.WalkRow[0] = static_cast<std::uint16_t>(RandomBelow(60));
+    Character.CharaSet.WalkPeriod[0] = static_cast<std::uint16_t>(RandomBelow(3));
     for (unsigned char& flags : CharaTables.WalkFlags) flags = static_cast<unsigned char>(RandomBelow(8));
     Walk.OpeningState = RandomBelow(4);
     if (WalkStartOpen() != 0) continue;

@@ -5,6 +5,7 @@
 #include "clock_calendar/calendar/calendar.h"
 #include "clock_calendar/calendar/calendar_picture.h"
 #include "clock_calendar/clock_calendar_tick.h"
+#include "platform/diagnostics.h"
 #include "platform/posix/test_clock.h"
 #include "services/random.h"
 #include "services/today.h"
@@ -26,29 +27,29 @@ class CalendarFiguresTest : public CharaFiles {
     Calendar.CalenPageSize = 1;  // the page is 200 wide, its picture 195 high
     CalenYearsSet(26);
     Calendar.CalenYearCount = 1;
-    for (int month = 0; month < 12; ++month) Block(month)[kMonthPictureOn] = 1;
+    for (int month = 0; month < 12; ++month) Picture(month).pictureOn = 1;
   }
   void TearDown() override {
     CalenStickersFree();
     ClearRecords();
     CharaFiles::TearDown();
   }
-  static unsigned char* Block(int month) { return Calendar.CalenMonths[0][month]; }
-  // Gives a place of November a figure: frame 0 of a character, start 50, 60.
-  static void Figure(int place, int chara, int frame = 0, int mode = 0) {
-    unsigned char* definition = Calendar.CalenDefinitions[0];
-    PutLE16(definition + kDefinitionCharas + 2 * (4 * 10 + place), static_cast<std::uint16_t>(chara));
-    definition[kDefinitionFigures + 4 * 10 + place] = static_cast<unsigned char>(frame);
-    definition[kDefinitionFigureModes + 4 * 10 + place] = static_cast<unsigned char>(mode);
-    PutLE32(definition + kDefinitionStartX + 4 * (4 * 10 + place), 50);
-    PutLE32(definition + kDefinitionStartY + 4 * (4 * 10 + place), 60);
+  static CalenMonthPicture& Picture(int month) { return Calendar.CalenMonths[0][month].picture; }
+  // Gives a place of a month a figure: frame 0 of a character, start 50, 60.
+  static void Figure(int place, int chara, int frame = 0, int mode = 0, int month = 10) {
+    CalenDefinition& definition = Calendar.CalenDefinitions[0];
+    definition.charas[month][place] = static_cast<std::uint16_t>(chara);
+    definition.figures[month][place] = static_cast<std::uint8_t>(frame);
+    definition.figureModes[month][place] = static_cast<std::uint8_t>(mode);
+    definition.startX[month][place] = 50;
+    definition.startY[month][place] = 60;
   }
   // Figure 0 is 20 pixels high and takes a step of its height every 50 ticks.
   void Walker(int direction, int stepCode = 5) {
     Put("\\キャラクタ\\Chara5_1.bmp", BmpFile(10, 20));
     Figure(0, 5);
-    Block(10)[kMonthFigDirection] = static_cast<unsigned char>(direction);
-    Block(10)[kMonthFigStep] = static_cast<unsigned char>(stepCode);
+    Picture(10).directions[0] = static_cast<std::uint8_t>(direction);
+    Picture(10).steps[0] = static_cast<std::uint8_t>(stepCode);
     CalenPrepareMonth();
   }
   // Ticks until the figure's next move; returns whether it moved.
@@ -69,7 +70,7 @@ TEST_F(CalendarFiguresTest, BackgroundAndFiguresOfTheMonthAreLoaded) {
   Put("\\キャラクタ\\Chara5_3.bmp", BmpFile(10, 20));
   Put("\\キャラクタ\\Chara5_3x.bmp", BmpFile(10, 20, 255, 255, 255));
   Put("\\キャラクタ\\Chara6_1.bmp", BmpFile(11, 21));
-  std::memcpy(Block(10) + kMonthBackground, "sea.bmp", 8);
+  std::memcpy(Picture(10).background, "sea.bmp", 8);
   Figure(0, 5, 2);
   Figure(2, 6);
   CalenPrepareMonth();
@@ -89,29 +90,94 @@ TEST_F(CalendarFiguresTest, BackgroundAndFiguresOfTheMonthAreLoaded) {
 
 TEST_F(CalendarFiguresTest, ABackgroundIsTakenByItsFullPathAndNotAtAllWithTheColourFlag) {
   Put("\\own.bmp", BmpFile(30, 40));
-  std::memcpy(Block(10) + kMonthBackground, "C:\\mirrell\\own.bmp", 19);
+  std::memcpy(Picture(10).background, "C:\\mirrell\\own.bmp", 19);
   CalenPrepareMonth();
   EXPECT_EQ(DibHeight(CalendarPictures.CalenBackground), 40);
-  Block(10)[kMonthColourOnly] = 1;
+  Picture(10).colourOnly = 1;
   CalenPrepareMonth();
   EXPECT_EQ(CalendarPictures.CalenBackground, nullptr);
-  Block(10)[kMonthColourOnly] = 0;
-  Block(10)[kMonthPictureOn] = 0;
+  Picture(10).colourOnly = 0;
+  Picture(10).pictureOn = 0;
   CalenPrepareMonth();
   EXPECT_EQ(CalendarPictures.CalenBackground, nullptr);
   // A field without a terminator names no file.
-  Block(10)[kMonthPictureOn] = 1;
-  std::memset(Block(10) + kMonthBackground, 'x', kMonthBackgroundSize);
+  Picture(10).pictureOn = 1;
+  std::memset(Picture(10).background, 'x', kMonthBackgroundSize);
   CalenPrepareMonth();
   EXPECT_EQ(CalendarPictures.CalenBackground, nullptr);
 }
 
+// Of the drive in force, and of a drive that is named.
+TEST_F(CalendarFiguresTest, APathFromTheRootIsAFullPathToo) {
+  Put("\\own.bmp", BmpFile(30, 40));
+  std::memcpy(Picture(10).background, "\\mirrell\\own.bmp", 17);
+  CalenPrepareMonth();
+  EXPECT_EQ(DibHeight(CalendarPictures.CalenBackground), 40);
+  // A name that only looks like one is a file of the folder.
+  MakeFolder(InProgram("背景"));
+  Put("\\背景\\own.bmp", BmpFile(30, 41));
+  std::memcpy(Picture(10).background, "own.bmp", 8);
+  CalenPrepareMonth();
+  EXPECT_EQ(DibHeight(CalendarPictures.CalenBackground), 41);
+}
+
+TEST_F(CalendarFiguresTest, ThePicturesOfTheNewMonthAreShownAfterTheMonthsEnd) {
+  Put("\\キャラクタ\\Chara5_1.bmp", BmpFile(10, 20));
+  Put("\\キャラクタ\\Chara6_1.bmp", BmpFile(11, 21));
+  Put("\\キャラクタ\\Chara9_1.bmp", BmpFile(12, 22));
+  Figure(0, 5);
+  Figure(0, 6, 0, 0, 11);
+  Calendar.CalenStickers.count = 1;
+  Calendar.CalenStickers.charas[0] = 9;
+  Calendar.CalenDefinitions[0].stickers[11][3] = 1;
+  CalenPrepareMonth();
+  EXPECT_EQ(DibHeight(CalendarPictures.CalenFigures[0].picture), 20);
+  Calendar.CalenFigPos1[0][0] = 99;  // where it has got to
+  Today.TodayDay = 29;
+  TestClockSet({2026, 12, 1, 2, 0, 0, 0, 0});
+  EXPECT_EQ(CalenTickCheck(), 1);
+  EXPECT_EQ(Calendar.CalenMonthPos, 11);
+  EXPECT_EQ(DibHeight(CalendarPictures.CalenFigures[0].picture), 21);
+  EXPECT_EQ(DibHeight(CalendarPictures.CalenDayStickers[3].picture), 22);
+  EXPECT_EQ(Place(), "50,60");
+}
+
+// Background, two figures with their masks, a sticker with its mask.
+TEST_F(CalendarFiguresTest, PicturesAreFreedWhenOthersComeAndAtTheEnd) {
+  MakeFolder(InProgram("背景"));
+  Put("\\背景\\sea.bmp", BmpFile(30, 40));
+  for (const char* name : {"5_1", "5_1x", "6_1", "6_1x", "9_1", "9_1x"}) {
+    Put(("\\キャラクタ\\Chara" + std::string(name) + ".bmp").c_str(), BmpFile(10, 20));
+  }
+  std::memcpy(Picture(10).background, "sea.bmp", 8);
+  Figure(0, 5);
+  Figure(2, 6);
+  Calendar.CalenStickers.count = 1;
+  Calendar.CalenStickers.charas[0] = 9;
+  Calendar.CalenDefinitions[0].stickers[10][0] = 1;
+  const int blocks = DiagnosticsLive().blocks;
+  CalenPrepareMonth();
+  EXPECT_EQ(DiagnosticsLive().blocks, blocks + 7);
+  CalenPrepareMonth();
+  EXPECT_EQ(DiagnosticsLive().blocks, blocks + 7);
+  Calendar.CalenMonthPos = 3;  // a month without pictures
+  CalenPrepareMonth();
+  EXPECT_EQ(DiagnosticsLive().blocks, blocks);
+  Calendar.CalenMonthPos = 10;
+  CalenPrepareMonth();
+  CalenStickersFree();
+  EXPECT_EQ(DiagnosticsLive().blocks, blocks);
+  EXPECT_EQ(CalendarPictures.CalenBackground, nullptr);
+  EXPECT_EQ(CalendarPictures.CalenFigures[0].picture, nullptr);
+  EXPECT_EQ(CalendarPictures.CalenDayStickers[0].picture, nullptr);
+}
+
 TEST_F(CalendarFiguresTest, StickersOfTheMonthAreLoadedByTheirDays) {
   Put("\\キャラクタ\\Chara9_4.bmp", BmpFile(12, 13));
-  PutLE16(Calendar.CalenStickers, 2);
-  PutLE16(Calendar.CalenStickers + kStickerCharas + 2, 9);
-  Calendar.CalenStickers[kStickerFigures + 1] = 3;
-  unsigned char* days = Calendar.CalenDefinitions[0] + kDefinitionStickers + 32 * 10;
+  Calendar.CalenStickers.count = 2;
+  Calendar.CalenStickers.charas[1] = 9;
+  Calendar.CalenStickers.figures[1] = 3;
+  std::uint8_t(&days)[32] = Calendar.CalenDefinitions[0].stickers[10];
   days[0] = 2;
   days[30] = 2;
   days[5] = 3;  // beyond the list
@@ -170,7 +236,7 @@ TEST_F(CalendarFiguresTest, WithoutADirectionAStepAPictureOrTheSwitchNothingMove
 }
 
 TEST_F(CalendarFiguresTest, ThePeriodOfTheMonthIsWaitedFor) {
-  Block(10)[kMonthFigPeriod] = 1;
+  Picture(10).periods[0] = 1;
   Walker(2);
   for (int tick = 1; tick < 100; ++tick) EXPECT_FALSE(CalenFiguresMove()) << tick;
   EXPECT_TRUE(CalenFiguresMove());
@@ -376,6 +442,19 @@ TEST_F(CalendarNotesTest, TheFirstStepTestsTodaysNoteUntilItHasBeenTaken) {
   EXPECT_STREQ(Calendar.CalenNotes[0].text, "changed");
   EXPECT_EQ(CalenNoteTake(), -1);
   EXPECT_EQ(CalenNoteCheck(), 0);
+}
+
+// The third mark is set with the first look, taken or not.
+TEST_F(CalendarNotesTest, TheNoteOfTheDayAfterTomorrowIsLookedForOnce) {
+  CalenNoteSet(0, 3, 11, "c");
+  Date(2026, 4, 10);
+  EXPECT_EQ(CalenNoteCheck(), 1);
+  EXPECT_EQ(CalenNoteCheck(), 0);
+  EXPECT_EQ(CalenNoteTake(), 2);
+  CalenNoteSet(0, 3, 11, "another");
+  EXPECT_EQ(Announced(), "");
+  Date(2026, 4, 11);
+  EXPECT_EQ(Announced(), "1:another ");
 }
 
 TEST_F(CalendarNotesTest, AClosedAnnouncementComesBackOnlyOnANewDay) {

@@ -13,6 +13,7 @@
 #include "services/text.h"
 #include "services/today.h"
 #include "tests/support/failing_writes.h"
+#include "tests/support/record_check.h"
 #include "tests/support/records.h"
 
 namespace {
@@ -21,9 +22,8 @@ const std::string kName = "C:\\mirrell\\mirrell_calen_file.dcd";
 const std::string kMagic = "Mirrell Calender File:";
 
 std::string BE32(std::uint32_t value) {
-  std::string bytes(4, '\0');
-  PutBE32(bytes.data(), value);
-  return bytes;
+  return {static_cast<char>(value >> 24U), static_cast<char>(value >> 16U), static_cast<char>(value >> 8U),
+          static_cast<char>(value)};
 }
 
 // Random bytes, the same for the same seed.
@@ -88,30 +88,33 @@ TEST_F(CalendarFileTest, EveryPartStandsAtItsOffset) {
   EXPECT_EQ(Bytes(Calendar.CalenParts), file.substr(3926, 30));
   EXPECT_EQ(Bytes(Calendar.CalenPictures), file.substr(3956, 30));
   for (std::size_t i = 0; i < 3; ++i) {
-    EXPECT_TRUE(Bytes(Calendar.CalenSheets[i]) == file.substr(3986 + 56064 * i, 56064)) << i;
-    EXPECT_TRUE(Bytes(Calendar.CalenSheetFlags[i]) == file.substr(3986 + 3 * 56064 + 120 * i, 120)) << i;
-    EXPECT_TRUE(Bytes(Calendar.CalenDefinitions[i]) == file.substr(3986 + 3 * 56184 + 26728 * i, 26728)) << i;
+    EXPECT_TRUE(RecordBytes(Calendar.CalenSheets[i]) == file.substr(3986 + 56064 * i, 56064)) << i;
+    EXPECT_TRUE(RecordBytes(Calendar.CalenSheetFlags[i]) == file.substr(3986 + 3 * 56064 + 120 * i, 120))
+        << i;
+    EXPECT_TRUE(RecordBytes(Calendar.CalenDefinitions[i]) == file.substr(3986 + 3 * 56184 + 26728 * i, 26728))
+        << i;
   }
   const std::size_t tail = 3986 + 3 * (56064 + 120 + 26728);
-  EXPECT_TRUE(Bytes(Calendar.CalenStickers) == file.substr(tail, 302));
+  EXPECT_TRUE(RecordBytes(Calendar.CalenStickers) == file.substr(tail, 302));
   EXPECT_EQ(Clock.ClockListCount, 2);
-  EXPECT_TRUE(Bytes(Clock.ClockList[0]) + Bytes(Clock.ClockList[1]) == file.substr(tail + 306, 208));
-  EXPECT_EQ(Calendar.CalenDefinitions[3][5], 0);
+  EXPECT_TRUE(RecordBytes(Clock.ClockList[0]) + RecordBytes(Clock.ClockList[1]) ==
+              file.substr(tail + 306, 208));
+  EXPECT_EQ(Calendar.CalenDefinitions[3].reserved1[4], 0);
 }
 
 TEST_F(CalendarFileTest, SavingCopiesTheFirstWorkingYearIntoTheSelectedSheetAndSetsTheFirstPictureSwitch) {
   PutFile(kName, WholeFile(3, 2));
   ASSERT_EQ(CalenFileRead(), 0);
   std::string expected = FileBytes(kName);
-  const std::string year = Noise(sizeof Calendar.CalenMonths, 9);
-  const std::string flags = Noise(sizeof Calendar.CalenMonthFlags, 10);
-  std::memcpy(Calendar.CalenMonths, year.data(), year.size());
-  std::memcpy(Calendar.CalenMonthFlags, flags.data(), flags.size());
+  const std::string year = Noise(56064, 9);
+  const std::string flags = Noise(120, 10);
+  RecordSet(Calendar.CalenMonths[0], year);
+  RecordSet(Calendar.CalenMonthFlags[0], flags);
   Calendar.CalenPictures[0] = 0;
   Calendar.CalenSel = 1;
   EXPECT_EQ(CalenFileWrite(), 0);
-  expected.replace(3986 + 56064, 56064, year.substr(0, 56064));
-  expected.replace(3986 + 3 * 56064 + 120, 120, flags.substr(0, 120));
+  expected.replace(3986 + 56064, 56064, year);
+  expected.replace(3986 + 3 * 56064 + 120, 120, flags);
   expected[3956] = 1;
   EXPECT_TRUE(FileBytes(kName) == expected);
 }
@@ -128,12 +131,12 @@ TEST_F(CalendarFileTest, SavingTwiceGivesTheSameFile) {
 
 TEST_F(CalendarFileTest, ASelectionThatIsNoCalendarSavesIntoTheFirstSheet) {
   Calendar.CalenCount = 1;
-  Calendar.CalenMonths[0][0][5] = 77;
+  Calendar.CalenMonths[0][0].holidays[3] = 77;
   for (const int sel : {-1, 30, 2147483647}) {
     Calendar.CalenSel = sel;
-    Calendar.CalenSheets[0][0][5] = 0;
+    Calendar.CalenSheets[0][0].holidays[3] = 0;
     EXPECT_EQ(CalenFileWrite(), 0);
-    EXPECT_EQ(Calendar.CalenSheets[0][0][5], 77) << sel;
+    EXPECT_EQ(Calendar.CalenSheets[0][0].holidays[3], 77) << sel;
   }
 }
 
@@ -197,7 +200,8 @@ TEST_F(CalendarFileTest, ThirtyCalendarsFit) {
   PutFile(kName, file);
   EXPECT_EQ(CalenFileRead(), 0);
   EXPECT_EQ(Calendar.CalenCount, 30);
-  EXPECT_TRUE(Bytes(Calendar.CalenDefinitions[29]) == file.substr(3986 + 30 * 56184 + 29 * 26728, 26728));
+  EXPECT_TRUE(RecordBytes(Calendar.CalenDefinitions[29]) ==
+              file.substr(3986 + 30 * 56184 + 29 * 26728, 26728));
 }
 
 TEST_F(CalendarFileTest, FromTheDefinitionsOnAShortFileIsFilledWithZeros) {
@@ -205,30 +209,30 @@ TEST_F(CalendarFileTest, FromTheDefinitionsOnAShortFileIsFilledWithZeros) {
   const std::size_t definitions = 3986 + 2 * 56184;
   const std::size_t stickers = definitions + 2 * 26728;
   const auto fill = [] {
-    std::memset(Calendar.CalenDefinitions, 'o', sizeof Calendar.CalenDefinitions);
-    std::memset(Calendar.CalenStickers, 'o', sizeof Calendar.CalenStickers);
-    std::memset(Clock.ClockList, 'o', sizeof Clock.ClockList);
+    RecordFill(Calendar.CalenDefinitions, 'o');
+    RecordFill(Calendar.CalenStickers, 'o');
+    RecordFill(Clock.ClockList, 'o');
     Clock.ClockListCount = 3;
   };
   fill();
   PutFile(kName, file.substr(0, definitions));
   EXPECT_EQ(CalenFileRead(), 0);
-  EXPECT_TRUE(Bytes(Calendar.CalenDefinitions[0]) == std::string(26728, '\0'));
-  EXPECT_TRUE(Bytes(Calendar.CalenDefinitions[1]) == std::string(26728, '\0'));
-  EXPECT_EQ(Calendar.CalenDefinitions[2][0], 'o');
-  EXPECT_TRUE(Bytes(Calendar.CalenStickers) == std::string(302, '\0'));
+  EXPECT_TRUE(RecordBytes(Calendar.CalenDefinitions[0]) == std::string(26728, '\0'));
+  EXPECT_TRUE(RecordBytes(Calendar.CalenDefinitions[1]) == std::string(26728, '\0'));
+  EXPECT_EQ(Calendar.CalenDefinitions[2].valid, 'o');
+  EXPECT_TRUE(RecordBytes(Calendar.CalenStickers) == std::string(302, '\0'));
   EXPECT_EQ(Clock.ClockListCount, 0);
   fill();
   PutFile(kName, file.substr(0, definitions + 26728 + 100));
   EXPECT_EQ(CalenFileRead(), 0);
-  EXPECT_TRUE(Bytes(Calendar.CalenDefinitions[0]) == file.substr(definitions, 26728));
-  EXPECT_TRUE(Bytes(Calendar.CalenDefinitions[1]) == std::string(26728, '\0'));
+  EXPECT_TRUE(RecordBytes(Calendar.CalenDefinitions[0]) == file.substr(definitions, 26728));
+  EXPECT_TRUE(RecordBytes(Calendar.CalenDefinitions[1]) == std::string(26728, '\0'));
   fill();
   PutFile(kName, file.substr(0, stickers + 302 + 4 + 103));
   EXPECT_EQ(CalenFileRead(), 0);
-  EXPECT_TRUE(Bytes(Calendar.CalenStickers) == file.substr(stickers, 302));
+  EXPECT_TRUE(RecordBytes(Calendar.CalenStickers) == file.substr(stickers, 302));
   EXPECT_EQ(Clock.ClockListCount, 1);
-  EXPECT_TRUE(Bytes(Clock.ClockList[0]) == std::string(104, '\0'));
+  EXPECT_TRUE(RecordBytes(Clock.ClockList[0]) == std::string(104, '\0'));
 }
 
 TEST_F(CalendarFileTest, EveryTruncationIsToldAndLeavesTheCalendarsUpToTheDefinitions) {
@@ -242,14 +246,14 @@ TEST_F(CalendarFileTest, EveryTruncationIsToldAndLeavesTheCalendarsUpToTheDefini
     const bool near = size < 4100 || (size > strict - 300 && size < strict + 300) || size > file.size() - 600;
     if (near || size % 97 == 0) sizes.push_back(size);
   }
-  std::memset(Calendar.CalenSheets[0], 'o', sizeof Calendar.CalenSheets[0]);
+  RecordFill(Calendar.CalenSheets[0], 'o');
   for (const std::size_t size : sizes) {
     ASSERT_EQ(truncate(native.c_str(), static_cast<off_t>(size)), 0);
     if (size < strict) {
       Calendar.CalenCount = 7;
       TextCopy(Calendar.CalenNames[0], kCalenNameSize, "old");
-      Calendar.CalenSheets[0][0][0] = Calendar.CalenSheets[0][11][4671] = 'o';
-      Calendar.CalenSheetFlags[0][0][0] = 'o';
+      Calendar.CalenSheets[0][0].days = Calendar.CalenSheets[0][11].picture.starts[1] = 'o';
+      Calendar.CalenSheetFlags[0][0].choices[0] = 'o';
     }
     const int result = CalenFileRead();
     ASSERT_EQ(result, size >= strict ? 0 : size < 22 ? -1 : -2) << size;
@@ -257,9 +261,9 @@ TEST_F(CalendarFileTest, EveryTruncationIsToldAndLeavesTheCalendarsUpToTheDefini
     if (size < strict) {
       ASSERT_EQ(Calendar.CalenCount, 7) << size;
       ASSERT_STREQ(Calendar.CalenNames[0], "old") << size;
-      ASSERT_EQ(Calendar.CalenSheets[0][0][0], 'o') << size;
-      ASSERT_EQ(Calendar.CalenSheets[0][11][4671], 'o') << size;
-      ASSERT_EQ(Calendar.CalenSheetFlags[0][0][0], 'o') << size;
+      ASSERT_EQ(Calendar.CalenSheets[0][0].days, 'o') << size;
+      ASSERT_EQ(Calendar.CalenSheets[0][11].picture.starts[1], 'o') << size;
+      ASSERT_EQ(Calendar.CalenSheetFlags[0][0].choices[0], 'o') << size;
     }
   }
 }
@@ -327,9 +331,9 @@ TEST_F(CalendarFileTest, EveryFailingCallOfTheWriterGivesItsResult) {
   Calendar.CalenCount = 2;
   Clock.ClockListCount = 1;
   const int calls = FailingWrites(CalenFileWrite, -2);
-  // Magic, count, 30 names, three tables; 12 months, 12 records and a definition
-  // for each calendar; stickers, the list's count and its record.
-  EXPECT_EQ(calls, 2 + 30 + 3 + 2 * 25 + 3);
+  // Magic and head; for each calendar its months in batches of three, its choices and
+  // its definition; stickers, the list's count and the list.
+  EXPECT_EQ(calls, 2 + 2 * (4 + 1 + 1) + 3);
   FaultArm(FaultKind::Create, 1);
   EXPECT_EQ(CalenFileWrite(), -1);
   EXPECT_EQ(FileResult.FileStatus, -1);
@@ -342,7 +346,7 @@ TEST_F(CalendarFileTest, EveryFailingCallOfTheWriterGivesItsResult) {
 
 TEST_F(CalendarFileTest, EveryFailingReadUpToTheDefinitionsLeavesTheCalendars) {
   PutFile(kName, WholeFile(1, 1));
-  const int strict = 2 + 30 + 3 + 24;
+  const int strict = 2 + 4 + 1;  // magic, head, months, choices
   for (int nth = 1; nth <= strict; ++nth) {
     Calendar.CalenCount = 9;
     FaultArm(FaultKind::Read, nth);
@@ -356,21 +360,37 @@ TEST_F(CalendarFileTest, EveryFailingReadUpToTheDefinitionsLeavesTheCalendars) {
   EXPECT_EQ(Calendar.CalenCount, 1);
 }
 
-TEST_F(CalendarFileTest, AfterTheLoadTodaysYearIsOnDisplayWhateverTheSettingsFileSaid) {
+TEST_F(CalendarFileTest, AfterTheLoadTodayIsOnDisplayIfItIsInTheSpan) {
   PutFile(kName, WholeFile(1, 0));
-  for (const std::int32_t first : {20, -2147483647 - 1, 2147483647}) {
-    Calendar.CalenFirstYear = first;
-    Calendar.CalenYearPos = 1;
-    EXPECT_EQ(CalenFileRead(), 0);
-    EXPECT_EQ(Calendar.CalenFirstYear, 26) << first;
-    EXPECT_EQ(Calendar.CalenYearPos, 0) << first;
-    EXPECT_EQ(Calendar.CalenMonths[0][10][kMonthFirstWeekday], 6) << first;
-  }
+  Today.TodayMonth = 10;
   CalenYearsSet(25);
   Calendar.CalenYearCount = 2;
   EXPECT_EQ(CalenFileRead(), 0);
   EXPECT_EQ(Calendar.CalenFirstYear, 25);
   EXPECT_EQ(Calendar.CalenYearPos, 1);
+  EXPECT_EQ(Calendar.CalenMonthPos, 10);
+}
+
+// The span is the user's: only the window moves it, and only to show a month.
+TEST_F(CalendarFileTest, TheLoadMovesNoSpanWhenTodayLiesOutside) {
+  PutFile(kName, WholeFile(1, 0));
+  Today.TodayMonth = 10;
+  for (const std::int32_t first : {20, 27, -2147483647 - 1, 2147483647}) {
+    Calendar.CalenFirstYear = first;
+    Calendar.CalenYears[0] = 77;
+    Calendar.CalenYearPos = 0;
+    Calendar.CalenMonths[0][10].firstWeekday = 5;
+    EXPECT_EQ(CalenFileRead(), 0);
+    EXPECT_EQ(Calendar.CalenFirstYear, first);
+    EXPECT_EQ(Calendar.CalenYearCount, 1) << first;
+    EXPECT_EQ(Calendar.CalenYears[0], 77) << first;
+    EXPECT_EQ(Calendar.CalenYearPos, 0) << first;
+    EXPECT_EQ(Calendar.CalenMonths[0][10].firstWeekday, 5) << first;
+  }
+  Calendar.CalenFirstYear = 20;
+  CalenShowToday();
+  EXPECT_EQ(Calendar.CalenFirstYear, 26);
+  EXPECT_EQ(Calendar.CalenMonths[0][10].firstWeekday, 6);
 }
 
 TEST_F(CalendarFileTest, AfterTheLoadTheTickerIsThatOfTheSelectedCalendar) {

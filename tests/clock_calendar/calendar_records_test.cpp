@@ -5,12 +5,10 @@
 TEST(CalendarRecords, LieAsTold) {
   RecordCheck<CalenMonthPicture>();
   RecordCheck<CalenMonth>();
-  RecordCheck<CalenSheet>();
-  RecordCheck<CalenMonthFlags>();
-  RecordCheck<CalenSheetFlags>();
+  RecordCheck<CalenMonthChoices>();
   RecordCheck<CalenFont>();
   RecordCheck<CalenRuleParameters>();
-  RecordCheck<CalenDefinitionRecord>();
+  RecordCheck<CalenDefinition>();
   RecordCheck<CalenStickerList>();
   RecordCheck<CalenHead>();
 }
@@ -49,27 +47,27 @@ TEST(CalendarRecords, ANoteKeepsAllItsBytes) {
 }
 
 TEST(CalendarRecords, ADefinitionHasItsFieldsInTheirPlaces) {
-  EXPECT_EQ(RecordOffset<&CalenDefinitionRecord::valid>(), 0);
-  EXPECT_EQ(RecordOffset<&CalenDefinitionRecord::charas>(), 12);
-  EXPECT_EQ(RecordOffset<&CalenDefinitionRecord::figures>(), 108);
-  EXPECT_EQ(RecordOffset<&CalenDefinitionRecord::figureModes>(), 156);
-  EXPECT_EQ(RecordOffset<&CalenDefinitionRecord::startX>(), 204);
-  EXPECT_EQ(RecordOffset<&CalenDefinitionRecord::startY>(), 396);
-  EXPECT_EQ(RecordOffset<&CalenDefinitionRecord::ruleKinds>(), 588);
-  EXPECT_EQ(RecordOffset<&CalenDefinitionRecord::reserved2>() + 11680, 12633);  // ruleParameters
-  EXPECT_EQ(RecordOffset<&CalenDefinitionRecord::reserved3>(), 12633 + 730);
-  EXPECT_EQ(RecordOffset<&CalenDefinitionRecord::colour1>(), 26138);
-  EXPECT_EQ(RecordOffset<&CalenDefinitionRecord::colour2>(), 26141);
-  EXPECT_EQ(RecordOffset<&CalenDefinitionRecord::design>(), 26144);
-  EXPECT_EQ(RecordOffset<&CalenDefinitionRecord::figureSet1>(), 26208);  // the font is the 60 bytes before
-  EXPECT_EQ(RecordOffset<&CalenDefinitionRecord::figureSet2>(), 26210);
-  EXPECT_EQ(RecordOffset<&CalenDefinitionRecord::tickerPause>(), 26227);
-  EXPECT_EQ(RecordOffset<&CalenDefinitionRecord::tickerSpeed>(), 26228);
-  EXPECT_EQ(RecordOffset<&CalenDefinitionRecord::tickerFlags>(), 26229);
-  EXPECT_EQ(RecordOffset<&CalenDefinitionRecord::tickerPlace>(), 26230);
-  EXPECT_EQ(RecordOffset<&CalenDefinitionRecord::tickerColour>(), 26234);
-  EXPECT_EQ(RecordOffset<&CalenDefinitionRecord::stickers>(), 26301);
-  EXPECT_EQ(RecordOffset<&CalenDefinitionRecord::english>(), 26688);
+  EXPECT_EQ(RecordOffset<&CalenDefinition::valid>(), 0);
+  EXPECT_EQ(RecordOffset<&CalenDefinition::charas>(), 12);
+  EXPECT_EQ(RecordOffset<&CalenDefinition::figures>(), 108);
+  EXPECT_EQ(RecordOffset<&CalenDefinition::figureModes>(), 156);
+  EXPECT_EQ(RecordOffset<&CalenDefinition::startX>(), 204);
+  EXPECT_EQ(RecordOffset<&CalenDefinition::startY>(), 396);
+  EXPECT_EQ(RecordOffset<&CalenDefinition::ruleKinds>(), 588);
+  EXPECT_EQ(RecordOffset<&CalenDefinition::reserved2>() + 11680, 12633);  // ruleParameters
+  EXPECT_EQ(RecordOffset<&CalenDefinition::reserved3>(), 12633 + 730);
+  EXPECT_EQ(RecordOffset<&CalenDefinition::colour1>(), 26138);
+  EXPECT_EQ(RecordOffset<&CalenDefinition::colour2>(), 26141);
+  EXPECT_EQ(RecordOffset<&CalenDefinition::design>(), 26144);
+  EXPECT_EQ(RecordOffset<&CalenDefinition::figureSet1>(), 26208);  // the font is the 60 bytes before
+  EXPECT_EQ(RecordOffset<&CalenDefinition::figureSet2>(), 26210);
+  EXPECT_EQ(RecordOffset<&CalenDefinition::tickerPause>(), 26227);
+  EXPECT_EQ(RecordOffset<&CalenDefinition::tickerSpeed>(), 26228);
+  EXPECT_EQ(RecordOffset<&CalenDefinition::tickerFlags>(), 26229);
+  EXPECT_EQ(RecordOffset<&CalenDefinition::tickerPlace>(), 26230);
+  EXPECT_EQ(RecordOffset<&CalenDefinition::tickerColour>(), 26234);
+  EXPECT_EQ(RecordOffset<&CalenDefinition::stickers>(), 26301);
+  EXPECT_EQ(RecordOffset<&CalenDefinition::english>(), 26688);
   EXPECT_EQ(RecordOffset<&CalenStickerList::charas>(), 2);
   EXPECT_EQ(RecordOffset<&CalenStickerList::figures>(), 202);
 }

@@ -7,6 +7,7 @@
 
 #include "platform/posix/test_clock.h"
 #include "services/today.h"
+#include "tests/support/record_check.h"
 #include "tests/support/records.h"
 
 namespace {
@@ -63,26 +64,27 @@ TEST(SclDates, TheFirstWeekdayOfAYearAbove99OrAMonthAbove11IsMinus1) {
 
 TEST_F(CalendarTest, AFreshYearHasLengthsWeekdaysAndSundaysAndNoNotes) {
   CalenYearsSet(26);
-  std::memset(Calendar.CalenMonths[1], 'x', sizeof Calendar.CalenMonths[1]);
+  RecordFill(Calendar.CalenMonths[1], 'x');
   CalenYearInit(1);
   const int kFirst2027[] = {4, 0, 0, 3, 5, 1, 3, 6, 2, 4, 0, 2};
   for (int month = 0; month < 12; ++month) {
-    const unsigned char* block = Calendar.CalenMonths[1][month];
+    const std::string block = RecordBytes(Calendar.CalenMonths[1][month]);
     EXPECT_EQ(block[0], SclDaysInMonth(27, month)) << month;
     EXPECT_EQ(block[1], kFirst2027[month]) << month;
     for (int day = 0; day < 32; ++day) {
       const bool sunday = day < block[0] && (kFirst2027[month] + day) % 7 == 6;
       EXPECT_EQ(block[2 + day], sunday ? 1 : 0) << month << " " << day;
     }
-    for (int i = 0; i < 4096; ++i) ASSERT_EQ(block[34 + i], 0);
+    ASSERT_EQ(block.substr(34, 4096), std::string(4096, '\0'));
+    ASSERT_EQ(block.substr(4130), std::string(542, 'x'));
   }
-  EXPECT_EQ(Calendar.CalenMonths[0][0][0], 0);
+  EXPECT_EQ(Calendar.CalenMonths[0][0].days, 0);
 }
 
 TEST_F(CalendarTest, ABuildOfAYearThatIsNotThereDoesNothing) {
   CalenYearInit(-1);
   CalenYearInit(3);
-  for (const auto& year : Calendar.CalenMonths) EXPECT_EQ(year[0][0], 0);
+  for (const auto& year : Calendar.CalenMonths) EXPECT_EQ(year[0].days, 0);
 }
 
 TEST_F(CalendarTest, YearsOf100OrMoreAreListedAs100) {
@@ -92,7 +94,7 @@ TEST_F(CalendarTest, YearsOf100OrMoreAreListedAs100) {
   EXPECT_EQ(Calendar.CalenYears[1], 99);
   EXPECT_EQ(Calendar.CalenYears[2], 100);
   CalenYearInit(2);
-  EXPECT_EQ(Calendar.CalenMonths[2][1][0], 29);
+  EXPECT_EQ(Calendar.CalenMonths[2][1].days, 29);
 }
 
 TEST_F(CalendarTest, ASpanOf3YearsFrom2098IsCutTo2Years) {
@@ -116,8 +118,8 @@ TEST_F(CalendarTest, AnotherSpanRebuildsTheMonthTablesKeepsTheNotesAndGoesToItsF
   EXPECT_EQ(Calendar.CalenFirstYear, 27);
   EXPECT_EQ(Calendar.CalenYearCount, 2);
   EXPECT_EQ(Note(0, 3, 4), "birthday");
-  EXPECT_EQ(Calendar.CalenMonths[0][0][1], 4);
-  EXPECT_EQ(Calendar.CalenMonths[1][1][0], 29);
+  EXPECT_EQ(Calendar.CalenMonths[0][0].firstWeekday, 4);
+  EXPECT_EQ(Calendar.CalenMonths[1][1].days, 29);
   // The Sundays are those of 2027, the other holiday stays.
   EXPECT_TRUE(CalenHolidayFlag(0, 0, 0));
   EXPECT_TRUE(CalenHolidayFlag(0, 0, 2));   // 3 January 2027
@@ -140,11 +142,11 @@ TEST_F(CalendarTest, TheFirstStartMakesThreeCalendarsOfOneYearFromThisYearOn) {
   EXPECT_STREQ(Calendar.CalenNames[2], "日めくりカレンダー");
   EXPECT_EQ(Calendar.CalenKinds[1], kPageWeek);
   for (int i = 0; i < 3; ++i) {
-    EXPECT_EQ(Calendar.CalenMonths[i][0][1], SclFirstWeekday(26 + i, 0)) << i;
-    EXPECT_EQ(Calendar.CalenSheets[i][10][1], 6) << i;
-    EXPECT_EQ(Calendar.CalenDefinitions[i][0], 1) << i;
+    EXPECT_EQ(Calendar.CalenMonths[i][0].firstWeekday, SclFirstWeekday(26 + i, 0)) << i;
+    EXPECT_EQ(Calendar.CalenSheets[i][10].firstWeekday, 6) << i;
+    EXPECT_EQ(Calendar.CalenDefinitions[i].valid, 1) << i;
   }
-  EXPECT_EQ(Calendar.CalenDefinitions[3][0], 0);
+  EXPECT_EQ(Calendar.CalenDefinitions[3].valid, 0);
 }
 
 TEST_F(CalendarTest, ASheetGoesOverEachYearButKeepsHolidaysAndNotes) {
@@ -154,19 +156,18 @@ TEST_F(CalendarTest, ASheetGoesOverEachYearButKeepsHolidaysAndNotes) {
     CalenHolidayFlagSet(i, 5, 1, true);
   }
   Calendar.CalenSel = 4;
-  std::memset(Calendar.CalenSheets[4], 's', sizeof Calendar.CalenSheets[4]);
-  std::memset(Calendar.CalenSheetFlags[4], 'f', sizeof Calendar.CalenSheetFlags[4]);
+  RecordFill(Calendar.CalenSheets[4], 's');
+  RecordFill(Calendar.CalenSheetFlags[4], 'f');
   CalenUseSheet();
   for (int i = 0; i < 3; ++i) {
     EXPECT_EQ(Note(i, 5, 6), "kept");
     EXPECT_TRUE(CalenHolidayFlag(i, 5, 1));
     for (int month = 0; month < 12; ++month) {
-      EXPECT_EQ(Calendar.CalenMonths[i][month][kMonthPicture], 's');
-      EXPECT_EQ(Calendar.CalenMonths[i][month][kMonthBlockSize - 1], 's');
-      EXPECT_EQ(Calendar.CalenMonths[i][month][kMonthDays], SclDaysInMonth(26 + i, month));
-      EXPECT_EQ(Calendar.CalenMonths[i][month][kMonthFirstWeekday], SclFirstWeekday(26 + i, month));
-      EXPECT_EQ(Calendar.CalenMonthFlags[i][month][0], 'f');
-      EXPECT_EQ(Calendar.CalenMonthFlags[i][month][9], 'f');
+      EXPECT_EQ(RecordBytes(Calendar.CalenMonths[i][month].picture), std::string(542, 's'));
+      EXPECT_EQ(Calendar.CalenMonths[i][month].days, SclDaysInMonth(26 + i, month));
+      EXPECT_EQ(Calendar.CalenMonths[i][month].firstWeekday, SclFirstWeekday(26 + i, month));
+      EXPECT_EQ(Calendar.CalenMonthFlags[i][month].choices[0], 'f');
+      EXPECT_EQ(Calendar.CalenMonthFlags[i][month].choices[9], 'f');
     }
   }
   EXPECT_EQ(Calendar.CalenPictures[4], 1);
@@ -186,7 +187,7 @@ TEST_F(CalendarTest, IndexesOutOfTheTablesAreHarmless) {
   }
   for (const int sel : {-1, 30, 2147483647}) {
     Calendar.CalenSel = sel;
-    EXPECT_EQ(CalenDefinition(), Calendar.CalenDefinitions[0]);
+    EXPECT_EQ(&CalenSelectedDefinition(), &Calendar.CalenDefinitions[0]);
   }
   for (const int pos : {-1, 3, 2147483647}) {
     Calendar.CalenYearPos = pos;
@@ -204,7 +205,7 @@ TEST_F(CalendarTest, ANoteHoldsUpTo127BytesAndNeverHalfAPair) {
   CalenNoteSet(0, 0, 31, "");
   EXPECT_EQ(Note(0, 0, 31), "");
   // A field without a terminator is read to its end.
-  std::memset(Calendar.CalenMonths[0][0] + kMonthNotes, 'q', kNoteSize);
+  RecordFill(Calendar.CalenMonths[0][0], 'q');
   EXPECT_EQ(Note(0, 0, 0), std::string(128, 'q'));
 }
 
@@ -224,9 +225,9 @@ TEST_F(CalendarTest, TheSpanTellsTheIndexOfAYear) {
 }
 
 TEST_F(CalendarTest, StickersComeOutOfTheListHeldInside100) {
-  PutLE16(Calendar.CalenStickers, 2);
-  PutLE16(Calendar.CalenStickers + 2 + 2, 0x0102);
-  Calendar.CalenStickers[202 + 1] = 9;
+  Calendar.CalenStickers.count = 2;
+  Calendar.CalenStickers.charas[1] = 0x0102;
+  Calendar.CalenStickers.figures[1] = 9;
   int chara = -1;
   int figure = -1;
   CalenSticker(1, &chara, &figure);
@@ -237,14 +238,14 @@ TEST_F(CalendarTest, StickersComeOutOfTheListHeldInside100) {
     EXPECT_EQ(chara, 0) << place;
     EXPECT_EQ(figure, 0) << place;
   }
-  PutLE16(Calendar.CalenStickers, 65535);
+  Calendar.CalenStickers.count = 65535;
   EXPECT_EQ(CalenStickerCount(), 100);
 }
 
 TEST_F(CalendarTest, TheTickerPauseCodesHaveTheirRests) {
   const int kRests[] = {1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 15, 30, 60, 120, 1};
   for (int code = 0; code < 15; ++code) {
-    Calendar.CalenDefinitions[0][kDefinitionTickerPause] = static_cast<unsigned char>(code);
+    Calendar.CalenDefinitions[0].tickerPause = static_cast<unsigned char>(code);
     CalenTickerSetup();
     EXPECT_EQ(Calendar.CalenTickerPause, kRests[code]) << code;
   }
@@ -262,10 +263,9 @@ class CalendarHolidayTest : public CalendarTest {
     Span(26, 3);  // 2026, 2027, 2028 (a leap year)
   }
   void Rule(int kind, int month = 0, int value = 0) {
-    Calendar.CalenDefinitions[0][kDefinitionRules + rules_] = static_cast<unsigned char>(kind);
-    Calendar.CalenDefinitions[0][kDefinitionRuleParameters + 2 * rules_] = static_cast<unsigned char>(month);
-    Calendar.CalenDefinitions[0][kDefinitionRuleParameters + 2 * rules_ + 1] =
-        static_cast<unsigned char>(value);
+    Calendar.CalenDefinitions[0].ruleKinds[rules_] = static_cast<std::uint8_t>(kind);
+    Calendar.CalenDefinitions[0].ruleParameters[rules_] = {static_cast<std::uint8_t>(month),
+                                                           static_cast<std::uint8_t>(value)};
     ++rules_;
   }
   // The days of a month that a variant calls holidays, "day:answer", days from 1.
@@ -352,7 +352,7 @@ TEST_F(CalendarHolidayTest, WeekdaysAreThoseOfTheYearOnDisplayWhateverYearIsAske
 TEST_F(CalendarHolidayTest, EverySuchWeekdayIsAHolidayByWeekday) {
   Rule(3);  // Mondays
   EXPECT_EQ(Days(0, 11, HolidayUse::Display), "2:2 9:2 16:2 23:2 30:2 ");
-  Calendar.CalenDefinitions[0][kDefinitionRules] = 9;  // Sundays
+  Calendar.CalenDefinitions[0].ruleKinds[0] = 9;  // Sundays
   EXPECT_EQ(Days(0, 11, HolidayUse::Schedule), "1:2 8:2 15:2 22:2 29:2 ");
 }
 
@@ -390,7 +390,7 @@ TEST_F(CalendarHolidayTest, All365RulesAreWalkedAndNotOneMore) {
   Rule(1, 12, 24);
   EXPECT_EQ(Days(0, 12, HolidayUse::Display), "24:1 ");
   // The byte behind the rules belongs to something else.
-  Calendar.CalenDefinitions[0][kDefinitionRules + 365] = 3;
+  Calendar.CalenDefinitions[0].reserved2[0] = 3;
   EXPECT_EQ(Days(0, 11, HolidayUse::Display), "");
 }
 
@@ -465,7 +465,7 @@ TEST_F(CalendarTest, ANewYearOutsideTheSpanBecomesItsFirstYear) {
   EXPECT_EQ(Calendar.CalenFirstYear, 27);
   EXPECT_EQ(Calendar.CalenYears[0], 27);
   EXPECT_EQ(Calendar.CalenYears[1], 28);
-  EXPECT_EQ(Calendar.CalenMonths[0][0][kMonthFirstWeekday], 4);
+  EXPECT_EQ(Calendar.CalenMonths[0][0].firstWeekday, 4);
 }
 
 TEST_F(CalendarTest, APlaceOutOfTheSettingsFileBringsASpanThatHoldsIt) {

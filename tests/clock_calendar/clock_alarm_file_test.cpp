@@ -9,6 +9,7 @@
 #include "platform/posix/posix_paths.h"
 #include "services/data_file.h"
 #include "tests/support/failing_writes.h"
+#include "tests/support/record_check.h"
 #include "tests/support/records.h"
 
 namespace {
@@ -17,9 +18,8 @@ const std::string kName = "C:\\mirrell\\mirrell_ClcAlmPerFile.clc";
 const std::string kMagic = "Mirrell Clock Alarm File:";
 
 std::string BE32(std::uint32_t value) {
-  std::string bytes(4, '\0');
-  PutBE32(bytes.data(), value);
-  return bytes;
+  return {static_cast<char>(value >> 24U), static_cast<char>(value >> 16U), static_cast<char>(value >> 8U),
+          static_cast<char>(value)};
 }
 
 void PutText(std::string& record, std::size_t at, const std::string& text) {
@@ -53,7 +53,7 @@ std::string DefaultFile() {
 class ClockAlarmFileTest : public RecordsTest {
  protected:
   static std::string Table(int count = 3) {
-    return {reinterpret_cast<const char*>(Clock.ClockPerformances), static_cast<std::size_t>(2008 * count)};
+    return RecordBytes(Clock.ClockPerformances).substr(0, static_cast<std::size_t>(2008 * count));
   }
 };
 
@@ -71,7 +71,7 @@ TEST_F(ClockAlarmFileTest, TheFileContentNeverReachesTheProgram) {
   EXPECT_EQ(Clock.ClockPerformanceCount, 3);
   EXPECT_TRUE(Table() == DefaultRecords());
   // Nor does a changed table reach the file.
-  std::memset(Clock.ClockPerformances, 'x', sizeof Clock.ClockPerformances);
+  RecordFill(Clock.ClockPerformances, 'x');
   Clock.ClockPerformanceCount = 7;
   EXPECT_EQ(ClockAlarmFileWrite(), 0);
   EXPECT_TRUE(FileBytes(kName) == DefaultFile());
@@ -80,25 +80,19 @@ TEST_F(ClockAlarmFileTest, TheFileContentNeverReachesTheProgram) {
 
 TEST_F(ClockAlarmFileTest, ARecordGivesItsFields) {
   ClockAlarmFileWrite();
-  char sound[kPerformanceSoundSize + 1];
-  char title[kPerformanceTitleSize + 1];
-  EXPECT_EQ(PerformanceFlags(Clock.ClockPerformances[0]), 1U);
-  EXPECT_EQ(PerformanceFigureMode(Clock.ClockPerformances[0]), 5);
-  EXPECT_EQ(PerformanceDuration(Clock.ClockPerformances[0], 19), 90);
-  EXPECT_EQ(PerformanceDuration(Clock.ClockPerformances[1], 17), 1000);
-  EXPECT_EQ(PerformanceDuration(Clock.ClockPerformances[1], 18), 0);
-  EXPECT_EQ(PerformanceFigureMode(Clock.ClockPerformances[2]), 0);
-  PerformanceSound(Clock.ClockPerformances[0], sound);
-  EXPECT_STREQ(sound, "kan.wav");
-  PerformanceSound(Clock.ClockPerformances[1], sound);
-  EXPECT_STREQ(sound, "");
-  PerformanceTitle(Clock.ClockPerformances[2], title);
-  EXPECT_STREQ(title, "音のみ");
-  std::memset(Clock.ClockPerformances[2], 'x', kPerformanceSize);
-  PerformanceSound(Clock.ClockPerformances[2], sound);
-  EXPECT_EQ(std::strlen(sound), 1500U);
-  PerformanceTitle(Clock.ClockPerformances[2], title);
-  EXPECT_EQ(std::strlen(title), 80U);
+  const ClockPerformance(&records)[kPerformanceMax] = Clock.ClockPerformances;
+  EXPECT_EQ(records[0].flags, 1);
+  EXPECT_EQ(records[0].figureMode, 5);
+  EXPECT_EQ(records[0].durations[19], 90);
+  EXPECT_EQ(records[1].durations[17], 1000);
+  EXPECT_EQ(records[1].durations[18], 0);
+  EXPECT_EQ(records[2].figureMode, 0);
+  EXPECT_STREQ(records[0].sound, "kan.wav");
+  EXPECT_STREQ(records[1].sound, "");
+  EXPECT_STREQ(records[2].title, "音のみ");
+  RecordFill(Clock.ClockPerformances[2], 'x');
+  EXPECT_EQ(std::strlen(records[2].sound), 1500U);
+  EXPECT_EQ(std::strlen(records[2].title), 80U);
 }
 
 TEST_F(ClockAlarmFileTest, AMissingFileGivesMinus1AndIsSilentlyMadeNewByTheLoad) {
@@ -136,7 +130,7 @@ TEST_F(ClockAlarmFileTest, EveryTruncationGivesMinus2AndLeavesTheTable) {
   const std::string file = DefaultFile();
   PutFile(kName, file);
   const std::string native = PosixPath(kName.c_str());
-  std::memset(Clock.ClockPerformances, 'k', sizeof Clock.ClockPerformances);
+  RecordFill(Clock.ClockPerformances, 'k');
   Clock.ClockPerformanceCount = 2;
   const std::string before = Table(kPerformanceMax);
   for (std::size_t size = file.size(); size-- > 0;) {
@@ -174,7 +168,7 @@ TEST_F(ClockAlarmFileTest, RandomMutationsGive0OrMinus2AndTheTableHoldsTheDefaul
 }
 
 TEST_F(ClockAlarmFileTest, EveryFailingCallOfTheWriterGivesItsResult) {
-  EXPECT_EQ(FailingWrites(ClockAlarmFileWrite, -2), 5);  // magic, count, three records
+  EXPECT_EQ(FailingWrites(ClockAlarmFileWrite, -2), 3);  // magic, count, the records
   FaultArm(FaultKind::Create, 1);
   EXPECT_EQ(ClockAlarmFileWrite(), -1);
   FaultClear();

@@ -21,11 +21,11 @@ class ClockNoticeTest : public NoticesTest {
     Character.AlarmCharaSel[2] = 2;
   }
   static void Alarm(int slot, int performance, const char* comment) {
-    AlarmSlot alarm{};
-    alarm.enabled = true;
-    alarm.performance = performance;
+    AlarmSlot& alarm = Clock.ClockEvents[slot];
+    alarm = AlarmSlot{};
+    alarm.enabled = 1;
+    alarm.performance = static_cast<std::uint16_t>(performance);
     TextCopy(alarm.comment, sizeof alarm.comment, comment);
-    AlarmSlotPut(slot, alarm);
     Clock.ClockAlarmSlot = slot;
   }
   static int ClientWidth() { return WindowClientRect(ClockNotice.hClockNoticeWnd).right; }

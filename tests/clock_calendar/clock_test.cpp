@@ -8,6 +8,7 @@
 
 #include "character/character_tables.h"
 #include "services/text.h"
+#include "tests/support/record_check.h"
 #include "tests/support/records.h"
 #include "world/world_list.h"
 
@@ -17,15 +18,15 @@ class ClockTest : public RecordsTest {
  protected:
   // Design 0 with hands of 40 and 60 pixels, made the current one.
   static void Design(int hand) {
-    ClockDesignFields fields{};
-    fields.hand = hand;
+    ClockDesignRecord fields{};
+    fields.hand = static_cast<std::uint8_t>(hand);
     fields.hourLength = 40;
     fields.minuteLength = 60;
     fields.centreX = 70;
     fields.centreY = -5;
     fields.handColour[0] = 1;
     CharaTables.ClockDesignCount = 1;
-    ClockDesignPut(CharaTables.ClockDesigns[0].record, fields);
+    CharaTables.ClockDesigns[0].record = fields;
     Clock.ClockDesign = 0;
     ClockReactivate();
   }
@@ -43,121 +44,96 @@ std::string Points(const ClockHandShape& shape, int position) {
 // --- Records
 
 TEST_F(ClockTest, ADesignRecordKeepsItsFieldsAtTheirOffsets) {
-  unsigned char record[kClockDesignSize];
-  std::memset(record, 0xEE, sizeof record);
-  ClockDesignFields fields{};
+  std::string bytes(464, '\xEE');
+  ClockDesignRecord fields{};
+  RecordSet(fields, bytes);
   fields.hand = 3;
-  fields.repeat = true;
-  fields.strikeMode = 2;
-  fields.soundOn = true;
   fields.hourLength = 0x1234;
-  fields.minuteLength = 0x2345;
   fields.centreX = -2;
-  fields.centreY = 300;
-  for (int i = 0; i < 3; ++i) {
-    fields.handColour[i] = static_cast<unsigned char>(10 + i);
-    fields.faceColour[i] = static_cast<unsigned char>(20 + i);
-  }
-  for (int i = 0; i < 7; ++i) fields.strikeDelay[i] = static_cast<std::uint16_t>(1000 + i);
-  for (int hour = 0; hour < 13; ++hour) {
-    for (int i = 0; i < 7; ++i) fields.hourFigures[hour][i] = static_cast<unsigned char>(hour * 7 + i);
-  }
-  TextCopy(fields.sound, sizeof fields.sound, "kan.wav");
-  TextCopy(fields.name, sizeof fields.name, "まるい時計");
-  ClockDesignPut(record, fields);
-  EXPECT_EQ(record[kDesignHand], 3);
-  EXPECT_EQ(record[kDesignHourLength], 0x34);  // low byte first
-  EXPECT_EQ(record[kDesignHourLength + 1], 0x12);
-  EXPECT_EQ(record[kDesignStrikeDelay + 2 * 6], 0xEE);  // 1006 = 0x3EE
-  EXPECT_EQ(record[kDesignStrikeDelay + 2 * 6 + 1], 3);
-  EXPECT_EQ(record[kDesignHourFigures + 12 * 7 + 6], 90);
-  EXPECT_EQ(record[123], 0xEE);  // bytes of no field stay
-  EXPECT_EQ(record[463], 0xEE);
-  const ClockDesignFields back = ClockDesignGet(record);
-  EXPECT_EQ(std::memcmp(&back, &fields, sizeof back), 0);
+  fields.strikeDelay[6] = 1006;
+  fields.hourFigures[12][6] = 90;
+  ASSERT_TRUE(RecordPut(fields, bytes.data(), 464));
+  EXPECT_EQ(bytes[0], 3);
+  EXPECT_EQ(bytes[4], 0x34);  // low byte first
+  EXPECT_EQ(bytes[5], 0x12);
+  EXPECT_EQ(bytes[8], '\xFE');
+  EXPECT_EQ(bytes[9], '\xFF');
+  EXPECT_EQ(bytes[18 + 2 * 6], '\xEE');  // 1006 = 0x3EE
+  EXPECT_EQ(bytes[18 + 2 * 6 + 1], 3);
+  EXPECT_EQ(bytes[32 + 12 * 7 + 6], 90);
+  EXPECT_EQ(bytes[123], '\xEE');  // the spare bytes stay
+  EXPECT_EQ(bytes[463], '\xEE');
 }
 
 TEST_F(ClockTest, ADesignRecordOfRandomBytesGivesTerminatedTexts) {
-  unsigned char record[kClockDesignSize];
-  std::memset(record, 0xE5, sizeof record);
-  const ClockDesignFields fields = ClockDesignGet(record);
-  EXPECT_LT(std::strlen(fields.sound), sizeof fields.sound);
-  EXPECT_LT(std::strlen(fields.name), sizeof fields.name);
-  EXPECT_EQ(std::strlen(fields.name) % 2, 0U);  // no pair is split
+  ClockDesignRecord fields{};
+  RecordFill(fields, '\xE5');
+  EXPECT_EQ(std::strlen(fields.sound), 256U);
+  EXPECT_EQ(std::strlen(fields.name), 64U);
 }
 
 TEST_F(ClockTest, FiveValuesOfTheListGoIntoEachDesignThatTheListHolds) {
   CharaTables.ClockDesignCount = 2;
   Clock.ClockListCount = 1;
-  unsigned char* list = Clock.ClockList[0];
-  list[0] = 1;
-  list[1] = 2;
-  list[2] = 1;
-  TextCopy(reinterpret_cast<char*>(list + 4), 50, "po2.wav");
-  TextCopy(reinterpret_cast<char*>(list + 54), 50, "鳩時計");
+  Clock.ClockList[0] = ClockListRow{1, 2, 1, 0, "po2.wav", "鳩時計"};
   for (ClockDesignRow& row : CharaTables.ClockDesigns) {
-    ClockDesignFields old{};
-    old.hand = 4;
-    TextCopy(old.sound, sizeof old.sound, "old.wav");
-    TextCopy(old.name, sizeof old.name, "old");
-    ClockDesignPut(row.record, old);
+    row.record = ClockDesignRecord{};
+    row.record.hand = 4;
+    TextCopy(row.record.sound, sizeof row.record.sound, "old.wav");
+    TextCopy(row.record.name, sizeof row.record.name, "old");
   }
   for (int i = -1; i < kClockDesignMax + 1; ++i) ClockDesignTakeListValues(i);
-  const ClockDesignFields taken = ClockDesignGet(CharaTables.ClockDesigns[0].record);
+  const ClockDesignRecord taken = CharaTables.ClockDesigns[0].record;
   EXPECT_TRUE(taken.repeat);
   EXPECT_EQ(taken.strikeMode, 2);
   EXPECT_TRUE(taken.soundOn);
   EXPECT_STREQ(taken.sound, "po2.wav");
   EXPECT_STREQ(taken.name, "鳩時計");
   EXPECT_EQ(taken.hand, 4);
-  EXPECT_STREQ(ClockDesignGet(CharaTables.ClockDesigns[1].record).sound, "old.wav");
+  EXPECT_STREQ(CharaTables.ClockDesigns[1].record.sound, "old.wav");
 }
 
 TEST_F(ClockTest, TheListTakesTheDesignsAndGivesThemBack) {
   CharaTables.ClockDesignCount = 2;
-  ClockDesignFields fields{};
-  fields.repeat = true;
+  ClockDesignRecord fields{};
+  fields.repeat = 1;
   fields.strikeMode = 1;
   TextCopy(fields.sound, sizeof fields.sound, "kan.wav");
   TextCopy(fields.name, sizeof fields.name, std::string(63, 'n').c_str());
-  ClockDesignPut(CharaTables.ClockDesigns[1].record, fields);
+  CharaTables.ClockDesigns[1].record = fields;
   ClockListTakeDesigns();
   EXPECT_EQ(Clock.ClockListCount, 2);
-  EXPECT_EQ(Clock.ClockList[1][kClockListRepeat], 1);
-  EXPECT_EQ(Clock.ClockList[1][kClockListStrikeMode], 1);
-  EXPECT_EQ(Clock.ClockList[1][kClockListSoundOn], 0);
-  EXPECT_STREQ(reinterpret_cast<const char*>(Clock.ClockList[1] + kClockListName),
-               std::string(49, 'n').c_str());
-  std::memset(CharaTables.ClockDesigns[1].record, 0, kClockDesignSize);
+  EXPECT_EQ(Clock.ClockList[1].repeat, 1);
+  EXPECT_EQ(Clock.ClockList[1].strikeMode, 1);
+  EXPECT_EQ(Clock.ClockList[1].soundOn, 0);
+  EXPECT_STREQ(Clock.ClockList[1].name, std::string(49, 'n').c_str());
+  CharaTables.ClockDesigns[1].record = ClockDesignRecord{};
   ClockDesignTakeListValues(1);
-  EXPECT_STREQ(ClockDesignGet(CharaTables.ClockDesigns[1].record).sound, "kan.wav");
+  EXPECT_STREQ(CharaTables.ClockDesigns[1].record.sound, "kan.wav");
 }
 
 TEST_F(ClockTest, AnAlarmSlotKeepsItsFields) {
-  AlarmSlot slot{true, 23, 59, 0x0203, {}};
+  AlarmSlot slot{};
+  slot.enabled = 1;
+  slot.hour = 23;
+  slot.minute = 59;
+  slot.performance = 0x0203;
   TextCopy(slot.comment, sizeof slot.comment, "起きる");
-  AlarmSlotPut(4, slot);
-  const unsigned char* record = Clock.ClockEvents[4];
+  const std::string record = RecordBytes(slot);
   EXPECT_EQ(record[0], 1);
   EXPECT_EQ(record[1], 23);
   EXPECT_EQ(record[2], 59);
   EXPECT_EQ(record[4], 3);
   EXPECT_EQ(record[5], 2);
-  EXPECT_STREQ(reinterpret_cast<const char*>(record + 6), "起きる");
-  const AlarmSlot back = AlarmSlotGet(4);
-  EXPECT_TRUE(back.enabled);
-  EXPECT_EQ(back.hour, 23);
-  EXPECT_EQ(back.minute, 59);
-  EXPECT_EQ(back.performance, 0x0203);
-  EXPECT_STREQ(back.comment, "起きる");
-  std::memset(Clock.ClockEvents[4], 'x', kAlarmSlotSize);
-  EXPECT_EQ(std::strlen(AlarmSlotGet(4).comment), 99U);
+  EXPECT_STREQ(record.c_str() + 6, "起きる");
+  RecordFill(slot, 'x');
+  EXPECT_EQ(std::strlen(slot.comment), 99U);
 }
 
 // --- The design in force
 
 TEST_F(ClockTest, ActivationTakesKindCentreColoursAndStrikeTables) {
-  ClockDesignFields fields{};
+  ClockDesignRecord fields{};
   fields.hand = kHandArrow;
   fields.centreX = 11;
   fields.centreY = 22;
@@ -168,7 +144,7 @@ TEST_F(ClockTest, ActivationTakesKindCentreColoursAndStrikeTables) {
   fields.strikeDelay[6] = 77;
   fields.hourFigures[12][6] = 9;
   CharaTables.ClockDesignCount = 2;
-  ClockDesignPut(CharaTables.ClockDesigns[1].record, fields);
+  CharaTables.ClockDesigns[1].record = fields;
   Clock.ClockWanted = 1;
   ClockActivate();
   EXPECT_EQ(Clock.ClockDesign, 1);
@@ -182,12 +158,12 @@ TEST_F(ClockTest, ActivationTakesKindCentreColoursAndStrikeTables) {
 }
 
 TEST_F(ClockTest, EqualHandAndFaceColoursGiveTheFaceItsComplement) {
-  ClockDesignFields fields{};
+  ClockDesignRecord fields{};
   const unsigned char colour[3] = {10, 0, 255};
   std::memcpy(fields.handColour, colour, 3);
   std::memcpy(fields.faceColour, colour, 3);
   CharaTables.ClockDesignCount = 1;
-  ClockDesignPut(CharaTables.ClockDesigns[0].record, fields);
+  CharaTables.ClockDesigns[0].record = fields;
   Clock.ClockWanted = 0;
   ClockActivate();
   EXPECT_EQ(Clock.ClockHandColour, 0xFF000AU);
@@ -196,7 +172,7 @@ TEST_F(ClockTest, EqualHandAndFaceColoursGiveTheFaceItsComplement) {
 
 TEST_F(ClockTest, TheCurrentDesignIsNotActivatedAgainButAReactivationTakesIt) {
   Design(kHandBar);
-  CharaTables.ClockDesigns[0].record[kDesignHand] = kHandDot;
+  CharaTables.ClockDesigns[0].record.hand = kHandDot;
   Clock.ClockWanted = 0;
   ClockActivate();
   EXPECT_EQ(Clock.ClockHandKind, kHandBar);
@@ -297,13 +273,13 @@ TEST_F(ClockTest, HandPositionsFollowHourAndMinute) {
 }
 
 TEST_F(ClockTest, TheDesignDefaultsGoIntoTheSettings) {
-  ClockDesignFields fields{};
-  fields.repeat = true;
+  ClockDesignRecord fields{};
+  fields.repeat = 1;
   fields.strikeMode = 2;
-  fields.soundOn = true;
+  fields.soundOn = 1;
   TextCopy(fields.sound, sizeof fields.sound, "po2.wav");
   CharaTables.ClockDesignCount = 1;
-  ClockDesignPut(CharaTables.ClockDesigns[0].record, fields);
+  CharaTables.ClockDesigns[0].record = fields;
   EXPECT_TRUE(ClockDesignDefaults(0));
   EXPECT_EQ(Clock.ClockStrikeMode, 2);
   EXPECT_EQ(Clock.ClockStrikeSel, 1);
@@ -317,9 +293,9 @@ TEST_F(ClockTest, TheDesignDefaultsGoIntoTheSettings) {
 
 TEST_F(ClockTest, ADesignIsCalledByItsNameOrElseByItsCharacters) {
   CharaTables.ClockDesignCount = 2;
-  ClockDesignFields fields{};
+  ClockDesignRecord fields{};
   TextCopy(fields.name, sizeof fields.name, "鳩時計");
-  ClockDesignPut(CharaTables.ClockDesigns[0].record, fields);
+  CharaTables.ClockDesigns[0].record = fields;
   CharaTables.ClockDesigns[1].number = 3;
   World.WorldCharaCount = 3;
   TextCopy(World.WorldCharas[2].name, sizeof World.WorldCharas[2].name, "電車");
@@ -510,7 +486,13 @@ TEST_F(ClockStrikeTest, AnHourWithoutFiguresPlaysItsSoundAndEnds) {
 
 class ClockAlarmTest : public ClockTest {
  protected:
-  static void Alarm(int slot, int hour, int minute) { AlarmSlotPut(slot, {true, hour, minute, 0, {}}); }
+  static void Alarm(int slot, int hour, int minute) {
+    AlarmSlot& alarm = Clock.ClockEvents[slot];
+    alarm = AlarmSlot{};
+    alarm.enabled = 1;
+    alarm.hour = static_cast<std::uint8_t>(hour);
+    alarm.minute = static_cast<std::uint8_t>(minute);
+  }
 };
 
 TEST_F(ClockAlarmTest, TheSlotWithThisMinuteFires) {
@@ -523,7 +505,8 @@ TEST_F(ClockAlarmTest, TheSlotWithThisMinuteFires) {
 }
 
 TEST_F(ClockAlarmTest, ASlotThatIsNotEnabledDoesNotFire) {
-  AlarmSlotPut(0, {false, 7, 30, 1, {}});
+  Alarm(0, 7, 30);
+  Clock.ClockEvents[0].enabled = 0;
   EXPECT_EQ(ClockAlarmCheck(7, 30), 0);
 }
 

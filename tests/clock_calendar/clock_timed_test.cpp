@@ -25,7 +25,7 @@ class ClockTimedTest : public ::testing::Test {
 };
 
 TEST_F(ClockTimedTest, ARowHas138BytesAndKeepsItsFields) {
-  EXPECT_EQ(sizeof Timed.TimedRows[0], 138U);
+  EXPECT_EQ(RecordSize<TimedEvent>(), 138);
   EXPECT_EQ(TimedAdd(Event(23, 59, 58, "茶")), 0);
   const TimedEvent event = TimedGet(0);
   EXPECT_TRUE(event.enabled);
@@ -33,7 +33,9 @@ TEST_F(ClockTimedTest, ARowHas138BytesAndKeepsItsFields) {
   EXPECT_EQ(event.minute, 59);
   EXPECT_EQ(event.second, 58);
   EXPECT_STREQ(event.comment, "茶");
-  std::memset(Timed.TimedRows[0], 'x', sizeof Timed.TimedRows[0]);
+  TimedEvent full = event;
+  std::memset(full.comment, 'x', sizeof full.comment);
+  EXPECT_TRUE(TimedChange(0, full));
   EXPECT_EQ(std::strlen(TimedGet(0).comment), 127U);
 }
 

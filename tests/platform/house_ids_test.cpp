@@ -6,6 +6,7 @@
 #include <set>
 
 #include "platform/headless/resource_file.h"
+#include "resources/filetools_ids.h"
 #include "tests/support/house_rules.h"
 
 namespace {

@@ -1,6 +1,8 @@
 // FlyingBat4 with a note of the calendar.
 #include "character/alarm_images.h"
 #include "character/character.h"
+#include "clock_calendar/calendar/calendar.h"
+#include "platform/posix/test_clock.h"
 #include "schedule/execution/scl_notice.h"
 #include "tests/character/notices_fixture.h"
 
@@ -16,15 +18,35 @@ TEST_F(NoticesTest, TheFirstNoteThatIsDueOpensAndItsFlagIsCleared) {
   NoteDue(2, "明後日");
   Send(kNoteNotice);
   EXPECT_EQ(Notices.SclNoticeKind, 3);
-  EXPECT_FALSE(Notices.NoteNotices[1].due);
-  EXPECT_TRUE(Notices.NoteNotices[2].due);
+  EXPECT_FALSE(Calendar.CalenNotes[1].due);
+  EXPECT_TRUE(Calendar.CalenNotes[2].due);
   ExpectPlace(Notices.hSclNoticeWnd);
   Send(kNoteNotice);
   EXPECT_EQ(Notices.SclNoticeKind, 4);
-  EXPECT_FALSE(Notices.NoteNotices[2].due);
+  EXPECT_FALSE(Calendar.CalenNotes[2].due);
   const WindowHandle last = Notices.hSclNoticeWnd;
   Send(kNoteNotice);
   EXPECT_EQ(Notices.hSclNoticeWnd, last);
+}
+
+// What the check finds on a day is what the command announces, once.
+TEST_F(NoticesTest, TheNoteThatTheCheckHasFoundIsAnnounced) {
+  TestClockSet({2026, 4, 10, 0, 12, 0, 0, 0});
+  CalenYearsSet(26);
+  Calendar.CalenYearCount = 1;
+  CalenYearInit(0);
+  CalenNoteSet(0, 3, 9, "誕生日");
+  Calendar.CalenNoteMode = 1;
+  ASSERT_EQ(CalenNoteCheck(), 1);
+  Send(kNoteNotice);
+  EXPECT_EQ(Notices.SclNoticeKind, 2);
+  Repaint(Notices.hSclNoticeWnd);
+  // kept: the day stands in the place of the month too.
+  EXPECT_TRUE(TextStands(Notices.hSclNoticeWnd, "予定日 : 2026年10月10日  本日です", 10, 40));
+  EXPECT_TRUE(TextStands(Notices.hSclNoticeWnd, "誕生日", 10, 84));
+  EXPECT_EQ(CalenNoteCheck(), 0);
+  Calendar.CalenNoteMode = 0;
+  CalenNoteSet(0, 3, 9, "");
 }
 
 TEST_F(NoticesTest, TodaysNoteIsAnnouncedForTodayWithTheDayInThePlaceOfTheMonthToo) {

@@ -118,7 +118,7 @@ TEST_F(NoticesTest, ANoticeThatCannotCloseStaysAndNoOtherOpens) {
   Send(kNoteNotice);
   EXPECT_EQ(Notices.hSclNoticeWnd, stubborn);
   EXPECT_EQ(OpenWindowCount(), open);
-  EXPECT_TRUE(Notices.NoteNotices[1].due) << "it is announced another time";
+  EXPECT_TRUE(Calendar.CalenNotes[1].due) << "it is announced another time";
   Notices.hSclNoticeWnd = nullptr;
   ClockNotice.hClockNoticeWnd = stubborn;
   Send(kClockNotice);

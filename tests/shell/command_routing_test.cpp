@@ -3,7 +3,9 @@
 #include <algorithm>
 #include <set>
 
+#include "platform/file.h"
 #include "platform/headless/resource_file.h"
+#include "platform/window.h"
 #include "resources/shell_ids.h"
 #include "services/program.h"
 #include "shell/panel.h"
@@ -144,6 +146,54 @@ TEST_F(PanelProgramTest, WriterAndEditorStartFromTheApplicationsLevel) {
     EXPECT_EQ(Panel.MenuPanelState, 0);
     ASSERT_EQ(ProcessesStarted().size(), static_cast<std::size_t>(row + 1));
     EXPECT_EQ(ProcessesStarted()[static_cast<std::size_t>(row)].commandLine, programs[row]);
+  }
+}
+
+// From outside too: the panel goes as from its own row, and another one can be opened.
+TEST_F(PanelProgramTest, AProgramStartedFromOutsideClosesTheOpenPanel) {
+  for (const std::uint32_t command : {1927U, 2365U, 2377U}) {
+    Then([command] {
+      ASSERT_NE(Panel.hDiskMenu, nullptr);
+      SendCommand(Program.hMainWnd, command);
+      EXPECT_EQ(Panel.hDiskMenu, nullptr) << command;
+      EXPECT_EQ(Panel.MenuPanelState, 0) << command;
+    });
+    TouchStage();
+    EXPECT_EQ(FindDialog(IDD_DspDiskMenu), nullptr) << command;
+  }
+  EXPECT_EQ(ProcessesStarted().size(), 3U);
+}
+
+TEST_F(PanelProgramTest, AProgramStartsInTheProgramFolderWhateverTheCurrentOne) {
+  MakeFolder("C:\\elsewhere");
+  ASSERT_TRUE(FolderSetCurrent("C:\\elsewhere"));
+  SendCommand(Program.hMainWnd, 2377);
+  ASSERT_EQ(ProcessesStarted().size(), 1U);
+  EXPECT_EQ(ProcessesStarted()[0].folder, "C:\\mirrell");
+}
+
+// What the tick asks for is no entry of the panel: a panel that stands open stays.
+TEST_F(PanelProgramTest, WhatTheTickSendsLeavesThePanelOpen) {
+  for (const std::uint32_t command : {2079U, 2372U, 2265U, 2293U, 2336U}) {
+    Then([command] {
+      SendCommand(Program.hMainWnd, command);
+      EXPECT_EQ(Panel.hDiskMenu, FindDialog(IDD_DspDiskMenu)) << command;
+      EXPECT_NE(Panel.hDiskMenu, nullptr) << command;
+      EXPECT_EQ(Panel.MenuPanelState, kPanelTop) << command;
+      SendCommand(Panel.hDiskMenu, 2);
+    });
+    TouchStage();
+  }
+}
+
+TEST_F(PanelProgramTest, TheEntriesOfFeaturesStillToComeCloseThePanel) {
+  for (const std::uint32_t command : {1910U, 1911U, 1912U, 1913U, 1918U, 1921U, 1923U, 1924U, 1926U}) {
+    Then([command] {
+      SendCommand(Program.hMainWnd, command);
+      EXPECT_EQ(Panel.hDiskMenu, nullptr) << command;
+      EXPECT_EQ(Panel.MenuPanelState, 0) << command;
+    });
+    TouchStage();
   }
 }
 

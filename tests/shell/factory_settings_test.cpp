@@ -13,6 +13,7 @@
 #include "services/text.h"
 #include "services/today.h"
 #include "shell/settings.h"
+#include "tests/support/record_check.h"
 #include "tests/support/records.h"
 
 namespace {
@@ -41,27 +42,27 @@ TEST_F(FactorySettingsTest, ThreeAlarmCharactersAndTheirSelections) {
 }
 
 TEST_F(FactorySettingsTest, TheCharacterRecordWalksFromTheScreensCorner) {
-  std::memset(Character.CharaSet, 0xAA, sizeof Character.CharaSet);
+  RecordFill(Character.CharaSet, '\xAA');
   Screen.ScreenWidth = 1024;
   Screen.ScreenHeight = 768;
   SetFactorySettings();
-  EXPECT_EQ(CharaSetNo(Character.CharaSet), 1);
-  EXPECT_EQ(Character.CharaSet[54], 5);
-  EXPECT_EQ(WalkRow(Character.CharaSet), 1);
-  EXPECT_EQ(WalkUse(Character.CharaSet), 3);
-  EXPECT_EQ(WalkStartPoint(Character.CharaSet), 0);
-  EXPECT_EQ(WalkStartX(Character.CharaSet), 1024);
-  EXPECT_EQ(WalkStartY(Character.CharaSet), 768);
-  EXPECT_EQ(WalkStepX(Character.CharaSet), -14);
-  EXPECT_EQ(WalkStepY(Character.CharaSet), -12);
-  EXPECT_EQ(WalkPeriod(Character.CharaSet), 3);
-  EXPECT_EQ(WalkCount(Character.CharaSet), 49);
-  EXPECT_EQ(EndWait(Character.CharaSet), 30);
-  EXPECT_EQ(WalkFrames(Character.CharaSet, 0, 0), 1);
-  EXPECT_EQ(WalkFrames(Character.CharaSet, 0, 1), 2);
-  EXPECT_EQ(WalkFrames(Character.CharaSet, 0, 2), 0);
-  EXPECT_EQ(EndFrames(Character.CharaSet, 0, 0), 3);
-  EXPECT_EQ(EndFrames(Character.CharaSet, 0, 1), 0);
+  EXPECT_EQ(Character.CharaSet.CharaNo, 1);
+  EXPECT_EQ(Character.CharaSet.MotionE[0], 5);
+  EXPECT_EQ(Character.CharaSet.WalkRow[0], 1);
+  EXPECT_EQ(Character.CharaSet.WalkUse[0], 3);
+  EXPECT_EQ(Character.CharaSet.WalkStartPoint, 0);
+  EXPECT_EQ(Character.CharaSet.WalkStartX[0], 1024);
+  EXPECT_EQ(Character.CharaSet.WalkStartY[0], 768);
+  EXPECT_EQ(Character.CharaSet.WalkStepX[0], -14);
+  EXPECT_EQ(Character.CharaSet.WalkStepY[0], -12);
+  EXPECT_EQ(Character.CharaSet.WalkPeriod[0], 3);
+  EXPECT_EQ(Character.CharaSet.WalkCount[0], 49);
+  EXPECT_EQ(Character.CharaSet.EndWait[0], 30);
+  EXPECT_EQ(Character.CharaSet.WalkFrames[0][0], 1);
+  EXPECT_EQ(Character.CharaSet.WalkFrames[0][1], 2);
+  EXPECT_EQ(Character.CharaSet.WalkFrames[0][2], 0);
+  EXPECT_EQ(Character.CharaSet.EndFrames[0][0], 3);
+  EXPECT_EQ(Character.CharaSet.EndFrames[0][1], 0);
   // All else is zero, by the record's own offsets.
   unsigned char expected[676] = {};
   expected[0] = 1;
@@ -80,7 +81,7 @@ TEST_F(FactorySettingsTest, TheCharacterRecordWalksFromTheScreensCorner) {
   expected[517] = 2;
   expected[566] = 3;
   expected[616] = 30;
-  EXPECT_EQ(std::memcmp(Character.CharaSet, expected, sizeof expected), 0);
+  EXPECT_EQ(std::memcmp(RecordBytes(Character.CharaSet).data(), expected, sizeof expected), 0);
 }
 
 TEST_F(FactorySettingsTest, FourWalkingCharactersWithTheirSoundsAndNoFlags) {
@@ -96,19 +97,19 @@ TEST_F(FactorySettingsTest, FourWalkingCharactersWithTheirSoundsAndNoFlags) {
 }
 
 TEST_F(FactorySettingsTest, FourClockDesignsOnCharacters15To18AndNoOther) {
-  std::memset(CharaTables.ClockDesigns[30].record, 9, kClockDesignSize);
+  RecordFill(CharaTables.ClockDesigns[30].record, 9);
   SetFactorySettings();
   EXPECT_EQ(CharaTables.ClockDesignCount, 4);
   const char* const kSounds[] = {"kan.wav", "kan.wav", "po2.wav", "nya.wav"};
   for (int i = 0; i < 4; ++i) {
     EXPECT_EQ(CharaTables.ClockDesigns[i].number, 15 + i);
-    const ClockDesignFields design = ClockDesignGet(CharaTables.ClockDesigns[i].record);
+    const ClockDesignRecord& design = CharaTables.ClockDesigns[i].record;
     EXPECT_STREQ(design.sound, kSounds[i]);
     EXPECT_GE(design.hand, 0);
     EXPECT_LE(design.hand, 7);
   }
   for (int i = 4; i < kClockDesignMax; ++i) {
-    for (const unsigned char byte : CharaTables.ClockDesigns[i].record) ASSERT_EQ(byte, 0) << i;
+    EXPECT_EQ(RecordBytes(CharaTables.ClockDesigns[i].record), std::string(464, '\0')) << i;
   }
 }
 
@@ -213,13 +214,13 @@ TEST_F(FactorySettingsTest, DateDefaultsPut100InPlaceOfYearsOf100OrMore) {
 TEST_F(FactorySettingsTest, DateDefaultsBuildTheFirstYearOnlyWhereThereIsNone) {
   SetDateDefaults();
   EXPECT_EQ(Calendar.CalenYearCount, 1);
-  EXPECT_EQ(Calendar.CalenMonths[0][10][kMonthDays], 30);
-  EXPECT_EQ(Calendar.CalenMonths[0][10][kMonthFirstWeekday], 6);  // 1 November 2026 is a Sunday
+  EXPECT_EQ(Calendar.CalenMonths[0][10].days, 30);
+  EXPECT_EQ(Calendar.CalenMonths[0][10].firstWeekday, 6);  // 1 November 2026 is a Sunday
   Calendar.CalenYearCount = 2;
-  Calendar.CalenMonths[0][10][kMonthDays] = 7;
+  Calendar.CalenMonths[0][10].days = 7;
   SetDateDefaults();
   EXPECT_EQ(Calendar.CalenYearCount, 2);
-  EXPECT_EQ(Calendar.CalenMonths[0][10][kMonthDays], 7);
+  EXPECT_EQ(Calendar.CalenMonths[0][10].days, 7);
 }
 
 }  // namespace

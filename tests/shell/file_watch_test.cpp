@@ -44,7 +44,7 @@ class FileWatchTest : public ProgramTest {
     SetFileTime(kCalendarFile, 1000000);
     StartProgram();
     MainTick1();
-    TickCounts.FileWatchCount = 0;
+    Watch.FileWatchCount = 0;
   }
   static void MainTick1() { Ticks(1); }
 
@@ -83,7 +83,7 @@ TEST_F(FileWatchTest, AFileChangedWhileItsDialogIsOpenIsPickedUp201TicksAfterThe
     Ticks(201 * 3);
     EXPECT_NE(CharaTables.MainCharas[0].charaNo, number);
     Dialogs.DlgIdMenu = MenuDialog::None;
-    ASSERT_EQ(TickCounts.FileWatchCount, 0);
+    ASSERT_EQ(Watch.FileWatchCount, 0);
     Ticks(200);
     EXPECT_NE(CharaTables.MainCharas[0].charaNo, number);
     Ticks(1);
@@ -135,19 +135,19 @@ TEST_F(FileWatchTest, AnotherSelectedCharacterIsCarriedIntoTheOpenHistory) {
   ChangeCharacterFile(2);
   Ticks(201);
   EXPECT_FALSE(FileThere(history)) << "the selected character is the same one";
-  SetCharaSetNo(Character.CharaSet, 2);
+  Character.CharaSet.CharaNo = 2;
   std::string file = FileBytes(kCharacterFile);
   // The flags of the walking rows stand before the four blink intervals.
   file.at(file.size() - 16 - 50) = 5;
   // The first main character walks with row 1: 64 bytes of numbers, then its record.
-  file.at(kFirstNumber + 64 + kCharaSetWalkRow) = 1;
+  file.at(kFirstNumber + 64 + 324) = 1;
   ASSERT_TRUE(PutFile(kCharacterFile, file));
   SetFileTime(kCharacterFile, 3000000);
   Ticks(201);
   ASSERT_TRUE(FileThere(history));
   EXPECT_STREQ(FileBytes(history).c_str() + 240503, "旗印.wav");
   EXPECT_EQ(FileBytes(history).at(240803), 5);
-  EXPECT_EQ(CharaSetNo(Character.CharaSet), 1);
+  EXPECT_EQ(Character.CharaSet.CharaNo, 1);
 }
 
 TEST_F(FileWatchTest, ACalendarChangeIsAnsweredInItsOrder) {
@@ -220,7 +220,7 @@ TEST_F(FileWatchTest, TheCalendarIsLeftAloneWhileItsDialogsAreOpen) {
     Ticks(201);
     EXPECT_FALSE(FileThere(kSettingsFile));
     Dialogs.DlgIdMenu = MenuDialog::None;
-    ASSERT_EQ(TickCounts.FileWatchCount, 0);
+    ASSERT_EQ(Watch.FileWatchCount, 0);
     Ticks(200);
     EXPECT_FALSE(FileThere(kSettingsFile));
     Ticks(1);

@@ -151,13 +151,42 @@ TEST_F(LayoutTest, TheClockHasTheWidthOfTheCurrentDesignAndTheHeightOfTheFirst) 
   EXPECT_EQ(ClockLayoutHeight(), 40);
 }
 
-TEST_F(LayoutTest, WithoutADesignOrItsPictureTheClockHasNoSize) {
+// As a new data set has it: the clock has the place that its first design would take.
+TEST_F(LayoutTest, WithNoDesignChosenTheClockCountsAsTheFirst) {
+  PutFile("C:\\mirrell\\キャラクタ\\Chara16_1.bmp", BmpFile(80, 100));
+  CharaTables.ClockDesignCount = 2;
+  CharaTables.ClockDesigns[1].number = 16;
   Clock.ClockDesign = kClockNone;
-  EXPECT_EQ(ClockLayoutWidth(), 0);
+  LayoutTake();
+  EXPECT_EQ(Layout.LayoutSize[1].width, 60 / 3);
+  EXPECT_EQ(Layout.LayoutSize[1].height, 40 / 3);
+  LayoutDefault();
+  EXPECT_EQ(Clock.ClockX, 800 - 200 - 60 - 20) << "left of the calendar, and not under it";
+}
+
+TEST_F(LayoutTest, TheImageShowsTheChosenDesignsOwnHeightAndTheDefaultTheFirstOnes) {
+  PutFile("C:\\mirrell\\キャラクタ\\Chara16_1.bmp", BmpFile(81, 100));
+  CharaTables.ClockDesignCount = 2;
+  CharaTables.ClockDesigns[1].number = 16;
+  Clock.ClockDesign = 1;
+  LayoutTake();
+  EXPECT_EQ(Layout.LayoutSize[1].width, 81 / 3);
+  EXPECT_EQ(Layout.LayoutSize[1].height, 100 / 3);
+  Calendar.CalenW = 500;
+  Stage.StageHeight = 330;  // 10 + 220 + 330 + 40 is exactly 600
+  LayoutDefault();
+  EXPECT_EQ(Clock.ClockY, 560);
+}
+
+TEST_F(LayoutTest, WithoutDesignsOrTheirPicturesTheClockHasNoSize) {
   RemoveFile("C:\\mirrell\\キャラクタ\\Chara15_1.bmp");
+  EXPECT_EQ(ClockLayoutWidth(), 0);
   EXPECT_EQ(ClockLayoutHeight(), 0);
+  EXPECT_EQ(ClockPictureHeight(), 0);
   CharaTables.ClockDesignCount = 0;
   EXPECT_EQ(ClockLayoutHeight(), 0);
+  Clock.ClockDesign = 3;
+  EXPECT_EQ(ClockLayoutWidth(), 0);
 }
 
 TEST_F(LayoutTest, ACalendarThatWasNeverOpenHasTheSizeOfItsPage) {
@@ -304,6 +333,24 @@ TEST_F(LayoutTest, ADraggedItemFollowsThePointerAndIsPaintedAgain) {
   }});
 }
 
+// Beside the dialog too the pointer belongs to it, until the button is up.
+TEST_F(LayoutTest, AnItemFollowsThePointerOutOfTheDialogAndIsLetGoThere) {
+  RunDialog({[] {
+    EXPECT_EQ(PointerCaptured(), nullptr);
+    At(EventKind::LeftDown, 105, 55);
+    EXPECT_EQ(PointerCaptured(), TopDialog());
+    At(EventKind::MouseMove, 805, 655);
+    EXPECT_EQ(Layout.LayoutPos[0].x, 800);
+    EXPECT_EQ(Layout.LayoutPos[0].y, 650);
+    At(EventKind::LeftUp, 805, 655, 0);
+    EXPECT_EQ(PointerCaptured(), nullptr);
+    EXPECT_FALSE(Layout.LayoutDrag[0]);
+    At(EventKind::LeftDown, 260, 180);
+    EXPECT_EQ(PointerCaptured(), nullptr) << "nothing is dragged";
+    Cancel();
+  }});
+}
+
 TEST_F(LayoutTest, AnItemCanBeDraggedOutsideTheImageAndItsPlaceGoesNegative) {
   RunDialog({[] {
     Drag(15, 25, -10, -34);  // the corner of the dialog
@@ -386,6 +433,16 @@ TEST_F(LayoutTest, WhenTheChangeIsAllTheDefaultTakesEffectAsComputedWithoutTheSc
   EXPECT_EQ(Calendar.CalenX, 590);
   EXPECT_EQ(Calendar.CalenY, 10);
   EXPECT_EQ(WindowRect(Program.hMainWnd).left, 699);
+}
+
+// The calendar's own file too: what a dialog changed in memory is gone.
+TEST_F(LayoutTest, CancelAfterTheDefaultReadsTheCalendarFileAgain) {
+  CalenStartDefaults();
+  ASSERT_EQ(SysFileWrite(), 0);
+  ASSERT_EQ(CalenFileWrite(), 0);
+  Calendar.CalenSheets[0][0][34] = 'b';  // a note of the first of January
+  RunDialog({[] { Press(TopDialog(), kDefaultButton); }, Cancel});
+  EXPECT_EQ(Calendar.CalenSheets[0][0][34], 0);
 }
 
 TEST_F(LayoutTest, CancelAfterTheDefaultRollsBack) {
@@ -494,6 +551,30 @@ TEST_F(LayoutTest, DefaultPutsTheStageBesideTheCalendarAndTheClockUnderItWhenThe
   LayoutDefault();
   EXPECT_EQ(Character.StageX, 700);
   EXPECT_EQ(Character.StageY, 230);
+}
+
+// Half of the screen's width against the calendar's place: more is needed, not as much.
+TEST_F(LayoutTest, DefaultLeavesTheClockBesideACalendarThatBeginsInTheMiddle) {
+  Calendar.CalenW = 390;  // its x is 400
+  LayoutDefault();
+  EXPECT_EQ(Clock.ClockX, 800 - 390 - 60 - 20);
+  EXPECT_EQ(Clock.ClockY, 10);
+  Calendar.CalenW = 391;  // 399
+  LayoutDefault();
+  EXPECT_EQ(Clock.ClockX, 730);
+  EXPECT_EQ(Clock.ClockY, 350);
+}
+
+TEST_F(LayoutTest, DefaultPutsTheClockUnderTheCalendarWhenItJustFits) {
+  Stage.StageHeight = 400;
+  Calendar.CalenH = 550;  // 10 + 550 + 40 is exactly 600
+  LayoutDefault();
+  EXPECT_EQ(Clock.ClockX, 730);
+  EXPECT_EQ(Clock.ClockY, 560);
+  Calendar.CalenH = 551;
+  LayoutDefault();
+  EXPECT_EQ(Clock.ClockX, 490 - 60 - 10);
+  EXPECT_EQ(Clock.ClockY, 10);
 }
 
 TEST_F(LayoutTest, DefaultPutsAllThreeInARowWhenNothingFitsUnderTheCalendar) {

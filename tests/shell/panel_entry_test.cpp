@@ -1,9 +1,13 @@
 // What the rows of the tool menu panel do: entries and sub-levels.
+#include "services/panel_entry.h"
+
 #include "character/character.h"
 #include "character/motion.h"
 #include "platform/dialog.h"
 #include "resources/schedule_ids.h"
 #include "services/commands.h"
+#include "services/dialog_family.h"
+#include "services/feature_dialog.h"
 #include "services/program.h"
 #include "shell/panel.h"
 #include "tests/shell/panel_fixture.h"
@@ -63,8 +67,7 @@ TEST_F(PanelTest, TheThirdRowOfTheApplicationsLevelClosesThePanel) {
 }
 
 TEST_F(PanelTest, ARowWhoseCommandOnlyClearsTheStateClosesThePanel) {
-  // The manual and the other programs beside this one do no more than that.
-  onCommand = [](std::uint32_t) { Panel.MenuPanelState = 0; };
+  onCommand = [](std::uint32_t) { PanelStateClear(); };
   Open({[] {
     Click(3);
     EXPECT_EQ(Panel.hDiskMenu, nullptr);
@@ -143,31 +146,55 @@ TEST_F(PanelTest, ASubLevelThatIsClosedFromOutsideLetsThePointerOpenThePanelAgai
 
 // A feature's dialog opens from a command that the panel sent from within its own
 // mouse handler: panel and stage are still on the stack.
-bool FeatureProc(const Event& event) {
-  if (event.kind != EventKind::Pressed) return false;
-  DialogEnd(event.window, 0);
-  return true;
+bool FeatureProc(const Event&) {
+  return false;
 }
 
-TEST_F(PanelTest, AFeaturesDialogRunsInsideThePanelsHandler) {
+int RunFeature() {
+  return ToolDialogRun(ToolDialog::FolderScopeSetDlg, IDD_FlyingBat4, Program.hMainWnd, FeatureProc);
+}
+
+TEST_F(PanelTest, AFeaturesDialogRunsInsideThePanelsHandlerAndThePanelIsGone) {
   onCommand = [](std::uint32_t number) {
     PanelCommandsOnly(number);
-    if (number != 1914) return;
-    SendClose(Panel.hDiskMenu);
-    DialogRun(IDD_FlyingBat4, Program.hMainWnd, FeatureProc);
-    Panel.FuncNo = 0;
-    Panel.MenuPanelState = 0;
+    if (number == 1914) FeatureDialogRun(Feature::FolderScope, RunFeature);
   };
-  Open({[] { Click(2); }, [] { Click(0); },
+  static WindowHandle level;
+  Open({[] { Click(2); },
+        [] {
+          level = TopDialog();
+          Click(0);
+        },
         [] {
           EXPECT_EQ(TemplateOf(TopDialog()), IDD_FlyingBat4);
           EXPECT_EQ(Panel.hDiskMenu, nullptr);
+          EXPECT_FALSE(IsVisible(level));
           EXPECT_EQ(Panel.MenuPanelState, 400);
+          EXPECT_EQ(Panel.FuncNo, 6);
           SendCommand(TopDialog(), 2);
         }});
   EXPECT_EQ(Panel.MenuPanelState, 0);
+  EXPECT_EQ(Panel.FuncNo, 0);
   EXPECT_EQ(TopDialog(), nullptr);
   EXPECT_EQ(sentCommands, (std::vector<Sent>{{1902, 4}, {1914, 400}}));
+}
+
+// From outside while the panel stands open: it closes under the dialog.
+TEST_F(PanelTest, AFeaturesDialogFromOutsideClosesThePanelFirst) {
+  onCommand = [](std::uint32_t) { FeatureDialogRun(Feature::FolderScope, RunFeature); };
+  Open({[] {
+          CommandSend(Command::FolderScope);
+          EXPECT_EQ(Panel.MenuPanelState, 0);
+        },
+        [] {
+          EXPECT_EQ(TemplateOf(TopDialog()), IDD_FlyingBat4);
+          EXPECT_EQ(Panel.hDiskMenu, nullptr);
+          CommandSend(Command::FolderScope);  // one feature at a time
+          EXPECT_EQ(Panel.FuncNo, 6);
+          SendCommand(TopDialog(), 2);
+        }});
+  EXPECT_EQ(Panel.hDiskMenu, nullptr);
+  EXPECT_EQ(Panel.FuncNo, 0);
 }
 
 }  // namespace

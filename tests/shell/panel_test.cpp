@@ -6,6 +6,8 @@
 #include "character/stage.h"
 #include "platform/posix/faults.h"
 #include "services/program.h"
+#include "services/tick_step.h"
+#include "shell/tick_timer.h"
 #include "tests/shell/panel_fixture.h"
 
 namespace {

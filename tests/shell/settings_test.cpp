@@ -18,6 +18,7 @@
 #include "services/big_endian.h"
 #include "services/data_file.h"
 #include "services/program.h"
+#include "services/record.h"
 #include "services/text.h"
 #include "tests/support/failing_writes.h"
 #include "tests/support/records.h"
@@ -28,7 +29,7 @@ constexpr int kTotal = 172720;
 const std::string kMagic = "Mirrell System File:";
 
 // The layout of the file, row by row with its offset.
-enum class Kind { Number, Byte, Block, Text };
+enum class Kind { Number, Byte, Block, Text, Record };
 struct Row {
   const char* name;
   int offset;
@@ -36,7 +37,21 @@ struct Row {
   void* at;
   int size;   // of one element in the file
   int count;  // elements
+  void (*take)(const Row& row, const char* place) = nullptr;
+  void (*put)(const Row& row, char* place) = nullptr;
 };
+// A table of records, which tell themselves how they lie.
+template <class T>
+Row Records(const char* name, int offset, T* at, int count) {
+  const auto take = [](const Row& row, const char* place) {
+    for (int i = 0; i < row.count; ++i)
+      RecordTake(static_cast<T*>(row.at)[i], place + row.size * i, row.size);
+  };
+  const auto put = [](const Row& row, char* place) {
+    for (int i = 0; i < row.count; ++i) RecordPut(static_cast<T*>(row.at)[i], place + row.size * i, row.size);
+  };
+  return {name, offset, Kind::Record, at, RecordSize<T>(), count, take, put};
+}
 const Row kRows[] = {
     {"CharaIndex", 20, Kind::Number, &Character.CharaIndex, 4, 1},
     {"MenuFrame", 24, Kind::Number, &Character.MenuFrame, 4, 1},
@@ -49,7 +64,7 @@ const Row kRows[] = {
     {"StageX", 84, Kind::Number, &Character.StageX, 4, 1},
     {"StageY", 88, Kind::Number, &Character.StageY, 4, 1},
     {"AlarmCharaSel", 92, Kind::Number, Character.AlarmCharaSel, 4, 3},
-    {"CharaSet", 104, Kind::Block, Character.CharaSet, 676, 1},
+    Records("CharaSet", 104, &Character.CharaSet, 1),
     {"ClockStrikeMode", 780, Kind::Number, &Clock.ClockStrikeMode, 4, 1},
     {"ClockStrikeSel", 784, Kind::Number, &Clock.ClockStrikeSel, 4, 1},
     {"ClockSoundOn", 788, Kind::Number, &Clock.ClockSoundOn, 4, 1},
@@ -70,7 +85,7 @@ const Row kRows[] = {
     {"CalenYearCount", 2178, Kind::Number, &Calendar.CalenYearCount, 4, 1},
     {"CalenCount", 2182, Kind::Number, &Calendar.CalenCount, 4, 1},
     {"CalenKind", 2186, Kind::Number, &Calendar.CalenKind, 4, 1},
-    {"CalenMonths", 2190, Kind::Block, Calendar.CalenMonths, 4672, 36},
+    Records("CalenMonths", 2190, Calendar.CalenMonths[0], 36),
     {"CalenX", 170382, Kind::Number, &Calendar.CalenX, 4, 1},
     {"CalenY", 170386, Kind::Number, &Calendar.CalenY, 4, 1},
     {"CalenPageSize", 170390, Kind::Number, &Calendar.CalenPageSize, 4, 1},
@@ -87,8 +102,8 @@ const Row kRows[] = {
     {"CalenFigTurn", 170968, Kind::Number, Calendar.CalenFigTurn, 4, 2},
     {"CalenFigDir", 170976, Kind::Block, Calendar.CalenFigDir, 30, 2},
     {"DefaultSclName", 171036, Kind::Text, Schedule.DefaultSclName, 600, 1},
-    {"CalenMonthFlags", 171636, Kind::Block, Calendar.CalenMonthFlags, 10, 36},
-    {"ClockEvents", 171996, Kind::Block, Clock.ClockEvents, 144, 5},
+    Records("CalenMonthFlags", 171636, Calendar.CalenMonthFlags[0], 36),
+    Records("ClockEvents", 171996, Clock.ClockEvents, 5),
     {"BlinkSpeedSel", 172716, Kind::Number, &Character.BlinkSpeedSel, 4, 1},
 };
 
@@ -120,9 +135,13 @@ std::string FillDistinct(std::uint32_t seed) {
       } else {
         for (int k = 0; k < row.size; ++k) place[k] = static_cast<char>(random() % 256);
         if (row.kind == Kind::Text) place[row.size - 1] = '\0';
+        if (row.kind == Kind::Record) continue;
         std::memcpy(static_cast<char*>(row.at) + row.size * i, place, static_cast<std::size_t>(row.size));
       }
     }
+    if (row.kind != Kind::Record) continue;
+    row.take(row, image.data() + row.offset);
+    row.put(row, image.data() + row.offset);  // the texts inside have an end
   }
   return image;
 }
@@ -139,6 +158,9 @@ void TakeImage(const std::string& image) {
         break;
       case Kind::Byte:
         *static_cast<std::int32_t*>(row.at) = static_cast<unsigned char>(*place);
+        break;
+      case Kind::Record:
+        row.take(row, place);
         break;
       default:
         std::memcpy(row.at, place, static_cast<std::size_t>(row.size) * static_cast<std::size_t>(row.count));
@@ -160,6 +182,9 @@ void ImageNow(std::string& image) {
         break;
       case Kind::Byte:
         *place = static_cast<char>(*static_cast<std::int32_t*>(row.at));
+        break;
+      case Kind::Record:
+        row.put(row, place);
         break;
       default:
         std::memcpy(place, row.at, static_cast<std::size_t>(row.size) * static_cast<std::size_t>(row.count));
@@ -375,7 +400,7 @@ constexpr int kLastReservedCall = 34;
 
 TEST_F(SettingsTest, EverySaveActivatesTheClockDesignAfterTheReservedNumbers) {
   CharaTables.ClockDesignCount = 3;
-  CharaTables.ClockDesigns[2].record[kDesignHand] = kHandBar;
+  CharaTables.ClockDesigns[2].record.hand = kHandBar;
   Clock.ClockDesign = 2;
   Clock.ClockWanted = 0;
   FaultArm(FaultKind::Write, kLastReservedCall);
@@ -398,7 +423,7 @@ TEST_F(SettingsTest, EveryReadActivatesTheClockDesignAtTheSamePlaceAndTakesTheWa
   image[1093] = 1;
   PutFile(path_, image);
   CharaTables.ClockDesignCount = 2;
-  CharaTables.ClockDesigns[1].record[kDesignHand] = kHandDot;
+  CharaTables.ClockDesigns[1].record.hand = kHandDot;
   Clock.ClockShowWanted = 0;
   Clock.ClockWanted = 0;
   FaultArm(FaultKind::Read, kLastReservedCall);

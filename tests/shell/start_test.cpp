@@ -14,6 +14,7 @@
 #include "clock_calendar/clock/clock.h"
 #include "mail_music/mail/mail.h"
 #include "platform/canvas.h"
+#include "platform/entry.h"
 #include "platform/posix/faults.h"
 #include "platform/window.h"
 #include "services/dialog_family.h"
@@ -23,9 +24,10 @@
 #include "services/screen_figures.h"
 #include "services/today.h"
 #include "services/work_blocks.h"
-#include "shell/entry.h"
+#include "shell/command_line.h"
 #include "shell/settings.h"
 #include "shell/tick.h"
+#include "shell/tick_timer.h"
 #include "tests/character/chara_files.h"
 #include "tests/support/program.h"
 
@@ -207,8 +209,8 @@ TEST_F(StartTest, ACommandLineWithoutTheMarkIsConsumedAndHasNoEffect) {
   StartProgram("hello");
   const Words before = FolderNames("C:\\mirrell");
   MainTick();
-  EXPECT_STREQ(Entry.PendingCommandLine, "");
-  EXPECT_STREQ(Entry.CommandLine, "hello");
+  EXPECT_STREQ(ProgramLine.PendingCommandLine, "");
+  EXPECT_STREQ(ProgramLine.CommandLine, "hello");
   EXPECT_EQ(FolderNames("C:\\mirrell"), before);
 }
 

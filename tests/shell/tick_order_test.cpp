@@ -12,6 +12,7 @@
 #include "clock_calendar/calendar/calendar.h"
 #include "clock_calendar/clock/clock.h"
 #include "clock_calendar/clock/clock_notice.h"
+#include "clock_calendar/clock/performance.h"
 #include "filetools/back_up/back_up.h"
 #include "filetools/open/open_state.h"
 #include "filetools/stepped_work.h"
@@ -25,6 +26,8 @@
 #include "services/five_ticks.h"
 #include "services/program.h"
 #include "services/text.h"
+#include "services/today.h"
+#include "shell/file_watch.h"
 #include "shell/panel.h"
 #include "shell/settings.h"
 #include "shell/tick.h"
@@ -50,7 +53,7 @@ class TickOrderTest : public ProgramTest {
     for (const WindowHandle window : OpenWindows()) {
       if (window != Program.hMainWnd && WindowIsOpen(window)) WindowDestroy(window);
     }
-    AlarmSlotPut(0, AlarmSlot{});
+    Clock.ClockEvents[0] = AlarmSlot{};
     ClockAlarmForget();
     Clock.ClockAlarmSlot = -1;
     Character.BlinkFrame = 0;
@@ -64,11 +67,10 @@ class TickOrderTest : public ProgramTest {
   }
   // An alarm at the clock's 9:30.
   static void AlarmNow() {
-    AlarmSlot alarm{};
-    alarm.enabled = true;
+    AlarmSlot& alarm = Clock.ClockEvents[0];
+    alarm.enabled = 1;
     alarm.hour = 9;
     alarm.minute = 30;
-    AlarmSlotPut(0, alarm);
     ClockAlarmCheckReset();
   }
   // The next step of the motion shows frame 0 again.
@@ -102,7 +104,7 @@ class TickOrderTest : public ProgramTest {
   // The character file as a sibling leaves it.
   static void CharacterFileChanges() {
     SetFileTime("C:\\mirrell\\mirrell_chara_file.dcx", 4000000000);
-    TickCounts.FileWatchCount = 200;
+    Watch.FileWatchCount = 200;
   }
   std::unique_ptr<OpnGroupRec> group_;
 };
@@ -194,6 +196,31 @@ TEST_F(TickOrderTest, WithNeitherCalendarNorClockNoticeNoAlarmIsLookedFor) {
   EXPECT_EQ(std::count(heard.begin(), heard.end(), "main 2336"), 0);
 }
 
+TEST_F(TickOrderTest, WithOnlyTheClockNoticeOpenDayAndAlarmsAreLookedAt) {
+  Ticks(1);
+  ClockNotice.hClockNoticeWnd = OpenListener("bell");
+  Today.TodayDay = 0;
+  AlarmNow();
+  ListenToEverything();
+  PerformanceWaitStart(0, Today.SharedTime);
+  Ticks(1);
+  EXPECT_EQ(TakeHeard(), (Words{"main 2336", "bell close", "bell command 2258"}));
+  EXPECT_EQ(Today.TodayDay, 20);
+}
+
+// The calendar's repaint, the alarm, the notice's step.
+TEST_F(TickOrderTest, TheChecksOfTheCalendarsStepRunInTheirOrder) {
+  Ticks(1);
+  Calendar.hCalenWnd = OpenListener("calendar");
+  ClockNotice.hClockNoticeWnd = OpenListener("bell");
+  Today.TodayDay = 0;
+  AlarmNow();
+  ListenToEverything();
+  PerformanceWaitStart(0, Today.SharedTime);
+  Ticks(1);
+  EXPECT_EQ(TakeHeard(), (Words{"calendar paint", "main 2336", "bell close", "bell command 2258"}));
+}
+
 TEST_F(TickOrderTest, TheMailIsAskedForWhenItsCountIsOver) {
   Ticks(1);
   Mail.MailCheckOn = true;
@@ -236,7 +263,7 @@ TEST_F(TickOrderTest, AfterTheShutdownTheRestOfTheTickIsNotRun) {
   EXPECT_TRUE(QuitWasAsked());
   EXPECT_EQ(TakeHeard(), Words{});
   EXPECT_EQ(Panel.MenuReopenGuard, 5);
-  EXPECT_EQ(TickCounts.FileWatchCount, 200);
+  EXPECT_EQ(Watch.FileWatchCount, 200);
   EXPECT_FALSE(FileThere("C:\\mirrell\\mirrell_sys_file.svs"));
 }
 

@@ -11,6 +11,7 @@
 #include "services/commands.h"
 #include "services/five_ticks.h"
 #include "services/program.h"
+#include "shell/file_watch.h"
 #include "shell/panel.h"
 #include "tests/support/program.h"
 
@@ -127,11 +128,11 @@ TEST_F(TickTest, FrameDividerIsOffAtZeroAndReloadsWithFive) {
 }
 
 TEST_F(TickTest, FileWatchCountRunsFrom0To201) {
-  TickCounts.FileWatchCount = 0;
+  Watch.FileWatchCount = 0;
   Ticks(200);
-  EXPECT_EQ(TickCounts.FileWatchCount, 200);
+  EXPECT_EQ(Watch.FileWatchCount, 200);
   MainTick();
-  EXPECT_EQ(TickCounts.FileWatchCount, 0);
+  EXPECT_EQ(Watch.FileWatchCount, 0);
 }
 
 TEST_F(TickTest, CharacterStepsEvery17Ticks) {

@@ -9,6 +9,7 @@
 #include "clock_calendar/calendar/calendar.h"
 #include "clock_calendar/clock/clock.h"
 #include "clock_calendar/clock/clock_notice.h"
+#include "clock_calendar/clock_calendar_tick.h"
 #include "filetools/back_up/back_up.h"
 #include "filetools/open/open_groups.h"
 #include "filetools/stepped_work.h"
@@ -24,7 +25,8 @@
 #include "services/five_ticks.h"
 #include "services/program.h"
 #include "services/text.h"
-#include "shell/entry.h"
+#include "shell/command_line.h"
+#include "shell/file_watch.h"
 #include "shell/panel.h"
 #include "shell/tick.h"
 #include "tests/support/program.h"
@@ -41,7 +43,7 @@ class TickTimerTest : public ProgramTest {
     StartProgram();
     TickCounts.TickCount = 0;
     Motion.CharaStepCount = 0;
-    TickCounts.FileWatchCount = 0;
+    Watch.FileWatchCount = 0;
     // In every step there is something to do, and nothing comes of it.
     Motion.CharaMotion = kMotionBored;
     Motion.BoredHold = 100000;
@@ -77,7 +79,7 @@ TEST_F(TickTimerTest, ACharacterThatOnlyCountsDownIsLeftAloneUntilItsCountIsOver
   EXPECT_EQ(Motion.BoredMin, 2);
   Motion.BoredLen1 = 0;
   Motion.BoredLen2 = 0;
-  EXPECT_EQ(TicksUntilDue(), kWatch - TickCounts.FileWatchCount) << "a character that does nothing at all";
+  EXPECT_EQ(TicksUntilDue(), kWatch - Watch.FileWatchCount) << "a character that does nothing at all";
 }
 
 TEST_F(TickTimerTest, AMovingCompanionRestsUntilTheCharactersNextStep) {
@@ -94,12 +96,12 @@ TEST_F(TickTimerTest, AMovingCompanionRestsUntilTheCharactersNextStep) {
 }
 
 TEST_F(TickTimerTest, TheFileWatchEndsARestInItsOwnTick) {
-  TickCounts.FileWatchCount = kWatch - 4;
+  Watch.FileWatchCount = kWatch - 4;
   Fire();
   EXPECT_EQ(Period(), 3 * 30);
   Fire();
   EXPECT_EQ(TickCounts.TickCount, 4);
-  EXPECT_EQ(TickCounts.FileWatchCount, 0);
+  EXPECT_EQ(Watch.FileWatchCount, 0);
 }
 
 TEST_F(TickTimerTest, MailCheckingEndsARestWhenItsUnitIsOver) {
@@ -141,10 +143,10 @@ TEST_F(TickTimerTest, ALateTimerMakesUpForNoMoreThanItsRest) {
 }
 
 TEST_F(TickTimerTest, TheCommandLineWaitsForTheFirstTick) {
-  TextCopy(Entry.PendingCommandLine, sizeof Entry.PendingCommandLine, "nothing");
+  TextCopy(ProgramLine.PendingCommandLine, sizeof ProgramLine.PendingCommandLine, "nothing");
   EXPECT_EQ(TicksUntilDue(), 1);
   Fire();
-  EXPECT_EQ(Entry.PendingCommandLine[0], '\0');
+  EXPECT_EQ(ProgramLine.PendingCommandLine[0], '\0');
   EXPECT_GT(TicksUntilDue(), 1);
 }
 
@@ -196,9 +198,8 @@ TEST_F(TickTimerTest, WorkInTheTickKeepsThePace) {
 TEST_F(TickTimerTest, AnOpenWindowKeepsThePace) {
   for (WindowHandle* handle :
        {&Panel.hDiskMenu, &Dialogs.hMenuDlg, &Dialogs.hToolDlg, &Dialogs.hSubDlg, &Dialogs.hSnryDlg,
-        &Picker.hFilePickDlg, &BackUpRun.hBackUpDlg, &Stepped.hSearchDlg, &Clock.hClockWnd,
-        &Calendar.hCalenWnd, &Mail.hMailNoticeWnd, &Notices.hSclNoticeWnd, &ClockNotice.hClockNoticeWnd,
-        &SclTable.hSclTableWnd, &SclTable.hPlanWnd, &Music.hBgmWnd}) {
+        &Picker.hFilePickDlg, &BackUpRun.hBackUpDlg, &Stepped.hSearchDlg, &Calendar.hCalenWnd,
+        &ClockNotice.hClockNoticeWnd, &SclTable.hSclTableWnd, &SclTable.hPlanWnd, &Music.hBgmWnd}) {
     *handle = OpenListener();
     Fire();
     EXPECT_EQ(Period(), 30);
@@ -206,10 +207,71 @@ TEST_F(TickTimerTest, AnOpenWindowKeepsThePace) {
     *handle = nullptr;
     WindowDestroy(window);
     Motion.CharaStepCount = 0;
-    TickCounts.FileWatchCount = 0;
+    Watch.FileWatchCount = 0;
     Fire();
     EXPECT_EQ(Period(), (kStep - 1) * 30);
   }
+}
+
+TEST_F(TickTimerTest, AnOpenNoticeIsDueAtItsNextPicture) {
+  for (WindowHandle* handle : {&Mail.hMailNoticeWnd, &Notices.hSclNoticeWnd}) {
+    *handle = OpenListener();
+    FiveTicks.FrameDivider = 3;
+    EXPECT_EQ(TicksUntilDue(), 3);
+    FiveTicks.FrameDivider = 0;
+    EXPECT_EQ(TicksUntilDue(), kStep);
+    WindowDestroy(*handle);
+    *handle = nullptr;
+  }
+}
+
+TEST_F(TickTimerTest, AnOpenClockIsDueAtItsNextMinute) {
+  EXPECT_EQ(ClockDue(), kTickNever);
+  Clock.hClockWnd = OpenListener();
+  ClockTimeTake(9, 30);
+  TestClockSet({2026, 11, 21, 6, 9, 30, 15, 0});
+  EXPECT_EQ(ClockDue(), 45000 / 30);
+  EXPECT_EQ(TicksUntilDue(), kStep);
+  TestClockSet({2026, 11, 21, 6, 9, 30, 59, 939});
+  EXPECT_EQ(ClockDue(), 3) << "61 milliseconds";
+  TestClockSet({2026, 11, 21, 6, 9, 30, 59, 940});
+  EXPECT_EQ(ClockDue(), 2) << "60 milliseconds";
+  TestClockSet({2026, 11, 21, 6, 9, 30, 59, 999});
+  EXPECT_EQ(ClockDue(), 1);
+  TestClockSet({2026, 11, 21, 6, 9, 31, 0, 0});
+  EXPECT_EQ(ClockDue(), 1) << "another minute than the one on show";
+  TestClockSet({2026, 11, 21, 6, 10, 30, 0, 0});
+  EXPECT_EQ(ClockDue(), 1) << "another hour";
+  TestClockSet({2026, 11, 21, 6, 9, 30, 0, 0});
+  Clock.ClockStrikeOn = true;
+  EXPECT_EQ(ClockDue(), 1) << "a performance";
+  WindowDestroy(Clock.hClockWnd);
+}
+
+// A box that the last tick of a rest brings up: its loop has every tick, and what has
+// passed in a rest of its own is not lost.
+TEST_F(TickTimerTest, ABoxFromTheLastTickOfARestHasItsTicks) {
+  CalenStartDefaults();
+  ASSERT_EQ(CalenFileWrite(), 0);
+  Calendar.CalenSheets[CalenSelected()][0][34] ^= 1;  // a note that the file does not have
+  Applications.ApliCount = 1;
+  Applications.ApliSelected = 1;
+  Watch.FileWatchCount = kWatch - 4;
+  Fire();
+  ASSERT_EQ(Period(), 3 * 30);
+  ExpectBox("予定表でカレンダー変更を有効にするには、予定表を起動しセーブする必要があります",
+            "カレンダーが変更されました(ミルレール)", BoxAnswer::Ok, [] {
+              EXPECT_EQ(TickCounts.TickCount, 4);
+              EXPECT_EQ(Period(), 30);
+              Fire();
+              EXPECT_EQ(TickCounts.TickCount, 5);
+              EXPECT_EQ(Period(), (kStep - 5) * 30);
+              TestClockPass(5 * 30);
+            });
+  Fire();
+  EXPECT_EQ(TickCounts.TickCount, 10);
+  EXPECT_EQ(Motion.CharaStepCount, 10);
+  EXPECT_EQ(Period(), (kStep - 10) * 30);
 }
 
 TEST_F(TickTimerTest, TheDividerThatRunsForNobodyKeepsNobodyAwake) {
@@ -236,14 +298,14 @@ TEST_F(TickTimerTest, TheTicksOfARestAreTheSameTicks) {
   for (int start = 0; start < kStep; ++start) {
     for (const int watch : {0, 100, kWatch - 9, kWatch - 1}) {
       Motion.CharaStepCount = start;
-      TickCounts.FileWatchCount = watch;
+      Watch.FileWatchCount = watch;
       const int rest = TicksUntilDue();
       EXPECT_EQ(rest, std::min(kStep - start, kWatch - watch));
       Ticks(rest - 1);
       EXPECT_EQ(Motion.CharaStepCount, start + rest - 1);
-      EXPECT_EQ(TickCounts.FileWatchCount, watch + rest - 1);
+      EXPECT_EQ(Watch.FileWatchCount, watch + rest - 1);
       MainTick();
-      EXPECT_TRUE(Motion.CharaStepCount == 0 || TickCounts.FileWatchCount == 0);
+      EXPECT_TRUE(Motion.CharaStepCount == 0 || Watch.FileWatchCount == 0);
     }
   }
 }

@@ -28,7 +28,8 @@
 #include "services/five_ticks.h"
 #include "services/program.h"
 #include "services/text.h"
-#include "shell/entry.h"
+#include "shell/command_line.h"
+#include "shell/file_watch.h"
 #include "shell/main_window.h"
 #include "shell/panel.h"
 #include "shell/shutdown.h"
@@ -90,17 +91,17 @@ void ShellReset() {
   Dialogs = {};
   for (std::int32_t* counter :
        {&Panel.MenuCloseCount, &Panel.MenuReopenGuard, &Mail.MailTickCount, &Mail.MailMinuteCount,
-        &FiveTicks.FrameDivider, &SclTable.AutoScrollDelay, &GroupRun.GroupOpenDelay,
-        &TickCounts.FileWatchCount, &Panel.MenuPanelState, &Panel.MenuHiLine, &Panel.FuncNo,
-        &Stepped.progressMode, &Stepped.stepCounter, &Mail.MailNoticeFlag, &Mail.MailPhase,
-        &Walk.OpeningState, &TickCounts.TickCount, &FileResult.FileStatus, &Mail.MailInterval}) {
+        &FiveTicks.FrameDivider, &SclTable.AutoScrollDelay, &GroupRun.GroupOpenDelay, &Watch.FileWatchCount,
+        &Panel.MenuPanelState, &Panel.MenuHiLine, &Panel.FuncNo, &Stepped.progressMode, &Stepped.stepCounter,
+        &Mail.MailNoticeFlag, &Mail.MailPhase, &Walk.OpeningState, &TickCounts.TickCount,
+        &FileResult.FileStatus, &Mail.MailInterval}) {
     *counter = 0;
   }
   BackUpRun.BackUpActive = false;
   Program.Quitting = false;
   Mail.MailCheckOn = false;
-  Entry.PendingCommandLine[0] = '\0';
-  Entry.CommandLine[0] = '\0';
+  ProgramLine.PendingCommandLine[0] = '\0';
+  ProgramLine.CommandLine[0] = '\0';
   TableScrollStop();
   SclTable.SclTableView = {};
   SclTable.PlanView = {};
@@ -175,7 +176,7 @@ void ProgramTest::StartProgram(const char* commandLine) {
   const WindowHandle window = MainWindowCreate(mainClass, 500, 300, 120, 160);
   ASSERT_NE(window, nullptr);
   WindowShowFirst(window, 1);
-  TextCopy(Entry.PendingCommandLine, sizeof Entry.PendingCommandLine, commandLine);
+  TextCopy(ProgramLine.PendingCommandLine, sizeof ProgramLine.PendingCommandLine, commandLine);
 }
 
 void Ticks(int times) {

@@ -57,6 +57,35 @@ std::string RecordBytes(const T& record) {
   return bytes;
 }
 
+// The same of a table, one record behind the other.
+template <class T, std::size_t N>
+std::string RecordBytes(const T (&table)[N]) {
+  std::string bytes;
+  for (const T& record : table) bytes += RecordBytes(record);
+  return bytes;
+}
+
+// Gives a record, or each record of a table, the values of bytes.
+template <class T>
+void RecordSet(T& record, const std::string& bytes) {
+  if constexpr (std::is_array_v<T>) {
+    const std::size_t size = bytes.size() / std::extent_v<T>;
+    for (std::size_t i = 0; i < std::extent_v<T>; ++i) RecordSet(record[i], bytes.substr(size * i, size));
+  } else {
+    EXPECT_EQ(bytes.size(), static_cast<std::size_t>(RecordSize<T>()));
+    EXPECT_TRUE(RecordTake(record, bytes.data(), static_cast<int>(bytes.size())));
+  }
+}
+// All bytes of it the same.
+template <class T>
+void RecordFill(T& record, char byte) {
+  if constexpr (std::is_array_v<T>) {
+    for (auto& one : record) RecordFill(one, byte);
+  } else {
+    RecordSet(record, std::string(static_cast<std::size_t>(RecordSize<T>()), byte));
+  }
+}
+
 // Bytes that differ from those around them; never 0.
 std::string RecordPattern(int size, unsigned seed);
 // Bytes without any order, the same for the same seed.

@@ -141,22 +141,22 @@ TEST_F(DataSetTest, CharacterFileHoldsTheFactoryCast) {
     EXPECT_EQ(CharaTables.MainCharas[i].charaNo, i + 1);
     EXPECT_EQ(CharaTables.MainCharas[i].menuFrame, 1);
     EXPECT_EQ(CharaTables.MainCharas[i].blinkFrame, 2);
-    EXPECT_EQ(CharaSetNo(CharaTables.MainCharas[i].charaSet), i + 1);
-    EXPECT_EQ(WalkStartPoint(CharaTables.MainCharas[i].charaSet), 0);
-    EXPECT_EQ(WalkUse(CharaTables.MainCharas[i].charaSet), 3);
-    EXPECT_EQ(EndWait(CharaTables.MainCharas[i].charaSet), 30);
-    EXPECT_EQ(WalkFrames(CharaTables.MainCharas[i].charaSet, 0, 0), 1);
-    EXPECT_EQ(WalkFrames(CharaTables.MainCharas[i].charaSet, 0, 1), 2);
-    EXPECT_EQ(WalkFrames(CharaTables.MainCharas[i].charaSet, 0, 2), 0);
-    EXPECT_EQ(EndFrames(CharaTables.MainCharas[i].charaSet, 0, 0), 3);
-    EXPECT_EQ(WalkRow(CharaTables.MainCharas[i].charaSet), i + 1);
+    EXPECT_EQ(CharaTables.MainCharas[i].charaSet.CharaNo, i + 1);
+    EXPECT_EQ(CharaTables.MainCharas[i].charaSet.WalkStartPoint, 0);
+    EXPECT_EQ(CharaTables.MainCharas[i].charaSet.WalkUse[0], 3);
+    EXPECT_EQ(CharaTables.MainCharas[i].charaSet.EndWait[0], 30);
+    EXPECT_EQ(CharaTables.MainCharas[i].charaSet.WalkFrames[0][0], 1);
+    EXPECT_EQ(CharaTables.MainCharas[i].charaSet.WalkFrames[0][1], 2);
+    EXPECT_EQ(CharaTables.MainCharas[i].charaSet.WalkFrames[0][2], 0);
+    EXPECT_EQ(CharaTables.MainCharas[i].charaSet.EndFrames[0][0], 3);
+    EXPECT_EQ(CharaTables.MainCharas[i].charaSet.WalkRow[0], i + 1);
   }
-  EXPECT_EQ(WalkStepX(CharaTables.MainCharas[0].charaSet), -14);
-  EXPECT_EQ(WalkStepY(CharaTables.MainCharas[0].charaSet), -12);
-  EXPECT_EQ(WalkPeriod(CharaTables.MainCharas[1].charaSet), 3);
-  EXPECT_EQ(WalkCount(CharaTables.MainCharas[1].charaSet), 49);
-  EXPECT_EQ(WalkStepX(CharaTables.MainCharas[3].charaSet), -28);
-  EXPECT_EQ(WalkCount(CharaTables.MainCharas[3].charaSet), 24);
+  EXPECT_EQ(CharaTables.MainCharas[0].charaSet.WalkStepX[0], -14);
+  EXPECT_EQ(CharaTables.MainCharas[0].charaSet.WalkStepY[0], -12);
+  EXPECT_EQ(CharaTables.MainCharas[1].charaSet.WalkPeriod[0], 3);
+  EXPECT_EQ(CharaTables.MainCharas[1].charaSet.WalkCount[0], 49);
+  EXPECT_EQ(CharaTables.MainCharas[3].charaSet.WalkStepX[0], -28);
+  EXPECT_EQ(CharaTables.MainCharas[3].charaSet.WalkCount[0], 24);
   const std::vector<int> alarms(CharaTables.AlarmCharas,
                                 CharaTables.AlarmCharas + CharaTables.AlarmCharaCount);
   EXPECT_EQ(alarms, (std::vector<int>{6, 8, 9}));
@@ -169,13 +169,13 @@ TEST_F(DataSetTest, CharacterFileHoldsTheFactoryCast) {
     EXPECT_STREQ(CharaTables.WalkCharas[i].sound, walkSounds[i]);
     EXPECT_EQ(CharaTables.WalkFlags[i], 0);
     EXPECT_EQ(CharaTables.ClockDesigns[i].number, 15 + i);
-    const ClockDesignFields fields = ClockDesignGet(CharaTables.ClockDesigns[i].record);
+    const ClockDesignRecord& fields = CharaTables.ClockDesigns[i].record;
     EXPECT_STREQ(fields.sound, clockSounds[i]);
     EXPECT_EQ(fields.hourFigures[12][0], 2);
     EXPECT_EQ(fields.hourFigures[12][6], 8);
   }
-  EXPECT_EQ(ClockDesignGet(CharaTables.ClockDesigns[0].record).centreX, 72);
-  EXPECT_EQ(ClockDesignGet(CharaTables.ClockDesigns[3].record).hand, kHandAmPm);
+  EXPECT_EQ(CharaTables.ClockDesigns[0].record.centreX, 72);
+  EXPECT_EQ(CharaTables.ClockDesigns[3].record.hand, kHandAmPm);
 }
 
 TEST_F(DataSetTest, SettingsHoldTheFactorySettings) {
@@ -204,8 +204,8 @@ TEST_F(DataSetTest, SettingsHoldTheFactorySettings) {
   EXPECT_EQ(Schedule.DefaultSclName[0], '\0');
   EXPECT_EQ(fs::file_size(Made("mirrell_sys_file.svs")), 172720U);
   // 1 January 2026 is a Thursday; the 1st of February a Sunday.
-  EXPECT_EQ(Calendar.CalenMonths[0][0][kMonthFirstWeekday], 3);
-  EXPECT_EQ(Calendar.CalenMonths[0][1][kMonthFirstWeekday], 6);
+  EXPECT_EQ(Calendar.CalenMonths[0][0].firstWeekday, 3);
+  EXPECT_EQ(Calendar.CalenMonths[0][1].firstWeekday, 6);
 }
 
 TEST_F(DataSetTest, CalendarFileHoldsThreeCalendars) {
@@ -383,7 +383,7 @@ TEST_F(DataSetTest, CheckFindsAMonthOfAnotherYear) {
 TEST_F(DataSetTest, CheckFindsAFrameThatIsNotInUse) {
   // Figure id of frame 1 of character 1, low byte.
   const fs::path file = MadePicture("EDTCDATA.edf");
-  Spoil(file, 1440 + 3, -1);
+  Spoil(file, 1440, -1);
   EXPECT_TRUE(HasFault("character 1 frame 1: not in use"));
 }
 

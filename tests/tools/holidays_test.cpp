@@ -29,8 +29,8 @@ Dates ShownHolidays(int year, int place) {
   Calendar.CalenYearPos = place;
   Dates shown;
   for (int month = 0; month < kMonthsOfYear; ++month) {
-    for (int day = 0; day < Calendar.CalenMonths[place][month][kMonthDays]; ++day) {
-      const int weekday = (Calendar.CalenMonths[place][month][kMonthFirstWeekday] + day) % kDaysOfWeek;
+    for (int day = 0; day < Calendar.CalenMonths[place][month].days; ++day) {
+      const int weekday = (Calendar.CalenMonths[place][month].firstWeekday + day) % kDaysOfWeek;
       const int rule = CalenHolidayRule(place, month, day, HolidayUse::Display);
       const bool flagged = CalenHolidayFlag(place, month, day) && weekday != kSunday;
       if (rule == 1 || flagged) shown.push_back({month + 1, day + 1});

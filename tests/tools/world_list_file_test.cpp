@@ -16,6 +16,10 @@ std::string TextAt(const Bytes& file, std::size_t place) {
 unsigned NumberAt(const Bytes& file, std::size_t place) {
   return file[place] * 16777216U + file[place + 1] * 65536U + file[place + 2] * 256U + file[place + 3];
 }
+// Of a record: low byte first.
+unsigned LowFirstAt(const Bytes& file, std::size_t place) {
+  return file[place] + file[place + 1] * 256U + file[place + 2] * 65536U + file[place + 3] * 16777216U;
+}
 
 }  // namespace
 
@@ -35,11 +39,11 @@ TEST(WorldDataFile, HoldsNamesFramesAndFigures) {
   EXPECT_EQ(TextAt(file, 1), "A");
   EXPECT_EQ(TextAt(file, 77), "walk");
   EXPECT_EQ(TextAt(file, 77 + 64), "sit");
-  EXPECT_EQ(NumberAt(file, 1440), 1U);
-  EXPECT_EQ(NumberAt(file, 1444), 2U);
-  EXPECT_EQ(NumberAt(file, 1448), 0U);
+  EXPECT_EQ(LowFirstAt(file, 1440), 1U);
+  EXPECT_EQ(LowFirstAt(file, 1444), 2U);
+  EXPECT_EQ(LowFirstAt(file, 1448), 0U);
   EXPECT_EQ(TextAt(file, 2 * 1520 + 1), "C");
-  EXPECT_EQ(NumberAt(file, 2 * 1520 + 1440), 2U);
+  EXPECT_EQ(LowFirstAt(file, 2 * 1520 + 1440), 2U);
 }
 
 TEST(WorldDataFile, NumberWithoutCharacterIsEmpty) {

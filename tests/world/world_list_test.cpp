@@ -3,21 +3,25 @@
 #include <gtest/gtest.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cstring>
 #include <random>
 
 #include "platform/posix/faults.h"
 #include "platform/posix/posix_paths.h"
-#include "services/big_endian.h"
 #include "services/data_file.h"
 #include "tests/support/records.h"
 
 namespace {
 
 std::string BE32(std::uint32_t value) {
-  std::string bytes(4, '\0');
-  PutBE32(bytes.data(), value);
-  return bytes;
+  return {static_cast<char>(value >> 24U), static_cast<char>(value >> 16U), static_cast<char>(value >> 8U),
+          static_cast<char>(value)};
+}
+// Numbers inside a record.
+std::string LE32(std::uint32_t value) {
+  return {static_cast<char>(value), static_cast<char>(value >> 8U), static_cast<char>(value >> 16U),
+          static_cast<char>(value >> 24U)};
 }
 
 std::string Field(const std::string& text, std::size_t size) {
@@ -42,7 +46,7 @@ std::string Chara(const std::string& name, const std::string& frame, std::uint32
   std::string record = "\x11" + Field(name, 64) + std::string(11, 'x') + "\x22";
   for (int i = 0; i < 20; ++i) record += Field(frame + std::to_string(i + 1), 64);
   record += std::string(1440 - 77 - 20 * 64, 'y');
-  for (std::uint32_t i = 0; i < 20; ++i) record += BE32(id + i);
+  for (std::uint32_t i = 0; i < 20; ++i) record += LE32(id + i);
   return record;
 }
 
@@ -168,23 +172,30 @@ TEST_F(WorldListTest, AMissingOrShortListFileEndsTheLoadThereWithoutAWord) {
   EXPECT_TRUE(BoxesShown().empty());
 }
 
-TEST_F(WorldListTest, CountsBeyondTheTablesEndTheLoad) {
-  const struct {
-    std::uint32_t charas;
-    std::uint32_t figures;
-    bool fits;
-  } kCases[] = {{512, 1000, true},      {513, 0, false},        {0, 1001, false},      {0xFFFFFFFF, 0, false},
-                {1, 0xFFFFFFFF, false}, {0x80000000, 1, false}, {1, 0x7FFFFFFF, false}};
-  for (const auto& item : kCases) {
+TEST_F(WorldListTest, MoreCharactersThanThereCanBeEndTheLoad) {
+  for (const std::uint32_t charas : {513U, 0xFFFFFFFFU, 0x80000000U}) {
     World.WorldCharaCount = 3;
     World.WorldFigureCount = 4;
-    std::string file = "....";
-    file += BE32(item.charas) + BE32(item.figures);
-    for (int i = 0; i < 1001; ++i) file += Figure(true, "f");
-    Put(file, "");
+    Put("...." + BE32(charas) + BE32(1) + Figure(true, "f"), "");
     WorldListRead();
-    EXPECT_EQ(World.WorldCharaCount, item.fits ? 512 : 3) << item.charas;
-    EXPECT_EQ(World.WorldFigureCount, item.fits ? 1000 : 4) << item.figures;
+    EXPECT_EQ(World.WorldCharaCount, 3) << charas;
+    EXPECT_EQ(World.WorldFigureCount, 4) << charas;
+  }
+}
+
+// 512 characters of 20 frames each can have as many figures of their own.
+TEST_F(WorldListTest, TenThousandAndMoreFiguresFitAndOneMoreCostsNoNames) {
+  for (const std::uint32_t figures : {1001U, 10240U, 10241U}) {
+    ClearRecords();
+    std::string file = "...." + BE32(1) + BE32(figures);
+    for (std::uint32_t i = 1; i <= figures; ++i) file += Figure(true, "f" + std::to_string(i));
+    Put(file, Chara("one", "f", 1));
+    WorldListRead();
+    const int kept = static_cast<int>(std::min(figures, 10240U));
+    EXPECT_EQ(World.WorldFigureCount, kept);
+    EXPECT_EQ(WorldFigureName(kept), "f" + std::to_string(kept));
+    EXPECT_STREQ(WorldFigureName(kept + 1), "");
+    EXPECT_STREQ(WorldCharaName(1), "one") << figures;
   }
 }
 

@@ -28,41 +28,38 @@ void PutColour(unsigned char* to, const Rgb& colour) {
   to[2] = colour.blue;
 }
 
-void FillDefinition(unsigned char* definition, int year) {
-  std::memset(definition, 0, kDefinitionSize);
-  definition[kDefinitionValid] = 1;
+void FillDefinition(CalenDefinition& definition, int year) {
+  definition = CalenDefinition{};
+  definition.valid = 1;
   const std::vector<HolidayRule> rules = HolidayRulesFor(year);
   for (std::size_t i = 0; i < rules.size(); ++i) {
-    definition[kDefinitionRules + i] = static_cast<unsigned char>(rules[i].kind);
-    unsigned char* parameters = definition + kDefinitionRuleParameters + 2 * i;
-    parameters[0] = static_cast<unsigned char>(rules[i].month);
-    parameters[1] = static_cast<unsigned char>(rules[i].value);
+    definition.ruleKinds[i] = static_cast<std::uint8_t>(rules[i].kind);
+    definition.ruleParameters[i] = {static_cast<std::uint8_t>(rules[i].month),
+                                    static_cast<std::uint8_t>(rules[i].value)};
   }
-  PutColour(definition + kDefinitionColour1, kHolidayColour);
-  PutColour(definition + kDefinitionColour2, kHolidayColour);
-  definition[kDefinitionDesign] = 1;
-  unsigned char* font = definition + kDefinitionFont;
-  PutLE32(font + kFontHeight, kLetterHeight);
-  PutLE32(font + kFontWidth, kLetterWidth);
-  PutLE32(font + kFontWeight, kLetterWeight);
+  PutColour(definition.colour1, kHolidayColour);
+  PutColour(definition.colour2, kHolidayColour);
+  definition.design = 1;
+  definition.font.height = kLetterHeight;
+  definition.font.width = kLetterWidth;
+  definition.font.weight = kLetterWeight;
   static_assert(sizeof kLetterFace <= kFontFaceSize);
-  std::memcpy(font + kFontFace, kLetterFace, sizeof kLetterFace);
-  PutColour(definition + kDefinitionTickerColour, kTickerColour);
+  std::memcpy(definition.font.face, kLetterFace, sizeof kLetterFace);
+  PutColour(definition.tickerColour, kTickerColour);
 }
 
 // Every frame of the sticker characters is a sticker. The list holds a character
 // by its number from 1 and a frame from 0.
 void FillStickers() {
-  std::memset(Calendar.CalenStickers, 0, sizeof Calendar.CalenStickers);
-  int count = 0;
+  CalenStickerList& stickers = Calendar.CalenStickers;
+  stickers = CalenStickerList{};
   for (const CastMember* member : CastOf(Role::Sticker)) {
-    for (std::size_t frame = 0; frame < member->frames.size() && count < kStickerMax; ++frame, ++count) {
-      PutLE16(Calendar.CalenStickers + kStickerCharas + 2 * count,
-              static_cast<std::uint16_t>(member->number));
-      Calendar.CalenStickers[kStickerFigures + count] = static_cast<unsigned char>(frame);
+    for (std::size_t frame = 0; frame < member->frames.size() && stickers.count < kStickerMax; ++frame) {
+      stickers.charas[stickers.count] = static_cast<std::uint16_t>(member->number);
+      stickers.figures[stickers.count] = static_cast<std::uint8_t>(frame);
+      ++stickers.count;
     }
   }
-  PutLE16(Calendar.CalenStickers + kStickerCount, static_cast<std::uint16_t>(count));
 }
 
 // Flags the holidays of a year of the working array that the rules pass over.

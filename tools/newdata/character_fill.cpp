@@ -1,5 +1,4 @@
 #include <algorithm>
-#include <cstring>
 
 #include "character/character.h"
 #include "character/character_tables.h"
@@ -43,35 +42,33 @@ void FillCharacters() {
     main.secondNumber = cast[i]->number;
     // All of them walk as the factory settings say; each has a walker and a sound
     // of its own.
-    std::memcpy(main.charaSet, Character.CharaSet, kCharaSetSize);
-    SetCharaSetNo(main.charaSet, cast[i]->number);
-    SetWalkRow(main.charaSet, 0, i + 1);
+    main.charaSet = Character.CharaSet;
+    main.charaSet.CharaNo = main.charaNo;
+    main.charaSet.WalkRow[0] = static_cast<std::uint16_t>(i + 1);
   }
 }
 
 void FillClocks() {
   for (int i = 0; i < CharaTables.ClockDesignCount; ++i) {
     const Dial& dial = DialOf(i);
-    unsigned char* record = CharaTables.ClockDesigns[i].record;
-    ClockDesignFields fields = ClockDesignGet(record);
-    fields.hand = dial.hand;
-    fields.repeat = dial.repeat;
-    fields.strikeMode = kStrikeEveryHour;
-    fields.soundOn = true;
-    fields.hourLength = dial.hourLength;
-    fields.minuteLength = dial.minuteLength;
-    fields.centreX = dial.centreX;
-    fields.centreY = dial.centreY;
-    PutColour(fields.handColour, dial.hands);
-    PutColour(fields.faceColour, dial.face);
+    ClockDesignRecord& design = CharaTables.ClockDesigns[i].record;
+    design.hand = static_cast<std::uint8_t>(dial.hand);
+    design.repeat = dial.repeat ? 1 : 0;
+    design.strikeMode = kStrikeEveryHour;
+    design.soundOn = 1;
+    design.hourLength = static_cast<std::uint16_t>(dial.hourLength);
+    design.minuteLength = static_cast<std::uint16_t>(dial.minuteLength);
+    design.centreX = static_cast<std::int16_t>(dial.centreX);
+    design.centreY = static_cast<std::int16_t>(dial.centreY);
+    PutColour(design.handColour, dial.hands);
+    PutColour(design.faceColour, dial.face);
     for (int step = 0; step < kStrikeSteps; ++step) {
-      fields.strikeDelay[step] = static_cast<std::uint16_t>(dial.performanceWait.at(step));
-      for (auto& hour : fields.hourFigures) {
-        hour[step] = static_cast<unsigned char>(dial.performance.at(step));
+      design.strikeDelay[step] = static_cast<std::uint16_t>(dial.performanceWait.at(step));
+      for (auto& hour : design.hourFigures) {
+        hour[step] = static_cast<std::uint8_t>(dial.performance.at(step));
       }
     }
-    fields.name[0] = '\0';  // a design bears the name of its character
-    ClockDesignPut(record, fields);
+    design.name[0] = '\0';  // a design bears the name of its character
   }
   ClockListTakeDesigns();
 }

@@ -17,9 +17,9 @@
 #include "newdata/outline_file.h"
 #include "newdata/polygon.h"
 #include "platform/posix/posix_paths.h"
-#include "services/big_endian.h"
 #include "services/data_file.h"
 #include "services/dib.h"
+#include "services/record.h"
 #include "shell/settings.h"
 #include "world/world_list.h"
 
@@ -29,6 +29,28 @@ struct DibFreer {
   void operator()(unsigned char* image) const { DibFree(image); }
 };
 using Dib = std::unique_ptr<unsigned char, DibFreer>;
+
+// In the info header of a picture.
+struct BitCount {
+  std::uint16_t bits;
+};
+
+template <class Io>
+constexpr void Fields(Io& io, BitCount& count) {
+  io.At(14);
+  io.LE16(count.bits);
+}
+
+// The end of a sound's header.
+struct SoundSize {
+  std::uint32_t dataBytes;
+};
+
+template <class Io>
+constexpr void Fields(Io& io, SoundSize& size) {
+  io.At(40);
+  io.LE32(size.dataBytes);
+}
 
 constexpr OutlineKind kStage = OutlineKind::Stage;
 constexpr OutlineKind kWalker = OutlineKind::Walker;
@@ -97,8 +119,8 @@ class Checker {
   }
 
   static bool Is24Bit(ImageHandle image) {
-    constexpr int kBitCount = 14;  // in the info header
-    return DibBits(image) != nullptr && GetLE16(image + kBitCount) == 24;
+    BitCount count;
+    return DibBits(image) != nullptr && RecordTake(count, image, RecordSize<BitCount>()) && count.bits == 24;
   }
 
   void CheckFrame(int number, int frame, const Outline& outline, const OutlineKind* kind) {
@@ -200,24 +222,24 @@ class Checker {
           DemandFrame(main.charaNo, frame, name + ", bored");
         }
       }
-      Demand(CharaSetNo(main.charaSet) == main.charaNo, name + ": its record has another number");
+      Demand(main.charaSet.CharaNo == main.charaNo, name + ": its record has another number");
       CheckWalk(main.charaSet, i, name + ", walk");
     }
   }
 
-  void CheckWalk(const unsigned char* set, int place, const std::string& name) {
-    const int row = WalkRow(set);
+  void CheckWalk(const CharaSetRecord& set, int place, const std::string& name) {
+    const int row = set.WalkRow[0];
     if (row < 1 || row > CharaTables.WalkCharaCount || place >= CharaTables.WalkCharaCount) {
       Fault(name + ": there is no walking character");
       return;
     }
     for (int i = 0; i < kCharaSetFrames; ++i) {
-      if (WalkFrames(set, 0, i) != 0)
-        DemandFrame(CharaTables.WalkCharas[place].number, WalkFrames(set, 0, i) - 1, name);
-      if (EndFrames(set, 0, i) != 0)
-        DemandFrame(CharaTables.WalkCharas[place].number, EndFrames(set, 0, i) - 1, name);
+      if (set.WalkFrames[0][i] != 0)
+        DemandFrame(CharaTables.WalkCharas[place].number, set.WalkFrames[0][i] - 1, name);
+      if (set.EndFrames[0][i] != 0)
+        DemandFrame(CharaTables.WalkCharas[place].number, set.EndFrames[0][i] - 1, name);
     }
-    Demand(WalkFrames(set, 0, 0) != 0 && EndFrames(set, 0, 0) != 0, name + ": no frames");
+    Demand(set.WalkFrames[0][0] != 0 && set.EndFrames[0][0] != 0, name + ": no frames");
     for (int i = 0; i < CharaTables.WalkCharaCount; ++i) sounds_.insert(CharaTables.WalkCharas[i].sound);
   }
 
@@ -226,7 +248,7 @@ class Checker {
     Demand(Clock.ClockListCount == CharaTables.ClockDesignCount,
            "the calendar file lists other clock designs");
     for (int i = 0; i < CharaTables.ClockDesignCount; ++i) {
-      const ClockDesignFields fields = ClockDesignGet(CharaTables.ClockDesigns[i].record);
+      const ClockDesignRecord& fields = CharaTables.ClockDesigns[i].record;
       for (const auto& hour : fields.hourFigures) {
         for (const unsigned char figure : hour) {
           if (figure != 0) DemandFrame(CharaTables.ClockDesigns[i].number, figure - 1, "clock design");
@@ -235,8 +257,7 @@ class Checker {
       sounds_.insert(fields.sound);
     }
     for (int i = 0; i < Clock.ClockPerformanceCount; ++i) {
-      char sound[kPerformanceSoundSize + 1];
-      PerformanceSound(Clock.ClockPerformances[i], sound);
+      const char* sound = Clock.ClockPerformances[i].sound;
       if (sound[0] != '\0') sounds_.insert(sound);
     }
   }
@@ -248,8 +269,7 @@ class Checker {
     }
     const MainChara& main = CharaTables.MainCharas[Character.CharaIndex];
     Demand(Character.MenuFrame == main.menuFrame && Character.BlinkFrame == main.blinkFrame &&
-               Character.BlinkSpeedSel == main.blinkSpeedSel &&
-               std::memcmp(Character.CharaSet, main.charaSet, kCharaSetSize) == 0,
+               Character.BlinkSpeedSel == main.blinkSpeedSel && Character.CharaSet == main.charaSet,
            "the settings hold another main character than its file");
     for (const std::int32_t row : Character.AlarmCharaSel) {
       Demand(row >= 0 && row <= CharaTables.AlarmCharaCount,
@@ -263,12 +283,12 @@ class Checker {
     for (int i = 0; i < Calendar.CalenCount; ++i) {
       const std::string name = "calendar " + std::to_string(i + 1);
       Demand(Calendar.CalenNames[i][0] != '\0', name + ": no name");
-      Demand(Calendar.CalenDefinitions[i][kDefinitionValid] == 1, name + ": not valid");
-      Demand(Calendar.CalenDefinitions[i][kDefinitionRules] != 0, name + ": no holiday rules");
+      Demand(Calendar.CalenDefinitions[i].valid == 1, name + ": not valid");
+      Demand(Calendar.CalenDefinitions[i].ruleKinds[0] != 0, name + ": no holiday rules");
       for (int month = 0; month < kMonthsOfYear; ++month) {
-        const unsigned char* block = Calendar.CalenSheets[i][month];
-        Demand(block[kMonthDays] == SclDaysInMonth(Calendar.CalenFirstYear, month) &&
-                   block[kMonthFirstWeekday] == SclFirstWeekday(Calendar.CalenFirstYear, month),
+        const CalenMonth& block = Calendar.CalenSheets[i][month];
+        Demand(block.days == SclDaysInMonth(Calendar.CalenFirstYear, month) &&
+                   block.firstWeekday == SclFirstWeekday(Calendar.CalenFirstYear, month),
                name + ": month " + std::to_string(month + 1) + " is not one of its year");
       }
     }
@@ -282,11 +302,12 @@ class Checker {
       return;
     }
     const Bytes content = ReadHostFile(file);
-    constexpr std::size_t kHeader = 44;
-    constexpr std::size_t kDataSize = 40;
+    constexpr std::size_t kHeader = RecordSize<SoundSize>();
+    SoundSize size;
     const bool good = content.size() > kHeader && std::memcmp(content.data(), "RIFF", 4) == 0 &&
                       std::memcmp(content.data() + 8, "WAVEfmt ", 8) == 0 &&
-                      GetLE32(&content[kDataSize]) == content.size() - kHeader;
+                      RecordTake(size, content.data(), RecordSize<SoundSize>()) &&
+                      size.dataBytes == content.size() - kHeader;
     Demand(good, name + ": no whole sound");
   }
 

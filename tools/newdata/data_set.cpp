@@ -33,8 +33,10 @@ void Demand(int result, const char* file) {
 
 // The alarms are off; one that is switched on has a performance.
 void FillAlarms() {
-  for (int slot = 0; slot < kAlarmSlotCount; ++slot) {
-    AlarmSlotPut(slot, AlarmSlot{false, 7, 0, kFirstPerformance, {}});
+  for (AlarmSlot& slot : Clock.ClockEvents) {
+    slot = AlarmSlot{};
+    slot.hour = 7;
+    slot.performance = kFirstPerformance;
   }
 }
 
@@ -50,7 +52,7 @@ void TakeFirstCharacter() {
   Character.BoredSpeedSel = main.boredSpeedSel;
   Character.BoredRepeatSel = main.boredRepeatSel;
   Character.BlinkSpeedSel = main.blinkSpeedSel;
-  std::copy_n(main.charaSet, kCharaSetSize, Character.CharaSet);
+  Character.CharaSet = main.charaSet;
 }
 
 // Nothing has begun to move on the calendar; a data set that was read before would have

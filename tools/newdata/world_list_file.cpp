@@ -4,7 +4,6 @@
 #include <stdexcept>
 #include <string>
 
-#include "services/big_endian.h"
 #include "world/world_list.h"
 
 namespace {
@@ -20,10 +19,18 @@ std::vector<std::string> FigureNames(const std::vector<CastMember>& cast) {
   return names;
 }
 
-// A name goes in whole, with its terminator.
-void PutName(Bytes& file, std::size_t place, const std::string& name, int size) {
-  if (name.size() >= static_cast<std::size_t>(size)) throw std::runtime_error("a name is too long: " + name);
-  std::copy(name.begin(), name.end(), file.begin() + static_cast<std::ptrdiff_t>(place));
+// A name goes in whole, with its terminator, of `size` bytes at most.
+template <std::size_t N>
+void PutName(char (&to)[N], const std::string& name, std::size_t size = N - 1) {
+  if (name.size() >= size) throw std::runtime_error("a name is too long: " + name);
+  std::copy(name.begin(), name.end(), to);
+}
+
+// Adds a record to a file.
+template <class T>
+void AddRecord(Bytes& file, const T& record) {
+  file.resize(file.size() + static_cast<std::size_t>(RecordSize<T>()));
+  RecordPut(record, file.data() + file.size() - RecordSize<T>(), RecordSize<T>());
 }
 
 int LastNumber(const std::vector<CastMember>& cast) {
@@ -36,31 +43,32 @@ int LastNumber(const std::vector<CastMember>& cast) {
 
 Bytes WorldFlagFile(const std::vector<CastMember>& cast) {
   const std::vector<std::string> figures = FigureNames(cast);
-  Bytes file(kEdtcHeaderSize + kEdtcFigureSize * figures.size());
-  PutBE32(&file[kEdtcCharaCount], static_cast<std::uint32_t>(LastNumber(cast)));
-  PutBE32(&file[kEdtcFigureCount], static_cast<std::uint32_t>(figures.size()));
-  for (std::size_t i = 0; i < figures.size(); ++i) {
-    const std::size_t record = kEdtcHeaderSize + kEdtcFigureSize * i;
-    file[record + kEdtcFigureUsed] = 1;
-    PutName(file, record + kEdtcFigureName, figures[i], kWorldFigureNameSize);
+  Bytes file;
+  AddRecord(file, EdtcHead{static_cast<std::uint32_t>(LastNumber(cast)),
+                           static_cast<std::uint32_t>(figures.size())});
+  for (const std::string& name : figures) {
+    EdtcFigureRec figure{};
+    figure.used = true;
+    PutName(figure.name, name);
+    AddRecord(file, figure);
   }
   return file;
 }
 
 Bytes WorldDataFile(const std::vector<CastMember>& cast) {
   const std::vector<std::string> figures = FigureNames(cast);
-  Bytes file(static_cast<std::size_t>(kEdtcCharSize) * LastNumber(cast));
+  std::vector<EdtcCharRec> charas(static_cast<std::size_t>(LastNumber(cast)));
   for (const CastMember& member : cast) {
-    const std::size_t record = static_cast<std::size_t>(kEdtcCharSize) * (member.number - 1);
-    PutName(file, record + kEdtcCharName, member.name, kWorldNameSize);
+    EdtcCharRec& chara = charas.at(static_cast<std::size_t>(member.number - 1));
+    PutName(chara.name, member.name);
     for (std::size_t frame = 0; frame < member.frames.size(); ++frame) {
       // In memory a frame's name keeps 24 bytes.
-      PutName(file, record + kEdtcCharFrameNames + kWorldFrameNameSize * frame, member.frames[frame],
-              kWorldFrameNameMax + 1);
+      PutName(chara.frameNames[frame], member.frames[frame], kWorldFrameNameMax + 1);
       const auto figure = std::find(figures.begin(), figures.end(), member.frames[frame]);
-      PutBE32(&file[record + kEdtcCharFigureIds + 4 * frame],
-              static_cast<std::uint32_t>(figure - figures.begin() + 1));
+      chara.figures[frame].id = static_cast<std::uint16_t>(figure - figures.begin() + 1);
     }
   }
+  Bytes file;
+  for (const EdtcCharRec& chara : charas) AddRecord(file, chara);
   return file;
 }

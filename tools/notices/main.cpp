@@ -15,6 +15,7 @@
 #include "mail_music/mail/mail.h"
 #include "mail_music/mail/mail_setting.h"
 #include "platform/dialog.h"
+#include "platform/entry.h"
 #include "platform/window.h"
 #include "resources/character_ids.h"
 #include "resources/clock_calendar_ids.h"
@@ -23,7 +24,6 @@
 #include "services/program.h"
 #include "services/text.h"
 #include "services/today.h"
-#include "shell/entry.h"
 #include "shell/popups.h"
 
 namespace {
@@ -47,23 +47,25 @@ void FillSchedule() {
 }
 
 void FillNotes() {
-  constexpr const char* kTexts[kNoteNoticeCount] = {
+  constexpr const char* kTexts[kNoteDays] = {
       "歯医者 10:30",
       "図書館に本を返す。「花と庭」「星の本」の二冊。",
       "おばあさんの誕生日。花屋さんに花束を頼み、電車の切符も前の日までに買っておく。",
   };
-  for (int note = 0; note < kNoteNoticeCount; ++note) {
-    Notices.NoteNotices[note] = {true, Today.TodayYear, 9 + note, {}};
-    TextCopy(Notices.NoteNotices[note].text, sizeof Notices.NoteNotices[note].text, kTexts[note]);
+  for (int note = 0; note < kNoteDays; ++note) {
+    Calendar.CalenNotes[note] = {true, Today.TodayYear, 9 + note, {}};
+    TextCopy(Calendar.CalenNotes[note].text, sizeof Calendar.CalenNotes[note].text, kTexts[note]);
   }
 }
 
 void FillAlarm() {
   Clock.ClockAlarmSlot = 0;
-  AlarmSlot alarm{false, 7, 0, 1, {}};
+  AlarmSlot& alarm = Clock.ClockEvents[0];
+  alarm = AlarmSlot{};
+  alarm.hour = 7;
+  alarm.performance = 1;
   TextCopy(alarm.comment, sizeof alarm.comment,
            "おはようございます。今日は燃えるごみの日です。八時までに出してから、植木に水をやりましょう。");
-  AlarmSlotPut(Clock.ClockAlarmSlot, alarm);
 }
 
 // A hidden window in the place of one that is not open, for a menu to belong to.

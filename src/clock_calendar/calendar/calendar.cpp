@@ -10,29 +10,29 @@ CalendarState Calendar;
 namespace {
 
 // The month block of a day; null outside the tables.
-unsigned char* MonthAt(int yearIndex, int month, int day) {
+CalenMonth* MonthAt(int yearIndex, int month, int day) {
   const bool inside = yearIndex >= 0 && yearIndex < kCalenYearMax && month >= 0 && month < kMonthsOfYear &&
                       day >= 0 && day < kMonthDayMax;
-  return inside ? Calendar.CalenMonths[yearIndex][month] : nullptr;
+  return inside ? &Calendar.CalenMonths[yearIndex][month] : nullptr;
 }
 
 }  // namespace
 
 int CalenStickerCount() {
-  return std::min<int>(GetLE16(Calendar.CalenStickers + kStickerCount), kStickerMax);
+  return std::min<int>(Calendar.CalenStickers.count, kStickerMax);
 }
 
 void CalenSticker(int place, int* chara, int* figure) {
   const bool inside = place >= 0 && place < CalenStickerCount();
-  *chara = inside ? GetLE16(Calendar.CalenStickers + kStickerCharas + 2 * place) : 0;
-  *figure = inside ? Calendar.CalenStickers[kStickerFigures + place] : 0;
+  *chara = inside ? Calendar.CalenStickers.charas[place] : 0;
+  *figure = inside ? Calendar.CalenStickers.figures[place] : 0;
 }
 
 int CalenSelected() {
   return Calendar.CalenSel >= 0 && Calendar.CalenSel < kCalenMax ? Calendar.CalenSel : 0;
 }
 
-unsigned char* CalenDefinition() {
+CalenDefinition& CalenSelectedDefinition() {
   return Calendar.CalenDefinitions[CalenSelected()];
 }
 
@@ -48,27 +48,24 @@ int CalenSpanIndex(int year) {
 }
 
 bool CalenHolidayFlag(int yearIndex, int month, int day) {
-  const unsigned char* block = MonthAt(yearIndex, month, day);
-  return block && block[kMonthHolidays + day] != 0;
+  const CalenMonth* block = MonthAt(yearIndex, month, day);
+  return block && block->holidays[day] != 0;
 }
 
 void CalenHolidayFlagSet(int yearIndex, int month, int day, bool holiday) {
-  unsigned char* block = MonthAt(yearIndex, month, day);
-  if (block) block[kMonthHolidays + day] = holiday ? 1 : 0;
+  CalenMonth* block = MonthAt(yearIndex, month, day);
+  if (block) block->holidays[day] = holiday ? 1 : 0;
 }
 
 void CalenNoteGet(int yearIndex, int month, int day, char (&to)[kNoteSize + 1]) {
-  to[0] = '\0';
-  const unsigned char* block = MonthAt(yearIndex, month, day);
-  if (!block) return;
-  std::memcpy(to, block + kMonthNotes + kNoteSize * day, kNoteSize);
-  to[kNoteSize] = '\0';
+  const CalenMonth* block = MonthAt(yearIndex, month, day);
+  TextCopy(to, sizeof to, block ? block->notes[day] : "");
 }
 
 void CalenNoteSet(int yearIndex, int month, int day, const char* note) {
-  unsigned char* block = MonthAt(yearIndex, month, day);
+  CalenMonth* block = MonthAt(yearIndex, month, day);
   if (!block) return;
-  unsigned char* field = block + kMonthNotes + kNoteSize * day;
-  std::memset(field, 0, kNoteSize);
+  char(&field)[kNoteSize + 1] = block->notes[day];
+  std::memset(field, 0, sizeof field);
   std::memcpy(field, note, TextPrefix(note, kNoteSize - 1));
 }

@@ -9,126 +9,12 @@
 
 #include <cstdint>
 
+#include "clock_calendar/calendar/calendar_records.h"
 #include "platform/types.h"
-#include "services/big_endian.h"
 #include "services/scl_date.h"
 
-// --- Month block, 4672 bytes.
-//
-// offset  size  field
-//      0     1  days of the month
-//      1     1  weekday of the first
-//      2    32  holiday flag per day
-//     34  4096  note per day: 32 texts of 128 bytes
-//   4130   542  month picture settings:
-//   4130   512  background file, at most 510 bytes used
-//   4642     3  background colour: red, green, blue
-//   4645     1  spare
-//   4646     4  character of the two figures, number from 1, 0 for none
-//   4650     2  figure of each
-//   4652     4  horizontal correction of each, signed
-//   4656     4  vertical correction of each, signed
-//   4660     2  direction of each
-//   4662     2  figure follows the year, of each
-//   4664     2  period of each
-//   4666     2  step of each
-//   4668     1  colour instead of the background file
-//   4669     1  picture on
-//   4670     2  start position of each
-
-inline constexpr int kMonthBlockSize = 4672;
-inline constexpr int kMonthDays = 0;
-inline constexpr int kMonthFirstWeekday = 1;
-inline constexpr int kMonthHolidays = 2;
-inline constexpr int kMonthDayMax = 32;
-inline constexpr int kMonthNotes = 34;
-inline constexpr int kNoteSize = 128;
-inline constexpr int kMonthPicture = 4130;
-inline constexpr int kMonthPictureSize = 542;
-inline constexpr int kMonthBackground = 4130;
-inline constexpr int kMonthBackgroundSize = 512;
-inline constexpr int kMonthBackgroundMax = 510;
-inline constexpr int kMonthBackColour = 4642;
-inline constexpr int kMonthFigChara = 4646;
-inline constexpr int kMonthFigFigure = 4650;
-inline constexpr int kMonthFigCorrectX = 4652;
-inline constexpr int kMonthFigCorrectY = 4656;
-inline constexpr int kMonthFigDirection = 4660;
-inline constexpr int kMonthFigYear = 4662;
-inline constexpr int kMonthFigPeriod = 4664;
-inline constexpr int kMonthFigStep = 4666;
-inline constexpr int kMonthColourOnly = 4668;
-inline constexpr int kMonthPictureOn = 4669;
-inline constexpr int kMonthFigStart = 4670;
-
-// The choices of the two figures that follow the year, 10 bytes for each month.
-inline constexpr int kMonthFlagsSize = 10;
-
 inline constexpr int kCalenYearMax = 3;
-inline constexpr int kFigureCount = 2;    // moving figures of a page
-inline constexpr int kFigureCopies = 30;  // copies of each that the settings hold
-
-// --- Definition block, 26,728 bytes. Months in rows, first row January.
-//
-// offset  size  field
-//      0     1  valid
-//     12    96  per month four characters, 16 bits, number + 1, 0 for none
-//    108    48  per month four figures
-//    156    48  per month four figure modes
-//    204   192  per month four start x, 32 bits
-//    396   192  per month four start y
-//    588   365  rule kinds, up to the first zero
-//  12633   730  two parameters of each rule
-//  26138     3  first rule colour: red, green, blue
-//  26141     3  second rule colour
-//  26144     1  page design kind: 1 uses the font, 2 and more draws digits as figures
-//  26148    60  font record
-//  26208     2  first figure set
-//  26210     2  second figure set
-//  26227     1  ticker pause code
-//  26228     1  ticker speed, pixels a step less 1
-//  26229     1  ticker flags
-//  26230     1  ticker place, 0 to 4
-//  26234     3  ticker colour: red, green, blue
-//  26301   384  sticker per day: 12 months of 32, sticker number + 1, 0 for none
-//  26688     4  English flag
-// The rest stays as it is.
-
-inline constexpr int kDefinitionSize = 26728;
-inline constexpr int kDefinitionValid = 0;
-inline constexpr int kDefinitionPlaces = 4;  // characters of a month
-inline constexpr int kDefinitionCharas = 12;
-inline constexpr int kDefinitionFigures = 108;
-inline constexpr int kDefinitionFigureModes = 156;
-inline constexpr int kDefinitionStartX = 204;
-inline constexpr int kDefinitionStartY = 396;
-inline constexpr int kDefinitionRules = 588;
-inline constexpr int kDefinitionRuleMax = 365;
-inline constexpr int kDefinitionRuleParameters = 12633;
-inline constexpr int kDefinitionColour1 = 26138;
-inline constexpr int kDefinitionColour2 = 26141;
-inline constexpr int kDefinitionDesign = 26144;
-inline constexpr int kDefinitionFont = 26148;
-inline constexpr int kDefinitionFontSize = 60;
-inline constexpr int kDefinitionFigureSet1 = 26208;
-inline constexpr int kDefinitionFigureSet2 = 26210;
-inline constexpr int kDefinitionTickerPause = 26227;
-inline constexpr int kDefinitionTickerSpeed = 26228;
-inline constexpr int kDefinitionTickerFlags = 26229;
-inline constexpr int kDefinitionTickerPlace = 26230;
-inline constexpr int kDefinitionTickerColour = 26234;
-inline constexpr int kDefinitionStickers = 26301;
-inline constexpr int kDefinitionStickerDays = 32;
-inline constexpr int kDefinitionEnglish = 26688;
-
-// The font record inside the definition: five 32-bit numbers, eight flags, and
-// the face.
-inline constexpr int kFontHeight = 0;
-inline constexpr int kFontWidth = 4;
-inline constexpr int kFontWeight = 16;
-inline constexpr int kFontItalic = 20;
-inline constexpr int kFontFace = 28;
-inline constexpr int kFontFaceSize = 32;
+inline constexpr int kFigureCopies = 30;  // copies of each moving figure that the settings hold
 
 // Rule kinds: the low five bits, and two flags. A byte of 128 or more is passed
 // over.
@@ -144,14 +30,7 @@ inline constexpr unsigned kRuleEverySecondWeekday = 11;  // to 17
 inline constexpr unsigned kTickerOn = 1;
 inline constexpr unsigned kTickerWeek = 128;  // today and the next six days
 
-// --- Stickers, 302 bytes: a count, 100 characters (number + 1, 16 bits), and 100
-// figures.
-
-inline constexpr int kStickerMax = 100;
-inline constexpr int kStickerListSize = 302;
-inline constexpr int kStickerCount = 0;
-inline constexpr int kStickerCharas = 2;
-inline constexpr int kStickerFigures = 202;
+// --- Stickers.
 
 // The stickers in use, 0 to 100, whatever the list says.
 int CalenStickerCount();
@@ -161,8 +40,6 @@ void CalenSticker(int place, int* chara, int* figure);
 
 // --- All calendars, kept in mirrell_calen_file.dcd.
 
-inline constexpr int kCalenMax = 30;
-inline constexpr int kCalenNameSize = 129;
 inline constexpr int kCalenSettingsCount = 8;  // the calendars that the settings file names too
 
 enum CalenPageKind { kPageMonth = 0, kPageWeek = 1, kPageDay = 2 };
@@ -171,9 +48,9 @@ enum CalenPageKind { kPageMonth = 0, kPageWeek = 1, kPageDay = 2 };
 
 // --- Ways into the tables. An index out of a file is held inside its table.
 
-int CalenSelected();               // CalenSel, 0 if it is no calendar's place
-unsigned char* CalenDefinition();  // of the selected calendar
-int CalenYearShown();              // CalenYearPos, 0 if it is no place of the working array
+int CalenSelected();  // CalenSel, 0 if it is no calendar's place
+CalenDefinition& CalenSelectedDefinition();
+int CalenYearShown();  // CalenYearPos, 0 if it is no place of the working array
 
 // The place of a two-digit year in the span of the calendar, -1 outside it.
 int CalenSpanIndex(int year);
@@ -220,8 +97,9 @@ int CalenFileRead();
 int CalenFileWrite();
 
 // Takes the definition of the selected calendar into the display state: the
-// ticker, the stickers and the pictures of the month. Runs after each read of the
-// file and with each choice of a calendar.
+// ticker, the stickers and the pictures of the month of today. The span stays: a
+// year outside it is not put on display. Runs after each read of the file and with
+// each choice of a calendar.
 void CalenTakeDefinition();
 
 // --- Holidays by rule.
@@ -268,19 +146,19 @@ struct CalenNote {
   char text[kNoteSize + 1];
 };
 struct CalendarState {
-  unsigned char CalenStickers[kStickerListSize] = {};
+  CalenStickerList CalenStickers = {};
   std::int32_t CalenCount = 0;
   char CalenNames[kCalenMax][kCalenNameSize] = {};
   unsigned char CalenKinds[kCalenMax] = {};     // CalenPageKind
   unsigned char CalenParts[kCalenMax] = {};     // stored and read, no other use
   unsigned char CalenPictures[kCalenMax] = {};  // picture switch
-  unsigned char CalenSheets[kCalenMax][kMonthsOfYear][kMonthBlockSize] = {};
-  unsigned char CalenSheetFlags[kCalenMax][kMonthsOfYear][kMonthFlagsSize] = {};
-  unsigned char CalenDefinitions[kCalenMax][kDefinitionSize] = {};
+  CalenMonth CalenSheets[kCalenMax][kMonthsOfYear] = {};
+  CalenMonthChoices CalenSheetFlags[kCalenMax][kMonthsOfYear] = {};
+  CalenDefinition CalenDefinitions[kCalenMax] = {};
   std::int32_t CalenSel = 0;  // the selected calendar, 0 to 29
   // The working array, and the records of each of its months.
-  unsigned char CalenMonths[kCalenYearMax][kMonthsOfYear][kMonthBlockSize] = {};
-  unsigned char CalenMonthFlags[kCalenYearMax][kMonthsOfYear][kMonthFlagsSize] = {};
+  CalenMonth CalenMonths[kCalenYearMax][kMonthsOfYear] = {};
+  CalenMonthChoices CalenMonthFlags[kCalenYearMax][kMonthsOfYear] = {};
   unsigned char CalenYears[kCalenYearMax] = {};  // the years of the working array, 100 for none
   std::int32_t CalenShow = 0;                    // the calendar stands on the desktop
   std::int32_t CalenYearPos = 0;                 // year on display, place in CalenYears
@@ -322,5 +200,7 @@ extern CalendarState Calendar;
 // when there is one, and again until it has been taken. A day's note that has been
 // taken comes back only on another date.
 int CalenNoteCheck();
-// Takes the first waiting note out of CalenNotes. Returns its place, -1 for none.
+// True while a note waits in CalenNotes.
+bool CalenNoteWaits();
+// Takes the first waiting note out of CalenNotes, to be announced by command 2294. Returns its place, -1 for none.
 int CalenNoteTake();

@@ -41,12 +41,12 @@ constexpr std::int32_t kOutside = -300;
 // Ticks until the next move.
 std::int32_t waits[kFigureCount];
 
-const unsigned char* MonthBlock() {
-  return Calendar.CalenMonths[CalenYearShown()][Calendar.CalenMonthPos];
+const CalenMonthPicture& MonthPicture() {
+  return Calendar.CalenMonths[CalenYearShown()][Calendar.CalenMonthPos].picture;
 }
 
 int DirectionCode(int figure) {
-  return MonthBlock()[kMonthFigDirection + figure];
+  return MonthPicture().directions[figure];
 }
 
 // A direction from the settings file holds as long as it lies on the line that the
@@ -134,11 +134,11 @@ int CalenStepOf(int code, int height) {
 }
 
 void CalenFiguresSetup() {
-  const unsigned char* block = MonthBlock();
+  const CalenMonthPicture& month = MonthPicture();
   for (int figure = 0; figure < kFigureCount; ++figure) {
-    Calendar.CalenFigPeriod[figure] = CalenPeriodOf(block[kMonthFigPeriod + figure]);
+    Calendar.CalenFigPeriod[figure] = CalenPeriodOf(month.periods[figure]);
     Calendar.CalenFigStep[figure] =
-        CalenStepOf(block[kMonthFigStep + figure], DibHeight(CalendarPictures.CalenFigures[figure].picture));
+        CalenStepOf(month.steps[figure], DibHeight(CalendarPictures.CalenFigures[figure].picture));
     waits[figure] = Calendar.CalenFigPeriod[figure];
     if (Calendar.CalenFigCount[figure] == 0) CalenFigurePlace(figure);
     for (unsigned char& direction : Calendar.CalenFigDir[figure]) {
@@ -148,15 +148,14 @@ void CalenFiguresSetup() {
 }
 
 void CalenFigurePlace(int figure) {
-  const unsigned char* definition = CalenDefinition();
-  const int at = 4 * (kDefinitionPlaces * Calendar.CalenMonthPos + figure);
+  const CalenDefinition& definition = CalenSelectedDefinition();
   const int code = DirectionCode(figure);
   Calendar.CalenFigCount[figure] = 1;
   Calendar.CalenFigPhase[figure][0] = 0;
   Calendar.CalenFigDir[figure][0] = static_cast<unsigned char>(code == kRandom ? RandomBelow(kRandom) : code);
   std::int32_t* position = PositionOf(figure, 0);
-  position[0] = static_cast<std::int32_t>(GetLE32(definition + kDefinitionStartX + at));
-  position[1] = static_cast<std::int32_t>(GetLE32(definition + kDefinitionStartY + at));
+  position[0] = definition.startX[Calendar.CalenMonthPos][figure];
+  position[1] = definition.startY[Calendar.CalenMonthPos][figure];
 }
 
 bool CalenFiguresMove() {

@@ -2,11 +2,7 @@
 //
 // offset  size            field
 //      0  22              magic, no terminator
-//     22  4               calendar count, big-endian
-//     26  30 x 129        names
-//   3896  30              page kinds
-//   3926  30              reserved
-//   3956  30              picture switches
+//     22  3964            head: count, names, kinds, parts, pictures
 //   3986  count x 56064   sheets: 12 month blocks of 4672
 //   then  count x 120     12 records of 10 bytes for each sheet
 //   then  count x 26728   definitions
@@ -23,6 +19,7 @@
 #include "clock_calendar/clock/clock.h"
 #include "services/data_file.h"
 #include "services/program.h"
+#include "services/record_file.h"
 
 namespace {
 
@@ -31,62 +28,68 @@ constexpr int kMagicSize = sizeof kMagic - 1;
 
 // What must be whole before any of it is taken over.
 struct Calendars {
-  std::int32_t count;
-  char names[kCalenMax][kCalenNameSize];
-  unsigned char kinds[kCalenMax];
-  unsigned char parts[kCalenMax];
-  unsigned char pictures[kCalenMax];
-  unsigned char sheets[kCalenMax][kMonthsOfYear][kMonthBlockSize];
-  unsigned char flags[kCalenMax][kMonthsOfYear][kMonthFlagsSize];
+  CalenHead head;
+  CalenMonth sheets[kCalenMax][kMonthsOfYear];
+  CalenMonthChoices flags[kCalenMax][kMonthsOfYear];
 };
 Calendars incoming;
 
 bool ReadCalendars(DataFile& data) {
-  if (!DataReadBE32(data, incoming.count) || incoming.count < 0 || incoming.count > kCalenMax) return false;
-  for (char(&name)[kCalenNameSize] : incoming.names) {
-    DataRead(data, name, kCalenNameSize);
-    name[kCalenNameSize - 1] = '\0';
-  }
-  DataRead(data, incoming.kinds, kCalenMax);
-  DataRead(data, incoming.parts, kCalenMax);
-  DataRead(data, incoming.pictures, kCalenMax);
-  for (int i = 0; i < incoming.count; ++i) {
-    for (unsigned char(&month)[kMonthBlockSize] : incoming.sheets[i]) DataRead(data, month, kMonthBlockSize);
-  }
-  for (int i = 0; i < incoming.count; ++i) {
-    for (unsigned char(&month)[kMonthFlagsSize] : incoming.flags[i]) DataRead(data, month, kMonthFlagsSize);
-  }
+  if (!RecordRead(data, incoming.head)) return false;
+  const int count = incoming.head.count;
+  if (count < 0 || count > kCalenMax) return false;
+  for (int i = 0; i < count; ++i) RecordsRead(data, incoming.sheets[i]);
+  for (int i = 0; i < count; ++i) RecordsRead(data, incoming.flags[i]);
   return !data.failed;
 }
 
+void TakeHead(const CalenHead& head) {
+  Calendar.CalenCount = head.count;
+  std::memcpy(Calendar.CalenNames, head.names, sizeof Calendar.CalenNames);
+  std::memcpy(Calendar.CalenKinds, head.kinds, sizeof Calendar.CalenKinds);
+  std::memcpy(Calendar.CalenParts, head.parts, sizeof Calendar.CalenParts);
+  std::memcpy(Calendar.CalenPictures, head.pictures, sizeof Calendar.CalenPictures);
+}
+
 void TakeCalendars() {
-  Calendar.CalenCount = incoming.count;
-  std::memcpy(Calendar.CalenNames, incoming.names, sizeof Calendar.CalenNames);
-  std::memcpy(Calendar.CalenKinds, incoming.kinds, sizeof Calendar.CalenKinds);
-  std::memcpy(Calendar.CalenParts, incoming.parts, sizeof Calendar.CalenParts);
-  std::memcpy(Calendar.CalenPictures, incoming.pictures, sizeof Calendar.CalenPictures);
-  const auto count = static_cast<std::size_t>(incoming.count);
+  TakeHead(incoming.head);
+  const auto count = static_cast<std::size_t>(incoming.head.count);
   std::memcpy(Calendar.CalenSheets, incoming.sheets, count * sizeof Calendar.CalenSheets[0]);
   std::memcpy(Calendar.CalenSheetFlags, incoming.flags, count * sizeof Calendar.CalenSheetFlags[0]);
 }
 
-// Reads a block; a short one becomes zero, and the reading goes on.
-void ReadOrZero(DataFile& data, void* to, int size) {
-  if (DataRead(data, to, size)) return;
-  std::memset(to, 0, static_cast<std::size_t>(size));
+// Reads a record; a short one becomes zero, and the reading goes on.
+template <class T>
+void ReadOrZero(DataFile& data, T& record) {
+  if (RecordRead(data, record)) return;
+  record = T{};
   data.failed = false;
 }
 
+// bounded: a list that counts more designs than there can be is no list.
+std::int32_t ReadListCount(DataFile& data) {
+  std::uint32_t designs = 0;
+  DataReadBE32(data, designs);
+  data.failed = false;
+  return designs <= kClockDesignMax ? static_cast<std::int32_t>(designs) : 0;
+}
+
 void ReadTail(DataFile& data) {
-  for (int i = 0; i < Calendar.CalenCount; ++i)
-    ReadOrZero(data, Calendar.CalenDefinitions[i], kDefinitionSize);
-  ReadOrZero(data, Calendar.CalenStickers, kStickerListSize);
-  unsigned char count[4];
-  ReadOrZero(data, count, sizeof count);
-  // bounded: a list that counts more designs than there can be is no list.
-  const std::uint32_t designs = GetBE32(count);
-  Clock.ClockListCount = designs <= kClockDesignMax ? static_cast<std::int32_t>(designs) : 0;
-  for (int i = 0; i < Clock.ClockListCount; ++i) ReadOrZero(data, Clock.ClockList[i], kClockListSize);
+  for (int i = 0; i < Calendar.CalenCount; ++i) ReadOrZero(data, Calendar.CalenDefinitions[i]);
+  ReadOrZero(data, Calendar.CalenStickers);
+  Clock.ClockListCount = ReadListCount(data);
+  for (int i = 0; i < Clock.ClockListCount; ++i) ReadOrZero(data, Clock.ClockList[i]);
+}
+
+// bounded: the settings file has its own copy of the count.
+CalenHead HeadToWrite() {
+  CalenHead head;
+  head.count = std::clamp<std::int32_t>(Calendar.CalenCount, 0, kCalenMax);
+  std::memcpy(head.names, Calendar.CalenNames, sizeof head.names);
+  std::memcpy(head.kinds, Calendar.CalenKinds, sizeof head.kinds);
+  std::memcpy(head.parts, Calendar.CalenParts, sizeof head.parts);
+  std::memcpy(head.pictures, Calendar.CalenPictures, sizeof head.pictures);
+  return head;
 }
 
 }  // namespace
@@ -123,27 +126,15 @@ int CalenFileWrite() {
   FileResult.FileStatus = 0;
   DataFile data;
   if (!DataReplace(data, path)) return FileResult.FileStatus;
-  // bounded: the settings file has its own copy of the count.
-  const int count = std::clamp<std::int32_t>(Calendar.CalenCount, 0, kCalenMax);
+  const CalenHead head = HeadToWrite();
   DataWrite(data, kMagic, kMagicSize);
-  DataWriteBE32(data, static_cast<std::uint32_t>(count));
-  for (const char(&name)[kCalenNameSize] : Calendar.CalenNames) DataWrite(data, name, kCalenNameSize);
-  DataWrite(data, Calendar.CalenKinds, kCalenMax);
-  DataWrite(data, Calendar.CalenParts, kCalenMax);
-  DataWrite(data, Calendar.CalenPictures, kCalenMax);
-  for (int i = 0; i < count; ++i) {
-    for (const unsigned char(&month)[kMonthBlockSize] : Calendar.CalenSheets[i])
-      DataWrite(data, month, kMonthBlockSize);
-  }
-  for (int i = 0; i < count; ++i) {
-    for (const unsigned char(&month)[kMonthFlagsSize] : Calendar.CalenSheetFlags[i]) {
-      DataWrite(data, month, kMonthFlagsSize);
-    }
-  }
-  for (int i = 0; i < count; ++i) DataWrite(data, Calendar.CalenDefinitions[i], kDefinitionSize);
-  DataWrite(data, Calendar.CalenStickers, kStickerListSize);
+  RecordWrite(data, head);
+  for (int i = 0; i < head.count; ++i) RecordsWrite(data, Calendar.CalenSheets[i]);
+  for (int i = 0; i < head.count; ++i) RecordsWrite(data, Calendar.CalenSheetFlags[i]);
+  RecordsWrite(data, Calendar.CalenDefinitions, head.count);
+  RecordWrite(data, Calendar.CalenStickers);
   DataWriteBE32(data, static_cast<std::uint32_t>(Clock.ClockListCount));
-  for (int i = 0; i < Clock.ClockListCount; ++i) DataWrite(data, Clock.ClockList[i], kClockListSize);
+  RecordsWrite(data, Clock.ClockList, Clock.ClockListCount);
   if (data.failed) return DataFailStatus(data);
   DataClose(data);
   return 0;

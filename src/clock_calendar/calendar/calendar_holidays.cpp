@@ -85,14 +85,14 @@ int CalenHolidayRule(int yearIndex, int month, int day, HolidayUse use) {
   const int leapYear = use == HolidayUse::Schedule ? Calendar.CalenYears[yearIndex] : displayed;
   const AskedDay asked = {displayed, SclIsLeapYear(leapYear),          use == HolidayUse::Display, month,
                           day,       WeekdayOf(displayed, month, day), day / kDaysOfWeek + 1};
-  const unsigned char* definition = CalenDefinition();
+  const CalenDefinition& definition = CalenSelectedDefinition();
   for (int i = 0; i < kDefinitionRuleMax; ++i) {
-    const unsigned kind = definition[kDefinitionRules + i];
+    const unsigned kind = definition.ruleKinds[i];
     if (kind == 0) break;
     if (kind >= kRuleSkipped) continue;
-    const unsigned char* parameters = definition + kDefinitionRuleParameters + 2 * i;
+    const CalenRuleParameters& parameters = definition.ruleParameters[i];
     const Rule rule = {kind & kRuleKindMask, (kind & kRuleLeapEarlier) != 0, (kind & kRuleNoSubstitute) != 0,
-                       parameters[0] - 1, parameters[1]};
+                       parameters.month - 1, parameters.value};
     const int match = Match(rule, asked);
     if (match != 0) return match;
   }

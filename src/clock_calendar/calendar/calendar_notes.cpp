@@ -1,5 +1,7 @@
 // Announcing the notes of the coming days, once for each day.
+#include <algorithm>
 #include <cstring>
+#include <iterator>
 
 #include "clock_calendar/calendar/calendar.h"
 #include "platform/time.h"
@@ -62,13 +64,18 @@ int CalenNoteCheck() {
   const Day first = {yearIndex, today.month, today.day};
   if (!done[0] && Announce(0, first)) return 1;
   if (Calendar.CalenNoteMode == kNoteThatDay) return 0;
-  const int daysOfMonth = Calendar.CalenMonths[yearIndex][today.month][kMonthDays];
+  const int daysOfMonth = Calendar.CalenMonths[yearIndex][today.month].days;
   const Day second = NextDay(first, daysOfMonth);
   if (!done[1] && Announce(1, second)) return 1;
   if (Calendar.CalenNoteMode != kNoteTwoDaysBefore || done[2]) return 0;
   done[2] = true;
   // kept: the second step is held against the length of the first day's month.
   return Announce(2, NextDay(second, daysOfMonth)) ? 1 : 0;
+}
+
+bool CalenNoteWaits() {
+  return std::any_of(std::begin(Calendar.CalenNotes), std::end(Calendar.CalenNotes),
+                     [](const CalenNote& note) { return note.due; });
 }
 
 int CalenNoteTake() {

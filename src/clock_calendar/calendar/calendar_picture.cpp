@@ -1,7 +1,5 @@
 #include "clock_calendar/calendar/calendar_picture.h"
 
-#include <cstring>
-
 #include "character/frames.h"
 #include "clock_calendar/calendar/calendar.h"
 #include "clock_calendar/clock_calendar_tick.h"
@@ -35,11 +33,10 @@ void MonthPicturesFree() {
   for (CalenPicture& figure : CalendarPictures.CalenFigures) PictureFree(figure);
 }
 
-void BackgroundLoad(const unsigned char* block) {
+void BackgroundLoad(const CalenMonthPicture& month) {
   char name[kMonthBackgroundMax + 1];
-  std::memcpy(name, block + kMonthBackground, kMonthBackgroundMax);
-  name[kMonthBackgroundMax] = '\0';
-  if (block[kMonthColourOnly] != 0 || name[0] == '\0') return;
+  TextCopy(name, sizeof name, month.background);
+  if (month.colourOnly != 0 || name[0] == '\0') return;
   char path[kRootPathSize + kMonthBackgroundSize] = "";
   const bool fullPath = name[0] == '\\' || name[1] == ':';
   if (!fullPath) RootPath(path, sizeof path, "\\背景\\");
@@ -48,12 +45,12 @@ void BackgroundLoad(const unsigned char* block) {
 }
 
 void FigureLoad(int place) {
-  const unsigned char* definition = CalenDefinition();
-  const int at = kDefinitionPlaces * Calendar.CalenMonthPos + place;
-  const int chara = GetLE16(definition + kDefinitionCharas + 2 * at);
+  const CalenDefinition& definition = CalenSelectedDefinition();
+  const int month = Calendar.CalenMonthPos;
+  const int chara = definition.charas[month][place];
   if (chara == 0) return;
   const int frame =
-      CalenFigureChoice(chara, definition[kDefinitionFigures + at], definition[kDefinitionFigureModes + at]);
+      CalenFigureChoice(chara, definition.figures[month][place], definition.figureModes[month][place]);
   PictureLoad(CalendarPictures.CalenFigures[place], chara, frame);
 }
 
@@ -67,22 +64,21 @@ int CalenPictureHeight() {
 
 void CalenPicturesLoad() {
   MonthPicturesFree();
-  const unsigned char* block = Calendar.CalenMonths[CalenYearShown()][Calendar.CalenMonthPos];
-  if (block[kMonthPictureOn] != 0) {
-    BackgroundLoad(block);
+  const int month = Calendar.CalenMonthPos;
+  const CalenMonthPicture& picture = Calendar.CalenMonths[CalenYearShown()][month].picture;
+  if (picture.pictureOn != 0) {
+    BackgroundLoad(picture);
     for (int place = 0; place < kFigurePlaces; ++place) FigureLoad(place);
   }
-  const unsigned char* definition = CalenDefinition();
-  const int fixed = 4 * (kDefinitionPlaces * Calendar.CalenMonthPos + kFigureCount);
-  CalendarPictures.CalenFixedFigure = {static_cast<int>(GetLE32(definition + kDefinitionStartX + fixed)),
-                                       static_cast<int>(GetLE32(definition + kDefinitionStartY + fixed))};
+  const CalenDefinition& definition = CalenSelectedDefinition();
+  CalendarPictures.CalenFixedFigure = {definition.startX[month][kFigureCount],
+                                       definition.startY[month][kFigureCount]};
   CalenFiguresSetup();
 }
 
 void CalenStickersPrepare() {
   StickersFree();
-  const unsigned char* days =
-      CalenDefinition() + kDefinitionStickers + kDefinitionStickerDays * Calendar.CalenMonthPos;
+  const auto& days = CalenSelectedDefinition().stickers[Calendar.CalenMonthPos];
   for (int day = 0; day < kStickerDays; ++day) {
     int chara = 0;
     int figure = 0;

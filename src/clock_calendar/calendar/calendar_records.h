@@ -1,11 +1,11 @@
 // The records of the calendars, as they lie in mirrell_calen_file.dcd and, the months
 // of the working array, in the settings file. Numbers inside a record stand low byte
-// first; those of the file's head are big-endian.
+// first; those of the file's head are big-endian. A sheet is twelve months.
 #pragma once
 
 #include "services/record.h"
+#include "services/scl_date.h"
 
-inline constexpr int kMonthsOfSheet = 12;
 inline constexpr int kMonthDayMax = 32;
 inline constexpr int kNoteSize = 128;
 inline constexpr int kMonthBackgroundSize = 512;
@@ -44,6 +44,8 @@ struct CalenMonthPicture {
   std::uint8_t colourOnly;
   std::uint8_t pictureOn;
   std::uint8_t starts[kFigureCount];
+
+  bool operator==(const CalenMonthPicture&) const = default;
 };
 
 template <class Io>
@@ -80,6 +82,8 @@ struct CalenMonth {
   std::uint8_t holidays[kMonthDayMax];
   char notes[kMonthDayMax][kNoteSize + 1];
   CalenMonthPicture picture;
+
+  bool operator==(const CalenMonth&) const = default;
 };
 
 template <class Io>
@@ -93,38 +97,16 @@ constexpr void Fields(Io& io, CalenMonth& month) {
 }
 static_assert(RecordSize<CalenMonth>() == 4672);
 
-// A calendar's year, 56064 bytes: a month block for each month.
-struct CalenSheet {
-  CalenMonth months[kMonthsOfSheet];
-};
-
-template <class Io>
-constexpr void Fields(Io& io, CalenSheet& sheet) {
-  io.Record(sheet.months);
-}
-static_assert(RecordSize<CalenSheet>() == 56064);
-
 // The choices of the figures of a month that follow the year, 10 bytes.
-struct CalenMonthFlags {
+struct CalenMonthChoices {
   unsigned char choices[10];
 };
 
 template <class Io>
-constexpr void Fields(Io& io, CalenMonthFlags& flags) {
-  io.Bytes(flags.choices);
+constexpr void Fields(Io& io, CalenMonthChoices& month) {
+  io.Bytes(month.choices);
 }
-static_assert(RecordSize<CalenMonthFlags>() == 10);
-
-// The same of a year, 120 bytes.
-struct CalenSheetFlags {
-  CalenMonthFlags months[kMonthsOfSheet];
-};
-
-template <class Io>
-constexpr void Fields(Io& io, CalenSheetFlags& flags) {
-  io.Record(flags.months);
-}
-static_assert(RecordSize<CalenSheetFlags>() == 120);
+static_assert(RecordSize<CalenMonthChoices>() == 10);
 
 // The font of a page's text, 60 bytes
 //
@@ -147,6 +129,8 @@ struct CalenFont {
   std::uint8_t italic;
   unsigned char marks[7];
   char face[kFontFaceSize + 1];
+
+  bool operator==(const CalenFont&) const = default;
 };
 
 template <class Io>
@@ -166,6 +150,8 @@ static_assert(RecordSize<CalenFont>() == 60);
 struct CalenRuleParameters {
   std::uint8_t month;  // from 1
   std::uint8_t value;
+
+  bool operator==(const CalenRuleParameters&) const = default;
 };
 
 template <class Io>
@@ -203,14 +189,14 @@ inline constexpr int kDefinitionStickerDays = 32;
 //  26301   384  stickers, per month 32 days, sticker number + 1, 0 for none
 //  26688     4  english
 // The rest is reserved and stays as it is.
-struct CalenDefinitionRecord {
+struct CalenDefinition {
   std::uint8_t valid;
   unsigned char reserved1[11];
-  std::uint16_t charas[kMonthsOfSheet][kDefinitionPlaces];
-  std::uint8_t figures[kMonthsOfSheet][kDefinitionPlaces];
-  std::uint8_t figureModes[kMonthsOfSheet][kDefinitionPlaces];
-  std::int32_t startX[kMonthsOfSheet][kDefinitionPlaces];
-  std::int32_t startY[kMonthsOfSheet][kDefinitionPlaces];
+  std::uint16_t charas[kMonthsOfYear][kDefinitionPlaces];
+  std::uint8_t figures[kMonthsOfYear][kDefinitionPlaces];
+  std::uint8_t figureModes[kMonthsOfYear][kDefinitionPlaces];
+  std::int32_t startX[kMonthsOfYear][kDefinitionPlaces];
+  std::int32_t startY[kMonthsOfYear][kDefinitionPlaces];
   std::uint8_t ruleKinds[kDefinitionRuleMax];
   unsigned char reserved2[11680];
   CalenRuleParameters ruleParameters[kDefinitionRuleMax];
@@ -230,14 +216,16 @@ struct CalenDefinitionRecord {
   unsigned char reserved6[3];
   unsigned char tickerColour[3];
   unsigned char reserved7[64];
-  std::uint8_t stickers[kMonthsOfSheet][kDefinitionStickerDays];
+  std::uint8_t stickers[kMonthsOfYear][kDefinitionStickerDays];
   unsigned char reserved8[3];
   std::int32_t english;
   unsigned char reserved9[36];
+
+  bool operator==(const CalenDefinition&) const = default;
 };
 
 template <class Io>
-constexpr void Fields(Io& io, CalenDefinitionRecord& definition) {
+constexpr void Fields(Io& io, CalenDefinition& definition) {
   io.U8(definition.valid);
   io.Bytes(definition.reserved1);
   io.At(12);
@@ -276,7 +264,7 @@ constexpr void Fields(Io& io, CalenDefinitionRecord& definition) {
   io.LE32(definition.english);
   io.Bytes(definition.reserved9);
 }
-static_assert(RecordSize<CalenDefinitionRecord>() == 26728);
+static_assert(RecordSize<CalenDefinition>() == 26728);
 
 inline constexpr int kStickerMax = 100;
 

@@ -14,27 +14,34 @@ void BeginSpanAt(int year) {
   Calendar.CalenYearPos = 0;
 }
 
-void DisplayToday() {
+// Puts the month of today on display, and its year if the span has it. False if not.
+bool DisplayTodayInSpan() {
   Calendar.CalenMonthPos = std::clamp<std::int32_t>(Today.TodayMonth, 0, kMonthsOfYear - 1);
   const int index = CalenSpanIndex(Today.TodayYear);
-  if (index >= 0) {
-    Calendar.CalenYearPos = index;
-  } else {
-    BeginSpanAt(Today.TodayYear);
-  }
+  if (index >= 0) Calendar.CalenYearPos = index;
+  return index >= 0;
+}
+
+void DisplayToday() {
+  if (!DisplayTodayInSpan()) BeginSpanAt(Today.TodayYear);
+}
+
+void LoadMonth() {
+  CalenStickersPrepare();
+  CalenPicturesLoad();
 }
 
 }  // namespace
 
 void CalenTakeDefinition() {
   CalenTickerSetup();
-  CalenShowToday();
+  DisplayTodayInSpan();
+  LoadMonth();
 }
 
 void CalenShowToday() {
   DisplayToday();
-  CalenStickersPrepare();
-  CalenPicturesLoad();
+  LoadMonth();
 }
 
 void CalenPrepareMonth() {
@@ -44,8 +51,7 @@ void CalenPrepareMonth() {
     // bounded: the settings file may hold any place; today is always a year.
     BeginSpanAt(year >= 0 && year <= 99 ? static_cast<int>(year) : Today.TodayYear);
   }
-  CalenStickersPrepare();
-  CalenPicturesLoad();
+  LoadMonth();
   for (int figure = 0; figure < kFigureCount; ++figure) CalenFigurePlace(figure);
 }
 

@@ -24,13 +24,12 @@ int PauseOf(int code) {
 }  // namespace
 
 void CalenTickerSetup() {
-  const unsigned char* definition = CalenDefinition();
-  const unsigned flags = definition[kDefinitionTickerFlags];
+  const CalenDefinition& definition = CalenSelectedDefinition();
+  const unsigned flags = definition.tickerFlags;
   Calendar.CalenTickerOn = (flags & kTickerOn) != 0;
   Calendar.CalenTickerReach = (flags & kTickerWeek) != 0 ? kDaysOfWeek : 1;
-  Calendar.CalenTickerStep = definition[kDefinitionTickerSpeed] + 1;
-  Calendar.CalenTickerPause = PauseOf(definition[kDefinitionTickerPause]);
-  Calendar.CalenTickerPlace = definition[kDefinitionTickerPlace];
-  std::memcpy(Calendar.CalenTickerColour, definition + kDefinitionTickerColour,
-              sizeof Calendar.CalenTickerColour);
+  Calendar.CalenTickerStep = definition.tickerSpeed + 1;
+  Calendar.CalenTickerPause = PauseOf(definition.tickerPause);
+  Calendar.CalenTickerPlace = definition.tickerPlace;
+  std::memcpy(Calendar.CalenTickerColour, definition.tickerColour, sizeof Calendar.CalenTickerColour);
 }

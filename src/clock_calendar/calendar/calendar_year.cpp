@@ -2,6 +2,7 @@
 // sheet gets into them.
 #include <algorithm>
 #include <cstring>
+#include <iterator>
 
 #include "clock_calendar/calendar/calendar.h"
 #include "platform/time.h"
@@ -41,7 +42,7 @@ void CalenStartDefaults() {
   for (int i = 0; i < kCalenYearMax; ++i) CalenYearInit(i);
   for (int i = 0; i < kFirstCalendars; ++i) {
     std::memcpy(Calendar.CalenSheets[i], Calendar.CalenMonths[0], sizeof Calendar.CalenSheets[i]);
-    Calendar.CalenDefinitions[i][kDefinitionValid] = 1;
+    Calendar.CalenDefinitions[i].valid = 1;
   }
 }
 
@@ -74,31 +75,32 @@ void CalenSpanSet(int firstYear, int length) {
 void CalenYearInit(int yearIndex) {
   if (yearIndex < 0 || yearIndex >= kCalenYearMax) return;
   for (int month = 0; month < kMonthsOfYear; ++month) {
-    unsigned char* block = Calendar.CalenMonths[yearIndex][month];
+    CalenMonth& block = Calendar.CalenMonths[yearIndex][month];
     const int days = SclDaysInMonth(Calendar.CalenYears[yearIndex], month);
     const int first = FirstWeekday(Calendar.CalenYears[yearIndex], month);
-    block[kMonthDays] = static_cast<unsigned char>(days);
-    block[kMonthFirstWeekday] = static_cast<unsigned char>(first);
-    std::memset(block + kMonthHolidays, 0, kMonthPicture - kMonthHolidays);
-    for (int day = 0; day < days; ++day) block[kMonthHolidays + day] = IsSunday(first, day) ? 1 : 0;
+    block.days = static_cast<std::uint8_t>(days);
+    block.firstWeekday = static_cast<std::uint8_t>(first);
+    std::memset(block.holidays, 0, sizeof block.holidays);
+    std::memset(block.notes, 0, sizeof block.notes);
+    for (int day = 0; day < days; ++day) block.holidays[day] = IsSunday(first, day) ? 1 : 0;
   }
 }
 
 void CalenYearsRebuild() {
   for (int i = 0; i < kCalenYearMax; ++i) {
     for (int month = 0; month < kMonthsOfYear; ++month) {
-      unsigned char* block = Calendar.CalenMonths[i][month];
-      const int oldFirst = block[kMonthFirstWeekday];
-      const int oldDays = std::min<int>(block[kMonthDays], kMonthDayMax);
+      CalenMonth& block = Calendar.CalenMonths[i][month];
+      const int oldFirst = block.firstWeekday;
+      const int oldDays = std::min<int>(block.days, kMonthDayMax);
       const int first = FirstWeekday(Calendar.CalenYears[i], month);
       const int days = SclDaysInMonth(Calendar.CalenYears[i], month);
-      block[kMonthDays] = static_cast<unsigned char>(days);
-      block[kMonthFirstWeekday] = static_cast<unsigned char>(first);
+      block.days = static_cast<std::uint8_t>(days);
+      block.firstWeekday = static_cast<std::uint8_t>(first);
       if (first == oldFirst && days == oldDays) continue;
       for (int day = 0; day < kMonthDayMax; ++day) {
         const bool wasSunday = day < oldDays && IsSunday(oldFirst, day);
         const bool isSunday = day < days && IsSunday(first, day);
-        if (wasSunday != isSunday) block[kMonthHolidays + day] = isSunday ? 1 : 0;
+        if (wasSunday != isSunday) block.holidays[day] = isSunday ? 1 : 0;
       }
     }
   }
@@ -106,16 +108,14 @@ void CalenYearsRebuild() {
 
 void CalenUseSheet() {
   const int sel = CalenSelected();
-  for (int i = 0; i < kCalenYearMax; ++i) {
+  for (auto& year : Calendar.CalenMonths) {
     for (int month = 0; month < kMonthsOfYear; ++month) {
-      std::memcpy(Calendar.CalenMonths[i][month] + kMonthPicture,
-                  Calendar.CalenSheets[sel][month] + kMonthPicture, kMonthPictureSize);
+      year[month].picture = Calendar.CalenSheets[sel][month].picture;
     }
   }
   CalenYearsRebuild();
-  for (int i = 0; i < kCalenYearMax; ++i) {
-    std::memcpy(Calendar.CalenMonthFlags[i], Calendar.CalenSheetFlags[sel],
-                sizeof Calendar.CalenMonthFlags[i]);
+  for (auto& year : Calendar.CalenMonthFlags) {
+    std::copy(std::begin(Calendar.CalenSheetFlags[sel]), std::end(Calendar.CalenSheetFlags[sel]), year);
   }
   Calendar.CalenPictures[sel] = 1;
 }

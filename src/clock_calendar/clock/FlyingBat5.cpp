@@ -38,7 +38,7 @@ char comment[kAlarmCommentSize];
 void ContentTake() {
   comment[0] = '\0';
   if (Clock.ClockAlarmSlot < 0 || Clock.ClockAlarmSlot >= kAlarmSlotCount) return;
-  const AlarmSlot alarm = AlarmSlotGet(Clock.ClockAlarmSlot);
+  const AlarmSlot& alarm = Clock.ClockEvents[Clock.ClockAlarmSlot];
   TextCopy(comment, sizeof comment, alarm.comment);
   Performance.PerformanceActive = alarm.performance;
 }

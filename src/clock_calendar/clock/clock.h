@@ -1,15 +1,12 @@
-// The desktop clock: its records, tables and limits.
-//
-// Records that travel as blocks through the files are byte arrays here; the
-// accessors below each table of offsets are the only way into them. Numbers
-// inside a record stand low byte first.
+// The desktop clock: its tables and limits. Its records stand in clock_records.h, that
+// of a design in character/chara_records.h.
 #pragma once
 
 #include <cstdint>
 
 #include "character/character_tables.h"
+#include "clock_calendar/clock/clock_records.h"
 #include "platform/types.h"
-#include "services/big_endian.h"
 
 // --- Settings, kept in the settings file.
 
@@ -19,75 +16,12 @@ inline constexpr int kClockNone = 255;  // no design is selected
 
 enum ClockStrike { kStrikeNever = 0, kStrikeEveryHour = 1, kStrikeAtTwelve = 2 };
 
-// --- Alarm slot, 144 bytes, kept in the settings file.
-//
-// offset  size  field
-//      0     1  enabled
-//      1     1  hour, 0 to 23
-//      2     1  minute, 0 to 59
-//      3     1  spare
-//      4     2  performance, number of a record from 1; 0 for none
-//      6   100  comment, terminated
-//    106    38  spare
-
 inline constexpr int kAlarmSlotCount = 5;
-inline constexpr int kAlarmSlotSize = 144;
-inline constexpr int kAlarmSlotEnabled = 0;
-inline constexpr int kAlarmSlotHour = 1;
-inline constexpr int kAlarmSlotMinute = 2;
-inline constexpr int kAlarmSlotPerformance = 4;
-inline constexpr int kAlarmSlotComment = 6;
-inline constexpr int kAlarmCommentSize = 100;
 
-struct AlarmSlot {
-  bool enabled;
-  int hour;
-  int minute;
-  int performance;  // from 1; 0 for none
-  char comment[kAlarmCommentSize];
-};
-
-// One slot (0 to 4) out of the table, and into it. A comment without its
-// terminator is cut to 99 bytes.
-AlarmSlot AlarmSlotGet(int slot);
-void AlarmSlotPut(int slot, const AlarmSlot& value);
-
-// --- Performance record, 2008 bytes, of mirrell_ClcAlmPerFile.clc.
-//
-// offset  size  field
-//      0     1  flags: nonzero in use, bit 0 shows the selected character
-//      4     4  figure mode: nonzero shows figures
-//     24    80  20 durations
-//    424  1500  sound file name, terminated
-//   1924     4  reserved, 0
-//   1928    80  title
-// The rest is zero.
+// --- Performances, kept in mirrell_ClcAlmPerFile.clc.
 
 inline constexpr int kPerformanceMax = 50;
-inline constexpr int kPerformanceSize = 2008;
-inline constexpr int kPerformanceFlags = 0;
-inline constexpr int kPerformanceFigureMode = 4;
-inline constexpr int kPerformanceDurations = 24;
-inline constexpr int kPerformanceStepCount = 20;
-inline constexpr int kPerformanceSound = 424;
-inline constexpr int kPerformanceSoundSize = 1500;
-inline constexpr int kPerformanceTitle = 1928;
-inline constexpr int kPerformanceTitleSize = 80;
 inline constexpr int kPerformanceDefaultCount = 3;
-inline constexpr unsigned kPerformanceCharacter = 1;  // bit of the flags
-
-inline unsigned PerformanceFlags(const unsigned char* record) {
-  return record[kPerformanceFlags];
-}
-inline std::int32_t PerformanceFigureMode(const unsigned char* record) {
-  return static_cast<std::int32_t>(GetLE32(record + kPerformanceFigureMode));
-}
-inline std::int32_t PerformanceDuration(const unsigned char* record, int step) {
-  return static_cast<std::int32_t>(GetLE32(record + kPerformanceDurations + 4 * step));
-}
-// Texts of a record; `to` takes the whole field and a terminator.
-void PerformanceSound(const unsigned char* record, char (&to)[kPerformanceSoundSize + 1]);
-void PerformanceTitle(const unsigned char* record, char (&to)[kPerformanceTitleSize + 1]);
 
 // Reads mirrell_ClcAlmPerFile.clc; after a good read the default records and
 // their count stand in the table all the same. Returns FileStatus: 0, -1 when
@@ -101,44 +35,7 @@ int ClockAlarmFileWrite();
 int ClockAlarmFileLoad();
 int ClockAlarmFilePath(char* buffer, int size);
 
-// --- Clock design record, 464 bytes, of the character file.
-//
-// offset  size  field
-//      0     1  hand kind, ClockHand
-//      1     1  repeat flag
-//      2     1  strike mode
-//      3     1  sound flag
-//      4     2  hour hand length, pixels
-//      6     2  minute hand length
-//      8     2  centre x, signed
-//     10     2  centre y, signed
-//     12     3  hand colour: red, green, blue
-//     15     3  face colour
-//     18    14  strike delay table: 7 numbers of ticks
-//     32    91  hour figures: 13 rows of 7, frame numbers from 1, 0 ends
-//    123     1  spare
-//    124   256  sound file name
-//    380    64  design name; empty: the name of its character
-//    444    20  spare
-
-inline constexpr int kDesignHand = 0;
-inline constexpr int kDesignRepeat = 1;
-inline constexpr int kDesignStrikeMode = 2;
-inline constexpr int kDesignSoundOn = 3;
-inline constexpr int kDesignHourLength = 4;
-inline constexpr int kDesignMinuteLength = 6;
-inline constexpr int kDesignCentreX = 8;
-inline constexpr int kDesignCentreY = 10;
-inline constexpr int kDesignHandColour = 12;
-inline constexpr int kDesignFaceColour = 15;
-inline constexpr int kDesignStrikeDelay = 18;
-inline constexpr int kDesignHourFigures = 32;
-inline constexpr int kDesignSound = 124;
-inline constexpr int kDesignSoundSize = 256;
-inline constexpr int kDesignName = 380;
-inline constexpr int kDesignNameSize = 64;
-inline constexpr int kStrikeSteps = 7;
-inline constexpr int kStrikeHours = 13;
+// --- Clock designs, kept in the character file.
 
 enum ClockHand {
   kHandLine = 0,
@@ -154,49 +51,11 @@ constexpr bool ClockIsDigital(int hand) {
   return hand == kHandAmPm || hand == kHandDigits;
 }
 
-// A design record with its fields laid out; texts are terminated.
-struct ClockDesignFields {
-  int hand;
-  bool repeat;
-  int strikeMode;
-  bool soundOn;
-  int hourLength;
-  int minuteLength;
-  int centreX;
-  int centreY;
-  unsigned char handColour[3];  // red, green, blue
-  unsigned char faceColour[3];
-  std::uint16_t strikeDelay[kStrikeSteps];
-  unsigned char hourFigures[kStrikeHours][kStrikeSteps];
-  char sound[kDesignSoundSize];
-  char name[kDesignNameSize];
-};
-ClockDesignFields ClockDesignGet(const unsigned char* record);
-// The bytes without a field of their own stay as they are.
-void ClockDesignPut(unsigned char* record, const ClockDesignFields& fields);
-
-// --- Clock design list record, 104 bytes, at the end of the calendar file: what
-// a user may change of a design.
-//
-// offset  size  field
-//      0     1  repeat flag
-//      1     1  strike mode
-//      2     1  sound flag
-//      3     1  spare
-//      4    50  sound file name
-//     54    50  design name
-
-inline constexpr int kClockListSize = 104;
-inline constexpr int kClockListRepeat = 0;
-inline constexpr int kClockListStrikeMode = 1;
-inline constexpr int kClockListSoundOn = 2;
-inline constexpr int kClockListSound = 4;
-inline constexpr int kClockListName = 54;
-inline constexpr int kClockListTextSize = 50;
+// --- What a user may change of the designs, at the end of the calendar file.
 
 // Copies the five values of a list record (name, sound file, the three flags)
 // into the design of the same place. A design without a list record stays as it
-// is. The reader of the character file calls it for each design at its end.
+// is.
 void ClockDesignTakeListValues(int place);
 // The reverse, for a new data set: one list record for each design.
 void ClockListTakeDesigns();
@@ -284,11 +143,11 @@ struct ClockState {
   // one.
   std::int32_t ClockShowWanted = 0;
   std::int32_t ClockWanted = kClockNone;
-  unsigned char ClockEvents[kAlarmSlotCount][kAlarmSlotSize] = {};
+  AlarmSlot ClockEvents[kAlarmSlotCount] = {};
   std::int32_t ClockPerformanceCount = 0;
-  unsigned char ClockPerformances[kPerformanceMax][kPerformanceSize] = {};
+  ClockPerformance ClockPerformances[kPerformanceMax] = {};
   std::int32_t ClockListCount = 0;
-  unsigned char ClockList[kClockDesignMax][kClockListSize] = {};
+  ClockListRow ClockList[kClockDesignMax] = {};
   std::int32_t ClockHandKind = -1;  // ClockHand; -1 while no design is in force
   Point ClockCentre = {};
   Colour ClockHandColour = 0;
@@ -317,37 +176,13 @@ void ClockAlarmCheckReset();
 // Forgets which slot fired last, so that any may fire again.
 void ClockAlarmForget();
 
-// --- Timed events, rows of 138 bytes, for as long as the program runs.
-//
-// offset  size  field
-//      0     1  enabled
-//      1     1  spare
-//      2     2  hour
-//      4     2  minute
-//      6     2  second
-//      8   128  comment
-//    136     2  spare
+// --- Timed events, for as long as the program runs.
 
 inline constexpr int kTimedMax = 24;
-inline constexpr int kTimedSize = 138;
-inline constexpr int kTimedEnabled = 0;
-inline constexpr int kTimedHour = 2;
-inline constexpr int kTimedMinute = 4;
-inline constexpr int kTimedSecond = 6;
-inline constexpr int kTimedComment = 8;
-inline constexpr int kTimedCommentSize = 128;
-
-struct TimedEvent {
-  bool enabled;
-  int hour;
-  int minute;
-  int second;
-  char comment[kTimedCommentSize];
-};
 
 struct TimedState {
   std::int32_t TimedCount = 0;
-  unsigned char TimedRows[kTimedMax][kTimedSize] = {};
+  TimedEvent TimedRows[kTimedMax] = {};
   // The rows in the order of their times, as their numbers from 0.
   std::int32_t TimedOrder[kTimedMax] = {};
 };

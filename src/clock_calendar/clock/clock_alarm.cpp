@@ -13,10 +13,10 @@ int ClockAlarmCheck(int hour, int minute) {
   comparedHour = hour;
   comparedMinute = minute;
   for (int slot = 0; slot < kAlarmSlotCount; ++slot) {
-    const AlarmSlot alarm = AlarmSlotGet(slot);
+    const AlarmSlot& alarm = Clock.ClockEvents[slot];
     // kept: a slot is passed over only until another one has fired, so of two
     // alarms at one time each has every second day.
-    if (!alarm.enabled || slot == firedLast || alarm.hour != hour || alarm.minute != minute) continue;
+    if (alarm.enabled == 0 || slot == firedLast || alarm.hour != hour || alarm.minute != minute) continue;
     firedLast = slot;
     Clock.ClockAlarmSlot = slot;
     return 1;

@@ -4,11 +4,14 @@
 //      0    25         magic, no terminator
 //     25     4         record count, big-endian
 //     29     2008 each records as they stand in memory (clock.h)
+#include <algorithm>
 #include <cstring>
 
 #include "clock_calendar/clock/clock.h"
 #include "services/data_file.h"
 #include "services/program.h"
+#include "services/record_file.h"
+#include "services/text.h"
 
 namespace {
 
@@ -33,30 +36,18 @@ constexpr DefaultRecord kDefaults[kPerformanceDefaultCount] = {
 void PutDefaults() {
   Clock.ClockPerformanceCount = kPerformanceDefaultCount;
   for (int i = 0; i < kPerformanceDefaultCount; ++i) {
-    unsigned char* record = Clock.ClockPerformances[i];
+    ClockPerformance& record = Clock.ClockPerformances[i];
     const DefaultRecord& value = kDefaults[i];
-    std::memset(record, 0, kPerformanceSize);
-    record[kPerformanceFlags] = kPerformanceCharacter;
-    PutLE32(record + kPerformanceFigureMode, static_cast<std::uint32_t>(value.figureMode));
-    for (int step = 0; step < value.durationCount; ++step) {
-      PutLE32(record + kPerformanceDurations + 4 * step, static_cast<std::uint32_t>(value.duration));
-    }
-    std::memcpy(record + kPerformanceSound, value.sound, std::strlen(value.sound));
-    std::memcpy(record + kPerformanceTitle, value.title, std::strlen(value.title));
+    record = ClockPerformance{};
+    record.flags = kPerformanceCharacter;
+    record.figureMode = value.figureMode;
+    std::fill_n(record.durations, value.durationCount, value.duration);
+    TextCopy(record.sound, sizeof record.sound, value.sound);
+    TextCopy(record.title, sizeof record.title, value.title);
   }
 }
 
 }  // namespace
-
-void PerformanceSound(const unsigned char* record, char (&to)[kPerformanceSoundSize + 1]) {
-  std::memcpy(to, record + kPerformanceSound, kPerformanceSoundSize);
-  to[kPerformanceSoundSize] = '\0';
-}
-
-void PerformanceTitle(const unsigned char* record, char (&to)[kPerformanceTitleSize + 1]) {
-  std::memcpy(to, record + kPerformanceTitle, kPerformanceTitleSize);
-  to[kPerformanceTitleSize] = '\0';
-}
 
 int ClockAlarmFilePath(char* buffer, int size) {
   return RootPath(buffer, size, "\\mirrell_ClcAlmPerFile.clc");
@@ -74,8 +65,8 @@ int ClockAlarmFileRead() {
       count < 0 || count > kPerformanceMax) {
     return DataFailStatus(data);
   }
-  unsigned char record[kPerformanceSize];
-  for (int i = 0; i < count; ++i) DataRead(data, record, kPerformanceSize);
+  ClockPerformance passedOver;
+  for (int i = 0; i < count; ++i) RecordRead(data, passedOver);
   if (data.failed) return DataFailStatus(data);
   DataClose(data);
   PutDefaults();
@@ -91,9 +82,7 @@ int ClockAlarmFileWrite() {
   if (!DataReplace(data, path)) return FileResult.FileStatus;
   DataWrite(data, kMagic, kMagicSize);
   DataWriteBE32(data, static_cast<std::uint32_t>(Clock.ClockPerformanceCount));
-  for (int i = 0; i < Clock.ClockPerformanceCount; ++i)
-    DataWrite(data, Clock.ClockPerformances[i], kPerformanceSize);
-  if (data.failed) return DataFailStatus(data);
+  if (!RecordsWrite(data, Clock.ClockPerformances, Clock.ClockPerformanceCount)) return DataFailStatus(data);
   DataClose(data);
   return 0;
 }

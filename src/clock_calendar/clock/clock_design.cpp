@@ -2,6 +2,7 @@
 #include <cmath>
 #include <cstring>
 
+#include "character/character_file.h"
 #include "character/character_tables.h"
 #include "clock_calendar/clock/clock.h"
 #include "services/text.h"
@@ -82,88 +83,44 @@ ClockDesignRow* DesignAt(int place) {
              : nullptr;
 }
 
-int SignedLE16(const unsigned char* from) {
-  return static_cast<std::int16_t>(GetLE16(from));
-}
-
-// Copies a text field that may lack its terminator.
-void TextFromField(char* to, std::size_t size, const void* field, std::size_t fieldSize) {
-  const char* text = static_cast<const char*>(field);
-  std::size_t length = TextLength(text, fieldSize);
-  if (length > size - 1) length = TextPrefix(text, size - 1);
-  std::memcpy(to, text, length);
-  std::memset(to + length, 0, size - length);
-}
-
-void TextToField(void* field, std::size_t fieldSize, const char* text) {
-  TextFromField(static_cast<char*>(field), fieldSize, text, std::strlen(text));
+// Fills an array with a text of fewer than `size` bytes, never half a pair, and with
+// zeros behind it.
+template <std::size_t N>
+void TextPut(char (&to)[N], const char* text, std::size_t size = N) {
+  std::memset(to, 0, N);
+  const std::size_t length = std::strlen(text);
+  std::memcpy(to, text, length < size ? length : TextPrefix(text, size - 1));
 }
 
 }  // namespace
 
-ClockDesignFields ClockDesignGet(const unsigned char* record) {
-  ClockDesignFields fields{};
-  fields.hand = record[kDesignHand];
-  fields.repeat = record[kDesignRepeat] != 0;
-  fields.strikeMode = record[kDesignStrikeMode];
-  fields.soundOn = record[kDesignSoundOn] != 0;
-  fields.hourLength = GetLE16(record + kDesignHourLength);
-  fields.minuteLength = GetLE16(record + kDesignMinuteLength);
-  fields.centreX = SignedLE16(record + kDesignCentreX);
-  fields.centreY = SignedLE16(record + kDesignCentreY);
-  std::memcpy(fields.handColour, record + kDesignHandColour, sizeof fields.handColour);
-  std::memcpy(fields.faceColour, record + kDesignFaceColour, sizeof fields.faceColour);
-  for (int step = 0; step < kStrikeSteps; ++step) {
-    fields.strikeDelay[step] = GetLE16(record + kDesignStrikeDelay + 2 * step);
-  }
-  std::memcpy(fields.hourFigures, record + kDesignHourFigures, sizeof fields.hourFigures);
-  TextFromField(fields.sound, sizeof fields.sound, record + kDesignSound, kDesignSoundSize);
-  TextFromField(fields.name, sizeof fields.name, record + kDesignName, kDesignNameSize);
-  return fields;
-}
-
-void ClockDesignPut(unsigned char* record, const ClockDesignFields& fields) {
-  record[kDesignHand] = static_cast<unsigned char>(fields.hand);
-  record[kDesignRepeat] = fields.repeat ? 1 : 0;
-  record[kDesignStrikeMode] = static_cast<unsigned char>(fields.strikeMode);
-  record[kDesignSoundOn] = fields.soundOn ? 1 : 0;
-  PutLE16(record + kDesignHourLength, static_cast<std::uint16_t>(fields.hourLength));
-  PutLE16(record + kDesignMinuteLength, static_cast<std::uint16_t>(fields.minuteLength));
-  PutLE16(record + kDesignCentreX, static_cast<std::uint16_t>(fields.centreX));
-  PutLE16(record + kDesignCentreY, static_cast<std::uint16_t>(fields.centreY));
-  std::memcpy(record + kDesignHandColour, fields.handColour, sizeof fields.handColour);
-  std::memcpy(record + kDesignFaceColour, fields.faceColour, sizeof fields.faceColour);
-  for (int step = 0; step < kStrikeSteps; ++step) {
-    PutLE16(record + kDesignStrikeDelay + 2 * step, fields.strikeDelay[step]);
-  }
-  std::memcpy(record + kDesignHourFigures, fields.hourFigures, sizeof fields.hourFigures);
-  TextToField(record + kDesignSound, kDesignSoundSize, fields.sound);
-  TextToField(record + kDesignName, kDesignNameSize, fields.name);
-}
-
 void ClockDesignTakeListValues(int place) {
   ClockDesignRow* row = DesignAt(place);
   if (!row || place >= Clock.ClockListCount) return;
-  const unsigned char* list = Clock.ClockList[place];
-  ClockDesignFields fields = ClockDesignGet(row->record);
-  fields.repeat = list[kClockListRepeat] != 0;
-  fields.strikeMode = list[kClockListStrikeMode];
-  fields.soundOn = list[kClockListSoundOn] != 0;
-  TextFromField(fields.sound, sizeof fields.sound, list + kClockListSound, kClockListTextSize);
-  TextFromField(fields.name, sizeof fields.name, list + kClockListName, kClockListTextSize);
-  ClockDesignPut(row->record, fields);
+  const ClockListRow& list = Clock.ClockList[place];
+  ClockDesignRecord& design = row->record;
+  design.repeat = list.repeat != 0 ? 1 : 0;
+  design.strikeMode = list.strikeMode;
+  design.soundOn = list.soundOn != 0 ? 1 : 0;
+  TextPut(design.sound, list.sound);
+  TextPut(design.name, list.name);
+}
+
+void ClockDesignsTakeListValues() {
+  for (int place = 0; place < CharaTables.ClockDesignCount; ++place) ClockDesignTakeListValues(place);
 }
 
 void ClockListTakeDesigns() {
-  std::memset(Clock.ClockList, 0, sizeof Clock.ClockList);
+  for (ClockListRow& row : Clock.ClockList) row = ClockListRow{};
   for (Clock.ClockListCount = 0; DesignAt(Clock.ClockListCount); ++Clock.ClockListCount) {
-    const ClockDesignFields fields = ClockDesignGet(CharaTables.ClockDesigns[Clock.ClockListCount].record);
-    unsigned char* list = Clock.ClockList[Clock.ClockListCount];
-    list[kClockListRepeat] = fields.repeat ? 1 : 0;
-    list[kClockListStrikeMode] = static_cast<unsigned char>(fields.strikeMode);
-    list[kClockListSoundOn] = fields.soundOn ? 1 : 0;
-    TextToField(list + kClockListSound, kClockListTextSize, fields.sound);
-    TextToField(list + kClockListName, kClockListTextSize, fields.name);
+    const ClockDesignRecord& design = CharaTables.ClockDesigns[Clock.ClockListCount].record;
+    ClockListRow& list = Clock.ClockList[Clock.ClockListCount];
+    list.repeat = design.repeat != 0 ? 1 : 0;
+    list.strikeMode = design.strikeMode;
+    list.soundOn = design.soundOn != 0 ? 1 : 0;
+    // A text of the list ends inside its field.
+    TextPut(list.sound, design.sound, kClockListTextSize);
+    TextPut(list.name, design.name, kClockListTextSize);
   }
 }
 
@@ -172,9 +129,8 @@ namespace {
 // Makes the wanted design the current one; of none there is nothing to draw.
 void TakeWanted() {
   Clock.ClockDesign = Clock.ClockWanted;
-  ClockDesignFields fields{};
   const ClockDesignRow* row = DesignAt(Clock.ClockDesign);
-  if (row) fields = ClockDesignGet(row->record);
+  const ClockDesignRecord fields = row ? row->record : ClockDesignRecord{};
   Clock.ClockHandKind = row ? fields.hand : -1;
   Clock.ClockCentre = {fields.centreX, fields.centreY};
   const unsigned char* hand = fields.handColour;
@@ -204,11 +160,11 @@ void ClockReactivate() {
 bool ClockDesignDefaults(int place) {
   const ClockDesignRow* row = DesignAt(place);
   if (!row) return false;
-  const ClockDesignFields fields = ClockDesignGet(row->record);
+  const ClockDesignRecord& fields = row->record;
   Clock.ClockStrikeMode = fields.strikeMode;
-  Clock.ClockStrikeSel = fields.repeat ? 1 : 0;
-  Clock.ClockSoundOn = fields.soundOn ? 1 : 0;
-  TextFromField(Clock.ClockSoundName, sizeof Clock.ClockSoundName, fields.sound, sizeof fields.sound);
+  Clock.ClockStrikeSel = fields.repeat != 0 ? 1 : 0;
+  Clock.ClockSoundOn = fields.soundOn != 0 ? 1 : 0;
+  TextPut(Clock.ClockSoundName, fields.sound);
   return true;
 }
 
@@ -216,6 +172,6 @@ void ClockDesignName(int place, char (&to)[kDesignNameSize + 1]) {
   to[0] = '\0';
   const ClockDesignRow* row = DesignAt(place);
   if (!row) return;
-  const ClockDesignFields fields = ClockDesignGet(row->record);
+  const ClockDesignRecord& fields = row->record;
   TextCopy(to, sizeof to, fields.name[0] != '\0' ? fields.name : WorldCharaName(row->number));
 }

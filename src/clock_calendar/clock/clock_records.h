@@ -128,9 +128,9 @@ inline constexpr int kTimedCommentSize = 128;
 //    136     2  spare
 struct TimedEvent {
   bool enabled;
-  std::uint16_t hour;
-  std::uint16_t minute;
-  std::uint16_t second;
+  int hour;
+  int minute;
+  int second;
   char comment[kTimedCommentSize];
 };
 

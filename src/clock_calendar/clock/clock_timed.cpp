@@ -1,8 +1,5 @@
 // The timed events of the clock.
-#include <cstring>
-
 #include "clock_calendar/clock/clock.h"
-#include "services/text.h"
 
 TimedState Timed;
 
@@ -27,13 +24,9 @@ void Sort() {
 }
 
 void Put(int row, const TimedEvent& event) {
-  unsigned char* record = Timed.TimedRows[row];
-  std::memset(record, 0, kTimedSize);
-  record[kTimedEnabled] = event.enabled ? 1 : 0;
-  PutLE16(record + kTimedHour, static_cast<std::uint16_t>(event.hour));
-  PutLE16(record + kTimedMinute, static_cast<std::uint16_t>(event.minute));
-  PutLE16(record + kTimedSecond, static_cast<std::uint16_t>(event.second));
-  std::memcpy(record + kTimedComment, event.comment, TextLength(event.comment, kTimedCommentSize - 1));
+  Timed.TimedRows[row] = event;
+  // bounded: a comment ends inside its field.
+  Timed.TimedRows[row].comment[kTimedCommentSize - 1] = '\0';
 }
 
 bool IsRow(int row) {
@@ -43,15 +36,7 @@ bool IsRow(int row) {
 }  // namespace
 
 TimedEvent TimedGet(int row) {
-  if (!IsRow(row)) return {};
-  const unsigned char* record = Timed.TimedRows[row];
-  TimedEvent event{record[kTimedEnabled] != 0,
-                   GetLE16(record + kTimedHour),
-                   GetLE16(record + kTimedMinute),
-                   GetLE16(record + kTimedSecond),
-                   {}};
-  std::memcpy(event.comment, record + kTimedComment, kTimedCommentSize - 1);
-  return event;
+  return IsRow(row) ? Timed.TimedRows[row] : TimedEvent{};
 }
 
 int TimedAdd(const TimedEvent& event) {
@@ -70,8 +55,7 @@ bool TimedChange(int row, const TimedEvent& event) {
 
 bool TimedDelete(int row) {
   if (!IsRow(row)) return false;
-  for (int i = row; i + 1 < Timed.TimedCount; ++i)
-    std::memcpy(Timed.TimedRows[i], Timed.TimedRows[i + 1], kTimedSize);
+  for (int i = row; i + 1 < Timed.TimedCount; ++i) Timed.TimedRows[i] = Timed.TimedRows[i + 1];
   --Timed.TimedCount;
   Sort();
   return true;

@@ -20,19 +20,16 @@ std::int32_t ticksLeft;
 LocalTime deadline;
 
 // The active record; null for none.
-const unsigned char* Record() {
+const ClockPerformance* Record() {
   const bool known = Performance.PerformanceActive >= 1 &&
                      Performance.PerformanceActive <= Clock.ClockPerformanceCount &&
                      Performance.PerformanceActive <= kPerformanceMax;
-  return known ? Clock.ClockPerformances[Performance.PerformanceActive - 1] : nullptr;
+  return known ? &Clock.ClockPerformances[Performance.PerformanceActive - 1] : nullptr;
 }
 
 void PlaySound() {
-  const unsigned char* record = Record();
-  if (!record) return;
-  char name[kPerformanceSoundSize + 1];
-  PerformanceSound(record, name);
-  if (name[0] != '\0') SoundFilePlay(name);
+  const ClockPerformance* record = Record();
+  if (record && record->sound[0] != '\0') SoundFilePlay(record->sound);
 }
 
 void WaitForStep() {
@@ -66,10 +63,10 @@ void PerformanceBegin(bool looping) {
   Performance.PerformanceStep = 0;
   Performance.PerformancePasses = 0;
   goesRound = looping;
-  const unsigned char* record = Record();
+  const ClockPerformance* record = Record();
   if (!record) return;
-  stepping = (PerformanceFlags(record) & kPerformanceCharacter) != 0 && PerformanceCharacterIsSelected() &&
-             PerformanceFigureMode(record) != 0;
+  stepping = (record->flags & kPerformanceCharacter) != 0 && PerformanceCharacterIsSelected() &&
+             record->figureMode != 0;
   if (stepping) WaitForStep();
   PlaySound();
 }

@@ -2,6 +2,7 @@
 #include "clock_calendar/clock_calendar_tick.h"
 #include "platform/canvas.h"
 #include "services/dialog_family.h"
+#include "services/dialog_numbers.h"
 #include "services/drawing_objects.h"
 #include "services/painting.h"
 #include "services/text.h"
@@ -13,6 +14,10 @@ constexpr int kY = 86;
 constexpr int kBoxWidth = 100;
 constexpr int kBoxHeight = 20;
 }  // namespace
+
+bool WatchAdustIsOpen() {
+  return Dialogs.DlgIdTool == ToolDialog::WatchAdustDlg && Dialogs.hToolDlg;
+}
 
 void WatchAdustTimeDraw() {
   static int drawn = -1;

@@ -35,3 +35,11 @@ constexpr Progress kRun{IDD_BackUpDlg, &BackUpRun.hBackUpDlg, Command::BackUpSte
 bool BackUpDlgRun(WindowHandle owner) {
   return ProgressRun(kRun, owner) > 0;
 }
+
+void BackUpTick() {
+  if (BackUpRun.BackUpActive) CommandSendTo(BackUpRun.hBackUpDlg, Command::BackUpStep);
+}
+
+int BackUpDue() {
+  return TickDueIf(BackUpRun.BackUpActive || BackUpRun.hBackUpDlg);
+}

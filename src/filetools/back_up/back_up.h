@@ -6,6 +6,7 @@
 
 #include "platform/types.h"
 #include "services/record.h"
+#include "services/tick_step.h"
 
 struct BackUpRunState {
   WindowHandle hBackUpDlg = nullptr;  // BackUpDlg, the progress
@@ -109,3 +110,8 @@ int BackUpCompareContent();
 // did not differ.
 bool BackUpListDate(int row, char* text, int size);
 bool BackUpListContent(int row, char* text, int size);
+
+// The run's step of the tick: its dialog copies the next file.
+void BackUpTick();
+int BackUpDue();
+inline constexpr TickStep kBackUpStep{BackUpTick, BackUpDue};

@@ -39,3 +39,7 @@ void OpnGroupTick() {
   GroupRun.GroupOpenDelay = kGap;
   OpnSelection = OpnSelectionSave;
 }
+
+int OpnGroupDue() {
+  return TickDueIf(OpnPendingGroup != nullptr);
+}

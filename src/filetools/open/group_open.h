@@ -1,9 +1,14 @@
 // Opening a group of files one after the other from the tick.
 #pragma once
 
+#include "services/tick_step.h"
+
 // Makes a group, 0 to 199, the pending one, from its first file on.
 void OpnGroupStart(int group);
 
 // Called on every tick: while a group is pending and its walk is over, opens the
 // next file every 50 ticks.
 void OpnGroupTick();
+
+int OpnGroupDue();
+inline constexpr TickStep kGroupOpenStep{OpnGroupTick, OpnGroupDue};

@@ -116,7 +116,7 @@ void OpnHisClear() {
 }
 
 void OpnHisTakeWalkSettings() {
-  const int row = WalkRow(Character.CharaSet);
+  const int row = Character.CharaSet.WalkRow[0];
   if (row < 1 || row > kWalkCharaMax) return;  // bounded: walking rows end there
   // A browsed file that waits for its start stands in memory only: reading again
   // would lose it, and the rest of memory is what the file holds.

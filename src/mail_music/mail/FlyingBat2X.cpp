@@ -39,7 +39,7 @@ void Begin(WindowHandle window) {
   const Point place = Place();
   WindowMove(window, place.x, place.y, kWidth, kHeight, false);
   WindowSetTopmost(window);
-  FiveTicks.FrameDivider = kTicksOfFrame;
+  FiveTicksStart(kTicksOfFrame);
   frameNow = 0;
 }
 

@@ -1,3 +1,9 @@
 #include "mail_music/music/music.h"
 
+#include "services/state.h"
+
 MusicState Music;
+
+void MusicReset() {
+  StateReset(Music);
+}

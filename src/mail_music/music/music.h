@@ -7,3 +7,5 @@ struct MusicState {
   WindowHandle hBgmWnd = nullptr;  // EntertainmentBGMDlg
 };
 extern MusicState Music;
+
+void MusicReset();

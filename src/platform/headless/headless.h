@@ -107,6 +107,8 @@ WindowHandle TopDialog();
 // An open dialog of that template, the newest first; null if none.
 WindowHandle FindDialog(int templateId);
 int TemplateOf(WindowHandle window);
+// The window that has captured the pointer; null if none.
+WindowHandle PointerCaptured();
 // Main window and dialogs, the oldest first.
 std::vector<WindowHandle> OpenWindows();
 int OpenWindowCount();

@@ -101,6 +101,7 @@ void WindowSetVisible(const WindowPointer& window, bool visible);
 void PaintDue();
 
 extern WindowHandle focusWindow;
+extern WindowHandle captureWindow;  // that hears the pointer wherever it is
 extern std::vector<WindowHandle> modalStack;
 // Of the message loop that runs; none: null and 0.
 extern WindowHandle loopWindow;

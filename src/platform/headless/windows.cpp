@@ -8,6 +8,7 @@
 #include "platform/window.h"
 
 WindowHandle focusWindow = nullptr;
+WindowHandle captureWindow = nullptr;
 std::vector<WindowHandle> modalStack;
 WindowHandle loopWindow = nullptr;
 int loopAccelerators = 0;
@@ -91,6 +92,7 @@ void WindowRemove(WindowHandle handle, bool tell) {
   if (window->region) RegionSystemDelete(window->region);
   PosixLive().timers -= static_cast<int>(window->timers.size());
   if (focusWindow == handle) focusWindow = nullptr;
+  if (captureWindow == handle) captureWindow = nullptr;
   if (mainWindow == handle) mainWindow = nullptr;
   Windows().Remove(handle);
   --PosixLive().windows;
@@ -103,6 +105,7 @@ void WindowsReset() {
     WindowRemove(last, false);
   }
   focusWindow = nullptr;
+  captureWindow = nullptr;
   mainWindow = nullptr;
   loopWindow = nullptr;
   loopAccelerators = 0;
@@ -311,6 +314,18 @@ void WindowSetFocus(WindowHandle window) {
   if (const WindowPointer found = WindowUse(window, "WindowSetFocus"); found && found->enabled) {
     focusWindow = window;
   }
+}
+
+void PointerCapture(WindowHandle window) {
+  if (WindowUse(window, "PointerCapture")) captureWindow = window;
+}
+
+WindowHandle PointerCaptured() {
+  return captureWindow;
+}
+
+void PointerRelease() {
+  captureWindow = nullptr;
 }
 
 bool WindowHasFocus(WindowHandle window) {

@@ -1,7 +1,7 @@
 // Where Windows enters the program.
 #include <windows.h>
 
-#include "shell/entry.h"
+#include "platform/entry.h"
 
 #include "platform/win32/border.h"
 

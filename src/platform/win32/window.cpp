@@ -146,6 +146,14 @@ void WindowSetFocus(WindowHandle window) {
   SetFocus(Hwnd(window));
 }
 
+void PointerCapture(WindowHandle window) {
+  SetCapture(Hwnd(window));
+}
+
+void PointerRelease() {
+  ReleaseCapture();
+}
+
 bool WindowHasFocus(WindowHandle window) {
   return window && GetFocus() == Hwnd(window);
 }

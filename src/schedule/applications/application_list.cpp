@@ -12,8 +12,8 @@
 #include <cstring>
 
 #include "platform/memory.h"
-#include "services/data_file.h"
 #include "services/program.h"
+#include "services/record_file.h"
 #include "services/text.h"
 
 ApplicationsState Applications;
@@ -23,19 +23,24 @@ namespace {
 constexpr char kMagic[] = "Mirrell ApliCation List:";
 constexpr int kMagicSize = sizeof kMagic - 1;
 
-char* entries;  // room for ApliCount + 1 and more
-char* secondList;
+ApliEntry* entries;  // room for ApliCount + 1 and more
+ApliEntry* secondList;
 
 void Path(char* buffer, int size) {
   RootPath(buffer, size, "\\mirrell_apli_list_file.ali");
 }
 
-bool EntriesAllocate(char*& list, int count) {
-  auto* block = static_cast<char*>(MemoryAllocate(static_cast<std::size_t>(count) * kApliPathSize));
+bool EntriesAllocate(ApliEntry*& list, int count) {
+  auto* block = static_cast<ApliEntry*>(MemoryAllocate(static_cast<std::size_t>(count) * sizeof(ApliEntry)));
   if (!block) return false;
   MemoryFree(list);
   list = block;
   return true;
+}
+
+// bounded: a list longer than the program ever writes is bad content.
+bool IsList(const ApliHead& head) {
+  return head.count >= 0 && head.count <= kApliMax && head.second >= 0 && head.second <= kApliMax;
 }
 
 }  // namespace
@@ -67,27 +72,15 @@ int ApliListRead() {
     FileResult.FileStatus = -2;
     return 0;
   }
-  std::int32_t count = 0;
-  std::int32_t second = 0;
-  std::int32_t selected = 0;
-  DataReadBE32(data, count);
-  DataReadBE32(data, second);
-  DataReadBE32(data, selected);
-  // bounded: a list longer than the program ever writes is bad content.
-  if (data.failed || count < 0 || count > kApliMax || second < 0 || second > kApliMax)
-    return DataFailStatus(data);
-  if (!EntriesAllocate(entries, count + 1)) return DataFailStatus(data);
-  Applications.ApliCount = count;
-  Applications.ApliSecondCount = second;
-  Applications.ApliSelected = selected >= 0 && selected <= count ? selected : 0;
-  for (int i = 0; i < count; ++i) {
-    char* entry = entries + i * kApliPathSize;
-    DataRead(data, entry, kApliPathSize);
-    entry[kApliPathSize - 1] = '\0';
-  }
-  DataRead(data, Applications.ApliSchedulePath, kApliPathSize);
-  Applications.ApliSchedulePath[kApliPathSize - 1] = '\0';
-  if (second > 0 && EntriesAllocate(secondList, second)) DataRead(data, secondList, second * kApliPathSize);
+  ApliHead head;
+  if (!RecordRead(data, head) || !IsList(head)) return DataFailStatus(data);
+  if (!EntriesAllocate(entries, head.count + 1)) return DataFailStatus(data);
+  Applications.ApliCount = head.count;
+  Applications.ApliSecondCount = head.second;
+  Applications.ApliSelected = head.selected >= 0 && head.selected <= head.count ? head.selected : 0;
+  RecordsRead(data, entries, head.count);
+  RecordRead(data, Applications.ApliSchedule);
+  if (head.second > 0 && EntriesAllocate(secondList, head.second)) RecordsRead(data, secondList, head.second);
   if (data.failed) return DataFailStatus(data);
   DataClose(data);
   return 0;
@@ -100,11 +93,10 @@ int ApliListSave() {
   DataFile data;
   if (!DataReplace(data, path)) return -1;
   DataWrite(data, kMagic, kMagicSize);
-  DataWriteBE32(data, static_cast<std::uint32_t>(Applications.ApliCount));
-  DataWriteBE32(data, static_cast<std::uint32_t>(Applications.ApliSecondCount));
-  DataWriteBE32(data, static_cast<std::uint32_t>(Applications.ApliSelected));
-  if (Applications.ApliCount > 0) DataWrite(data, entries, Applications.ApliCount * kApliPathSize);
-  DataWrite(data, Applications.ApliSchedulePath, kApliPathSize);
+  RecordWrite(data,
+              ApliHead{Applications.ApliCount, Applications.ApliSecondCount, Applications.ApliSelected});
+  RecordsWrite(data, entries, Applications.ApliCount);
+  RecordWrite(data, Applications.ApliSchedule);
   // kept: the second list is counted but not written; its count is 0.
   if (data.failed) return DataFailStatus(data);
   DataClose(data);
@@ -112,12 +104,12 @@ int ApliListSave() {
 }
 
 const char* ApliPath(int entry) {
-  return entries && entry >= 0 && entry < Applications.ApliCount ? entries + entry * kApliPathSize : "";
+  return entries && entry >= 0 && entry < Applications.ApliCount ? entries[entry].path : "";
 }
 
 int ApliListSetFirst(const char* path) {
   if (!entries && !EntriesAllocate(entries, 2)) return -1;
-  TextCopy(entries, kApliPathSize, path);
+  TextCopy(entries[0].path, kApliPathSize, path);
   if (Applications.ApliCount < 1) Applications.ApliCount = 1;
   return 0;
 }

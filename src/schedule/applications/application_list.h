@@ -4,15 +4,16 @@
 
 #include <cstdint>
 
+#include "schedule/applications/application_records.h"
+
 inline constexpr int kApliMax = 100;
-inline constexpr int kApliPathSize = 600;
 
 struct ApplicationsState {
   std::int32_t ApliCount = 0;        // entries in use
   std::int32_t ApliSecondCount = 0;  // always 0 in files of this program
   std::int32_t ApliSelected = 0;     // number of the executing application's entry, from 1; 0 none
-  char ApliSchedulePath[kApliPathSize] = {};
-  std::int32_t ApliStarted = 0;  // number of the started entry, from 1; 0 none
+  ApliEntry ApliSchedule = {};       // path of the schedule of the executing application
+  std::int32_t ApliStarted = 0;      // number of the started entry, from 1; 0 none
 };
 extern ApplicationsState Applications;
 

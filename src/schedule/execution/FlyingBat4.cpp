@@ -4,6 +4,7 @@
 #include "character/alarm_images.h"
 #include "character/character_commands.h"
 #include "character/notice_window.h"
+#include "clock_calendar/calendar/calendar.h"
 #include "platform/canvas.h"
 #include "platform/dialog.h"
 #include "platform/time.h"
@@ -38,7 +39,7 @@ int sclFrame;
 int noteFrame;
 
 void Begin(WindowHandle window) {
-  FiveTicks.FrameDivider = kFirstFrameTicks;
+  FiveTicksStart(kFirstFrameTicks);
   sclFrame = 0;
   noteFrame = 0;
   NoticeShow(window);
@@ -85,8 +86,8 @@ void PaintSchedule(WindowHandle window, Canvas* canvas) {
 void PaintNote(Canvas* canvas) {
   const AlarmRow& row = AlarmImages.AlarmRows[kAlarmNote];
   AlarmFrameDraw(canvas, kFigureAt.x, kFigureAt.y, row, noteFrame);
-  const int note = std::clamp(Notices.SclNoticeKind - kKindNote, 0, kNoteNoticeCount - 1);
-  const NoteNoticeItem& item = Notices.NoteNotices[note];
+  const int note = std::clamp(Notices.SclNoticeKind - kKindNote, 0, kNoteDays - 1);
+  const CalenNote& item = Calendar.CalenNotes[note];
   char day[40] = "本日です";
   if (note != 0) TextFormat(day, sizeof day, "%d日前です", note);
   char date[100];
@@ -136,11 +137,11 @@ void CommandSclNotice(Command) {
 }
 
 void CommandNoteNotice(Command) {
-  for (int note = 0; note < kNoteNoticeCount; ++note) {
-    if (!Notices.NoteNotices[note].due) continue;
-    if (!NoticeClosed(&Notices.hSclNoticeWnd)) return;
-    Notices.NoteNotices[note].due = false;
-    Open(kKindNote + note);
-    return;
-  }
+  if (!CalenNoteWaits() || !NoticeClosed(&Notices.hSclNoticeWnd)) return;
+  const int note = CalenNoteTake();
+  if (note >= 0) Open(kKindNote + note);
+}
+
+int SclNoticeFrameDue() {
+  return TickDueIf(Notices.hSclNoticeWnd != nullptr);
 }

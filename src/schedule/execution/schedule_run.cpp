@@ -1,8 +1,8 @@
 #include "schedule/execution/schedule_run.h"
 
-#include "mail_music/music/music.h"
 #include "platform/memory.h"
 #include "schedule/table/table_scroll.h"
+#include "services/commands.h"
 
 SclRunState SclRun;
 
@@ -16,7 +16,6 @@ void SclDefaults() {
 void SclTablesClear() {
   SclTable.hSclTableWnd = nullptr;
   SclTable.hPlanWnd = nullptr;
-  Music.hBgmWnd = nullptr;
 }
 
 // There is no schedule model yet: none can be named, and none runs.
@@ -31,4 +30,12 @@ bool SclDueCheck() {
 void SclMapFree() {
   MemoryFree(SclRun.SclMapBlock);
   SclRun.SclMapBlock = nullptr;
+}
+
+void SclRunTick() {
+  if (SclDueCheck()) CommandSend(Command::ScheduleNotice);
+}
+
+int SclRunDue() {
+  return TickDueIf(SclIsRunning());
 }

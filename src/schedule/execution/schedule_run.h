@@ -3,6 +3,8 @@
 
 #include <cstdint>
 
+#include "services/tick_step.h"
+
 // Hours of a table: how many are on show, and where the day begins and ends.
 struct SclHours {
   std::int32_t span;
@@ -22,7 +24,7 @@ extern SclRunState SclRun;
 // Hours 8 to 18 and 31 lines, which files may overwrite.
 void SclDefaults();
 
-// Clears the handles of the tables: schedule, plan, music and their windows.
+// Clears the handles of the tables: schedule, plan and their windows.
 void SclTablesClear();
 
 // Loads the schedule of the executing application, if one is named.
@@ -35,3 +37,8 @@ bool SclIsRunning();
 bool SclDueCheck();
 
 void SclMapFree();
+
+// The running schedule's step of the tick: a due item sends command 2265.
+void SclRunTick();
+int SclRunDue();
+inline constexpr TimedStep kScheduleRunStep{SclIsRunning, {SclRunTick, SclRunDue}};

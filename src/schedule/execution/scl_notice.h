@@ -5,6 +5,7 @@
 
 #include "platform/types.h"
 #include "services/scl_date.h"
+#include "services/tick_step.h"
 
 inline constexpr int kSclNoticeTextSize = 128;
 
@@ -21,23 +22,10 @@ struct SclNoticeItem {
   char text[kSclNoticeTextSize + 1];
 };
 
-inline constexpr int kNoteNoticeCount = 3;
-
-// A note of the calendar that command 2294 announces: of today, and of one and two
-// days ahead; the calendar fills them.
-struct NoteNoticeItem {
-  bool due;
-  std::int32_t year;  // two digits
-  // kept: month and day share one number. What stays in it is the day from 0, and
-  // the notice shows it plus 1 in both places.
-  std::int32_t monthAndDay;
-  char text[kSclNoticeTextSize + 1];
-};
-
 struct NoticesState {
   SclNoticeItem SclNotice = {};
-  NoteNoticeItem NoteNotices[kNoteNoticeCount] = {};
-  // What the notice shows: 1 the schedule's line, 2 to 4 a note, its place + 2.
+  // What the notice shows: 1 the schedule's line, 2 to 4 a note of the calendar, its
+  // place in CalenNotes + 2.
   std::int32_t SclNoticeKind = 0;
   WindowHandle hSclNoticeWnd = nullptr;  // FlyingBat4
 };
@@ -45,3 +33,6 @@ extern NoticesState Notices;
 
 // The five-tick step of the open notice: its next picture, and its repaint.
 void SclNoticeFrameStep();
+
+int SclNoticeFrameDue();
+inline constexpr TickStep kSclNoticeFrames{SclNoticeFrameStep, SclNoticeFrameDue};

@@ -58,3 +58,7 @@ void TableScrollBarDestroy() {
   WindowDestroy(SclTable.SclTableView.scrollBar);
   SclTable.SclTableView.scrollBar = nullptr;
 }
+
+int TableScrollDue() {
+  return TickDueIf(SclTable.hSclTableWnd || SclTable.hPlanWnd);
+}

@@ -5,6 +5,7 @@
 #include <cstdint>
 
 #include "platform/types.h"
+#include "services/tick_step.h"
 
 // What a table shows. Lines count from 0.
 struct TableView {
@@ -37,3 +38,6 @@ void TableScrollStop();
 
 // Destroys the tables' scroll bar, if there is one.
 void TableScrollBarDestroy();
+
+int TableScrollDue();
+inline constexpr TickStep kTableScrollStep{TableScrollTick, TableScrollDue};

@@ -132,7 +132,7 @@ TEST_F(OpenAnimeTest, ClosingTheDialogEndsTheCheckAtOnce) {
 
 TEST_F(OpenAnimeTest, ClosingTheDialogInTheEndPhaseOfTheCheckEndsItToo) {
   PutWalker();
-  SetEndWait(Character.CharaSet, 0, 50);
+  Character.CharaSet.EndWait[0] = 50;
   In(IDC_OPN_ANIMATION, [] {
     ThenPress(IDC_OPN_CHECK);
     Then([] { Ticks(1); });

@@ -57,7 +57,7 @@ TEST_F(OpenAnimeWalkTest, AFileWhoseWalkIsUnderWayIsOpenedAtTheClose) {
 
 TEST_F(OpenAnimeWalkTest, AFileWhoseEndPictureStandsIsOpenedAtTheCloseAndOnlyOnce) {
   PutWalker();
-  SetEndWait(Character.CharaSet, 0, 50);
+  Character.CharaSet.EndWait[0] = 50;
   CloseAfter(2, kOk);
 }
 

@@ -138,12 +138,12 @@ class OpenFixture : public ProgramTest {
   static void PutWalker() {
     CharaTables.WalkCharaCount = 1;
     CharaTables.WalkCharas[0].number = 10;
-    SetWalkRow(Character.CharaSet, 0, 1);
-    SetWalkPeriod(Character.CharaSet, 0, 1);
-    SetWalkCount(Character.CharaSet, 0, 1);
-    SetWalkFrames(Character.CharaSet, 0, 0, 1);
-    SetEndFrames(Character.CharaSet, 0, 0, 1);
-    SetEndWait(Character.CharaSet, 0, 2);
+    Character.CharaSet.WalkRow[0] = 1;
+    Character.CharaSet.WalkPeriod[0] = 1;
+    Character.CharaSet.WalkCount[0] = 1;
+    Character.CharaSet.WalkFrames[0][0] = 1;
+    Character.CharaSet.EndFrames[0][0] = 1;
+    Character.CharaSet.EndWait[0] = 2;
   }
   // Lets the walk of PutWalker go through: the tick that opens its window, and three
   // inside of its windows' loops.

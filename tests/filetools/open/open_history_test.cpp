@@ -38,7 +38,7 @@ class OpenHistoryTest : public DesktopTest {
   static void Clear() {
     OpnHistory = {};
     OpnWork = {};
-    for (unsigned char& byte : Character.CharaSet) byte = 0;
+    Character.CharaSet = CharaSetRecord{};
     for (unsigned char& flags : CharaTables.WalkFlags) flags = 0;
     for (WalkChara& row : CharaTables.WalkCharas) row = WalkChara{};
   }
@@ -168,7 +168,7 @@ TEST_F(OpenHistoryTest, EveryFailingCallGivesItsResult) {
 
 TEST_F(OpenHistoryTest, TheWalkOfACharacterGoesIntoTheFile) {
   ASSERT_TRUE(PutFile(Path(), Image()));
-  SetWalkRow(Character.CharaSet, 0, 50);
+  Character.CharaSet.WalkRow[0] = 50;
   CharaTables.WalkFlags[49] = 3;
   TextCopy(CharaTables.WalkCharas[49].sound, kWalkSoundSize, "ringout.wav");
   OpnHisTakeWalkSettings();
@@ -180,7 +180,7 @@ TEST_F(OpenHistoryTest, TheWalkOfACharacterGoesIntoTheFile) {
 
 TEST_F(OpenHistoryTest, ACharacterWithoutASoundKeepsTheOneThatWasThere) {
   ASSERT_TRUE(PutFile(Path(), Image()));
-  SetWalkRow(Character.CharaSet, 0, 1);
+  Character.CharaSet.WalkRow[0] = 1;
   OpnHisTakeWalkSettings();
   EXPECT_EQ(OpnHistory.soundName[0], 's');
   EXPECT_EQ(OpnHistory.balloonFlags, 0);
@@ -188,11 +188,11 @@ TEST_F(OpenHistoryTest, ACharacterWithoutASoundKeepsTheOneThatWasThere) {
 
 TEST_F(OpenHistoryTest, WithoutAWalkingRowOrWithADamagedFileNothingIsWritten) {
   for (const int row : {0, 51, 65535}) {
-    SetWalkRow(Character.CharaSet, 0, row);
+    Character.CharaSet.WalkRow[0] = static_cast<std::uint16_t>(row);
     OpnHisTakeWalkSettings();
     EXPECT_FALSE(FileThere(Path())) << row;
   }
-  SetWalkRow(Character.CharaSet, 0, 1);
+  Character.CharaSet.WalkRow[0] = 1;
   ASSERT_TRUE(PutFile(Path(), "damaged"));
   OpnHisTakeWalkSettings();
   EXPECT_EQ(FileBytes(Path()), "damaged");
@@ -203,7 +203,7 @@ TEST_F(OpenHistoryTest, ABrowsedFileThatWaitsOutlastsTheWalkOfACharacter) {
   ASSERT_TRUE(PutFile(Path(), image));
   ASSERT_EQ(OpnHisLoad(), 0);
   OpnBrowseFile("C:\\new.txt");
-  SetWalkRow(Character.CharaSet, 0, 1);
+  Character.CharaSet.WalkRow[0] = 1;
   CharaTables.WalkFlags[0] = 5;
   OpnHisTakeWalkSettings();
   EXPECT_EQ(OpnWork.fileCount, 4);

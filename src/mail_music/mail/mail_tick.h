@@ -1,0 +1,14 @@
+// The mail notice's steps of the tick.
+#pragma once
+
+#include "character/notices.h"
+#include "services/tick_step.h"
+
+// While mail is checked: counts the interval, sends command 2079 at its end, and lets
+// a mail that has come be told.
+void MailTick();
+int MailDue();
+inline constexpr TickStep kMailStep{MailTick, MailDue};
+
+int MailNoticeFrameDue();
+inline constexpr TickStep kMailNoticeFrames{MailNoticeFrameStep, MailNoticeFrameDue};
