@@ -6,35 +6,23 @@
 #include "filetools/tidy/tidy_commands.h"
 #include "platform/dialog.h"
 #include "resources/filetools_ids.h"
-#include "services/dialog_acts.h"
 #include "services/dialog_family.h"
 #include "services/feature_dialog.h"
-#include "services/form.h"
 #include "services/program.h"
 
 namespace {
 
-void Exchange(Form& form, TidyState& tidy) {
-  form.Text(IDC_TIDY_FOLDER, tidy.tidyFolderName);
-}
-
-void Open(WindowHandle dialog) {
-  ControlSetLimit(dialog, IDC_TIDY_FOLDER, kTidyNameSize - 1);
-  FormShow(dialog, Tidy, Exchange);
-}
-
-void RunTidy(WindowHandle dialog) {
-  FormTake(dialog, Tidy, Exchange);
-  TidyRun(dialog);
-}
-
-constexpr DialogAct kActs[] = {
-    {EventKind::Init, Open},
-    {IDC_TIDY_RUN, RunTidy},
-};
-
 bool Handle(const Event& event) {
-  return DialogActRun(event, kActs);
+  if (event.kind == EventKind::Init) {
+    ControlSetLimit(event.window, IDC_TIDY_FOLDER, kTidyNameSize - 1);
+    ControlSetText(event.window, IDC_TIDY_FOLDER, Tidy.tidyFolderName);
+  } else if (IsPressed(event, IDC_TIDY_RUN)) {
+    ControlGetText(event.window, IDC_TIDY_FOLDER, Tidy.tidyFolderName, sizeof Tidy.tidyFolderName);
+    TidyRun(event.window);
+  } else {
+    return false;
+  }
+  return true;
 }
 
 int Run() {
