@@ -2,52 +2,38 @@
 
 #include "filetools/back_up/back_up.h"
 #include "filetools/back_up/back_up_dialogs.h"
-#include "platform/dialog.h"
 #include "resources/filetools_ids.h"
 #include "services/boxes.h"
-#include "services/commands.h"
+#include "services/progress.h"
 
 namespace {
 
-void End(WindowHandle dialog) {
-  if (BackUpRun.hBackUpDlg != dialog) return;
-  BackUpRun.BackUpActive = false;
-  BackUpRun.hBackUpDlg = nullptr;
-  DialogEnd(dialog, 0);
+void Begin() {
+  BackUp.fileCursor = 0;
+  BackUpRun.BackUpActive = true;
 }
 
-void Step(WindowHandle dialog) {
+bool Step(int* completed) {
   const int result = BackUpStep();
-  if (result == 0) return;
-  BackUpRun.completed = result > 0;
-  if (!BackUpRun.completed) {
-    BoxTell(dialog, "ファイルをコピーできません", "ファイルバックアップエラー");
-  }
-  End(dialog);
+  *completed = result > 0;
+  return result != 0;
 }
 
-bool Handle(const Event& event) {
-  if (event.kind == EventKind::Init) {
-    BackUpRun.hBackUpDlg = event.window;
-    BackUp.fileCursor = 0;
-    BackUpRun.BackUpActive = true;
-  } else if (CommandIs(event, Command::BackUpStep)) {
-    Step(event.window);
-  } else if (EndIsAsked(event)) {
-    // kept: a back-up that is stopped ends without a word, and what was copied stays.
-    End(event.window);
-  } else {
-    return false;
-  }
-  return true;
+// kept: a back-up that is stopped ends without a word, and what was copied stays.
+void End(bool /*stopped*/) {
+  BackUpRun.BackUpActive = false;
 }
+
+void Tell(WindowHandle dialog, int completed) {
+  if (!completed) BoxTell(dialog, "ファイルをコピーできません", "ファイルバックアップエラー");
+}
+
+constexpr Progress kRun{IDD_BackUpDlg, &BackUpRun.hBackUpDlg, Command::BackUpStep, Begin, Step, End, Tell, 0};
 
 }  // namespace
 
 bool BackUpDlgRun(WindowHandle owner) {
-  BackUpRun.completed = false;
-  DialogRun(IDD_BackUpDlg, owner, Handle);
-  return BackUpRun.completed;
+  return ProgressRun(kRun, owner) > 0;
 }
 
 void BackUpTick() {

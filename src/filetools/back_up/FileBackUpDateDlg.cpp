@@ -3,31 +3,26 @@
 
 #include "filetools/back_up/back_up.h"
 #include "filetools/back_up/back_up_dialogs.h"
-#include "platform/dialog.h"
 #include "resources/filetools_ids.h"
 #include "services/dialog_family.h"
+#include "services/rows.h"
 
 namespace {
 
-constexpr int kRowSize = 160;
-
 bool Handle(const Event& event) {
   if (event.kind != EventKind::Init) return false;
-  const auto list = Dialogs.DlgIdTool == ToolDialog::FileBackUpDateDlg ? BackUpListDate : BackUpListContent;
-  const ListQuiet quiet(event.window, IDC_BACKUP_ROWS);
-  for (int row = 0; row < BackUp.fileCount; ++row) {
-    char text[kRowSize];
-    if (list(row, text, sizeof text)) ListAdd(event.window, IDC_BACKUP_ROWS, text);
-  }
+  RowsShow(event.window, IDC_BACKUP_ROWS, *static_cast<const Rows*>(event.context));
   return true;
 }
 
 }  // namespace
 
 void FileBackUpDateDlgRun(WindowHandle owner) {
-  ToolDialogRun(ToolDialog::FileBackUpDateDlg, IDD_FileBackUpDateDlg, owner, Handle);
+  Rows rows = RowsOf(BackUp.fileCount, BackUpListDate);
+  ToolDialogRun(ToolDialog::FileBackUpDateDlg, IDD_FileBackUpDateDlg, owner, Handle, &rows);
 }
 
 void FileBackUpContentDlgRun(WindowHandle owner) {
-  ToolDialogRun(ToolDialog::FileBackUpContentDlg, IDD_FileBackUpContentDlg, owner, Handle);
+  Rows rows = RowsOf(BackUp.fileCount, BackUpListContent);
+  ToolDialogRun(ToolDialog::FileBackUpContentDlg, IDD_FileBackUpContentDlg, owner, Handle, &rows);
 }

@@ -11,7 +11,6 @@
 struct BackUpRunState {
   WindowHandle hBackUpDlg = nullptr;  // BackUpDlg, the progress
   bool BackUpActive = false;          // a run copies a file a tick
-  bool completed = false;             // the run has copied all files
   bool busy = false;                  // an action of the dialog is running
 };
 extern BackUpRunState BackUpRun;

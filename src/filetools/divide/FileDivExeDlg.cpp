@@ -7,8 +7,8 @@
 #include "platform/dialog.h"
 #include "resources/filetools_ids.h"
 #include "services/boxes.h"
-#include "services/commands.h"
 #include "services/data_file.h"
+#include "services/dialog_acts.h"
 
 namespace {
 
@@ -67,32 +67,18 @@ void Stop(WindowHandle dialog) {
   End(dialog);
 }
 
+constexpr DialogAct kActs[] = {
+    {EventKind::Init, SteppedShown},
+    {Command::WorkStep, Step},
+    // kept: the Enter key ends the progress of a division or restore and leaves the run
+    // where it is, its files open.
+    {kOkButton, End},
+    {kCancelButton, Stop},
+    {EventKind::Close, Stop},
+};
+
 bool Handle(const Event& event) {
-  if (event.kind == EventKind::Init) {
-    SteppedShown(event.window);
-    return true;
-  }
-  if (event.kind == EventKind::Close) {
-    Stop(event.window);
-    return true;
-  }
-  if (CommandIs(event, Command::WorkStep)) {
-    Step(event.window);
-    return true;
-  }
-  if (event.kind != EventKind::Pressed) return false;
-  switch (event.id) {
-    case 1:
-      // kept: the Enter key ends the progress of a division or restore and leaves the run
-      // where it is, its files open.
-      End(event.window);
-      return true;
-    case 2:
-      Stop(event.window);
-      return true;
-    default:
-      return false;
-  }
+  return DialogActRun(event, kActs);
 }
 
 void Run(const Kind& kind, WindowHandle owner) {

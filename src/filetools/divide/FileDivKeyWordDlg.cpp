@@ -7,13 +7,15 @@
 #include "platform/dialog.h"
 #include "resources/filetools_ids.h"
 #include "services/boxes.h"
+#include "services/dialog_acts.h"
 #include "services/dialog_family.h"
 #include "services/text.h"
 
 namespace {
 
-bool Dividing() {
-  return Dialogs.DlgIdTool == ToolDialog::FileDivKeyWordDlg;
+// A dialog is opened with whether it is a division's.
+bool Dividing(const Event& event) {
+  return *static_cast<const bool*>(event.context);
 }
 
 void Forget() {
@@ -30,7 +32,8 @@ bool Confirmed(WindowHandle dialog, const char* keyword) {
 
 // kept: a keyword is never tested; a wrong one gives a wrong file, or a failure that says
 // nothing of keywords.
-void Accept(WindowHandle dialog) {
+void Accept(const Event& event) {
+  const WindowHandle dialog = event.window;
   // kept: a double-byte character at the eighth byte of a keyword is cut in two.
   char keyword[kDivKeywordMax + 1] = {};
   ControlGetText(dialog, IDC_DIVIDE_KEYWORD, keyword, sizeof keyword);
@@ -39,36 +42,43 @@ void Accept(WindowHandle dialog) {
     BoxTell(dialog, "キーワードは半角4文字以上8文字までで入力します。", "キーワード設定エラー");
     return;
   }
-  if (Dividing() && !Confirmed(dialog, keyword)) return;
+  if (Dividing(event) && !Confirmed(dialog, keyword)) return;
   std::memcpy(FileDivide.keyword, keyword, sizeof keyword);
   FileDivide.keywordLength = static_cast<std::int32_t>(length);
   ToolDialogEnd(dialog, 1);
 }
 
+void Open(const Event& event) {
+  if (!Dividing(event)) return;
+  ControlSetText(event.window, IDC_DIVIDE_KEYWORD, "");
+  FileDivide.keywordLength = 0;
+}
+
+// kept: a restore whose keyword is cancelled goes on with the one of an earlier run.
+void Cancel(const Event& event) {
+  if (Dividing(event)) Forget();
+  ToolDialogEnd(event.window, 2);
+}
+
+constexpr DialogAct kActs[] = {
+    {EventKind::Init, Open},
+    {kOkButton, Accept},
+    {kCancelButton, Cancel},
+    {EventKind::Close, Cancel},
+};
+
 bool Handle(const Event& event) {
-  if (event.kind == EventKind::Init) {
-    if (Dividing()) {
-      ControlSetText(event.window, IDC_DIVIDE_KEYWORD, "");
-      FileDivide.keywordLength = 0;
-    }
-    return true;
-  }
-  if (IsPressed(event, 1)) {
-    Accept(event.window);
-    return true;
-  }
-  // kept: a restore whose keyword is cancelled goes on with the one of an earlier run.
-  const bool cancelled = event.kind == EventKind::Close || IsPressed(event, 2);
-  if (cancelled && Dividing()) Forget();
-  return false;
+  return DialogActRun(event, kActs);
 }
 
 }  // namespace
 
 void FileDivKeyWordDlgRun(WindowHandle owner) {
-  ToolDialogRun(ToolDialog::FileDivKeyWordDlg, IDD_FileDivKeyWordDlg, owner, Handle);
+  bool dividing = true;
+  ToolDialogRun(ToolDialog::FileDivKeyWordDlg, IDD_FileDivKeyWordDlg, owner, Handle, &dividing);
 }
 
 void FileDivKeyWordDlg2Run(WindowHandle owner) {
-  ToolDialogRun(ToolDialog::FileDivKeyWordDlg2, IDD_FileDivKeyWordDlg2, owner, Handle);
+  bool dividing = false;
+  ToolDialogRun(ToolDialog::FileDivKeyWordDlg2, IDD_FileDivKeyWordDlg2, owner, Handle, &dividing);
 }

@@ -1,23 +1,20 @@
 // FileDivideSetDlg, "ファイル 分割/復元選択".
 
-#include "filetools/divide/divide_commands.h"
 #include "filetools/divide/divide_dialogs.h"
 #include "resources/filetools_ids.h"
-#include "services/commands.h"
+#include "services/dialog_acts.h"
 #include "services/dialog_family.h"
 #include "services/program.h"
 
 namespace {
 
+constexpr DialogAct kActs[] = {
+    {IDC_DIVIDE_CHOOSE_DIVIDE, [](WindowHandle dialog) { ToolDialogEnd(dialog, kChoseDivide); }},
+    {IDC_DIVIDE_CHOOSE_RESTORE, [](WindowHandle dialog) { ToolDialogEnd(dialog, kChoseRestore); }},
+};
+
 bool Handle(const Event& event) {
-  if (IsPressed(event, IDC_DIVIDE_CHOOSE_DIVIDE)) {
-    ToolDialogEnd(event.window, kChoseDivide);
-  } else if (IsPressed(event, IDC_DIVIDE_CHOOSE_RESTORE)) {
-    ToolDialogEnd(event.window, kChoseRestore);
-  } else {
-    return false;
-  }
-  return true;
+  return DialogActRun(event, kActs);
 }
 
 }  // namespace

@@ -1,6 +1,5 @@
 // FileDivideSetDlg2, "ファイル 分割", and FileDivideSetDlg3, "ファイル 復元".
 
-#include "filetools/divide/divide_commands.h"
 #include "filetools/divide/divide_dialogs.h"
 #include "filetools/divide/divide_state.h"
 #include "filetools/path_row.h"
@@ -8,8 +7,8 @@
 #include "platform/dialog.h"
 #include "platform/window.h"
 #include "resources/filetools_ids.h"
-#include "services/commands.h"
 #include "services/decimal.h"
+#include "services/dialog_acts.h"
 #include "services/dialog_family.h"
 #include "services/drawing_objects.h"
 #include "services/program.h"
@@ -69,7 +68,8 @@ void DrawBanner(Canvas* canvas, const char* banner, const Rect& box) {
   }
 }
 
-void Paint(WindowHandle dialog, const Kind& kind) {
+void Paint(WindowHandle dialog) {
+  const Kind& kind = *OpenKind();
   Canvas* canvas = CanvasGet(dialog);
   if (!canvas) return;
   CanvasBrush(canvas, Drawing.FaceBrush);
@@ -102,40 +102,20 @@ void Open(WindowHandle dialog) {
   ControlSetChecked(dialog, IDC_DIVIDE_ENCRYPT, FileDivide.encryptFlag != 0);
 }
 
-bool Press(const Event& event, const Kind& kind) {
-  switch (event.id) {
-    case IDC_DIVIDE_PICK:
-      CommandSend(kind.pickCommand);
-      return true;
-    case IDC_DIVIDE_PICK_FOLDER:
-      CommandSend(kind.folderCommand);
-      return true;
-    case IDC_DIVIDE_RUN:
-      CommandSend(Command::DivideRun);
-      return true;
-    case IDC_DIVIDE_ENCRYPT:
-      FileDivide.encryptFlag = ControlIsChecked(event.window, IDC_DIVIDE_ENCRYPT) ? 1 : 0;
-      return true;
-    default:
-      return false;
-  }
-}
+constexpr DialogAct kActs[] = {
+    {EventKind::Init, Open},
+    {EventKind::Paint, Paint},
+    {IDC_DIVIDE_PICK, [] { CommandSend(OpenKind()->pickCommand); }},
+    {IDC_DIVIDE_PICK_FOLDER, [] { CommandSend(OpenKind()->folderCommand); }},
+    {IDC_DIVIDE_RUN, Command::DivideRun},
+    {IDC_DIVIDE_ENCRYPT,
+     [](WindowHandle dialog) {
+       FileDivide.encryptFlag = ControlIsChecked(dialog, IDC_DIVIDE_ENCRYPT) ? 1 : 0;
+     }},
+};
 
 bool Handle(const Event& event) {
-  const Kind* kind = OpenKind();
-  if (!kind) return false;
-  switch (event.kind) {
-    case EventKind::Init:
-      Open(event.window);
-      return true;
-    case EventKind::Paint:
-      Paint(event.window, *kind);
-      return true;
-    case EventKind::Pressed:
-      return Press(event, *kind);
-    default:
-      return false;
-  }
+  return OpenKind() && DialogActRun(event, kActs);
 }
 
 }  // namespace

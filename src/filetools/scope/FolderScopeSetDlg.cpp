@@ -7,6 +7,7 @@
 #include "platform/dialog.h"
 #include "platform/window.h"
 #include "resources/filetools_ids.h"
+#include "services/dialog_acts.h"
 #include "services/dialog_family.h"
 #include "services/extension_filter.h"
 #include "services/feature_dialog.h"
@@ -37,25 +38,18 @@ void Open(WindowHandle dialog) {
   FolderChanged();
 }
 
+constexpr DialogAct kActs[] = {
+    {EventKind::Init, Open},
+    {EventKind::Paint, [] { FolderListPaint(Scope.folders); }},
+    {IDC_SCOPE_FILTER, EventKind::Chosen, ScopeListFiles},
+    {IDC_SCOPE_PIES, FolderStaticsDlgRun},
+    {IDC_SCOPE_BARS, FolderStaticsDlg2Run},
+};
+
 bool Handle(const Event& event) {
   if (FolderListEvent(Scope.folders, event)) return true;
-  if (FolderListIsCancel(event)) {
-    ToolDialogEnd(event.window, 2);
-    return true;
-  }
-  if (event.kind == EventKind::Init) {
-    Open(event.window);
-  } else if (event.kind == EventKind::Paint) {
-    FolderListPaint(Scope.folders);
-  } else if (IsChosen(event, IDC_SCOPE_FILTER)) {
-    ScopeListFiles();
-  } else if (IsPressed(event, IDC_SCOPE_PIES)) {
-    FolderStaticsDlgRun(event.window);
-  } else if (IsPressed(event, IDC_SCOPE_BARS)) {
-    FolderStaticsDlg2Run(event.window);
-  } else {
-    return false;
-  }
+  if (!FolderListIsCancel(event)) return DialogActRun(event, kActs);
+  ToolDialogEnd(event.window, 2);
   return true;
 }
 

@@ -6,6 +6,7 @@
 #include "filetools/scope/scope_state.h"
 #include "filetools/scope/scope_unit.h"
 #include "resources/filetools_ids.h"
+#include "services/dialog_acts.h"
 #include "services/dialog_family.h"
 #include "services/drawing_objects.h"
 #include "services/text.h"
@@ -127,15 +128,17 @@ void Draw(Canvas* canvas, const Rect& area) {
              "指定フォルダー内容量比", amount);
 }
 
+void Open(WindowHandle dialog) {
+  if (!StaticsOpen(dialog, false)) MenuDialogEnd(dialog, 2);
+}
+
+constexpr DialogAct kActs[] = {
+    {EventKind::Init, Open},
+    {EventKind::Paint, [](WindowHandle dialog) { StaticsPaint(dialog, Draw); }},
+};
+
 bool Handle(const Event& event) {
-  if (event.kind == EventKind::Init) {
-    if (!StaticsOpen(event.window, false)) MenuDialogEnd(event.window, 2);
-  } else if (event.kind == EventKind::Paint) {
-    StaticsPaint(event.window, Draw);
-  } else {
-    return false;
-  }
-  return true;
+  return DialogActRun(event, kActs);
 }
 
 }  // namespace

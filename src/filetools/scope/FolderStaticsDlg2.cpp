@@ -11,6 +11,7 @@
 #include "platform/dialog.h"
 #include "platform/window.h"
 #include "resources/filetools_ids.h"
+#include "services/dialog_acts.h"
 #include "services/dialog_family.h"
 #include "services/drawing_objects.h"
 #include "services/scroll_set.h"
@@ -85,56 +86,28 @@ void Open(WindowHandle dialog) {
 }
 
 void ScrollRows(const Event& event) {
+  // How far the parts go that do not tell where to, in their order.
+  static constexpr int steps[] = {-1, 1, -kPage, kPage};
   // kept: the bars scroll to the number of entries less 2, not to the last page.
   const int last = std::max(Scope.scopeFolderCount - 2, 0);
-  int to = Scope.firstBar;
-  switch (event.scroll) {
-    case Scroll::LineUp:
-      to -= 1;
-      break;
-    case Scroll::LineDown:
-      to += 1;
-      break;
-    case Scroll::PageUp:
-      to -= kPage;
-      break;
-    case Scroll::PageDown:
-      to += kPage;
-      break;
-    case Scroll::Thumb:
-      to = event.scrollPosition;
-      break;
-    case Scroll::Top:
-      to = 0;
-      break;
-    case Scroll::Bottom:
-      to = last;
-      break;
-    case Scroll::End:
-      return;
-  }
+  if (event.control != Scope.hBarScroll || event.scroll == Scroll::End) return;
+  int to = event.scroll == Scroll::Bottom ? last : 0;
+  if (event.scroll == Scroll::Thumb) to = event.scrollPosition;
+  if (event.scroll <= Scroll::PageDown) to = Scope.firstBar + steps[static_cast<int>(event.scroll)];
   Scope.firstBar = std::clamp(to, 0, last);
   UpdateScroll(event.window);
   SendPaint(event.window);
 }
 
+constexpr DialogAct kActs[] = {
+    {EventKind::Init, Open},
+    {EventKind::Paint, [](WindowHandle dialog) { StaticsPaint(dialog, Draw); }},
+    {EventKind::VScroll, ScrollRows},
+};
+
 bool Handle(const Event& event) {
-  switch (event.kind) {
-    case EventKind::Init:
-      Open(event.window);
-      return true;
-    case EventKind::Paint:
-      StaticsPaint(event.window, Draw);
-      return true;
-    case EventKind::VScroll:
-      if (event.control == Scope.hBarScroll) ScrollRows(event);
-      return true;
-    case EventKind::Destroy:
-      Scope.hBarScroll = nullptr;
-      return false;
-    default:
-      return false;
-  }
+  if (event.kind == EventKind::Destroy) Scope.hBarScroll = nullptr;
+  return DialogActRun(event, kActs);
 }
 
 }  // namespace

@@ -5,60 +5,42 @@
 #include "filetools/scope/folder_scope.h"
 #include "filetools/scope/scope_dialogs.h"
 #include "filetools/stepped_work.h"
-#include "platform/dialog.h"
 #include "resources/filetools_ids.h"
-#include "services/commands.h"
+#include "services/progress.h"
 
 namespace {
 
 constexpr int kStopped = -1;
 
-// Takes the search away from the tick; what it has open is closed.
-void Leave(WindowHandle dialog) {
-  if (!SteppedHidden(dialog)) return;
+// kept: a folder with 3105 entries or more closes the statistics without a word: its count
+// of -2 is taken like a stop.
+template <int (*search)()>
+bool Step(int* entries) {
+  const int result = search();
+  *entries = result - 1;
+  return result != 0;
+}
+
+void End(bool /*stopped*/) {
   ScopeStepStop();
   SteppedEnd();
 }
 
-void End(WindowHandle dialog, int entries) {
-  Leave(dialog);
-  DialogEnd(dialog, entries);
+template <int (*search)()>
+constexpr Progress ProgressOf(int templateId) {
+  return {templateId, &Stepped.hSearchDlg, Command::WorkStep, ScopeStepReset, Step<search>, End, nullptr,
+          kStopped};
 }
-
-void Step(WindowHandle dialog) {
-  if (Stepped.hSearchDlg != dialog) return;
-  int result = 0;
-  if (Stepped.progressMode == kStepDriveSearch) result = ScopeDriveStep();
-  if (Stepped.progressMode == kStepFolderSearch) result = ScopeFolderStep();
-  // kept: a folder with 3105 entries or more closes the statistics without a word: its count
-  // of -2 is taken like a stop.
-  if (result != 0) End(dialog, result - 1);
-}
-
-bool Handle(const Event& event) {
-  if (event.kind == EventKind::Init) {
-    SteppedShown(event.window);
-    ScopeStepReset();
-  } else if (CommandIs(event, Command::WorkStep)) {
-    Step(event.window);
-  } else if (EndIsAsked(event)) {
-    End(event.window, kStopped);
-  } else {
-    // The program may end while a search is running.
-    if (event.kind == EventKind::Destroy) Leave(event.window);
-    return false;
-  }
-  return true;
-}
+constexpr Progress kDrive = ProgressOf<ScopeDriveStep>(IDD_SerchDrvDlg);
+constexpr Progress kFolder = ProgressOf<ScopeFolderStep>(IDD_SerchFolderDlg);
 
 }  // namespace
 
-int ScopeSearchRun(WindowHandle owner, SteppedWork work) {
+int ScopeSearchRun(WindowHandle owner, SteppedWork search) {
   // The tick drives one work at a time; a command from outside may ask for another.
   if (SteppedBusy()) return kStopped;
-  SteppedBegin(work);
-  const int entries =
-      DialogRun(work == kStepDriveSearch ? IDD_SerchDrvDlg : IDD_SerchFolderDlg, owner, Handle);
+  SteppedBegin(search);
+  const int entries = ProgressRun(search == kStepDriveSearch ? kDrive : kFolder, owner);
   SteppedEnd();
   return entries;
 }

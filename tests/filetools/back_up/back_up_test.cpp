@@ -5,6 +5,7 @@
 
 #include <random>
 
+#include "platform/posix/files_opened.h"
 #include "platform/posix/posix_paths.h"
 #include "services/data_file.h"
 #include "tests/filetools/back_up/back_up_fixture.h"
@@ -433,6 +434,33 @@ TEST_F(BackUpTest, WhatWasReadIsWrittenAgainByteForByte) {
   PutFile(InProgram("b.BUP"), Repeat('x', 200000));
   EXPECT_EQ(BackUpSave(InProgram("b.BUP").c_str()), 0);
   EXPECT_TRUE(FileBytes(InProgram("b.BUP")) == bytes);
+}
+
+TEST_F(BackUpTest, FilesAreReadWhileNobodyWritesThemAndTheSettingsAreShared) {
+  CopyTo("C:\\mirrell\\copies");
+  AddSource("a", "one");
+  RunSteps();
+  const std::string source = InProgram("a");
+  const std::string copy = "C:\\mirrell\\copies\\a";
+  const std::vector<FileOpened> both = {{source, false, OpenMode::ReadDenyWrite},
+                                        {copy, false, OpenMode::ReadDenyWrite}};
+  FilesOpenedClear();
+  EXPECT_EQ(BackUpCompareContent(), 0);
+  EXPECT_EQ(FilesOpened(), both);
+  FilesOpenedClear();
+  BackUpCompareDate();
+  EXPECT_EQ(FilesOpened(), both);
+  char row[160];
+  FilesOpenedClear();
+  BackUpListDate(0, row, sizeof row);
+  EXPECT_EQ(FilesOpened(), both);
+  const std::string settings = InProgram("a.BUP");
+  FilesOpenedClear();
+  EXPECT_EQ(BackUpSave(settings.c_str()), 0);
+  EXPECT_EQ(BackUpLoad(settings.c_str()), 0);
+  EXPECT_EQ(FilesOpened(), (std::vector<FileOpened>{{settings, true, OpenMode::ReadWrite},
+                                                    {settings, false, OpenMode::ReadWrite},
+                                                    {settings, false, OpenMode::ReadDenyWrite}}));
 }
 
 TEST(BackUpRecord, LiesAsTold) {

@@ -4,6 +4,7 @@
 #include <cstring>
 #include <set>
 
+#include "platform/posix/files_opened.h"
 #include "tests/filetools/divide/divide_fixture.h"
 
 namespace {
@@ -146,6 +147,34 @@ TEST_F(DivideTest, ASizeOfTwoGigabytesEndsInNoEmptyPiecesAndNoEndlessLoop) {
   EXPECT_EQ(FileDivide.pieceSize, 0x60000000U);
   EXPECT_EQ(PieceNo(1), "");
   EXPECT_FALSE(FileThere("C:\\mirrell\\pieces\\part2.div"));
+}
+
+// --- Sharing
+
+TEST_F(DivideTest, TheSourceIsReadWhileNobodyWritesItAndWhatIsMadeIsShared) {
+  Prepare(Simple(4, 1));
+  const std::string source = FileDivide.sourcePath;
+  const std::string piece = "C:\\mirrell\\pieces\\part1.div";
+  FilesOpenedClear();
+  ASSERT_EQ(RunSteps(false), 0);
+  EXPECT_EQ(FilesOpened(), (std::vector<FileOpened>{{source, false, OpenMode::ReadDenyWrite},
+                                                    {kCof, true, OpenMode::ReadWrite},
+                                                    {kCof, false, OpenMode::ReadWrite},
+                                                    {piece, true, OpenMode::ReadWrite},
+                                                    {piece, false, OpenMode::ReadWrite}}));
+  const std::string target = "C:\\mirrell\\restored\\source.bin";
+  FilesOpenedClear();
+  ASSERT_EQ(Restore(), 0);
+  EXPECT_EQ(FilesOpened(),
+            (std::vector<FileOpened>{{kCof, false, OpenMode::ReadDenyWrite},
+                                     {target, true, OpenMode::ReadWrite},
+                                     {target, false, OpenMode::ReadWrite},
+                                     {"C:\\mirrell\\pieces\\\\part1.div", false, OpenMode::ReadDenyWrite}}));
+  FilesOpenedClear();
+  CofReadFlag(kCof);
+  DivFileSize(source.c_str());
+  EXPECT_EQ(FilesOpened(), (std::vector<FileOpened>{{kCof, false, OpenMode::ReadDenyWrite},
+                                                    {source, false, OpenMode::ReadDenyWrite}}));
 }
 
 TEST_F(DivideTest, TheSizeOfAFileIsTakenWhenItIsAskedFor) {
