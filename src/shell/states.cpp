@@ -106,9 +106,12 @@ void ScheduleReset() {
 }
 
 void FileToolsReset() {
-  ResetAll(BackUp, BackUpRun, FileDivide, GroupRun, OpnGroups, OpnHistory, OpnPendingGroup, OpnProgList,
-           OpnProgListBuilt, OpnRecord, OpnSearchResult, OpnSelection, OpnSelectionSave, OpnWork, Scope,
-           Stepped, Tidy);
+  BackUpReset();
+  FileDivideReset();
+  ScopeReset();
+  SteppedReset();
+  ResetAll(GroupRun, OpnGroups, OpnHistory, OpnPendingGroup, OpnProgList, OpnProgListBuilt, OpnRecord,
+           OpnSearchResult, OpnSelection, OpnSelectionSave, OpnWork, Tidy);
 }
 
 void MailMusicReset() {
