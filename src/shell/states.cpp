@@ -107,8 +107,12 @@ void ScheduleReset() {
 }
 
 void FileToolsReset() {
-  ResetAll(BackUp, BackUpRun, FileDivide, GroupRun, OpnGroups, OpnHistory, OpnProgList, OpnRecord, OpnSearchResult, OpnSelection, OpnSelectionSave, OpnWork, Scope,
-           Stepped, Tidy);
+  BackUpReset();
+  FileDivideReset();
+  ScopeReset();
+  SteppedReset();
+  ResetAll(GroupRun, OpnGroups, OpnHistory, OpnProgList, OpnRecord, OpnSearchResult, OpnSelection,
+           OpnSelectionSave, OpnWork, Tidy);
 }
 
 void MailMusicReset() {
