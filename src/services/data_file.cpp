@@ -87,6 +87,10 @@ bool DataReadBE16(DataFile& data, std::uint16_t& to) {
   return ReadNumber<2>(data, to);
 }
 
+bool DataReadBE32(DataFile& data, std::uint32_t& to) {
+  return ReadNumber<4>(data, to);
+}
+
 bool DataReadBE32(DataFile& data, std::int32_t& to) {
   return ReadNumber<4>(data, to);
 }

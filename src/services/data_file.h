@@ -46,6 +46,7 @@ int DataFailStatus(DataFile& data);
 bool DataRead(DataFile& data, void* to, int size);
 bool DataReadByte(DataFile& data, std::uint8_t& to);
 bool DataReadBE16(DataFile& data, std::uint16_t& to);
+bool DataReadBE32(DataFile& data, std::uint32_t& to);
 bool DataReadBE32(DataFile& data, std::int32_t& to);
 
 bool DataWrite(DataFile& data, const void* from, int size);

@@ -21,6 +21,3 @@ bool PanelIsOpen();
 
 // The active feature.
 Feature PanelFeature();
-
-// True while the panel is on show.
-bool PanelIsOpen();

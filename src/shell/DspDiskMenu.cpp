@@ -288,10 +288,6 @@ void PanelDismiss() {
   PanelWindowClose();
 }
 
-bool PanelIsOpen() {
-  return Panel.hDiskMenu != nullptr;
-}
-
 void PanelEntryBegin(Feature feature) {
   PanelWindowClose();
   Panel.FuncNo = static_cast<std::int32_t>(feature);
