@@ -4,6 +4,10 @@
 
 NoticePlaceState NoticePlace;
 
+void NoticePlaceDefault() {
+  NoticePlace = {400, 100, 480, 300};
+}
+
 void NoticeShow(WindowHandle window) {
   WindowMove(window, NoticePlace.NoticeX, NoticePlace.NoticeY, NoticePlace.NoticeW, NoticePlace.NoticeH,
              false);

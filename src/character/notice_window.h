@@ -14,6 +14,9 @@ struct NoticePlaceState {
 };
 extern NoticePlaceState NoticePlace;
 
+// Where the notices stand at the start.
+void NoticePlaceDefault();
+
 // Moves the window to the notice rectangle, NoticeX and so on, and puts it above all
 // others.
 void NoticeShow(WindowHandle window);

@@ -29,6 +29,12 @@ Family<SubDialog> subFamily{&Dialogs.DlgIdSub, &Dialogs.hSubDlg, false, nullptr,
 Family<SnryDialog> snryFamily{&Dialogs.DlgIdSnry, &Dialogs.hSnryDlg, false, nullptr, {}};
 
 template <typename Number>
+void Forget(Family<Number>& family) {
+  family.next = nullptr;
+  for (auto& entry : family.open) entry = {};
+}
+
+template <typename Number>
 EventHandler HandlerOf(const Family<Number>& family, WindowHandle window) {
   for (const auto& entry : family.open) {
     if (entry.window == window) return entry.handler;
@@ -92,6 +98,14 @@ int Run(Family<Number>& family, EventHandler proc, Number dialog, int templateId
 }
 
 }  // namespace
+
+void DialogsReset() {
+  Dialogs = {};
+  Forget(menuFamily);
+  Forget(toolFamily);
+  Forget(subFamily);
+  Forget(snryFamily);
+}
 
 bool FamilyDialogIsUp() {
   return Dialogs.hMenuDlg || Dialogs.hToolDlg || Dialogs.hSubDlg || Dialogs.hSnryDlg;

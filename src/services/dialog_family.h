@@ -18,6 +18,9 @@ struct DialogsState {
 };
 extern DialogsState Dialogs;
 
+// No dialog of a family is known any more.
+void DialogsReset();
+
 // Whether a dialog of one of the families is up.
 bool FamilyDialogIsUp();
 

@@ -11,6 +11,7 @@ struct ProgramState {
   // The shutdown has run, perhaps from inside a modal loop of a tick: what that tick
   // has left to do stays undone.
   bool Quitting = false;
+  bool Started = false;  // a start has been in this process
   char RootFolder[kRootSize] = {};  // the program folder: root of every data file name
 };
 extern ProgramState Program;

@@ -12,13 +12,16 @@
 #include "clock_calendar/calendar/calendar.h"
 #include "clock_calendar/clock/clock.h"
 #include "filetools/open/open_history.h"
+#include "platform/dialog.h"
 #include "platform/file.h"
 #include "platform/window.h"
+#include "schedule/applications/application_list.h"
 #include "services/commands.h"
 #include "services/dialog_family.h"
 #include "services/dialog_numbers.h"
 #include "services/program.h"
 #include "shell/settings.h"
+#include "shell/shell_commands.h"
 
 FileWatchState Watch;
 
@@ -140,4 +143,16 @@ void FileWatchTick() {
 
 int FileWatchDue() {
   return kWatchTicks - Watch.FileWatchCount;
+}
+
+void CommandCalendarChanged(Command) {
+  // A second box would open over the first from the tick.
+  if (Watch.telling || !ApliListHasSelected()) return;
+  Watch.telling = true;
+  MessageBoxRun(Program.hMainWnd,
+                ApliSelectedIsRunning()
+                    ? "予定表の編集データセーブ後に予定表を閉じて再起動させてください"
+                    : "予定表でカレンダー変更を有効にするには、予定表を起動しセーブする必要があります",
+                "カレンダーが変更されました(ミルレール)", BoxButtons::Ok, BoxIcon::Exclamation);
+  Watch.telling = false;
 }

@@ -16,6 +16,7 @@ struct FileWatchState {
   // because answering sends commands, inside which a tick may come by.
   bool calendarReload = false;
   bool calendarTell = false;  // the schedule program must be told
+  bool telling = false;       // the box that says so is up
   bool clockRestart = false;
   bool alarmReload = false;
   bool characterReload = false;

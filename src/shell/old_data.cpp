@@ -18,14 +18,9 @@ constexpr int kPicking = 1;
 constexpr int kTooLarge = 2;
 constexpr int kNoMemory = 3;
 
-struct Path {
-  char text[600];
-};
-Path blockPath;  // where the block came from or went to last
-
 // Loading and saving ask under the same title; `path` goes in as a proposal.
 template <typename FileDialog>
-bool Ask(FileDialog* dialog, Path& path) {
+bool Ask(FileDialog* dialog, OldDataPath& path) {
   FileResult.FileStatus = kPicking;
   return dialog(Program.hMainWnd, "ﾌｧｲﾙﾛｰﾄﾞ", "Files (*.*)", "*.*", Program.RootFolder, path.text,
                 sizeof path.text);
@@ -55,36 +50,36 @@ void Take(DataFile& data) {
   FileResult.FileStatus = 0;
 }
 
-void Write(const Path& path) {
+void Write(const OldDataPath& path) {
   DataFile data;
   if (!DataReplace(data, path.text)) return Fail(-1, "Coud not open MOT file");
   const bool whole = DataWrite(data, OldFormat.OldData, OldFormat.OldDataSize);
   DataClose(data);
   if (!whole) return Fail(kShort, "Write DATA Error");
-  blockPath = path;
+  OldFormat.path = path;
   FileResult.FileStatus = 0;
 }
 
 }  // namespace
 
 void OldDataLoad() {
-  Path path = blockPath;
+  OldDataPath path = OldFormat.path;
   if (!Ask(FileDialogLoad, path)) return;
   DataFile data;
   if (!DataOpenRead(data, path.text, OpenMode::ReadDenyWrite)) return Fail(-1, "Coud not open MOT file");
   Take(data);
   DataClose(data);
-  if (FileResult.FileStatus == 0) blockPath = path;
+  if (FileResult.FileStatus == 0) OldFormat.path = path;
 }
 
 void OldDataSave() {
-  if (blockPath.text[0] == '\0') return OldDataSaveAs();
-  if (OldFormat.OldData) Write(blockPath);
+  if (OldFormat.path.text[0] == '\0') return OldDataSaveAs();
+  if (OldFormat.OldData) Write(OldFormat.path);
 }
 
 void OldDataSaveAs() {
   if (!OldFormat.OldData) return;
-  Path path = blockPath;
+  OldDataPath path = OldFormat.path;
   if (Ask(FileDialogSave, path)) Write(path);
 }
 
@@ -92,7 +87,7 @@ void OldDataFree() {
   MemoryFree(OldFormat.OldData);
   OldFormat.OldData = nullptr;
   OldFormat.OldDataSize = 0;
-  blockPath.text[0] = '\0';
+  OldFormat.path.text[0] = '\0';
 }
 
 void CommandOldData(Command command) {

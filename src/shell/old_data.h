@@ -7,9 +7,14 @@
 
 inline constexpr int kOldDataMax = 65536;
 
+struct OldDataPath {
+  char text[600];
+};
+
 struct OldFormatState {
   unsigned char* OldData = nullptr;  // the block; null until one is loaded
   std::int32_t OldDataSize = 0;      // its bytes, 0 to kOldDataMax
+  OldDataPath path = {};             // where the block came from or went to last
 };
 extern OldFormatState OldFormat;
 

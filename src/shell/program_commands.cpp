@@ -3,7 +3,6 @@
 #include "platform/file.h"
 #include "platform/process.h"
 #include "platform/window.h"
-#include "schedule/applications/application_list.h"
 #include "services/commands.h"
 #include "services/panel_entry.h"
 #include "services/program.h"
@@ -53,17 +52,4 @@ void CommandStartSibling(Command command) {
   for (const Sibling& sibling : kSiblings) {
     if (sibling.command == command) SiblingStart(Program.RootFolder, sibling.commandLine);
   }
-}
-
-void CommandCalendarChanged(Command) {
-  // Set while a box is up: a second one would open over it from the tick.
-  static bool telling = false;
-  if (telling || !ApliListHasSelected()) return;
-  telling = true;
-  MessageBoxRun(Program.hMainWnd,
-                ApliSelectedIsRunning()
-                    ? "予定表の編集データセーブ後に予定表を閉じて再起動させてください"
-                    : "予定表でカレンダー変更を有効にするには、予定表を起動しセーブする必要があります",
-                "カレンダーが変更されました(ミルレール)", BoxButtons::Ok, BoxIcon::Exclamation);
-  telling = false;
 }

@@ -2,7 +2,6 @@
 
 #include "clock_calendar/clock_calendar_tick.h"
 #include "mail_music/mail/mail.h"
-#include "platform/memory.h"
 #include "platform/window.h"
 #include "schedule/applications/application_list.h"
 #include "schedule/execution/schedule_run.h"
@@ -10,24 +9,14 @@
 #include "services/program.h"
 #include "services/work_blocks.h"
 #include "shell/old_data.h"
-#include "shell/start.h"
 #include "shell/tick_timer.h"
-
-namespace {
-
-void BlockFree(unsigned char*& block) {
-  MemoryFree(block);
-  block = nullptr;
-}
-
-}  // namespace
 
 void Shutdown() {
   Program.Quitting = true;
   TickTimerStop();
-  BlockFree(WorkBlocks.ScopeBlock);
+  ScopeBlockFree();
   ClockPreviewFree();
-  BlockFree(WorkBlocks.CastBlock);
+  CastBlockFree();
   ApliListFree();
   SclMapFree();
   OldDataFree();

@@ -9,10 +9,7 @@
 #include "clock_calendar/clock_calendar_tick.h"
 #include "filetools/tidy/desktop_tidy.h"
 #include "mail_music/mail/mail.h"
-#include "mail_music/music/music.h"
 #include "platform/file.h"
-#include "platform/memory.h"
-#include "platform/screen.h"
 #include "platform/time.h"
 #include "platform/window.h"
 #include "schedule/applications/application_list.h"
@@ -30,6 +27,7 @@
 #include "shell/file_dialog_defaults.h"
 #include "shell/file_watch.h"
 #include "shell/settings.h"
+#include "shell/states.h"
 #include "shell/tick_timer.h"
 #include "world/world_list.h"
 
@@ -48,26 +46,17 @@ void TimerBegin() {
   BoxTell(Program.hMainWnd, "ミルレール", "タイマー設定できません");
 }
 
-void ScreenFiguresTake() {
-  Screen.SizeButtonWidth = ScreenMetric(Metric::SizeButtonWidth);
-  Screen.MenuBarHeight = ScreenMetric(Metric::MenuHeight);
-  Screen.FrameWidth = ScreenMetric(Metric::FrameWidth);
-  Screen.FrameHeight = ScreenMetric(Metric::FrameHeight);
-}
-
 }  // namespace
 
 void StartSequence(WindowHandle window) {
+  if (Program.Started) StatesReset();
+  Program.Started = true;
   Program.hMainWnd = window;
-  Program.Quitting = false;
   DiagnosticsShowAll();
   FileDialogDefaultsSet();
   TextFiguresTake(window);
   DrawingObjectsCreate();
-  SclTablesClear();
-  MusicReset();
-  WorkBlocks.CastBlock = static_cast<unsigned char*>(MemoryAllocate(kCastBlockSize));
-  WorkBlocks.ScopeBlock = static_cast<unsigned char*>(MemoryAllocate(kScopeBlockSize));
+  WorkBlocksAllocate();
   RandomSeed(1);
   RandomSeed(static_cast<std::uint32_t>(TimeSeconds()));
   FoldersTake();
@@ -79,7 +68,7 @@ void StartSequence(WindowHandle window) {
   SetDateDefaults();
   Stage.StageWidth = 300;
   Stage.StageHeight = 200;
-  ScreenFiguresTake();
+  FrameFiguresTake();
 
   const int settings = SysFileRead();
   ApliListOpen();

@@ -35,43 +35,14 @@ class StageFixture : public CharaFiles {
     Program.hMainWnd = MainWindowCreate({"mirrell", "mirrell", 0, 0, 0, MainProc}, 500, 300, 120, 160);
     ASSERT_NE(Program.hMainWnd, nullptr);
     WindowShowFirst(Program.hMainWnd, 1);
-    Forget();
-  }
-  void TearDown() override {
-    Forget();
-    Program.hMainWnd = nullptr;
-    CharaFiles::TearDown();
-  }
-
-  // Every table and variable of the character as at the start of the program.
-  static void Forget() {
-    CharaTables.MainCharaCount = CharaTables.AlarmCharaCount = CharaTables.WalkCharaCount = 0;
-    for (MainChara& row : CharaTables.MainCharas) row = MainChara{};
-    for (std::int32_t& number : CharaTables.AlarmCharas) number = 0;
-    for (WalkChara& row : CharaTables.WalkCharas) row = WalkChara{};
-    for (unsigned char& flags : CharaTables.WalkFlags) flags = 0;
-    Character.CharaSet = CharaSetRecord{};
-    for (std::int32_t& selection : Character.AlarmCharaSel) selection = 0;
-    Character.CharaIndex = Character.MenuFrame = Character.BlinkFrame = 0;
     for (int i = 0; i < kBoredFrameCount; ++i) Character.Bored1Frames[i] = Character.Bored2Frames[i] = -1;
-    Character.BoredDelaySel = Character.BoredSpeedSel = Character.BoredRepeatSel = Character.BlinkSpeedSel =
-        0;
     Character.StageX = 200;
     Character.StageY = 100;
     Stage.StageWidth = 300;
     Stage.StageHeight = 200;
-    Stage.StageAppliedWidth = Stage.StageAppliedHeight = 0;
-    Stage.StageRedraw = Stage.CharaFrame = Stage.StageFrameCount = 0;
-    Stage.CurrentOutline.count = 0;
-    for (Outline& outline : Stage.StageOutlines) outline.count = 0;
-    Motion.CharaMotion = Motion.CharaStepCount = Motion.BlinkCount = Motion.BoredSec = Motion.BoredMin =
-        Motion.BoredHour = 0;
-    Motion.BoredPattern = Motion.BoredLen1 = Motion.BoredLen2 = Motion.BoredLeft = Motion.BoredHold =
-        Motion.BoredRepeat = 0;
-    Motion.BlinkDone = false;
-    Dialogs = {};
-    Panel.hDiskMenu = nullptr;
-    Walk.OpeningState = Mail.MailPhase = Panel.FuncNo = Panel.MenuPanelState = 0;
+  }
+  void TearDown() override {
+    CharaFiles::TearDown();
   }
 
   // Character `number` gets those frames: pictures of width by height, outlines of

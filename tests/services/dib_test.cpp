@@ -296,6 +296,23 @@ TEST_F(DibTest, AHeaderBelow36BytesHasNoNumberOfColours) {
   DibFree(image);
 }
 
+// The smallest header that has a number of colours ends right behind it.
+TEST_F(DibTest, AHeaderOf36BytesHasANumberOfColours) {
+  // 36 bytes of header, 4 bits a pixel, a table of 3 colours, 4 rows of 4 bytes.
+  std::string file(14 + 36 + 12 + 4 * 4, '\0');
+  file[0] = 'B';
+  file[1] = 'M';
+  Put(file, 2, static_cast<std::uint32_t>(file.size()), 4);
+  Put(file, 14, 36, 4);
+  Put(file, 18, 4, 4);
+  Put(file, 22, 4, 4);
+  Put(file, 28, 4, 2);
+  Put(file, 14 + 32, 3, 4);
+  ImageHandle image = Load(file);
+  EXPECT_EQ(DibBits(image) - image, 36 + 12);
+  DibFree(image);
+}
+
 TEST_F(DibTest, DrawsTheWholePictureAtItsPlace) {
   ImageHandle image = Load(Bitmap(5, 3, 24));
   std::vector<DrawCall> calls = Draw(image);

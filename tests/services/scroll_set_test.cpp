@@ -53,7 +53,7 @@ TEST_F(ScrollSetTest, SetsRangePageAndPosition) {
   EXPECT_EQ(state.position, 5);
 }
 
-TEST_F(ScrollSetTest, APositionWhoseLastPageEndsPastTheLinesBecomesTheLastLine) {
+TEST_F(ScrollSetTest, AFirstLineBeyondTheLastPageShowsTheLastPage) {
   EXPECT_EQ(Set(31, 21).position, 21);
   // The line asked for is 30; a bar holds its last page inside its range, 0 to 30
   // with a page of 9.
@@ -62,7 +62,12 @@ TEST_F(ScrollSetTest, APositionWhoseLastPageEndsPastTheLinesBecomesTheLastLine) 
 }
 
 TEST_F(ScrollSetTest, ABarThatIsNotThereIsPassedOver) {
-  ScrollSet(window, 10, 20, 31, 5, nullptr);
+  Set(31, 5);
+  ScrollSet(window, 10, 20, 40, 7, nullptr);
+  const ScrollState state = ScrollBarState(bar);
+  EXPECT_EQ(state.lines, 31);
+  EXPECT_EQ(state.position, 5);
+  EXPECT_TRUE(state.enabled);
 }
 
 }  // namespace

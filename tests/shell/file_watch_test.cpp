@@ -1,6 +1,7 @@
 // The watch on the files that sibling programs write.
 #include "shell/file_watch.h"
 
+#include "character/alarm_images.h"
 #include "character/chara_set.h"
 #include "character/character.h"
 #include "character/character_file.h"
@@ -12,6 +13,7 @@
 #include "platform/posix/faults.h"
 #include "platform/window.h"
 #include "schedule/applications/application_list.h"
+#include "services/big_endian.h"
 #include "services/commands.h"
 #include "services/dialog_family.h"
 #include "services/dialog_numbers.h"
@@ -116,6 +118,48 @@ TEST_F(FileWatchTest, AStampThatCannotBeReadLeavesTheStoredStampAsItIs) {
   EXPECT_EQ(CharaTables.MainCharas[0].charaNo, 3);
 }
 
+// The alarm numbers stand behind four records of 740 bytes and their own count.
+constexpr std::size_t kFirstAlarm = kFirstNumber + 4 * 740 + 4;
+
+TEST_F(FileWatchTest, AChangedAlarmCharacterIsLoaded) {
+  MakeFolder("C:\\mirrell\\キャラクタ");
+  ASSERT_TRUE(PutFile("C:\\mirrell\\キャラクタ\\Chara7_1.bmp", BmpFile(20, 20)));
+  ASSERT_EQ(AlarmImages.AlarmRows[kAlarmMail].pictures[0], nullptr);
+  std::string file = FileBytes(kCharacterFile);
+  ASSERT_EQ(file.at(kFirstAlarm + 3), 6);
+  file.at(kFirstAlarm + 3) = 7;
+  ASSERT_TRUE(PutFile(kCharacterFile, file));
+  SetFileTime(kCharacterFile, 2000000);
+  Ticks(201);
+  EXPECT_NE(AlarmImages.AlarmRows[kAlarmMail].pictures[0], nullptr);
+}
+
+std::uint32_t SavedNumber(std::size_t offset) {
+  const std::string file = FileBytes(kSettingsFile);
+  return GetBE32(file.data() + offset);
+}
+
+// The alarm characters' answer saves before the stage's takes the character's new
+// settings: those are in the file only after the next save.
+TEST_F(FileWatchTest, TheSettingsAreSavedBeforeTheCharacterIsTaken) {
+  std::string file = FileBytes(kCharacterFile);
+  file.at(kFirstNumber + 8 + 3) = 5;  // BlinkFrame of the first character
+  ASSERT_TRUE(PutFile(kCharacterFile, file));
+  SetFileTime(kCharacterFile, 2000000);
+  Ticks(201);
+  EXPECT_EQ(Character.BlinkFrame, 5);
+  EXPECT_EQ(SavedNumber(28), 0U);
+}
+
+// The calendar is answered before the character file is looked at.
+TEST_F(FileWatchTest, TwoChangesAreAnsweredOneAfterTheOther) {
+  SetFileTime(kCalendarFile, 2000000);
+  ChangeCharacterFile(3);
+  ListenToEverything();
+  Ticks(201);
+  EXPECT_EQ(TakeHeard(), (Words{"main 2381", "main 2293", "main 2254"}));
+}
+
 TEST_F(FileWatchTest, ACharacterChangeLoadsTheStageAnewAndRestartsTheClock) {
   MakeFolder("C:\\mirrell\\キャラクタ");
   ASSERT_TRUE(PutFile("C:\\mirrell\\キャラクタ\\Chara3_1.bmp", BmpFile(40, 30)));
@@ -206,6 +250,22 @@ TEST_F(FileWatchTest, AChangedCalendarTellsTheScheduleProgramOnlyWhenTheSelected
 
   ChangeNote();
   SetFileTime(kCalendarFile, 3000000);
+  ExpectBox("予定表でカレンダー変更を有効にするには、予定表を起動しセーブする必要があります",
+            "カレンダーが変更されました(ミルレール)");
+  Ticks(201);
+  EXPECT_EQ(BoxesShown().size(), 1U);
+}
+
+// Behind the sheets (12 blocks of 4672 bytes) and their marks (12 of 10) of all
+// calendars stand the definitions.
+TEST_F(FileWatchTest, AChangedDefinitionTellsTheScheduleProgram) {
+  Applications.ApliCount = 1;
+  Applications.ApliSelected = 1;
+  std::string file = FileBytes(kCalendarFile);
+  const std::size_t count = GetBE32(file.data() + 22);
+  file.at(3986 + count * (12 * 4672 + 12 * 10) + 26727) ^= 1;
+  ASSERT_TRUE(PutFile(kCalendarFile, file));
+  SetFileTime(kCalendarFile, 2000000);
   ExpectBox("予定表でカレンダー変更を有効にするには、予定表を起動しセーブする必要があります",
             "カレンダーが変更されました(ミルレール)");
   Ticks(201);

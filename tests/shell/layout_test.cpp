@@ -635,7 +635,8 @@ TEST_F(LayoutTest, TheFirstRunLaysTheWindowsOut) {
   StartProgram("_1_");
   Screen.ScreenWidth = 800;
   Screen.ScreenHeight = 600;
-  CharaTables.MainCharaCount = 0;
+  Calendar.CalenW = 200;
+  Calendar.CalenH = 220;
   Stage.StageWidth = 90;
   Stage.StageHeight = 120;
   Ticks(1);

@@ -27,6 +27,7 @@ namespace {
 
 std::vector<std::uint32_t> sentCommands;
 int paints;
+std::int32_t dayAtPaint;  // CalenClickedDay when the window was painted last
 
 bool MainProc(const Event& event) {
   if (event.kind == EventKind::Command) sentCommands.push_back(event.command);
@@ -34,7 +35,10 @@ bool MainProc(const Event& event) {
 }
 
 bool WindowProc(const Event& event) {
-  if (event.kind == EventKind::Paint) ++paints;
+  if (event.kind == EventKind::Paint) {
+    ++paints;
+    dayAtPaint = Calendar.CalenClickedDay;
+  }
   EXPECT_NE(event.kind, EventKind::Command) << "what was chosen is the main window's";
   return event.kind != EventKind::Close;
 }
@@ -98,6 +102,7 @@ TEST_F(PopupsTest, WithNothingChosenTheClickedDayIsClearedAndTheCalendarPainted)
   EXPECT_TRUE(sentCommands.empty());
   EXPECT_EQ(Calendar.CalenClickedDay, 0);
   EXPECT_EQ(paints, 1);
+  EXPECT_EQ(dayAtPaint, 0) << "the mark is gone from the picture";
 }
 
 TEST_F(PopupsTest, WhatIsChosenOnTheClockIsSent) {

@@ -1,22 +1,26 @@
 // The start sequence and the end of the program.
 #include "shell/start.h"
 
+#include <algorithm>
 #include <map>
 
 #include "character/alarm_images.h"
 #include "character/character.h"
 #include "character/character_file.h"
 #include "character/character_tables.h"
+#include "character/motion.h"
 #include "character/notice_window.h"
 #include "character/options.h"
 #include "character/stage.h"
 #include "clock_calendar/calendar/calendar.h"
 #include "clock_calendar/clock/clock.h"
+#include "filetools/open/open_state.h"
 #include "mail_music/mail/mail.h"
 #include "platform/canvas.h"
 #include "platform/entry.h"
 #include "platform/posix/faults.h"
 #include "platform/window.h"
+#include "schedule/table/table_scroll.h"
 #include "services/dialog_family.h"
 #include "services/drawing_objects.h"
 #include "services/file_picker.h"
@@ -25,11 +29,14 @@
 #include "services/today.h"
 #include "services/work_blocks.h"
 #include "shell/command_line.h"
+#include "shell/layout.h"
+#include "shell/panel.h"
 #include "shell/settings.h"
 #include "shell/tick.h"
 #include "shell/tick_timer.h"
 #include "tests/character/chara_files.h"
 #include "tests/support/program.h"
+#include "world/world_list.h"
 
 namespace {
 
@@ -39,14 +46,13 @@ class StartTest : public ProgramTest {};
 
 TEST_F(StartTest, WithNoSystemFileTheStageComesUpAtTheDefaultPlaceAndTheTimerRuns) {
   Clock.ClockShow = 1;
-  Calendar.CalenShow = 1;
+  ListenToEverything();
   StartProgram();
+  EXPECT_EQ(TakeHeard(), Words{}) << "no clock is asked for";
   const Rect place = WindowRect(Program.hMainWnd);
   EXPECT_EQ(place.left, 500);
   EXPECT_EQ(place.top, 300);
   EXPECT_TRUE(IsVisible(Program.hMainWnd));
-  EXPECT_EQ(Clock.hClockWnd, nullptr);
-  EXPECT_EQ(Calendar.hCalenWnd, nullptr);
   EXPECT_TRUE(TimerIsRunning(Program.hMainWnd, kTickTimer));
   const std::int32_t before = TickCounts.TickCount;
   Tick(3);
@@ -87,7 +93,6 @@ TEST_F(StartDataTest, WithNoSystemFileThereAreNoAlarmImagesAndNoClock) {
   ASSERT_EQ(CharaTables.AlarmCharaCount, 3);
   EXPECT_EQ(AlarmImages.AlarmRows[0].pictures[0], nullptr);
   EXPECT_EQ(TakeHeard(), Words{});
-  EXPECT_EQ(Calendar.hCalenWnd, nullptr);
 }
 
 // The settings count as read, so the start goes to its end with the state as it was.
@@ -184,6 +189,17 @@ TEST_F(StartTest, WorkBlocksFoldersAndDefaultsStandReady) {
   EXPECT_EQ(Screen.ScreenHeight, 768);
 }
 
+// One character in the list's header (its name alone in the data file) and no figures.
+TEST_F(StartTest, TheWorldListIsReadAtTheStart) {
+  MakeFolder("C:\\mirrell\\キャラクタ");
+  ASSERT_TRUE(PutFile("C:\\mirrell\\キャラクタ\\EDTCFLAG.edf", std::string("....\0\0\0\1\0\0\0\0", 12)));
+  std::string data(1520, '\0');
+  data.replace(1, 3, "Tom");
+  ASSERT_TRUE(PutFile("C:\\mirrell\\キャラクタ\\EDTCDATA.edf", data));
+  StartProgram();
+  EXPECT_STREQ(WorldCharaName(1), "Tom");
+}
+
 TEST_F(StartTest, SavedSettingsAreTakenAtTheStart) {
   Character.StageX = 77;
   Character.StageY = 55;
@@ -212,6 +228,41 @@ TEST_F(StartTest, ACommandLineWithoutTheMarkIsConsumedAndHasNoEffect) {
   EXPECT_STREQ(ProgramLine.PendingCommandLine, "");
   EXPECT_STREQ(ProgramLine.CommandLine, "hello");
   EXPECT_EQ(FolderNames("C:\\mirrell"), before);
+}
+
+TEST_F(StartTest, OnlyAllThreeCharactersOfTheMarkMakeAFirstRun) {
+  for (const char* line : {"_1", "_1x", "_2_", "-1_", " _1_", "1_"}) {
+    StartProgram(line);
+    const Words before = FolderNames("C:\\mirrell");
+    MainTick();
+    EXPECT_STREQ(ProgramLine.CommandLine, line);
+    EXPECT_EQ(FolderNames("C:\\mirrell"), before) << line;
+    TearDown();
+    SetUp();
+  }
+  StartProgram("_1_ and more");
+  MainTick();
+  EXPECT_TRUE(FileThere("C:\\mirrell\\mirrell_sys_file.svs"));
+}
+
+TEST_F(StartTest, TheFirstRunMovesTheStageTheClockAndTheCalendar) {
+  StartProgram("_1_");
+  Clock.hClockWnd = OpenListener("clock");
+  Calendar.hCalenWnd = OpenListener("calendar");
+  TakeHeard();
+  Stage.StageWidth = 90;
+  Stage.StageHeight = 120;
+  Calendar.CalenW = 200;
+  Calendar.CalenH = 220;
+  MainTick();
+  const Words heard = TakeHeard();
+  EXPECT_EQ(std::count(heard.begin(), heard.end(), "clock close"), 1);
+  EXPECT_EQ(std::count(heard.begin(), heard.end(), "calendar close"), 1);
+  EXPECT_EQ(WindowRect(Program.hMainWnd).left, 1024 - 90 - 10);
+  EXPECT_EQ(WindowRect(Program.hMainWnd).top, 10 + 220);
+  for (const WindowHandle window : {Clock.hClockWnd, Calendar.hCalenWnd}) {
+    if (WindowIsOpen(window)) WindowDestroy(window);
+  }
 }
 
 TEST_F(StartTest, TheFirstRunMarkWritesApplicationListAndSettings) {
@@ -319,6 +370,59 @@ class ProcessEntryTest : public ProgramTest {};
 TEST_F(ProcessEntryTest, ReturnsTheQuitCode) {
   Then([] { SendClose(Program.hMainWnd); });
   EXPECT_EQ(ProcessEntry("", 1), 0);
+}
+
+TEST_F(ProcessEntryTest, TheWindowIsMade120By160AndShownInTheModeOfTheStart) {
+  Rect made{};
+  Overhear([&made](const Event& event) {
+    if (event.kind == EventKind::Init) made = WindowRect(event.window);
+  });
+  LeaveNextLoop();
+  ProcessEntry("", 0);
+  EXPECT_EQ(made.left, 500);
+  EXPECT_EQ(made.top, 300);
+  EXPECT_EQ(RectWidth(made), 120);
+  EXPECT_EQ(RectHeight(made), 160);
+  EXPECT_FALSE(IsVisible(Program.hMainWnd));
+  EXPECT_EQ(WindowText(Program.hMainWnd), "ミルレール");
+  SendClose(Program.hMainWnd);
+}
+
+TEST_F(ProcessEntryTest, TheCommandLineWaitsForTheFirstTickCutTo599Bytes) {
+  const std::string line(700, 'a');
+  StartProgram(line.c_str());
+  EXPECT_EQ(ProgramLine.PendingCommandLine, line.substr(0, 599));
+}
+
+// What the first start left in memory is not there for a second one.
+TEST_F(ProcessEntryTest, ASecondStartInTheSameProcessIsLikeTheFirst) {
+  StartProgram();
+  Panel.MenuReopenGuard = 7;
+  Calendar.CalenPageSize = 2;
+  Calendar.CalenShow = 1;
+  Clock.ClockX = 5;
+  Mail.MailInterval = 4;
+  Character.StageX = 3;
+  Motion.BoredHold = 9;
+  OpnHistory.fileCount = 3;
+  SclTable.AutoScrollDelay = 2;
+  Layout.LayoutChange = 7;
+  SendClose(Program.hMainWnd);
+  MainWindowDrop();
+  StartProgram();
+  EXPECT_FALSE(Program.Quitting);
+  EXPECT_EQ(Panel.MenuReopenGuard, 0);
+  EXPECT_EQ(Calendar.CalenPageSize, 0);
+  EXPECT_EQ(Calendar.CalenShow, 0);
+  EXPECT_EQ(Clock.ClockX, 0);
+  EXPECT_EQ(Mail.MailInterval, 0);
+  EXPECT_EQ(Character.StageX, 500);
+  EXPECT_EQ(Motion.BoredHold, 0);
+  EXPECT_EQ(OpnHistory.fileCount, 0);
+  EXPECT_EQ(SclTable.AutoScrollDelay, 0);
+  EXPECT_EQ(Layout.LayoutChange, 0);
+  EXPECT_TRUE(TimerIsRunning(Program.hMainWnd, kTickTimer));
+  SendClose(Program.hMainWnd);
 }
 
 TEST_F(ProcessEntryTest, NoWindowGivesZero) {

@@ -2,6 +2,7 @@
 #include "shell/tick.h"
 
 #include "character/motion.h"
+#include "clock_calendar/calendar/calendar.h"
 #include "clock_calendar/clock/clock.h"
 #include "filetools/back_up/back_up.h"
 #include "filetools/stepped_work.h"
@@ -242,12 +243,17 @@ TEST_F(MainWindowTest, EscapeClearsPanelStateFeatureAndGuardOnlyWhenAStateIsSet)
 }
 
 TEST_F(MainWindowTest, PaintGoesOnToClockCalendarPlanAndTable) {
-  Clock.hClockWnd = OpenListener();
-  SclTable.hPlanWnd = OpenListener();
+  SclTable.hSclTableWnd = OpenListener("table");
+  SclTable.hPlanWnd = OpenListener("plan");
+  Calendar.hCalenWnd = OpenListener("calendar");
+  Clock.hClockWnd = OpenListener("clock");
+  TakeHeard();
   SendPaint(Program.hMainWnd);
-  EXPECT_EQ(TakeHeard(), (Words{"paint", "paint"}));
-  WindowDestroy(Clock.hClockWnd);
-  WindowDestroy(SclTable.hPlanWnd);
+  EXPECT_EQ(TakeHeard(), (Words{"clock paint", "calendar paint", "plan paint", "table paint"}));
+  for (const WindowHandle window :
+       {Clock.hClockWnd, Calendar.hCalenWnd, SclTable.hPlanWnd, SclTable.hSclTableWnd}) {
+    WindowDestroy(window);
+  }
 }
 
 TEST_F(MainWindowTest, ExitAsksAndCancelOnlyClearsThePanelState) {

@@ -16,6 +16,7 @@
 #include "platform/posix/test_clock.h"
 #include "services/program.h"
 #include "services/text.h"
+#include "shell/states.h"
 
 namespace fs = std::filesystem;
 
@@ -39,6 +40,7 @@ void DesktopTest::SetUp() {
   PosixDriveSet('C', drive_);
   PosixDesktopSet("");
 
+  StatesReset();
   HeadlessReset();
   HeadlessResourceFile(MIRRELL_RES_FILE);
   FaultClear();

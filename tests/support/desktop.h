@@ -19,8 +19,8 @@
 //   screen                       1024 x 768
 //   faults                       none
 //
-// The tables of the product are not touched: each room resets its own. A
-// fixture that derives from this one does so before it calls TearDown here.
+// The state of all features is as in a fresh process. What a test leaves behind
+// is freed by its fixture before that calls TearDown here.
 class DesktopTest : public ::testing::Test {
  protected:
   void SetUp() override;

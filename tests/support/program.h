@@ -10,8 +10,8 @@ class ProgramTest : public DesktopTest {
   void SetUp() override;
   void TearDown() override;
 
-  // What the process entry does, without its message loop.
-  void StartProgram(const char* commandLine = "");
+  // The process entry, whose message loop returns at once: the test goes on in its place.
+  void StartProgram(const char* commandLine = "", int showMode = 1);
 };
 
 // Runs the tick handler `times` times.

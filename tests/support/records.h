@@ -7,9 +7,8 @@
 // Everything as it stands before the program has read or set anything.
 void ClearRecords();
 
-// A desktop on which they are so, before each test and behind it.
+// A desktop on which they are so before each test; what a test has loaded is freed.
 class RecordsTest : public DesktopTest {
  protected:
-  void SetUp() override;
   void TearDown() override;
 };

@@ -207,12 +207,13 @@ int MessageLoop(WindowHandle window, int acceleratorId) {
   WindowUse(window, "MessageLoop");
   loopWindow = window;
   loopAccelerators = acceleratorId;
-  while (!quitAsked) {
+  while (!quitAsked && !nextLoopIsLeft) {
     PaintDue();
     if (quitAsked || ScriptStep()) continue;
     Failure("the script is empty while the message loop runs");
     break;
   }
+  nextLoopIsLeft = false;
   loopWindow = nullptr;
   loopAccelerators = 0;
   return quitCode;

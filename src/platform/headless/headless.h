@@ -38,6 +38,13 @@ void Then(std::function<void()> step);
 // Steps that are still waiting.
 int StepsLeft();
 
+// The next message loop returns 0 at once, with no word of an end: the test goes on
+// with the program standing.
+void LeaveNextLoop();
+
+// Hears every event before the window that it goes to; until HeadlessReset.
+void Overhear(std::function<void(const Event&)> listener);
+
 // --- What the user does
 
 void Press(WindowHandle dialog, int id);               // a button; a check box turns over

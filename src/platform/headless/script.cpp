@@ -10,8 +10,11 @@ std::deque<std::function<void()>> steps;
 std::vector<std::string> failures;
 ResourceSet resources;
 std::string resourcePath;
+std::function<void(const Event&)> overhearing;
 
 }  // namespace
+
+bool nextLoopIsLeft = false;
 
 std::uintptr_t HandleNext() {
   constexpr std::uintptr_t kFirst = 0x10000;
@@ -50,6 +53,18 @@ int StepsLeft() {
   return static_cast<int>(steps.size());
 }
 
+void LeaveNextLoop() {
+  nextLoopIsLeft = true;
+}
+
+void Overhear(std::function<void(const Event&)> listener) {
+  overhearing = std::move(listener);
+}
+
+void OverhearTell(const Event& event) {
+  if (overhearing) overhearing(event);
+}
+
 bool ScriptStep() {
   if (steps.empty()) return false;
   const std::function<void()> step = std::move(steps.front());
@@ -82,4 +97,6 @@ void HeadlessReset() {
   SoundReset();
   steps.clear();
   failures.clear();
+  overhearing = nullptr;
+  nextLoopIsLeft = false;
 }

@@ -138,6 +138,11 @@ std::string Quoted(const std::string& text);
 bool ScriptStep();
 void ScriptReset();
 
+// For EventSend: tells who overhears.
+void OverhearTell(const Event& event);
+// The next message loop returns at once.
+extern bool nextLoopIsLeft;
+
 // --- Resources
 
 const ResourceSet& Resources();

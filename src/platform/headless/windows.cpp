@@ -133,6 +133,7 @@ bool EventSend(const Event& event) {
     Failure("events nest without end");
     return false;
   }
+  OverhearTell(event);
   ++nesting;
   Event told = event;
   told.context = window->context;

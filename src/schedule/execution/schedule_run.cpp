@@ -1,7 +1,6 @@
 #include "schedule/execution/schedule_run.h"
 
 #include "platform/memory.h"
-#include "schedule/table/table_scroll.h"
 #include "services/commands.h"
 
 SclRunState SclRun;
@@ -11,11 +10,6 @@ void SclDefaults() {
   SclRun.SclTableHours = kDay;
   for (SclHours& hours : SclRun.SclSubTableHours) hours = kDay;
   SclRun.SclLineCount = 31;
-}
-
-void SclTablesClear() {
-  SclTable.hSclTableWnd = nullptr;
-  SclTable.hPlanWnd = nullptr;
 }
 
 // There is no schedule model yet: none can be named, and none runs.

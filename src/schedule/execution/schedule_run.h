@@ -24,9 +24,6 @@ extern SclRunState SclRun;
 // Hours 8 to 18 and 31 lines, which files may overwrite.
 void SclDefaults();
 
-// Clears the handles of the tables: schedule, plan and their windows.
-void SclTablesClear();
-
 // Loads the schedule of the executing application, if one is named.
 void SclExecutionLoad();
 

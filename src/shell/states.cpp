@@ -1,0 +1,136 @@
+#include "shell/states.h"
+
+#include "character/alarm_images.h"
+#include "character/character.h"
+#include "character/character_tables.h"
+#include "character/frames.h"
+#include "character/motion.h"
+#include "character/notice_window.h"
+#include "character/options.h"
+#include "character/performance_figures.h"
+#include "character/stage.h"
+#include "character/walk.h"
+#include "clock_calendar/calendar/calendar.h"
+#include "clock_calendar/calendar/calendar_picture.h"
+#include "clock_calendar/clock/clock.h"
+#include "clock_calendar/clock/clock_notice.h"
+#include "clock_calendar/clock/performance.h"
+#include "clock_calendar/clock_calendar_tick.h"
+#include "filetools/back_up/back_up.h"
+#include "filetools/divide/file_divide.h"
+#include "filetools/open/open_choice.h"
+#include "filetools/open/open_groups.h"
+#include "filetools/open/open_history.h"
+#include "filetools/open/open_programs.h"
+#include "filetools/open/open_record.h"
+#include "filetools/open/open_search.h"
+#include "filetools/open/open_state.h"
+#include "filetools/scope/folder_scope.h"
+#include "filetools/scope/scope_pie.h"
+#include "filetools/stepped_work.h"
+#include "filetools/tidy/desktop_tidy.h"
+#include "mail_music/mail/mail.h"
+#include "mail_music/mail/mail_setting.h"
+#include "mail_music/music/music.h"
+#include "schedule/applications/application_list.h"
+#include "schedule/execution/schedule_run.h"
+#include "schedule/execution/scl_notice.h"
+#include "schedule/model/schedule.h"
+#include "schedule/table/table_scroll.h"
+#include "services/child_controls.h"
+#include "services/data_file.h"
+#include "services/dialog_family.h"
+#include "services/drawing_objects.h"
+#include "services/file_picker.h"
+#include "services/five_ticks.h"
+#include "services/path.h"
+#include "services/program.h"
+#include "services/random.h"
+#include "services/screen_figures.h"
+#include "services/state.h"
+#include "services/today.h"
+#include "services/work_blocks.h"
+#include "shell/command_line.h"
+#include "shell/file_dialog_defaults.h"
+#include "shell/file_watch.h"
+#include "shell/layout.h"
+#include "shell/main_window.h"
+#include "shell/old_data.h"
+#include "shell/panel.h"
+#include "shell/popups.h"
+#include "shell/settings.h"
+#include "shell/tick.h"
+#include "shell/tick_timer.h"
+#include "world/world_list.h"
+
+namespace {
+
+template <typename... State>
+void ResetAll(State&... states) {
+  (StateReset(states), ...);
+}
+
+void ServicesReset() {
+  ScopeBlockFree();
+  CastBlockFree();
+  DrawingObjectsDelete();
+  DialogsReset();
+  ResetAll(WorkBlocks, Drawing, Children, FileResult, FiveTicks, PathParts, Picker, Program, Screen, Today,
+           World);
+  RandomSeed(1);
+}
+
+void CharacterReset() {
+  for (int row = 0; row < kFrameRowCount; ++row) FramesFree(row);
+  for (AlarmRow& row : AlarmImages.AlarmRows) AlarmRowFree(&row);
+  OptionPreviewsFree();
+  AlarmCheckFree();
+  PerformanceFiguresFree();
+  ResetAll(Frames, AlarmImages, Character, CharaTables, Motion, NoticePlace, Stage, Walk);
+}
+
+void ClockCalendarReset() {
+  PerformanceEnd();
+  ClockPreviewFree();
+  CalenFontDelete();
+  CalenStickersFree();
+  ResetAll(Clock, ClockNotice, Timed, Performance, Calendar, CalendarPictures);
+  ClockAlarmCheckReset();
+  ClockAlarmForget();
+}
+
+void ScheduleReset() {
+  ApliListFree();
+  SclMapFree();
+  ResetAll(Applications, Notices, Schedule, SclRun, SclTable);
+}
+
+void FileToolsReset() {
+  ResetAll(BackUp, BackUpRun, FileDivide, GroupRun, OpnGroups, OpnHistory, OpnPendingGroup, OpnProgList,
+           OpnProgListBuilt, OpnRecord, OpnSearchResult, OpnSelection, OpnSelectionSave, OpnWork, Scope,
+           Stepped, Tidy);
+}
+
+void MailMusicReset() {
+  MailSocketsClose();
+  ResetAll(Mail, MailSetting);
+  MusicReset();
+}
+
+void ShellReset() {
+  OldDataFree();
+  ResetAll(FileDialogDefaults, Factory, Layout, MainWindow, OldFormat, Panel, Popups, ProgramLine, TickCounts,
+           TickTimer, Watch);
+}
+
+}  // namespace
+
+void StatesReset() {
+  ShellReset();
+  MailMusicReset();
+  FileToolsReset();
+  ScheduleReset();
+  ClockCalendarReset();
+  CharacterReset();
+  ServicesReset();
+}
