@@ -106,9 +106,13 @@ void ScheduleReset() {
 }
 
 void FileToolsReset() {
-  ResetAll(BackUp, BackUpRun, FileDivide, GroupRun, OpnGroups, OpnHistory, OpnPendingGroup, OpnProgList,
-           OpnProgListBuilt, OpnRecord, OpnSearchResult, OpnSelection, OpnSelectionSave, OpnWork, Scope,
-           Stepped, Tidy);
+  BackUpReset();
+  FileDivideReset();
+  ScopeReset();
+  SteppedReset();
+  TidyReset();
+  ResetAll(GroupRun, OpnGroups, OpnHistory, OpnPendingGroup, OpnProgList, OpnProgListBuilt, OpnRecord,
+           OpnSearchResult, OpnSelection, OpnSelectionSave, OpnWork);
 }
 
 void MailMusicReset() {
