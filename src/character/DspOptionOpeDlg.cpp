@@ -1,9 +1,9 @@
 // One motion of a main character, played as the stage would show it.
 
+#include "character/bored_frames.h"
 #include "character/character_tables.h"
-#include "character/frames.h"
-#include "character/motion.h"
 #include "character/options.h"
+#include "character/outline.h"
 #include "platform/canvas.h"
 #include "platform/window.h"
 #include "resources/character_ids.h"

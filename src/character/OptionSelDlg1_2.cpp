@@ -1,13 +1,13 @@
 // OptionSelDlg1_2: the choice of the main character.
 
-#include "character/chara_set.h"
+#include "character/chara_select.h"
 #include "character/character.h"
+#include "character/character_chosen.h"
 #include "character/character_commands.h"
 #include "character/character_tables.h"
 #include "character/frames.h"
 #include "character/options.h"
 #include "character/stage.h"
-#include "filetools/open/open_history.h"
 #include "platform/canvas.h"
 #include "platform/dialog.h"
 #include "platform/window.h"
@@ -76,14 +76,14 @@ void Fill(WindowHandle dialog) {
 }
 
 // The chosen character becomes the current one. Another one than before is loaded
-// onto the stage, saved, and hands its walk on to the opening of files.
+// onto the stage, saved, and told to the other features.
 void Take(WindowHandle dialog) {
   const int place = ListSelected(dialog, kList);
   OptionPreviewsFree();
   if (!IsListed(place) || !CharaSelect(place)) return;
   Stage.StageRedraw = kRedrawReload;
   changed = true;
-  if (Character.CharaSet.WalkRow[0] != 0) OpnHisTakeWalkSettings();
+  CharacterChosen();
 }
 
 // Until OK nothing but the previews has changed, so there is nothing to roll back.

@@ -3,9 +3,8 @@
 
 #include <algorithm>
 
-#include "character/walk.h"
+#include "character/walk_state.h"
 #include "character/walk_windows.h"
-#include "filetools/open/open_state.h"
 #include "platform/canvas.h"
 #include "platform/dialog.h"
 #include "platform/screen.h"
@@ -24,31 +23,23 @@ constexpr int kTextX = 10;
 constexpr int kSingleY = 20;
 constexpr int kGroupY = 4;
 constexpr int kLineStep = 18;
-constexpr int kGroupLineHeight = 20;
-
-bool IsGroup() {
-  return Walk.OpeningState == kOpeningGroup;
-}
+constexpr int kGroupLineHeight = 20;  // kept: a balloon counts 20 pixels for lines of 18
 
 int QuotedWidth(const char* name) {
-  const auto length = static_cast<int>(TextLength(name, kOpnTextSize)) + 2;
+  const auto length = static_cast<int>(TextLength(name, kBalloonNameSize)) + 2;
   return length * Screen.CharWidth + kTextMargin;
 }
 
 int BalloonWidth() {
   int width = kLeastWidth;
-  if (IsGroup()) {
-    for (int i = 0; i < OpnPendingCount(); ++i) width = std::max(width, QuotedWidth(OpnPendingName(i)));
-  } else {
-    width = std::max(width, QuotedWidth(OpnSelection.fileName));
-  }
+  for (int i = 0; i < Walk.Balloon.count; ++i) width = std::max(width, QuotedWidth(Walk.Balloon.names[i]));
   return std::min(width, kMostWidth);
 }
 
 int BalloonHeight() {
-  if (!IsGroup()) return kLeastHeight;
+  if (!Walk.Balloon.group) return kLeastHeight;
   return std::max(kLeastHeight,
-                  OpnPendingCount() * kGroupLineHeight + ScreenMetric(Metric::CaptionHeight) + kTextMargin);
+                  Walk.Balloon.count * kGroupLineHeight + ScreenMetric(Metric::CaptionHeight) + kTextMargin);
 }
 
 void Open(WindowHandle window) {
@@ -64,8 +55,8 @@ void Open(WindowHandle window) {
 }
 
 void DrawQuoted(Canvas* canvas, int y, const char* name) {
-  char quoted[kOpnTextSize + 3];
-  TextFormat(quoted, sizeof quoted, "\"%.*s\"", static_cast<int>(TextLength(name, kOpnTextSize)), name);
+  char quoted[kBalloonNameSize + 3];
+  TextFormat(quoted, sizeof quoted, "\"%.*s\"", static_cast<int>(TextLength(name, kBalloonNameSize)), name);
   CanvasText(canvas, kTextX, y, quoted);
 }
 
@@ -73,14 +64,8 @@ void Paint(WindowHandle window) {
   Canvas* canvas = CanvasGet(window);
   if (!canvas) return;
   CanvasBackTransparent(canvas, true);
-  int y = kSingleY;
-  if (IsGroup()) {
-    y = kGroupY;
-    for (int i = 0; i < OpnPendingCount(); ++i, y += kLineStep) DrawQuoted(canvas, y, OpnPendingName(i));
-  } else {
-    DrawQuoted(canvas, y, OpnSelection.fileName);
-    y += kLineStep;
-  }
+  int y = Walk.Balloon.group ? kGroupY : kSingleY;
+  for (int i = 0; i < Walk.Balloon.count; ++i, y += kLineStep) DrawQuoted(canvas, y, Walk.Balloon.names[i]);
   CanvasText(canvas, kTextX, y, " をオープン");
   CanvasRelease(canvas);
 }

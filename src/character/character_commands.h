@@ -6,7 +6,6 @@
 #include "services/commands.h"
 
 void CommandStageRedraw(Command command);           // 2293
-void CommandOpenWalk(Command command);              // 2004: walk, then open the file
 void CommandWalkWindow(Command command);            // 2203
 void CommandWalkEnd(Command command);               // 2208
 void CommandOptionMainCharacter(Command command);   // 2281

@@ -1,19 +1,19 @@
 // The end picture of a walk: FlyingBat1, standing where the walk stopped.
 
 #include "character/notices.h"
-#include "character/walk.h"
+#include "character/walk_state.h"
 #include "character/walk_windows.h"
-#include "mail_music/mail/mail.h"
 #include "platform/canvas.h"
 #include "platform/dialog.h"
 #include "platform/window.h"
 #include "resources/character_ids.h"
 #include "services/dib.h"
+#include "services/panel_entry.h"
 #include "services/program.h"
-#include "shell/panel.h"
 
 namespace {
 
+// kept: of the frames of a walk's end only the first is shown.
 int EndFrame(int slot) {
   return WalkFrameOf(Walk.WalkSlots[slot].endFrames[0]);
 }
@@ -42,9 +42,10 @@ void EndWindowsRun() {
   // Without its picture the end has no window.
   if (WalkPicture(Walk.WalkSlotNow, EndFrame(Walk.WalkSlotNow)))
     DialogOpen(IDD_FlyingBat1, Program.hMainWnd, EndWindowProc);
-  if (Mail.MailPhase != kMailWalking && Panel.FuncNo != kFuncMail) {
+  // kept: while the mail's settings are open, every walk ends with the mail notice.
+  if (Walk.MailPhase != kMailWalking && PanelFeature() != Feature::MailSettings) {
     DialogRun(IDD_FlyingBat1, Program.hMainWnd, BalloonProc);
-  } else if (!Mail.hMailNoticeWnd) {
+  } else {
     MailNoticeOpen();
   }
 }

@@ -8,8 +8,6 @@ FramesState Frames;
 
 namespace {
 
-char pathBuffer[kRootSize + 100];
-
 bool IsRow(int row) {
   return row >= 0 && row < kFrameRowCount;
 }
@@ -31,10 +29,11 @@ FrameFiles FrameFilesFind(int number) {
   FrameFiles files{};
   if (number < 0) return files;
   char head[24];
+  char pattern[kRootSize + 100];
   const int headLength = TextFormat(head, sizeof head, "Chara%d_", number + 1);
-  TextFormat(pathBuffer, sizeof pathBuffer, "%s\\キャラクタ\\%s*.bmp", Program.RootFolder, head);
+  TextFormat(pattern, sizeof pattern, "%s\\キャラクタ\\%s*.bmp", Program.RootFolder, head);
   SearchEntry entry;
-  const SearchHandle search = SearchFirst(pathBuffer, &entry);
+  const SearchHandle search = SearchFirst(pattern, &entry);
   for (bool found = search != kNoSearch; found; found = SearchNext(search, &entry)) {
     int frame = 0;
     bool mask = false;
@@ -66,21 +65,4 @@ void FramesFree(int row) {
     DibFree(picture);
     picture = nullptr;
   }
-}
-
-const char* CharaDwcPath(int number) {
-  TextFormat(pathBuffer, sizeof pathBuffer, "%s\\キャラクタ\\Chara%d.dwc", Program.RootFolder, number + 1);
-  return pathBuffer;
-}
-
-const char* CharaBmpPath(int number, int frame) {
-  TextFormat(pathBuffer, sizeof pathBuffer, "%s\\キャラクタ\\Chara%d_%d.bmp", Program.RootFolder, number + 1,
-             frame + 1);
-  return pathBuffer;
-}
-
-const char* CharaMaskPath(int number, int frame) {
-  TextFormat(pathBuffer, sizeof pathBuffer, "%s\\キャラクタ\\Chara%d_%dx.bmp", Program.RootFolder, number + 1,
-             frame + 1);
-  return pathBuffer;
 }

@@ -1,8 +1,7 @@
-// The pictures of the characters that are on the desktop, and the names of a
-// character's files in the folder "\キャラクタ".
+// The pictures of the characters that are on the desktop.
 #pragma once
 
-#include "character/outline.h"
+#include "character/chara_paths.h"
 #include "services/dib.h"
 
 // Row 0 holds the stage's character, row 1 + slot the character of a walking slot.
@@ -31,9 +30,3 @@ FrameFiles FrameFilesFind(int number);
 // file that is missing or no bitmap leaves its frame empty.
 void FramesLoad(int row, int number);
 void FramesFree(int row);
-
-// Names of a character's files: its number minus 1, a frame from 0. All three
-// write into one buffer, which the next call overwrites.
-const char* CharaDwcPath(int number);
-const char* CharaBmpPath(int number, int frame);
-const char* CharaMaskPath(int number, int frame);

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "character/bored_frames.h"
 #include "character/character.h"
 #include "character/frames.h"
 #include "character/selection_tables.h"
@@ -26,12 +27,6 @@ enum class Step {
   Redraw,   // the tick ends with a new frame
   GoOn,     // the tick goes on to its end
 };
-
-int CountFrames(const std::int32_t (&frames)[kBoredFrameCount]) {
-  int count = 0;
-  while (count < kBoredLenMax && frames[count] >= 0) ++count;
-  return count;
-}
 
 // Frame 0 is the idle frame and no blink; a frame with no picture is none either.
 bool BlinkIsUsable() {
@@ -195,8 +190,8 @@ void BoredTimerReset() {
 }
 
 void BoredFramesCount() {
-  Motion.BoredLen1 = CountFrames(Character.Bored1Frames);
-  Motion.BoredLen2 = CountFrames(Character.Bored2Frames);
+  Motion.BoredLen1 = BoredLength(Character.Bored1Frames);
+  Motion.BoredLen2 = BoredLength(Character.Bored2Frames);
 }
 
 void CharaMotionStep() {

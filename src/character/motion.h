@@ -13,9 +13,6 @@ inline constexpr std::int32_t kMotionBlink = 2;
 inline constexpr std::int32_t kMotionBored = 3;
 inline constexpr std::int32_t kMotionMenu = 4;
 
-// Frames of a bored pattern that are played; a fifth one is kept and never used.
-inline constexpr int kBoredLenMax = 4;
-
 struct MotionState {
   std::int32_t CharaMotion = 0;
   std::int32_t CharaStepCount = 0;  // ticks since the last step

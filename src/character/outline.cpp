@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "character/frames.h"
+#include "character/chara_paths.h"
 #include "services/record_file.h"
 #include "services/screen_figures.h"
 

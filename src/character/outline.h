@@ -4,9 +4,9 @@
 // bottom row of the frame's picture; the flips turn it into pixels of a window.
 #pragma once
 
+#include "character/chara_paths.h"
 #include "platform/types.h"
 
-inline constexpr int kFrameMax = 20;  // frames of a character
 inline constexpr int kOutlinePointMax = 1024;
 
 // A count of 0 means that the frame has no outline: its window is rectangular.

@@ -1,10 +1,10 @@
 #include "character/stage.h"
 
+#include "character/bored_frames.h"
 #include "character/chara_set.h"
 #include "character/character.h"
 #include "character/character_tables.h"
 #include "character/frames.h"
-#include "character/motion.h"
 #include "platform/canvas.h"
 #include "platform/screen.h"
 #include "platform/window.h"
@@ -59,11 +59,15 @@ void LoadMotionOutline(int frame, int slot) {
   OutlineFlipForStage(&Stage.StageOutlines[slot], DibHeight(picture));
 }
 
+void LoadPattern(const std::int32_t (&frames)[kBoredFrameCount], int slot) {
+  for (int i = 0; i < BoredLength(frames); ++i) LoadMotionOutline(frames[i], slot + i);
+}
+
 void LoadMotionOutlines() {
   if (Character.MenuFrame != 0) LoadMotionOutline(Character.MenuFrame, kOutlineMenu);
   if (Character.BlinkFrame != 0) LoadMotionOutline(Character.BlinkFrame, kOutlineBlink);
-  for (int i = 0; i < Motion.BoredLen1; ++i) LoadMotionOutline(Character.Bored1Frames[i], kOutlineBored1 + i);
-  for (int i = 0; i < Motion.BoredLen2; ++i) LoadMotionOutline(Character.Bored2Frames[i], kOutlineBored2 + i);
+  LoadPattern(Character.Bored1Frames, kOutlineBored1);
+  LoadPattern(Character.Bored2Frames, kOutlineBored2);
 }
 
 void DrawFrame(Canvas* canvas) {
@@ -112,33 +116,6 @@ int CharaLoadStage() {
   OutlineCopy(&Stage.StageOutlines[kOutlineIdle], Stage.CurrentOutline);
   LoadMotionOutlines();
   return 0;
-}
-
-void CharaTakeCurrent(int index) {
-  if (index < 0 || index >= kMainCharaMax) return;  // bounded: the list ends there
-  const MainChara& from = CharaTables.MainCharas[index];
-  Character.MenuFrame = from.menuFrame;
-  Character.BlinkFrame = from.blinkFrame;
-  for (int i = 0; i < kBoredFrameCount; ++i) {
-    Character.Bored1Frames[i] = from.bored1Frames[i];
-    Character.Bored2Frames[i] = from.bored2Frames[i];
-  }
-  Character.BoredDelaySel = from.boredDelaySel;
-  Character.BoredSpeedSel = from.boredSpeedSel;
-  Character.BoredRepeatSel = from.boredRepeatSel;
-  Character.BlinkSpeedSel = from.blinkSpeedSel;
-  BoredFramesCount();
-  BoredTimerReset();
-}
-
-bool CharaSelect(int index) {
-  if (index < 0 || index >= kMainCharaMax) return false;
-  const int before = Character.CharaSet.CharaNo;
-  Character.CharaIndex = index;
-  CharaTakeCurrent(index);
-  Character.CharaSet = CharaTables.MainCharas[index].charaSet;
-  Character.CharaSet.CharaNo = static_cast<std::uint16_t>(index + 1);
-  return before != index + 1;
 }
 
 void StageShowFrame(int frame, int slot) {

@@ -39,14 +39,6 @@ extern StageState Stage;
 // leaves the size as it is. The window itself is not touched.
 int CharaLoadStage();
 
-// Copies the settings of the main character at `index` (0 to 49) of the list to
-// the current ones, counts the bored frames and loads the idle timer.
-void CharaTakeCurrent(int index);
-
-// Makes the main character at `index` the current one with its whole record.
-// Returns true when that is another number than before.
-bool CharaSelect(int index);
-
 // Puts a frame (from 0) with the outline of a slot on the stage; StageRedraw then
 // tells what command 2293 has to do.
 void StageShowFrame(int frame, int slot);

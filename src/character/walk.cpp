@@ -7,23 +7,13 @@
 #include "character/character_tables.h"
 #include "character/frames.h"
 #include "character/walk_windows.h"
-#include "filetools/open/open_state.h"
-#include "mail_music/mail/mail.h"
-#include "mail_music/mail/mail_setting.h"
-#include "platform/canvas.h"
 #include "platform/window.h"
 #include "services/commands.h"
-#include "services/program.h"
 #include "services/screen_figures.h"
 #include "services/sound_file.h"
-
-WalkState Walk;
+#include "services/state.h"
 
 namespace {
-
-constexpr int kMailFlagsCleared = 10;
-
-bool abortAll;
 
 bool IsSlot(int slot) {
   return slot >= 0 && slot < kWalkSlotMax;
@@ -32,17 +22,6 @@ bool IsSlot(int slot) {
 int FramesInUse(const std::uint8_t (&frames)[kWalkListMax]) {
   return static_cast<int>(
       std::count_if(frames, frames + kWalkListMax, [](std::uint8_t frame) { return frame != 0; }));
-}
-
-// The slot of a mail: the first one with the walking character that an opening
-// would send. -1 when there is none.
-int MailSlot() {
-  if (!IsSlot(Character.CharaIndex)) return -1;
-  for (int slot = 0; slot <= Character.CharaIndex; ++slot) {
-    if (CharaTables.WalkCharas[slot].number == CharaTables.WalkCharas[Character.CharaIndex].number)
-      return slot;
-  }
-  return -1;
 }
 
 // The walk of the current character. -1: it has no walking row.
@@ -70,23 +49,24 @@ int SlotSetUp(WalkSlot& s) {
   return 0;
 }
 
-int WalkStart(int slot, int flagsCleared) {
+// kept: a walk that gives way to another one leaves its window until that is closed.
+bool SlotStart(int slot, int flagsCleared) {
   const bool loaded = WalkCharaLoad(slot) == 0;
   for (int i = 0; i < flagsCleared; ++i) Walk.WalkSlots[i].active = false;
   Walk.WalkActive = loaded && SlotSetUp(Walk.WalkSlots[slot]) == 0;
-  if (!Walk.WalkActive) return -1;
-  Walk.WalkSlots[slot].active = true;
-  return 0;
+  if (Walk.WalkActive) Walk.WalkSlots[slot].active = true;
+  return Walk.WalkActive;
 }
 
 // One step along an axis: not below 0, and then not with its far edge beyond the
 // screen.
-// kept: a picture that is larger than the screen ends up at a place below 0.
+// kept: a walking picture that is larger than the screen ends up at a place below 0.
 std::int32_t StepAlong(std::int32_t place, std::int32_t step, int size, int screen) {
   const std::int64_t next = std::max<std::int64_t>(std::int64_t{place} + step, 0);
   return static_cast<std::int32_t>(std::min<std::int64_t>(next, screen - size));
 }
 
+// kept: the first frame's picture holds the walk on the screen, whatever frame shows.
 void WalkStepOn(int slot) {
   WalkSlot& s = Walk.WalkSlots[slot];
   ImageHandle picture = WalkPicture(slot, WalkFrameOf(s.frames[0]));
@@ -111,7 +91,7 @@ void WalkFinish(int slot) {
   SendClose(s.walkWindow);
   TrailWindowsClose();
   s.active = false;
-  if (abortAll) return;
+  if (Walk.WalkAborts) return;
   Walk.WalkActive = false;
   Walk.WalkEndActive = true;
   s.ending = true;
@@ -120,11 +100,35 @@ void WalkFinish(int slot) {
   CommandSend(Command::WalkEnd);  // returns when the end phase is over
 }
 
+// What the walk was for goes on now.
+// kept: while the mail notice of a walk stands, a file's walk opens nothing at its end.
+void OpeningEnd() {
+  const bool goesOn = Walk.OpeningState == kOpeningFile && Walk.MailPhase != kMailWalking;
+  Walk.OpeningState = 0;
+  if (goesOn && Walk.AtEnd != Command::None) CommandSend(Walk.AtEnd);
+}
+
 }  // namespace
+
+int WalkStart(const WalkRequest& request) {
+  if (request.settings.soundOn) SoundFilePlay(request.settings.soundName);
+  if (!request.settings.animeOn || !SlotStart(request.slot, request.flagsCleared)) {
+    Walk.OpeningState = 0;
+    return -1;
+  }
+  Walk.OpeningState = request.opening;
+  Walk.AtEnd = request.atEnd;
+  Walk.Balloon = request.balloon;
+  return 0;
+}
+
+void WalkMailPhaseSet(std::int32_t phase) {
+  Walk.MailPhase = phase;
+}
 
 int WalkCharaLoad(int slot) {
   if (slot < 0) return -9;
-  // bounded: beyond the list there is no character.
+  // bounded: a slot beyond the list of walking characters has none.
   if (!IsSlot(slot) || CharaTables.WalkCharas[slot].number == 0) return -10;
   const int number = CharaTables.WalkCharas[slot].number - 1;
   OutlineReadAll(number, Walk.WalkOutlines);
@@ -133,19 +137,6 @@ int WalkCharaLoad(int slot) {
     OutlineFlipForWalker(&Walk.WalkOutlines[frame], DibHeight(WalkPicture(slot, frame)));
   }
   return 0;
-}
-
-// kept: the slot is the place of the main character in its own list.
-int WalkStartOpen() {
-  if (OpnHistory.soundOn) SoundFilePlay(OpnHistory.soundName);
-  return OpnHistory.animeOn ? WalkStart(Character.CharaIndex, kWalkSlotMax) : -1;
-}
-
-// kept: only the first ten active flags are cleared, so a walk of a later slot goes
-// on beside the mail's.
-int WalkStartMail() {
-  if (MailSetting.soundOn) SoundFilePlay(MailSetting.soundName);
-  return MailSetting.animeOn ? WalkStart(MailSlot(), kMailFlagsCleared) : -1;
 }
 
 void WalkTick(int slot) {
@@ -161,6 +152,7 @@ void WalkTick(int slot) {
     return;
   }
   --s.WalkLeft;
+  // kept: a walk goes on at the pace of the character that is the current one by then.
   s.WalkWait = Character.CharaSet.WalkPeriod[0];
   WalkStepOn(slot);
   WalkShow(slot);
@@ -171,15 +163,12 @@ void WalkEndTick(int slot) {
   WalkSlot& s = Walk.WalkSlots[slot];
   if (s.endWait != 0) --s.endWait;
   if (s.endWait != 0) return;
-  if (Mail.MailPhase == kMailWalking) Walk.OpeningState = 0;
   SendClose(s.endWindow);
   SendClose(s.balloonWindow);
   s.ending = false;
   Walk.WalkEndActive = std::any_of(Walk.WalkSlots, Walk.WalkSlots + kWalkSlotMax,
                                    [](const WalkSlot& other) { return other.ending; });
-  const bool opens = Walk.OpeningState == kOpeningFile;
-  Walk.OpeningState = 0;
-  if (opens) CommandSend(Command::OpenLaunch);
+  OpeningEnd();
 }
 
 // The common flag counts for the whole round: a walk that ends in it leaves the
@@ -199,7 +188,7 @@ void WalkEndTickAll() {
 }
 
 void WalkAbort() {
-  abortAll = true;
+  Walk.WalkAborts = true;
   for (int slot = 0; slot < kWalkSlotMax; ++slot) {
     if (!Walk.WalkSlots[slot].active) continue;
     Walk.WalkSlots[slot].WalkLeft = 0;
@@ -213,32 +202,10 @@ void WalkAbort() {
     Walk.WalkSlots[slot].endWait = 0;
     WalkEndTick(slot);
   }
-  abortAll = false;
-}
-
-unsigned WalkFlagsNow() {
-  const int row = Character.CharaSet.WalkRow[0];
-  return row >= 1 && row <= kWalkCharaMax ? CharaTables.WalkFlags[row - 1] : 0;  // bounded: rows end there
-}
-
-int WalkFrameOf(std::uint8_t entry) {
-  return entry == 0 ? 0 : entry - 1;
-}
-
-ImageHandle WalkPicture(int slot, int frame) {
-  return FramePicture(slot + 1, frame);
-}
-
-RegionHandle WalkRegion(int frame) {
-  if (frame < 0 || frame >= kFrameMax) return nullptr;  // bounded: a list may name any frame
-  return RegionPolygon(Walk.WalkOutlines[frame].points, Walk.WalkOutlines[frame].count);
-}
-
-void WalkForOpening() {
-  Walk.OpeningState = kOpeningFile;
-  if (WalkStartOpen() == 0) return;
-  Walk.OpeningState = 0;
-  CommandSend(Command::OpenLaunch);
+  Walk.WalkAborts = false;
+  // settled: a walk that is cut short has no end phase, but the file that waited for it
+  // is opened.
+  OpeningEnd();
 }
 
 int WalkDue() {

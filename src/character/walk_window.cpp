@@ -5,7 +5,7 @@
 #include <cstdint>
 
 #include "character/character_tables.h"
-#include "character/walk.h"
+#include "character/walk_state.h"
 #include "character/walk_windows.h"
 #include "platform/canvas.h"
 #include "platform/dialog.h"
@@ -22,13 +22,6 @@ constexpr int kShakeBound = 50;
 constexpr int kSliceWithoutPicture = 100;
 constexpr int kSlicesWithoutWait = 3;
 
-WindowHandle trail[kTrailMax];
-std::int32_t trailCount;
-
-// The wipe: how many slices of the picture show, and their width.
-std::int64_t wipeCount;
-int wipeSlice;
-
 bool Flag(unsigned flag) {
   return (WalkFlagsNow() & flag) != 0;
 }
@@ -37,6 +30,7 @@ int FrameNow(int slot) {
   return WalkFrameOf(Walk.WalkSlots[slot].frames[Walk.WalkSlots[slot].place]);
 }
 
+// kept: a wipe has as many slices as the end picture stays ticks.
 int WipeSliceOf(int slot) {
   ImageHandle picture = WalkPicture(slot, FrameNow(slot));
   if (!picture) return kSliceWithoutPicture;
@@ -60,7 +54,7 @@ void Place(WindowHandle window, int slot, bool moves) {
   }
   WindowMove(window, Walk.WalkLastX, Walk.WalkLastY, width, height, moves);
   if (!moves) return;
-  if (Flag(kWalkWipe)) ++wipeCount;
+  if (Flag(kWalkWipe)) ++Walk.WipeCount;
   if (!shaped) SendPaint(window);
 }
 
@@ -69,7 +63,7 @@ void Paint(WindowHandle window, int slot) {
   Canvas* canvas = CanvasGet(window);
   if (!canvas) return;
   const int width = DibWidth(picture);
-  const std::int64_t shown = wipeCount * wipeSlice;
+  const std::int64_t shown = Walk.WipeCount * Walk.WipeSlice;
   if (Flag(kWalkWipe) && shown < width) {
     CanvasClip(canvas, {width - static_cast<int>(shown), 0, width, DibHeight(picture)});
   }
@@ -78,8 +72,8 @@ void Paint(WindowHandle window, int slot) {
 }
 
 void Open(WindowHandle window, int slot) {
-  wipeCount = 1;
-  if (Flag(kWalkWipe)) wipeSlice = WipeSliceOf(slot);
+  Walk.WipeCount = 1;
+  if (Flag(kWalkWipe)) Walk.WipeSlice = WipeSliceOf(slot);
   Place(window, slot, false);
 }
 
@@ -131,22 +125,23 @@ bool TrailWindowProc(const Event& event) {
     return true;
   }
   if (event.kind == EventKind::Destroy) {
-    trailCount = static_cast<std::int32_t>(std::remove(trail, trail + trailCount, event.window) - trail);
+    Walk.TrailCount = static_cast<std::int32_t>(
+        std::remove(Walk.Trail, Walk.Trail + Walk.TrailCount, event.window) - Walk.Trail);
     return true;
   }
   return Proc(event, Walk.WalkSlotNow);
 }
 
 void TrailWindowOpen() {
-  if (trailCount >= kTrailMax) return;  // bounded: a walk has no more steps
+  if (Walk.TrailCount >= kTrailMax) return;  // bounded: a walk has at most as many trail windows as steps
   const WindowHandle window = DialogOpen(IDD_FlyingBat1, Program.hMainWnd, TrailWindowProc);
   if (!window) return;
-  trail[trailCount++] = window;
+  Walk.Trail[Walk.TrailCount++] = window;
   CommandSendTo(window, Command::NextStep);
 }
 
 // kept: what an abandoned walk has left of its trail goes when the next walk opens its
 // first window.
 void TrailWindowsClose() {
-  while (trailCount > 0) SendClose(trail[--trailCount]);
+  while (Walk.TrailCount > 0) SendClose(Walk.Trail[--Walk.TrailCount]);
 }

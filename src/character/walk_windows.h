@@ -1,7 +1,7 @@
 // The windows of a walk, all made from FlyingBat1.
 #pragma once
 
-#include "character/walk.h"
+#include "character/walk_state.h"
 #include "platform/event.h"
 
 // The size of a window whose frame has no picture.

@@ -26,5 +26,11 @@
 #define IDC_ALARM_CHECK_MAIL 2289
 #define IDC_ALARM_CHECK_SCHEDULE 2290
 #define IDC_ALARM_CHECK_CLOCK 2291
+/* Of SetOpnFileAnimeDlg and SetMailAnimeDlg. */
+#define IDC_WALK_ANIME 113
+#define IDC_WALK_SOUND 114
+#define IDC_WALK_CHARA 115
+#define IDC_WALK_SOUND_FILE 116
+#define IDC_WALK_CHECK 2201
 
 #endif

@@ -26,10 +26,6 @@
 #define IDC_OPN_NAME 110
 #define IDC_OPN_FOLDER 111
 #define IDC_OPN_PROGRAM_NAME 112
-#define IDC_OPN_ANIME 113
-#define IDC_OPN_SOUND 114
-#define IDC_OPN_CHARA 115
-#define IDC_OPN_SOUND_FILE 116
 #define IDC_OPN_TAKE_GROUP 120
 #define IDC_OPN_RECORD_TO_GROUP 121
 #define IDC_OPN_SHOW_RECORD 122
@@ -47,7 +43,6 @@
 #define IDC_OPN_ADD_FILE 2002 /* these send the command of their number */
 #define IDC_OPN_ADD_PROGRAM 2003
 #define IDC_OPN_GROUP_SET 2008
-#define IDC_OPN_CHECK 2201
 #define IDD_FileBackUpSetDlg 3520
 #define IDD_FileBackUpDirDlg 3521
 #define IDD_BackUpDlg 3522

@@ -1,6 +1,6 @@
 #include "services/data_file.h"
 
-#include "services/big_endian.h"
+#include "services/record.h"
 
 FileResultState FileResult;
 
@@ -50,22 +50,49 @@ bool DataReadByte(DataFile& data, std::uint8_t& to) {
   return DataRead(data, &to, 1);
 }
 
-bool DataReadBE16(DataFile& data, std::uint16_t& to) {
-  unsigned char raw[2];
-  if (DataRead(data, raw, sizeof raw)) to = GetBE16(raw);
+namespace {
+
+// A number by itself is a record of one field.
+template <class T, int Width>
+struct One {
+  T value;
+};
+template <class Io, class T, int Width>
+constexpr void Fields(Io& io, One<T, Width>& one) {
+  if constexpr (Width == 2) {
+    io.BE16(one.value);
+  } else {
+    io.BE32(one.value);
+  }
+}
+
+template <int Width, class T>
+bool ReadNumber(DataFile& data, T& to) {
+  unsigned char raw[Width];
+  One<T, Width> one{to};
+  if (DataRead(data, raw, Width) && RecordTake(one, raw, Width)) to = one.value;
   return !data.failed;
+}
+
+template <int Width, class T>
+bool WriteNumber(DataFile& data, T value) {
+  unsigned char raw[Width] = {};
+  RecordPut(One<T, Width>{value}, raw, Width);
+  return DataWrite(data, raw, Width);
+}
+
+}  // namespace
+
+bool DataReadBE16(DataFile& data, std::uint16_t& to) {
+  return ReadNumber<2>(data, to);
 }
 
 bool DataReadBE32(DataFile& data, std::uint32_t& to) {
-  unsigned char raw[4];
-  if (DataRead(data, raw, sizeof raw)) to = GetBE32(raw);
-  return !data.failed;
+  return ReadNumber<4>(data, to);
 }
 
 bool DataReadBE32(DataFile& data, std::int32_t& to) {
-  std::uint32_t value = 0;
-  if (DataReadBE32(data, value)) to = static_cast<std::int32_t>(value);
-  return !data.failed;
+  return ReadNumber<4>(data, to);
 }
 
 bool DataWrite(DataFile& data, const void* from, int size) {
@@ -78,13 +105,9 @@ bool DataWriteByte(DataFile& data, std::uint8_t value) {
 }
 
 bool DataWriteBE16(DataFile& data, std::uint16_t value) {
-  unsigned char raw[2];
-  PutBE16(raw, value);
-  return DataWrite(data, raw, sizeof raw);
+  return WriteNumber<2>(data, value);
 }
 
 bool DataWriteBE32(DataFile& data, std::uint32_t value) {
-  unsigned char raw[4];
-  PutBE32(raw, value);
-  return DataWrite(data, raw, sizeof raw);
+  return WriteNumber<4>(data, value);
 }

@@ -5,28 +5,110 @@
 
 #include "platform/file.h"
 #include "platform/memory.h"
-#include "services/big_endian.h"
+#include "services/record.h"
 
-// The file header, 14 bytes, little-endian; it is not kept:
-//   0  2  19778, the letters "BM"
-//   2  4  size of the file
-//   6  8  not used
+// The file header, which is not kept:
 //
-// The block that is kept begins with one of two headers.
-//   core, header size 12:        others, header size 16 or more:
-//   0  4  header size            0  4  header size
-//   4  2  width                  4  4  width
-//   6  2  height                 8  4  height, negative: first row on top
-//   8  2  planes                12  2  planes
-//  10  2  bits a pixel          14  2  bits a pixel
-//                               16  4  compression, 0 for none
-//                               32  4  number of colours, 0: as many as the bits tell
-// Then the colour table, 3 bytes a colour in the core format, else 4; then the
-// rows, each filled up to 4 bytes.
+// offset  size  field
+//      0     2  19778, the letters "BM"
+//      2     4  size of the file
+//      6     8  not used
+//
+// The block that is kept begins with one of two headers. Then the colour table, 3 bytes
+// a colour in the core format, else 4; then the rows, each filled up to 4 bytes.
 
 namespace {
 
-constexpr int kFileHeaderSize = 14;
+struct FileHeader {
+  std::uint16_t magic;
+  std::uint32_t size;
+};
+template <class Io>
+constexpr void Fields(Io& io, FileHeader& header) {
+  io.LE16(header.magic);
+  io.LE32(header.size);
+  io.At(14);
+}
+constexpr int kFileHeaderSize = RecordSize<FileHeader>();
+
+// The core header, of header size 12.
+//
+// offset  size  field
+//      0     4  header size
+//      4     2  width
+//      6     2  height
+//      8     2  planes
+//     10     2  bits a pixel
+struct CoreHeader {
+  std::uint32_t headerSize;
+  std::uint16_t width;
+  std::uint16_t height;
+  std::uint16_t bits;
+};
+template <class Io>
+constexpr void Fields(Io& io, CoreHeader& header) {
+  io.LE32(header.headerSize);
+  io.LE16(header.width);
+  io.LE16(header.height);
+  io.At(10);
+  io.LE16(header.bits);
+}
+
+// The others, of header size 16 and more; one of less than 36 has not all of the fields.
+//
+// offset  size  field
+//      0     4  header size
+//      4     4  width
+//      8     4  height, negative: first row on top
+//     12     2  planes
+//     14     2  bits a pixel
+//     16     4  compression, 0 for none
+//     32     4  number of colours, 0: as many as the bits tell
+struct InfoHeader {
+  std::uint32_t headerSize;
+  std::int32_t width;
+  std::int32_t height;
+  std::uint16_t bits;
+  std::uint32_t compression;
+  std::uint32_t colours;
+};
+template <class Io>
+constexpr void Fields(Io& io, InfoHeader& header) {
+  io.LE32(header.headerSize);
+  io.LE32(header.width);
+  io.LE32(header.height);
+  io.At(14);
+  io.LE16(header.bits);
+  io.LE32(header.compression);
+  io.At(32);
+  io.LE32(header.colours);
+}
+constexpr std::uint32_t kUpToCompression = RecordOffset<&InfoHeader::compression>() + 4;
+constexpr std::uint32_t kUpToColours = RecordSize<InfoHeader>();
+
+// The 16 bits in which both kinds of header have a picture's size.
+struct Figures {
+  std::uint16_t width;
+  std::uint16_t coreHeight;
+  std::uint16_t height;
+};
+template <class Io>
+constexpr void Fields(Io& io, Figures& figures) {
+  io.At(4);
+  io.LE16(figures.width);
+  io.LE16(figures.coreHeight);
+  io.LE16(figures.height);
+}
+constexpr std::size_t kFiguresSize = RecordSize<Figures>();
+
+// A header as far as the block holds it; what is behind the block's end is 0.
+template <class Header>
+Header HeaderOf(ImageHandle image) {
+  Header header{};
+  RecordTake(header, image, static_cast<int>(std::min<std::size_t>(MemorySize(image), 1024)));
+  return header;
+}
+
 constexpr std::uint16_t kMagic = 19778;
 constexpr int kReadPiece = 32768;
 constexpr std::uint32_t kCoreSize = 12;
@@ -51,17 +133,18 @@ bool ReadBlock(int file, unsigned char* block, std::uint32_t size) {
 }
 
 ImageHandle LoadFrom(int file) {
-  unsigned char header[kFileHeaderSize];
-  if (FileRead(file, header, kFileHeaderSize) != kFileHeaderSize) return nullptr;
-  if (GetLE16(header) != kMagic) return nullptr;
-  const std::uint32_t fileSize = GetLE32(header + 2);
+  unsigned char bytes[kFileHeaderSize];
+  FileHeader header{};
+  if (FileRead(file, bytes, kFileHeaderSize) != kFileHeaderSize) return nullptr;
+  if (!RecordTake(header, bytes, kFileHeaderSize) || header.magic != kMagic) return nullptr;
+  const std::uint32_t fileSize = header.size;
   // bounded: a block too small for its first word is no picture.
   if (fileSize < kFileHeaderSize + 4 || !FileHolds(file, fileSize)) return nullptr;
   const std::uint32_t size = fileSize - kFileHeaderSize;
   auto* block = static_cast<unsigned char*>(MemoryAllocate(size));
   if (!block) return nullptr;
   const bool read = ReadBlock(file, block, size);
-  const std::uint32_t headerSize = GetLE32(block);
+  const std::uint32_t headerSize = HeaderOf<CoreHeader>(block).headerSize;
   if (!read || (headerSize != kCoreSize && headerSize < kSmallestSize)) {
     MemoryFree(block);
     return nullptr;
@@ -70,7 +153,7 @@ ImageHandle LoadFrom(int file) {
 }
 
 bool IsCore(ImageHandle image) {
-  return GetLE32(image) == kCoreSize;
+  return HeaderOf<CoreHeader>(image).headerSize == kCoreSize;
 }
 
 // Where the parts of a picture lie. All of it is inside the block.
@@ -87,24 +170,26 @@ struct Layout {
 bool LayoutOf(ImageHandle image, Layout* layout) {
   const std::uint64_t size = MemorySize(image);
   if (size < kCoreSize) return false;
-  const bool core = IsCore(image);
-  const std::uint64_t headerSize = GetLE32(image);
+  const auto coreHeader = HeaderOf<CoreHeader>(image);
+  const auto header = HeaderOf<InfoHeader>(image);
+  const std::uint64_t headerSize = coreHeader.headerSize;
+  const bool core = headerSize == kCoreSize;
   if (size < headerSize || (!core && headerSize < kSmallestSize)) return false;
 
-  const std::int64_t width = core ? GetLE16(image + 4) : static_cast<std::int32_t>(GetLE32(image + 4));
-  std::int64_t height = core ? GetLE16(image + 6) : static_cast<std::int32_t>(GetLE32(image + 8));
+  const std::int64_t width = core ? coreHeader.width : header.width;
+  std::int64_t height = core ? coreHeader.height : header.height;
   if (height < 0) height = -height;
   if (width <= 0 || height == 0) return false;
 
-  const unsigned bits = GetLE16(image + (core ? 10 : 14));
+  const unsigned bits = core ? coreHeader.bits : header.bits;
   if (bits != 1 && bits != 4 && bits != 8 && bits != 16 && bits != 24 && bits != 32) return false;
-  if (headerSize >= 20 && GetLE32(image + 16) != 0) return false;
+  if (headerSize >= kUpToCompression && header.compression != 0) return false;
 
   // kept: 16 and 32 bits count a colour table too, which such files do not have.
   // Their rows then end behind the block, and they draw nothing unless the header
   // names the number of colours.
   std::uint64_t colours = bits == 24 ? 0 : std::uint64_t{1} << bits;
-  if (headerSize >= 36 && GetLE32(image + 32) != 0) colours = GetLE32(image + 32);
+  if (headerSize >= kUpToColours && header.colours != 0) colours = header.colours;
 
   constexpr std::uint64_t kMostIndexed = 256;
   if (bits <= 8 && colours > kMostIndexed) return false;
@@ -119,7 +204,7 @@ bool LayoutOf(ImageHandle image, Layout* layout) {
 
 // Headers between the two usual sizes have rows, but no window system draws them.
 bool CanBeDrawn(ImageHandle image, Layout* layout) {
-  return LayoutOf(image, layout) && (IsCore(image) || GetLE32(image) >= kDrawnSize);
+  return LayoutOf(image, layout) && (IsCore(image) || HeaderOf<InfoHeader>(image).headerSize >= kDrawnSize);
 }
 
 bool Masked(const unsigned char* pixel) {
@@ -148,13 +233,14 @@ void DibFree(ImageHandle image) {
 }
 
 int DibWidth(ImageHandle image) {
-  return MemorySize(image) >= 6 ? GetLE16(image + 4) : 0;
+  return HeaderOf<Figures>(image).width;
 }
 
 // kept: the low 16 bits count, of a negative height too.
 int DibHeight(ImageHandle image) {
-  if (MemorySize(image) < 10) return 0;
-  return GetLE16(image + (IsCore(image) ? 6 : 8));
+  if (MemorySize(image) < kFiguresSize) return 0;
+  const auto figures = HeaderOf<Figures>(image);
+  return IsCore(image) ? figures.coreHeight : figures.height;
 }
 
 unsigned char* DibBits(ImageHandle image) {

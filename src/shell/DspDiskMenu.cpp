@@ -288,10 +288,6 @@ void PanelDismiss() {
   PanelWindowClose();
 }
 
-bool PanelIsOpen() {
-  return Panel.hDiskMenu != nullptr;
-}
-
 void PanelEntryBegin(Feature feature) {
   PanelWindowClose();
   Panel.FuncNo = static_cast<std::int32_t>(feature);
@@ -313,6 +309,10 @@ void PanelStateClear() {
 
 Feature PanelFeature() {
   return static_cast<Feature>(Panel.FuncNo);
+}
+
+bool PanelIsOpen() {
+  return Panel.hDiskMenu != nullptr;
 }
 
 void PanelPointerOnStage(const Event& event) {

@@ -2,9 +2,8 @@
 
 #include "character/motion.h"
 #include "character/stage.h"
-#include "character/walk.h"
+#include "character/walk_state.h"
 #include "filetools/stepped_work.h"
-#include "mail_music/mail/mail.h"
 #include "platform/diagnostics.h"
 #include "services/five_ticks.h"
 #include "shell/file_watch.h"
@@ -21,7 +20,7 @@ void DiagnosticsShowAll() {
   DiagnosticsShow(kShowFileWatchCount, &Watch.FileWatchCount);
   DiagnosticsShow(kShowOpeningState, &Walk.OpeningState);
   DiagnosticsShow(kShowFrameDivider, &FiveTicks.FrameDivider);
-  DiagnosticsShow(kShowMailPhase, &Mail.MailPhase);
+  DiagnosticsShow(kShowMailPhase, &Walk.MailPhase);
   DiagnosticsShow(kShowProgressMode, &Stepped.progressMode);
   DiagnosticsShow(kShowStepCounter, &Stepped.stepCounter);
   DiagnosticsShow(kShowFuncNo, &Panel.FuncNo);

@@ -5,13 +5,14 @@
 #include <iterator>
 
 #include "character/alarm_images.h"
+#include "character/chara_select.h"
 #include "character/character.h"
+#include "character/character_chosen.h"
 #include "character/character_file.h"
 #include "character/options.h"
 #include "character/stage.h"
 #include "clock_calendar/calendar/calendar.h"
 #include "clock_calendar/clock/clock.h"
-#include "filetools/open/open_history.h"
 #include "platform/dialog.h"
 #include "platform/file.h"
 #include "platform/window.h"
@@ -105,7 +106,7 @@ void CharacterAnswer() {
   if (!Watch.characterReload) return;
   Watch.characterReload = false;
   OptionPreviewsFree();
-  if (CharaSelect(Character.CharaIndex)) OpnHisTakeWalkSettings();
+  if (CharaSelect(Character.CharaIndex)) CharacterChosen();
   Stage.StageRedraw = kRedrawReload;
   CommandSend(Command::StageRedraw);
 }

@@ -1,6 +1,7 @@
 #include "shell/start.h"
 
 #include "character/alarm_images.h"
+#include "character/chara_select.h"
 #include "character/character.h"
 #include "character/character_file.h"
 #include "character/stage.h"

@@ -18,13 +18,14 @@
 #include "clock_calendar/clock_calendar_tick.h"
 #include "filetools/back_up/back_up.h"
 #include "filetools/divide/file_divide.h"
+#include "filetools/open/group_open.h"
 #include "filetools/open/open_choice.h"
 #include "filetools/open/open_groups.h"
 #include "filetools/open/open_history.h"
 #include "filetools/open/open_programs.h"
 #include "filetools/open/open_record.h"
 #include "filetools/open/open_search.h"
-#include "filetools/open/open_state.h"
+#include "filetools/open/open_selection.h"
 #include "filetools/scope/folder_scope.h"
 #include "filetools/scope/scope_pie.h"
 #include "filetools/stepped_work.h"
@@ -110,9 +111,8 @@ void FileToolsReset() {
   FileDivideReset();
   ScopeReset();
   SteppedReset();
-  TidyReset();
-  ResetAll(GroupRun, OpnGroups, OpnHistory, OpnPendingGroup, OpnProgList, OpnProgListBuilt, OpnRecord,
-           OpnSearchResult, OpnSelection, OpnSelectionSave, OpnWork);
+  ResetAll(GroupRun, OpnGroups, OpnHistory, OpnProgList, OpnRecord, OpnSearchResult, OpnSelection,
+           OpnSelectionSave, OpnWork, Tidy);
 }
 
 void MailMusicReset() {

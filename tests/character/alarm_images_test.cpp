@@ -198,10 +198,9 @@ TEST_F(AlarmTest, WithoutMemoryTheBoxIsDrawnStraightAndNothingLeavesIt) {
 
 TEST_F(AlarmTest, AMailWithNeitherSoundNorAnimationShowsTheNoticeAloneAtTheCorner) {
   Mail.MailNoticeFlag = 1;
-  Walk.OpeningState = 1;
   MailNoticeStart();
   EXPECT_EQ(Mail.MailNoticeFlag, 0);
-  EXPECT_EQ(Mail.MailPhase, 3);
+  EXPECT_EQ(Walk.MailPhase, 3);
   EXPECT_EQ(Walk.OpeningState, 0);
   ASSERT_NE(Mail.hMailNoticeWnd, nullptr);
   EXPECT_EQ(WindowRect(Mail.hMailNoticeWnd).left, 0);
@@ -215,13 +214,13 @@ TEST_F(AlarmTest, AMailWithNeitherSoundNorAnimationShowsTheNoticeAloneAtTheCorne
   EXPECT_EQ(Mail.hMailNoticeWnd, first);
   SendClose(Mail.hMailNoticeWnd);
   EXPECT_EQ(Mail.hMailNoticeWnd, nullptr);
-  EXPECT_EQ(Mail.MailPhase, 0);
+  EXPECT_EQ(Walk.MailPhase, 0);
 }
 
 TEST_F(AlarmTest, AMailWithAWalkerWaitsForItsEnd) {
   MailSetting.animeOn = 1;
   MailNoticeStart();
-  EXPECT_EQ(Mail.MailPhase, 2);
+  EXPECT_EQ(Walk.MailPhase, 2);
   EXPECT_EQ(Walk.OpeningState, 1);
   EXPECT_TRUE(Walk.WalkActive);
   EXPECT_EQ(Mail.hMailNoticeWnd, nullptr);
@@ -238,6 +237,11 @@ TEST_F(AlarmTest, TheMailNoticeSaysItsCommentOrTheStandardTextAndPlaysRow0) {
   EXPECT_TRUE(DrawnTexts(Mail.hMailNoticeWnd)[0].transparent);
   ASSERT_EQ(DibsDrawn(Mail.hMailNoticeWnd).size(), 2U);
   EXPECT_EQ(DibsDrawn(Mail.hMailNoticeWnd)[1].dib, AlarmImages.AlarmRows[0].pictures[0]);
+  // The box of 190 by 90, with the picture at its corner.
+  const DrawCall box = Drawings(Mail.hMailNoticeWnd)[0];
+  EXPECT_EQ(box.kind, Kind::Copy);
+  EXPECT_TRUE(box.x == 10 && box.y == 10 && box.x2 == 200 && box.y2 == 100);
+  EXPECT_TRUE(DibsDrawn(Mail.hMailNoticeWnd)[1].x == 10 && DibsDrawn(Mail.hMailNoticeWnd)[1].y == 10);
   std::memset(MailSetting.comment, 'm', kMailCommentSize);
   DrawingClear();
   MailNoticeFrameStep();  // frame 1 is missing

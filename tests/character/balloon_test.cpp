@@ -1,7 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <memory>
-
 #include "character/character.h"
 #include "character/walk.h"
 #include "platform/screen.h"
@@ -15,7 +13,6 @@ class BalloonTest : public WalkFixture {
     WalkFixture::SetUp();
     Character.CharaSet.WalkCount[0] = 0;
     Character.CharaSet.WalkPeriod[0] = 0;
-    group_ = std::make_unique<OpnGroupRec>();
     Walk.WalkLastX = 500;
     Walk.WalkLastY = 400;
   }
@@ -27,24 +24,19 @@ class BalloonTest : public WalkFixture {
       look(balloon);
     });
     ThenTicks(4);
-    const std::int32_t state = Walk.OpeningState;
-    ASSERT_EQ(WalkStartOpen(), 0);
-    Walk.OpeningState = state;
+    ASSERT_EQ(WalkStart(request), 0);
     WalkTicks(1);
   }
-  void PutGroup(int count, const std::string& name) {
-    group_->fileCount = static_cast<std::uint8_t>(count);
-    for (int i = 0; i < count && i < kOpnGroupFileMax; ++i) {
-      TextCopy(group_->fileName[i], kOpnTextSize, (name + std::to_string(i)).c_str());
-    }
-    OpnPendingGroup = group_.get();
-    Walk.OpeningState = 2;
+  static void PutGroup(int count, const std::string& name) {
+    std::vector<std::string> names;
+    for (int i = 0; i < count; ++i) names.push_back(name + std::to_string(i));
+    SayNames(names);
+    request.balloon.group = true;
+    request.opening = kOpeningGroup;
   }
-  std::unique_ptr<OpnGroupRec> group_;
 };
 
 TEST_F(BalloonTest, ASingleOpeningShowsItsQuotedName) {
-  Walk.OpeningState = 1;
   WithBalloon([](WindowHandle balloon) {
     EXPECT_TRUE(TextStands(balloon, "\"letter.txt\"", 10, 20));
     EXPECT_TRUE(TextStands(balloon, " をオープン", 10, 38));
@@ -57,7 +49,6 @@ TEST_F(BalloonTest, ASingleOpeningShowsItsQuotedName) {
 }
 
 TEST_F(BalloonTest, TheBalloonStandsUnderTheEndPicture) {
-  Walk.OpeningState = 1;
   WithBalloon([](WindowHandle balloon) {
     EXPECT_EQ(WindowRect(balloon).left, 500);
     EXPECT_EQ(WindowRect(balloon).top, 400 + 20);
@@ -68,7 +59,6 @@ TEST_F(BalloonTest, WithoutAnEndPictureItStandsLeftAboveAndNotBeyondTheScreen) {
   Character.CharaSet.EndFrames[0][0] = 9;
   Walk.WalkLastX = 299;
   Walk.WalkLastY = 201;
-  Walk.OpeningState = 1;
   WithBalloon([](WindowHandle balloon) {
     EXPECT_EQ(WindowRect(balloon).left, 0);
     EXPECT_EQ(WindowRect(balloon).top, 1);
@@ -77,14 +67,12 @@ TEST_F(BalloonTest, WithoutAnEndPictureItStandsLeftAboveAndNotBeyondTheScreen) {
 
 // 33 letters and two quotes are 35 columns: 35 * 8 + 24 = 304.
 TEST_F(BalloonTest, TheWidthGrowsWithTheName) {
-  TextCopy(OpnSelection.fileName, kOpnTextSize, std::string(33, 'a').c_str());
-  Walk.OpeningState = 1;
+  SayNames({std::string(33, 'a')});
   WithBalloon([](WindowHandle balloon) { EXPECT_EQ(RectWidth(WindowRect(balloon)), 304); });
 }
 
 TEST_F(BalloonTest, AVeryLongNameGivesABalloonOf800PixelsWithItsTextCutByTheWindow) {
-  TextCopy(OpnSelection.fileName, kOpnTextSize, std::string(299, 'a').c_str());
-  Walk.OpeningState = 1;
+  SayNames({std::string(299, 'a')});
   WithBalloon([](WindowHandle balloon) {
     EXPECT_EQ(RectWidth(WindowRect(balloon)), 800);
     EXPECT_TRUE(TextStands(balloon, ("\"" + std::string(299, 'a') + "\"").c_str(), 10, 20));
@@ -92,8 +80,7 @@ TEST_F(BalloonTest, AVeryLongNameGivesABalloonOf800PixelsWithItsTextCutByTheWind
 }
 
 TEST_F(BalloonTest, ANameWithoutATerminatorIsHeldInsideItsField) {
-  std::memset(OpnSelection.fileName, 'a', kOpnTextSize);
-  Walk.OpeningState = 1;
+  std::memset(request.balloon.names[0], 'a', kBalloonNameSize);
   WithBalloon([](WindowHandle balloon) {
     EXPECT_TRUE(TextStands(balloon, ("\"" + std::string(300, 'a') + "\"").c_str(), 10, 20));
   });
@@ -112,26 +99,27 @@ TEST_F(BalloonTest, AGroupOf30FilesGivesATallBalloonWithEveryNameOnItsOwnLine) {
   });
 }
 
+TEST_F(BalloonTest, WithoutAnEndPictureItStandsAtTheUpperEdgeToo) {
+  Character.CharaSet.EndFrames[0][0] = 9;
+  Walk.WalkLastX = 301;
+  Walk.WalkLastY = 199;
+  WithBalloon([](WindowHandle balloon) {
+    EXPECT_EQ(WindowRect(balloon).left, 1);
+    EXPECT_EQ(WindowRect(balloon).top, 0);
+  });
+}
+
 TEST_F(BalloonTest, ASmallGroupKeepsTheLeastSizeAndTheLongestNameCounts) {
   PutGroup(2, "file");
-  TextCopy(group_->fileName[1], kOpnTextSize, std::string(40, 'b').c_str());
+  TextCopy(request.balloon.names[1], kBalloonNameSize, std::string(40, 'b').c_str());
   WithBalloon([](WindowHandle balloon) {
     EXPECT_EQ(RectHeight(WindowRect(balloon)), 200);
     EXPECT_EQ(RectWidth(WindowRect(balloon)), 42 * 8 + 24);
   });
 }
 
-TEST_F(BalloonTest, AGroupsCountIsHeldInsideItsTable) {
-  PutGroup(255, "file");
-  EXPECT_EQ(OpnPendingCount(), 30);
-  EXPECT_STREQ(OpnPendingName(30), "");
-  EXPECT_STREQ(OpnPendingName(-1), "");
-  WithBalloon([](WindowHandle balloon) { EXPECT_EQ(DrawnTexts(balloon).size(), 31U); });
-}
-
-TEST_F(BalloonTest, WithoutAPendingGroupOnlyTheLastLineStands) {
-  Walk.OpeningState = 2;
-  OpnPendingGroup = nullptr;
+TEST_F(BalloonTest, OfAGroupWithoutFilesOnlyTheLastLineStands) {
+  PutGroup(0, "");
   WithBalloon([](WindowHandle balloon) {
     EXPECT_EQ(DrawnTexts(balloon).size(), 1U);
     EXPECT_TRUE(TextStands(balloon, " をオープン", 10, 4));
@@ -141,8 +129,7 @@ TEST_F(BalloonTest, WithoutAPendingGroupOnlyTheLastLineStands) {
 TEST_F(BalloonTest, ItsOwnButtonsCloseItAndTheEndPhaseRunsOn) {
   for (const std::uint32_t button : {1U, 2U}) {
     commands.clear();
-    ASSERT_EQ(WalkStartOpen(), 0);
-    Walk.OpeningState = 1;
+    ASSERT_EQ(WalkStart(request), 0);
     Then([button] {
       SendCommand(Walk.WalkSlots[0].balloonWindow, button);
       EXPECT_EQ(Walk.WalkSlots[0].balloonWindow, nullptr);

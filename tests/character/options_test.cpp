@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "character/alarm_images.h"
+#include "character/chara_select.h"
 #include "character/character.h"
 #include "character/character_commands.h"
 #include "character/character_file.h"

@@ -10,7 +10,6 @@
 #include "character/motion.h"
 #include "character/stage.h"
 #include "character/walk.h"
-#include "mail_music/mail/mail.h"
 #include "platform/headless/headless.h"
 #include "platform/screen.h"
 #include "platform/window.h"

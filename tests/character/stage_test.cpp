@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "character/chara_select.h"
 #include "character/character.h"
 #include "character/character_tables.h"
 #include "character/motion.h"

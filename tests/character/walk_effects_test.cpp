@@ -1,4 +1,5 @@
 // What a walking row may add to a walk: trail, wipe and shake.
+#include <algorithm>
 #include <set>
 
 #include "character/character.h"
@@ -13,7 +14,7 @@ namespace {
 TEST_F(WalkTest, WithTheTrailOnTheFirstWindowResetsTheTrailAndTheTrailClosesAtTheWalksEnd) {
   CharaTables.WalkFlags[0] = kWalkTrail;
   Character.CharaSet.WalkPeriod[0] = 0;
-  WalkForOpening();
+  ASSERT_EQ(WalkStart(request), 0);
   Then([] {
     EXPECT_EQ(OpenWindowCount(), 2);
     EXPECT_EQ(PlaceOf(WalkWindow()), (Place{486, 338, 60, 50}));
@@ -42,7 +43,7 @@ TEST_F(WalkTest, WithTheTrailOnTheFirstWindowResetsTheTrailAndTheTrailClosesAtTh
 TEST_F(WalkTest, ATrailWindowThatCannotBeMadeIsLeftOut) {
   CharaTables.WalkFlags[0] = kWalkTrail;
   Character.CharaSet.WalkPeriod[0] = 0;
-  ASSERT_EQ(WalkStartOpen(), 0);
+  ASSERT_EQ(WalkStart(request), 0);
   Then([] {
     FaultArm(FaultKind::Window, 1);
     WalkTicks(1);
@@ -62,7 +63,7 @@ TEST_F(WalkTest, ATrailWindowThatCannotBeMadeIsLeftOut) {
 TEST_F(WalkTest, WithTheWipeOnThePictureIsRevealedFromTheRightInEqualSlices) {
   CharaTables.WalkFlags[0] = kWalkWipe;
   Character.CharaSet.WalkPeriod[0] = 0;
-  ASSERT_EQ(WalkStartOpen(), 0);
+  ASSERT_EQ(WalkStart(request), 0);
   for (int i = 0; i < 4; ++i) {
     Then([i] {
       DrawingClear();
@@ -86,7 +87,7 @@ TEST_F(WalkTest, WithTheWipeOnThePictureIsRevealedFromTheRightInEqualSlices) {
 TEST_F(WalkTest, WithoutAnEndWaitTheWipeHasThreeSlices) {
   CharaTables.WalkFlags[0] = kWalkWipe;
   Character.CharaSet.EndWait[0] = 0;
-  ASSERT_EQ(WalkStartOpen(), 0);
+  ASSERT_EQ(WalkStart(request), 0);
   Then([] {
     DrawingClear();
     SendPaint(WalkWindow());
@@ -104,7 +105,7 @@ TEST_F(WalkTest, WithTheShakeOnEachStepJumpsByUpTo49PixelsAndTheWalkItselfDoesNo
   Character.CharaSet.WalkCount[0] = 200;
   Character.CharaSet.WalkStepX[0] = 0;
   Character.CharaSet.WalkStepY[0] = 0;
-  ASSERT_EQ(WalkStartOpen(), 0);
+  ASSERT_EQ(WalkStart(request), 0);
   Then([] {
     EXPECT_EQ(PlaceOf(WalkWindow()).top, 350);  // not when it opens
     std::set<int> tops;
@@ -117,6 +118,31 @@ TEST_F(WalkTest, WithTheShakeOnEachStepJumpsByUpTo49PixelsAndTheWalkItselfDoesNo
       tops.insert(top);
     }
     EXPECT_GT(tops.size(), 20U);
+    WalkAbort();
+  });
+  WalkTicks(1);
+}
+
+// Of 20000 steps each of the 99 differences comes, the rarest every 2500 steps.
+TEST_F(WalkTest, AStepShakesByOneNumberBelow50MinusAnother) {
+  CharaTables.WalkFlags[0] = kWalkShake;
+  Character.CharaSet.WalkStepX[0] = 0;
+  Character.CharaSet.WalkStepY[0] = 0;
+  ASSERT_EQ(WalkStart(request), 0);
+  Then([] {
+    RandomSeed(5);
+    std::vector<int> tops;
+    for (int i = 0; i < 20000; ++i) {
+      CommandSendTo(WalkWindow(), Command::NextStep);
+      tops.push_back(Walk.WalkLastY);
+    }
+    RandomSeed(5);
+    for (const int top : tops) {
+      const int up = RandomBelow(50);
+      ASSERT_EQ(top, 350 + up - RandomBelow(50));
+    }
+    EXPECT_EQ(*std::min_element(tops.begin(), tops.end()), 350 - 49);
+    EXPECT_EQ(*std::max_element(tops.begin(), tops.end()), 350 + 49);
     WalkAbort();
   });
   WalkTicks(1);

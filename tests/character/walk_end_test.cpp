@@ -1,17 +1,24 @@
 // The end of a walk: its end phase, and the abort.
+#include <algorithm>
+
 #include "character/character.h"
 #include "character/walk.h"
-#include "mail_music/mail/mail.h"
-#include "shell/panel.h"
 #include "tests/character/walk_fixture.h"
 
 namespace {
+
+// The first tick opens the walking window; the others run in its loop.
+void WalkThenAbort(int ticks) {
+  for (int i = 1; i < ticks; ++i) Then([] { MainTick(); });
+  Then([] { WalkAbort(); });
+  MainTick();
+}
 
 // --- The end phase
 
 TEST_F(WalkTest, WithoutAnEndPictureOnlyTheBalloonStands) {
   Character.CharaSet.EndFrames[0][0] = 9;
-  WalkForOpening();
+  ASSERT_EQ(WalkStart(request), 0);
   ThenTicks(15);
   Then([] {
     EXPECT_EQ(Walk.WalkSlots[0].endWindow, nullptr);
@@ -26,7 +33,7 @@ TEST_F(WalkTest, WithoutAnEndPictureOnlyTheBalloonStands) {
 
 TEST_F(WalkTest, AnUnusedEndFrameIsFrame0) {
   Character.CharaSet.EndFrames[0][0] = 0;
-  WalkForOpening();
+  ASSERT_EQ(WalkStart(request), 0);
   ThenTicks(15);
   Then([] {
     const WindowHandle end = Walk.WalkSlots[0].endWindow;
@@ -42,7 +49,7 @@ TEST_F(WalkTest, AnUnusedEndFrameIsFrame0) {
 }
 
 TEST_F(WalkTest, AnEndPictureThatCannotBeMadeLeavesTheBalloon) {
-  WalkForOpening();
+  ASSERT_EQ(WalkStart(request), 0);
   ThenTicks(14);
   Then([] {
     FaultArm(FaultKind::Window, 1);
@@ -59,7 +66,7 @@ TEST_F(WalkTest, AnEndPictureThatCannotBeMadeLeavesTheBalloon) {
 }
 
 TEST_F(WalkTest, ABalloonThatCannotBeMadeLetsTheEndPhaseRunOut) {
-  WalkForOpening();
+  ASSERT_EQ(WalkStart(request), 0);
   ThenTicks(14);
   Then([] {
     FaultArm(FaultKind::Window, 2);
@@ -79,8 +86,8 @@ TEST_F(WalkTest, ABalloonThatCannotBeMadeLetsTheEndPhaseRunOut) {
 TEST_F(WalkTest, AGroupsWalkEndsWithItsStateClearedAndNothingSent) {
   for (const int state : {2, 3}) {
     commands.clear();
-    ASSERT_EQ(WalkStartOpen(), 0);
-    Walk.OpeningState = state;
+    request.opening = state;
+    ASSERT_EQ(WalkStart(request), 0);
     ThenTicks(19);
     WalkTicks(1);
     EXPECT_EQ(commands, (std::vector<std::uint32_t>{2203, 2208})) << state;
@@ -88,55 +95,21 @@ TEST_F(WalkTest, AGroupsWalkEndsWithItsStateClearedAndNothingSent) {
   }
 }
 
-TEST_F(WalkTest, AMailsWalkOpensTheNoticeAndNothingIsLaunched) {
-  MailSetting.animeOn = 1;
-  ASSERT_EQ(WalkStartMail(), 0);
-  Walk.OpeningState = 1;
-  Mail.MailPhase = 2;
-  ThenTicks(15);
-  WalkTicks(1);
-  EXPECT_EQ(Walk.WalkSlots[0].balloonWindow, nullptr);
-  ASSERT_NE(Mail.hMailNoticeWnd, nullptr);
-  // Under the end picture of 20 rows.
-  EXPECT_EQ(PlaceOf(Mail.hMailNoticeWnd), (Place{430, 310, 300, 200}));
+TEST_F(WalkTest, AWalkThatAsksForNothingAtItsEndSendsNothing) {
+  request.atEnd = Command::None;
+  ASSERT_EQ(WalkStart(request), 0);
   EXPECT_EQ(Walk.OpeningState, 1);
-  // The notice needs no loop: tick 16 and the rest of the first tick have stepped the
-  // end phase.
-  WalkTicks(2);
+  ThenTicks(19);
+  WalkTicks(1);
   EXPECT_EQ(commands, (std::vector<std::uint32_t>{2203, 2208}));
   EXPECT_EQ(Walk.OpeningState, 0);
-  EXPECT_EQ(Walk.WalkSlots[0].endWindow, nullptr);
-  EXPECT_NE(Mail.hMailNoticeWnd, nullptr);
-  EXPECT_EQ(Mail.MailPhase, 2);
-  Press(Mail.hMailNoticeWnd, 1);
-  EXPECT_EQ(Mail.hMailNoticeWnd, nullptr);
-  EXPECT_EQ(Mail.MailPhase, 0);
-}
-
-TEST_F(WalkTest, WhileTheMailSettingsAreOpenAWalkEndsWithTheNotice) {
-  Panel.FuncNo = 11;
-  ASSERT_EQ(WalkStartOpen(), 0);
-  Walk.OpeningState = 3;
-  ThenTicks(15);
-  WalkTicks(1);
-  ASSERT_NE(Mail.hMailNoticeWnd, nullptr);
-  EXPECT_EQ(Walk.WalkSlots[0].balloonWindow, nullptr);
-  EXPECT_EQ(PlaceOf(Mail.hMailNoticeWnd), (Place{0, 0, 300, 200}));
-  const WindowHandle notice = Mail.hMailNoticeWnd;
-  WalkAbort();
-  ASSERT_EQ(WalkStartOpen(), 0);
-  ThenTicks(15);
-  WalkTicks(1);
-  EXPECT_EQ(Mail.hMailNoticeWnd, notice);  // one that is up stays
-  WalkAbort();
-  SendClose(Mail.hMailNoticeWnd);
 }
 
 // --- Abort
 
 TEST_F(WalkTest, AnAbortEndsAWalkWithoutItsEndPhase) {
-  ASSERT_EQ(WalkStartOpen(), 0);
-  Walk.OpeningState = 3;
+  request.opening = kOpeningCheck;
+  ASSERT_EQ(WalkStart(request), 0);
   ThenTicks(2);
   Then([] {
     WalkAbort();
@@ -150,8 +123,8 @@ TEST_F(WalkTest, AnAbortEndsAWalkWithoutItsEndPhase) {
 }
 
 TEST_F(WalkTest, AnAbortEndsAnEndPhaseToo) {
-  ASSERT_EQ(WalkStartOpen(), 0);
-  Walk.OpeningState = 3;
+  request.opening = kOpeningCheck;
+  ASSERT_EQ(WalkStart(request), 0);
   ThenTicks(16);
   Then([] {
     WalkAbort();
@@ -161,6 +134,19 @@ TEST_F(WalkTest, AnAbortEndsAnEndPhaseToo) {
   WalkTicks(1);
   EXPECT_EQ(Walk.OpeningState, 0);
   EXPECT_EQ(OpenWindowCount(), 1);
+}
+
+TEST_F(WalkTest, AFileThatWaitedForAnAbortedWalkIsOpenedOnce) {
+  for (const int ticks : {0, 2, 16}) {
+    commands.clear();
+    ASSERT_EQ(WalkStart(request), 0);
+    if (ticks != 0) WalkThenAbort(ticks);
+    if (ticks == 0) WalkAbort();
+    EXPECT_EQ(std::count(commands.begin(), commands.end(), 2202U), 1) << ticks;
+    EXPECT_EQ(Walk.OpeningState, 0);
+    WalkTicks(30);
+    EXPECT_EQ(std::count(commands.begin(), commands.end(), 2202U), 1) << ticks;
+  }
 }
 
 TEST_F(WalkTest, AnAbortWithNothingGoingOnDoesNothing) {

@@ -9,9 +9,10 @@
 #include "character/character_tables.h"
 #include "character/walk.h"
 #include "character/walk_windows.h"
-#include "filetools/open/open_state.h"
-#include "mail_music/mail/mail.h"
-#include "mail_music/mail/mail_setting.h"
+#include "resources/character_ids.h"
+#include "services/text.h"
+#include "shell/shell_commands.h"
+#include "shell/tick.h"
 #include "tests/character/stage_fixture.h"
 
 class WalkFixture : public StageFixture {
@@ -19,25 +20,22 @@ class WalkFixture : public StageFixture {
   void SetUp() override {
     StageFixture::SetUp();
     extraCommand = OnCommand;
-    OpnHistory = {};
-    OpnSelection = {};
-    OpnPendingGroup = nullptr;
-    MailSetting = {};
-    OpnHistory.animeOn = 1;
-    TextCopy(OpnSelection.fileName, kOpnTextSize, "letter.txt");
-    ForgetWalks();
+    request = {};
+    request.settings.animeOn = 1;
+    request.opening = kOpeningFile;
+    request.atEnd = Command::OpenLaunch;
+    SayNames({"letter.txt"});
     PutWalker();
   }
   void TearDown() override {
-    ForgetWalks();
     extraCommand = nullptr;
     StageFixture::TearDown();
   }
-  static void ForgetWalks() {
-    for (WalkSlot& slot : Walk.WalkSlots) slot = WalkSlot{};
-    Walk.WalkActive = Walk.WalkEndActive = false;
-    Walk.WalkSlotNow = Walk.WalkLastX = Walk.WalkLastY = 0;
-    Mail.hMailNoticeWnd = nullptr;
+  static void SayNames(const std::vector<std::string>& names) {
+    request.balloon.count = 0;
+    for (const std::string& name : names) {
+      TextCopy(request.balloon.names[request.balloon.count++], kBalloonNameSize, name.c_str());
+    }
   }
 
   // Slot 0 walks with character 10: frames 1 and 2 of 60 by 50 turn while it walks,
@@ -63,21 +61,20 @@ class WalkFixture : public StageFixture {
     Character.CharaSet.EndWait[0] = 4;
   }
 
+  // The stage answers 2293 itself; all others go the program's way.
   static void OnCommand(std::uint32_t command) {
-    if (command == 2203) WalkWindowRun();
-    if (command == 2208) EndWindowsRun();
+    if (command != 2293) CommandRoute(command);
   }
 
   static void WalkTicks(int count) {
-    for (int i = 0; i < count; ++i) {
-      WalkTickAll();
-      WalkEndTickAll();
-    }
+    for (int i = 0; i < count; ++i) MainTick();
   }
   // Ticks as the steps of the script, so that each finds the innermost loop.
   static void ThenTicks(int count) {
     for (int i = 0; i < count; ++i) Then([] { WalkTicks(1); });
   }
+
+  static inline WalkRequest request;  // a file's walk
 
   static WindowHandle WalkWindow() { return Walk.WalkSlots[0].walkWindow; }
 };

@@ -51,7 +51,8 @@ TEST_F(WalkRoundTest, AnEndPhaseNeedsTheCommonFlagToo) {
 
 TEST_F(WalkRoundTest, AnAbortEndsAWalkWithoutFrames) {
   for (int place = 0; place < kWalkListMax; ++place) Character.CharaSet.WalkFrames[0][place] = 0;
-  ASSERT_EQ(WalkStartOpen(), 0);
+  request.opening = kOpeningCheck;
+  ASSERT_EQ(WalkStart(request), 0);
   ASSERT_TRUE(Walk.WalkSlots[0].active);
   WalkAbort();
   EXPECT_FALSE(Walk.WalkSlots[0].active);
@@ -64,12 +65,12 @@ TEST_F(WalkRoundTest, TheFirstWindowOfASecondWalkResetsTheTrail) {
   CharaTables.WalkFlags[0] = kWalkTrail;
   CharaTables.WalkCharas[1].number = 11;
   PutBmp(11, 1, BmpFile(20, 20));
-  ASSERT_EQ(WalkStartOpen(), 0);
+  ASSERT_EQ(WalkStart(request), 0);
   ThenTicks(3);
   Then([] {
     EXPECT_EQ(TrailWindows(), 3);
-    Character.CharaIndex = 1;
-    ASSERT_EQ(WalkStartOpen(), 0);
+    request.slot = 1;
+    ASSERT_EQ(WalkStart(request), 0);
     EXPECT_EQ(TrailWindows(), 3);
   });
   ThenTicks(1);

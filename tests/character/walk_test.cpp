@@ -11,34 +11,33 @@ namespace {
 
 // --- Starting
 
-TEST_F(WalkTest, StartingPlaysTheSoundOfTheOpeningFromTheSoundFolder) {
-  OpnHistory.soundOn = 1;
-  TextCopy(OpnHistory.soundName, kOpnTextSize, "foot1.wav");
-  EXPECT_EQ(WalkStartOpen(), 0);
+TEST_F(WalkTest, StartingPlaysTheSoundOfTheRequestFromTheSoundFolder) {
+  request.settings.soundOn = 1;
+  TextCopy(request.settings.soundName, kWalkSoundNameSize, "foot1.wav");
+  EXPECT_EQ(WalkStart(request), 0);
   EXPECT_EQ(SoundsPlayed(), (std::vector<std::string>{"C:\\mirrell\\サウンド\\foot1.wav"}));
+  EXPECT_EQ(Walk.OpeningState, 1);
 }
 
-TEST_F(WalkTest, WithTheAnimationOffTheOpeningFollowsStraightAwayWithItsSound) {
-  OpnHistory.animeOn = 0;
-  OpnHistory.soundOn = 1;
-  TextCopy(OpnHistory.soundName, kOpnTextSize, "a.wav");
-  WalkForOpening();
-  EXPECT_EQ(commands, (std::vector<std::uint32_t>{2202}));
+TEST_F(WalkTest, WithTheAnimationOffNobodyWalksAndTheSoundIsHeard) {
+  request.settings.animeOn = 0;
+  request.settings.soundOn = 1;
+  TextCopy(request.settings.soundName, kWalkSoundNameSize, "a.wav");
+  EXPECT_EQ(WalkStart(request), -1);
+  EXPECT_TRUE(commands.empty());
   EXPECT_EQ(Walk.OpeningState, 0);
   EXPECT_FALSE(Walk.WalkActive);
   EXPECT_EQ(SoundsPlayed().size(), 1U);
 }
 
-TEST_F(WalkTest, AWalkingRowOf0OrAWalkingNumberOf0MeansThatTheActionGoesOnWithoutAWalk) {
+TEST_F(WalkTest, WithAWalkingRowOf0OrAWalkingNumberOf0NobodyWalks) {
   Character.CharaSet.WalkRow[0] = 0;
-  WalkForOpening();
-  EXPECT_EQ(commands, (std::vector<std::uint32_t>{2202}));
+  EXPECT_EQ(WalkStart(request), -1);
   EXPECT_FALSE(Walk.WalkActive);
   EXPECT_FALSE(Walk.WalkSlots[0].active);
   Character.CharaSet.WalkRow[0] = 1;
   CharaTables.WalkCharas[0].number = 0;
-  WalkForOpening();
-  EXPECT_EQ(commands, (std::vector<std::uint32_t>{2202, 2202}));
+  EXPECT_EQ(WalkStart(request), -1);
   EXPECT_EQ(Walk.OpeningState, 0);
 }
 
@@ -59,7 +58,7 @@ TEST_F(WalkTest, LoadingAWalkerTellsNegativeSlotsAndSlotsWithoutACharacter) {
 TEST_F(WalkTest, AStartSetsUpTheSlotFromTheCurrentCharacter) {
   Walk.WalkSlots[7].active = true;
   Walk.WalkSlots[49].active = true;
-  ASSERT_EQ(WalkStartOpen(), 0);
+  ASSERT_EQ(WalkStart(request), 0);
   const WalkSlot& s = Walk.WalkSlots[0];
   EXPECT_TRUE(Walk.WalkActive);
   EXPECT_TRUE(s.active);
@@ -78,30 +77,10 @@ TEST_F(WalkTest, AStartSetsUpTheSlotFromTheCurrentCharacter) {
   EXPECT_EQ(s.endWait, 4);
 }
 
-TEST_F(WalkTest, AMailTakesTheFirstRowWithTheSameNumberAndClearsOnlyTheFirstTenFlags) {
-  MailSetting.animeOn = 1;
-  MailSetting.soundOn = 1;
-  TextCopy(MailSetting.soundName, kMailSoundSize, "mail.wav");
-  CharaTables.WalkCharas[3].number = 10;
-  Character.CharaIndex = 3;
-  Walk.WalkSlots[9].active = true;
-  Walk.WalkSlots[10].active = true;
-  EXPECT_EQ(WalkStartMail(), 0);
-  EXPECT_TRUE(Walk.WalkSlots[0].active);
-  EXPECT_FALSE(Walk.WalkSlots[3].active);
-  EXPECT_FALSE(Walk.WalkSlots[9].active);
-  EXPECT_TRUE(Walk.WalkSlots[10].active);
-  EXPECT_EQ(SoundsPlayed(), (std::vector<std::string>{"C:\\mirrell\\サウンド\\mail.wav"}));
-  MailSetting.animeOn = 0;
-  EXPECT_EQ(WalkStartMail(), -1);
-}
-
-TEST_F(WalkTest, AMainCharacterBeyondTheSlotsStartsNoWalk) {
-  for (const int index : {-1, 50, 1000000}) {
-    Character.CharaIndex = index;
-    MailSetting.animeOn = 1;
-    EXPECT_EQ(WalkStartOpen(), -1) << index;
-    EXPECT_EQ(WalkStartMail(), -1) << index;
+TEST_F(WalkTest, ASlotBeyondTheTableStartsNoWalk) {
+  for (const int slot : {-1, 50, 1000000}) {
+    request.slot = slot;
+    EXPECT_EQ(WalkStart(request), -1) << slot;
     EXPECT_FALSE(Walk.WalkActive);
   }
 }
@@ -111,7 +90,7 @@ TEST_F(WalkTest, AMainCharacterBeyondTheSlotsStartsNoWalk) {
 // Steps at the ticks 1, 4, 7, 10, 13; the end at tick 16; the end picture is down
 // to 0 after four ticks more.
 TEST_F(WalkTest, AWalkStepsEveryPeriodEndsWithItsPictureAndOnlyThenTheFileOpens) {
-  WalkForOpening();
+  ASSERT_EQ(WalkStart(request), 0);
   EXPECT_EQ(Walk.OpeningState, 1);
   EXPECT_TRUE(commands.empty());
   Then([] {
@@ -159,7 +138,7 @@ TEST_F(WalkTest, TheFirstStepOpensTheWindowAtTheStartPointPlusOneStep) {
   Character.CharaSet.WalkStartPoint = 3;
   Character.CharaSet.WalkStepX[0] = 25;
   Character.CharaSet.WalkStepY[0] = 30;
-  ASSERT_EQ(WalkStartOpen(), 0);
+  ASSERT_EQ(WalkStart(request), 0);
   Then([] {
     EXPECT_EQ(PlaceOf(WalkWindow()), (Place{25, 30, 60, 50}));
     EXPECT_TRUE(IsVisible(WalkWindow()));
@@ -169,7 +148,7 @@ TEST_F(WalkTest, TheFirstStepOpensTheWindowAtTheStartPointPlusOneStep) {
 }
 
 TEST_F(WalkTest, EachStepCutsTheWindowToItsFramesOutline) {
-  ASSERT_EQ(WalkStartOpen(), 0);
+  ASSERT_EQ(WalkStart(request), 0);
   Then([] { EXPECT_EQ(PointsOf(RegionOf(WalkWindow())), (FilePoints{{5, 53}, {62, 53}, {34, 4}})); });
   ThenTicks(3);
   Then([] {
@@ -186,7 +165,7 @@ TEST_F(WalkTest, EachStepCutsTheWindowToItsFramesOutline) {
 
 TEST_F(WalkTest, AFrameWithoutAnOutlineIsPaintedAtOnceAndAFrameWithoutAPictureIs300By200) {
   Character.CharaSet.WalkFrames[0][0] = 5;  // no files
-  ASSERT_EQ(WalkStartOpen(), 0);
+  ASSERT_EQ(WalkStart(request), 0);
   Then([] {
     EXPECT_EQ(PlaceOf(WalkWindow()), (Place{486, 338, 60, 50}));
     DrawingClear();
@@ -205,7 +184,7 @@ TEST_F(WalkTest, AFrameWithoutAnOutlineIsPaintedAtOnceAndAFrameWithoutAPictureIs
 TEST_F(WalkTest, AFrameNumberBeyondTheTableIsAFrameWithoutAPicture) {
   Character.CharaSet.WalkFrames[0][1] = 255;
   Character.CharaSet.EndFrames[0][0] = 255;
-  ASSERT_EQ(WalkStartOpen(), 0);
+  ASSERT_EQ(WalkStart(request), 0);
   Then([] {
     EXPECT_EQ(PlaceOf(WalkWindow()), (Place{486, 338, 300, 200}));
     SendPaint(WalkWindow());
@@ -222,7 +201,7 @@ TEST_F(WalkTest, AWalkThatLeavesTheScreenStopsAtTheEdgeAndKeepsItsFramesTurning)
   Character.CharaSet.WalkStepY[0] = 2147483647;
   Character.CharaSet.WalkPeriod[0] = 0;
   Character.CharaSet.WalkCount[0] = 4;
-  ASSERT_EQ(WalkStartOpen(), 0);
+  ASSERT_EQ(WalkStart(request), 0);
   Then([] { EXPECT_EQ(PlaceOf(WalkWindow()), (Place{800, 650, 60, 50})); });
   for (int i = 0; i < 3; ++i) {
     ThenTicks(1);
@@ -237,7 +216,7 @@ TEST_F(WalkTest, AWalkThatLeavesTheScreenStopsAtTheEdgeAndKeepsItsFramesTurning)
 
   Character.CharaSet.WalkStepX[0] = -2147483647 - 1;
   Character.CharaSet.WalkStepY[0] = -300;
-  ASSERT_EQ(WalkStartOpen(), 0);
+  ASSERT_EQ(WalkStart(request), 0);
   Then([] {
     EXPECT_EQ(PlaceOf(WalkWindow()), (Place{0, 50, 60, 50}));
     WalkTicks(1);
@@ -247,10 +226,30 @@ TEST_F(WalkTest, AWalkThatLeavesTheScreenStopsAtTheEdgeAndKeepsItsFramesTurning)
   WalkTicks(1);
 }
 
+// Frame 1 is 60 by 50 and frame 2 is 20 by 10: from the lower right corner the walk
+// stands at (1000 - 60, 700 - 50), whichever of them shows.
+TEST_F(WalkTest, TheFirstFrameHoldsTheWalkOnTheScreenWhateverFrameShows) {
+  PutBmp(10, 2, BmpFile(20, 10));
+  Character.CharaSet.WalkStartPoint = 0;
+  Character.CharaSet.WalkStepX[0] = 0;
+  Character.CharaSet.WalkStepY[0] = 0;
+  Character.CharaSet.WalkPeriod[0] = 0;
+  ASSERT_EQ(WalkStart(request), 0);
+  Then([] {
+    EXPECT_EQ(PlaceOf(WalkWindow()), (Place{940, 650, 20, 10}));
+    WalkTicks(1);
+    EXPECT_EQ(PlaceOf(WalkWindow()), (Place{940, 650, 60, 50}));
+    WalkTicks(1);
+    EXPECT_EQ(PlaceOf(WalkWindow()), (Place{940, 650, 20, 10}));
+    WalkAbort();
+  });
+  WalkTicks(1);
+}
+
 TEST_F(WalkTest, AWalkWithoutFramesStandsStillForGoodAndTheOpeningWaits) {
   Character.CharaSet.WalkFrames[0][0] = 0;
   Character.CharaSet.WalkFrames[0][1] = 0;
-  WalkForOpening();
+  ASSERT_EQ(WalkStart(request), 0);
   WalkTicks(1000);
   EXPECT_TRUE(commands.empty());
   EXPECT_TRUE(Walk.WalkActive);
@@ -261,7 +260,7 @@ TEST_F(WalkTest, AWalkWithoutFramesStandsStillForGoodAndTheOpeningWaits) {
 TEST_F(WalkTest, AWalkOfNoStepsGoesStraightToItsEnd) {
   Character.CharaSet.WalkCount[0] = 0;
   Character.CharaSet.EndWait[0] = 0;
-  WalkForOpening();
+  ASSERT_EQ(WalkStart(request), 0);
   ThenTicks(1);
   WalkTicks(1);
   EXPECT_EQ(commands, (std::vector<std::uint32_t>{2208, 2202}));
@@ -270,7 +269,7 @@ TEST_F(WalkTest, AWalkOfNoStepsGoesStraightToItsEnd) {
 TEST_F(WalkTest, AWindowThatCannotBeMadeIsTriedAgainAtTheNextStep) {
   Character.CharaSet.WalkPeriod[0] = 0;
   Character.CharaSet.WalkCount[0] = 2;
-  WalkForOpening();
+  ASSERT_EQ(WalkStart(request), 0);
   FaultArm(FaultKind::Window, 1);
   WalkTicks(1);
   EXPECT_TRUE(FaultWasMet());
@@ -282,7 +281,7 @@ TEST_F(WalkTest, AWindowThatCannotBeMadeIsTriedAgainAtTheNextStep) {
 }
 
 TEST_F(WalkTest, EscapeDoesNotCloseAWalkingWindow) {
-  ASSERT_EQ(WalkStartOpen(), 0);
+  ASSERT_EQ(WalkStart(request), 0);
   Then([] {
     SendCommand(WalkWindow(), 2);
     SendCommand(WalkWindow(), 1);
@@ -295,10 +294,10 @@ TEST_F(WalkTest, EscapeDoesNotCloseAWalkingWindow) {
 // --- Second starts
 
 TEST_F(WalkTest, ASecondStartInTheSameSlotWalksTheSameWindowFromTheStart) {
-  WalkForOpening();
+  ASSERT_EQ(WalkStart(request), 0);
   ThenTicks(4);
   Then([] {
-    ASSERT_EQ(WalkStartOpen(), 0);
+    ASSERT_EQ(WalkStart(request), 0);
     EXPECT_EQ(Walk.WalkSlots[0].WalkLeft, 5);
     WalkTicks(1);
     EXPECT_EQ(PlaceOf(WalkWindow()), (Place{486, 338, 60, 50}));
@@ -311,10 +310,10 @@ TEST_F(WalkTest, ASecondStartInTheSameSlotWalksTheSameWindowFromTheStart) {
 TEST_F(WalkTest, ASecondStartInAnotherSlotLeavesTheFirstWindowUntilItsOwnClose) {
   CharaTables.WalkCharas[1].number = 11;
   PutBmp(11, 1, BmpFile(20, 20));
-  ASSERT_EQ(WalkStartOpen(), 0);
+  ASSERT_EQ(WalkStart(request), 0);
   Then([] {
-    Character.CharaIndex = 1;
-    ASSERT_EQ(WalkStartOpen(), 0);
+    request.slot = 1;
+    ASSERT_EQ(WalkStart(request), 0);
     EXPECT_FALSE(Walk.WalkSlots[0].active);
     EXPECT_NE(Walk.WalkSlots[0].walkWindow, nullptr);
   });
@@ -356,8 +355,8 @@ TEST_F(WalkTest, RandomRecordsWalkInsideTheTables) {
     Character.CharaSet.WalkRow[0] = static_cast<std::uint16_t>(RandomBelow(60));
     Character.CharaSet.WalkPeriod[0] = static_cast<std::uint16_t>(RandomBelow(3));
     for (unsigned char& flags : CharaTables.WalkFlags) flags = static_cast<unsigned char>(RandomBelow(8));
-    Walk.OpeningState = RandomBelow(4);
-    if (WalkStartOpen() != 0) continue;
+    request.opening = RandomBelow(4);
+    if (WalkStart(request) != 0) continue;
     WalkTicks(1);
     WalkAbort();
     ASSERT_EQ(StepsLeft(), 0) << round;

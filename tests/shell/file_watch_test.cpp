@@ -13,7 +13,7 @@
 #include "platform/posix/faults.h"
 #include "platform/window.h"
 #include "schedule/applications/application_list.h"
-#include "services/big_endian.h"
+#include "tests/support/byte_order.h"
 #include "services/commands.h"
 #include "services/dialog_family.h"
 #include "services/dialog_numbers.h"

@@ -15,7 +15,7 @@
 #include "platform/posix/faults.h"
 #include "platform/posix/posix_paths.h"
 #include "schedule/model/schedule.h"
-#include "services/big_endian.h"
+#include "tests/support/byte_order.h"
 #include "services/data_file.h"
 #include "services/program.h"
 #include "services/record.h"
@@ -395,8 +395,8 @@ TEST_F(SettingsTest, ATextThatFillsItsFieldIsTerminatedAfterTheReading) {
 // --- The clock's design is taken again between the reserved numbers and the
 // calendar.
 
-// The transfers before that place: the magic, and 33 elements.
-constexpr int kLastReservedCall = 34;
+// The transfers before that place: the magic, the character's part and the clock's.
+constexpr int kLastReservedCall = 3;
 
 TEST_F(SettingsTest, EverySaveActivatesTheClockDesignAfterTheReservedNumbers) {
   CharaTables.ClockDesignCount = 3;
@@ -510,8 +510,7 @@ int MutationRounds(const std::string& native, const std::string& image, int roun
 TEST_F(SettingsTest, RandomMutationsNeverLeaveTheVariables) {
   const std::string image = PutDistinct(19);
   std::mt19937 random(20);
-  // Whole files cost some 270 reads each, so most rounds are given to files that
-  // end at the months.
+  // Whole files are large, so most rounds are given to files that end at the months.
   EXPECT_GT(MutationRounds(native_, image, 5000, random), 4000);
   EXPECT_EQ(FirstDifference(FileBytes(path_), image), -1);
   const std::string head = image.substr(0, 2200);
@@ -520,23 +519,24 @@ TEST_F(SettingsTest, RandomMutationsNeverLeaveTheVariables) {
   EXPECT_EQ(FileBytes(path_), head);
 }
 
+// The magic, and one for each of the seven parts.
+constexpr int kTransfers = 8;
+
 TEST_F(SettingsTest, EveryWriteCallThatFailsGivesMinus1AndFileStatusMinus2) {
   FillDistinct(21);
-  // The magic, and one call for each element.
-  EXPECT_EQ(FailingWrites(SysFileWrite, -1), static_cast<int>(Boundaries().size()) - 1);
+  EXPECT_EQ(FailingWrites(SysFileWrite, -1), kTransfers);
 }
 
 TEST_F(SettingsTest, EveryReadCallThatFailsGivesMinus1ButTheLast) {
   PutDistinct(22);
-  const int reads = static_cast<int>(Boundaries().size()) - 1;
-  for (int nth = 1; nth <= reads; ++nth) {
+  for (int nth = 1; nth <= kTransfers; ++nth) {
     FaultArm(FaultKind::Read, nth);
     FileResult.FileStatus = 0;
-    EXPECT_EQ(SysFileRead(), nth == reads ? 0 : -1) << nth;
-    EXPECT_EQ(FileResult.FileStatus, nth == reads ? 0 : -2) << nth;
+    EXPECT_EQ(SysFileRead(), nth == kTransfers ? 0 : -1) << nth;
+    EXPECT_EQ(FileResult.FileStatus, nth == kTransfers ? 0 : -2) << nth;
     EXPECT_TRUE(FaultWasMet()) << nth;
   }
-  FaultArm(FaultKind::Read, reads + 1);
+  FaultArm(FaultKind::Read, kTransfers + 1);
   EXPECT_EQ(SysFileRead(), 0);
   EXPECT_FALSE(FaultWasMet());
 }

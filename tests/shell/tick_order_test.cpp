@@ -14,7 +14,7 @@
 #include "clock_calendar/clock/clock_notice.h"
 #include "clock_calendar/clock/performance.h"
 #include "filetools/back_up/back_up.h"
-#include "filetools/open/open_state.h"
+#include "filetools/open/group_open.h"
 #include "filetools/stepped_work.h"
 #include "mail_music/mail/mail.h"
 #include "platform/dialog.h"
@@ -49,7 +49,7 @@ class TickOrderTest : public ProgramTest {
   void TearDown() override {
     for (WalkSlot& slot : Walk.WalkSlots) slot = WalkSlot{};
     Walk.WalkActive = Walk.WalkEndActive = false;
-    OpnPendingGroup = nullptr;
+    GroupRun.OpnPendingGroup = nullptr;
     for (const WindowHandle window : OpenWindows()) {
       if (window != Program.hMainWnd && WindowIsOpen(window)) WindowDestroy(window);
     }
@@ -63,7 +63,7 @@ class TickOrderTest : public ProgramTest {
     group_->fileCount = 1;
     TextCopy(group_->fileName[0], kOpnTextSize, "a.txt");
     TextCopy(group_->progName[0], kOpnTextSize, "edit.exe");
-    OpnPendingGroup = group_.get();
+    GroupRun.OpnPendingGroup = group_.get();
   }
   // An alarm at the clock's 9:30.
   static void AlarmNow() {

@@ -11,7 +11,7 @@
 #include "clock_calendar/clock/clock_notice.h"
 #include "clock_calendar/clock_calendar_tick.h"
 #include "filetools/back_up/back_up.h"
-#include "filetools/open/open_groups.h"
+#include "filetools/open/group_open.h"
 #include "filetools/stepped_work.h"
 #include "mail_music/mail/mail.h"
 #include "mail_music/music/music.h"
@@ -181,7 +181,8 @@ TEST_F(TickTimerTest, WorkInTheTickKeepsThePace) {
          Mail.MailMinuteCount = 0;
        },
        [] { Mail.MailCheckOn = false; }},
-      {"a pending group", [] { OpnPendingGroup = &group; }, [] { OpnPendingGroup = nullptr; }},
+      {"a pending group", [] { GroupRun.OpnPendingGroup = &group; },
+       [] { GroupRun.OpnPendingGroup = nullptr; }},
       {"a walk", [] { Walk.WalkActive = true; }, [] { Walk.WalkActive = false; }},
       {"an end phase", [] { Walk.WalkEndActive = true; }, [] { Walk.WalkEndActive = false; }},
       {"the menu motion", [] { Motion.CharaMotion = kMotionMenu; },

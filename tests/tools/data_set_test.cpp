@@ -20,7 +20,7 @@
 #include "newdata/sound.h"
 #include "platform/posix/posix_paths.h"
 #include "schedule/model/schedule.h"
-#include "services/big_endian.h"
+#include "tests/support/byte_order.h"
 #include "shell/settings.h"
 #include "world/world_list.h"
 

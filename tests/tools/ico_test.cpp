@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "newdata/host_file.h"
-#include "services/big_endian.h"
+#include "tests/support/byte_order.h"
 
 TEST(IcoFile, DirectoryPicturesAndMasks) {
   // One pixel, half clear, and one clear pixel beside it would not be square: two

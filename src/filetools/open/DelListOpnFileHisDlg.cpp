@@ -53,8 +53,7 @@ void Remove(WindowHandle dialog) {
 void RemoveAll(WindowHandle dialog) {
   if (!BoxAsk(dialog, "ファイルとプログラム全ての履歴登録を削除します", "全履歴削除の確認")) return;
   OpnHisClear();
-  OpnProgList.progCount = 0;
-  OpnProgListBuilt = false;
+  OpnProgListForget();
   changed = true;
   Show(dialog);
 }

@@ -1,7 +1,7 @@
 // DspListOpnFileHisDlg: the history in full.
 
 #include "filetools/open/open_dialogs.h"
-#include "filetools/open/open_text.h"
+#include "filetools/open/open_history.h"
 #include "platform/dialog.h"
 #include "resources/filetools_ids.h"
 #include "services/dialog_family.h"

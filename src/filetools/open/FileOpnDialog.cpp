@@ -1,11 +1,12 @@
 // FileOpnDialog, "ファイル オープン".
 
-#include "character/walk.h"
 #include "filetools/open/open_choice.h"
 #include "filetools/open/open_controls.h"
 #include "filetools/open/open_dialogs.h"
 #include "filetools/open/open_history.h"
+#include "filetools/open/open_programs.h"
 #include "filetools/open/open_record.h"
+#include "filetools/open/open_walk.h"
 #include "platform/dialog.h"
 #include "platform/window.h"
 #include "resources/filetools_ids.h"
@@ -23,8 +24,7 @@ constexpr int kLeftForGroups = 2008;
 
 // What the lists show is chosen in OpnWork too.
 void ChoiceTake() {
-  OpnWork.fileSel = ListSelected(Dialogs.hMenuDlg, IDC_OPN_FILE);
-  OpnWork.progSel = ListSelected(Dialogs.hMenuDlg, IDC_OPN_PROGRAM);
+  OpnWorkTake(ListSelected(Dialogs.hMenuDlg, IDC_OPN_FILE), ListSelected(Dialogs.hMenuDlg, IDC_OPN_PROGRAM));
 }
 
 void FileChosen() {
@@ -42,7 +42,7 @@ void Open() {
 
 void TakeGroup() {
   if (!TakeOpnGrpSetDlgRun(Dialogs.hMenuDlg)) return;
-  Walk.OpeningState = WalkStartOpen() == 0 ? kOpeningGroup : 0;
+  WalkStartGroup();
   MenuDialogEnd(Dialogs.hMenuDlg, 0);
 }
 
@@ -53,7 +53,7 @@ void ShowRecord() {
 void ClearRecord() {
   if (BoxAsk(Dialogs.hMenuDlg, "オープン記録を全てクリアします。よろしいですか ?",
              "オープン記録クリアの確認")) {
-    OpnRecord.recCount = 0;
+    OpnRecordClear();
   }
 }
 

@@ -5,6 +5,7 @@
 #include "filetools/open/open_controls.h"
 #include "filetools/open/open_dialogs.h"
 #include "filetools/open/open_groups.h"
+#include "filetools/open/open_selection.h"
 #include "platform/dialog.h"
 #include "resources/filetools_ids.h"
 #include "services/boxes.h"
@@ -46,14 +47,14 @@ void FileChosen(WindowHandle dialog) {
 
 // A file that the group has already goes out first, so that it ends up last.
 void Add(WindowHandle dialog) {
-  OpnSelectionSave = OpnSelection;
+  OpnSelectionKeep();
   const bool chosen = OpnSelectionFromLists(dialog);
   bool full = false;
   if (chosen) {
     OpnGroupRemoveFile(shown, OpnGroupFind(shown));
     full = OpnGroupAddFile(shown) != 0;
   }
-  OpnSelection = OpnSelectionSave;
+  OpnSelectionBack();
   if (!chosen) return;
   if (full) {
     BoxTell(dialog, "グループにはファイルを３０個まで登録できます", "ファイル最大登録数をオーバー");
@@ -71,7 +72,7 @@ void Remove(WindowHandle dialog) {
 }
 
 void Set(WindowHandle dialog) {
-  // kept: of comments alone nobody is asked.
+  // kept: when comments of groups alone were changed nobody is asked.
   if (dirty && !BoxAsk(dialog, "変更内容を登録して終了します。よろしいですか ?", "登録の確認")) return;
   OpnCommentTake(dialog, shown);
   OpnGroupSave();
@@ -91,7 +92,7 @@ struct Button {
 constexpr Button kButtons[] = {
     {IDC_OPN_GROUP_ADD, Add},
     {IDC_OPN_GROUP_REMOVE, Remove},
-    {IDC_OPN_DETAILS, DspListOpnFileHisDlgRun},
+    {IDC_OPN_DETAILS, DspListOpnFileHisDlgRun},  // kept: the details of a group list the history
     {1, Set},
     {2, Cancel},
 };

@@ -16,7 +16,7 @@ void Open(WindowHandle dialog) {
   const ListQuiet quiet(dialog, IDC_OPN_GROUP);
   for (int i = 0; i < OpnSearchResult.count; ++i) {
     char text[kOpnGroupRowSize];
-    OpnGroupRowText(OpnSearchResult.groups[i], text, sizeof text);
+    OpnGroupRowText(OpnSearchGroup(i), text, sizeof text);
     ListAdd(dialog, IDC_OPN_GROUP, text);
   }
   ListSelect(dialog, IDC_OPN_GROUP, 0);
@@ -25,7 +25,7 @@ void Open(WindowHandle dialog) {
 void Choose(WindowHandle dialog) {
   const int row = ListSelected(dialog, IDC_OPN_GROUP);
   if (row < 0 || row >= OpnSearchResult.count) return;
-  chosen = OpnSearchResult.groups[row];
+  chosen = OpnSearchGroup(row);
   SubDialogEnd(dialog, kChoose);
 }
 

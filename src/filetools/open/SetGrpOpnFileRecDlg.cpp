@@ -27,7 +27,7 @@ void Register(WindowHandle dialog) {
   const bool over = OpnGroupAddRecord(group) != 0;
   OpnGroupsShow(dialog, group);
   OpnGroupShow(dialog, group);
-  // kept: a refusal saves nothing, but the files stay in the group in memory.
+  // kept: a group whose overflow is refused is not saved, but keeps its files in memory.
   if (over && !BoxAsk(dialog, "1グループのファイル数=最大30個をオーバーしました。登録しますか?",
                       "ファイル登録数オーバー")) {
     return;

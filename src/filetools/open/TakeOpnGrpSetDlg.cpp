@@ -26,7 +26,7 @@ constexpr Search kSearches[] = {
 };
 
 void SearchRun(WindowHandle dialog, const Search& search) {
-  char text[kOpnSearchSize];
+  char text[kOpnSearchSize + 1];  // a byte more, so that a pair that is cut shows
   ControlGetText(dialog, search.field, text, sizeof text);
   if (search.run(text) == 0) {
     BoxTell(dialog, "一致するグループは見つかりませんでした", search.failed);

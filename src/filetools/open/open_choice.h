@@ -1,18 +1,12 @@
-// What the open dialogs work on: the lists of files and programs with a browsed row
-// behind their ends, and the rows that are chosen.
+// Which rows of the lists of files and programs are chosen in the open dialogs.
 //
 // A browsed file or program stands behind the last row until it is started; another
 // one that is browsed takes its place.
 #pragma once
 
-#include "filetools/open/open_programs.h"
-#include "filetools/open/open_state.h"
-
 struct OpnWorkRec {
-  int fileCount;  // rows of the history with the browsed one, up to 200
-  int progCount;  // rows of OpnProgList with the browsed one, up to 203
-  int fileSel;    // chosen row of the history, -1 for none
-  int progSel;    // chosen row of the program lists: 0 the associated program, n row n - 1 of OpnProgList
+  int fileSel;  // chosen row of the history, -1 for none
+  int progSel;  // chosen row of the program lists: 0 the associated program, n row n - 1 of OpnProgList
 };
 extern OpnWorkRec OpnWork;
 
@@ -21,6 +15,9 @@ void OpnWorkReset();
 
 // Chooses a file with its program.
 void OpnWorkChoose(int fileRow);
+
+// Chooses both as the lists show them.
+void OpnWorkTake(int fileRow, int progRow);
 
 // The row of a file's program in the program lists: 0 when it has none, or one that
 // the list does not hold.

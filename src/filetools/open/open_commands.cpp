@@ -4,7 +4,11 @@
 #include "filetools/open/open_dialogs.h"
 #include "filetools/open/open_groups.h"
 #include "filetools/open/open_history.h"
+#include "filetools/open/open_launch.h"
 #include "filetools/open/open_programs.h"
+#include "filetools/open/open_record.h"
+#include "filetools/open/open_selection.h"
+#include "filetools/open/open_walk.h"
 #include "platform/window.h"
 #include "services/boxes.h"
 #include "services/commands.h"
@@ -31,7 +35,7 @@ int FileOpen() {
 
 int GroupSet() {
   // Without FileOpnDialog before it, an empty table would be saved over the file.
-  if (!OpnProgListBuilt) TablesRead();
+  if (!OpnProgList.built) TablesRead();
   FileOpnGrpSetDlgRun();
   return 0;
 }
@@ -40,6 +44,19 @@ int GroupSet() {
 
 void CommandFileOpen(Command) {
   if (FeatureDialogRun(Feature::FileOpening, FileOpen) != 0) CommandSend(Command::OpenGroupSet);
+}
+
+void CommandOpenWalk(Command) {
+  if (WalkStartOpen() != 0) CommandSend(Command::OpenLaunch);
+}
+
+void CommandOpenLaunch(Command) {
+  if (OpnSelection.fileName[0] == '\0') return;  // nothing was chosen yet
+  OpnLaunch();
+  const bool changed = OpnHisUpdate();
+  OpnRecordAdd();
+  if (changed) OpnHisSave();
+  FileOpnDialogRefresh();
 }
 
 void CommandOpenAddFile(Command) {

@@ -2,8 +2,9 @@
 
 #include "filetools/open/open_choice.h"
 #include "filetools/open/open_groups.h"
+#include "filetools/open/open_history.h"
+#include "filetools/open/open_programs.h"
 #include "filetools/open/open_record.h"
-#include "filetools/open/open_text.h"
 #include "platform/dialog.h"
 #include "resources/filetools_ids.h"
 #include "services/text.h"
@@ -17,7 +18,7 @@ void OpnRowAdd(WindowHandle dialog, int list, const char* name, const char* fold
 void OpnFilesShow(WindowHandle dialog) {
   const ListQuiet quiet(dialog, IDC_OPN_FILE);
   ListClear(dialog, IDC_OPN_FILE);
-  for (int row = 0; row < OpnWork.fileCount; ++row) {
+  for (int row = 0; row < OpnHistory.workCount; ++row) {
     OpnRowAdd(dialog, IDC_OPN_FILE, OpnHistory.fileName[row], OpnHistory.filePath[row]);
   }
   ListSelect(dialog, IDC_OPN_FILE, OpnWork.fileSel);
@@ -27,7 +28,7 @@ void OpnProgramsShow(WindowHandle dialog) {
   const ListQuiet quiet(dialog, IDC_OPN_PROGRAM);
   ListClear(dialog, IDC_OPN_PROGRAM);
   ListAdd(dialog, IDC_OPN_PROGRAM, "関連づけプログラム");
-  for (int row = 0; row < OpnWork.progCount; ++row) {
+  for (int row = 0; row < OpnProgList.workCount; ++row) {
     OpnRowAdd(dialog, IDC_OPN_PROGRAM, OpnProgList.progName[row], OpnProgList.progPath[row]);
   }
   ListSelect(dialog, IDC_OPN_PROGRAM, OpnWork.progSel);

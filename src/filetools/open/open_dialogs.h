@@ -32,8 +32,3 @@ void SetGrpOpnFileRecDlgRun(WindowHandle owner);
 
 // DelListOpnFileHisDlg: takes rows out of the history. True when it has changed.
 bool DelListOpnFileHisDlgRun(WindowHandle owner);
-
-// SetOpnFileAnimeDlg; while the mail settings are the active feature, SetMailAnimeDlg
-// on the settings of the mail notice. True when the user has set them; the history
-// file is written then, the mail's file is left to the caller.
-bool SetOpnFileAnimeDlgRun(WindowHandle owner);

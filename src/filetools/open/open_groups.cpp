@@ -1,12 +1,13 @@
 #include "filetools/open/open_groups.h"
 
+#include <algorithm>
 #include <cstring>
 #include <initializer_list>
 
 #include "filetools/open/open_record.h"
-#include "filetools/open/open_text.h"
-#include "services/data_file.h"
+#include "filetools/open/open_selection.h"
 #include "services/program.h"
+#include "services/record_file.h"
 #include "services/text.h"
 
 OpnGroupsState OpnGroups;
@@ -14,48 +15,18 @@ OpnGroupsState OpnGroups;
 namespace {
 
 constexpr char kName[] = "\\OpnGrpFile.lis";
-constexpr int kRecordSize = 36859;
-static_assert(kRecordSize * kOpnGroupMax == kOpnGroupFileSize);
-
-// The table as it stands in a file: what is read, or the copy aside.
-unsigned char image[kOpnGroupFileSize];
-
-// Reader and writer go through the one list of fields; `field` moves a block.
-template <class Field>
-bool Fields(OpnGroupRec& g, Field field) {
-  return field(&g.fileCount, 1) && field(g.fileName, sizeof g.fileName) &&
-         field(g.filePath, sizeof g.filePath) && field(g.progName, sizeof g.progName) &&
-         field(g.progPath, sizeof g.progPath) && field(g.reserved, sizeof g.reserved) &&
-         field(g.comment, sizeof g.comment);
+void Copy(OpnGroupRec (&to)[kOpnGroupMax], const OpnGroupRec (&from)[kOpnGroupMax]) {
+  std::copy_n(from, kOpnGroupMax, to);
 }
 
-void FromImage() {
-  const unsigned char* at = image;
-  for (OpnGroupRec& group : OpnGroups.OpnGroupTable) {
-    Fields(group, [&](void* to, std::size_t size) {
-      std::memcpy(to, at, size);
-      at += size;
-      return true;
-    });
-  }
-}
-
-void ToImage() {
-  unsigned char* at = image;
-  for (OpnGroupRec& group : OpnGroups.OpnGroupTable) {
-    Fields(group, [&](const void* from, std::size_t size) {
-      std::memcpy(at, from, size);
-      at += size;
-      return true;
-    });
-  }
-}
-
-bool CountsFit() {
-  for (int group = 0; group < kOpnGroupMax; ++group) {
-    if (image[group * kRecordSize] > kOpnGroupFileMax) return false;
-  }
-  return true;
+int Add(OpnGroupRec& g, const OpnSelectionRec& file) {
+  if (g.fileCount >= kOpnGroupFileMax) return -1;
+  OpnTextSet(g.fileName[g.fileCount], file.fileName);
+  OpnTextSet(g.filePath[g.fileCount], file.filePath);
+  OpnTextSet(g.progName[g.fileCount], file.progName);
+  OpnTextSet(g.progPath[g.fileCount], file.progPath);
+  ++g.fileCount;
+  return 0;
 }
 
 bool IsGroup(int group) {
@@ -69,10 +40,12 @@ int OpnGroupLoad() {
   RootPath(path, sizeof path, kName);
   DataFile data;
   if (!DataOpenRead(data, path, OpenMode::Read)) return -1;
-  // One read in place of 1400: nobody sees the difference but the user, who waits.
-  if (!DataRead(data, image, kOpnGroupFileSize) || !CountsFit()) return DataFailShort(data);
+  if (!RecordsRead(data, OpnGroups.aside)) return DataFailShort(data);
   DataClose(data);
-  FromImage();
+  // settled: a group that counts more files than it has room for keeps 30, and all other
+  // groups are as they were saved.
+  for (OpnGroupRec& g : OpnGroups.aside) g.fileCount = std::min<std::uint8_t>(g.fileCount, kOpnGroupFileMax);
+  OpnGroupsBack();
   return 0;
 }
 
@@ -82,22 +55,17 @@ int OpnGroupSave() {
   FileResult.FileStatus = 0;
   DataFile data;
   if (!DataReplace(data, path)) return -1;
-  for (OpnGroupRec& group : OpnGroups.OpnGroupTable) {
-    const auto write = [&](const void* from, std::size_t size) {
-      return DataWrite(data, from, static_cast<int>(size));
-    };
-    if (!Fields(group, write)) return DataFailShort(data);
-  }
+  if (!RecordsWrite(data, OpnGroups.OpnGroupTable)) return DataFailShort(data);
   DataClose(data);
   return 0;
 }
 
 void OpnGroupsKeep() {
-  ToImage();
+  Copy(OpnGroups.aside, OpnGroups.OpnGroupTable);
 }
 
 void OpnGroupsBack() {
-  FromImage();
+  Copy(OpnGroups.OpnGroupTable, OpnGroups.aside);
 }
 
 int OpnGroupFind(int group) {
@@ -113,15 +81,7 @@ int OpnGroupFind(int group) {
 }
 
 int OpnGroupAddFile(int group) {
-  if (!IsGroup(group)) return -1;
-  OpnGroupRec& g = OpnGroups.OpnGroupTable[group];
-  if (g.fileCount >= kOpnGroupFileMax) return -1;
-  OpnTextSet(g.fileName[g.fileCount], OpnSelection.fileName);
-  OpnTextSet(g.filePath[g.fileCount], OpnSelection.filePath);
-  OpnTextSet(g.progName[g.fileCount], OpnSelection.progName);
-  OpnTextSet(g.progPath[g.fileCount], OpnSelection.progPath);
-  ++g.fileCount;
-  return 0;
+  return IsGroup(group) ? Add(OpnGroups.OpnGroupTable[group], OpnSelection) : -1;
 }
 
 void OpnGroupRemoveFile(int group, int row) {
@@ -134,13 +94,11 @@ void OpnGroupRemoveFile(int group, int row) {
 }
 
 int OpnGroupAddRecord(int group) {
+  if (!IsGroup(group)) return -1;
   int result = 0;
-  OpnSelectionSave = OpnSelection;
   for (int row = 0; row < OpnRecord.recCount && result == 0; ++row) {
-    OpnSelection = OpnRecord.rows[row];
-    result = OpnGroupAddFile(group);
+    result = Add(OpnGroups.OpnGroupTable[group], OpnRecord.rows[row]);
   }
-  OpnSelection = OpnSelectionSave;
   return result;
 }
 

@@ -1,14 +1,8 @@
 #include "filetools/open/open_launch.h"
 
-#include "filetools/open/open_choice.h"
-#include "filetools/open/open_commands.h"
-#include "filetools/open/open_dialogs.h"
-#include "filetools/open/open_history.h"
-#include "filetools/open/open_record.h"
-#include "filetools/open/open_state.h"
+#include "filetools/open/open_selection.h"
 #include "platform/file.h"
 #include "platform/process.h"
-#include "services/commands.h"
 #include "services/text.h"
 
 namespace {
@@ -17,12 +11,12 @@ constexpr unsigned kIdleWait = 5000;
 constexpr int kProgramSize = 600;
 constexpr int kLineSize = kProgramSize + 4 * kOpnTextSize;
 
-// kept: the program stands without quotes.
+// kept: in a command line the program stands without quotes.
 void CommandLineMake(char* line, std::size_t size) {
   const OpnSelectionRec& s = OpnSelection;
   if (s.progName[0] != '\0') {
-    // kept: the file's folder is current for a moment, is read back, and gives way to
-    // the program's.
+    // kept: before a start the file's folder is current for a moment, is read back, and
+    // gives way to the program's.
     char folder[kProgramSize];
     FolderSetCurrent(s.filePath);
     FolderGetCurrent(folder, sizeof folder);
@@ -38,6 +32,8 @@ void CommandLineMake(char* line, std::size_t size) {
 
 }  // namespace
 
+// kept: nothing else goes on until the started program is idle, for up to 5 seconds, and
+// the current folder stays where it went.
 void OpnLaunch() {
   char line[kLineSize];
   CommandLineMake(line, sizeof line);
@@ -45,13 +41,4 @@ void OpnLaunch() {
   if (!process) return;
   ProcessWaitIdle(process, kIdleWait);
   ProcessClose(process);
-}
-
-void CommandOpenLaunch(Command) {
-  if (OpnSelection.fileName[0] == '\0') return;  // nothing was chosen yet
-  OpnLaunch();
-  const bool changed = OpnHisUpdate();
-  OpnRecordAdd();
-  if (changed) OpnHisSave();
-  FileOpnDialogRefresh();
 }

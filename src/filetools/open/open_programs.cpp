@@ -1,15 +1,13 @@
 #include "filetools/open/open_programs.h"
 
+#include <algorithm>
 #include <cstring>
 
-#include "filetools/open/open_choice.h"
-#include "filetools/open/open_text.h"
 #include "platform/process.h"
 #include "services/path.h"
 #include "services/text.h"
 
 OpnProgListRec OpnProgList;
-bool OpnProgListBuilt;
 
 namespace {
 
@@ -21,6 +19,7 @@ constexpr Association kAssociations[] = {
     {"txt", "txtfile\\shell\\open\\command"},
     {"cpp", "cfile\\shell\\&Open with MSDev\\command"},
     {"pdf", "PDXFileType\\shell\\Open\\command"},
+    // kept: how documents are opened is known, and nothing asks for it.
     {"doc", "DocShortcut\\shell\\open\\command"},
 };
 constexpr const char* kListed[] = {"txt", "cpp", "pdf"};
@@ -28,13 +27,15 @@ constexpr const char* kListed[] = {"txt", "cpp", "pdf"};
 constexpr char kSystemRoot[] = "%SystemRoot%";
 constexpr char kWindowsFolder[] = "C:\\WINDOWS";
 
+void Put(int row, const char* name, const char* folder) {
+  OpnTextSet(OpnProgList.progName[row], name);
+  OpnTextSet(OpnProgList.progPath[row], folder);
+}
+
 void Add(const char* name, const char* folder) {
-  if (OpnProgFind(name, folder, OpnProgList.progCount) >= 0 || OpnProgList.progCount >= kOpnProgRows - 1) {
-    return;
-  }
-  OpnTextSet(OpnProgList.progName[OpnProgList.progCount], name);
-  OpnTextSet(OpnProgList.progPath[OpnProgList.progCount], folder);
-  ++OpnProgList.progCount;
+  if (OpnProgFind(name, folder) >= 0 || OpnProgList.progCount >= kOpnProgRows - 1) return;
+  Put(OpnProgList.progCount, name, folder);
+  OpnProgList.workCount = ++OpnProgList.progCount;
 }
 
 // Cuts the arguments off: at the first double quote or blank behind the first dot.
@@ -52,13 +53,15 @@ void CutName(char* name) {
   }
 }
 
-// kept: a folder keeps the double quote that a quoted command begins with.
+// kept: the folder of an associated program keeps the double quote that a quoted command
+// begins with.
+// kept: an association without a backslash is a row with an empty name, and all of the
+// command for its folder.
 void AddAssociation(const char* extension) {
   char command[kOpnCommandSize];
   if (!OpnFindAssociation(extension, command, sizeof command)) return;
   PathSplit(command);
   CutName(PathParts.PathName);
-  if (PathParts.PathName[0] == '\0') return;  // no backslash in it: no folder to start it from
   char folder[kPathSplitSize + sizeof kWindowsFolder];
   if (std::strncmp(PathParts.PathFolder, kSystemRoot, sizeof kSystemRoot - 1) == 0) {
     TextFormat(folder, sizeof folder, "%s%s", kWindowsFolder, PathParts.PathFolder + sizeof kSystemRoot - 1);
@@ -70,24 +73,53 @@ void AddAssociation(const char* extension) {
 
 }  // namespace
 
+// kept: the list of programs is made once in a run, and again only after the whole history
+// was deleted.
 void OpnBuildProgList() {
-  if (OpnProgListBuilt) return;
-  OpnProgListBuilt = true;
-  OpnProgList.progCount = 0;
+  if (OpnProgList.built) return;
+  OpnProgListForget();
+  OpnProgList.built = true;
   for (int row = 0; row < OpnHistory.fileCount; ++row) {
     if (OpnHistory.progName[row][0] != '\0') Add(OpnHistory.progName[row], OpnHistory.progPath[row]);
   }
   for (const char* extension : kListed) AddAssociation(extension);
-  OpnWork.progCount = OpnProgList.progCount;
 }
 
-int OpnProgFind(const char* name, const char* folder, int count) {
-  for (int row = 0; row < count && row < kOpnProgRows; ++row) {
+void OpnProgListForget() {
+  OpnProgList.progCount = 0;
+  OpnProgList.workCount = 0;
+  OpnProgList.built = false;
+}
+
+int OpnProgFind(const char* name, const char* folder) {
+  for (int row = 0; row < OpnProgList.workCount; ++row) {
     if (OpnTextSame(OpnProgList.progName[row], name) && OpnTextSame(OpnProgList.progPath[row], folder)) {
       return row;
     }
   }
   return -1;
+}
+
+// kept: when a program is browsed, a program list that was built with more than 199 loses those
+// beyond.
+bool OpnProgBrowse(const char* name, const char* folder) {
+  const int row = OpnProgList.progCount;
+  Put(row, name, folder);
+  OpnProgList.workCount = std::min(row + 1, kOpnProgMax);
+  return row < kOpnProgMax;
+}
+
+void OpnProgBrowsedTake() {
+  OpnProgList.progCount = OpnProgList.workCount;
+}
+
+void OpnProgBrowsedDrop() {
+  OpnProgList.workCount = OpnProgList.progCount;
+}
+
+void OpnProgToTop(int row) {
+  OpnRowToTop(OpnProgList.progName, row);
+  OpnRowToTop(OpnProgList.progPath, row);
 }
 
 bool OpnFindAssociation(const char* extension, char* command, int size) {

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 
-#include "filetools/open/open_text.h"
 #include "services/text.h"
 
 OpnRecordRec OpnRecord;
@@ -24,11 +23,15 @@ void OpnRecordAdd() {
   OpnRecord.rows[0] = OpnSelection;
 }
 
+void OpnRecordClear() {
+  OpnRecord.recCount = 0;
+}
+
+// settled: a name in the open record that is as long as its column, or longer, is not cut,
+// and the program follows at once.
 void OpnRecordRowText(int row, char* text, int size) {
   const OpnSelectionRec& record = OpnRecord.rows[row];
   const char* program = record.progName[0] != '\0' ? record.progName : "関連プログラム";
-  // A name that fills its column is still parted from the program by a blank.
-  const bool fills = TextLength(record.fileName, kOpnTextUsed) >= kFileColumn;
-  TextFormat(text, static_cast<std::size_t>(size), "%-*.*s%s%-*.*s", kFileColumn, kOpnTextUsed,
-             record.fileName, fills ? " " : "", kProgramColumn, kOpnTextUsed, program);
+  TextFormat(text, static_cast<std::size_t>(size), "%-*.*s%-*.*s", kFileColumn, kOpnTextUsed, record.fileName,
+             kProgramColumn, kOpnTextUsed, program);
 }

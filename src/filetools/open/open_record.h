@@ -2,7 +2,7 @@
 // is not saved.
 #pragma once
 
-#include "filetools/open/open_state.h"
+#include "filetools/open/open_selection.h"
 
 inline constexpr int kOpnRecordMax = 100;
 
@@ -15,6 +15,9 @@ extern OpnRecordRec OpnRecord;
 // Adds what OpnSelection holds, unless a row is equal to it. The hundred and first
 // row falls off the end.
 void OpnRecordAdd();
+
+// Forgets all rows.
+void OpnRecordClear();
 
 // How a row reads: the file in a column of 36 characters, the program in one of 70.
 // A longer name pushes what follows to the right.

@@ -1,37 +1,37 @@
 #include "filetools/open/open_search.h"
 
-#include "filetools/open/open_groups.h"
-#include "filetools/open/open_text.h"
+#include <algorithm>
+#include <cstring>
+
 #include "services/text.h"
 
 OpnSearchResultRec OpnSearchResult;
 
 namespace {
 
-constexpr int kCommentWordMax = 20;
-constexpr int kCommentWordSize = 255;
-
 struct Word {
   const char* text;
   int length;
 };
-Word words[kOpnSearchWordMax];
-char field[kOpnSearchSize];
-
-char Lower(char c) {
-  return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
-}
 
 // Bytes of the character at `text`.
 int Step(const char* text) {
   return IsSjisLead(text[0]) && text[1] != '\0' ? 2 : 1;
 }
 
-// Cuts the field into words; their number. A double-byte blank is a character like
-// any other.
-int Cut(const char* text) {
-  TextCopy(field, sizeof field, text);
+// The words of a search field.
+// kept: a double-byte blank parts no words of a search.
+struct Words {
+  explicit Words(const char* text);
   int count = 0;
+  Word words[kOpnSearchWordMax];
+  char field[kOpnSearchSize];
+};
+
+Words::Words(const char* text) {
+  const std::size_t length = TextPrefix(text, sizeof field - 1);
+  std::memcpy(field, text, length);
+  field[length] = '\0';
   const char* at = field;
   while (*at != '\0') {
     if (*at == ' ') {
@@ -40,9 +40,17 @@ int Cut(const char* text) {
     }
     const char* start = at;
     while (*at != '\0' && *at != ' ') at += Step(at);
-    if (count < kOpnSearchWordMax) words[count++] = {start, static_cast<int>(at - start)};
+    words[count++] = {start, static_cast<int>(at - start)};
   }
-  return count;
+}
+
+// What counts of a word that is looked for in comments.
+Word CommentWord(const Word& word) {
+  return {word.text, std::min(word.length, static_cast<int>(TextPrefix(word.text, kOpnCommentWordSize)))};
+}
+
+char Lower(char c) {
+  return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
 }
 
 bool BeginsWith(const char* name, const Word& word) {
@@ -57,32 +65,40 @@ bool BeginsWith(const char* name, const Word& word) {
   return true;
 }
 
-// kept: the scan starts anew behind a byte that did not match, so that "aab" is not
-// found in "aaab".
+// kept: the search of comments starts anew behind a byte that did not match, so that
+// "aab" is not found in "aaab".
 bool Holds(const char* comment, const Word& word) {
-  const int length = word.length < kCommentWordSize ? word.length : kCommentWordSize;
   int matched = 0;
   for (int i = 0; i < kOpnCommentSize - 1 && comment[i] != '\0'; ++i) {
     matched = comment[i] == word.text[matched] ? matched + 1 : 0;
-    if (matched == length) return true;
+    if (matched == word.length) return true;
   }
   return false;
 }
 
 void Found(int group) {
-  OpnSearchResult.groups[OpnSearchResult.count++] = static_cast<std::uint8_t>(group);
+  ++OpnSearchResult.matches[group];
+  ++OpnSearchResult.count;
 }
 
 }  // namespace
 
+int OpnSearchGroup(int row) {
+  int group = 0;
+  while (group < kOpnGroupMax - 1 && row >= OpnSearchResult.matches[group]) {
+    row -= OpnSearchResult.matches[group++];
+  }
+  return group;
+}
+
 int OpnSearchNames(const char* text) {
-  const int count = Cut(text);
-  OpnSearchResult.count = 0;
+  const Words words(text);
+  OpnSearchResult = {};
   for (int group = 0; group < kOpnGroupMax; ++group) {
     const OpnGroupRec& g = OpnGroups.OpnGroupTable[group];
-    for (int word = 0; word < count; ++word) {
+    for (int word = 0; word < words.count; ++word) {
       for (int row = 0; row < g.fileCount; ++row) {
-        if (BeginsWith(g.fileName[row], words[word])) Found(group);
+        if (BeginsWith(g.fileName[row], words.words[word])) Found(group);
       }
     }
   }
@@ -90,14 +106,14 @@ int OpnSearchNames(const char* text) {
 }
 
 int OpnSearchComments(const char* text) {
-  const int cut = Cut(text);
-  const int count = cut < kCommentWordMax ? cut : kCommentWordMax;
-  OpnSearchResult.count = 0;
+  const Words words(text);
+  OpnSearchResult = {};
   for (int group = 0; group < kOpnGroupMax; ++group) {
     const OpnGroupRec& g = OpnGroups.OpnGroupTable[group];
+    // settled: a group without files is passed over by the search of comments too.
     if (g.fileCount == 0) continue;
-    for (int word = 0; word < count; ++word) {
-      if (Holds(g.comment, words[word])) Found(group);
+    for (int word = 0; word < std::min(words.count, kOpnCommentWordMax); ++word) {
+      if (Holds(g.comment, CommentWord(words.words[word]))) Found(group);
     }
   }
   return OpnSearchResult.count;

@@ -21,19 +21,6 @@ void OpnRowText(char* text, int size, const char* name, const char* folder) {
   TextFormat(text, static_cast<std::size_t>(size), "%s [%s]", OpnText(name).text, OpnText(folder).text);
 }
 
-bool OpnSelectionSame(const OpnSelectionRec& a, const OpnSelectionRec& b) {
-  return OpnTextSame(a.fileName, b.fileName) && OpnTextSame(a.filePath, b.filePath) &&
-         OpnTextSame(a.progName, b.progName) && OpnTextSame(a.progPath, b.progPath);
-}
-
-void OpnSelectionSet(OpnSelectionRec& to, const char* fileName, const char* filePath, const char* progName,
-                     const char* progPath) {
-  OpnTextSet(to.fileName, fileName);
-  OpnTextSet(to.filePath, filePath);
-  OpnTextSet(to.progName, progName);
-  OpnTextSet(to.progPath, progPath);
-}
-
 void OpnRowRemove(char (*column)[kOpnTextSize], int row, int count) {
   if (row < 0 || row >= count) return;
   std::memmove(column[row], column[row + 1], static_cast<std::size_t>(count - row - 1) * kOpnTextSize);

@@ -1,12 +1,11 @@
 // Names and folders in the fixed fields of the open tables.
 //
-// kept: of a field's 300 bytes the first 256 count. So many are copied, compared
-// and shown; a longer name or folder is cut there, even inside a double-byte pair.
+// kept: of a name's 300 bytes the first 256 count. So many are copied, compared and
+// shown; a longer name or folder is cut there, even inside a double-byte pair.
 // Fields that come from a file need no terminator.
 #pragma once
 
-#include "filetools/open/open_state.h"
-
+inline constexpr int kOpnTextSize = 300;
 inline constexpr int kOpnTextUsed = 256;
 
 // A field as terminated text.
@@ -26,13 +25,6 @@ bool OpnTextSame(const char* a, const char* b);
 
 // "name [folder]", as files and programs read in all lists.
 void OpnRowText(char* text, int size, const char* name, const char* folder);
-
-// True if all four texts are the same.
-bool OpnSelectionSame(const OpnSelectionRec& a, const OpnSelectionRec& b);
-
-// Fills all four fields.
-void OpnSelectionSet(OpnSelectionRec& to, const char* fileName, const char* filePath, const char* progName,
-                     const char* progPath);
 
 // Takes a row out of a column of `count` rows: those behind it move up.
 void OpnRowRemove(char (*column)[kOpnTextSize], int row, int count);

@@ -6,6 +6,7 @@
 #include "character/walk.h"
 #include "mail_music/mail/mail.h"
 #include "mail_music/mail/mail_setting.h"
+#include "mail_music/mail/mail_walk.h"
 #include "platform/canvas.h"
 #include "platform/dialog.h"
 #include "platform/window.h"
@@ -24,11 +25,9 @@ constexpr int kTextX = 10;
 constexpr int kTextY = 100;
 constexpr std::int32_t kTicksOfFrame = 5;
 
-int frameNow;
-
 // Under the end picture; the picture counts as no height when it is not there.
 Point Place() {
-  if (Mail.MailPhase != kMailWalking) return {0, 0};
+  if (Walk.MailPhase != kMailWalking) return {0, 0};
   const WalkSlot& s = Walk.WalkSlots[Walk.WalkSlotNow];
   const int frame = WalkFrameOf(s.endFrames[0]);
   return {Walk.WalkLastX,
@@ -40,11 +39,11 @@ void Begin(WindowHandle window) {
   WindowMove(window, place.x, place.y, kWidth, kHeight, false);
   WindowSetTopmost(window);
   FiveTicksStart(kTicksOfFrame);
-  frameNow = 0;
+  Mail.MailFrame = 0;
 }
 
 void Paint(WindowHandle window) {
-  AlarmFrameShow(window, kPictureBox, AlarmImages.AlarmRows[kAlarmMail], frameNow);
+  AlarmFrameShow(window, kPictureBox, AlarmImages.AlarmRows[kAlarmMail], Mail.MailFrame);
   Canvas* canvas = CanvasGet(window);
   if (!canvas) return;
   CanvasBackTransparent(canvas, true);
@@ -60,7 +59,7 @@ void Paint(WindowHandle window) {
 constexpr NoticeWindow kNotice{&Mail.hMailNoticeWnd, Begin, Paint};
 
 bool Proc(const Event& event) {
-  if (event.kind == EventKind::Destroy) Mail.MailPhase = 0;
+  if (event.kind == EventKind::Destroy) WalkMailPhaseSet(0);
   return NoticeEvent(kNotice, event);
 }
 
@@ -69,17 +68,16 @@ bool Proc(const Event& event) {
 void MailNoticeStart() {
   Mail.MailNoticeFlag = 0;
   const bool walks = WalkStartMail() == 0;
-  Walk.OpeningState = walks ? kOpeningFile : 0;
-  Mail.MailPhase = walks ? kMailWalking : kMailAlone;
-  if (!walks && !Mail.hMailNoticeWnd) MailNoticeOpen();
+  WalkMailPhaseSet(walks ? kMailWalking : kMailAlone);
+  if (!walks) MailNoticeOpen();
 }
 
 void MailNoticeOpen() {
-  DialogOpen(IDD_FlyingBat2X, Program.hMainWnd, Proc);
+  if (!Mail.hMailNoticeWnd) DialogOpen(IDD_FlyingBat2X, Program.hMainWnd, Proc);
 }
 
 void MailNoticeFrameStep() {
   if (!Mail.hMailNoticeWnd) return;
-  frameNow = AlarmFrameNext(AlarmImages.AlarmRows[kAlarmMail], frameNow);
+  Mail.MailFrame = AlarmFrameNext(AlarmImages.AlarmRows[kAlarmMail], Mail.MailFrame);
   SendPaint(Mail.hMailNoticeWnd);
 }

@@ -6,10 +6,6 @@
 #include "platform/socket.h"
 #include "platform/types.h"
 
-// MailPhase; 1 is a check that is wanted.
-inline constexpr std::int32_t kMailWalking = 2;
-inline constexpr std::int32_t kMailAlone = 3;  // the walk could not start
-
 struct MailState {
   std::int32_t MailInterval = 0;  // units of 6000 ticks between two checks
   int MailSocket = kNoSocket;
@@ -18,9 +14,9 @@ struct MailState {
   WindowHandle hMailNoticeWnd = nullptr;  // FlyingBat2X
   bool MailCheckOn = false;
   std::int32_t MailNoticeFlag = 0;  // 1: a mail has come, its walk is wanted
-  std::int32_t MailPhase = 0;       // 0: none
   std::int32_t MailTickCount = 0;   // up to 6000: one unit of the mail interval
   std::int32_t MailMinuteCount = 0;
+  int MailFrame = 0;  // the picture of the notice
 };
 extern MailState Mail;
 
@@ -30,3 +26,10 @@ int MailSettingsRead();
 
 // Closes the sockets that are open.
 void MailSocketsClose();
+
+// A mail has come: the walking character brings the notice, or it opens at once. Sets
+// the mail phase.
+void MailNoticeStart();
+
+// The next picture of the mail notice, and its repaint; nothing while it is closed.
+void MailNoticeFrameStep();

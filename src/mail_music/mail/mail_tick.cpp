@@ -1,6 +1,5 @@
 #include "mail_music/mail/mail_tick.h"
 
-#include "mail_music/mail/mail.h"
 #include "services/commands.h"
 
 namespace {

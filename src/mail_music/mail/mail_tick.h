@@ -1,7 +1,7 @@
 // The mail notice's steps of the tick.
 #pragma once
 
-#include "character/notices.h"
+#include "mail_music/mail/mail.h"
 #include "services/tick_step.h"
 
 // While mail is checked: counts the interval, sends command 2079 at its end, and lets

@@ -42,8 +42,10 @@ HWND ListControl(WindowHandle dialog, int id) {
   return last;
 }
 
-bool ScrollsSideways(HWND list) {
-  return list && (GetWindowLongPtrW(list, GWL_STYLE) & WS_HSCROLL) != 0 && !IsComboBox(list);
+// A list box hides its style WS_HSCROLL while its rows are short, so every one gets its
+// extent; one without a bar takes no notice.
+bool IsListBox(HWND list) {
+  return list && !IsComboBox(list);
 }
 
 // Lets a list scroll as far as `row` needs, in the list's own font.
@@ -209,14 +211,13 @@ bool ControlIsChecked(WindowHandle dialog, int id) {
 
 void ListClear(WindowHandle dialog, int id) {
   ListSend(dialog, id, LB_RESETCONTENT, CB_RESETCONTENT, 0, 0);
-  if (ScrollsSideways(ListControl(dialog, id)))
-    SendMessageW(ListControl(dialog, id), LB_SETHORIZONTALEXTENT, 0, 0);
+  if (IsListBox(ListControl(dialog, id))) SendMessageW(ListControl(dialog, id), LB_SETHORIZONTALEXTENT, 0, 0);
 }
 
 int ListAdd(WindowHandle dialog, int id, const char* text) {
   const std::wstring row = Wide(text);
   HWND list = ListControl(dialog, id);
-  if (ScrollsSideways(list)) Widen(list, row);
+  if (IsListBox(list)) Widen(list, row);
   return static_cast<int>(
       ListSend(dialog, id, LB_ADDSTRING, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(row.c_str())));
 }

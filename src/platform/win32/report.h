@@ -1,6 +1,6 @@
-// What a build lays open to the tests that drive it from outside. The program is linked
-// with report_none.cpp, which lays nothing open; the build that the tests start with
-// report.cpp.
+// What a build lays open to the tests that drive it from outside. The platform
+// library has report_none.cpp, which lays nothing open; the build that the tests start is
+// linked with report.cpp before it.
 #pragma once
 
 #include <windows.h>

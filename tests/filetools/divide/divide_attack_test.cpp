@@ -8,7 +8,7 @@
 
 #include "filetools/divide/cof_record.h"
 #include "filetools/divide/div_key_block.h"
-#include "services/big_endian.h"
+#include "tests/support/byte_order.h"
 #include "tests/filetools/divide/divide_fixture.h"
 
 namespace {

@@ -24,7 +24,7 @@ TEST_F(OpenDialogTest, ACalledGroupOpensOnTheNextTickWithNobodyToWalk) {
   });
   ThenPress(kOk);
   OpenDialog();
-  EXPECT_EQ(OpnPendingGroup, &OpnGroups.OpnGroupTable[2]);
+  EXPECT_EQ(GroupRun.OpnPendingGroup, &OpnGroups.OpnGroupTable[2]);
   EXPECT_EQ(Walk.OpeningState, 0);
   EXPECT_EQ(Started(), Rows{});
   Ticks(1);
@@ -55,16 +55,16 @@ TEST_F(OpenDialogTest, AGroupWithNoFilesCalledRunsTheAnimationOpensNothingAndEnd
   OpenDialog();
   EXPECT_TRUE(Walk.WalkActive);
   EXPECT_EQ(Walk.OpeningState, 2);
-  EXPECT_NE(OpnPendingGroup, nullptr);
+  EXPECT_NE(GroupRun.OpnPendingGroup, nullptr);
   WalkThrough();
   Ticks(1);
-  EXPECT_EQ(OpnPendingGroup, nullptr);
+  EXPECT_EQ(GroupRun.OpnPendingGroup, nullptr);
   EXPECT_EQ(Started(), Rows{});
 }
 
 TEST_F(OpenDialogTest, ACancelledCallLeavesFileOpnDialogOpen) {
   In(IDC_OPN_TAKE_GROUP, [] { ThenPress(kCancel); });
-  EXPECT_EQ(OpnPendingGroup, nullptr);
+  EXPECT_EQ(GroupRun.OpnPendingGroup, nullptr);
 }
 
 TEST_F(OpenDialogTest, ASearchByNameLeadsToTheChosenGroup) {

@@ -3,6 +3,7 @@
 #include "character/character_tables.h"
 #include "character/walk.h"
 #include "mail_music/mail/mail.h"
+#include "mail_music/mail/mail_walk.h"
 #include "resources/character_ids.h"
 #include "resources/filetools_ids.h"
 #include "resources/mail_music_ids.h"
@@ -37,10 +38,10 @@ TEST_F(OpenAnimeTest, ThePresentSettingsAreShown) {
       EXPECT_EQ(TemplateOf(dialog), IDD_SetOpnFileAnimeDlg);
       EXPECT_EQ(WindowText(dialog), "ファイルオープン アニメーション/サウンド設定");
       EXPECT_EQ(Dialogs.DlgIdSub, SubDialog::SetOpnFileAnimeDlg);
-      EXPECT_TRUE(ControlIsChecked(dialog, IDC_OPN_ANIME));
-      EXPECT_FALSE(ControlIsChecked(dialog, IDC_OPN_SOUND));
-      EXPECT_EQ(RowsOf(IDC_OPN_SOUND_FILE), (Rows{"foot1.wav", "foot2.wav", "鐘.wav"}));
-      EXPECT_EQ(ChosenOf(IDC_OPN_SOUND_FILE), 1);
+      EXPECT_TRUE(ControlIsChecked(dialog, IDC_WALK_ANIME));
+      EXPECT_FALSE(ControlIsChecked(dialog, IDC_WALK_SOUND));
+      EXPECT_EQ(RowsOf(IDC_WALK_SOUND_FILE), (Rows{"foot1.wav", "foot2.wav", "鐘.wav"}));
+      EXPECT_EQ(ChosenOf(IDC_WALK_SOUND_FILE), 1);
     });
     ThenPress(kCancel);
   });
@@ -48,9 +49,9 @@ TEST_F(OpenAnimeTest, ThePresentSettingsAreShown) {
 
 TEST_F(OpenAnimeTest, TheSettingsAreStoredAndTheHistorySaved) {
   In(IDC_OPN_ANIMATION, [] {
-    ThenPress(IDC_OPN_ANIME);
-    ThenPress(IDC_OPN_SOUND);
-    ThenChoose(IDC_OPN_SOUND_FILE, 2);
+    ThenPress(IDC_WALK_ANIME);
+    ThenPress(IDC_WALK_SOUND);
+    ThenChoose(IDC_WALK_SOUND_FILE, 2);
     ThenPress(kOk);
   });
   const std::string file = FileBytes(HistoryPath());
@@ -63,12 +64,12 @@ TEST_F(OpenAnimeTest, TheSettingsAreStoredAndTheHistorySaved) {
 TEST_F(OpenAnimeTest, ACancelChangesNothing) {
   const std::string before = FileBytes(HistoryPath());
   In(IDC_OPN_ANIMATION, [] {
-    ThenPress(IDC_OPN_ANIME);
-    ThenChoose(IDC_OPN_SOUND_FILE, 0);
+    ThenPress(IDC_WALK_ANIME);
+    ThenChoose(IDC_WALK_SOUND_FILE, 0);
     ThenPress(kCancel);
   });
   In(IDC_OPN_ANIMATION, [] {
-    ThenPress(IDC_OPN_ANIME);
+    ThenPress(IDC_WALK_ANIME);
     Then([] { SendClose(TopDialog()); });
   });
   EXPECT_TRUE(FileBytes(HistoryPath()) == before);
@@ -79,7 +80,7 @@ TEST_F(OpenAnimeTest, WithoutAChosenSoundTheStoredOneStays) {
   OpnTextSet(OpnHistory.soundName, "gone.wav");
   SaveHistory();
   In(IDC_OPN_ANIMATION, [] {
-    ThenExpect([] { EXPECT_EQ(ChosenOf(IDC_OPN_SOUND_FILE), -1); });
+    ThenExpect([] { EXPECT_EQ(ChosenOf(IDC_WALK_SOUND_FILE), -1); });
     ThenPress(kOk);
   });
   EXPECT_EQ(SavedSound(), std::string("gone.wav") + std::string(292, '\0'));
@@ -88,16 +89,16 @@ TEST_F(OpenAnimeTest, WithoutAChosenSoundTheStoredOneStays) {
 TEST_F(OpenAnimeTest, ACheckPlaysWhatTheDialogShowsAndStoresNothing) {
   PutWalker();
   In(IDC_OPN_ANIMATION, [] {
-    ThenPress(IDC_OPN_SOUND);
-    ThenChoose(IDC_OPN_SOUND_FILE, 0);
+    ThenPress(IDC_WALK_SOUND);
+    ThenChoose(IDC_WALK_SOUND_FILE, 0);
     ThenExpect([] {
-      Press(TopDialog(), IDC_OPN_CHECK);
+      Press(TopDialog(), IDC_WALK_CHECK);
       EXPECT_EQ(SoundsPlayed(), Rows{"C:\\mirrell\\サウンド\\foot1.wav"});
       EXPECT_EQ(Walk.OpeningState, 3);
       EXPECT_TRUE(Walk.WalkActive);
       EXPECT_EQ(OpnHistory.soundOn, 0);
       EXPECT_STREQ(OpnHistory.soundName, "foot2.wav");
-      Press(TopDialog(), IDC_OPN_CHECK);  // one is running
+      Press(TopDialog(), IDC_WALK_CHECK);  // one is running
       EXPECT_EQ(SoundsPlayed().size(), 1U);
     });
     // The tick that opens the walking window, and three inside of the walk's windows.
@@ -115,7 +116,7 @@ TEST_F(OpenAnimeTest, ACheckPlaysWhatTheDialogShowsAndStoresNothing) {
 TEST_F(OpenAnimeTest, ClosingTheDialogEndsTheCheckAtOnce) {
   PutWalker();
   In(IDC_OPN_ANIMATION, [] {
-    ThenPress(IDC_OPN_CHECK);
+    ThenPress(IDC_WALK_CHECK);
     Then([] { Ticks(1); });
     ThenExpect([] {
       EXPECT_EQ(TemplateOf(TopDialog()), IDD_FlyingBat1);
@@ -134,7 +135,7 @@ TEST_F(OpenAnimeTest, ClosingTheDialogInTheEndPhaseOfTheCheckEndsItToo) {
   PutWalker();
   Character.CharaSet.EndWait[0] = 50;
   In(IDC_OPN_ANIMATION, [] {
-    ThenPress(IDC_OPN_CHECK);
+    ThenPress(IDC_WALK_CHECK);
     Then([] { Ticks(1); });
     Then([] { Ticks(1); });
     ThenExpect([] {
@@ -154,18 +155,18 @@ TEST_F(OpenAnimeTest, ACheckIsRefusedWhileANotificationIsRunning) {
   SaveHistory();
   In(IDC_OPN_ANIMATION, [] {
     ThenExpect([] {
-      for (std::int32_t* running : {&Walk.OpeningState, &Mail.MailPhase}) {
+      for (std::int32_t* running : {&Walk.OpeningState, &Walk.MailPhase}) {
         *running = 2;
-        Press(TopDialog(), IDC_OPN_CHECK);
+        Press(TopDialog(), IDC_WALK_CHECK);
         *running = 0;
       }
       for (bool* running : {&Walk.WalkActive, &Walk.WalkEndActive}) {
         *running = true;
-        Press(TopDialog(), IDC_OPN_CHECK);
+        Press(TopDialog(), IDC_WALK_CHECK);
         *running = false;
       }
       EXPECT_EQ(SoundsPlayed(), Rows{});
-      Press(TopDialog(), IDC_OPN_CHECK);
+      Press(TopDialog(), IDC_WALK_CHECK);
       EXPECT_EQ(SoundsPlayed().size(), 1U);
     });
     ThenPress(kCancel);
@@ -178,42 +179,40 @@ TEST_F(OpenAnimeTest, TheNameOfTheCharacterIsShown) {
   World.WorldCharaCount = 2;
   TextCopy(World.WorldCharas[1].name, sizeof World.WorldCharas[1].name, "ミル");
   In(IDC_OPN_ANIMATION, [] {
-    ThenExpect([] { EXPECT_EQ(ControlText(TopDialog(), IDC_OPN_CHARA), "ミル"); });
+    ThenExpect([] { EXPECT_EQ(ControlText(TopDialog(), IDC_WALK_CHARA), "ミル"); });
     ThenPress(kCancel);
   });
   World.WorldCharaCount = 0;
   World.WorldCharas[1] = {};
 }
 
-TEST_F(OpenAnimeTest, WithTheMailSettingsActiveTheDialogServesTheMailNotice) {
+TEST_F(OpenAnimeTest, TheDialogServesTheMailNoticeToo) {
   const std::string before = FileBytes(HistoryPath());
   MailSetting.soundOn = 1;
   TextCopy(MailSetting.soundName, sizeof MailSetting.soundName, "foot1.wav");
-  Panel.FuncNo = 11;
   ThenExpect([] {
     const WindowHandle dialog = TopDialog();
     EXPECT_EQ(TemplateOf(dialog), IDD_SetMailAnimeDlg);
     EXPECT_EQ(WindowText(dialog), "メール受信時アニメーション設定");
     EXPECT_EQ(Dialogs.DlgIdSub, SubDialog::SetOpnFileAnimeDlg);
-    EXPECT_FALSE(ControlIsChecked(dialog, IDC_OPN_ANIME));
-    EXPECT_TRUE(ControlIsChecked(dialog, IDC_OPN_SOUND));
-    EXPECT_EQ(ChosenOf(IDC_OPN_SOUND_FILE), 0);
-    Press(dialog, IDC_OPN_ANIME);
-    ChooseRow(dialog, IDC_OPN_SOUND_FILE, 2);
-    Press(dialog, IDC_OPN_CHECK);
+    EXPECT_FALSE(ControlIsChecked(dialog, IDC_WALK_ANIME));
+    EXPECT_TRUE(ControlIsChecked(dialog, IDC_WALK_SOUND));
+    EXPECT_EQ(ChosenOf(IDC_WALK_SOUND_FILE), 0);
+    Press(dialog, IDC_WALK_ANIME);
+    ChooseRow(dialog, IDC_WALK_SOUND_FILE, 2);
+    Press(dialog, IDC_WALK_CHECK);
     EXPECT_EQ(SoundsPlayed(), Rows{"C:\\mirrell\\サウンド\\鐘.wav"});
     EXPECT_STREQ(MailSetting.soundName, "foot1.wav");
     EXPECT_EQ(MailSetting.animeOn, 0);
     Press(dialog, kOk);
   });
-  EXPECT_TRUE(SetOpnFileAnimeDlgRun(Program.hMainWnd));
+  EXPECT_TRUE(SetMailAnimeDlgRun(Program.hMainWnd));
   EXPECT_EQ(MailSetting.animeOn, 1);
   EXPECT_EQ(MailSetting.soundOn, 1);
   EXPECT_STREQ(MailSetting.soundName, "鐘.wav");
   EXPECT_TRUE(FileBytes(HistoryPath()) == before);
   ThenPress(kCancel);
-  EXPECT_FALSE(SetOpnFileAnimeDlgRun(Program.hMainWnd));
-  Panel.FuncNo = 0;
+  EXPECT_FALSE(SetMailAnimeDlgRun(Program.hMainWnd));
 }
 
 }  // namespace

@@ -16,7 +16,7 @@ class OpenAnimeWalkTest : public OpenFixture {
     AddHistory("a.txt", "C:\\data\\", "edit.exe", "C:\\tools\\");
     OpnHistory.soundOn = 0;
     SaveHistory();
-    OpnProgListBuilt = false;
+    OpnProgList.built = false;
   }
 
   // Asks from outside for the first file, and closes the dialog after as many ticks.

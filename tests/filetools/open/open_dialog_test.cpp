@@ -1,5 +1,6 @@
 // FileOpnDialog, driven by a user.
 #include "character/walk.h"
+#include "resources/character_ids.h"
 #include "resources/filetools_ids.h"
 #include "services/commands.h"
 #include "services/data_file.h"
@@ -148,7 +149,7 @@ TEST_F(OpenDialogTest, ABrowsedFileThatIsNotOpenedIsForgotten) {
   ThenPick("new.txt");
   ThenPress(kCancel);
   OpenDialog();
-  EXPECT_EQ(OpnWork.fileCount, 1);
+  EXPECT_EQ(OpnHistory.workCount, 1);
   ThenExpect([] { EXPECT_EQ(RowsOf(IDC_OPN_FILE).size(), 1U); });
   ThenPress(kCancel);
   OpenDialog();
@@ -267,7 +268,7 @@ TEST_F(OpenDialogTest, TheListsAreShownAnewWhenAFileOpensWhileTheDialogStands) {
 TEST_F(OpenDialogTest, CommandsThatBelongToTheDialogDoNothingWithoutIt) {
   CommandSend(Command::OpenAddFile);
   CommandSend(Command::OpenAddProgram);
-  EXPECT_EQ(OpnWork.fileCount, 0);
+  EXPECT_EQ(OpnHistory.workCount, 0);
 }
 
 TEST_F(OpenDialogTest, TheDialogIsNotOpenedTwice) {
@@ -313,7 +314,7 @@ TEST_F(OpenDialogTest, DialogsShowFilesWhoseFieldsHaveNoEnd) {
   ThenPress(IDC_OPN_REMOVE);
   ThenPress(kCancel);
   ThenPress(IDC_OPN_ANIMATION);
-  ThenPress(IDC_OPN_CHECK);
+  ThenPress(IDC_WALK_CHECK);
   ThenPress(kOk);
   ThenPress(IDC_OPN_TAKE_GROUP);
   ThenExpect([row] {

@@ -13,13 +13,16 @@
 #include "character/walk.h"
 #include "filetools/open/group_open.h"
 #include "filetools/open/open_choice.h"
+#include "filetools/open/open_commands.h"
 #include "filetools/open/open_dialogs.h"
 #include "filetools/open/open_groups.h"
 #include "filetools/open/open_history.h"
 #include "filetools/open/open_launch.h"
+#include "filetools/open/open_programs.h"
 #include "filetools/open/open_record.h"
 #include "filetools/open/open_search.h"
-#include "filetools/open/open_text.h"
+#include "filetools/open/open_selection.h"
+#include "filetools/open/open_walk.h"
 #include "mail_music/mail/mail_setting.h"
 #include "platform/posix/faults.h"
 #include "platform/window.h"
@@ -44,7 +47,7 @@ class OpenFixture : public ProgramTest {
  protected:
   void SetUp() override {
     ProgramTest::SetUp();
-    Clear();
+    OpnHisReset();
     StartProgram();
     SetPointer(0, 0);
   }
@@ -58,27 +61,6 @@ class OpenFixture : public ProgramTest {
     EXPECT_EQ(Panel.FuncNo, 0);
     EXPECT_EQ(Panel.MenuPanelState, 0);
     ProgramTest::TearDown();
-    Clear();
-  }
-
-  static void Clear() {
-    OpnHistory = {};
-    OpnHisReset();
-    OpnWork = {};
-    OpnProgList.progCount = 0;
-    OpnProgListBuilt = false;
-    OpnRecord.recCount = 0;
-    OpnSelection = {};
-    OpnSelectionSave = {};
-    OpnPendingGroup = nullptr;
-    std::memset(OpnGroups.OpnGroupTable, 0, sizeof OpnGroups.OpnGroupTable);
-    MailSetting = {};
-    for (WalkSlot& slot : Walk.WalkSlots) slot = WalkSlot{};
-    Walk.WalkActive = Walk.WalkEndActive = false;
-    Walk.WalkSlotNow = Walk.WalkLastX = Walk.WalkLastY = 0;
-    CharaTables.WalkCharaCount = 0;
-    for (WalkChara& row : CharaTables.WalkCharas) row = WalkChara{};
-    for (unsigned char& flags : CharaTables.WalkFlags) flags = 0;
   }
 
   static std::string HistoryPath() { return InProgram("OpnFileHis.lis"); }
@@ -93,6 +75,7 @@ class OpenFixture : public ProgramTest {
     OpnTextSet(OpnHistory.filePath[row], folder.c_str());
     OpnTextSet(OpnHistory.progName[row], program.c_str());
     OpnTextSet(OpnHistory.progPath[row], programFolder.c_str());
+    OpnHistory.workCount = OpnHistory.fileCount;
   }
   // name0.txt, name1.txt ... of "C:\data\".
   static void AddHistories(int count) {
@@ -102,7 +85,7 @@ class OpenFixture : public ProgramTest {
 
   static void Select(const std::string& name, const std::string& folder, const std::string& program = "",
                      const std::string& programFolder = "") {
-    OpnSelectionSet(OpnSelection, name.c_str(), folder.c_str(), program.c_str(), programFolder.c_str());
+    OpnSelectionSet(name.c_str(), folder.c_str(), program.c_str(), programFolder.c_str());
   }
   static void AddToGroup(int group, const std::string& name, const std::string& folder = "C:\\data\\",
                          const std::string& program = "", const std::string& programFolder = "") {

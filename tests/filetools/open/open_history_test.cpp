@@ -10,37 +10,25 @@
 #include "character/character.h"
 #include "character/character_tables.h"
 #include "filetools/open/open_choice.h"
+#include "filetools/open/open_commands.h"
+#include "filetools/open/open_programs.h"
 #include "filetools/open/open_record.h"
-#include "filetools/open/open_state.h"
-#include "filetools/open/open_text.h"
+#include "filetools/open/open_walk.h"
 #include "platform/posix/faults.h"
 #include "platform/posix/posix_paths.h"
 #include "services/data_file.h"
 #include "services/sound_file.h"
 #include "services/text.h"
 #include "tests/support/desktop.h"
+#include "tests/support/failing_writes.h"
 
 namespace {
-
-constexpr int kFields = 1 + 1 + 400 + 400 + 5;
 
 class OpenHistoryTest : public DesktopTest {
  protected:
   void SetUp() override {
     DesktopTest::SetUp();
-    Clear();
     FileResult.FileStatus = 0;
-  }
-  void TearDown() override {
-    Clear();
-    DesktopTest::TearDown();
-  }
-  static void Clear() {
-    OpnHistory = {};
-    OpnWork = {};
-    Character.CharaSet = CharaSetRecord{};
-    for (unsigned char& flags : CharaTables.WalkFlags) flags = 0;
-    for (WalkChara& row : CharaTables.WalkCharas) row = WalkChara{};
   }
   static std::string Path() { return InProgram("OpnFileHis.lis"); }
   // A file whose every field begins with a byte that tells it from its neighbours.
@@ -77,6 +65,20 @@ TEST_F(OpenHistoryTest, EveryFieldReachesItsPlace) {
   EXPECT_EQ(OpnHistory.reservedText[0], 'r');
   EXPECT_EQ(OpnHistory.soundName[0], 's');
   EXPECT_EQ(OpnHistory.balloonFlags, 6);
+}
+
+TEST(OpenHistoryRecord, LiesAsTold) {
+  EXPECT_EQ(RecordSize<OpnHistoryRec>(), 240804);
+  EXPECT_EQ(RecordOffset<&OpnHistoryRec::openCount>(), 1);
+  EXPECT_EQ(RecordOffset<&OpnHistoryRec::fileName>(), 201);
+  EXPECT_EQ(RecordOffset<&OpnHistoryRec::filePath>(), 501);
+  EXPECT_EQ(RecordOffset<&OpnHistoryRec::progName>(), 120201);
+  EXPECT_EQ(RecordOffset<&OpnHistoryRec::progPath>(), 120501);
+  EXPECT_EQ(RecordOffset<&OpnHistoryRec::animeOn>(), 240201);
+  EXPECT_EQ(RecordOffset<&OpnHistoryRec::soundOn>(), 240202);
+  EXPECT_EQ(RecordOffset<&OpnHistoryRec::reservedText>(), 240203);
+  EXPECT_EQ(RecordOffset<&OpnHistoryRec::soundName>(), 240503);
+  EXPECT_EQ(RecordOffset<&OpnHistoryRec::balloonFlags>(), 240803);
 }
 
 TEST_F(OpenHistoryTest, WhatWasReadIsWrittenAsItStood) {
@@ -134,14 +136,7 @@ TEST_F(OpenHistoryTest, ACountBeyond200IsBadContent) {
 TEST_F(OpenHistoryTest, EveryFailingCallGivesItsResult) {
   ASSERT_TRUE(PutFile(Path(), Image()));
   ASSERT_EQ(OpnHisLoad(), 0);
-  for (int nth = 1; nth <= kFields + 1; ++nth) {
-    FaultArm(FaultKind::Write, nth);
-    const int result = OpnHisSave();
-    EXPECT_EQ(FaultWasMet(), nth <= kFields) << nth;
-    FaultClear();
-    EXPECT_EQ(result, nth <= kFields ? -1 : 0) << nth;
-    EXPECT_EQ(FileResult.FileStatus, nth <= kFields ? -2 : 0) << nth;
-  }
+  EXPECT_EQ(FailingWrites(OpnHisSave, -1), 1);
   const auto save = [](FaultKind kind, int nth) {
     PutFile(Path(), std::string(300000, 'o'));
     FileResult.FileStatus = 5;
@@ -206,7 +201,7 @@ TEST_F(OpenHistoryTest, ABrowsedFileThatWaitsOutlastsTheWalkOfACharacter) {
   Character.CharaSet.WalkRow[0] = 1;
   CharaTables.WalkFlags[0] = 5;
   OpnHisTakeWalkSettings();
-  EXPECT_EQ(OpnWork.fileCount, 4);
+  EXPECT_EQ(OpnHistory.workCount, 4);
   EXPECT_STREQ(OpnHistory.fileName[3], "new.txt");
   EXPECT_EQ(FileBytes(Path())[240803], 5);
   EXPECT_EQ(FileBytes(Path())[0], 3);
@@ -225,7 +220,7 @@ TEST_F(OpenHistoryTest, ASoundNameThatFillsItsFieldIsPlayedWith299Bytes) {
 // All that is done with a history of any bytes.
 void UseEverything(std::mt19937& random) {
   const auto any = [&](int below) { return static_cast<int>(random() % static_cast<unsigned>(below)); };
-  OpnProgListBuilt = false;
+  OpnProgList.built = false;
   OpnBuildProgList();
   OpnWorkReset();
   OpnBrowseFile(any(2) == 0 ? "C:\\x\\new.txt" : "C:\\x\\other.txt");
@@ -236,7 +231,7 @@ void UseEverything(std::mt19937& random) {
     OpnRecordAdd();
   }
   char text[kOpnRowSize];
-  for (int row = 0; row < OpnWork.fileCount; ++row) {
+  for (int row = 0; row < OpnHistory.workCount; ++row) {
     OpnRowText(text, sizeof text, OpnHistory.fileName[row], OpnHistory.filePath[row]);
   }
   OpnHisRemove(any(201));
@@ -264,7 +259,7 @@ TEST_F(OpenHistoryTest, RandomChangesOfTheFileHarmNothing) {
   close(file);
   OpnRecord.recCount = 0;
   OpnProgList.progCount = 0;
-  OpnProgListBuilt = false;
+  OpnProgList.built = false;
 }
 
 }  // namespace

@@ -1,6 +1,5 @@
 // Starting programs: command lines, the launch command, groups from the tick.
 #include "character/walk.h"
-#include "filetools/open/open_state.h"
 #include "services/commands.h"
 #include "services/program.h"
 #include "tests/filetools/open/open_fixture.h"
@@ -138,10 +137,10 @@ TEST_F(OpenLaunchTest, AGroupOpensOneFileEvery50Ticks) {
     for (int i = 0; i < 50; ++i) OpnGroupTick();
     EXPECT_EQ(Started(), expected);
     EXPECT_EQ(GroupRun.GroupOpenDelay, 0);
-    EXPECT_NE(OpnPendingGroup, nullptr);
+    EXPECT_NE(GroupRun.OpnPendingGroup, nullptr);
   }
   OpnGroupTick();
-  EXPECT_EQ(OpnPendingGroup, nullptr);
+  EXPECT_EQ(GroupRun.OpnPendingGroup, nullptr);
   EXPECT_EQ(Started(), expected);
   EXPECT_STREQ(OpnSelection.fileName, "kept");
 }
@@ -194,7 +193,7 @@ TEST_F(OpenLaunchTest, AGroupThatShrinksWhileItIsOpenedEndsEarlier) {
   OpnGroupRemoveFile(0, 1);
   Ticks(51);
   EXPECT_EQ(Started().size(), 1U);
-  EXPECT_EQ(OpnPendingGroup, nullptr);
+  EXPECT_EQ(GroupRun.OpnPendingGroup, nullptr);
 }
 
 TEST_F(OpenLaunchTest, TheTickOfTheProgramOpensTheGroup) {

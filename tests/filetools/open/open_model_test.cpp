@@ -60,7 +60,7 @@ TEST_F(OpenModelTest, WithoutAnAssociationThereIsNone) {
 
 struct Command {
   const char* command;
-  const char* row;  // null: no program
+  const char* row;
 };
 
 TEST_F(OpenModelTest, ACommandIsCutIntoNameAndFolder) {
@@ -75,15 +75,15 @@ TEST_F(OpenModelTest, ACommandIsCutIntoNameAndFolder) {
       {"C:\\a\\表 示.exe %1", "表 示.exe [C:\\a\\]"},
       {"C:\\a\\edit.exe /f \\b c.ini", "b c.ini [C:\\a\\edit.exe /f \\]"},
       {"D:\\%SystemRoot%\\x.exe", "x.exe [D:\\%SystemRoot%\\]"},
-      {"notepad.exe %1", nullptr},
-      {"", nullptr},
-      {"C:\\folder\\", nullptr},
+      {"notepad.exe %1", " [notepad.exe %1]"},
+      {"", " []"},
+      {"C:\\folder\\", " [C:\\folder\\]"},
   };
   for (const Command& command : commands) {
     ClassValueSet("txtfile\\shell\\open\\command", command.command);
-    OpnProgListBuilt = false;
+    OpnProgListForget();
     OpnBuildProgList();
-    EXPECT_EQ(Programs(), command.row ? Rows{command.row} : Rows{}) << command.command;
+    EXPECT_EQ(Programs(), Rows{command.row}) << command.command;
   }
 }
 
@@ -116,7 +116,7 @@ TEST_F(OpenModelTest, TheProgramListIsBuiltOnceInARun) {
   AddHistory("a.txt", "C:\\", "edit.exe", "C:\\");
   OpnBuildProgList();
   EXPECT_EQ(Programs(), Rows{});
-  OpnProgListBuilt = false;
+  OpnProgListForget();
   OpnBuildProgList();
   EXPECT_EQ(Programs(), Rows{"edit.exe [C:\\]"});
 }
@@ -133,7 +133,7 @@ TEST_F(OpenModelTest, TwoHundredProgramsAndThreeAssociationsFit) {
   // A browsed one is too much; the list shows 199.
   OpnWorkReset();
   EXPECT_FALSE(OpnBrowseProgram("C:\\more.exe"));
-  EXPECT_EQ(OpnWork.progCount, 199);
+  EXPECT_EQ(OpnProgList.workCount, 199);
   EXPECT_EQ(OpnWork.progSel, 199);
 }
 
@@ -146,7 +146,7 @@ TEST_F(OpenModelTest, ABrowsedFileStandsBehindTheLastRow) {
   EXPECT_EQ(OpnWork.progSel, 1);
   EXPECT_TRUE(OpnBrowseFile("C:\\書類\\表紙.txt"));
   EXPECT_EQ(OpnHistory.fileCount, 1);
-  EXPECT_EQ(OpnWork.fileCount, 2);
+  EXPECT_EQ(OpnHistory.workCount, 2);
   EXPECT_EQ(OpnWork.fileSel, 1);
   EXPECT_EQ(OpnWork.progSel, 0);
   EXPECT_STREQ(OpnHistory.fileName[1], "表紙.txt");
@@ -158,11 +158,11 @@ TEST_F(OpenModelTest, OnlyTheLastBrowsedFileStays) {
   OpnWorkReset();
   EXPECT_TRUE(OpnBrowseFile("C:\\one.txt"));
   EXPECT_TRUE(OpnBrowseFile("C:\\two.txt"));
-  EXPECT_EQ(OpnWork.fileCount, 4);
+  EXPECT_EQ(OpnHistory.workCount, 4);
   EXPECT_STREQ(OpnHistory.fileName[3], "two.txt");
   // The browsed one is known now.
   EXPECT_TRUE(OpnBrowseFile("C:\\two.txt"));
-  EXPECT_EQ(OpnWork.fileCount, 4);
+  EXPECT_EQ(OpnHistory.workCount, 4);
   EXPECT_EQ(OpnWork.fileSel, 3);
 }
 
@@ -173,7 +173,7 @@ TEST_F(OpenModelTest, ABrowsedFileThatIsKnownIsChosenWithItsProgram) {
   OpnBuildProgList();
   OpnWorkReset();
   EXPECT_TRUE(OpnBrowseFile("C:\\data\\b.txt"));
-  EXPECT_EQ(OpnWork.fileCount, 3);
+  EXPECT_EQ(OpnHistory.workCount, 3);
   EXPECT_EQ(OpnWork.fileSel, 1);
   EXPECT_EQ(OpnWork.progSel, 1);
 }
@@ -183,7 +183,7 @@ TEST_F(OpenModelTest, TheTwoHundredAndFirstFileIsDroppedAndTheLastOneChosen) {
   OpnWorkReset();
   EXPECT_FALSE(OpnBrowseFile("C:\\new.txt"));
   EXPECT_EQ(OpnHistory.fileCount, 200);
-  EXPECT_EQ(OpnWork.fileCount, 200);
+  EXPECT_EQ(OpnHistory.workCount, 200);
   EXPECT_EQ(OpnWork.fileSel, 199);
   EXPECT_EQ(OpnWork.progSel, 0);
   EXPECT_STREQ(OpnHistory.fileName[199], "name199.txt");
@@ -194,11 +194,11 @@ TEST_F(OpenModelTest, The199thProgramFitsAndTheNextDoesNot) {
   OpnBuildProgList();
   OpnWorkReset();
   EXPECT_TRUE(OpnBrowseProgram("C:\\p198"));
-  EXPECT_EQ(OpnWork.progCount, 199);
+  EXPECT_EQ(OpnProgList.workCount, 199);
   EXPECT_EQ(OpnWork.progSel, 199);
   OpnProgList.progCount = 199;
   EXPECT_FALSE(OpnBrowseProgram("C:\\p199"));
-  EXPECT_EQ(OpnWork.progCount, 199);
+  EXPECT_EQ(OpnProgList.workCount, 199);
   EXPECT_EQ(OpnWork.progSel, 199);
   EXPECT_STREQ(OpnProgList.progName[198], "p198");
 }
@@ -218,7 +218,7 @@ TEST_F(OpenModelTest, ALongFolderIsCutAndFoundAgain) {
   EXPECT_TRUE(OpnBrowseFile((folder + "a.txt").c_str()));
   EXPECT_EQ(std::string(OpnHistory.filePath[0]), folder.substr(0, 256));
   EXPECT_TRUE(OpnBrowseFile((folder + "a.txt").c_str()));
-  EXPECT_EQ(OpnWork.fileCount, 1);
+  EXPECT_EQ(OpnHistory.workCount, 1);
   EXPECT_EQ(OpnWork.fileSel, 0);
 }
 
@@ -287,7 +287,7 @@ TEST_F(OpenModelTest, ANewFileLandsOnTopWithItsProgram) {
   EXPECT_STREQ(OpnHistory.progName[1], "");
   EXPECT_EQ(OpnHistory.openCount[0], 0);
   EXPECT_EQ(OpnHistory.openCount[1], 5);
-  EXPECT_EQ(OpnWork.fileCount, 4);
+  EXPECT_EQ(OpnHistory.workCount, 4);
   EXPECT_EQ(OpnWork.fileSel, 0);
 }
 
@@ -336,7 +336,7 @@ TEST_F(OpenModelTest, ANewProgramLandsOnTopOfItsList) {
   EXPECT_TRUE(OpnHisUpdate());
   EXPECT_EQ(Programs(), (Rows{"new.exe [C:\\]", "one.exe [C:\\]", "two.exe [C:\\]"}));
   EXPECT_EQ(OpnWork.progSel, 1);
-  EXPECT_EQ(OpnWork.progCount, 3);
+  EXPECT_EQ(OpnProgList.workCount, 3);
 }
 
 TEST_F(OpenModelTest, ABrowsedProgramThatIsNotUsedStaysAsTheLastRow) {
@@ -380,7 +380,7 @@ TEST_F(OpenModelTest, RemovingARowClosesTheRowsUpWithTheBrowsedOne) {
   OpnHisRemove(1);
   EXPECT_EQ(HistoryFiles(), (Rows{"name0.txt", "name2.txt"}));
   EXPECT_EQ(OpnHistory.openCount[1], 9);
-  EXPECT_EQ(OpnWork.fileCount, 3);
+  EXPECT_EQ(OpnHistory.workCount, 3);
   EXPECT_STREQ(OpnHistory.fileName[2], "new.txt");
   for (const int row : {-1, 2, 200}) OpnHisRemove(row);
   EXPECT_EQ(OpnHistory.fileCount, 2);
@@ -475,8 +475,8 @@ TEST_F(OpenModelTest, ALongNameInARecordRowKeepsItsLetters) {
   OpnRecordAdd();
   Select(std::string(36, 'm'), "C:\\");
   OpnRecordAdd();
-  EXPECT_EQ(RecordRows()[0], std::string(36, 'm') + " 関連プログラム" + std::string(56, ' '));
-  EXPECT_EQ(RecordRows()[1], name + " " + program);
+  EXPECT_EQ(RecordRows()[0], std::string(36, 'm') + "関連プログラム" + std::string(56, ' '));
+  EXPECT_EQ(RecordRows()[1], name + program);
 }
 
 }  // namespace

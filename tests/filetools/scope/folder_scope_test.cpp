@@ -4,7 +4,7 @@
 #include <cstring>
 
 #include "platform/diagnostics.h"
-#include "services/big_endian.h"
+#include "tests/support/byte_order.h"
 #include "services/work_blocks.h"
 #include "tests/filetools/scope/scope_fixture.h"
 

@@ -4,7 +4,7 @@
 
 #include "filetools/scope/folder_scope.h"
 #include "filetools/scope/scope_tables.h"
-#include "services/big_endian.h"
+#include "tests/support/byte_order.h"
 #include "services/work_blocks.h"
 #include "tests/filetools/scope/scope_fixture.h"
 

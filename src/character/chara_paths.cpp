@@ -1,0 +1,25 @@
+#include "character/chara_paths.h"
+
+#include "services/program.h"
+#include "services/text.h"
+
+namespace {
+char pathBuffer[kRootSize + 100];
+}  // namespace
+
+const char* CharaDwcPath(int number) {
+  TextFormat(pathBuffer, sizeof pathBuffer, "%s\\キャラクタ\\Chara%d.dwc", Program.RootFolder, number + 1);
+  return pathBuffer;
+}
+
+const char* CharaBmpPath(int number, int frame) {
+  TextFormat(pathBuffer, sizeof pathBuffer, "%s\\キャラクタ\\Chara%d_%d.bmp", Program.RootFolder, number + 1,
+             frame + 1);
+  return pathBuffer;
+}
+
+const char* CharaMaskPath(int number, int frame) {
+  TextFormat(pathBuffer, sizeof pathBuffer, "%s\\キャラクタ\\Chara%d_%dx.bmp", Program.RootFolder, number + 1,
+             frame + 1);
+  return pathBuffer;
+}
