@@ -31,7 +31,6 @@ class FileToolsTest : public ProgramTest {
  protected:
   void SetUp() override {
     ProgramTest::SetUp();
-    SteppedReset();
     StartProgram();
     FileResult.FileStatus = 0;
   }

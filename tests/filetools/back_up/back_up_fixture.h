@@ -11,7 +11,6 @@ class BackUpFixture : public FileToolsTest {
  protected:
   void SetUp() override {
     FileToolsTest::SetUp();
-    BackUpReset();
     MakeFolder("C:\\mirrell\\copies");
   }
 

@@ -17,13 +17,8 @@ class DivideFixture : public FileToolsTest {
  protected:
   void SetUp() override {
     FileToolsTest::SetUp();
-    FileDivideReset();
     MakeFolder(kPieces);
     MakeFolder(kRestored);
-  }
-  void TearDown() override {
-    DropFiles();
-    FileToolsTest::TearDown();
   }
 
   // Closes what a run has left open: the start of another one does.

@@ -61,15 +61,12 @@ class ScopeFixture : public ProgramTest {
  protected:
   void SetUp() override {
     ProgramTest::SetUp();
-    ScopeReset();
-    SteppedReset();
     StartProgram();
     // What the start has written takes no room on the drive.
     for (const std::string& name : FolderNames("C:\\mirrell")) RemoveFile("C:\\mirrell\\" + name);
     PosixDiskSpaceSet(8388608, 1048576);
   }
   void TearDown() override {
-    ScopeReset();
     PosixDiskSpaceSet(0, 0);
     ProgramTest::TearDown();
   }
