@@ -4,7 +4,7 @@
 #include "platform/dialog.h"
 #include "platform/window.h"
 #include "resources/program_ids.h"
-#include "services/text.h"
+#include "services/program.h"
 #include "shell/command_line.h"
 #include "shell/main_window.h"
 
@@ -15,7 +15,7 @@ int ProcessEntry(const char* commandLine, int showMode) {
   StringLoad(IDR_MAIN, className, sizeof className);
   const MainWindowClass mainClass{className, title, IDI_MAIN, IDI_SMALL, IDR_MAIN, MainWindowProc};
   const WindowHandle window = MainWindowCreate(mainClass, 500, 300, 120, 160);
-  if (!window) return 0;
+  if (!window || Program.Quitting) return 0;
   WindowShowFirst(window, showMode);
   CommandLineKeep(commandLine);
   return MessageLoop(window, IDR_MAIN);

@@ -57,7 +57,8 @@ void CalendarSnapshotTake() {
 
 bool CalendarSnapshotDiffers() {
   return Watch.calendarBefore != CalenSelectedDefinition() ||
-         !std::equal(std::begin(Watch.monthsBefore), std::end(Watch.monthsBefore), Calendar.CalenSheets[CalenSelected()]);
+         !std::equal(std::begin(Watch.monthsBefore), std::end(Watch.monthsBefore),
+                     Calendar.CalenSheets[CalenSelected()]);
 }
 
 void CalendarLook() {

@@ -32,8 +32,8 @@ bool Popup(int menuId, WindowHandle window) {
 }  // namespace
 
 bool PopupMayOpen() {
-  return !PanelIsOpen() && !FamilyDialogIsUp() && !BackUpRun.hBackUpDlg && !Stepped.hSearchDlg &&
-         !Picker.hFilePickDlg;
+  return !PanelIsOpen() && !FamilyDialogIsUp() && !FileDialogIsUp() && !BackUpRun.hBackUpDlg &&
+         !Stepped.hSearchDlg && !Picker.hFilePickDlg;
 }
 
 void CommandSchedulePopup(Command) {

@@ -34,10 +34,20 @@
 
 namespace {
 
-void FoldersTake() {
-  FolderGetCurrent(Program.RootFolder, sizeof Program.RootFolder);
+bool FoldersTake() {
+  if (FolderGetCurrent(Program.RootFolder, sizeof Program.RootFolder) == 0) return false;
   FolderGetCurrent(Picker.PickFolder, sizeof Picker.PickFolder);
   for (auto& folder : Picker.PickerStartFolders) TextCopy(folder, sizeof folder, Picker.PickFolder);
+  return true;
+}
+
+// settled: without a name for its folder the program would find none of its files and
+// put new ones elsewhere: it says so and ends.
+void FolderRefuse() {
+  BoxTell(Program.hMainWnd,
+          "プログラムのフォルダーの名前を読めません。\r\n別の名前のフォルダーに移してください。",
+          "ミルレール");
+  SendClose(Program.hMainWnd);
 }
 
 void TimerBegin() {
@@ -60,7 +70,7 @@ void StartSequence(WindowHandle window) {
   WorkBlocksAllocate();
   RandomSeed(1);
   RandomSeed(static_cast<std::uint32_t>(TimeSeconds()));
-  FoldersTake();
+  if (!FoldersTake()) return FolderRefuse();
   TimerBegin();
 
   SclDefaults();

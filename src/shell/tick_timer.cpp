@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "mail_music/music/music.h"
+#include "platform/dialog.h"
 #include "platform/time.h"
 #include "platform/window.h"
 #include "services/dialog_family.h"
@@ -50,7 +51,7 @@ void Run(int ticks) {
 // The handlers of these dialogs may change at any time what a tick has to do. Other
 // windows belong to a step of the tick, which says when it is due.
 bool DialogIsUp() {
-  return FamilyDialogIsUp() || Picker.hFilePickDlg || Music.hBgmWnd;
+  return FamilyDialogIsUp() || FileDialogIsUp() || Picker.hFilePickDlg || Music.hBgmWnd;
 }
 
 }  // namespace

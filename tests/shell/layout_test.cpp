@@ -440,9 +440,9 @@ TEST_F(LayoutTest, CancelAfterTheDefaultReadsTheCalendarFileAgain) {
   CalenStartDefaults();
   ASSERT_EQ(SysFileWrite(), 0);
   ASSERT_EQ(CalenFileWrite(), 0);
-  Calendar.CalenSheets[0][0][34] = 'b';  // a note of the first of January
+  Calendar.CalenSheets[0][0].notes[0][0] = 'b';  // a note of the first of January
   RunDialog({[] { Press(TopDialog(), kDefaultButton); }, Cancel});
-  EXPECT_EQ(Calendar.CalenSheets[0][0][34], 0);
+  EXPECT_EQ(Calendar.CalenSheets[0][0].notes[0][0], 0);
 }
 
 TEST_F(LayoutTest, CancelAfterTheDefaultRollsBack) {

@@ -2,8 +2,13 @@
 #include "shell/old_data.h"
 
 #include "platform/posix/faults.h"
+#include "platform/window.h"
 #include "services/data_file.h"
+#include "services/dialog_family.h"
+#include "services/program.h"
+#include "shell/popups.h"
 #include "shell/shell_commands.h"
+#include "shell/tick_timer.h"
 #include "tests/support/program.h"
 
 namespace {
@@ -149,6 +154,39 @@ TEST_F(OldDataTest, EveryCallOfSavingFailingInTurnIsTold) {
   RemoveFile(file_);
   CommandRoute(kSave);
   EXPECT_EQ(FileBytes(file_), "abc");
+}
+
+// The file dialog counts like a feature's: nothing opens over it.
+TEST_F(OldDataTest, WhileItsFileDialogIsUpNoFeatureOpens) {
+  PutFile(file_, "abc");
+  bool asked = false;
+  ExpectFileDialog(file_.c_str(), [&asked] {
+    asked = true;
+    for (const std::uint32_t feature : {1900U, 1901U, 1914U, 1915U, 1920U, 2281U, 2282U, 2283U}) {
+      SendCommand(Program.hMainWnd, feature);
+      EXPECT_EQ(TopDialog(), nullptr) << feature;
+    }
+    for (const std::uint32_t again : {kLoad, kSave, kSaveAs}) SendCommand(Program.hMainWnd, again);
+    EXPECT_FALSE(PopupMayOpen());
+    TickTimerFired();
+    EXPECT_EQ(TimerPeriod(Program.hMainWnd, kTickTimer), 30);
+  });
+  CommandRoute(kLoad);
+  EXPECT_TRUE(asked);
+  EXPECT_EQ(FileDialogsShown().size(), 1U);
+  EXPECT_EQ(Block(), "abc");
+  EXPECT_TRUE(PopupMayOpen());
+}
+
+TEST_F(OldDataTest, WhileAFeaturesDialogIsUpItsFileDialogDoesNotOpen) {
+  Then([] {
+    ASSERT_NE(Dialogs.hMenuDlg, nullptr);
+    for (const std::uint32_t command : {kLoad, kSave, kSaveAs}) SendCommand(Program.hMainWnd, command);
+    EXPECT_TRUE(FileDialogsShown().empty());
+    Press(TopDialog(), 2);
+  });
+  SendCommand(Program.hMainWnd, 2283);
+  EXPECT_TRUE(FileDialogsShown().empty());
 }
 
 }  // namespace

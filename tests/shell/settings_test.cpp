@@ -13,6 +13,7 @@
 #include "clock_calendar/calendar/calendar.h"
 #include "clock_calendar/clock/clock.h"
 #include "platform/posix/faults.h"
+#include "platform/posix/files_opened.h"
 #include "platform/posix/posix_paths.h"
 #include "schedule/model/schedule.h"
 #include "tests/support/byte_order.h"
@@ -517,6 +518,21 @@ TEST_F(SettingsTest, RandomMutationsNeverLeaveTheVariables) {
   PutFile(path_, head);
   EXPECT_EQ(MutationRounds(native_, head, 95000, random), 0);
   EXPECT_EQ(FileBytes(path_), head);
+}
+
+// Read while nobody may write it; replaced and written with all rights to anybody.
+TEST_F(SettingsTest, TheFileIsOpenedInItsModes) {
+  PutDistinct(25);
+  char path[kRootPathSize];
+  SysFilePath(path);
+  FilesOpenedClear();
+  ASSERT_EQ(SysFileRead(), 0);
+  EXPECT_EQ(FilesOpened(), (std::vector<FileOpened>{{path, false, OpenMode::ReadDenyWrite}}));
+  FilesOpenedClear();
+  ASSERT_EQ(SysFileWrite(), 0);
+  EXPECT_EQ(FilesOpened(), (std::vector<FileOpened>{{path, false, OpenMode::ReadWrite},
+                                                    {path, true, OpenMode::ReadWrite},
+                                                    {path, false, OpenMode::ReadWrite}}));
 }
 
 // The magic, and one for each of the seven parts.

@@ -200,6 +200,18 @@ TEST_F(StartTest, TheWorldListIsReadAtTheStart) {
   EXPECT_STREQ(WorldCharaName(1), "Tom");
 }
 
+// As in a folder whose name the code page cannot hold, with no short name either.
+TEST_F(StartTest, AProgramFolderWithNoNameIsToldAndTheProgramEnds) {
+  FaultArm(FaultKind::FolderGet, 1);
+  ExpectBox("プログラムのフォルダーの名前を読めません。\r\n別の名前のフォルダーに移してください。",
+            "ミルレール");
+  EXPECT_EQ(ProcessEntry("", 1), 0);
+  EXPECT_TRUE(QuitWasAsked());
+  EXPECT_FALSE(IsVisible(Program.hMainWnd));
+  EXPECT_TRUE(FolderNames("C:\\mirrell").empty());
+  EXPECT_EQ(WorkBlocks.CastBlock, nullptr);
+}
+
 TEST_F(StartTest, SavedSettingsAreTakenAtTheStart) {
   Character.StageX = 77;
   Character.StageY = 55;

@@ -254,7 +254,7 @@ TEST_F(TickTimerTest, AnOpenClockIsDueAtItsNextMinute) {
 TEST_F(TickTimerTest, ABoxFromTheLastTickOfARestHasItsTicks) {
   CalenStartDefaults();
   ASSERT_EQ(CalenFileWrite(), 0);
-  Calendar.CalenSheets[CalenSelected()][0][34] ^= 1;  // a note that the file does not have
+  Calendar.CalenSheets[CalenSelected()][0].notes[0][0] = 'x';  // a note that the file does not have
   Applications.ApliCount = 1;
   Applications.ApliSelected = 1;
   Watch.FileWatchCount = kWatch - 4;

@@ -239,7 +239,7 @@ void Mouse(WindowHandle window, EventKind kind, int x, int y, unsigned keys) {
     Failure(std::string("Mouse: the window is ") + (found->visible ? "disabled" : "hidden"));
     return;
   }
-  if (const char* wrong = MouseMeets(*found, x, y)) {
+  if (const char* wrong = captureWindow == window ? nullptr : MouseMeets(*found, x, y)) {
     Failure("Mouse at " + std::to_string(x) + ", " + std::to_string(y) + ": " + wrong);
     return;
   }
