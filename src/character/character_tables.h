@@ -47,3 +47,7 @@ struct CharaTablesState {
   ClockDesignRow ClockDesigns[kClockDesignMax] = {};
 };
 extern CharaTablesState CharaTables;
+
+// Makes the list of clock designs new: `count` of them, on characters `firstNumber` on,
+// with empty records.
+void ClockDesignsBegin(int count, int firstNumber);

@@ -166,3 +166,17 @@ void StageMove(bool repaint) {
   Stage.StageAppliedWidth = Stage.StageWidth;
   Stage.StageAppliedHeight = Stage.StageHeight;
 }
+
+void StagePlaceSet(std::int32_t x, std::int32_t y) {
+  Character.StageX = x;
+  Character.StageY = y;
+}
+
+void StageSizeBegin() {
+  Stage.StageWidth = 300;
+  Stage.StageHeight = 200;
+}
+
+void StageReloadWanted() {
+  Stage.StageRedraw = kRedrawReload;
+}

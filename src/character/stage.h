@@ -55,3 +55,12 @@ void StageShapeAndPlace();
 
 // Moves the window to StageX, StageY with the stage's size and notes the size.
 void StageMove(bool repaint);
+
+// Gives the stage a place on the screen; StageMove moves its window there.
+void StagePlaceSet(std::int32_t x, std::int32_t y);
+
+// The size of a stage whose character cannot be loaded.
+void StageSizeBegin();
+
+// The next redraw loads the character anew.
+void StageReloadWanted();

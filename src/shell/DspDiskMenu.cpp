@@ -323,7 +323,7 @@ void PanelPointerOnStage(const Event& event) {
   // kept: back from the panel to the stage, the pointer is counted as never inside.
   if (Panel.MenuPanelState == kPanelTop) Panel.MenuCloseCount = kCloseTicks;
   if (!WindowHasFocus(Program.hMainWnd)) {
-    SclTable.TableScrollDirection = ScrollDirection::None;
+    TableScrollForget();
   } else if ((event.keys & kLeftHeld) == 0) {
     TableScrollStop();
   }

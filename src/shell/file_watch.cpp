@@ -108,7 +108,7 @@ void CharacterAnswer() {
   Watch.characterReload = false;
   OptionPreviewsFree();
   if (CharaSelect(Character.CharaIndex)) CharacterChosen();
-  Stage.StageRedraw = kRedrawReload;
+  StageReloadWanted();
   CommandSend(Command::StageRedraw);
 }
 

@@ -4,9 +4,11 @@
 #include "character/character_commands.h"
 #include "character/stage.h"
 #include "clock_calendar/calendar/calendar.h"
+#include "clock_calendar/calendar/calendar_size.h"
+#include "clock_calendar/calendar/calendar_window.h"
 #include "clock_calendar/clock/clock.h"
-#include "clock_calendar/clock_calendar_sizes.h"
-#include "clock_calendar/clock_calendar_tick.h"
+#include "clock_calendar/clock/clock_size.h"
+#include "clock_calendar/clock/clock_window.h"
 #include "platform/time.h"
 #include "platform/window.h"
 #include "services/commands.h"
@@ -20,12 +22,13 @@ constexpr int kEdge = 10;
 
 // The items' places on the screen.
 struct Place {
-  std::int32_t* x;
-  std::int32_t* y;
+  const std::int32_t& x;
+  const std::int32_t& y;
+  void (*set)(std::int32_t x, std::int32_t y);
 };
-constexpr Place kPlaces[kLayoutItemCount] = {{&Character.StageX, &Character.StageY},
-                                             {&Clock.ClockX, &Clock.ClockY},
-                                             {&Calendar.CalenX, &Calendar.CalenY}};
+constexpr Place kPlaces[kLayoutItemCount] = {{Character.StageX, Character.StageY, StagePlaceSet},
+                                             {Clock.ClockX, Clock.ClockY, ClockPlaceSet},
+                                             {Calendar.CalenX, Calendar.CalenY, CalenPlaceSet}};
 
 int DivFor(int width, int height) {
   int div = 3;
@@ -57,7 +60,7 @@ void LayoutTake() {
                                                 {ClockLayoutWidth(), ClockPictureHeight()},
                                                 {CalenLayoutWidth(), CalenLayoutHeight()}};
   for (int item = 0; item < kLayoutItemCount; ++item) {
-    Layout.LayoutPos[item] = {*kPlaces[item].x / Layout.LayoutDiv, *kPlaces[item].y / Layout.LayoutDiv};
+    Layout.LayoutPos[item] = {kPlaces[item].x / Layout.LayoutDiv, kPlaces[item].y / Layout.LayoutDiv};
     Layout.LayoutSize[item] = {sizes[item].width / Layout.LayoutDiv, sizes[item].height / Layout.LayoutDiv};
     Layout.LayoutDrag[item] = false;
   }
@@ -78,9 +81,8 @@ void LayoutPut() {
     const Place& place = kPlaces[item];
     const std::int32_t x = Layout.LayoutPos[item].x * Layout.LayoutDiv;
     const std::int32_t y = Layout.LayoutPos[item].y * Layout.LayoutDiv;
-    if (x == *place.x && y == *place.y) continue;
-    *place.x = x;
-    *place.y = y;
+    if (x == place.x && y == place.y) continue;
+    place.set(x, y);
     Layout.LayoutChange |= 1 << item;
   }
 }
@@ -90,30 +92,23 @@ void LayoutDefault() {
   const int clockHeight = ClockLayoutHeight();
   const int calenWidth = CalenLayoutWidth();
   const int right = Screen.ScreenWidth - kEdge;
-  Calendar.CalenX = right - calenWidth;
-  Calendar.CalenY = kEdge;
+  CalenPlaceSet(right - calenWidth, kEdge);
   const int below = kEdge + CalenLayoutHeight();
   if (below + Stage.StageHeight > Screen.ScreenHeight) {
-    Character.StageX = Calendar.CalenX - Stage.StageWidth - kEdge;
-    Character.StageY = kEdge;
+    StagePlaceSet(Calendar.CalenX - Stage.StageWidth - kEdge, kEdge);
     if (below + clockHeight > Screen.ScreenHeight) {
-      Clock.ClockX = Character.StageX - clockWidth - kEdge;
-      Clock.ClockY = kEdge;
+      ClockPlaceSet(Character.StageX - clockWidth - kEdge, kEdge);
     } else {
-      Clock.ClockX = right - clockWidth;
-      Clock.ClockY = below;
+      ClockPlaceSet(right - clockWidth, below);
     }
     return;
   }
-  Character.StageX = right - Stage.StageWidth;
-  Character.StageY = below;
+  StagePlaceSet(right - Stage.StageWidth, below);
   if (below + Stage.StageHeight + clockHeight <= Screen.ScreenHeight &&
       Screen.ScreenWidth / 2 > Calendar.CalenX) {
-    Clock.ClockX = right - clockWidth;
-    Clock.ClockY = below + Stage.StageHeight;
+    ClockPlaceSet(right - clockWidth, below + Stage.StageHeight);
   } else {
-    Clock.ClockX = Screen.ScreenWidth - calenWidth - clockWidth - 2 * kEdge;
-    Clock.ClockY = kEdge;
+    ClockPlaceSet(Screen.ScreenWidth - calenWidth - clockWidth - 2 * kEdge, kEdge);
   }
 }
 

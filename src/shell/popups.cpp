@@ -44,7 +44,7 @@ void CommandSchedulePopup(Command) {
 
 void CommandCalendarPopup(Command) {
   if (!Calendar.hCalenWnd || Popup(IDM_CALENDAR_DAY, Calendar.hCalenWnd)) return;
-  Calendar.CalenClickedDay = 0;
+  CalenClickedDaySet(0);
   SendPaint(Calendar.hCalenWnd);
 }
 

@@ -6,8 +6,9 @@
 #include "character/character_file.h"
 #include "character/stage.h"
 #include "clock_calendar/calendar/calendar.h"
+#include "clock_calendar/calendar/calendar_window.h"
 #include "clock_calendar/clock/clock.h"
-#include "clock_calendar/clock_calendar_tick.h"
+#include "clock_calendar/clock/clock_window.h"
 #include "filetools/tidy/desktop_tidy.h"
 #include "mail_music/mail/mail.h"
 #include "platform/file.h"
@@ -77,8 +78,7 @@ void StartSequence(WindowHandle window) {
   CalenStartDefaults();
   TidyReset();
   SetDateDefaults();
-  Stage.StageWidth = 300;
-  Stage.StageHeight = 200;
+  StageSizeBegin();
   FrameFiguresTake();
 
   const int settings = SysFileRead();

@@ -4,7 +4,7 @@
 
 #include "clock_calendar/calendar/calendar.h"
 #include "clock_calendar/calendar/calendar_picture.h"
-#include "clock_calendar/clock_calendar_tick.h"
+#include "clock_calendar/calendar/calendar_window.h"
 #include "platform/diagnostics.h"
 #include "platform/posix/test_clock.h"
 #include "services/random.h"

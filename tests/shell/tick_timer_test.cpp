@@ -9,6 +9,7 @@
 #include "clock_calendar/calendar/calendar.h"
 #include "clock_calendar/clock/clock.h"
 #include "clock_calendar/clock/clock_notice.h"
+#include "clock_calendar/clock/clock_window.h"
 #include "clock_calendar/clock_calendar_tick.h"
 #include "filetools/back_up/back_up.h"
 #include "filetools/open/group_open.h"

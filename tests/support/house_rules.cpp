@@ -113,7 +113,8 @@ std::vector<std::string> Includes(const SourceTree& tree, const std::string& pat
 // Whose state may be written by whom, where it is not every file of its own room. The
 // key is the state's instance, the files are units.
 const std::map<std::string, std::vector<std::string>> kOwners = {
-    {"Panel", {"shell/DspDiskMenu", "shell/panel"}},
+    {"Panel", {"shell/DspDiskMenu", "shell/panel_tick"}},
+    {"Program", {"shell/start", "shell/shutdown"}},
 };
 
 // The result of file operations is no feature's: whoever does one leaves its result, and

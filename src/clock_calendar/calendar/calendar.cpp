@@ -69,3 +69,12 @@ void CalenNoteSet(int yearIndex, int month, int day, const char* note) {
   std::memset(field, 0, sizeof field);
   std::memcpy(field, note, TextPrefix(note, kNoteSize - 1));
 }
+
+void CalenPlaceSet(std::int32_t x, std::int32_t y) {
+  Calendar.CalenX = x;
+  Calendar.CalenY = y;
+}
+
+void CalenClickedDaySet(std::int32_t day) {
+  Calendar.CalenClickedDay = day;
+}

@@ -202,5 +202,12 @@ extern CalendarState Calendar;
 int CalenNoteCheck();
 // True while a note waits in CalenNotes.
 bool CalenNoteWaits();
-// Takes the first waiting note out of CalenNotes, to be announced by command 2294. Returns its place, -1 for none.
+// Takes the first waiting note out of CalenNotes, to be announced by command 2294. Returns its place, -1 for
+// none.
 int CalenNoteTake();
+
+// Gives the calendar a place on the screen; its window moves when it is opened anew.
+void CalenPlaceSet(std::int32_t x, std::int32_t y);
+
+// The popup menu's day, from 1; 0 for none.
+void CalenClickedDaySet(std::int32_t day);

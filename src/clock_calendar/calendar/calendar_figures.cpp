@@ -3,7 +3,7 @@
 
 #include "clock_calendar/calendar/calendar.h"
 #include "clock_calendar/calendar/calendar_picture.h"
-#include "clock_calendar/clock_calendar_sizes.h"
+#include "clock_calendar/calendar/calendar_size.h"
 #include "services/random.h"
 #include "world/world_list.h"
 

@@ -77,7 +77,7 @@ std::int32_t ReadListCount(DataFile& data) {
 void ReadTail(DataFile& data) {
   for (int i = 0; i < Calendar.CalenCount; ++i) ReadOrZero(data, Calendar.CalenDefinitions[i]);
   ReadOrZero(data, Calendar.CalenStickers);
-  Clock.ClockListCount = ReadListCount(data);
+  ClockListCountSet(ReadListCount(data));
   for (int i = 0; i < Clock.ClockListCount; ++i) ReadOrZero(data, Clock.ClockList[i]);
 }
 

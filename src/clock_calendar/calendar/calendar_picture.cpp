@@ -2,7 +2,7 @@
 
 #include "character/frames.h"
 #include "clock_calendar/calendar/calendar.h"
-#include "clock_calendar/clock_calendar_tick.h"
+#include "clock_calendar/calendar/calendar_window.h"
 #include "services/program.h"
 #include "services/text.h"
 

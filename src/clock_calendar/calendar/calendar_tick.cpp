@@ -61,9 +61,7 @@ int CalenTickCheck() {
   const SclDate today = {now.year - 2000, now.month - 1, now.day - 1, now.hour};
   const bool otherMonth = today.year != Today.TodayYear || today.month != Today.TodayMonth;
   const bool otherDay = otherMonth || today.day != Today.TodayDay;
-  Today.TodayYear = today.year;
-  Today.TodayMonth = today.month;
-  Today.TodayDay = today.day;
+  TodaySet(now);
   if (otherMonth) {
     DisplayToday();
     CalenPrepareMonth();

@@ -164,7 +164,8 @@ struct ClockState {
   std::int32_t ClockStrikeRepeats = 0;  // passes left
   // Slot (from 0) whose alarm is being shown, -1 for none.
   std::int32_t ClockAlarmSlot = -1;
-  WindowHandle hClockWnd = nullptr;  // FlyingBat6
+  WindowHandle hClockWnd = nullptr;       // FlyingBat6
+  unsigned char* previewImage = nullptr;  // of a performance that is being looked at
 };
 extern ClockState Clock;
 
@@ -195,3 +196,9 @@ int TimedAdd(const TimedEvent& event);
 bool TimedChange(int row, const TimedEvent& event);
 // Deletes a row; those behind it move up by one.
 bool TimedDelete(int row);
+
+// Gives the clock a place on the screen; its window moves when it is opened anew.
+void ClockPlaceSet(std::int32_t x, std::int32_t y);
+
+// How many rows of ClockList are in use.
+void ClockListCountSet(std::int32_t count);

@@ -56,12 +56,9 @@ void ClockSettingsTaken() {
 }
 
 void ClockSettingsFactory() {
-  CharaTables.ClockDesignCount = static_cast<std::int32_t>(std::size(kDesigns));
-  for (ClockDesignRow& row : CharaTables.ClockDesigns) row.record = ClockDesignRecord{};
-  for (int i = 0; i < CharaTables.ClockDesignCount; ++i) {
-    CharaTables.ClockDesigns[i].number = static_cast<std::uint16_t>(kFirstClockNumber + i);
+  ClockDesignsBegin(static_cast<int>(std::size(kDesigns)), kFirstClockNumber);
+  for (int i = 0; i < CharaTables.ClockDesignCount; ++i)
     SetDesign(CharaTables.ClockDesigns[i].record, kDesigns[i]);
-  }
   Clock.ClockDesign = kClockNone;
   Clock.ClockWanted = 0;
   Clock.ClockStrikeMode = kStrikeEveryHour;

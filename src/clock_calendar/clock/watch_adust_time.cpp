@@ -1,5 +1,5 @@
 // The running time in WatchAdustDlg.
-#include "clock_calendar/clock_calendar_tick.h"
+#include "clock_calendar/clock/clock_window.h"
 #include "platform/canvas.h"
 #include "services/dialog_family.h"
 #include "services/dialog_numbers.h"

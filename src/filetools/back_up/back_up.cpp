@@ -94,8 +94,9 @@ bool ComparisonRow(int row, char* text, int size) {
   TimeText(source, sourceTime, sourceText, sizeof sourceText);
   TimeText(copy, copyTime, copyText, sizeof copyText);
   PathSplit(BackUp.sourcePath[row]);
-  PathParts.PathName[TextPrefix(PathParts.PathName, kNameBytes)] = '\0';
-  TextFormat(text, static_cast<std::size_t>(size), "%s (%s - %s)", PathParts.PathName, sourceText, copyText);
+  const auto length = static_cast<int>(TextPrefix(PathParts.PathName, kNameBytes));
+  TextFormat(text, static_cast<std::size_t>(size), "%.*s (%s - %s)", length, PathParts.PathName, sourceText,
+             copyText);
   return source && copy && sourceTime == copyTime;
 }
 

@@ -62,3 +62,7 @@ void TableScrollBarDestroy() {
 int TableScrollDue() {
   return TickDueIf(SclTable.hSclTableWnd || SclTable.hPlanWnd);
 }
+
+void TableScrollForget() {
+  SclTable.TableScrollDirection = ScrollDirection::None;
+}

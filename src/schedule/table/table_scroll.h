@@ -41,3 +41,6 @@ void TableScrollBarDestroy();
 
 int TableScrollDue();
 inline constexpr TickStep kTableScrollStep{TableScrollTick, TableScrollDue};
+
+// Ends the repeating scroll; the pause before the next one stays as it is.
+void TableScrollForget();

@@ -1,8 +1,7 @@
-#include "clock_calendar/clock_calendar_sizes.h"
+#include "clock_calendar/clock/clock_size.h"
 
 #include "character/character_tables.h"
 #include "character/frames.h"
-#include "clock_calendar/calendar/calendar.h"
 #include "clock_calendar/clock/clock.h"
 #include "services/dib.h"
 
@@ -27,14 +26,6 @@ std::int32_t DesignOrFirst() {
   return Clock.ClockDesign == kClockNone ? 0 : Clock.ClockDesign;
 }
 
-// Pages are square; 0, 1 and 2 are the sizes of the settings.
-// kept: the first of them, which the list calls " 大", is the smallest.
-int PageWidth() {
-  if (Calendar.CalenPageSize == 0) return 150;
-  return Calendar.CalenPageSize == 2 ? 250 : 200;
-}
-constexpr int kBelowPage = 20;
-
 }  // namespace
 
 int ClockLayoutWidth() {
@@ -47,12 +38,4 @@ int ClockPictureHeight() {
 
 int ClockLayoutHeight() {
   return DesignSize(0).height;
-}
-
-int CalenLayoutWidth() {
-  return Calendar.CalenW > 0 ? Calendar.CalenW : PageWidth();
-}
-
-int CalenLayoutHeight() {
-  return Calendar.CalenH > 0 ? Calendar.CalenH : PageWidth() + kBelowPage;
 }

@@ -1,5 +1,4 @@
-// Sizes of the windows of the clock and the calendar, for the layout of the
-// desktop.
+// Sizes of the clock's window, for the layout of the desktop.
 #pragma once
 
 // In pixels, of a design's character's first picture; 0 without one. The layout reckons
@@ -8,7 +7,3 @@
 int ClockLayoutWidth();
 int ClockLayoutHeight();
 int ClockPictureHeight();
-
-// Of the calendar's window; of one that has not been open yet, by the page size.
-int CalenLayoutWidth();
-int CalenLayoutHeight();
