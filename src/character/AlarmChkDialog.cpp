@@ -6,15 +6,14 @@
 #include "services/dialog_family.h"
 #include "services/five_ticks.h"
 
+AlarmCheckState AlarmCheck;
+
 namespace {
 
 constexpr ToolDialog kTemplates[kAlarmRowCount] = {ToolDialog::AlarmChkDialogMail,
                                                    ToolDialog::AlarmChkDialogSchedule,
                                                    ToolDialog::AlarmChkDialogClock};  // in DlgIdTool, by row
 constexpr Rect kBox = {10, 10, 290, 170};
-
-AlarmRow checked[kAlarmRowCount];
-int frameNow;
 
 // The row that the open check plays; -1 for none.
 int RowNow() {
@@ -25,14 +24,15 @@ int RowNow() {
 }
 
 void Show(int row) {
-  if (checked[row].frameCount > 0) AlarmFrameShow(Dialogs.hToolDlg, kBox, checked[row], frameNow);
+  if (AlarmCheck.checked[row].frameCount > 0)
+    AlarmFrameShow(Dialogs.hToolDlg, kBox, AlarmCheck.checked[row], AlarmCheck.frameNow);
 }
 
 bool Proc(const Event& event) {
   const int row = RowNow();
   switch (event.kind) {
     case EventKind::Init:
-      frameNow = kFrameMax;  // the first step goes round to frame 0
+      AlarmCheck.frameNow = kFrameMax;  // the first step goes round to frame 0
       FiveTicksStart(1);
       return true;
     case EventKind::Paint:
@@ -47,19 +47,19 @@ bool Proc(const Event& event) {
 
 void AlarmCheckRun(WindowHandle owner, int row, int selection) {
   if (row < 0 || row >= kAlarmRowCount) return;
-  AlarmRowLoad(&checked[row], selection);
+  AlarmRowLoad(&AlarmCheck.checked[row], selection);
   ToolDialogRun(kTemplates[row], IDD_AlarmChkDialog, owner, Proc);
 }
 
 void AlarmCheckFrameStep() {
   const int row = RowNow();
   if (row < 0) return;
-  frameNow = AlarmFrameNext(checked[row], frameNow);
+  AlarmCheck.frameNow = AlarmFrameNext(AlarmCheck.checked[row], AlarmCheck.frameNow);
   Show(row);
 }
 
 void AlarmCheckFree() {
-  for (AlarmRow& row : checked) AlarmRowFree(&row);
+  for (AlarmRow& row : AlarmCheck.checked) AlarmRowFree(&row);
 }
 
 int AlarmCheckDue() {

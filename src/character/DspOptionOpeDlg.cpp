@@ -10,6 +10,9 @@
 #include "services/dialog_family.h"
 #include "services/dib.h"
 #include "services/painting.h"
+#include "services/state.h"
+
+MotionPreviewState MotionPreview;
 
 namespace {
 
@@ -38,23 +41,11 @@ constexpr Texts kTexts[] = {
     {"退屈動作2", "退屈動作2は設定されていません!"},
 };
 
-// What plays: its frames in order with their pictures, and the place on show.
-struct Played {
-  Preview kind = Preview::None;
-  int count = 0;
-  ImageHandle pictures[kBoredLenMax] = {};
-  bool hasOutline[kBoredLenMax] = {};
-  int place = 0;
-  int delay = 0;
-} played;
-
-Outline outlines[kFrameMax];  // of the character that plays
-
 void Add(int number, int frame) {
   const bool usable = number >= 0 && frame >= 0 && frame < kFrameMax;
-  played.pictures[played.count] = usable ? DibLoad(CharaBmpPath(number, frame)) : nullptr;
-  played.hasOutline[played.count] = usable && outlines[frame].count > 0;
-  ++played.count;
+  MotionPreview.pictures[MotionPreview.count] = usable ? DibLoad(CharaBmpPath(number, frame)) : nullptr;
+  MotionPreview.hasOutline[MotionPreview.count] = usable && MotionPreview.outlines[frame].count > 0;
+  ++MotionPreview.count;
 }
 
 void AddPattern(int number, const std::int32_t (&frames)[kBoredFrameCount]) {
@@ -62,17 +53,17 @@ void AddPattern(int number, const std::int32_t (&frames)[kBoredFrameCount]) {
 }
 
 void Free() {
-  for (ImageHandle picture : played.pictures) DibFree(picture);
-  played = Played{};
+  for (ImageHandle picture : MotionPreview.pictures) DibFree(picture);
+  StateReset(MotionPreview);
 }
 
 void Load(const MainChara& chara, Preview kind) {
   Free();
-  played.kind = kind;
-  played.delay = kTicksOfFrame;
+  MotionPreview.kind = kind;
+  MotionPreview.delay = kTicksOfFrame;
   const int number = chara.charaNo - 1;
   int ignored = 0;
-  OutlineReadCounted(number, outlines, &ignored);
+  OutlineReadCounted(number, MotionPreview.outlines, &ignored);
   switch (kind) {
     case Preview::Menu:
       if (chara.menuFrame > 0) Add(number, chara.menuFrame);
@@ -96,17 +87,17 @@ void Load(const MainChara& chara, Preview kind) {
 void Draw(Canvas* canvas, const Rect& area) {
   FillArea(canvas, BrushFace(), area);
   CanvasBackTransparent(canvas, true);
-  const Texts& texts = kTexts[static_cast<int>(played.kind)];
-  if (played.count == 0) {
+  const Texts& texts = kTexts[static_cast<int>(MotionPreview.kind)];
+  if (MotionPreview.count == 0) {
     CanvasText(canvas, kTextX, kTextY, texts.notSet);
     return;
   }
   CanvasText(canvas, kTextX, kTextY, texts.name);
-  if (!played.hasOutline[played.place]) {
+  if (!MotionPreview.hasOutline[MotionPreview.place]) {
     CanvasTextColour(canvas, kRed);
     CanvasText(canvas, kTextX + CanvasTextWidth(canvas, texts.name) + kNoteGap, kTextY, "(枠取りなし)");
   }
-  DibDraw(canvas, kPictureX, kTextY + kPictureBelow, played.pictures[played.place]);
+  DibDraw(canvas, kPictureX, kTextY + kPictureBelow, MotionPreview.pictures[MotionPreview.place]);
 }
 
 void Paint(WindowHandle dialog) {
@@ -135,13 +126,14 @@ void MotionPreviewRun(WindowHandle owner, int index, Preview kind) {
 
 // A menu motion stands still.
 int MotionPreviewTick() {
-  if (played.kind == Preview::None || played.kind == Preview::Menu || played.count == 0) return 0;
-  if (played.delay != 0) {
-    --played.delay;
+  if (MotionPreview.kind == Preview::None || MotionPreview.kind == Preview::Menu || MotionPreview.count == 0)
+    return 0;
+  if (MotionPreview.delay != 0) {
+    --MotionPreview.delay;
     return 0;
   }
-  played.delay = kTicksOfFrame;
-  played.place = (played.place + 1) % played.count;
+  MotionPreview.delay = kTicksOfFrame;
+  MotionPreview.place = (MotionPreview.place + 1) % MotionPreview.count;
   return 1;
 }
 

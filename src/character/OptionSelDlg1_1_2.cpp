@@ -4,23 +4,24 @@
 #include "resources/character_ids.h"
 #include "services/dialog_family.h"
 
+CharaDetailState CharaDetail;
+
 namespace {
 
 constexpr int kFirstButton = 2285;
 constexpr int kLastButton = 2288;
 
-int shown;
-
 bool Proc(const Event& event) {
   if (event.kind != EventKind::Pressed || event.id < kFirstButton || event.id > kLastButton) return false;
   const int place = event.id - kFirstButton;
-  MotionPreviewRun(event.window, shown, static_cast<Preview>(static_cast<int>(Preview::Menu) + place));
+  MotionPreviewRun(event.window, CharaDetail.shown,
+                   static_cast<Preview>(static_cast<int>(Preview::Menu) + place));
   return true;
 }
 
 }  // namespace
 
 void CharacterDetailRun(WindowHandle owner, int index) {
-  shown = index;
+  CharaDetail.shown = index;
   ToolDialogRun(ToolDialog::OptionSelDlg1_1, IDD_OptionSelDlg1_1_2, owner, Proc);
 }

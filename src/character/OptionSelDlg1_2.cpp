@@ -22,6 +22,8 @@
 #include "services/settings_save.h"
 #include "world/world_list.h"
 
+CharaOptionState CharaOption;
+
 namespace {
 
 constexpr int kList = 100;
@@ -31,9 +33,6 @@ constexpr int kCancel = 2;
 constexpr int kDetail = 2369;
 
 // First frames of the characters that were shown, by their places in the list.
-ImageHandle previews[kMainCharaMax];
-int shown;     // place of the character on show
-bool changed;  // the choice is to be saved
 
 bool IsListed(int place) {
   return place >= 0 && place < CharaTables.MainCharaCount && place < kMainCharaMax;
@@ -54,15 +53,16 @@ void DrawPreview(WindowHandle dialog) {
   const Rect area = PreviewArea(dialog);
   CanvasClip(canvas, area);
   FillArea(canvas, BrushFace(), area);
-  if (IsListed(shown)) DibDraw(canvas, area.left, area.top, previews[shown]);
+  if (IsListed(CharaOption.shown))
+    DibDraw(canvas, area.left, area.top, CharaOption.previews[CharaOption.shown]);
   CanvasRelease(canvas);
 }
 
 void Show(WindowHandle dialog, int place) {
-  shown = place;
+  CharaOption.shown = place;
   ControlSetText(dialog, kName, NameOf(place));
-  if (IsListed(place) && !previews[place] && CharaTables.MainCharas[place].charaNo >= 1) {
-    previews[place] = DibLoad(CharaBmpPath(CharaTables.MainCharas[place].charaNo - 1, 0));
+  if (IsListed(place) && !CharaOption.previews[place] && CharaTables.MainCharas[place].charaNo >= 1) {
+    CharaOption.previews[place] = DibLoad(CharaBmpPath(CharaTables.MainCharas[place].charaNo - 1, 0));
   }
   DrawPreview(dialog);
 }
@@ -82,7 +82,7 @@ void Take(WindowHandle dialog) {
   OptionPreviewsFree();
   if (!IsListed(place) || !CharaSelect(place)) return;
   Stage.StageRedraw = kRedrawReload;
-  changed = true;
+  CharaOption.changed = true;
   CharacterChosen();
 }
 
@@ -95,7 +95,7 @@ void Leave(WindowHandle dialog) {
 bool Press(const Event& event) {
   switch (event.id) {
     case kDetail:
-      if (IsListed(shown)) CharacterDetailRun(event.window, shown);
+      if (IsListed(CharaOption.shown)) CharacterDetailRun(event.window, CharaOption.shown);
       return true;
     case kOk:
       Take(event.window);
@@ -133,7 +133,7 @@ bool Proc(const Event& event) {
 }  // namespace
 
 void OptionPreviewsFree() {
-  for (ImageHandle& preview : previews) {
+  for (ImageHandle& preview : CharaOption.previews) {
     DibFree(preview);
     preview = nullptr;
   }
@@ -142,9 +142,9 @@ void OptionPreviewsFree() {
 void CommandOptionMainCharacter(Command) {
   FeatureDialogRun(PanelFeature(), [] {
     WorldListRead();
-    changed = false;
+    CharaOption.changed = false;
     MenuDialogRun(MenuDialog::OptionSelDlg1_2, IDD_OptionSelDlg1_2, Program.hMainWnd, Proc);
-    if (changed) SysFileWrite();
+    if (CharaOption.changed) SysFileWrite();
     if (Stage.StageRedraw == kRedrawReload) CommandSend(Command::StageRedraw);
     return 0;
   });

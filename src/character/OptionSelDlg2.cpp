@@ -17,6 +17,8 @@
 #include "services/settings_save.h"
 #include "world/world_list.h"
 
+AlarmOptionState AlarmOption;
+
 namespace {
 
 constexpr int kOk = 1;
@@ -31,8 +33,6 @@ constexpr int kFirstCombo = 100;
 constexpr int ComboOf(int row) {
   return kFirstCombo + row - kFirstRow;
 }
-
-bool changed;  // the choice is to be saved
 
 void Fill(WindowHandle dialog) {
   for (int row = kFirstRow; row < kAlarmRowCount; ++row) {
@@ -53,7 +53,7 @@ void Take(WindowHandle dialog) {
     if (selection >= 0) Character.AlarmCharaSel[row] = selection;
   }
   AlarmCharaLoad();
-  changed = true;
+  AlarmOption.changed = true;
 }
 
 bool Press(const Event& event) {
@@ -90,9 +90,9 @@ void CommandOptionAlarmCharacter(Command) {
   FeatureDialogRun(PanelFeature(), [] {
     WorldListRead();
     CharaFileRead();
-    changed = false;
+    AlarmOption.changed = false;
     MenuDialogRun(MenuDialog::OptionSelDlg2, IDD_OptionSelDlg2, Program.hMainWnd, Proc);
-    if (changed) SysFileWrite();
+    if (AlarmOption.changed) SysFileWrite();
     AlarmCheckFree();
     return 0;
   });

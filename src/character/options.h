@@ -3,8 +3,36 @@
 
 #include <cstdint>
 
+#include "character/alarm_images.h"
+#include "character/bored_frames.h"
+#include "character/character_tables.h"
+#include "character/outline.h"
 #include "platform/types.h"
+#include "services/dib.h"
 #include "services/tick_step.h"
+
+struct CharaOptionState {
+  ImageHandle previews[kMainCharaMax] = {};  // first frames of those that were shown
+  int shown = 0;                             // place of the character on show
+  bool changed = false;                      // the choice is to be saved
+};
+extern CharaOptionState CharaOption;
+
+struct CharaDetailState {
+  int shown = 0;  // place of the character in the list
+};
+extern CharaDetailState CharaDetail;
+
+struct AlarmOptionState {
+  bool changed = false;  // the choice is to be saved
+};
+extern AlarmOptionState AlarmOption;
+
+struct AlarmCheckState {
+  AlarmRow checked[kAlarmRowCount] = {};
+  int frameNow = 0;
+};
+extern AlarmCheckState AlarmCheck;
 
 // --- OptionSelDlg1_2: the main character is chosen.
 
@@ -19,6 +47,18 @@ void CharacterDetailRun(WindowHandle owner, int index);
 
 // Kinds of motion; template numbers 2021 to 2024 belong to them in this order.
 enum class Preview { None, Menu, Blink, Bored1, Bored2 };
+
+// What plays: its frames in order with their pictures, and the place on show.
+struct MotionPreviewState {
+  Preview kind = Preview::None;
+  int count = 0;
+  ImageHandle pictures[kBoredLenMax] = {};
+  bool hasOutline[kBoredLenMax] = {};
+  int place = 0;
+  int delay = 0;
+  Outline outlines[kFrameMax] = {};  // of the character that plays
+};
+extern MotionPreviewState MotionPreview;
 
 // Plays a motion of the main character at a place in the list until the dialog is
 // closed.

@@ -4,15 +4,11 @@
 #include "character/character_tables.h"
 #include "character/frames.h"
 
+PerformanceFiguresState PerformanceFigures;
+
 namespace {
 
 constexpr int kClockAlarmRow = 2;  // of AlarmCharaSel
-
-struct Loaded {
-  bool tried;
-  PerformanceImages images;
-};
-Loaded figures[kFrameMax];
 
 // The selected character's number; 0 for none.
 int CharacterNumber() {
@@ -38,13 +34,13 @@ bool PerformanceCharacterIsSelected() {
 
 PerformanceImages PerformanceFigure(int step) {
   if (step < 0 || step >= kFrameMax || CharacterNumber() <= 0) return {};
-  Loaded& figure = figures[step];
+  PerformanceFigureSlot& figure = PerformanceFigures.figures[step];
   if (!figure.tried) figure = {true, Load(CharacterNumber(), step)};
   return figure.images;
 }
 
 void PerformanceFiguresFree() {
-  for (Loaded& figure : figures) {
+  for (PerformanceFigureSlot& figure : PerformanceFigures.figures) {
     DibFree(figure.images.picture);
     DibFree(figure.images.mask);
     figure = {};

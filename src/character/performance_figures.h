@@ -2,12 +2,22 @@
 // notice.
 #pragma once
 
+#include "character/frames.h"
 #include "services/dib.h"
 
 struct PerformanceImages {
   ImageHandle picture;
   ImageHandle mask;
 };
+
+struct PerformanceFigureSlot {
+  bool tried;
+  PerformanceImages images;
+};
+struct PerformanceFiguresState {
+  PerformanceFigureSlot figures[kFrameMax] = {};
+};
+extern PerformanceFiguresState PerformanceFigures;
 
 // Whether a character is selected for the clock alarm.
 bool PerformanceCharacterIsSelected();

@@ -25,8 +25,6 @@ constexpr int kBandRightParts = 366;
 constexpr int kListHeightParts = 120;
 constexpr int kGap = 2;
 
-FolderList folders;
-
 void ListFiles() {
   FilterListFiles(Picker.hFilePickDlg, kPickFilesId, Picker.PickFolder, Picker.PickFilterSel,
                   Picker.PickFilter);
@@ -38,7 +36,8 @@ void OpenFolders(WindowHandle dialog) {
   const int top = FolderListTop(dialog);
   const Rect place{left, top, client.right - kGap, top + client.bottom * kListHeightParts / kPartsDown};
   const int bandWidth = client.right * kBandRightParts / kPartsAcross - left - kGap;
-  FolderListOpen(folders, dialog, place, bandWidth, Picker.PickFolder, Picker.PickStartFolder, ListFiles);
+  FolderListOpen(Picker.folders, dialog, place, bandWidth, Picker.PickFolder, Picker.PickStartFolder,
+                 ListFiles);
 }
 
 // The fixed kinds of file, and behind them the caller's if it is none of these.
@@ -84,7 +83,7 @@ void NameFromFiles(WindowHandle dialog) {
 }
 
 bool HandleControl(const Event& event) {
-  if (FolderListEvent(folders, event)) return true;
+  if (FolderListEvent(Picker.folders, event)) return true;
   if (FolderListIsCancel(event)) {
     End(event.window);
   } else if (IsPressed(event, kOkId)) {
@@ -110,7 +109,7 @@ bool Handle(const Event& event) {
       Open(event.window);
       return true;
     case EventKind::Paint:
-      FolderListPaint(folders);
+      FolderListPaint(Picker.folders);
       return true;
     case EventKind::Close:
       End(event.window);

@@ -4,6 +4,7 @@
 #include <cstdint>
 
 #include "platform/types.h"
+#include "services/folder_list.h"
 
 inline constexpr int kPickPathSize = 600;
 
@@ -35,6 +36,7 @@ struct PickerState {
   WindowHandle hFilePickDlg = nullptr;
   char PickFolder[256] = {};  // the folder on show
   char PickerStartFolders[kPickerFolderCount][256] = {};
+  FolderList folders;
 };
 extern PickerState Picker;
 

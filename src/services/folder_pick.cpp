@@ -7,6 +7,8 @@
 #include "services/folder_list.h"
 #include "services/text.h"
 
+FolderPickState FolderPick;
+
 namespace {
 
 constexpr int kMargin = 12;
@@ -14,24 +16,21 @@ constexpr int kMargin = 12;
 constexpr int kListPart = 120;
 constexpr int kListWhole = 190;
 
-FolderList folders;
-char folderOnShow[kFolderSize];
-
 void Open(WindowHandle dialog) {
   const Rect client = WindowClientRect(dialog);
   const int top = FolderListTop(dialog);
   const Rect place{kMargin, top, client.right - kMargin, top + client.bottom * kListPart / kListWhole};
-  FolderListOpenWide(folders, dialog, place, folderOnShow, "", nullptr);
+  FolderListOpenWide(FolderPick.folders, dialog, place, FolderPick.folderOnShow, "", nullptr);
 }
 
 bool Handle(const Event& event) {
-  if (FolderListEvent(folders, event)) return true;
+  if (FolderListEvent(FolderPick.folders, event)) return true;
   if (FolderListIsCancel(event)) {
     ToolDialogEnd(event.window, 2);
     return true;
   }
   if (event.kind == EventKind::Init) Open(event.window);
-  if (event.kind == EventKind::Paint) FolderListPaint(folders);
+  if (event.kind == EventKind::Paint) FolderListPaint(FolderPick.folders);
   return event.kind == EventKind::Init || event.kind == EventKind::Paint;
 }
 
@@ -39,9 +38,10 @@ bool Handle(const Event& event) {
 
 int FolderPickRun(ToolDialog number, int templateId, WindowHandle owner, char* folder, int size) {
   if (ToolDialogRun(number, templateId, owner, Handle) != 1) return 0;
-  if (folderOnShow[0] == '\0') return 0;  // where it stood could not be told
-  const bool driveRoot = std::strcmp(folderOnShow + TextPrefix(folderOnShow, 1), ":\\") == 0;
-  if (driveRoot) folderOnShow[2] = '\0';
-  TextCopy(folder, static_cast<std::size_t>(size), folderOnShow);
+  if (FolderPick.folderOnShow[0] == '\0') return 0;  // where it stood could not be told
+  const bool driveRoot =
+      std::strcmp(FolderPick.folderOnShow + TextPrefix(FolderPick.folderOnShow, 1), ":\\") == 0;
+  if (driveRoot) FolderPick.folderOnShow[2] = '\0';
+  TextCopy(folder, static_cast<std::size_t>(size), FolderPick.folderOnShow);
   return 1;
 }

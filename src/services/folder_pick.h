@@ -3,6 +3,13 @@
 
 #include "platform/types.h"
 #include "services/dialog_numbers.h"
+#include "services/folder_list.h"
+
+struct FolderPickState {
+  FolderList folders;
+  char folderOnShow[kFolderSize] = {};
+};
+extern FolderPickState FolderPick;
 
 // Runs such a dialog of the tool family (FileBackUpDirDlg, FileDivFileDlg,
 // FileUDivFileDlg), beginning in the current folder; `number` is its own in the

@@ -1,18 +1,16 @@
 #include "services/random.h"
 
-namespace {
-std::uint64_t state = 1;
-}
+RandomState Random;
 
 void RandomSeed(std::uint32_t seed) {
-  state = seed;
+  Random.state = seed;
 }
 
 // A sum in steps of an odd constant, whose bits are then stirred (splitmix64).
 int RandomBelow(int bound) {
   if (bound < 2) return 0;
-  state += 0x9E3779B97F4A7C15ULL;
-  std::uint64_t z = state;
+  Random.state += 0x9E3779B97F4A7C15ULL;
+  std::uint64_t z = Random.state;
   z = (z ^ (z >> 30U)) * 0xBF58476D1CE4E5B9ULL;
   z = (z ^ (z >> 27U)) * 0x94D049BB133111EBULL;
   z ^= z >> 31U;

@@ -45,6 +45,7 @@
 #include "services/drawing_objects.h"
 #include "services/file_picker.h"
 #include "services/five_ticks.h"
+#include "services/folder_pick.h"
 #include "services/path.h"
 #include "services/program.h"
 #include "services/random.h"
@@ -79,7 +80,7 @@ void ServicesReset() {
   DialogsReset();
   ResetAll(WorkBlocks, Drawing, Children, FileResult, FiveTicks, PathParts, Picker, Program, Screen, Today,
            World);
-  RandomSeed(1);
+  ResetAll(Random, FolderPick);
 }
 
 void CharacterReset() {
@@ -88,7 +89,8 @@ void CharacterReset() {
   OptionPreviewsFree();
   AlarmCheckFree();
   PerformanceFiguresFree();
-  ResetAll(Frames, AlarmImages, Character, CharaTables, Motion, NoticePlace, Stage, Walk);
+  ResetAll(Frames, AlarmImages, AlarmCheck, AlarmOption, CharaDetail, CharaOption, MotionPreview,
+           PerformanceFigures, Character, CharaTables, Motion, NoticePlace, Stage, Walk);
 }
 
 void ClockCalendarReset() {
@@ -97,8 +99,6 @@ void ClockCalendarReset() {
   CalenFontDelete();
   CalenStickersFree();
   ResetAll(Clock, ClockNotice, Timed, Performance, Calendar, CalendarPictures);
-  ClockAlarmCheckReset();
-  ClockAlarmForget();
 }
 
 void ScheduleReset() {

@@ -39,7 +39,6 @@ const Way& WayOf(int direction) {
 constexpr std::int32_t kOutside = -300;
 
 // Ticks until the next move.
-std::int32_t waits[kFigureCount];
 
 const CalenMonthPicture& MonthPicture() {
   return Calendar.CalenMonths[CalenYearShown()][Calendar.CalenMonthPos].picture;
@@ -139,7 +138,7 @@ void CalenFiguresSetup() {
     Calendar.CalenFigPeriod[figure] = CalenPeriodOf(month.periods[figure]);
     Calendar.CalenFigStep[figure] =
         CalenStepOf(month.steps[figure], DibHeight(CalendarPictures.CalenFigures[figure].picture));
-    waits[figure] = Calendar.CalenFigPeriod[figure];
+    Calendar.figureWaits[figure] = Calendar.CalenFigPeriod[figure];
     if (Calendar.CalenFigCount[figure] == 0) CalenFigurePlace(figure);
     for (unsigned char& direction : Calendar.CalenFigDir[figure]) {
       direction = static_cast<unsigned char>(DirectionOnLine(direction, DirectionCode(figure)));
@@ -164,8 +163,8 @@ bool CalenFiguresMove() {
     if (Calendar.CalenPictureOn == 0 || !CalendarPictures.CalenFigures[figure].picture ||
         Calendar.CalenFigPeriod[figure] <= 0)
       continue;
-    if (--waits[figure] > 0) continue;
-    waits[figure] = Calendar.CalenFigPeriod[figure];
+    if (--Calendar.figureWaits[figure] > 0) continue;
+    Calendar.figureWaits[figure] = Calendar.CalenFigPeriod[figure];
     const int copies = std::min<int>(Calendar.CalenFigCount[figure], kFigureCopies);
     for (int copy = 0; copy < copies; ++copy) {
       Calendar.CalenFigPhase[figure][copy] = Calendar.CalenFigPhase[figure][copy] == 0 ? 1 : 0;

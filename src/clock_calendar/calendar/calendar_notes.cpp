@@ -10,9 +10,6 @@ namespace {
 
 enum NoteMode { kNoteNever, kNoteThatDay, kNoteDayBefore, kNoteTwoDaysBefore };
 
-SclDate lookedAt = {-1, -1, -1, 0};  // the day that the marks are for
-bool done[kNoteDays];
-
 // A day of the working array. The year index may leave the span.
 struct Day {
   int yearIndex;
@@ -38,7 +35,7 @@ bool Announce(int slot, const Day& day) {
   const bool inSpan = day.yearIndex < kCalenYearMax && day.yearIndex < Calendar.CalenYearCount;
   if (inSpan) CalenNoteGet(day.yearIndex, day.month, day.day, text);
   if (text[0] == '\0') {
-    done[slot] = true;
+    Calendar.notesDone[slot] = true;
     return false;
   }
   note.due = true;
@@ -57,18 +54,19 @@ int CalenNoteCheck() {
   const SclDate today = {now.year - 2000, now.month - 1, now.day - 1, 0};
   const int yearIndex = CalenSpanIndex(today.year);
   if (yearIndex < 0) return 0;
-  if (today.year != lookedAt.year || today.month != lookedAt.month || today.day != lookedAt.day) {
-    lookedAt = today;
-    for (bool& mark : done) mark = false;
+  if (today.year != Calendar.notesLookedAt.year || today.month != Calendar.notesLookedAt.month ||
+      today.day != Calendar.notesLookedAt.day) {
+    Calendar.notesLookedAt = today;
+    for (bool& mark : Calendar.notesDone) mark = false;
   }
   const Day first = {yearIndex, today.month, today.day};
-  if (!done[0] && Announce(0, first)) return 1;
+  if (!Calendar.notesDone[0] && Announce(0, first)) return 1;
   if (Calendar.CalenNoteMode == kNoteThatDay) return 0;
   const int daysOfMonth = Calendar.CalenMonths[yearIndex][today.month].days;
   const Day second = NextDay(first, daysOfMonth);
-  if (!done[1] && Announce(1, second)) return 1;
-  if (Calendar.CalenNoteMode != kNoteTwoDaysBefore || done[2]) return 0;
-  done[2] = true;
+  if (!Calendar.notesDone[1] && Announce(1, second)) return 1;
+  if (Calendar.CalenNoteMode != kNoteTwoDaysBefore || Calendar.notesDone[2]) return 0;
+  Calendar.notesDone[2] = true;
   // kept: the second step is held against the length of the first day's month.
   return Announce(2, NextDay(second, daysOfMonth)) ? 1 : 0;
 }
@@ -82,7 +80,7 @@ int CalenNoteTake() {
   for (int slot = 0; slot < kNoteDays; ++slot) {
     if (!Calendar.CalenNotes[slot].due) continue;
     Calendar.CalenNotes[slot].due = false;
-    done[slot] = true;
+    Calendar.notesDone[slot] = true;
     return slot;
   }
   return -1;

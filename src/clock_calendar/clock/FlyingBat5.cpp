@@ -31,15 +31,13 @@ constexpr int kTextMargin = 8;
 constexpr int kColumnWidth = 8;
 constexpr int kColumnMax = 128;
 
-char comment[kAlarmCommentSize];
-
 // What the notice says and plays: an alarm's comment and performance, or, with no
 // alarm's slot, only the performance that was chosen.
 void ContentTake() {
-  comment[0] = '\0';
+  ClockNotice.comment[0] = '\0';
   if (Clock.ClockAlarmSlot < 0 || Clock.ClockAlarmSlot >= kAlarmSlotCount) return;
   const AlarmSlot& alarm = Clock.ClockEvents[Clock.ClockAlarmSlot];
-  TextCopy(comment, sizeof comment, alarm.comment);
+  TextCopy(ClockNotice.comment, sizeof ClockNotice.comment, alarm.comment);
   Performance.PerformanceActive = alarm.performance;
 }
 
@@ -65,7 +63,8 @@ void Paint(WindowHandle window) {
   CanvasBackTransparent(canvas, true);
   CanvasTextColour(canvas, 0);
   const int columns = std::min((client.right - kTextMargin) / kColumnWidth, kColumnMax);
-  const int below = TextLinesDraw(canvas, kTextX, kTextY, kLineStep, comment, sizeof comment - 1, columns);
+  const int below = TextLinesDraw(canvas, kTextX, kTextY, kLineStep, ClockNotice.comment,
+                                  sizeof ClockNotice.comment - 1, columns);
   if (client.right > 0 && client.bottom > below) {
     DrawSteady(canvas, {0, below, client.right, client.bottom}, DrawFigure);
   }

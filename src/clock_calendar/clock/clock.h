@@ -166,6 +166,13 @@ struct ClockState {
   std::int32_t ClockAlarmSlot = -1;
   WindowHandle hClockWnd = nullptr;       // FlyingBat6
   unsigned char* previewImage = nullptr;  // of a performance that is being looked at
+  std::int32_t comparedHour = -1;         // of the alarms' last look
+  std::int32_t comparedMinute = -1;
+  int firedLast = -1;                              // slot that fired last; -1 for none
+  unsigned char strikeFigures[kStrikeSteps] = {};  // of the hour that strikes
+  std::int32_t strikeWait = 0;
+  int firstStep = -1;  // with a figure; -1 for none
+  int lastStep = -1;
 };
 extern ClockState Clock;
 

@@ -3,21 +3,19 @@
 
 namespace {
 constexpr int kNone = -1;
-std::int32_t comparedHour = kNone;
-std::int32_t comparedMinute = kNone;
-int firedLast = kNone;
 }  // namespace
 
 int ClockAlarmCheck(int hour, int minute) {
-  if (hour == comparedHour && minute == comparedMinute) return 0;
-  comparedHour = hour;
-  comparedMinute = minute;
+  if (hour == Clock.comparedHour && minute == Clock.comparedMinute) return 0;
+  Clock.comparedHour = hour;
+  Clock.comparedMinute = minute;
   for (int slot = 0; slot < kAlarmSlotCount; ++slot) {
     const AlarmSlot& alarm = Clock.ClockEvents[slot];
     // kept: a slot is passed over only until another one has fired, so of two
     // alarms at one time each has every second day.
-    if (alarm.enabled == 0 || slot == firedLast || alarm.hour != hour || alarm.minute != minute) continue;
-    firedLast = slot;
+    if (alarm.enabled == 0 || slot == Clock.firedLast || alarm.hour != hour || alarm.minute != minute)
+      continue;
+    Clock.firedLast = slot;
     Clock.ClockAlarmSlot = slot;
     return 1;
   }
@@ -25,9 +23,9 @@ int ClockAlarmCheck(int hour, int minute) {
 }
 
 void ClockAlarmCheckReset() {
-  comparedHour = comparedMinute = kNone;
+  Clock.comparedHour = Clock.comparedMinute = kNone;
 }
 
 void ClockAlarmForget() {
-  firedLast = kNone;
+  Clock.firedLast = kNone;
 }

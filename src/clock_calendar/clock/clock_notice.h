@@ -1,10 +1,12 @@
 // The clock alarm's notice, FlyingBat5.
 #pragma once
 
+#include "clock_calendar/clock/clock.h"
 #include "platform/types.h"
 
 struct ClockNoticeState {
   WindowHandle hClockNoticeWnd = nullptr;  // FlyingBat5
+  char comment[kAlarmCommentSize] = {};    // of the alarm that is being told
 };
 extern ClockNoticeState ClockNotice;
 

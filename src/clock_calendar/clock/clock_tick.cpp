@@ -11,11 +11,6 @@ namespace {
 
 constexpr int kNoStep = -1;
 
-unsigned char strikeFigures[kStrikeSteps];
-std::int32_t strikeWait;
-int firstStep = kNoStep;
-int lastStep = kNoStep;
-
 void PlayStrikeSound() {
   if (Clock.ClockSoundOn == 0 || Clock.ClockSoundName[0] == '\0') return;
   char path[kRootPathSize + kClockSoundSize];
@@ -26,7 +21,7 @@ void PlayStrikeSound() {
 
 void EnterStep(int step) {
   Clock.ClockStrikeStep = step;
-  strikeWait = Clock.ClockStrikeDelay[step];
+  Clock.strikeWait = Clock.ClockStrikeDelay[step];
 }
 
 bool StrikeBegins() {
@@ -38,12 +33,12 @@ void BeginStrike() {
   const bool repeats = Clock.ClockStrikeSel != 0 && (Clock.ClockStrikeMode == kStrikeEveryHour ||
                                                      Clock.ClockStrikeMode == kStrikeAtTwelve);
   Clock.ClockStrikeRepeats = !repeats ? 0 : Clock.ClockHour12 == 0 ? 11 : Clock.ClockHour12 - 1;
-  std::memcpy(strikeFigures, Clock.ClockHourFigures[Clock.ClockHour12], sizeof strikeFigures);
-  firstStep = lastStep = kNoStep;
+  std::memcpy(Clock.strikeFigures, Clock.ClockHourFigures[Clock.ClockHour12], sizeof Clock.strikeFigures);
+  Clock.firstStep = Clock.lastStep = kNoStep;
   for (int step = 0; step < kStrikeSteps; ++step) {
-    if (strikeFigures[step] == 0) continue;
-    if (firstStep == kNoStep) firstStep = step;
-    lastStep = step;
+    if (Clock.strikeFigures[step] == 0) continue;
+    if (Clock.firstStep == kNoStep) Clock.firstStep = step;
+    Clock.lastStep = step;
   }
   Clock.ClockStrikeOn = true;
   PlayStrikeSound();
@@ -51,20 +46,20 @@ void BeginStrike() {
 }
 
 void ContinueStrike() {
-  if (strikeWait > 0) {
-    --strikeWait;
+  if (Clock.strikeWait > 0) {
+    --Clock.strikeWait;
     return;
   }
-  if (Clock.ClockStrikeStep == lastStep && Clock.ClockStrikeRepeats > 0) {
+  if (Clock.ClockStrikeStep == Clock.lastStep && Clock.ClockStrikeRepeats > 0) {
     --Clock.ClockStrikeRepeats;
     PlayStrikeSound();
-    EnterStep(firstStep);
+    EnterStep(Clock.firstStep);
     return;
   }
   const int next = Clock.ClockStrikeStep + 1;
   const bool endsAtZero =
       Clock.ClockStrikeMode != kStrikeEveryHour && Clock.ClockStrikeMode != kStrikeAtTwelve;
-  if (next >= kStrikeSteps || (endsAtZero && strikeFigures[next] == 0)) {
+  if (next >= kStrikeSteps || (endsAtZero && Clock.strikeFigures[next] == 0)) {
     ClockStrikeClear();
     return;
   }
@@ -106,7 +101,7 @@ void ClockTimeText(int hand, int hour, int minute, char (&to)[kClockTextSize]) {
 }
 
 int ClockStrikeFigure() {
-  return Clock.ClockStrikeOn ? strikeFigures[Clock.ClockStrikeStep] : 0;
+  return Clock.ClockStrikeOn ? Clock.strikeFigures[Clock.ClockStrikeStep] : 0;
 }
 
 void ClockStrikeClear() {

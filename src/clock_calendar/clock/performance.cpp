@@ -11,14 +11,6 @@ namespace {
 constexpr int kStepHundredths = 10;  // of every step; the durations of a record are not used
 constexpr int kPassMax = 5;
 
-bool stepping;
-bool goesRound;
-
-enum class Wait { None, Ticks, Time };
-Wait wait = Wait::None;
-std::int32_t ticksLeft;
-LocalTime deadline;
-
 // The active record; null for none.
 const ClockPerformance* Record() {
   const bool known = Performance.PerformanceActive >= 1 &&
@@ -53,7 +45,7 @@ void NextInPasses() {
     return;
   }
   Performance.PerformanceActive = 0;
-  stepping = false;
+  Performance.stepping = false;
 }
 
 }  // namespace
@@ -62,61 +54,61 @@ void PerformanceBegin(bool looping) {
   PerformanceEnd();
   Performance.PerformanceStep = 0;
   Performance.PerformancePasses = 0;
-  goesRound = looping;
+  Performance.goesRound = looping;
   const ClockPerformance* record = Record();
   if (!record) return;
-  stepping = (record->flags & kPerformanceCharacter) != 0 && PerformanceCharacterIsSelected() &&
-             record->figureMode != 0;
-  if (stepping) WaitForStep();
+  Performance.stepping = (record->flags & kPerformanceCharacter) != 0 && PerformanceCharacterIsSelected() &&
+                         record->figureMode != 0;
+  if (Performance.stepping) WaitForStep();
   PlaySound();
 }
 
 void PerformanceNext() {
-  if (!stepping) return;
-  if (goesRound) {
+  if (!Performance.stepping) return;
+  if (Performance.goesRound) {
     NextInLoop();
   } else {
     NextInPasses();
   }
-  if (stepping) WaitForStep();
+  if (Performance.stepping) WaitForStep();
 }
 
 void PerformanceEnd() {
-  stepping = false;
-  wait = Wait::None;
+  Performance.stepping = false;
+  Performance.wait = PerformanceWait::None;
   PerformanceFiguresFree();
 }
 
 bool PerformanceShowsFigures() {
-  return stepping;
+  return Performance.stepping;
 }
 
 void PerformanceWaitStart(int hundredths, const LocalTime& now) {
   if (hundredths < 100) {
-    wait = Wait::Ticks;
-    ticksLeft = hundredths / 3 + 1;
+    Performance.wait = PerformanceWait::Ticks;
+    Performance.ticksLeft = hundredths / 3 + 1;
     return;
   }
-  wait = Wait::Time;
-  deadline = now;
+  Performance.wait = PerformanceWait::Time;
+  Performance.deadline = now;
   const int sum = now.millisecond / 10 + hundredths;
   const int seconds = now.second + sum / 100;
   const int minutes = now.minute + seconds / 60;
-  deadline.millisecond = sum % 100 * 10;
-  deadline.second = seconds % 60;
-  deadline.minute = minutes % 60;
-  deadline.hour = (now.hour + minutes / 60) % 24;
+  Performance.deadline.millisecond = sum % 100 * 10;
+  Performance.deadline.second = seconds % 60;
+  Performance.deadline.minute = minutes % 60;
+  Performance.deadline.hour = (now.hour + minutes / 60) % 24;
 }
 
 bool PerformanceWaitIsOver(const LocalTime& now) {
   bool over = false;
-  if (wait == Wait::Ticks) over = --ticksLeft <= 0;
-  if (wait == Wait::Time) {
+  if (Performance.wait == PerformanceWait::Ticks) over = --Performance.ticksLeft <= 0;
+  if (Performance.wait == PerformanceWait::Time) {
     // kept: each of the four numbers must have been reached, so a deadline at the
     // beginning of a minute waits for that second of a later minute if it is missed.
-    over = now.hour >= deadline.hour && now.minute >= deadline.minute && now.second >= deadline.second &&
-           now.millisecond >= deadline.millisecond;
+    over = now.hour >= Performance.deadline.hour && now.minute >= Performance.deadline.minute &&
+           now.second >= Performance.deadline.second && now.millisecond >= Performance.deadline.millisecond;
   }
-  if (over) wait = Wait::None;
+  if (over) Performance.wait = PerformanceWait::None;
   return over;
 }

@@ -6,6 +6,9 @@
 
 #include "platform/time.h"
 
+// What the wait between two steps counts.
+enum class PerformanceWait { None, Ticks, Time };
+
 struct PerformanceState {
   // The performance in force: a number of ClockPerformances from 1, 0 for none. An
   // alarm's slot sets it at the notice's opening; without a slot it is the one that
@@ -13,6 +16,11 @@ struct PerformanceState {
   std::int32_t PerformanceActive = 0;
   std::int32_t PerformanceStep = 0;    // 0 to 19
   std::int32_t PerformancePasses = 0;  // that are over; counted without a slot only
+  bool stepping = false;
+  bool goesRound = false;
+  PerformanceWait wait = PerformanceWait::None;
+  std::int32_t ticksLeft = 0;
+  LocalTime deadline = {};
 };
 extern PerformanceState Performance;
 

@@ -23,9 +23,6 @@ namespace {
 constexpr char kMagic[] = "Mirrell ApliCation List:";
 constexpr int kMagicSize = sizeof kMagic - 1;
 
-ApliEntry* entries;  // room for ApliCount + 1 and more
-ApliEntry* secondList;
-
 void Path(char* buffer, int size) {
   RootPath(buffer, size, "\\mirrell_apli_list_file.ali");
 }
@@ -74,13 +71,14 @@ int ApliListRead() {
   }
   ApliHead head;
   if (!RecordRead(data, head) || !IsList(head)) return DataFailStatus(data);
-  if (!EntriesAllocate(entries, head.count + 1)) return DataFailStatus(data);
+  if (!EntriesAllocate(Applications.entries, head.count + 1)) return DataFailStatus(data);
   Applications.ApliCount = head.count;
   Applications.ApliSecondCount = head.second;
   Applications.ApliSelected = head.selected >= 0 && head.selected <= head.count ? head.selected : 0;
-  RecordsRead(data, entries, head.count);
+  RecordsRead(data, Applications.entries, head.count);
   RecordRead(data, Applications.ApliSchedule);
-  if (head.second > 0 && EntriesAllocate(secondList, head.second)) RecordsRead(data, secondList, head.second);
+  if (head.second > 0 && EntriesAllocate(Applications.secondList, head.second))
+    RecordsRead(data, Applications.secondList, head.second);
   if (data.failed) return DataFailStatus(data);
   DataClose(data);
   return 0;
@@ -95,7 +93,7 @@ int ApliListSave() {
   DataWrite(data, kMagic, kMagicSize);
   RecordWrite(data,
               ApliHead{Applications.ApliCount, Applications.ApliSecondCount, Applications.ApliSelected});
-  RecordsWrite(data, entries, Applications.ApliCount);
+  RecordsWrite(data, Applications.entries, Applications.ApliCount);
   RecordWrite(data, Applications.ApliSchedule);
   // kept: the second list is counted but not written; its count is 0.
   if (data.failed) return DataFailStatus(data);
@@ -104,12 +102,14 @@ int ApliListSave() {
 }
 
 const char* ApliPath(int entry) {
-  return entries && entry >= 0 && entry < Applications.ApliCount ? entries[entry].path : "";
+  return Applications.entries && entry >= 0 && entry < Applications.ApliCount
+             ? Applications.entries[entry].path
+             : "";
 }
 
 int ApliListSetFirst(const char* path) {
-  if (!entries && !EntriesAllocate(entries, 2)) return -1;
-  TextCopy(entries[0].path, kApliPathSize, path);
+  if (!Applications.entries && !EntriesAllocate(Applications.entries, 2)) return -1;
+  TextCopy(Applications.entries[0].path, kApliPathSize, path);
   if (Applications.ApliCount < 1) Applications.ApliCount = 1;
   return 0;
 }
@@ -123,8 +123,8 @@ bool ApliSelectedIsRunning() {
 }
 
 void ApliListFree() {
-  MemoryFree(entries);
-  entries = nullptr;
-  MemoryFree(secondList);
-  secondList = nullptr;
+  MemoryFree(Applications.entries);
+  Applications.entries = nullptr;
+  MemoryFree(Applications.secondList);
+  Applications.secondList = nullptr;
 }

@@ -14,6 +14,8 @@ struct ApplicationsState {
   std::int32_t ApliSelected = 0;     // number of the executing application's entry, from 1; 0 none
   ApliEntry ApliSchedule = {};       // path of the schedule of the executing application
   std::int32_t ApliStarted = 0;      // number of the started entry, from 1; 0 none
+  ApliEntry* entries = nullptr;      // room for ApliCount + 1 and more
+  ApliEntry* secondList = nullptr;
 };
 extern ApplicationsState Applications;
 

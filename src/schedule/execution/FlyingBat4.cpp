@@ -35,13 +35,10 @@ constexpr int kContentDown = 64;
 constexpr int kLineStep = 20;
 constexpr int kColumns = 56;
 
-int sclFrame;
-int noteFrame;
-
 void Begin(WindowHandle window) {
   FiveTicksStart(kFirstFrameTicks);
-  sclFrame = 0;
-  noteFrame = 0;
+  Notices.sclFrame = 0;
+  Notices.noteFrame = 0;
   NoticeShow(window);
 }
 
@@ -72,8 +69,8 @@ void DrawText(Canvas* canvas, int y, const char* head, const char* date, const c
 
 void PaintSchedule(WindowHandle window, Canvas* canvas) {
   const AlarmRow& row = AlarmImages.AlarmRows[kAlarmSchedule];
-  const bool picture = AlarmFrameHeight(row, sclFrame) != 0;
-  if (picture) AlarmFrameShow(window, kBox, row, sclFrame);
+  const bool picture = AlarmFrameHeight(row, Notices.sclFrame) != 0;
+  if (picture) AlarmFrameShow(window, kBox, row, Notices.sclFrame);
   const SclNoticeItem& item = Notices.SclNotice;
   const TimeOfDay start = TimeShown(item.start, item.startMinute, item.tableStartHour);
   const TimeOfDay end = TimeShown(item.end, item.endMinute, item.tableEndHour);
@@ -85,7 +82,7 @@ void PaintSchedule(WindowHandle window, Canvas* canvas) {
 
 void PaintNote(Canvas* canvas) {
   const AlarmRow& row = AlarmImages.AlarmRows[kAlarmNote];
-  AlarmFrameDraw(canvas, kFigureAt.x, kFigureAt.y, row, noteFrame);
+  AlarmFrameDraw(canvas, kFigureAt.x, kFigureAt.y, row, Notices.noteFrame);
   const int note = std::clamp(Notices.SclNoticeKind - kKindNote, 0, kNoteDays - 1);
   const CalenNote& item = Calendar.CalenNotes[note];
   char day[40] = "本日です";
@@ -93,7 +90,7 @@ void PaintNote(Canvas* canvas) {
   char date[100];
   TextFormat(date, sizeof date, "予定日 : %d年%d月%d日  %s", item.year + 2000, item.monthAndDay + 1,
              item.monthAndDay + 1, day);
-  const int below = kFigureAt.y + AlarmFrameHeight(row, noteFrame) + kTextY;
+  const int below = kFigureAt.y + AlarmFrameHeight(row, Notices.noteFrame) + kTextY;
   DrawText(canvas, std::min(below, kTextBelowFigure), "<< カレンダー書き込み >>", date, item.text);
 }
 
@@ -124,9 +121,9 @@ void Open(std::int32_t kind) {
 void SclNoticeFrameStep() {
   if (!Notices.hSclNoticeWnd) return;
   if (Notices.SclNoticeKind >= kKindNote) {
-    noteFrame = AlarmFrameNext(AlarmImages.AlarmRows[kAlarmNote], noteFrame);
+    Notices.noteFrame = AlarmFrameNext(AlarmImages.AlarmRows[kAlarmNote], Notices.noteFrame);
   } else {
-    sclFrame = AlarmFrameNext(AlarmImages.AlarmRows[kAlarmSchedule], sclFrame);
+    Notices.sclFrame = AlarmFrameNext(AlarmImages.AlarmRows[kAlarmSchedule], Notices.sclFrame);
   }
   SendPaint(Notices.hSclNoticeWnd);
 }

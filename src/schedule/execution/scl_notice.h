@@ -28,6 +28,8 @@ struct NoticesState {
   // place in CalenNotes + 2.
   std::int32_t SclNoticeKind = 0;
   WindowHandle hSclNoticeWnd = nullptr;  // FlyingBat4
+  int sclFrame = 0;
+  int noteFrame = 0;
 };
 extern NoticesState Notices;
 
