@@ -11,6 +11,7 @@
 #include "resources/shell_ids.h"
 #include "schedule/table/table_scroll.h"
 #include "services/commands.h"
+#include "services/dialog_acts.h"
 #include "services/drawing_objects.h"
 #include "services/feature_dialog.h"
 #include "services/painting.h"
@@ -201,36 +202,25 @@ void Pressed(const Event& event) {
   if (Panel.MenuPanelState == 0 && Panel.hDiskMenu == event.window) End(event.window);
 }
 
+void Typed(const Event& event) {
+  if (event.key == kEscape) Dismiss(event.window);
+}
+
+constexpr DialogAct kActs[] = {
+    {EventKind::Init, Init},
+    {EventKind::Paint, Paint},
+    {EventKind::MouseMove, PointerMoved},
+    {EventKind::LeftDown, Pressed},
+    {EventKind::Char, Typed},
+    // From the tick, and from the keyboard: Escape arrives as 2, Enter as 1.
+    {1, Dismiss},
+    {2, Dismiss},
+    {EventKind::Close, End},
+    {EventKind::Destroy, Forget},
+};
+
 bool PanelProc(const Event& event) {
-  switch (event.kind) {
-    case EventKind::Init:
-      Init(event.window);
-      return true;
-    case EventKind::Paint:
-      Paint(event.window);
-      return true;
-    case EventKind::MouseMove:
-      PointerMoved(event);
-      return true;
-    case EventKind::LeftDown:
-      Pressed(event);
-      return true;
-    case EventKind::Char:
-      if (event.key == kEscape) Dismiss(event.window);
-      return true;
-    case EventKind::Pressed:
-      // From the tick, and from the keyboard: Escape arrives as 2, Enter as 1.
-      if (event.id == 1 || event.id == 2) Dismiss(event.window);
-      return true;
-    case EventKind::Close:
-      End(event.window);
-      return true;
-    case EventKind::Destroy:
-      Forget(event.window);
-      return true;
-    default:
-      return false;
-  }
+  return DialogActRun(event, kActs);
 }
 
 void OpenTop() {

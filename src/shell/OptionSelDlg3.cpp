@@ -9,6 +9,7 @@
 #include "platform/window.h"
 #include "resources/shell_ids.h"
 #include "services/commands.h"
+#include "services/dialog_acts.h"
 #include "services/dialog_family.h"
 #include "services/feature_dialog.h"
 #include "services/painting.h"
@@ -132,47 +133,20 @@ void Cancel(WindowHandle dialog) {
   MenuDialogEnd(dialog, kCancel);
 }
 
-bool Press(const Event& event) {
-  switch (event.id) {
-    case kDefault:
-      Default(event.window);
-      return true;
-    case kOk:
-      Ok(event.window);
-      return true;
-    case kCancel:
-      Cancel(event.window);
-      return true;
-    default:
-      return false;
-  }
-}
+constexpr DialogAct kActs[] = {
+    {EventKind::Init, Init},
+    {EventKind::Paint, Paint},
+    {EventKind::LeftDown, DragBegin},
+    {EventKind::MouseMove, DragOn},
+    {EventKind::LeftUp, DragEnd},
+    {EventKind::Close, Cancel},
+    {kDefault, Default},
+    {kOk, Ok},
+    {kCancel, Cancel},
+};
 
 bool OptionSelDlg3Proc(const Event& event) {
-  switch (event.kind) {
-    case EventKind::Init:
-      Init(event.window);
-      return true;
-    case EventKind::Paint:
-      Paint(event.window);
-      return true;
-    case EventKind::LeftDown:
-      DragBegin(event);
-      return true;
-    case EventKind::MouseMove:
-      DragOn(event);
-      return true;
-    case EventKind::LeftUp:
-      DragEnd();
-      return true;
-    case EventKind::Pressed:
-      return Press(event);
-    case EventKind::Close:
-      Cancel(event.window);
-      return true;
-    default:
-      return false;
-  }
+  return DialogActRun(event, kActs);
 }
 
 }  // namespace

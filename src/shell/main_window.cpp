@@ -8,13 +8,12 @@
 #include "services/child_controls.h"
 #include "services/program.h"
 #include "services/screen_figures.h"
+#include "shell/main_client.h"
 #include "shell/panel.h"
 #include "shell/shell_commands.h"
 #include "shell/shutdown.h"
 #include "shell/start.h"
 #include "shell/tick_timer.h"
-
-MainWindowState MainWindow;
 
 namespace {
 
@@ -35,8 +34,7 @@ void Paint(const Event&) {
 }
 
 void Size(const Event& event) {
-  MainWindow.MainClientWidth = event.x;
-  MainWindow.MainClientHeight = event.y;
+  MainClientTake(event.x, event.y);
   TableScrollBarDestroy();
   ChildControlsDestroy(0, 599);
   ChildControlsDestroy(705, 710);

@@ -57,7 +57,7 @@
 #include "shell/file_dialog_defaults.h"
 #include "shell/file_watch.h"
 #include "shell/layout.h"
-#include "shell/main_window.h"
+#include "shell/main_client.h"
 #include "shell/old_data.h"
 #include "shell/panel.h"
 #include "shell/popups.h"
@@ -124,7 +124,7 @@ void MailMusicReset() {
 
 void ShellReset() {
   OldDataFree();
-  ResetAll(FileDialogDefaults, Factory, Layout, MainWindow, OldFormat, Panel, Popups, ProgramLine, TickCounts,
+  ResetAll(FileDialogDefaults, Factory, Layout, MainClient, OldFormat, Panel, Popups, ProgramLine, TickCounts,
            TickTimer, Watch);
 }
 

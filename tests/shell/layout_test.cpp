@@ -50,13 +50,6 @@ class LayoutTest : public ProgramTest {
     Calendar.CalenX = 540;
     Calendar.CalenY = 12;
   }
-  void TearDown() override {
-    Calendar.CalenW = Calendar.CalenH = 0;
-    CharaTables.ClockDesignCount = 0;
-    Clock.ClockDesign = kClockNone;
-    Layout.LayoutChange = 0;
-    ProgramTest::TearDown();
-  }
 
   static void SetScreen(int width, int height) {
     Screen.ScreenWidth = width;

@@ -74,12 +74,6 @@ class PanelTest : public DesktopTest {
  protected:
   void SetUp() override {
     DesktopTest::SetUp();
-    Panel.MenuPanelState = Panel.MenuHiLine = Panel.FuncNo = Panel.MenuCloseCount = Panel.MenuReopenGuard = 0;
-    Panel.MenuPanelRect = {};
-    Character.MenuFrame = 0;
-    Motion.CharaMotion = kMotionIdle;
-    Stage.StageRedraw = kRedrawNothing;
-    Character.BoredDelaySel = 0;
     Screen.ScreenWidth = 1024;
     Screen.ScreenHeight = 768;
     Character.StageX = 100;

@@ -14,7 +14,7 @@
 #include "character/stage.h"
 #include "clock_calendar/calendar/calendar.h"
 #include "clock_calendar/clock/clock.h"
-#include "filetools/open/open_state.h"
+#include "filetools/open/open_history.h"
 #include "mail_music/mail/mail.h"
 #include "platform/canvas.h"
 #include "platform/entry.h"
@@ -72,10 +72,6 @@ class StartDataTest : public StartTest {
     Clock.ClockShow = 1;
     Calendar.CalenShow = 1;
     ListenToEverything();
-  }
-  void TearDown() override {
-    for (AlarmRow& row : AlarmImages.AlarmRows) AlarmRowFree(&row);
-    StartTest::TearDown();
   }
 };
 

@@ -47,16 +47,9 @@ class TickOrderTest : public ProgramTest {
     group_ = std::make_unique<OpnGroupRec>();
   }
   void TearDown() override {
-    for (WalkSlot& slot : Walk.WalkSlots) slot = WalkSlot{};
-    Walk.WalkActive = Walk.WalkEndActive = false;
-    GroupRun.OpnPendingGroup = nullptr;
     for (const WindowHandle window : OpenWindows()) {
       if (window != Program.hMainWnd && WindowIsOpen(window)) WindowDestroy(window);
     }
-    Clock.ClockEvents[0] = AlarmSlot{};
-    ClockAlarmForget();
-    Clock.ClockAlarmSlot = -1;
-    Character.BlinkFrame = 0;
     ProgramTest::TearDown();
   }
   void GroupPending() {
