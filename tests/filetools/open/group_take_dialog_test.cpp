@@ -153,7 +153,7 @@ TEST_F(OpenDialogTest, ListsOfPathsScrollSidewaysAsFarAsTheirLongestRow) {
   const auto scrolls = [](int button, int list, int columns) {
     ThenPress(button);
     ThenExpect([list, columns] { EXPECT_GE(ListExtent(TopDialog(), list), columns * 4) << list; });
-    ThenPress(kCancel);
+    Then([] { PressEscape(TopDialog()); });
   };
   scrolls(IDC_OPN_SHOW_RECORD, IDC_OPN_RECORD, 200);
   scrolls(IDC_OPN_RECORD_TO_GROUP, IDC_OPN_RECORD, 200);
