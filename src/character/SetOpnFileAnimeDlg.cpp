@@ -17,11 +17,9 @@
 
 namespace {
 
-const WalkSettingsForm* form;
-
 // Without a chosen sound the stored one stays.
 WalkSettings FromControls(WindowHandle dialog) {
-  WalkSettings s = form->stored();
+  WalkSettings s = Walk.SettingsForm->stored();
   s.animeOn = ControlIsChecked(dialog, IDC_WALK_ANIME) ? 1 : 0;
   s.soundOn = ControlIsChecked(dialog, IDC_WALK_SOUND) ? 1 : 0;
   char name[kWalkSoundNameSize] = {};
@@ -57,7 +55,7 @@ const char* CharacterName() {
 }
 
 void Open(WindowHandle dialog) {
-  const WalkSettings s = form->stored();
+  const WalkSettings s = Walk.SettingsForm->stored();
   ControlSetChecked(dialog, IDC_WALK_ANIME, s.animeOn != 0);
   ControlSetChecked(dialog, IDC_WALK_SOUND, s.soundOn != 0);
   ControlSetText(dialog, IDC_WALK_CHARA, CharacterName());
@@ -68,7 +66,7 @@ void Open(WindowHandle dialog) {
 void Check(WindowHandle dialog) {
   if (Walk.OpeningState != 0 || Walk.MailPhase != 0 || Walk.WalkActive || Walk.WalkEndActive) return;
   WalkRequest request{};
-  form->request(FromControls(dialog), request);
+  Walk.SettingsForm->request(FromControls(dialog), request);
   request.opening = kOpeningCheck;
   WalkStart(request);
 }
@@ -80,7 +78,7 @@ void End(WindowHandle dialog, int result) {
 }
 
 void Set(WindowHandle dialog) {
-  form->store(FromControls(dialog));
+  Walk.SettingsForm->store(FromControls(dialog));
   End(dialog, 1);
 }
 
@@ -99,6 +97,6 @@ bool Handle(const Event& event) {
 }  // namespace
 
 bool WalkSettingsRun(WindowHandle owner, const WalkSettingsForm& asked) {
-  form = &asked;
+  Walk.SettingsForm = &asked;
   return SubDialogRun(SubDialog::SetOpnFileAnimeDlg, asked.templateId, owner, Handle) == 1;
 }

@@ -56,6 +56,8 @@ struct WalkBalloon {
   char names[kBalloonNameMax][kBalloonNameSize];
 };
 
+struct WalkSettingsForm;  // character/walk_settings.h
+
 struct WalkState {
   WalkSlot WalkSlots[kWalkSlotMax] = {};
   bool WalkActive = false;       // some slot walks
@@ -76,6 +78,7 @@ struct WalkState {
   std::int32_t TrailCount = 0;
   std::int64_t WipeCount = 0;
   int WipeSlice = 0;
+  const WalkSettingsForm* SettingsForm = nullptr;  // of the dialog that asks for settings
 };
 extern WalkState Walk;
 

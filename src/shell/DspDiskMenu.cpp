@@ -297,12 +297,12 @@ void PanelStateClear() {
   Panel.MenuPanelState = 0;
 }
 
-Feature PanelFeature() {
-  return static_cast<Feature>(Panel.FuncNo);
-}
-
 bool PanelIsOpen() {
   return Panel.hDiskMenu != nullptr;
+}
+
+Feature PanelFeature() {
+  return static_cast<Feature>(Panel.FuncNo);
 }
 
 void PanelPointerOnStage(const Event& event) {

@@ -4,25 +4,44 @@
 #include "filetools/open/open_dialogs.h"
 #include "filetools/open/open_history.h"
 #include "filetools/open/open_programs.h"
-#include "filetools/open/open_text.h"
 #include "platform/dialog.h"
 #include "resources/filetools_ids.h"
-#include "services/boxes.h"
+#include "services/dialog_acts.h"
 #include "services/dialog_family.h"
+#include "services/list_editor.h"
 #include "services/text.h"
 
 namespace {
 
-bool changed;
-
-// The chosen row of the history, -1 for none.
-int Row(WindowHandle dialog) {
-  const int row = ListSelected(dialog, IDC_OPN_FILE);
-  return row < OpnHistory.fileCount ? row : -1;
+int Count() {
+  return OpnHistory.fileCount;
 }
 
+constexpr ListEditor kFiles{IDC_OPN_FILE, Count, OpnFileRow};
+
+void Question(int row, char* text, int size) {
+  TextFormat(text, static_cast<std::size_t>(size), "%sのオープンを履歴から削除します",
+             OpnText(OpnHistory.fileName[row]).text);
+}
+
+bool RemoveRow(WindowHandle, int row) {
+  OpnHisRemove(row);
+  return true;
+}
+
+bool RemoveRows(WindowHandle, int) {
+  OpnHisClear();
+  OpnProgListForget();
+  return true;
+}
+
+constexpr ListDeed kRemove{
+    .needsRow = true, .questionOf = Question, .question = {nullptr, "履歴削除の確認"}, .act = RemoveRow};
+constexpr ListDeed kRemoveAll{
+    .question = {"ファイルとプログラム全ての履歴登録を削除します", "全履歴削除の確認"}, .act = RemoveRows};
+
 void DetailsShow(WindowHandle dialog) {
-  const int row = Row(dialog);
+  const int row = ListEditorChosen(dialog, kFiles);
   const OpnHistoryRec& h = OpnHistory;
   ControlSetText(dialog, IDC_OPN_NAME, OpnText(row < 0 ? "" : h.fileName[row]).text);
   ControlSetText(dialog, IDC_OPN_FOLDER, OpnText(row < 0 ? "" : h.filePath[row]).text);
@@ -30,60 +49,33 @@ void DetailsShow(WindowHandle dialog) {
   ControlSetText(dialog, IDC_OPN_PROGRAM_NAME, OpnText(program).text);
 }
 
-void Show(WindowHandle dialog) {
-  const ListQuiet quiet(dialog, IDC_OPN_FILE);
-  ListClear(dialog, IDC_OPN_FILE);
-  for (int row = 0; row < OpnHistory.fileCount; ++row) {
-    OpnRowAdd(dialog, IDC_OPN_FILE, OpnHistory.fileName[row], OpnHistory.filePath[row]);
-  }
-  DetailsShow(dialog);
+void Open(WindowHandle dialog) {
+  ListEditorShow(dialog, kFiles);
 }
 
-void Remove(WindowHandle dialog) {
-  const int row = Row(dialog);
-  if (row < 0) return;
-  char text[kOpnTextUsed + 60];
-  TextFormat(text, sizeof text, "%sのオープンを履歴から削除します", OpnText(OpnHistory.fileName[row]).text);
-  if (!BoxAsk(dialog, text, "履歴削除の確認")) return;
-  OpnHisRemove(row);
-  changed = true;
-  Show(dialog);
+// The dialog's context is whether the history has changed.
+template <const ListDeed& deed>
+void Run(const Event& event) {
+  if (!ListDeedRun(event.window, kFiles, deed)) return;
+  *static_cast<bool*>(event.context) = true;
+  DetailsShow(event.window);
 }
 
-void RemoveAll(WindowHandle dialog) {
-  if (!BoxAsk(dialog, "ファイルとプログラム全ての履歴登録を削除します", "全履歴削除の確認")) return;
-  OpnHisClear();
-  OpnProgListForget();
-  changed = true;
-  Show(dialog);
-}
+constexpr DialogAct kActs[] = {
+    {EventKind::Init, Open},
+    {IDC_OPN_FILE, EventKind::Chosen, DetailsShow},
+    {IDC_OPN_REMOVE, Run<kRemove>},
+    {IDC_OPN_REMOVE_ALL, Run<kRemoveAll>},
+};
 
 bool Handle(const Event& event) {
-  if (event.kind == EventKind::Init) {
-    Show(event.window);
-    return true;
-  }
-  if (IsChosen(event, IDC_OPN_FILE)) {
-    DetailsShow(event.window);
-    return true;
-  }
-  if (event.kind != EventKind::Pressed) return false;
-  switch (event.id) {
-    case IDC_OPN_REMOVE:
-      Remove(event.window);
-      return true;
-    case IDC_OPN_REMOVE_ALL:
-      RemoveAll(event.window);
-      return true;
-    default:
-      return false;
-  }
+  return DialogActRun(event, kActs);
 }
 
 }  // namespace
 
 bool DelListOpnFileHisDlgRun(WindowHandle owner) {
-  changed = false;
-  ToolDialogRun(ToolDialog::DelListOpnFileHisDlg, IDD_DelListOpnFileHisDlg, owner, Handle);
+  bool changed = false;
+  ToolDialogRun(ToolDialog::DelListOpnFileHisDlg, IDD_DelListOpnFileHisDlg, owner, Handle, &changed);
   return changed;
 }

@@ -2,39 +2,41 @@
 
 #include "filetools/open/open_dialogs.h"
 #include "filetools/open/open_history.h"
-#include "platform/dialog.h"
 #include "resources/filetools_ids.h"
+#include "services/dialog_acts.h"
 #include "services/dialog_family.h"
+#include "services/rows.h"
 #include "services/text.h"
 
 namespace {
 
-constexpr int kLineSize = kOpnTextUsed + 40;
+constexpr const char* kLabels[] = {
+    "--項目 No. ", "   ファイル名: ", "   ファイルパス: ", "   プログラム名: ", "   プログラムパス: "};
+constexpr int kLines = 5;  // of a row of the history
+constexpr int kFirstProgramLine = 3;
 
-void Open(WindowHandle dialog) {
-  const ListQuiet quiet(dialog, IDC_OPN_LINES);
+bool Line(int line, char* text, int size) {
+  const auto room = static_cast<std::size_t>(size);
   const OpnHistoryRec& h = OpnHistory;
-  char line[kLineSize];
-  const auto add = [&] { ListAdd(dialog, IDC_OPN_LINES, line); };
-  for (int row = 0; row < h.fileCount; ++row) {
-    TextFormat(line, sizeof line, "--項目 No. %d--", row + 1);
-    add();
-    TextFormat(line, sizeof line, "   ファイル名: %s", OpnText(h.fileName[row]).text);
-    add();
-    TextFormat(line, sizeof line, "   ファイルパス: %s", OpnText(h.filePath[row]).text);
-    add();
-    if (h.progName[row][0] == '\0') continue;
-    TextFormat(line, sizeof line, "   プログラム名: %s", OpnText(h.progName[row]).text);
-    add();
-    TextFormat(line, sizeof line, "   プログラムパス: %s", OpnText(h.progPath[row]).text);
-    add();
+  const int row = line / kLines;
+  const int place = line % kLines;
+  const char* const fields[] = {"", h.fileName[row], h.filePath[row], h.progName[row], h.progPath[row]};
+  if (place == 0) {
+    TextFormat(text, room, "%s%d--", kLabels[0], row + 1);
+  } else {
+    TextFormat(text, room, "%s%s", kLabels[place], OpnText(fields[place]).text);
   }
+  return place < kFirstProgramLine || h.progName[row][0] != '\0';
 }
 
+void Open(WindowHandle dialog) {
+  RowsShow(dialog, IDC_OPN_LINES, RowsOf(OpnHistory.fileCount * kLines, Line));
+}
+
+constexpr DialogAct kActs[] = {{EventKind::Init, Open}};
+
 bool Handle(const Event& event) {
-  if (event.kind != EventKind::Init) return false;
-  Open(event.window);
-  return true;
+  return DialogActRun(event, kActs);
 }
 
 }  // namespace

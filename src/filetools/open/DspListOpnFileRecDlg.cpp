@@ -3,14 +3,15 @@
 #include "filetools/open/open_controls.h"
 #include "filetools/open/open_dialogs.h"
 #include "resources/filetools_ids.h"
+#include "services/dialog_acts.h"
 #include "services/dialog_family.h"
 
 namespace {
 
+constexpr DialogAct kActs[] = {{EventKind::Init, OpnRecordShow}};
+
 bool Handle(const Event& event) {
-  if (event.kind != EventKind::Init) return false;
-  OpnRecordShow(event.window);
-  return true;
+  return DialogActRun(event, kActs);
 }
 
 }  // namespace

@@ -13,6 +13,7 @@
 #include "services/boxes.h"
 #include "services/commands.h"
 #include "services/data_file.h"
+#include "services/dialog_acts.h"
 #include "services/dialog_family.h"
 #include "services/file_picker.h"
 #include "services/program.h"
@@ -46,19 +47,11 @@ void TakeGroup() {
   MenuDialogEnd(Dialogs.hMenuDlg, 0);
 }
 
-void ShowRecord() {
-  DspListOpnFileRecDlgRun(Dialogs.hMenuDlg);
-}
-
 void ClearRecord() {
   if (BoxAsk(Dialogs.hMenuDlg, "オープン記録を全てクリアします。よろしいですか ?",
              "オープン記録クリアの確認")) {
     OpnRecordClear();
   }
-}
-
-void RecordToGroup() {
-  SetGrpOpnFileRecDlgRun(Dialogs.hMenuDlg);
 }
 
 void DeleteHistory() {
@@ -73,47 +66,23 @@ void Animation() {
   SetOpnFileAnimeDlgRun(Dialogs.hMenuDlg);
 }
 
-// What the buttons do: here, or by the main window's command of the same number.
-struct Button {
-  int id;
-  void (*action)();
-};
-constexpr Button kButtons[] = {
-    {1, Open},
-    {IDC_OPN_ADD_FILE, nullptr},
-    {IDC_OPN_ADD_PROGRAM, nullptr},
-    {IDC_OPN_GROUP_SET, nullptr},
+constexpr DialogAct kActs[] = {
+    {EventKind::Init, FileOpnDialogRefresh},
+    {IDC_OPN_FILE, EventKind::Chosen, FileChosen},
+    {kOkButton, Open},
+    {IDC_OPN_ADD_FILE, Command::OpenAddFile},
+    {IDC_OPN_ADD_PROGRAM, Command::OpenAddProgram},
+    {IDC_OPN_GROUP_SET, Command::OpenGroupSet},
     {IDC_OPN_TAKE_GROUP, TakeGroup},
-    {IDC_OPN_RECORD_TO_GROUP, RecordToGroup},
-    {IDC_OPN_SHOW_RECORD, ShowRecord},
+    {IDC_OPN_RECORD_TO_GROUP, SetGrpOpnFileRecDlgRun},
+    {IDC_OPN_SHOW_RECORD, DspListOpnFileRecDlgRun},
     {IDC_OPN_CLEAR_RECORD, ClearRecord},
     {IDC_OPN_DELETE_HISTORY, DeleteHistory},
     {IDC_OPN_ANIMATION, Animation},
 };
 
-bool Press(int id) {
-  for (const Button& button : kButtons) {
-    if (button.id != id) continue;
-    if (button.action) {
-      button.action();
-    } else {
-      CommandSend(static_cast<Command>(id));
-    }
-    return true;
-  }
-  return false;
-}
-
 bool Handle(const Event& event) {
-  if (event.kind == EventKind::Init) {
-    FileOpnDialogRefresh();
-    return true;
-  }
-  if (IsChosen(event, IDC_OPN_FILE)) {
-    FileChosen();
-    return true;
-  }
-  return event.kind == EventKind::Pressed && Press(event.id);
+  return DialogActRun(event, kActs);
 }
 
 // Picks a path. False when the user cancels, or when a picker is up already.

@@ -4,45 +4,40 @@
 #include "filetools/open/open_search.h"
 #include "platform/dialog.h"
 #include "resources/filetools_ids.h"
+#include "services/dialog_acts.h"
 #include "services/dialog_family.h"
+#include "services/rows.h"
 
 namespace {
 
 constexpr int kChoose = 1;
 
-int chosen;
+void FoundRow(int row, char* text, int size) {
+  OpnGroupRowText(OpnSearchGroup(row), text, size);
+}
 
 void Open(WindowHandle dialog) {
-  const ListQuiet quiet(dialog, IDC_OPN_GROUP);
-  for (int i = 0; i < OpnSearchResult.count; ++i) {
-    char text[kOpnGroupRowSize];
-    OpnGroupRowText(OpnSearchGroup(i), text, sizeof text);
-    ListAdd(dialog, IDC_OPN_GROUP, text);
-  }
-  ListSelect(dialog, IDC_OPN_GROUP, 0);
+  RowsShow(dialog, IDC_OPN_GROUP, RowsOf(OpnSearchResult.count, FoundRow), 0);
 }
 
-void Choose(WindowHandle dialog) {
-  const int row = ListSelected(dialog, IDC_OPN_GROUP);
+// The dialog's context is the chosen group.
+void Choose(const Event& event) {
+  const int row = ListSelected(event.window, IDC_OPN_GROUP);
   if (row < 0 || row >= OpnSearchResult.count) return;
-  chosen = OpnSearchGroup(row);
-  SubDialogEnd(dialog, kChoose);
+  *static_cast<int*>(event.context) = OpnSearchGroup(row);
+  SubDialogEnd(event.window, kChoose);
 }
+
+constexpr DialogAct kActs[] = {{EventKind::Init, Open}, {kChoose, Choose}};
 
 bool Handle(const Event& event) {
-  if (event.kind == EventKind::Init) {
-    Open(event.window);
-    return true;
-  }
-  if (!IsPressed(event, kChoose)) return false;
-  Choose(event.window);
-  return true;
+  return DialogActRun(event, kActs);
 }
 
 }  // namespace
 
 int SerchOpnFileGrpSelDlgRun(WindowHandle owner) {
-  chosen = -1;
-  SubDialogRun(SubDialog::SerchOpnFileGrpSelDlg, IDD_SerchOpnFileGrpSelDlg, owner, Handle);
+  int chosen = -1;
+  SubDialogRun(SubDialog::SerchOpnFileGrpSelDlg, IDD_SerchOpnFileGrpSelDlg, owner, Handle, &chosen);
   return chosen;
 }

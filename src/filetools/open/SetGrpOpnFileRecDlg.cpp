@@ -6,6 +6,7 @@
 #include "platform/dialog.h"
 #include "resources/filetools_ids.h"
 #include "services/boxes.h"
+#include "services/dialog_acts.h"
 #include "services/dialog_family.h"
 #include "services/text.h"
 
@@ -35,15 +36,14 @@ void Register(WindowHandle dialog) {
   OpnGroupSave();
 }
 
+constexpr DialogAct kActs[] = {
+    {EventKind::Init, Open},
+    {IDC_OPN_GROUP, EventKind::Chosen, OpnGroupChosen},
+    {IDC_OPN_GROUP_REGISTER, Register},
+};
+
 bool Handle(const Event& event) {
-  if (event.kind == EventKind::Init) {
-    Open(event.window);
-    return true;
-  }
-  if (OpnGroupListEvent(event)) return true;
-  if (!IsPressed(event, IDC_OPN_GROUP_REGISTER)) return false;
-  Register(event.window);
-  return true;
+  return DialogActRun(event, kActs);
 }
 
 }  // namespace

@@ -1,31 +1,33 @@
 // TakeOpnGrpSetDlg: finds a group and has its files opened.
 
+#include <initializer_list>
+
 #include "filetools/open/group_open.h"
 #include "filetools/open/open_controls.h"
 #include "filetools/open/open_dialogs.h"
 #include "filetools/open/open_search.h"
 #include "platform/dialog.h"
+#include "platform/window.h"
 #include "resources/filetools_ids.h"
 #include "services/boxes.h"
+#include "services/dialog_acts.h"
 #include "services/dialog_family.h"
 
 namespace {
 
 constexpr int kCalled = 1;
 
-// The two ways to look for groups.
+// A way to look for groups.
 struct Search {
-  int button;
   int field;
   int (*run)(const char* text);
   const char* failed;
 };
-constexpr Search kSearches[] = {
-    {IDC_OPN_SEARCH_NAMES, IDC_OPN_NAME_WORDS, OpnSearchNames, "ファイル名検索失敗"},
-    {IDC_OPN_SEARCH_COMMENTS, IDC_OPN_COMMENT_WORDS, OpnSearchComments, "コメント検索失敗"},
-};
+constexpr Search kNames = {IDC_OPN_NAME_WORDS, OpnSearchNames, "ファイル名検索失敗"};
+constexpr Search kComments = {IDC_OPN_COMMENT_WORDS, OpnSearchComments, "コメント検索失敗"};
 
-void SearchRun(WindowHandle dialog, const Search& search) {
+template <const Search& search>
+void Look(WindowHandle dialog) {
   char text[kOpnSearchSize + 1];  // a byte more, so that a pair that is cut shows
   ControlGetText(dialog, search.field, text, sizeof text);
   if (search.run(text) == 0) {
@@ -39,27 +41,43 @@ void SearchRun(WindowHandle dialog, const Search& search) {
 }
 
 void Open(WindowHandle dialog) {
-  for (const Search& search : kSearches) ControlSetLimit(dialog, search.field, kOpnSearchSize - 1);
+  for (const Search& search : {kNames, kComments}) {
+    ControlSetLimit(dialog, search.field, kOpnSearchSize - 1);
+  }
   OpnGroupsShow(dialog, 0);
   OpnGroupShow(dialog, 0);
 }
 
+void Call(WindowHandle dialog) {
+  OpnGroupStart(OpnGroupOfList(dialog));
+  ToolDialogEnd(dialog, kCalled);
+}
+
+bool FieldHasFocus(WindowHandle dialog, const Search& search) {
+  return WindowHasFocus(Control(dialog, search.field));
+}
+
+// settled: Enter in a search field searches, as the button beside it does.
+void Accept(WindowHandle dialog) {
+  if (FieldHasFocus(dialog, kNames)) {
+    Look<kNames>(dialog);
+  } else if (FieldHasFocus(dialog, kComments)) {
+    Look<kComments>(dialog);
+  } else {
+    Call(dialog);
+  }
+}
+
+constexpr DialogAct kActs[] = {
+    {EventKind::Init, Open},
+    {IDC_OPN_GROUP, EventKind::Chosen, OpnGroupChosen},
+    {IDC_OPN_SEARCH_NAMES, Look<kNames>},
+    {IDC_OPN_SEARCH_COMMENTS, Look<kComments>},
+    {kOkButton, Accept},
+};
+
 bool Handle(const Event& event) {
-  if (event.kind == EventKind::Init) {
-    Open(event.window);
-    return true;
-  }
-  if (OpnGroupListEvent(event)) return true;
-  if (event.kind != EventKind::Pressed) return false;
-  for (const Search& search : kSearches) {
-    if (event.id != search.button) continue;
-    SearchRun(event.window, search);
-    return true;
-  }
-  if (event.id != kCalled) return false;
-  OpnGroupStart(OpnGroupOfList(event.window));
-  ToolDialogEnd(event.window, kCalled);
-  return true;
+  return DialogActRun(event, kActs);
 }
 
 }  // namespace

@@ -7,31 +7,31 @@
 #include "filetools/open/open_record.h"
 #include "platform/dialog.h"
 #include "resources/filetools_ids.h"
+#include "services/rows.h"
 #include "services/text.h"
 
-void OpnRowAdd(WindowHandle dialog, int list, const char* name, const char* folder) {
-  char text[kOpnRowSize];
-  OpnRowText(text, sizeof text, name, folder);
-  ListAdd(dialog, list, text);
+namespace {
+
+void ProgramRow(int row, char* text, int size) {
+  if (row == 0) {
+    TextCopy(text, static_cast<std::size_t>(size), "関連づけプログラム");
+  } else {
+    OpnRowText(text, size, OpnProgList.progName[row - 1], OpnProgList.progPath[row - 1]);
+  }
+}
+
+}  // namespace
+
+void OpnFileRow(int row, char* text, int size) {
+  OpnRowText(text, size, OpnHistory.fileName[row], OpnHistory.filePath[row]);
 }
 
 void OpnFilesShow(WindowHandle dialog) {
-  const ListQuiet quiet(dialog, IDC_OPN_FILE);
-  ListClear(dialog, IDC_OPN_FILE);
-  for (int row = 0; row < OpnHistory.workCount; ++row) {
-    OpnRowAdd(dialog, IDC_OPN_FILE, OpnHistory.fileName[row], OpnHistory.filePath[row]);
-  }
-  ListSelect(dialog, IDC_OPN_FILE, OpnWork.fileSel);
+  RowsShow(dialog, IDC_OPN_FILE, RowsOf(OpnHistory.workCount, OpnFileRow), OpnWork.fileSel);
 }
 
 void OpnProgramsShow(WindowHandle dialog) {
-  const ListQuiet quiet(dialog, IDC_OPN_PROGRAM);
-  ListClear(dialog, IDC_OPN_PROGRAM);
-  ListAdd(dialog, IDC_OPN_PROGRAM, "関連づけプログラム");
-  for (int row = 0; row < OpnProgList.workCount; ++row) {
-    OpnRowAdd(dialog, IDC_OPN_PROGRAM, OpnProgList.progName[row], OpnProgList.progPath[row]);
-  }
-  ListSelect(dialog, IDC_OPN_PROGRAM, OpnWork.progSel);
+  RowsShow(dialog, IDC_OPN_PROGRAM, RowsOf(OpnProgList.workCount + 1, ProgramRow), OpnWork.progSel);
 }
 
 bool OpnSelectionFromLists(WindowHandle dialog) {
@@ -39,14 +39,7 @@ bool OpnSelectionFromLists(WindowHandle dialog) {
 }
 
 void OpnGroupsShow(WindowHandle dialog, int group) {
-  const ListQuiet quiet(dialog, IDC_OPN_GROUP);
-  ListClear(dialog, IDC_OPN_GROUP);
-  for (int i = 0; i < kOpnGroupMax; ++i) {
-    char text[kOpnGroupRowSize];
-    OpnGroupRowText(i, text, sizeof text);
-    ListAdd(dialog, IDC_OPN_GROUP, text);
-  }
-  ListSelect(dialog, IDC_OPN_GROUP, group);
+  RowsShow(dialog, IDC_OPN_GROUP, RowsOf(kOpnGroupMax, OpnGroupRowText), group);
 }
 
 int OpnGroupOfList(WindowHandle dialog) {
@@ -59,7 +52,9 @@ void OpnGroupFilesShow(WindowHandle dialog, int group) {
   const ListQuiet quiet(dialog, IDC_OPN_GROUP_FILES);
   ListClear(dialog, IDC_OPN_GROUP_FILES);
   for (int row = 0; row < g.fileCount; ++row) {
-    OpnRowAdd(dialog, IDC_OPN_GROUP_FILES, g.fileName[row], g.filePath[row]);
+    char text[kOpnRowSize];
+    OpnRowText(text, sizeof text, g.fileName[row], g.filePath[row]);
+    ListAdd(dialog, IDC_OPN_GROUP_FILES, text);
   }
 }
 
@@ -70,10 +65,8 @@ void OpnGroupShow(WindowHandle dialog, int group) {
   OpnGroupFilesShow(dialog, group);
 }
 
-bool OpnGroupListEvent(const Event& event) {
-  if (!IsChosen(event, IDC_OPN_GROUP)) return false;
-  OpnGroupShow(event.window, OpnGroupOfList(event.window));
-  return true;
+void OpnGroupChosen(WindowHandle dialog) {
+  OpnGroupShow(dialog, OpnGroupOfList(dialog));
 }
 
 bool OpnCommentTake(WindowHandle dialog, int group) {
@@ -83,11 +76,5 @@ bool OpnCommentTake(WindowHandle dialog, int group) {
 }
 
 void OpnRecordShow(WindowHandle dialog) {
-  const ListQuiet quiet(dialog, IDC_OPN_RECORD);
-  ListClear(dialog, IDC_OPN_RECORD);
-  for (int row = 0; row < OpnRecord.recCount; ++row) {
-    char text[kOpnRecordRowSize];
-    OpnRecordRowText(row, text, sizeof text);
-    ListAdd(dialog, IDC_OPN_RECORD, text);
-  }
+  RowsShow(dialog, IDC_OPN_RECORD, RowsOf(OpnRecord.recCount, OpnRecordRowText));
 }

@@ -1,11 +1,10 @@
 // Lists and fields that several of the open dialogs have.
 #pragma once
 
-#include "platform/event.h"
 #include "platform/types.h"
 
-// Adds the row of a file or a program, "name [folder]", to a list.
-void OpnRowAdd(WindowHandle dialog, int list, const char* name, const char* folder);
+// A file of the history as a row of a list.
+void OpnFileRow(int row, char* text, int size);
 
 // The files of the history and the program lists, with the rows that OpnWork has
 // chosen.
@@ -25,8 +24,8 @@ int OpnGroupOfList(WindowHandle dialog);
 void OpnGroupFilesShow(WindowHandle dialog, int group);
 void OpnGroupShow(WindowHandle dialog, int group);
 
-// Shows the group that is chosen in the list. True if the event was that.
-bool OpnGroupListEvent(const Event& event);
+// Shows the group that is chosen in the list.
+void OpnGroupChosen(WindowHandle dialog);
 
 // Takes the comment field over into a group. True if it was another one.
 bool OpnCommentTake(WindowHandle dialog, int group);

@@ -47,6 +47,10 @@ static_assert(RecordSize<OpnGroupRec>() == 36859);
 struct OpnGroupsState {
   OpnGroupRec OpnGroupTable[kOpnGroupMax] = {};
   OpnGroupRec aside[kOpnGroupMax] = {};  // the copy that takes changes back; what is being read
+  // FileOpnGrpSetDlg: the group on show, and whether its files, or another group's, were
+  // changed.
+  int shown = 0;
+  bool dirty = false;
 };
 extern OpnGroupsState OpnGroups;
 

@@ -109,6 +109,61 @@ TEST_F(OpenDialogTest, ASearchByCommentLeadsToTheChosenGroup) {
   });
 }
 
+TEST_F(OpenDialogTest, EnterInASearchFieldSearchesAndElsewhereCallsTheGroup) {
+  AddToGroup(3, "report.txt");
+  OpnGroupSetComment(3, "work");
+  AddToGroup(8, "b.txt");
+  OpnGroupSetComment(8, "other");
+  SaveGroups();
+  ThenPress(IDC_OPN_TAKE_GROUP);
+  ThenType(IDC_OPN_NAME_WORDS, "report");
+  Then([] { PressEnter(TopDialog()); });
+  ThenExpect([] {
+    EXPECT_EQ(TemplateOf(TopDialog()), IDD_SerchOpnFileGrpSelDlg);
+    EXPECT_EQ(GroupRun.OpnPendingGroup, nullptr);
+    PressEnter(TopDialog());
+  });
+  ThenExpect([] { EXPECT_EQ(ChosenOf(IDC_OPN_GROUP), 3); });
+  ThenType(IDC_OPN_COMMENT_WORDS, "other");
+  Then([] { PressEnter(TopDialog()); });
+  Then([] { PressEnter(TopDialog()); });
+  ThenExpect([] { EXPECT_EQ(ChosenOf(IDC_OPN_GROUP), 8); });
+  ThenChoose(IDC_OPN_GROUP, 3);
+  Then([] { PressEnter(TopDialog()); });
+  OpenDialog();
+  EXPECT_EQ(GroupRun.OpnPendingGroup, &OpnGroups.OpnGroupTable[3]);
+}
+
+TEST_F(OpenDialogTest, TheSearchFieldsTake5119Bytes) {
+  In(IDC_OPN_TAKE_GROUP, [] {
+    ThenType(IDC_OPN_COMMENT_WORDS, std::string(5119, 'x'));
+    ThenExpect([] { EXPECT_EQ(ControlText(TopDialog(), IDC_OPN_COMMENT_WORDS).size(), 5119U); });
+    ThenPress(kCancel);
+  });
+}
+
+TEST_F(OpenDialogTest, ListsOfPathsScrollSidewaysAsFarAsTheirLongestRow) {
+  AddHistory(std::string(200, 'n'), "C:\\" + std::string(200, 'f') + "\\", std::string(200, 'p'), "C:\\");
+  SaveHistory();
+  AddToGroup(0, std::string(200, 'g'));
+  SaveGroups();
+  Select(std::string(200, 'r'), "C:\\");
+  OpnRecordAdd();
+  // A letter is 4 pixels wide at the least.
+  const auto scrolls = [](int button, int list, int columns) {
+    ThenPress(button);
+    ThenExpect([list, columns] { EXPECT_GE(ListExtent(TopDialog(), list), columns * 4) << list; });
+    Then([] { PressEscape(TopDialog()); });
+  };
+  scrolls(IDC_OPN_SHOW_RECORD, IDC_OPN_RECORD, 200);
+  scrolls(IDC_OPN_RECORD_TO_GROUP, IDC_OPN_RECORD, 200);
+  scrolls(IDC_OPN_RECORD_TO_GROUP, IDC_OPN_GROUP_FILES, 200);
+  scrolls(IDC_OPN_DELETE_HISTORY, IDC_OPN_FILE, 400);
+  scrolls(IDC_OPN_TAKE_GROUP, IDC_OPN_GROUP_FILES, 200);
+  ThenPress(kCancel);
+  OpenDialog();
+}
+
 TEST_F(OpenDialogTest, SearchesThatFindNothingSaySo) {
   In(IDC_OPN_TAKE_GROUP, [] {
     ThenType(IDC_OPN_NAME_WORDS, "x");

@@ -15,6 +15,7 @@
 #include "filetools/open/open_record.h"
 #include "filetools/open/open_walk.h"
 #include "platform/posix/faults.h"
+#include "platform/posix/files_opened.h"
 #include "platform/posix/posix_paths.h"
 #include "services/data_file.h"
 #include "services/sound_file.h"
@@ -86,6 +87,17 @@ TEST_F(OpenHistoryTest, WhatWasReadIsWrittenAsItStood) {
   ASSERT_EQ(OpnHisLoad(), 0);
   EXPECT_EQ(OpnHisSave(), 0);
   EXPECT_EQ(FileBytes(Path()), Image());
+}
+
+TEST_F(OpenHistoryTest, TheFileIsReadForReadingAndReplacedForBoth) {
+  ASSERT_TRUE(PutFile(Path(), Image()));
+  FilesOpenedClear();
+  ASSERT_EQ(OpnHisLoad(), 0);
+  EXPECT_EQ(FilesOpened(), (std::vector<FileOpened>{{Path(), false, OpenMode::Read}}));
+  FilesOpenedClear();
+  ASSERT_EQ(OpnHisSave(), 0);
+  ASSERT_FALSE(FilesOpened().empty());
+  EXPECT_EQ(FilesOpened().back(), (FileOpened{Path(), false, OpenMode::ReadWrite}));
 }
 
 TEST_F(OpenHistoryTest, AMissingFileGivesAnEmptyHistoryWithWalkAndSoundOn) {
