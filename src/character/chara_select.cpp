@@ -5,7 +5,8 @@
 #include "character/motion.h"
 
 void CharaTakeCurrent(int index) {
-  if (index < 0 || index >= kMainCharaMax) return;  // bounded: the list ends there
+  if (index < 0 || index >= kMainCharaMax)
+    return;  // bounded: a place beyond the list of main characters selects nobody
   const MainChara& from = CharaTables.MainCharas[index];
   Character.MenuFrame = from.menuFrame;
   Character.BlinkFrame = from.blinkFrame;

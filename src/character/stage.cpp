@@ -120,7 +120,7 @@ int CharaLoadStage() {
 
 void StageShowFrame(int frame, int slot) {
   Stage.CharaFrame = frame;
-  if (slot < 0 || slot >= kOutlineSlotCount) return;  // bounded: no such outline
+  if (slot < 0 || slot >= kOutlineSlotCount) return;  // bounded: an outline beyond the table is not taken
   if (OutlinesEqual(Stage.StageOutlines[slot], Stage.CurrentOutline)) {
     Stage.StageRedraw = kRedrawSame;
     return;

@@ -140,7 +140,7 @@ void TrailWindowOpen() {
   CommandSendTo(window, Command::NextStep);
 }
 
-// kept: what an abandoned walk has left of its trail goes when the next walk opens its
+// settled: what an abandoned walk has left of its trail goes when the next walk opens its
 // first window.
 void TrailWindowsClose() {
   while (Walk.TrailCount > 0) SendClose(Walk.Trail[--Walk.TrailCount]);

@@ -4,6 +4,8 @@
 #include "services/dialog_family.h"
 #include "services/panel_entry.h"
 
+// settled: one feature's dialog at a time; a command from outside opens none over another,
+// nor over a file dialog of the system.
 int FeatureDialogRun(Feature feature, int (*dialog)()) {
   if (FamilyDialogIsUp() || FileDialogIsUp()) return 0;
   PanelEntryBegin(feature);

@@ -26,7 +26,7 @@
 //                           zeros above. A bool is true for anything but 0 and is
 //                           written as 1.
 //   Bytes                   an array of bytes, kept as it is
-//   Text                    an array of characters as wide as in the file. bounded: a
+//   Text                    an array of characters as wide as in the file. A
 //                           text that fills it loses its last byte to the terminator
 //   Text(array, width)      the same in an array that is wider than in the file: a
 //                           text that fills the file's field keeps all its bytes

@@ -248,6 +248,8 @@ constexpr SubPanel kSubPanels[] = {
     {Command::PanelOptions, kPanelOptions, Feature::PanelOptions},
 };
 
+// kept: a sub-level of the panel closes by no count and no pointer; an entry is chosen, or
+// Escape pressed.
 void RunSubPanel(const SubPanel& sub) {
   PanelWindowClose();
   Panel.FuncNo = static_cast<std::int32_t>(sub.feature);

@@ -58,8 +58,9 @@ struct Row {
   void (*action)(const Event&);
 };
 
-// What the main window does about each event. Those with no action are taken all
-// the same: clicking, double clicking or right clicking the character does nothing.
+// What the main window does about each event.
+// kept: clicking, double clicking or right clicking the character does nothing, and it
+// cannot be dragged; those events are taken all the same.
 constexpr Row kRows[] = {
     {EventKind::Init, Init},
     {EventKind::Destroy, [](const Event&) { Shutdown(); }},

@@ -1,6 +1,10 @@
 // The first data format of the program: one block of bytes, kept as it came. No
 // feature of today reads what is in it; who still has such a file can load it and
 // save it again, by the commands 5, 6 and 9 that nothing sends.
+//
+// settled: the first data format is loaded and saved as one block of at most 65,536 bytes,
+// as it is; a cancelled file dialog leaves 1 in the result of file operations, a file too
+// large 2, no memory 3.
 #pragma once
 
 #include <cstdint>

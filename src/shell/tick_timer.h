@@ -1,5 +1,8 @@
 // The one timer, which fires the ticks.
 //
+// settled: ticks in which there is nothing to do but to count run together when the next
+// one that matters is due; their number and their counts are the same.
+//
 // A companion that only stands there has nothing to do in most of its ticks but to
 // count. Then the timer rests: it fires once for all ticks up to the next one that
 // has something to do, and these run one after the other. A person sees the same; the

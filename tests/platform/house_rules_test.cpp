@@ -1,11 +1,25 @@
-// The rules of the house that look at the tree as a whole: each finds what it is there for.
+// The rules of the house that look at the tree as a whole: first that each finds what it
+// is there for, then that the tree keeps it.
 #include "tests/support/house_rules.h"
 
 #include <gtest/gtest.h>
 
+#include <cstdlib>
+
 namespace {
 
 using Findings = std::vector<std::string>;
+
+const SourceTree& Tree() {
+  static const SourceTree tree = SourceTreeRead(MIRRELL_SOURCE_DIR "/src");
+  return tree;
+}
+
+std::string Lines(const Findings& findings) {
+  std::string text;
+  for (const std::string& finding : findings) text += finding + "\n";
+  return text;
+}
 
 TEST(HouseRulesTest, ALowerFloorIncludesNoHigherOne) {
   const SourceTree tree = {
@@ -76,6 +90,26 @@ TEST(HouseRulesTest, NumbersHaveNames) {
             (Findings{"shell/a.cpp:1: a bare number is sent: SendCommand(hMainWnd, 2293)",
                       "shell/b.cpp:1: a bare number is compared: .command == 2293",
                       "shell/d.cpp:1: bytes are put in order outside the codec: GetLE16"}));
+}
+
+// --- The tree
+
+TEST(HouseRulesTest, TheTreeKeepsItsFloors) {
+  EXPECT_EQ(Lines(LintFloors(Tree())), "");
+}
+TEST(HouseRulesTest, TheTreeHasNoCircles) {
+  EXPECT_EQ(Lines(LintCircles(Tree())), "");
+}
+TEST(HouseRulesTest, TheTreesStateIsWrittenByItsOwners) {
+  EXPECT_EQ(Lines(LintState(Tree())), "");
+}
+TEST(HouseRulesTest, TheTreesNumbersHaveNames) {
+  EXPECT_EQ(Lines(LintNumbers(Tree())), "");
+}
+
+TEST(HouseRulesTest, ThePageOfFidelityIsWhatTheCommentsSay) {
+  EXPECT_EQ(std::system("python3 " MIRRELL_SOURCE_DIR "/scripts/fidelity.py --check"), 0)
+      << "scripts/fidelity.py makes it anew";
 }
 
 }  // namespace

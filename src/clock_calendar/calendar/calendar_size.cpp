@@ -5,7 +5,7 @@
 namespace {
 
 // Pages are square; 0, 1 and 2 are the sizes of the settings.
-// kept: the first of them, which the list calls " 大", is the smallest.
+// kept: the first of the calendar's page sizes, which the list calls " 大", is the smallest.
 int PageWidth() {
   if (Calendar.CalenPageSize == 0) return 150;
   return Calendar.CalenPageSize == 2 ? 250 : 200;
