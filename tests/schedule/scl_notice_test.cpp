@@ -33,7 +33,7 @@ TEST_F(NoticesTest, WithAnEmptyRowTheScheduleTextStartsAtTen) {
   ItemDue("会議");
   Send(kSclNotice);
   Repaint(Notices.hSclNoticeWnd);
-  EXPECT_EQ(Drawings(Notices.hSclNoticeWnd).size(), 4U) << "nothing but text";
+  EXPECT_TRUE(Dibs(Notices.hSclNoticeWnd).empty());
   ExpectText(
       Notices.hSclNoticeWnd,
       {{10, "-スケジュール表-"}, {30, "予定 : 9 時 30 分 ～ 12 時 5 分"}, {54, "( 内 容 )"}, {74, "会議"}});
@@ -50,14 +50,39 @@ TEST_F(NoticesTest, WithAPictureTheScheduleTextStartsAtAHundred) {
                                      {120, "予定 : 9 時 30 分 ～ 12 時 5 分"},
                                      {144, "( 内 容 )"},
                                      {164, "会議"}});
-  // The box of the picture is cleared first.
+  // The whole window is cleared first, in memory; the picture stays in its box.
   const std::vector<DrawCall> drawn = Drawings(Notices.hSclNoticeWnd);
   const auto box = std::find_if(drawn.begin(), drawn.end(),
                                 [](const DrawCall& call) { return call.kind == DrawCall::Kind::Rectangle; });
   ASSERT_NE(box, drawn.end());
   EXPECT_EQ(box->brush, Drawing.FaceBrushColour);
-  EXPECT_EQ(box->x, 10);
-  EXPECT_EQ(box->y, 10);
+  EXPECT_EQ(box->x, 0);
+  EXPECT_EQ(box->y, 0);
+  EXPECT_GE(box->x2, WindowClientRect(Notices.hSclNoticeWnd).right);
+  EXPECT_GE(box->y2, WindowClientRect(Notices.hSclNoticeWnd).bottom);
+  EXPECT_LT(box, std::find_if(drawn.begin(), drawn.end(),
+                              [](const DrawCall& call) { return call.kind == DrawCall::Kind::Dib; }));
+  const DrawCall picture = Dibs(Notices.hSclNoticeWnd).at(1);
+  EXPECT_TRUE(picture.clipped);
+  EXPECT_EQ(picture.clip.left, 10);
+  EXPECT_EQ(picture.clip.top, 10);
+  EXPECT_EQ(picture.clip.right, 200);
+  EXPECT_EQ(picture.clip.bottom, 100);
+}
+
+TEST_F(NoticesTest, AFrameWithoutAPictureLeavesNothingOfTheOneBefore) {
+  LoadRows(2, 0);
+  ItemDue("会議");
+  Send(kSclNotice);
+  Repaint(Notices.hSclNoticeWnd);
+  EXPECT_TRUE(TextStands(Notices.hSclNoticeWnd, "-スケジュール表-", 10, 100));
+  DibFree(AlarmImages.AlarmRows[1].pictures[1]);
+  AlarmImages.AlarmRows[1].pictures[1] = nullptr;
+  Notices.sclFrame = 1;
+  // Not drawn afresh: what stood there is covered by the background.
+  SendPaint(Notices.hSclNoticeWnd);
+  EXPECT_TRUE(TextStands(Notices.hSclNoticeWnd, "-スケジュール表-", 10, 10));
+  EXPECT_FALSE(TextStands(Notices.hSclNoticeWnd, "-スケジュール表-", 10, 100));
 }
 
 TEST_F(NoticesTest, AStartOrEndOnAnotherDayIsShownByTheHoursOfTheTable) {

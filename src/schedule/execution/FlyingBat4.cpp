@@ -13,6 +13,7 @@
 #include "schedule/execution/scl_notice.h"
 #include "services/commands.h"
 #include "services/five_ticks.h"
+#include "services/painting.h"
 #include "services/program.h"
 #include "services/text.h"
 #include "services/text_lines.h"
@@ -67,10 +68,12 @@ void DrawText(Canvas* canvas, int y, const char* head, const char* date, const c
   TextLinesDraw(canvas, kTextX, y + kContentDown, kLineStep, content, kSclNoticeTextSize, kColumns);
 }
 
-void PaintSchedule(WindowHandle window, Canvas* canvas) {
+void DrawSchedule(Canvas* canvas) {
   const AlarmRow& row = AlarmImages.AlarmRows[kAlarmSchedule];
   const bool picture = AlarmFrameHeight(row, Notices.sclFrame) != 0;
-  if (picture) AlarmFrameShow(window, kBox, row, Notices.sclFrame);
+  CanvasClip(canvas, kBox);
+  AlarmFrameDraw(canvas, kBox.left, kBox.top, row, Notices.sclFrame);
+  CanvasClipNone(canvas);
   const SclNoticeItem& item = Notices.SclNotice;
   const TimeOfDay start = TimeShown(item.start, item.startMinute, item.tableStartHour);
   const TimeOfDay end = TimeShown(item.end, item.endMinute, item.tableEndHour);
@@ -80,7 +83,7 @@ void PaintSchedule(WindowHandle window, Canvas* canvas) {
   DrawText(canvas, picture ? kTextBelowFigure : kTextY, "-スケジュール表-", date, item.text);
 }
 
-void PaintNote(Canvas* canvas) {
+void DrawNote(Canvas* canvas) {
   const AlarmRow& row = AlarmImages.AlarmRows[kAlarmNote];
   AlarmFrameDraw(canvas, kFigureAt.x, kFigureAt.y, row, Notices.noteFrame);
   const int note = std::clamp(Notices.SclNoticeKind - kKindNote, 0, kNoteDays - 1);
@@ -94,14 +97,21 @@ void PaintNote(Canvas* canvas) {
   DrawText(canvas, std::min(below, kTextBelowFigure), "<< カレンダー書き込み >>", date, item.text);
 }
 
+// The figure changes and the text moves with it, so each painting begins with the
+// background.
+void Draw(Canvas* canvas, const Rect& area) {
+  FillArea(canvas, BrushFace(), area);
+  if (Notices.SclNoticeKind >= kKindNote) {
+    DrawNote(canvas);
+  } else {
+    DrawSchedule(canvas);
+  }
+}
+
 void Paint(WindowHandle window) {
   Canvas* canvas = CanvasGet(window);
   if (!canvas) return;
-  if (Notices.SclNoticeKind >= kKindNote) {
-    PaintNote(canvas);
-  } else {
-    PaintSchedule(window, canvas);
-  }
+  DrawSteady(canvas, WindowClientRect(window), Draw);
   CanvasRelease(canvas);
 }
 
