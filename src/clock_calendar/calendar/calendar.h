@@ -194,7 +194,7 @@ struct CalendarState {
   WindowHandle hCalenWnd = nullptr;  // FlyingBat3
   std::int32_t CalenClickedDay = 0;  // the day of the popup menu, from 1; 0 for none
   std::int32_t figureWaits[kFigureCount] = {};
-  SclDate notesLookedAt = {-1, -1, -1, 0};  // the day that the marks are of
+  SclDate notesLookedAt = {};  // the day that the marks are of
   bool notesDone[kNoteDays] = {};
 };
 extern CalendarState Calendar;
