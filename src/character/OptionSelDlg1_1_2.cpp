@@ -2,21 +2,26 @@
 
 #include "character/options.h"
 #include "resources/character_ids.h"
+#include "services/dialog_acts.h"
 #include "services/dialog_family.h"
 
 CharaDetailState CharaDetail;
 
 namespace {
 
-constexpr int kFirstButton = 2285;
-constexpr int kLastButton = 2288;
+template <Preview motion>
+void Play(WindowHandle dialog) {
+  MotionPreviewRun(dialog, CharaDetail.shown, motion);
+}
 
+constexpr DialogAct kActs[] = {
+    {IDC_CHARA_MENU, Play<Preview::Menu>},
+    {IDC_CHARA_BLINK, Play<Preview::Blink>},
+    {IDC_CHARA_BORED1, Play<Preview::Bored1>},
+    {IDC_CHARA_BORED2, Play<Preview::Bored2>},
+};
 bool Proc(const Event& event) {
-  if (event.kind != EventKind::Pressed || event.id < kFirstButton || event.id > kLastButton) return false;
-  const int place = event.id - kFirstButton;
-  MotionPreviewRun(event.window, CharaDetail.shown,
-                   static_cast<Preview>(static_cast<int>(Preview::Menu) + place));
-  return true;
+  return DialogActRun(event, kActs);
 }
 
 }  // namespace

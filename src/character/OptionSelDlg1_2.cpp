@@ -13,26 +13,21 @@
 #include "platform/window.h"
 #include "resources/character_ids.h"
 #include "services/commands.h"
+#include "services/dialog_acts.h"
 #include "services/dialog_family.h"
 #include "services/dib.h"
 #include "services/feature_dialog.h"
 #include "services/painting.h"
 #include "services/panel_entry.h"
 #include "services/program.h"
+#include "services/rows.h"
 #include "services/settings_save.h"
+#include "services/text.h"
 #include "world/world_list.h"
 
 CharaOptionState CharaOption;
 
 namespace {
-
-constexpr int kList = 100;
-constexpr int kName = 101;
-constexpr int kOk = 1;
-constexpr int kCancel = 2;
-constexpr int kDetail = 2369;
-
-// First frames of the characters that were shown, by their places in the list.
 
 bool IsListed(int place) {
   return place >= 0 && place < CharaTables.MainCharaCount && place < kMainCharaMax;
@@ -40,6 +35,10 @@ bool IsListed(int place) {
 
 const char* NameOf(int place) {
   return IsListed(place) ? WorldCharaName(CharaTables.MainCharas[place].charaNo) : "";
+}
+
+void NameRow(int place, char* text, int size) {
+  TextCopy(text, static_cast<std::size_t>(size), NameOf(place));
 }
 
 Rect PreviewArea(WindowHandle dialog) {
@@ -60,7 +59,7 @@ void DrawPreview(WindowHandle dialog) {
 
 void Show(WindowHandle dialog, int place) {
   CharaOption.shown = place;
-  ControlSetText(dialog, kName, NameOf(place));
+  ControlSetText(dialog, IDC_CHARA_NAME, NameOf(place));
   if (IsListed(place) && !CharaOption.previews[place] && CharaTables.MainCharas[place].charaNo >= 1) {
     CharaOption.previews[place] = DibLoad(CharaBmpPath(CharaTables.MainCharas[place].charaNo - 1, 0));
   }
@@ -68,17 +67,15 @@ void Show(WindowHandle dialog, int place) {
 }
 
 void Fill(WindowHandle dialog) {
-  const ListQuiet quiet(dialog, kList);
-  ListClear(dialog, kList);
-  for (int place = 0; place < CharaTables.MainCharaCount; ++place) ListAdd(dialog, kList, NameOf(place));
-  ListSelect(dialog, kList, IsListed(Character.CharaIndex) ? Character.CharaIndex : -1);
+  const Rows names = RowsOf(CharaTables.MainCharaCount, NameRow);
+  RowsShow(dialog, IDC_CHARA_LIST, names, IsListed(Character.CharaIndex) ? Character.CharaIndex : -1);
   Show(dialog, Character.CharaIndex);
 }
 
 // The chosen character becomes the current one. Another one than before is loaded
 // onto the stage, saved, and told to the other features.
 void Take(WindowHandle dialog) {
-  const int place = ListSelected(dialog, kList);
+  const int place = ListSelected(dialog, IDC_CHARA_LIST);
   OptionPreviewsFree();
   if (!IsListed(place) || !CharaSelect(place)) return;
   Stage.StageRedraw = kRedrawReload;
@@ -89,45 +86,30 @@ void Take(WindowHandle dialog) {
 // Until OK nothing but the previews has changed, so there is nothing to roll back.
 void Leave(WindowHandle dialog) {
   OptionPreviewsFree();
-  MenuDialogEnd(dialog, kCancel);
+  MenuDialogEnd(dialog, kCancelButton);
 }
 
-bool Press(const Event& event) {
-  switch (event.id) {
-    case kDetail:
-      if (IsListed(CharaOption.shown)) CharacterDetailRun(event.window, CharaOption.shown);
-      return true;
-    case kOk:
-      Take(event.window);
-      MenuDialogEnd(event.window, kOk);
-      return true;
-    case kCancel:
-      Leave(event.window);
-      return true;
-    default:
-      return true;
-  }
+void Accept(WindowHandle dialog) {
+  Take(dialog);
+  MenuDialogEnd(dialog, kOkButton);
 }
 
+void Detail(WindowHandle dialog) {
+  if (IsListed(CharaOption.shown)) CharacterDetailRun(dialog, CharaOption.shown);
+}
+
+void RowChosen(WindowHandle dialog) {
+  Show(dialog, ListSelected(dialog, IDC_CHARA_LIST));
+}
+
+constexpr DialogAct kActs[] = {
+    {EventKind::Init, Fill},    {EventKind::Paint, DrawPreview},
+    {EventKind::Close, Leave},  {IDC_CHARA_LIST, EventKind::Chosen, RowChosen},
+    {IDC_CHARA_DETAIL, Detail}, {kOkButton, Accept},
+    {kCancelButton, Leave},
+};
 bool Proc(const Event& event) {
-  switch (event.kind) {
-    case EventKind::Init:
-      Fill(event.window);
-      return true;
-    case EventKind::Chosen:
-      Show(event.window, ListSelected(event.window, kList));
-      return true;
-    case EventKind::Pressed:
-      return Press(event);
-    case EventKind::Paint:
-      DrawPreview(event.window);
-      return true;
-    case EventKind::Close:
-      Leave(event.window);
-      return true;
-    default:
-      return false;
-  }
+  return DialogActRun(event, kActs);
 }
 
 }  // namespace

@@ -10,78 +10,69 @@
 #include "platform/window.h"
 #include "resources/character_ids.h"
 #include "services/commands.h"
+#include "services/dialog_acts.h"
 #include "services/dialog_family.h"
 #include "services/feature_dialog.h"
 #include "services/panel_entry.h"
 #include "services/program.h"
+#include "services/rows.h"
 #include "services/settings_save.h"
+#include "services/text.h"
 #include "world/world_list.h"
 
 AlarmOptionState AlarmOption;
 
 namespace {
 
-constexpr int kOk = 1;
-constexpr std::uint32_t kCheckMail = 2289;
-constexpr std::uint32_t kCheckSchedule = 2290;
-constexpr std::uint32_t kCheckNote = 2291;
-
 // Rows that the user chooses, and their combo boxes. Row 0, the mail's, cannot be
 // changed.
-constexpr int kFirstRow = kAlarmSchedule;
-constexpr int kFirstCombo = 100;
-constexpr int ComboOf(int row) {
-  return kFirstCombo + row - kFirstRow;
+struct Choice {
+  int row;
+  int combo;
+};
+constexpr Choice kChoices[] = {{kAlarmSchedule, IDC_ALARM_SCHEDULE}, {kAlarmNote, IDC_ALARM_CLOCK}};
+
+void NameRow(int selection, char* text, int size) {
+  const char* name = selection == 0 ? "未設定" : WorldCharaName(CharaTables.AlarmCharas[selection - 1]);
+  TextCopy(text, static_cast<std::size_t>(size), name);
 }
 
 void Fill(WindowHandle dialog) {
-  for (int row = kFirstRow; row < kAlarmRowCount; ++row) {
-    const int combo = ComboOf(row);
-    ListClear(dialog, combo);
-    ListAdd(dialog, combo, "未設定");
-    for (int i = 0; i < CharaTables.AlarmCharaCount; ++i)
-      ListAdd(dialog, combo, WorldCharaName(CharaTables.AlarmCharas[i]));
-    const std::int32_t selection = Character.AlarmCharaSel[row];
+  for (const Choice& choice : kChoices) {
+    const std::int32_t selection = Character.AlarmCharaSel[choice.row];
     // bounded: a selection beyond the list selects nobody.
-    ListSelect(dialog, combo, selection >= 0 && selection <= CharaTables.AlarmCharaCount ? selection : 0);
+    const bool listed = selection >= 0 && selection <= CharaTables.AlarmCharaCount;
+    RowsShow(dialog, choice.combo, RowsOf(CharaTables.AlarmCharaCount + 1, NameRow), listed ? selection : 0);
   }
 }
 
-void Take(WindowHandle dialog) {
-  for (int row = kFirstRow; row < kAlarmRowCount; ++row) {
-    const int selection = ListSelected(dialog, ComboOf(row));
-    if (selection >= 0) Character.AlarmCharaSel[row] = selection;
+void Accept(WindowHandle dialog) {
+  for (const Choice& choice : kChoices) {
+    const int selection = ListSelected(dialog, choice.combo);
+    if (selection >= 0) Character.AlarmCharaSel[choice.row] = selection;
   }
   AlarmCharaLoad();
   AlarmOption.changed = true;
+  MenuDialogEnd(dialog, kOkButton);
 }
 
-bool Press(const Event& event) {
-  switch (event.id) {
-    case kCheckMail:
-      AlarmCheckRun(event.window, kAlarmMail, Character.AlarmCharaSel[kAlarmMail]);
-      return true;
-    case kCheckSchedule:
-      AlarmCheckRun(event.window, kAlarmSchedule, ListSelected(event.window, ComboOf(kAlarmSchedule)));
-      return true;
-    case kCheckNote:
-      AlarmCheckRun(event.window, kAlarmNote, ListSelected(event.window, ComboOf(kAlarmNote)));
-      return true;
-    case kOk:
-      Take(event.window);
-      MenuDialogEnd(event.window, kOk);
-      return true;
-    default:
-      return false;
-  }
+void CheckMail(WindowHandle dialog) {
+  AlarmCheckRun(dialog, kAlarmMail, Character.AlarmCharaSel[kAlarmMail]);
+}
+template <const Choice& choice>
+void Check(WindowHandle dialog) {
+  AlarmCheckRun(dialog, choice.row, ListSelected(dialog, choice.combo));
 }
 
+constexpr DialogAct kActs[] = {
+    {EventKind::Init, Fill},
+    {IDC_ALARM_CHECK_MAIL, CheckMail},
+    {IDC_ALARM_CHECK_SCHEDULE, Check<kChoices[0]>},
+    {IDC_ALARM_CHECK_CLOCK, Check<kChoices[1]>},
+    {kOkButton, Accept},
+};
 bool Proc(const Event& event) {
-  if (event.kind == EventKind::Init) {
-    Fill(event.window);
-    return true;
-  }
-  return event.kind == EventKind::Pressed && Press(event);
+  return DialogActRun(event, kActs);
 }
 
 }  // namespace

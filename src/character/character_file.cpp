@@ -97,7 +97,7 @@ struct WriteTransfer {
   }
 };
 
-// Parts 2 to 13.
+// All that follows the magic, but for the blink intervals.
 template <class Transfer>
 bool Parts(Transfer& t, CharaTablesState& f) {
   bool good = t.Count(f.MainCharaCount, kMainCharaMax) && t.Records(f.MainCharas, f.MainCharaCount) &&

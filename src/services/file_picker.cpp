@@ -5,6 +5,7 @@
 #include "platform/dialog.h"
 #include "platform/window.h"
 #include "resources/services_ids.h"
+#include "services/dialog_acts.h"
 #include "services/extension_filter.h"
 #include "services/folder_list.h"
 #include "services/path.h"
@@ -82,44 +83,35 @@ void NameFromFiles(WindowHandle dialog) {
   if (ListText(dialog, kPickFilesId, row, name, sizeof name) > 0) ControlSetText(dialog, kPickNameId, name);
 }
 
-bool HandleControl(const Event& event) {
+void FilterChosen(WindowHandle dialog) {
+  const int row = ListSelected(dialog, kPickFilterId);
+  if (row >= 0) Picker.PickFilterSel = row;
+  ListFiles();
+}
+
+void AcceptFile(WindowHandle dialog) {
+  NameFromFiles(dialog);
+  Accept(dialog);
+}
+
+constexpr DialogAct kActs[] = {
+    {EventKind::Init, Open},
+    {EventKind::Paint, [](WindowHandle) { FolderListPaint(Picker.folders); }},
+    {EventKind::Close, End},
+    {kOkId, Accept},
+    {kPickFilterId, EventKind::Chosen, FilterChosen},
+    {kPickFilesId, EventKind::Chosen, NameFromFiles},
+    {kPickFilesId, EventKind::Opened, AcceptFile},
+};
+
+bool Handle(const Event& event) {
   if (FolderListEvent(Picker.folders, event)) return true;
   if (FolderListIsCancel(event)) {
     End(event.window);
-  } else if (IsPressed(event, kOkId)) {
-    Accept(event.window);
-  } else if (IsChosen(event, kPickFilterId)) {
-    const int row = ListSelected(event.window, kPickFilterId);
-    if (row >= 0) Picker.PickFilterSel = row;
-    ListFiles();
-  } else if (IsChosen(event, kPickFilesId)) {
-    NameFromFiles(event.window);
-  } else if (IsOpened(event, kPickFilesId)) {
-    NameFromFiles(event.window);
-    Accept(event.window);
-  } else {
-    return false;
+    return true;
   }
-  return true;
-}
-
-bool Handle(const Event& event) {
-  switch (event.kind) {
-    case EventKind::Init:
-      Open(event.window);
-      return true;
-    case EventKind::Paint:
-      FolderListPaint(Picker.folders);
-      return true;
-    case EventKind::Close:
-      End(event.window);
-      return true;
-    case EventKind::Destroy:
-      Picker.hFilePickDlg = nullptr;
-      return false;
-    default:
-      return HandleControl(event);
-  }
+  if (event.kind == EventKind::Destroy) Picker.hFilePickDlg = nullptr;
+  return DialogActRun(event, kActs);
 }
 
 void ForgetProposal() {
