@@ -8,10 +8,6 @@
 #include "services/commands.h"
 #include "services/today.h"
 
-bool CalendarStepIsActive() {
-  return Calendar.hCalenWnd || ClockNotice.hClockNoticeWnd;
-}
-
 void CalendarTick() {
   if (CalenTickCheck() != 0) SendPaint(Calendar.hCalenWnd);
   if (ClockAlarmCheck(Today.SharedTime.hour, Today.SharedTime.minute) != 0)

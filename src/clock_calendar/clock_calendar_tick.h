@@ -1,11 +1,15 @@
 // The step of the tick that clock and calendar share.
 #pragma once
 
+#include "clock_calendar/calendar/calendar.h"
+#include "clock_calendar/clock/clock_notice.h"
 #include "services/tick_step.h"
 
 // The calendar window or the clock notice is open: the day, the figures and the ticker
 // of the one, the alarms, and the performance of the other.
-bool CalendarStepIsActive();
+inline bool CalendarStepIsActive() {
+  return Calendar.hCalenWnd || ClockNotice.hClockNoticeWnd;
+}
 void CalendarTick();
 inline constexpr TimedStep kCalendarStep{CalendarStepIsActive,
                                          {CalendarTick, [] { return TickDueIf(CalendarStepIsActive()); }}};

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <utility>
 
 #include "character/motion.h"
 #include "character/options.h"
@@ -50,9 +51,15 @@ int FirstDue(const Steps& steps) {
   return first;
 }
 
+// Written out step by step by the compiler, as it runs in every tick and mostly finds
+// nothing open.
+template <std::size_t... Step>
+bool AnyIsActive(std::index_sequence<Step...>) {
+  return (kTimedSteps[Step].active() || ...);
+}
+
 void TimedTick() {
-  const auto active = [](const TimedStep& timed) { return timed.active(); };
-  if (std::none_of(std::begin(kTimedSteps), std::end(kTimedSteps), active)) return;
+  if (!AnyIsActive(std::make_index_sequence<std::size(kTimedSteps)>())) return;
   SharedTimeTake();
   for (const TimedStep& timed : kTimedSteps) {
     if (Program.Quitting) return;

@@ -33,10 +33,6 @@ int ClockPreviewDue() {
   return TickDueIf(Dialogs.hToolDlg != nullptr);
 }
 
-bool ClockIsOpen() {
-  return Clock.hClockWnd != nullptr;
-}
-
 void ClockTick() {
   if (ClockTickCheck(Today.SharedTime.hour, Today.SharedTime.minute) != 0) SendPaint(Clock.hClockWnd);
 }

@@ -15,10 +15,6 @@ constexpr int kBoxWidth = 100;
 constexpr int kBoxHeight = 20;
 }  // namespace
 
-bool WatchAdustIsOpen() {
-  return Dialogs.DlgIdTool == ToolDialog::WatchAdustDlg && Dialogs.hToolDlg;
-}
-
 void WatchAdustTimeDraw() {
   static int drawn = -1;
   const int seconds = (Today.SharedTime.hour * 60 + Today.SharedTime.minute) * 60 + Today.SharedTime.second;
