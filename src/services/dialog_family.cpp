@@ -2,6 +2,7 @@
 
 #include "platform/dialog.h"
 #include "services/panel_entry.h"
+#include "services/state.h"
 
 DialogsState Dialogs;
 
@@ -100,7 +101,7 @@ int Run(Family<Number>& family, EventHandler proc, Number dialog, int templateId
 }  // namespace
 
 void DialogsReset() {
-  Dialogs = {};
+  StateReset(Dialogs);
   Forget(menuFamily);
   Forget(toolFamily);
   Forget(subFamily);

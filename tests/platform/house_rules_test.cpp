@@ -81,6 +81,14 @@ TEST(HouseRulesTest, AProcessWideVariableIsTheStateOfAFeature) {
             Findings{"shell/a.h:1: no state of a feature: extern int Count;"});
 }
 
+TEST(HouseRulesTest, AStateIsMadeNewFromTheListOrByItsOwnReset) {
+  const SourceTree tree = {
+      {"shell/a.h", "extern PanelState Panel;\nextern LayoutState Layout;\nextern WatchState Watch;\n"},
+      {"shell/b.cpp", "void LayoutReset() { StateReset(Layout); }\n"},
+      {"shell/states.cpp", "void StatesReset() { ResetAll(Panel); LayoutReset(); } // Watch\n"}};
+  EXPECT_EQ(LintResets(tree), Findings{"shell/a.h: Watch is never made new"});
+}
+
 TEST(HouseRulesTest, NumbersHaveNames) {
   const SourceTree tree = {{"shell/a.cpp", "void F() { SendCommand(hMainWnd, 2293); }\n"},
                            {"shell/b.cpp", "bool F() { return event.command == 2293; }\n"},
@@ -102,6 +110,9 @@ TEST(HouseRulesTest, TheTreeHasNoCircles) {
 }
 TEST(HouseRulesTest, TheTreesStateIsWrittenByItsOwners) {
   EXPECT_EQ(Lines(LintState(Tree())), "");
+}
+TEST(HouseRulesTest, TheTreesStateIsMadeNew) {
+  EXPECT_EQ(Lines(LintResets(Tree())), "");
 }
 TEST(HouseRulesTest, TheTreesNumbersHaveNames) {
   EXPECT_EQ(Lines(LintNumbers(Tree())), "");

@@ -257,6 +257,20 @@ std::vector<std::string> LintState(const SourceTree& tree) {
   return findings;
 }
 
+std::vector<std::string> LintResets(const SourceTree& tree) {
+  constexpr const char* kList = "shell/states.cpp";
+  const std::string list = tree.contains(kList) ? SourceCodeOnly(tree.at(kList)) : "";
+  std::vector<std::string> findings;
+  for (const auto& [instance, state] : States(tree)) {
+    const std::regex named("\\b" + instance + "\\b");
+    const std::regex reset("\\bStateReset\\(" + instance + "\\)");
+    const auto resets = [&](const auto& file) { return std::regex_search(file.second, reset); };
+    if (std::regex_search(list, named) || std::any_of(tree.begin(), tree.end(), resets)) continue;
+    findings.push_back(state.header + ": " + instance + " is never made new");
+  }
+  return findings;
+}
+
 std::vector<std::string> LintNumbers(const SourceTree& tree) {
   static const std::regex kSend("\\b(SendCommand|CommandSend|CommandSendTo)\\([^;]*\\b\\d{2,}\\s*\\)");
   static const std::regex kCompare("\\.command\\s*[=!]=\\s*\\d{4}");

@@ -20,6 +20,10 @@ std::vector<std::string> LintCircles(const SourceTree& tree);
 // outside the files that own it.
 std::vector<std::string> LintState(const SourceTree& tree);
 
+// State that a second start in one process would find as the first one left it: that is
+// named neither in the list of resets nor in a reset of its own.
+std::vector<std::string> LintResets(const SourceTree& tree);
+
 // Numbers where a name belongs: in a command that is sent or compared, and byte orders
 // and places outside the codec of records.
 std::vector<std::string> LintNumbers(const SourceTree& tree);
