@@ -74,6 +74,15 @@ TEST_F(OutlineTest, A1024PointOutlineIsReadWholeAndOnePointMoreIsBadContent) {
   EXPECT_EQ(OutlineReadAll(0, all_), -2);
 }
 
+TEST_F(OutlineTest, TwentyFramesAreRead) {
+  std::vector<FilePoints> frames;
+  for (int i = 0; i < 20; ++i) frames.push_back({{i, 1}, {2, i}});
+  PutDwc(1, DwcFile(frames));
+  EXPECT_EQ(OutlineReadCounted(0, all_, &frameCount_), 0);
+  EXPECT_EQ(frameCount_, 20);
+  for (int i = 0; i < 20; ++i) ExpectPoints(all_[i], frames[static_cast<std::size_t>(i)]);
+}
+
 TEST_F(OutlineTest, AFrameCountBeyond20IsBadContent) {
   PutDwc(1, std::string("\x15", 1) + BE32(1) + BE16(4) + BE16(5));
   EXPECT_EQ(OutlineReadCounted(0, all_, &frameCount_), -2);

@@ -280,6 +280,21 @@ TEST_F(DibTest, RowsFollowTheHeaderAndTheColourTable) {
   }
 }
 
+// 2 to the 16 colours of 4 bytes, named by nobody.
+TEST_F(DibTest, APictureOf16BitsCountsAColourTableToo) {
+  ImageHandle image = Load(Bitmap(4, 4, 16));  // has none
+  ASSERT_NE(image, nullptr);
+  EXPECT_EQ(DibBits(image), nullptr);
+  EXPECT_TRUE(Draw(image).empty());
+  DibFree(image);
+  std::string file = Bitmap(4, 4, 16, 65536);
+  Put(file, 46, 0, 4);
+  image = Load(file);
+  ASSERT_NE(image, nullptr);
+  EXPECT_EQ(DibBits(image) - image, 40 + 262144);
+  DibFree(image);
+}
+
 TEST_F(DibTest, AHeaderBelow36BytesHasNoNumberOfColours) {
   // 16 bytes of header: the table has 2 colours, whatever stands at offset 32.
   std::string file(14 + 16 + 8 + 4 * 4, '\x55');

@@ -109,6 +109,17 @@ TEST_F(TickTest, SixThousandTicksMakeOneUnitOfTheMailInterval) {
   EXPECT_EQ(Mail.MailMinuteCount, 2);
 }
 
+// An interval of 0 asks in every tick: a count of 0 is not counted down.
+TEST_F(TickTest, AMailIntervalOf0StaysAt0WhenItsUnitIsOver) {
+  Mail.MailCheckOn = true;
+  Mail.MailInterval = 0;
+  Mail.MailMinuteCount = 0;
+  ListenToEverything();
+  Ticks(6000);
+  EXPECT_EQ(Mail.MailMinuteCount, 0);
+  EXPECT_EQ(TakeHeard(), Words(6000, "main 2079"));
+}
+
 TEST_F(TickTest, MailCountersStandStillWhileCheckingIsOff) {
   Mail.MailMinuteCount = 1;
   Ticks(100);

@@ -183,6 +183,16 @@ TEST_F(WorldListTest, MoreCharactersThanThereCanBeEndTheLoad) {
   }
 }
 
+TEST_F(WorldListTest, FiveHundredAndTwelveCharactersFit) {
+  std::string charas;
+  for (int i = 1; i <= 512; ++i) charas += Chara("c" + std::to_string(i), "f", 1);
+  Put(FlagFile(512, {Figure(true, "f")}), charas);
+  WorldListRead();
+  EXPECT_EQ(World.WorldCharaCount, 512);
+  EXPECT_STREQ(WorldCharaName(1), "c1");
+  EXPECT_STREQ(WorldCharaName(512), "c512");
+}
+
 // 512 characters of 20 frames each can have as many figures of their own.
 TEST_F(WorldListTest, TenThousandAndMoreFiguresFitAndOneMoreCostsNoNames) {
   for (const std::uint32_t figures : {1001U, 10240U, 10241U}) {

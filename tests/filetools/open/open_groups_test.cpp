@@ -9,8 +9,8 @@
 
 #include "platform/posix/posix_paths.h"
 #include "services/data_file.h"
-#include "tests/filetools/open/open_fixture.h"
 #include "services/state.h"
+#include "tests/filetools/open/open_fixture.h"
 #include "tests/support/record_check.h"
 
 namespace {
@@ -454,6 +454,7 @@ TEST_F(OpenGroupsTest, AWordAabIsNotFoundInACommentAaab) {
   EXPECT_EQ(OpnSearchComments("ab"), 1);
   OpnGroupSetComment(0, "aab");
   EXPECT_EQ(OpnSearchComments("aab"), 1);
+  EXPECT_EQ(OpnSearchComments("ab"), 0);  // the second a is the mismatch, and is not looked at again
   OpnGroupSetComment(0, "xaab");
   EXPECT_EQ(OpnSearchComments("aab"), 1);
 }

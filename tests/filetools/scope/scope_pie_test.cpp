@@ -363,6 +363,14 @@ TEST(ScopeLeadersTest, ASliceOfMoreThanHalfThatBeginsAtTheTopIsMetBelow) {
   Leader(leaders[1], 210, 250, 270, {272, 246});
 }
 
+// One degree on either side of six.
+TEST(ScopeLeadersTest, ANarrowSliceAcrossSixIsMetBelow) {
+  const Leaders leaders =
+      LeadersOf(kDriveLeaders,
+                {{{260, 300}, {160, 200}, 90}, {{161, 399}, {260, 300}, 89}, {{158, 399}, {161, 399}, 2}});
+  Leader(leaders[2], 160, 398, 40, {22, 394});
+}
+
 TEST(ScopeLeadersTest, AnEndAtSixOrTwelveIsNoCrossingWhereverItsPixelLies) {
   for (const int pixel : {-1, 0, 1}) {
     const Leaders leaders = LeadersOf(kFolderLeaders, {{{230, 229}, {160, 200}, 45},
