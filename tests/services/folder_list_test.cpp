@@ -53,6 +53,21 @@ TEST_F(FolderListTest, ACurrentFolderThatIsTooLongGivesWayToTheOneItLiesIn) {
   EXPECT_EQ(CurrentFolder(), kFits);
 }
 
+// A folder's buffer takes 255 bytes and the terminator.
+TEST_F(FolderListTest, AFolderOf255BytesFitsAndOneOf256GivesWay) {
+  const std::string longest = kFits + "\\nn";
+  MakeFolder(longest);
+  PutFile(longest + "\\in.txt", "");
+  GoTo(longest);
+  EXPECT_EQ(PickFolderOf("in.txt"), 1);
+  EXPECT_EQ(path, longest + "\\in.txt");
+  path[0] = '\0';
+  MakeFolder(kFits + "\\nnn");
+  GoTo(kFits + "\\nnn");
+  EXPECT_EQ(PickFolderOf("in.txt"), 1);
+  EXPECT_EQ(path, kFits + "\\in.txt");
+}
+
 TEST_F(FolderListTest, TheListOfAFolderDialogDoesTheSame) {
   GoTo(kTooLong);
   char folder[300] = "";

@@ -217,6 +217,17 @@ TEST_F(TableScrollTest, UpMovesALineUntilTheFirst) {
   EXPECT_EQ(SclTable.TableScrollDirection, ScrollDirection::None);
 }
 
+TEST_F(TableScrollTest, UpTakesTheEndOfTheSelectionALineUpAsFarAsTheFirst) {
+  SclTable.TableScrollDirection = ScrollDirection::Up;
+  SclTable.SclTableView.firstLine = 2;
+  SclTable.SclTableView.selectionEnd = 1;
+  MainTick();
+  EXPECT_EQ(SclTable.SclTableView.selectionEnd, 0);
+  Ticks(6);
+  EXPECT_EQ(SclTable.SclTableView.firstLine, 0);
+  EXPECT_EQ(SclTable.SclTableView.selectionEnd, 0);
+}
+
 TEST_F(TableScrollTest, ButtonUpOnTheStageStopsScrolling) {
   SclTable.TableScrollDirection = ScrollDirection::Down;
   SclTable.AutoScrollDelay = 4;
