@@ -190,16 +190,18 @@ bool Page(const Event& event) {
 }
 
 HWND Sheet() {
-  return FindWindowW(nullptr, L"sheet of two");
+  return FindWindowW(nullptr, L"sheet of pages");
 }
 
 constexpr int kApply = 0x3021;
 
-bool RunSheet() {
+bool RunSheet(int count = 2) {
   static int one = 1;
   static int two = 2;
-  const SheetPage pages[] = {{IDD_TestPageOne, Page, &one}, {IDD_TestPageTwo, Page, &two}};
-  return SheetRun(nullptr, "sheet of two", pages, 2);
+  static int three = 3;
+  const SheetPage pages[] = {
+      {IDD_TestPageOne, Page, &one}, {IDD_TestPageTwo, Page, &two}, {IDD_TestPageOne, Page, &three}};
+  return SheetRun(nullptr, "sheet of pages", pages, count);
 }
 
 HWND PageShown() {
@@ -213,6 +215,17 @@ TEST(Kit, SheetAppliesThePagesThatWereShown) {
   Play({[] { SendMessageW(Sheet(), PSM_SETCURSEL, 1, 0); }, [] { PressButton(Sheet(), IDOK); }});
   EXPECT_TRUE(RunSheet());
   EXPECT_EQ(heard, (Names{"init 1", "init 2", "apply 1", "apply 2"}));
+}
+
+TEST(Kit, SheetOfThreeAppliesInTheOrderOfItsPages) {
+  Play({[] { SendMessageW(Sheet(), PSM_SETCURSEL, 2, 0); },
+        [] {
+          SetEdit(PageShown(), 10, L"x");
+          PressButton(Sheet(), kApply);
+        },
+        [] { PressButton(Sheet(), IDCANCEL); }});
+  EXPECT_FALSE(RunSheet(3));
+  EXPECT_EQ(heard, (Names{"init 1", "init 3", "apply 1", "apply 3"}));
 }
 
 TEST(Kit, CancelledSheetIsFalseAlsoBehindAnApply) {

@@ -1,6 +1,8 @@
 // Property sheets.
 #include "platform/sheet.h"
 
+#include <algorithm>
+
 #include "platform/posix/faults.h"
 #include "platform/window.h"
 #include "tests/platform/machinery.h"
@@ -27,11 +29,13 @@ class SheetTest : public MachineryTest {
     MachineryTest::SetUp();
     told.clear();
   }
-  static bool Run(WindowHandle owner = nullptr) {
+  static bool Run(WindowHandle owner = nullptr, int count = 2) {
     static char one[] = "one";
     static char two[] = "two";
-    const SheetPage pages[] = {{IDD_TestPageOne, Page, one}, {IDD_TestPageTwo, Page, two}};
-    return SheetRun(owner, "二枚", pages, 2);
+    static char three[] = "three";
+    const SheetPage pages[] = {
+        {IDD_TestPageOne, Page, one}, {IDD_TestPageTwo, Page, two}, {IDD_TestPageOne, Page, three}};
+    return SheetRun(owner, "二枚", pages, count);
   }
   static WindowHandle One() { return FindDialog(IDD_TestPageOne); }
   static WindowHandle Two() { return FindDialog(IDD_TestPageTwo); }
@@ -61,6 +65,19 @@ TEST_F(SheetTest, PagesKeepWhatTheyShowAndAreAppliedInOrder) {
   });
   EXPECT_TRUE(Run());
   EXPECT_EQ(told, (Names{"one init", "two init", "one apply", "two apply", "one destroy", "two destroy"}));
+}
+
+TEST_F(SheetTest, ThreePagesAreAppliedInTheirOrderWhateverTheOrderTheyWereShownIn) {
+  Then([] {
+    SheetPageChoose(2);
+    SheetPageChoose(1);
+    Press(TopDialog(), 1);
+  });
+  EXPECT_TRUE(Run(nullptr, 3));
+  const Names applied = {"one apply", "two apply", "three apply"};
+  const auto first = std::find(told.begin(), told.end(), "one apply");
+  ASSERT_GE(told.end() - first, 3);
+  EXPECT_EQ(Names(first, first + 3), applied);
 }
 
 TEST_F(SheetTest, CancelEscapeAndCloseApplyNothing) {
