@@ -1,7 +1,6 @@
 #include "character/stage.h"
 
 #include "character/bored_frames.h"
-#include "character/chara_set.h"
 #include "character/character.h"
 #include "character/character_tables.h"
 #include "character/frames.h"

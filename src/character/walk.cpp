@@ -11,7 +11,6 @@
 #include "services/commands.h"
 #include "services/screen_figures.h"
 #include "services/sound_file.h"
-#include "services/state.h"
 
 namespace {
 

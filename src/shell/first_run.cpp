@@ -1,7 +1,6 @@
 // Command 2373: the first run on a machine.
 #include <cstring>
 
-#include "platform/window.h"
 #include "schedule/applications/application_list.h"
 #include "services/commands.h"
 #include "services/program.h"

@@ -8,7 +8,6 @@
 #include "services/tick_step.h"
 
 inline constexpr std::int32_t kMenuInside = -1;  // MenuCloseCount: the pointer has been inside
-inline constexpr std::int32_t kFuncMail = 11;    // FuncNo of the mail notice's settings
 
 struct PanelState {
   WindowHandle hDiskMenu = nullptr;  // DspDiskMenu

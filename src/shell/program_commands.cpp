@@ -1,6 +1,5 @@
 // Commands about the program itself and the programs beside it.
 #include "platform/dialog.h"
-#include "platform/file.h"
 #include "platform/process.h"
 #include "platform/window.h"
 #include "services/commands.h"

@@ -28,7 +28,6 @@
 #include "filetools/open/open_search.h"
 #include "filetools/open/open_selection.h"
 #include "filetools/scope/folder_scope.h"
-#include "filetools/scope/scope_pie.h"
 #include "filetools/stepped_work.h"
 #include "filetools/tidy/desktop_tidy.h"
 #include "mail_music/mail/mail.h"

@@ -173,6 +173,7 @@ struct ClockState {
   std::int32_t strikeWait = 0;
   int firstStep = -1;  // with a figure; -1 for none
   int lastStep = -1;
+  int adustSecond = -1;  // of the day, that WatchAdustDlg shows; -1 for none
 };
 extern ClockState Clock;
 
@@ -181,8 +182,6 @@ extern ClockState Clock;
 int ClockAlarmCheck(int hour, int minute);
 // Forgets the minute that was compared last.
 void ClockAlarmCheckReset();
-// Forgets which slot fired last, so that any may fire again.
-void ClockAlarmForget();
 
 // --- Timed events, for as long as the program runs.
 

@@ -25,7 +25,3 @@ int ClockAlarmCheck(int hour, int minute) {
 void ClockAlarmCheckReset() {
   Clock.comparedHour = Clock.comparedMinute = kNone;
 }
-
-void ClockAlarmForget() {
-  Clock.firedLast = kNone;
-}

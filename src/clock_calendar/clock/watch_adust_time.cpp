@@ -1,8 +1,8 @@
 // The running time in WatchAdustDlg.
+#include "clock_calendar/clock/clock.h"
 #include "clock_calendar/clock/clock_window.h"
 #include "platform/canvas.h"
 #include "services/dialog_family.h"
-#include "services/dialog_numbers.h"
 #include "services/drawing_objects.h"
 #include "services/painting.h"
 #include "services/text.h"
@@ -16,10 +16,9 @@ constexpr int kBoxHeight = 20;
 }  // namespace
 
 void WatchAdustTimeDraw() {
-  static int drawn = -1;
   const int seconds = (Today.SharedTime.hour * 60 + Today.SharedTime.minute) * 60 + Today.SharedTime.second;
-  if (seconds == drawn) return;
-  drawn = seconds;
+  if (seconds == Clock.adustSecond) return;
+  Clock.adustSecond = seconds;
   Canvas* canvas = CanvasGet(Dialogs.hToolDlg);
   if (!canvas) return;
   FillArea(canvas, Drawing.FaceBrush, {kX, kY, kX + kBoxWidth, kY + kBoxHeight});

@@ -9,7 +9,6 @@
 #include "filetools/open/open_record.h"
 #include "filetools/open/open_selection.h"
 #include "filetools/open/open_walk.h"
-#include "platform/window.h"
 #include "services/boxes.h"
 #include "services/commands.h"
 #include "services/dialog_family.h"
