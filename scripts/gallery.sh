@@ -247,6 +247,11 @@ leave "$scope"
 sent FileDesktopClrDlg 'デスクトップの整理' 1920
 sent DesktopIconSetDlg 'デスクトップ カバー設定' 1922
 
+# --- The rooms that have a file of their own.
+for room in scripts/gallery/*.sh; do
+  [ ! -e "$room" ] || . "$room"
+done
+
 # --- The exit question.
 sent box_exit 'プログラム終了' 1908 2
 

@@ -274,6 +274,11 @@ picture folder_scope_pies
 push 'フォルダー統計 円グラフ' 2
 push "$scope" 3
 
+# --- The rooms that have a file of their own.
+for room in scripts/tour/*.sh; do
+  [ ! -e "$room" ] || . "$room"
+done
+
 # --- The end, that is put off.
 touch_stage
 row 7 panel_exit

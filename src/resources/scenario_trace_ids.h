@@ -1,0 +1,7 @@
+/* The trace of parameters.
+   Numbers of the resources, for the .rc files and the code; a dialog template is IDD_
+   and its name. */
+#ifndef MIRRELL_RESOURCES_SCENARIO_TRACE_IDS_H
+#define MIRRELL_RESOURCES_SCENARIO_TRACE_IDS_H
+
+#endif

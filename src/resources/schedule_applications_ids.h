@@ -1,0 +1,7 @@
+/* The list of applications.
+   Numbers of the resources, for the .rc files and the code; a dialog template is IDD_
+   and its name. */
+#ifndef MIRRELL_RESOURCES_SCHEDULE_APPLICATIONS_IDS_H
+#define MIRRELL_RESOURCES_SCHEDULE_APPLICATIONS_IDS_H
+
+#endif
