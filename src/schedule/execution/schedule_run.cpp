@@ -5,13 +5,6 @@
 
 SclRunState SclRun;
 
-void SclDefaults() {
-  constexpr SclHours kDay{10, 8, 18};
-  SclRun.SclTableHours = kDay;
-  for (SclHours& hours : SclRun.SclSubTableHours) hours = kDay;
-  SclRun.SclLineCount = 31;
-}
-
 // There is no schedule model yet: none can be named, and none runs.
 void SclExecutionLoad() {}
 bool SclIsRunning() {
