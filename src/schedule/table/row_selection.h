@@ -9,7 +9,7 @@
 #include "schedule/table/table_layout.h"
 #include "schedule/table/table_scroll.h"
 
-enum class CopyMark { None = 0, Schedule = 1, Plan = 2 };
+enum class CopyMark { None = 0, InSchedule = 1, InPlan = 2 };
 enum class TableCell { None = 0, Content = 1, Hours = 2, Check = 3, Alarm = 4 };
 
 struct RowSelectionState {
