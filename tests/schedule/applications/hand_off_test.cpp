@@ -6,6 +6,7 @@
 #include "platform/file.h"
 #include "platform/posix/faults.h"
 #include "schedule/applications/application_list.h"
+#include "schedule/execution/scl_alarm.h"
 #include "schedule/model/scl_file.h"
 #include "services/commands.h"
 #include "tests/schedule/schedule_fixture.h"
@@ -291,6 +292,16 @@ TEST_F(HandOffTest, WithoutAChangeTheListIsNotWritten) {
   RemoveFile(InProgram("mirrell_apli_list_file.ali"));
   CommandSend(Command::ApplicationHandOff);
   EXPECT_FALSE(FileThere(InProgram("mirrell_apli_list_file.ali")));
+}
+
+TEST_F(HandOffTest, AnAppliedChangeForgetsTheAlarmsOfTheDay) {
+  SclAlarm.year = 2026;
+  SclAlarm.count = 3;
+  SclAlarm.announce = 2;
+  CommandSend(Command::ApplicationHandOff);
+  EXPECT_EQ(SclAlarm.year, 0);
+  EXPECT_EQ(SclAlarm.count, 0);
+  EXPECT_EQ(SclAlarm.announce, 0);
 }
 
 TEST_F(HandOffTest, AScheduleThatCannotBeLoadedIsTakenWithoutAWord) {
