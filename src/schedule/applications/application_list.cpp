@@ -18,7 +18,7 @@
 #include "services/record_file.h"
 #include "services/text.h"
 
-ApplicationsState Applications;
+ApliListState Applications;
 
 namespace {
 

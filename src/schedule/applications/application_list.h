@@ -9,7 +9,7 @@
 inline constexpr int kApliMax = 100;
 inline constexpr int kHandOffPathSize = kApliPathSize + 16;
 
-struct ApplicationsState {
+struct ApliListState {
   std::int32_t ApliCount = 0;        // entries in use
   std::int32_t ApliSecondCount = 0;  // always 0 in files of this program
   std::int32_t ApliSelected = 0;     // number of the executing application's entry, from 1; 0 none
@@ -28,7 +28,7 @@ struct ApplicationsState {
   // for none selected; 0 when there is no change.
   std::int32_t ApliPending = 0;
 };
-extern ApplicationsState Applications;
+extern ApliListState Applications;
 
 // Tries the file and creates it with zero counts when it cannot be opened.
 // 0; -1 when it cannot be made.
