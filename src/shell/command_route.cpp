@@ -11,6 +11,7 @@
 #include "mail_music/mail_music_commands.h"
 #include "scenario/scenario_commands.h"
 #include "schedule/schedule_commands.h"
+#include "schedule/table/row_commands.h"
 #include "shell/shell_commands.h"
 
 namespace {

@@ -33,6 +33,8 @@ bool ChgSclDayTimeDlgRun(ToolDialog number, WindowHandle owner);
 
 // Lets the user pick a schedule and loads it. True when that went well; a failure is told.
 bool SclLoadRun(WindowHandle owner);
+// Tells why a load has failed, by its FileStatus. True for one that has not.
+bool SclLoadTell(WindowHandle owner, int status);
 // Asks for a name, asks again when the file exists, and saves. A failure to open is told;
 // a short write is not.
 void SclSaveRun(WindowHandle owner);
