@@ -37,6 +37,7 @@
 #include "schedule/execution/schedule_run.h"
 #include "schedule/execution/scl_notice.h"
 #include "schedule/model/schedule.h"
+#include "schedule/plan/plan.h"
 #include "schedule/table/row_selection.h"
 #include "schedule/table/table_scroll.h"
 #include "services/child_controls.h"
@@ -104,7 +105,7 @@ void ClockCalendarReset() {
 void ScheduleReset() {
   ApliListFree();
   SclMapFree();
-  ResetAll(Applications, Notices, RowSelection, Schedule, SclRun, SclTable);
+  ResetAll(Applications, Notices, Plan, RowSelection, Schedule, SclRun, SclTable);
 }
 
 void FileToolsReset() {

@@ -6,10 +6,11 @@
 struct PlanState {
   ScpPlanHead head = {};
   ScpPlanRec ScpPlanTable[kScpLineMax] = {};
-  bool dirty = false;    // changed since it was loaded or saved
-  bool busy = false;     // a command of the plan is being carried out
-  bool training = false; // the window was opened for a training plan
-  int line = 0;          // the line that is being edited, from 0
+  bool dirty = false;      // changed since it was loaded or saved
+  bool busy = false;       // one of its editors, pickers or questions is up
+  bool closing = false;    // its window asks whether to save
+  bool saveAfter = false;  // to be saved when it has been converted
+  int line = 0;            // the line that is being edited, from 0
 };
 extern PlanState Plan;
 

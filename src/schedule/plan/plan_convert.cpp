@@ -90,13 +90,27 @@ void ItemClose(const Placement& placement) {
   std::memcpy(item.text, placement.plan.text, sizeof item.text);
 }
 
+bool EndsTheDay(const Placement& placement) {
+  return Plan.head.ScpPlanKind == kScpTraining && DayIsOver(placement.at);
+}
+
+void HoursCount(Placement& placement, std::uint32_t hours) {
+  placement.done += hours;
+  placement.left -= hours;
+}
+
 void HoursPlace(Placement& placement) {
-  if (placement.done == 0) SclItem(placement.item).start = SclItemDateOf(placement.at);
+  const SclDate before = placement.at;
+  if (placement.done == 0) SclItem(placement.item).start = SclItemDateOf(before);
   WorkHoursPass(1, placement.at);
+  if (SclDateCompare(before, placement.at) == 0) {
+    // There is no work to be found, not for the hours behind this one either.
+    HoursCount(placement, EndsTheDay(placement) ? 1 : placement.left);
+    return;
+  }
   const std::uint32_t ahead = HoursAhead(placement.at, placement.left - 1);
   placement.at.hour += static_cast<int>(ahead);
-  placement.done += 1 + ahead;
-  placement.left -= 1 + ahead;
+  HoursCount(placement, 1 + ahead);
 }
 
 // Puts a rest behind the item that is being filled. False when the table is full.
@@ -112,7 +126,7 @@ bool RestPlace(Placement& placement, int rowAndOne) {
 
 // A workout never runs past the end of the day: the rest of its hours is dropped.
 void WorkoutEnd(Placement& placement) {
-  if (placement.done == 0 || !DayIsOver(placement.at)) return;
+  if (placement.done == 0 || !EndsTheDay(placement)) return;
   ItemClose(placement);
   placement.left = 0;
   placement.done = 0;
@@ -133,7 +147,7 @@ bool HoursPlaceAll(Placement& placement) {
     const int row = ScpRestAt(placement.at);
     if (row != 0 && !RestPlace(placement, row)) return false;
     if (row == 0) HoursPlace(placement);
-    if (Plan.head.ScpPlanKind == kScpTraining) WorkoutEnd(placement);
+    WorkoutEnd(placement);
   }
   return true;
 }

@@ -1,5 +1,6 @@
 // The conversion of a plan into a schedule: the worked examples and the edges.
 #include "clock_calendar/calendar/calendar.h"
+#include "schedule/model/scl_dates.h"
 #include "tests/schedule/plan/plan_fixture.h"
 
 namespace {
@@ -243,25 +244,28 @@ TEST_F(PlanConvert, AWaitThatFillsTheTableIsAFailure) {
   EXPECT_EQ(Convert().size(), 999U);
   // The same again, but the last line waits once: the wait is the thousandth item.
   Plan.head.ScpIntervalTable[3] = 1;
-  Line(298, 1, 0, "A");  // two items less
+  Line(298, 1, 1, "A");  // one item less
   Line(299, 1, 4, "A");  // two more, the last of them behind a wait
   EXPECT_EQ(Convert(-1).size(), 1000U);
   EXPECT_EQ(Schedule.SclItemTable[999].text[0], '\0');
 }
 
-// Rests that fill the table before the placement is through: nothing of it is counted.
-TEST_F(PlanConvert, RestsThatFillTheTableKeepWhatWasCountedBefore) {
+// The table is full before the placement is through: nothing of it is counted.
+TEST_F(PlanConvert, APlacementThatFillsTheTableOnItsWayKeepsWhatWasCountedBefore) {
   Study();
-  Intervals(0);
-  NoRests();
-  for (int line = 0; line < 99; ++line) Line(line, 1, 9, "A");
-  EXPECT_EQ(Convert().size(), 990U);
-  for (int row = 0; row < 8; ++row) Plan.head.ScpRestTable[row][0] = {21, 22, 1};
-  for (int line = 0; line < 99; ++line) Line(line, 1, 9, "A");
-  Line(0, 1000, 0, "B");
-  const Rows items = Convert(-2);
-  EXPECT_LT(items.size(), 1000U);
-  EXPECT_STRNE(Schedule.SclItemTable[999].text, "");
+  Line(0, 200, 0, "B");
+  SclConversionBegin("", Plan.head.rows);
+  SclCountSet(990);
+  SclDate current = kMonday8;
+  EXPECT_EQ(ScpAddLine(current, 0), -2);  // by the rest: five hours, five rests
+  EXPECT_EQ(Schedule.SclHeader.count, 990);
+  EXPECT_EQ(current.hour, 8);
+  EXPECT_EQ(ItemText(990), "2026/11/23 8 - 2026/11/23 12 = 4 B");
+  EXPECT_EQ(ItemText(999), "2026/11/24 18 - 2026/11/24 19 = 1 火曜日 - 休憩2");
+  SclCountSet(991);
+  EXPECT_EQ(ScpAddLine(current, 0), -2);  // by the hours before it
+  EXPECT_EQ(Schedule.SclHeader.count, 991);
+  EXPECT_STREQ(Schedule.SclItemTable[999].text, "B");
 }
 
 TEST_F(PlanConvert, ARestBeforeAPlacementThatFillsTheTableIsAFailureToo) {

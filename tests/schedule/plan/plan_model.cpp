@@ -1,17 +1,18 @@
 #include "tests/schedule/plan/plan_model.h"
 
 #include <algorithm>
-#include <chrono>
 
 namespace {
 
-using std::chrono::day;
-using std::chrono::month;
-using std::chrono::sys_days;
-using std::chrono::year;
-using std::chrono::year_month_day;
+constexpr int kMonthDays[] = {31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
 
-const sys_days kFirst = sys_days(year{2000} / 1 / 1);  // a Saturday
+bool IsLeap(int y) {
+  return y % 4 == 0 && (y % 100 != 0 || y % 400 == 0);
+}
+
+int LengthOf(int y, int m) {
+  return kMonthDays[m - 1] + (m == 2 && IsLeap(y) ? 1 : 0);
+}
 
 class Converter {
  public:
@@ -51,6 +52,7 @@ class Converter {
 
   ModelTime Later(ModelTime from, int hours) const {
     int days = 0;
+    int idle = 0;
     int probe = from.day;
     int hour = from.hour;
     int row = Row(probe);
@@ -61,6 +63,8 @@ class Converter {
       hour = begin_[row];
     }
     while (hour + hours > end_[row]) {
+      idle = end_[row] > hour ? 0 : idle + 1;
+      if (idle > 1200) return from;  // no day that is looked at has hours
       hours -= end_[row] - hour;
       ++days;
       probe += days;
@@ -195,10 +199,13 @@ class Converter {
 };
 
 std::string TimeText(ModelTime time) {
-  const year_month_day date(kFirst + std::chrono::days(time.day));
-  return std::to_string(static_cast<int>(date.year())) + "/" +
-         std::to_string(static_cast<unsigned>(date.month())) + "/" +
-         std::to_string(static_cast<unsigned>(date.day())) + " " + std::to_string(time.hour);
+  int left = time.day;
+  int y = 2000;
+  int m = 1;
+  while (left >= (IsLeap(y) ? 366 : 365)) left -= IsLeap(y++) ? 366 : 365;
+  while (left >= LengthOf(y, m)) left -= LengthOf(y, m++);
+  return std::to_string(y) + "/" + std::to_string(m) + "/" + std::to_string(left + 1) + " " +
+         std::to_string(time.hour);
 }
 
 }  // namespace
@@ -209,8 +216,10 @@ ModelSchedule ModelConvert(const ScpPlanHead& head, const std::vector<ScpPlanRec
 }
 
 int ModelDay(int y, int m, int d) {
-  const sys_days at = sys_days(year{y} / month{static_cast<unsigned>(m)} / day{static_cast<unsigned>(d)});
-  return static_cast<int>((at - kFirst).count());
+  int days = d - 1;
+  for (int at = 2000; at < y; ++at) days += IsLeap(at) ? 366 : 365;
+  for (int at = 1; at < m; ++at) days += LengthOf(y, at);
+  return days;
 }
 
 std::string ModelText(const ModelItem& item) {
