@@ -10,9 +10,11 @@
 #include "filetools/tidy/tidy_commands.h"
 #include "mail_music/mail_music_commands.h"
 #include "scenario/scenario_commands.h"
+#include "schedule/execution/execution_commands.h"
 #include "schedule/plan/plan_commands.h"
 #include "schedule/schedule_commands.h"
 #include "schedule/table/row_commands.h"
+#include "schedule/table/schedule_table_commands.h"
 #include "shell/shell_commands.h"
 
 namespace {

@@ -35,10 +35,13 @@
 #include "mail_music/music/music.h"
 #include "schedule/applications/application_list.h"
 #include "schedule/execution/schedule_run.h"
+#include "schedule/execution/scl_alarm.h"
 #include "schedule/execution/scl_notice.h"
 #include "schedule/model/schedule.h"
 #include "schedule/plan/plan.h"
+#include "schedule/table/line_chart.h"
 #include "schedule/table/row_selection.h"
+#include "schedule/table/schedule_dialogs.h"
 #include "schedule/table/table_scroll.h"
 #include "services/child_controls.h"
 #include "services/data_file.h"
@@ -105,7 +108,8 @@ void ClockCalendarReset() {
 void ScheduleReset() {
   ApliListFree();
   SclMapFree();
-  ResetAll(Applications, Notices, Plan, RowSelection, Schedule, SclRun, SclTable);
+  ResetAll(Applications, LineChart, Notices, Plan, RowSelection, Schedule, SclAlarm, SclDay, SclRun,
+           SclTable);
 }
 
 void FileToolsReset() {

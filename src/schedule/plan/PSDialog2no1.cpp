@@ -44,7 +44,8 @@ void Take(WindowHandle page, int place, ScpRestPeriod& rest) {
   if (start >= 0) rest.start = start;
   const std::uint32_t length = PlanNumberTake(page, IDC_SCP_REST_LENGTH_FIRST + place, kCharacters);
   const std::int64_t most = std::int64_t{kSclDayHours} - rest.start;
-  rest.length = static_cast<std::int32_t>(std::clamp<std::int64_t>(length, 0, std::max<std::int64_t>(most, 0)));
+  rest.length =
+      static_cast<std::int32_t>(std::clamp<std::int64_t>(length, 0, std::max<std::int64_t>(most, 0)));
 }
 
 void Apply(const Event& event) {

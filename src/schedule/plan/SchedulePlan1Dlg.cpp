@@ -113,7 +113,7 @@ void Paint(WindowHandle window) {
 // kept: whether the plan is saved or not, whether the saving goes well or not, the window
 // closes.
 void Close(WindowHandle window) {
-  if (Plan.closing) return;
+  if (Plan.closing || ModalIsUp()) return;
   Plan.closing = true;
   if (Plan.dirty && BoxAsk(window, kSaveAsked)) PlanSave(window);
   Plan.closing = false;

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <iterator>
 
+#include "platform/window.h"
 #include "schedule/model/schedule.h"
 #include "schedule/model/schedule_dialogs.h"
 #include "schedule/model/scl_dates.h"
@@ -29,7 +30,8 @@ constexpr BoxWords kTableFull{"スケジュールの最大ライン数を超え�
                               "計画表からスケジュールへの変換エラー"};
 constexpr const char* kConvertCaption = "計画表からスケジュールへの変換準備";
 constexpr BoxWords kSaveFirst{
-    "計画表を終了してスケジュール表を表示します !! その前に変更された計画表をセーブしますか?", kConvertCaption};
+    "計画表を終了してスケジュール表を表示します !! その前に変更された計画表をセーブしますか?",
+    kConvertCaption};
 constexpr BoxWords kLoseChanges{"変更された計画データは失われますがよろしいですか?",
                                 "スケジュール移行への確認"};
 constexpr BoxWords kConvertAsked{"計画表を終了してスケジュール表を表示します !!", kConvertCaption};
@@ -100,7 +102,7 @@ void ScheduleShow() {
 }
 
 void Convert(WindowHandle window) {
-  if (!ConversionAllowed(window)) return;
+  if (!ConversionAllowed(window) || SclTable.hPlanWnd != window) return;
   PlanTitleTake();
   if (ScpConvertToSchedule() < 0) {
     BoxTell(window, kTableFull);

@@ -77,10 +77,10 @@ std::uint32_t HoursAhead(const SclDate& at, std::uint32_t most) {
 // One placement as it grows.
 struct Placement {
   const ScpPlanRec& plan;
-  int item;             // the one that is being filled
-  SclDate at;           // the end of what is placed
-  std::uint32_t left;   // hours still to be placed
-  std::uint32_t done;   // hours of this item
+  int item;            // the one that is being filled
+  SclDate at;          // the end of what is placed
+  std::uint32_t left;  // hours still to be placed
+  std::uint32_t done;  // hours of this item
 };
 
 void ItemClose(const Placement& placement) {

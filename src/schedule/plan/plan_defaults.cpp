@@ -26,7 +26,8 @@ constexpr Defaults kStudy{
     {{12, 13, 1}, {18, 19, 1}, {21, 22, 1}},
     2,
     0,
-    "Instunce: Study English Words Book page 1 1-50words"};  // kept: the first line of a new study plan is misspelled.
+    "Instunce: Study English Words Book page 1 1-50words"};  // kept: the first line of a new study plan is
+                                                             // misspelled.
 
 constexpr Defaults kTraining{kScpTraining,
                              "Plan to Train",

@@ -1,5 +1,6 @@
 // What the plan window draws: the table of its lines.
 #include <algorithm>
+#include <iterator>
 
 #include "platform/window.h"
 #include "schedule/plan/plan.h"
@@ -15,7 +16,8 @@ constexpr char kNothing[] = "----";
 constexpr const char* kLoads[] = {"(軽)", "(中)", "(重)"};
 
 // Below the window's keys; the third column has the hours, the fourth the repeats.
-constexpr TableShape kShape{.top = 220, .titled = false, .reserved = 290, .hours = 100, .check = 100, .alarm = 0};
+constexpr TableShape kShape{
+    .top = 220, .titled = false, .reserved = 290, .hours = 100, .check = 100, .alarm = 0};
 
 const ScpPlanRec& LineAt(int line) {
   return Plan.ScpPlanTable[std::clamp(line, 0, kScpLineMax - 1)];
@@ -42,12 +44,13 @@ void StudyRow(int line, TableRowText& text) {
 void TrainingRow(int line, TableRowText& text) {
   const ScpPlanRec& plan = LineAt(line);
   ContentText(plan, text);
-  TextFormat(text.hours, sizeof text.hours, "%s%3dH", plan.load < std::size(kLoads) ? kLoads[plan.load] : "(-)",
-             static_cast<int>(plan.hours));
+  TextFormat(text.hours, sizeof text.hours, "%s%3dH",
+             plan.load < std::size(kLoads) ? kLoads[plan.load] : "(-)", static_cast<int>(plan.hours));
 }
 
 constexpr TableLook kStudyLook{"   内  容 ", " 学習時間 ", " 復習回数 ", "", CopyMark::InPlan, StudyRow};
-constexpr TableLook kTrainingLook{"   内  容 ", "(負荷) 時間", " 予定回数 ", "", CopyMark::InPlan, TrainingRow};
+constexpr TableLook kTrainingLook{"   内  容 ", "(負荷) 時間",    " 予定回数 ",
+                                  "",           CopyMark::InPlan, TrainingRow};
 
 template <const TableLook& look>
 void Draw(Canvas* canvas, const Rect& area) {

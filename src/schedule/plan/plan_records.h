@@ -7,11 +7,11 @@
 #include "services/record.h"
 #include "services/scl_date.h"
 
-inline constexpr int kScpLineMax = 300;      // lines of a plan
+inline constexpr int kScpLineMax = 300;  // lines of a plan
 inline constexpr int kScpIntervalCount = 10;
-inline constexpr int kScpRestCount = 3;      // rests of a day
-inline constexpr int kScpTextSize = 128;     // 127 bytes of text and the terminator
-inline constexpr int kScpTitleSize = 129;    // 128 bytes of text and the terminator
+inline constexpr int kScpRestCount = 3;    // rests of a day
+inline constexpr int kScpTextSize = 128;   // 127 bytes of text and the terminator
+inline constexpr int kScpTitleSize = 129;  // 128 bytes of text and the terminator
 
 // What a plan is for.
 enum ScpKind : std::uint8_t { kScpStudy = 0, kScpTraining = 1 };

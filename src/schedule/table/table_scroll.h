@@ -33,6 +33,10 @@ struct SclTableState {
   const RowTable* sclRows = nullptr;
   const RowTable* planRows = nullptr;
   WindowHandle clicked = nullptr;
+  // Of the schedule's window: the height that its buttons stand by, and that it is asking
+  // whether to save before it closes.
+  std::int32_t clientHeight = 0;
+  bool closing = false;
 };
 extern SclTableState SclTable;
 

@@ -201,8 +201,8 @@ TEST_F(PlanConvert, ASundayMarkedAsAHolidayUsesTheSundayRowASaturdayTheHolidayRo
   Study({26, 10, 27, 22});
   NoRests();
   WorkRow(5, 8, 14);
-  WorkRow(6, 10, 4);   // Sunday
-  WorkRow(7, 14, 2);   // holiday
+  WorkRow(6, 10, 4);  // Sunday
+  WorkRow(7, 14, 2);  // holiday
   Plan.head.start.hour = 14;
   Line(0, 4, 0, "A");
   // Two hours of the holiday's row, then two of Sunday's.

@@ -6,12 +6,27 @@ namespace {
 
 constexpr int kMonthDays[] = {31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
 
+// Every fourth year, 2100 too.
 bool IsLeap(int y) {
-  return y % 4 == 0 && (y % 100 != 0 || y % 400 == 0);
+  return y % 4 == 0;
 }
 
 int LengthOf(int y, int m) {
   return kMonthDays[m - 1] + (m == 2 && IsLeap(y) ? 1 : 0);
+}
+
+struct ModelDate {
+  int y;
+  int m;
+  int d;  // from 0
+};
+
+ModelDate DateOf(std::int64_t days) {
+  constexpr int kFourYears = 1461;
+  ModelDate date{2000 + 4 * static_cast<int>(days / kFourYears), 1, static_cast<int>(days % kFourYears)};
+  while (date.d >= (IsLeap(date.y) ? 366 : 365)) date.d -= IsLeap(date.y++) ? 366 : 365;
+  while (date.d >= LengthOf(date.y, date.m)) date.d -= LengthOf(date.y, date.m++);
+  return date;
 }
 
 class Converter {
@@ -45,15 +60,16 @@ class Converter {
     int wait;
   };
 
-  int Row(int atDay) const {
-    const int weekday = (atDay + 5) % 7;
-    return weekday != 6 && holidays_.contains(atDay) ? 7 : weekday;
+  // From 2100 on each month is taken to begin a day before a Monday.
+  int Row(std::int64_t atDay) const {
+    if (atDay >= ModelDay(2100, 1, 1)) return std::max(0, (DateOf(atDay).d - 1) % 7);
+    const int weekday = static_cast<int>((atDay + 5) % 7);
+    return weekday != 6 && holidays_.contains(static_cast<int>(atDay)) ? 7 : weekday;
   }
 
   ModelTime Later(ModelTime from, int hours) const {
     int days = 0;
-    int idle = 0;
-    int probe = from.day;
+    std::int64_t probe = from.day;
     int hour = from.hour;
     int row = Row(probe);
     if (hour >= end_[row]) {
@@ -63,8 +79,7 @@ class Converter {
       hour = begin_[row];
     }
     while (hour + hours > end_[row]) {
-      idle = end_[row] > hour ? 0 : idle + 1;
-      if (idle > 1200) return from;  // no day that is looked at has hours
+      if (days >= 73000) return from;  // no day that is looked at has hours
       hours -= end_[row] - hour;
       ++days;
       probe += days;
@@ -122,11 +137,14 @@ class Converter {
         if (!room()) return Full();
       } else {
         if (open.hours == 0) open.start = at;
+        const ModelTime before = at;
         at = Later(at, 1);
-        ++open.hours;
-        --left;
+        const bool lost = before.day == at.day && before.hour == at.hour;
+        const std::int64_t placed = lost && !OverFor(at) ? left : 1;
+        open.hours += placed;
+        left -= placed;
       }
-      if (head_.ScpPlanKind == 1 && open.hours > 0 && at.hour >= end_[Row(at.day)]) left = 0;
+      if (open.hours > 0 && OverFor(at)) left = 0;
     }
     close();
     made_.items.insert(made_.items.end(), items.begin(), items.end());
@@ -134,6 +152,8 @@ class Converter {
     if (made_.items.size() >= 1000) Full();
   }
 
+  // A workout ends there.
+  bool OverFor(ModelTime at) const { return head_.ScpPlanKind == 1 && at.hour >= end_[Row(at.day)]; }
   void Full() { made_.full = true; }
   int Today() const { return now_.day - made_.start.day; }
 
@@ -199,13 +219,10 @@ class Converter {
 };
 
 std::string TimeText(ModelTime time) {
-  int left = time.day;
-  int y = 2000;
-  int m = 1;
-  while (left >= (IsLeap(y) ? 366 : 365)) left -= IsLeap(y++) ? 366 : 365;
-  while (left >= LengthOf(y, m)) left -= LengthOf(y, m++);
-  return std::to_string(y) + "/" + std::to_string(m) + "/" + std::to_string(left + 1) + " " +
-         std::to_string(time.hour);
+  const ModelDate date = DateOf(time.day);
+  // An item holds its year in a byte.
+  return std::to_string(2000 + (date.y - 2000) % 256) + "/" + std::to_string(date.m) + "/" +
+         std::to_string(date.d + 1) + " " + std::to_string(time.hour);
 }
 
 }  // namespace

@@ -58,7 +58,8 @@ class PlanRandom : public PlanTest {
     if (Below(2) == 0) Training({26, Below(12), Below(28), Below(25)});
     Rows8();
     Rests();
-    for (std::int32_t& interval : Plan.head.ScpIntervalTable) interval = Below(4) == 0 ? Below(70) : Below(11);
+    for (std::int32_t& interval : Plan.head.ScpIntervalTable)
+      interval = Below(4) == 0 ? Below(70) : Below(11);
     Lines(1 + Below(Below(5) == 0 ? 80 : 8));
     if (Below(20) == 0) Plan.ScpPlanTable[0].hours = 1000;
   }

@@ -1,6 +1,5 @@
 // How a plan lies in its file, and what a new one holds.
 #include "schedule/plan/plan_records.h"
-
 #include "tests/schedule/plan/plan_fixture.h"
 #include "tests/support/record_check.h"
 
