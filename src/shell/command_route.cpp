@@ -12,6 +12,7 @@
 #include "scenario/scenario_commands.h"
 #include "schedule/applications/application_commands.h"
 #include "schedule/execution/execution_commands.h"
+#include "schedule/plan/plan_commands.h"
 #include "schedule/schedule_commands.h"
 #include "schedule/table/row_commands.h"
 #include "schedule/table/schedule_table_commands.h"
