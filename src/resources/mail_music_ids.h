@@ -6,5 +6,19 @@
 
 #define IDD_FlyingBat2X 3102
 #define IDD_SetMailAnimeDlg 3509
+#define IDD_MailSettingMenuDlg 3780
+#define IDD_MYPOPDLG 3781
+
+/* MailSettingMenuDlg. */
+#define IDC_MAIL_ENABLED 101
+#define IDC_MAIL_INTERVAL 102
+#define IDC_MAIL_COMMENT 103
+#define IDC_MAIL_ACCOUNT 104
+#define IDC_MAIL_ANIMATION 105
+
+/* MYPOPDLG. */
+#define IDC_POP_SERVER 101
+#define IDC_POP_USER 102
+#define IDC_POP_PASSWORD 103
 
 #endif

@@ -1,8 +1,7 @@
 #include "mail_music/mail/mail.h"
 
-#include <initializer_list>
-
-#include "platform/socket.h"
+#include "mail_music/mail/mail_tick.h"
+#include "services/commands.h"
 
 MailState Mail;
 
@@ -11,9 +10,8 @@ int MailSettingsRead() {
   return 0;
 }
 
-void MailSocketsClose() {
-  for (int* socket : {&Mail.MailSocket, &Mail.MailSocketSecond, &Mail.MailSocketThird}) {
-    SocketClose(*socket);
-    *socket = kNoSocket;
-  }
+void MailBegin() {
+  Mail.mailStopped = false;
+  MailResetInterval();
+  CommandSend(Command::MailCheck);
 }
