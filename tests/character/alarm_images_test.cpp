@@ -197,9 +197,8 @@ TEST_F(AlarmTest, WithoutMemoryTheBoxIsDrawnStraightAndNothingLeavesIt) {
 // --- The mail notice
 
 TEST_F(AlarmTest, AMailWithNeitherSoundNorAnimationShowsTheNoticeAloneAtTheCorner) {
-  Walk.mailState = 1;
+  Walk.mailState = kMailSeen;
   MailNotifyStart();
-  EXPECT_EQ(Walk.mailState, 0);
   EXPECT_EQ(Walk.mailState, 3);
   EXPECT_EQ(Walk.OpeningState, 0);
   ASSERT_NE(Mail.hMailNoticeWnd, nullptr);

@@ -24,7 +24,3 @@ void MailNotifyStart();
 
 // The next picture of the mail notice, and its repaint; nothing while it is closed.
 void MailNoticeFrameStep();
-
-// The settings have been confirmed with the notification on: checks may run again, the
-// interval begins, and the first check runs at once.
-void MailBegin();

@@ -60,7 +60,7 @@ void Converse() {
   if (MailTalkHasMail()) {
     WalkMailStateSet(kMailSeen);
   } else {
-    Answers("%s\r\n", "QUIT");
+    Answers("QUIT\r\n", "");
   }
 }
 

@@ -34,7 +34,7 @@ bool MailTalkHasRoom();
 // Connects to the server of MailLive. Returns 0, or why not.
 int MailTalkBegin();
 
-// Sends a command: `format` with one word in it.
+// Sends a command: `format`, with a word in it if it asks for one.
 void MailTalkSay(const char* format, const char* word);
 // Receives the next reply.
 void MailTalkHear();
