@@ -11,7 +11,10 @@
 #include "mail_music/mail/mail_commands.h"
 #include "mail_music/music/music_commands.h"
 #include "scenario/scenario_commands.h"
+#include "schedule/execution/execution_commands.h"
 #include "schedule/schedule_commands.h"
+#include "schedule/table/row_commands.h"
+#include "schedule/table/schedule_table_commands.h"
 #include "shell/shell_commands.h"
 
 namespace {

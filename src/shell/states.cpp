@@ -36,8 +36,12 @@
 #include "mail_music/music/music.h"
 #include "schedule/applications/application_list.h"
 #include "schedule/execution/schedule_run.h"
+#include "schedule/execution/scl_alarm.h"
 #include "schedule/execution/scl_notice.h"
 #include "schedule/model/schedule.h"
+#include "schedule/table/line_chart.h"
+#include "schedule/table/row_selection.h"
+#include "schedule/table/schedule_dialogs.h"
 #include "schedule/table/table_scroll.h"
 #include "services/child_controls.h"
 #include "services/data_file.h"
@@ -104,7 +108,7 @@ void ClockCalendarReset() {
 void ScheduleReset() {
   ApliListFree();
   SclMapFree();
-  ResetAll(Applications, Notices, Schedule, SclRun, SclTable);
+  ResetAll(Applications, Notices, LineChart, RowSelection, Schedule, SclAlarm, SclDay, SclRun, SclTable);
 }
 
 void FileToolsReset() {

@@ -16,7 +16,7 @@
 #include "schedule/applications/hand_off.h"
 #include "schedule/execution/schedule_run.h"
 #include "schedule/execution/scl_notice.h"
-#include "schedule/table/table_scroll.h"
+#include "schedule/table/table_tick.h"
 #include "services/five_ticks.h"
 #include "services/program.h"
 #include "services/tick_step.h"

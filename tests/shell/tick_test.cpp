@@ -9,6 +9,7 @@
 #include "mail_music/mail/mail.h"
 #include "mail_music/mail/mail_setting.h"
 #include "platform/window.h"
+#include "schedule/table/row_selection.h"
 #include "schedule/table/table_scroll.h"
 #include "services/commands.h"
 #include "services/five_ticks.h"
@@ -177,10 +178,10 @@ class TableScrollTest : public TickTest {
 
 TEST_F(TableScrollTest, DownMovesALineEverySixTicksUntilTheLastPage) {
   SclTable.TableScrollDirection = ScrollDirection::Down;
-  SclTable.SclTableView.selectionEnd = 10;
+  RowSelection.selectionEnd = 11;
   MainTick();
   EXPECT_EQ(SclTable.SclTableView.firstLine, 1);
-  EXPECT_EQ(SclTable.SclTableView.selectionEnd, 11);
+  EXPECT_EQ(RowSelection.selectionEnd, 12);
   EXPECT_EQ(SclTable.AutoScrollDelay, 5);
   EXPECT_EQ(TakeHeard(), Words{"paint"});
   EXPECT_EQ(ScrollBarState(SclTable.SclTableView.scrollBar).position, 1);
@@ -188,7 +189,7 @@ TEST_F(TableScrollTest, DownMovesALineEverySixTicksUntilTheLastPage) {
   EXPECT_EQ(SclTable.SclTableView.firstLine, 1);
   MainTick();
   EXPECT_EQ(SclTable.SclTableView.firstLine, 2);
-  EXPECT_EQ(SclTable.SclTableView.selectionEnd, 11) << "the last line stays the end of the selection";
+  EXPECT_EQ(RowSelection.selectionEnd, 12) << "the last line stays the end of the selection";
   Ticks(6);
   EXPECT_EQ(SclTable.SclTableView.firstLine, 2);
   EXPECT_EQ(SclTable.TableScrollDirection, ScrollDirection::None);
@@ -212,10 +213,10 @@ TEST_F(TableScrollTest, TheBarHasThePageOfItsHeightAndIsOffWhenAllLinesFit) {
 TEST_F(TableScrollTest, UpMovesALineUntilTheFirst) {
   SclTable.TableScrollDirection = ScrollDirection::Up;
   SclTable.SclTableView.firstLine = 1;
-  SclTable.SclTableView.selectionEnd = 0;
+  RowSelection.selectionEnd = 1;
   MainTick();
   EXPECT_EQ(SclTable.SclTableView.firstLine, 0);
-  EXPECT_EQ(SclTable.SclTableView.selectionEnd, 0);
+  EXPECT_EQ(RowSelection.selectionEnd, 1);
   Ticks(6);
   EXPECT_EQ(SclTable.TableScrollDirection, ScrollDirection::None);
 }
@@ -223,12 +224,12 @@ TEST_F(TableScrollTest, UpMovesALineUntilTheFirst) {
 TEST_F(TableScrollTest, UpTakesTheEndOfTheSelectionALineUpAsFarAsTheFirst) {
   SclTable.TableScrollDirection = ScrollDirection::Up;
   SclTable.SclTableView.firstLine = 2;
-  SclTable.SclTableView.selectionEnd = 1;
+  RowSelection.selectionEnd = 2;
   MainTick();
-  EXPECT_EQ(SclTable.SclTableView.selectionEnd, 0);
+  EXPECT_EQ(RowSelection.selectionEnd, 1);
   Ticks(6);
   EXPECT_EQ(SclTable.SclTableView.firstLine, 0);
-  EXPECT_EQ(SclTable.SclTableView.selectionEnd, 0);
+  EXPECT_EQ(RowSelection.selectionEnd, 1);
 }
 
 TEST_F(TableScrollTest, ButtonUpOnTheStageStopsScrolling) {
