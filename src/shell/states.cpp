@@ -123,7 +123,7 @@ void FileToolsReset() {
 void MailMusicReset() {
   MailSocketsClose();
   ResetAll(Mail, MailDialog, MailLive, MailSetting, MailTalks);
-  MusicReset();
+  ResetAll(BgmTable, Music);
 }
 
 void ShellReset() {
