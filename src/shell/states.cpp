@@ -32,6 +32,7 @@
 #include "filetools/tidy/desktop_tidy.h"
 #include "mail_music/mail/mail.h"
 #include "mail_music/mail/mail_setting.h"
+#include "mail_music/mail/mail_talk.h"
 #include "mail_music/music/music.h"
 #include "schedule/applications/application_list.h"
 #include "schedule/execution/schedule_run.h"
@@ -123,8 +124,8 @@ void FileToolsReset() {
 
 void MailMusicReset() {
   MailSocketsClose();
-  ResetAll(Mail, MailSetting);
-  MusicReset();
+  ResetAll(Mail, MailDialog, MailLive, MailSetting, MailTalks);
+  ResetAll(BgmTable, Music);
 }
 
 void ShellReset() {

@@ -3,6 +3,7 @@
 // another.
 #include "resources/character_ids.h"
 #include "resources/filetools_ids.h"
+#include "resources/mail_music_ids.h"
 #include "resources/schedule_applications_ids.h"
 #include "resources/schedule_table_ids.h"
 #include "resources/shell_ids.h"
@@ -23,7 +24,7 @@ constexpr FeatureRow kFeatures[] = {
     {2008, IDD_FileOpnGrpSetDlg}, {2066, IDD_FileDivideSetDlg2}, {2067, IDD_FileDivideSetDlg3},
     {1912, IDD_MyAplicationDlg},  {2020, IDD_SclApliListDialog}, {2367, IDD_SclRegiApliListDialog},
     {2281, IDD_OptionSelDlg1_2},  {2282, IDD_OptionSelDlg2},     {2283, IDD_OptionSelDlg3},
-    {1910, IDD_ScheduleSelDlg2},  {2019, IDD_ScheduleSelDlg},
+    {1910, IDD_ScheduleSelDlg2},  {2019, IDD_ScheduleSelDlg},    {1918, IDD_MailSettingMenuDlg},
 };
 
 using OneFeatureTest = OpenFixture;

@@ -15,6 +15,7 @@
 #include "filetools/open/group_open.h"
 #include "filetools/stepped_work.h"
 #include "mail_music/mail/mail.h"
+#include "mail_music/mail/mail_setting.h"
 #include "mail_music/music/music.h"
 #include "platform/posix/test_clock.h"
 #include "platform/window.h"
@@ -106,8 +107,8 @@ TEST_F(TickTimerTest, TheFileWatchEndsARestInItsOwnTick) {
 }
 
 TEST_F(TickTimerTest, MailCheckingEndsARestWhenItsUnitIsOver) {
-  Mail.MailCheckOn = true;
-  Mail.MailInterval = 2;
+  MailSetting.enabled = 1;
+  MailSetting.intervalIndex = 1;
   Mail.MailMinuteCount = 2;
   Mail.MailTickCount = 5995;
   Fire();
@@ -174,19 +175,19 @@ TEST_F(TickTimerTest, WorkInTheTickKeepsThePace) {
       {"the panel", [] { Panel.MenuPanelState = 1; }, [] { Panel.MenuPanelState = 0; }},
       {"a mail's walk is wanted",
        [] {
-         Mail.MailCheckOn = true;
-         Mail.MailNoticeFlag = 1;
+         MailSetting.enabled = 1;
+         Walk.mailState = 1;
        },
        [] {
-         Mail.MailCheckOn = false;
-         Mail.MailNoticeFlag = 0;
+         MailSetting.enabled = 0;
+         Walk.mailState = 0;
        }},
       {"a mail check is due",
        [] {
-         Mail.MailCheckOn = true;
+         MailSetting.enabled = 1;
          Mail.MailMinuteCount = 0;
        },
-       [] { Mail.MailCheckOn = false; }},
+       [] { MailSetting.enabled = 0; }},
       {"a pending group", [] { GroupRun.OpnPendingGroup = &group; },
        [] { GroupRun.OpnPendingGroup = nullptr; }},
       {"a walk", [] { Walk.WalkActive = true; }, [] { Walk.WalkActive = false; }},
