@@ -67,7 +67,10 @@
 #include "shell/settings.h"
 #include "shell/tick.h"
 #include "shell/tick_timer.h"
+#include "world/sef_file.h"
+#include "world/wef_file.h"
 #include "world/world_list.h"
+#include "world/world_pictures.h"
 
 namespace {
 
@@ -79,11 +82,12 @@ void ResetAll(State&... states) {
 void ServicesReset() {
   ScopeBlockFree();
   CastBlockFree();
+  WorldPicturesFree();
   DrawingObjectsDelete();
   DialogsReset();
   ResetAll(WorkBlocks, Drawing, Children, FileResult, FiveTicks, PathParts, Picker, Program, Screen, Today,
            World);
-  ResetAll(Random, FolderPick);
+  ResetAll(Random, FolderPick, Sef, Wef, WorldPictures);
 }
 
 void CharacterReset() {
