@@ -11,6 +11,7 @@
 #include "mail_music/mail_music_commands.h"
 #include "scenario/scenario_commands.h"
 #include "schedule/execution/execution_commands.h"
+#include "schedule/rates/rates_commands.h"
 #include "schedule/schedule_commands.h"
 #include "schedule/table/row_commands.h"
 #include "schedule/table/schedule_table_commands.h"

@@ -38,6 +38,7 @@
 #include "schedule/execution/scl_alarm.h"
 #include "schedule/execution/scl_notice.h"
 #include "schedule/model/schedule.h"
+#include "schedule/rates/scl_map.h"
 #include "schedule/table/line_chart.h"
 #include "schedule/table/row_selection.h"
 #include "schedule/table/schedule_dialogs.h"
@@ -111,7 +112,9 @@ void ClockCalendarReset() {
 void ScheduleReset() {
   ApliListFree();
   SclMapFree();
-  ResetAll(Applications, Notices, LineChart, RowSelection, Schedule, SclAlarm, SclDay, SclRun, SclTable);
+  SclMapPicturesFree();
+  ResetAll(Applications, Notices, LineChart, RowSelection, Schedule, SclAlarm, SclDay, SclMap, SclRun,
+           SclTable);
 }
 
 void FileToolsReset() {

@@ -51,6 +51,7 @@ void DrawGround(const Map& map) {
   static constexpr std::uint8_t kNoColour[3] = {255, 255, 255};
   BrushHandle ground = BrushCreate(ColourOf(Wef.sceneCount > 0 ? Wef.scenes[0].fallback : kNoColour));
   FillArea(map.canvas, ground, map.area);
+  CanvasBrush(map.canvas, BrushNothing());
   BrushDelete(ground);
   DibDraw(map.canvas, map.area.left, map.area.top, SclMap.picture);
 }

@@ -61,8 +61,7 @@ class RatesTest : public ProgramTest {
   // statuses 5 "読了" and 1 "合格" around one that is not set. Each shows an object.
   static std::string SefBytes(const std::vector<Place>& places) {
     std::string file = "シナリオ シーン 編集ファイル" + BE32(2);
-    file += std::string(12, '\0') + LE32(4) + LE32(3) + "\0\0" + LE16(40) + LE16(30);
-    file.resize(28 + 4 + 12 + 8 + 2 + 4, '\0');
+    file += std::string(12, '\0') + LE32(4) + LE32(3) + std::string(2, '\0') + LE16(40) + LE16(30);
     file +=
         std::string(2, '\0') + "\x10\x20\x30" + std::string(1, '\0') + "\x40\x50\x60" + std::string(5, '\0');
     for (unsigned chara = 1; chara <= 2; ++chara) {

@@ -223,10 +223,12 @@ TEST_F(SclMapTest, AnotherStatusIsMarkedAtOnce) {
 
 class SclMapDialogTest : public SclMapTest {
  protected:
-  static int Count(DrawCall::Kind kind) {
-    int count = 0;
-    for (const DrawCall& call : Drawings(TopDialog())) count += call.kind == kind ? 1 : 0;
-    return count;
+  static std::vector<DrawCall> Rectangles() {
+    std::vector<DrawCall> calls;
+    for (const DrawCall& call : Drawings(TopDialog())) {
+      if (call.kind == DrawCall::Kind::Rectangle) calls.push_back(call);
+    }
+    return calls;
   }
 };
 
@@ -237,8 +239,8 @@ TEST_F(SclMapDialogTest, TheCellsLieOverTheAreaAboveTheBand) {
     DrawingClear();
     SendPaint(TopDialog());
     // The ground, and 4 x 3 cells of 40 x 30.
-    EXPECT_EQ(Count(DrawCall::Kind::Rectangle), 13);
-    const DrawCall last = Drawings(TopDialog()).at(12);
+    ASSERT_EQ(Rectangles().size(), 13u);
+    const DrawCall last = Rectangles().back();
     EXPECT_EQ(last.x, 120);
     EXPECT_EQ(last.y, 60);
     EXPECT_EQ(last.x2, 161);
@@ -260,7 +262,7 @@ TEST_F(SclMapDialogTest, AClickChoosesACellAndIsForgottenAtTheEnd) {
     EXPECT_EQ(SclMap.column, 2);
     DrawingClear();
     SendPaint(TopDialog());
-    const DrawCall chosen = Drawings(TopDialog()).at(13);
+    const DrawCall chosen = Rectangles().at(13);
     EXPECT_EQ(chosen.x, 40);
     EXPECT_EQ(chosen.y, 30);
     Press(TopDialog(), kCancelButton);
@@ -281,7 +283,7 @@ TEST_F(SclMapDialogTest, AGridOfManyCellsIsDrawnAsFarAsTheWindowGoes) {
     SendPaint(TopDialog());
     const int across = (client.right + 39) / 40;
     const int down = (client.bottom - 60 + 29) / 30;
-    EXPECT_EQ(Count(DrawCall::Kind::Rectangle), 1 + across * down);
+    EXPECT_EQ(Rectangles().size(), static_cast<std::size_t>(1 + across * down));
     PressClose(TopDialog());
   });
   DispCelSclMapPosDlgRun(Program.hMainWnd);
