@@ -14,6 +14,7 @@
 #include "schedule/applications/application_commands.h"
 #include "schedule/execution/execution_commands.h"
 #include "schedule/plan/plan_commands.h"
+#include "schedule/rates/rates_commands.h"
 #include "schedule/schedule_commands.h"
 #include "schedule/table/row_commands.h"
 #include "schedule/table/schedule_table_commands.h"

@@ -40,6 +40,7 @@
 #include "schedule/execution/scl_notice.h"
 #include "schedule/model/schedule.h"
 #include "schedule/plan/plan.h"
+#include "schedule/rates/scl_map.h"
 #include "schedule/table/line_chart.h"
 #include "schedule/table/row_selection.h"
 #include "schedule/table/schedule_dialogs.h"
@@ -69,7 +70,10 @@
 #include "shell/settings.h"
 #include "shell/tick.h"
 #include "shell/tick_timer.h"
+#include "world/sef_file.h"
+#include "world/wef_file.h"
 #include "world/world_list.h"
+#include "world/world_pictures.h"
 
 namespace {
 
@@ -81,11 +85,12 @@ void ResetAll(State&... states) {
 void ServicesReset() {
   ScopeBlockFree();
   CastBlockFree();
+  WorldPicturesFree();
   DrawingObjectsDelete();
   DialogsReset();
   ResetAll(WorkBlocks, Drawing, Children, FileResult, FiveTicks, PathParts, Picker, Program, Screen, Today,
            World);
-  ResetAll(Random, FolderPick);
+  ResetAll(Random, FolderPick, Sef, Wef, WorldPictures);
 }
 
 void CharacterReset() {
@@ -109,7 +114,8 @@ void ClockCalendarReset() {
 void ScheduleReset() {
   ApliListFree();
   SclMapFree();
-  ResetAll(Applications, LineChart, Notices, Plan, RowSelection, Schedule, SclAlarm, SclDay, SclRun,
+  SclMapPicturesFree();
+  ResetAll(Applications, LineChart, Notices, Plan, RowSelection, Schedule, SclAlarm, SclDay, SclMap, SclRun,
            SclTable);
 }
 
