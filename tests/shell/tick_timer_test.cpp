@@ -245,7 +245,7 @@ TEST_F(TickTimerTest, AnOpenClockIsDueAtItsNextMinute) {
   TestClockSet({2026, 11, 21, 6, 10, 30, 0, 0});
   EXPECT_EQ(ClockDue(), 1) << "another hour";
   TestClockSet({2026, 11, 21, 6, 9, 30, 0, 0});
-  Clock.ClockStrikeOn = true;
+  Clock.strike.on = true;
   EXPECT_EQ(ClockDue(), 1) << "a performance";
   WindowDestroy(Clock.hClockWnd);
 }
