@@ -13,7 +13,7 @@ void CalendarTick() {
   if (Calendar.hCalenWnd) CalenTickerTick();
 }
 
-int CalendarStepDue() {
+int CalendarDue() {
   if (!CalendarStepIsActive()) return kTickNever;
   return std::min(TickDueIf(CalendarIsLookedAt()), ClockAlarmDue());
 }

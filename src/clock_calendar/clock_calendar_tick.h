@@ -15,5 +15,5 @@ inline bool CalendarStepIsActive() {
   return CalendarIsLookedAt() || Clock.hClockWnd;
 }
 void CalendarTick();
-int CalendarStepDue();
-inline constexpr TimedStep kCalendarStep{CalendarStepIsActive, {CalendarTick, CalendarStepDue}};
+int CalendarDue();
+inline constexpr TimedStep kCalendarStep{CalendarStepIsActive, {CalendarTick, CalendarDue}};

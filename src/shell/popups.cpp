@@ -36,8 +36,8 @@ bool PopupMayOpen() {
          !Stepped.hSearchDlg && !Picker.hFilePickDlg;
 }
 
-void PopupPointSet(const Point& point) {
-  Popups.PopupPoint = point;
+void PopupPointSet(Point at) {
+  Popups.PopupPoint = at;
 }
 
 void CommandSchedulePopup(Command) {

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "platform/types.h"
-#include "services/popup_entry.h"
+#include "services/popup_place.h"
 
 struct PopupsState {
   // The clicked place, in the client area of the window that was clicked.

@@ -166,6 +166,7 @@ TEST_F(TickOrderTest, TheStepsOfATickRunInTheirOrder) {
                        "table paint",  // 17
                        "main 2293",    // 18
                        "main 2254",
+                       "clock close",
                    }));
 }
 

@@ -231,6 +231,7 @@ TEST_F(TickTimerTest, AnOpenClockIsDueAtItsNextMinute) {
   EXPECT_EQ(ClockDue(), kTickNever);
   Clock.hClockWnd = OpenListener();
   ClockTimeTake(9, 30);
+  ClockAlarmCheck(9, 30);
   TestClockSet({2026, 11, 21, 6, 9, 30, 15, 0});
   EXPECT_EQ(ClockDue(), 45000 / 30);
   EXPECT_EQ(TicksUntilDue(), kStep);

@@ -11,7 +11,7 @@
 #include "resources/clock_calendar_ids.h"
 #include "services/commands.h"
 #include "services/painting.h"
-#include "services/popup_entry.h"
+#include "services/popup_place.h"
 #include "services/program.h"
 
 namespace {
