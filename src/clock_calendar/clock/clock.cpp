@@ -2,7 +2,6 @@
 
 #include <algorithm>
 
-#include "clock_calendar/clock/performance.h"
 #include "services/text.h"
 
 ClockState Clock;
@@ -50,9 +49,4 @@ void ClockStrikeSettingsSet(const ClockStrikeSettings& settings) {
 void ClockAlarmsSet(const AlarmSlot (&slots)[kAlarmSlotCount]) {
   std::copy_n(slots, kAlarmSlotCount, Clock.ClockEvents);
   Clock.firedLast = -1;
-}
-
-void ClockEventChoose(int number) {
-  Clock.ClockAlarmSlot = -1;
-  Performance.PerformanceActive = number;
 }

@@ -42,3 +42,8 @@ int ClockAlarmDue() {
 void ClockAlarmCheckReset() {
   Clock.comparedHour = Clock.comparedMinute = kNone;
 }
+
+void ClockEventChoose(int number) {
+  Clock.ClockAlarmSlot = -1;
+  Performance.PerformanceActive = number;
+}
