@@ -7,17 +7,13 @@
 
 namespace {
 
-// The windows of the clock and the calendar are not there yet: all that is left
-// of a panel entry is that the panel closes.
+// The window of the calendar is not there yet: all that is left of a panel entry is
+// that the panel closes.
 bool IsPanelEntry(Command command) {
-  return command == Command::ClockSelect || command == Command::CalendarSelect;
+  return command == Command::CalendarSelect;
 }
 
 }  // namespace
-
-void ClockCommand(Command command) {
-  if (IsPanelEntry(command)) PanelLeave();
-}
 
 void CalendarCommand(Command command) {
   if (IsPanelEntry(command)) PanelLeave();

@@ -15,8 +15,11 @@
 #include "clock_calendar/calendar/calendar_window.h"
 #include "clock_calendar/clock/clock.h"
 #include "clock_calendar/clock/clock_notice.h"
-#include "clock_calendar/clock/clock_window.h"
+#include "clock_calendar/clock/clock_pictures.h"
+#include "clock_calendar/clock/clock_preview.h"
 #include "clock_calendar/clock/performance.h"
+#include "clock_calendar/clock/watch_adust.h"
+#include "clock_calendar/clock/watch_list.h"
 #include "filetools/back_up/back_up.h"
 #include "filetools/divide/file_divide.h"
 #include "filetools/open/group_open.h"
@@ -108,7 +111,10 @@ void ClockCalendarReset() {
   ClockPreviewFree();
   CalenFontDelete();
   CalenStickersFree();
-  ResetAll(Clock, ClockNotice, Timed, Performance, Calendar, CalendarPictures);
+  ClockPicturesFree();
+  ResetAll(Clock, ClockHands, ClockNotice, ClockPictures, ClockPreview, PerformanceTable, Timed, WatchAdust,
+           WatchList);
+  ResetAll(Performance, Calendar, CalendarPictures);
 }
 
 void ScheduleReset() {

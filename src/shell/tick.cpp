@@ -7,6 +7,7 @@
 #include "character/motion.h"
 #include "character/options.h"
 #include "character/walk.h"
+#include "clock_calendar/clock/clock_preview.h"
 #include "clock_calendar/clock/clock_window.h"
 #include "clock_calendar/clock_calendar_tick.h"
 #include "filetools/back_up/back_up.h"

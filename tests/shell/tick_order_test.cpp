@@ -166,6 +166,7 @@ TEST_F(TickOrderTest, TheStepsOfATickRunInTheirOrder) {
                        "table paint",  // 17
                        "main 2293",    // 18
                        "main 2254",
+                       "clock close",
                    }));
 }
 
@@ -179,14 +180,26 @@ TEST_F(TickOrderTest, AMatchingAlarmIsSent2336OnceInItsMinute) {
   EXPECT_NE(ClockNotice.hClockNoticeWnd, nullptr);
 }
 
-TEST_F(TickOrderTest, WithNeitherCalendarNorClockNoticeNoAlarmIsLookedFor) {
+TEST_F(TickOrderTest, WithNeitherClockNorCalendarNorClockNoticeNoAlarmIsLookedFor) {
   Ticks(1);
-  Clock.hClockWnd = OpenListener();
   AlarmNow();
   ListenToEverything();
   Ticks(1);
   const Words heard = TakeHeard();
   EXPECT_EQ(std::count(heard.begin(), heard.end(), "main 2336"), 0);
+}
+
+TEST_F(TickOrderTest, WithOnlyTheClockOpenTheAlarmsAreLookedAtAndNotTheDay) {
+  Ticks(1);
+  Clock.hClockWnd = OpenListener();
+  Today.TodayDay = 0;
+  AlarmNow();
+  ListenToEverything();
+  Ticks(3);
+  const Words heard = TakeHeard();
+  EXPECT_EQ(std::count(heard.begin(), heard.end(), "main 2336"), 1);
+  EXPECT_NE(ClockNotice.hClockNoticeWnd, nullptr);
+  Clock.hClockWnd = nullptr;
 }
 
 TEST_F(TickOrderTest, WithOnlyTheClockNoticeOpenDayAndAlarmsAreLookedAt) {

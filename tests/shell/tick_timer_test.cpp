@@ -237,6 +237,7 @@ TEST_F(TickTimerTest, AnOpenClockIsDueAtItsNextMinute) {
   EXPECT_EQ(ClockDue(), kTickNever);
   Clock.hClockWnd = OpenListener();
   ClockTimeTake(9, 30);
+  ClockAlarmCheck(9, 30);
   TestClockSet({2026, 11, 21, 6, 9, 30, 15, 0});
   EXPECT_EQ(ClockDue(), 45000 / 30);
   EXPECT_EQ(TicksUntilDue(), kStep);
@@ -251,7 +252,7 @@ TEST_F(TickTimerTest, AnOpenClockIsDueAtItsNextMinute) {
   TestClockSet({2026, 11, 21, 6, 10, 30, 0, 0});
   EXPECT_EQ(ClockDue(), 1) << "another hour";
   TestClockSet({2026, 11, 21, 6, 9, 30, 0, 0});
-  Clock.ClockStrikeOn = true;
+  Clock.strike.on = true;
   EXPECT_EQ(ClockDue(), 1) << "a performance";
   WindowDestroy(Clock.hClockWnd);
 }

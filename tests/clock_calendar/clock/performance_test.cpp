@@ -84,14 +84,14 @@ TEST_F(PerformanceTest, OnlyTheSoundOfTheThird) {
 }
 
 TEST_F(PerformanceTest, APerformanceWithNoSoundAndFigureNumber0HasNothing) {
-  Clock.ClockPerformances[2].sound[0] = '\0';
+  PerformanceTable.ClockPerformances[2].sound[0] = '\0';
   Begin(3, true);
   EXPECT_FALSE(PerformanceShowsFigures());
   EXPECT_TRUE(SoundsPlayed().empty());
 }
 
 TEST_F(PerformanceTest, WithoutTheFlagThereAreNoFigures) {
-  Clock.ClockPerformances[0].flags = 2;
+  PerformanceTable.ClockPerformances[0].flags = 2;
   Begin(1, true);
   EXPECT_FALSE(PerformanceShowsFigures());
 }

@@ -53,7 +53,7 @@ std::string DefaultFile() {
 class ClockAlarmFileTest : public RecordsTest {
  protected:
   static std::string Table(int count = 3) {
-    return RecordBytes(Clock.ClockPerformances).substr(0, static_cast<std::size_t>(2008 * count));
+    return RecordBytes(PerformanceTable.ClockPerformances).substr(0, static_cast<std::size_t>(2008 * count));
   }
 };
 
@@ -68,19 +68,19 @@ TEST_F(ClockAlarmFileTest, TheFileContentNeverReachesTheProgram) {
   std::string other = Record(9, 3, 5, "other.wav", "other") + Record(8, 1, 1, "b.wav", "b");
   PutFile(kName, kMagic + BE32(2) + other);
   EXPECT_EQ(ClockAlarmFileRead(), 0);
-  EXPECT_EQ(Clock.ClockPerformanceCount, 3);
+  EXPECT_EQ(PerformanceTable.ClockPerformanceCount, 3);
   EXPECT_TRUE(Table() == DefaultRecords());
   // Nor does a changed table reach the file.
-  RecordFill(Clock.ClockPerformances, 'x');
-  Clock.ClockPerformanceCount = 7;
+  RecordFill(PerformanceTable.ClockPerformances, 'x');
+  PerformanceTable.ClockPerformanceCount = 7;
   EXPECT_EQ(ClockAlarmFileWrite(), 0);
   EXPECT_TRUE(FileBytes(kName) == DefaultFile());
-  EXPECT_EQ(Clock.ClockPerformanceCount, 3);
+  EXPECT_EQ(PerformanceTable.ClockPerformanceCount, 3);
 }
 
 TEST_F(ClockAlarmFileTest, ARecordGivesItsFields) {
   ClockAlarmFileWrite();
-  const ClockPerformance(&records)[kPerformanceMax] = Clock.ClockPerformances;
+  const ClockPerformance(&records)[kPerformanceMax] = PerformanceTable.ClockPerformances;
   EXPECT_EQ(records[0].flags, 1);
   EXPECT_EQ(records[0].figureMode, 5);
   EXPECT_EQ(records[0].durations[19], 90);
@@ -90,7 +90,7 @@ TEST_F(ClockAlarmFileTest, ARecordGivesItsFields) {
   EXPECT_STREQ(records[0].sound, "kan.wav");
   EXPECT_STREQ(records[1].sound, "");
   EXPECT_STREQ(records[2].title, "音のみ");
-  RecordFill(Clock.ClockPerformances[2], 'x');
+  RecordFill(PerformanceTable.ClockPerformances[2], 'x');
   EXPECT_EQ(std::strlen(records[2].sound), 1500U);
   EXPECT_EQ(std::strlen(records[2].title), 80U);
 }
@@ -101,7 +101,7 @@ TEST_F(ClockAlarmFileTest, AMissingFileGivesMinus1AndIsSilentlyMadeNewByTheLoad)
   EXPECT_FALSE(FileThere(kName));
   EXPECT_EQ(ClockAlarmFileLoad(), 0);
   EXPECT_TRUE(FileBytes(kName) == DefaultFile());
-  EXPECT_EQ(Clock.ClockPerformanceCount, 3);
+  EXPECT_EQ(PerformanceTable.ClockPerformanceCount, 3);
   EXPECT_TRUE(Table() == DefaultRecords());
 }
 
@@ -130,14 +130,14 @@ TEST_F(ClockAlarmFileTest, EveryTruncationGivesMinus2AndLeavesTheTable) {
   const std::string file = DefaultFile();
   PutFile(kName, file);
   const std::string native = PosixPath(kName.c_str());
-  RecordFill(Clock.ClockPerformances, 'k');
-  Clock.ClockPerformanceCount = 2;
+  RecordFill(PerformanceTable.ClockPerformances, 'k');
+  PerformanceTable.ClockPerformanceCount = 2;
   const std::string before = Table(kPerformanceMax);
   for (std::size_t size = file.size(); size-- > 0;) {
     ASSERT_EQ(truncate(native.c_str(), static_cast<off_t>(size)), 0);
     ASSERT_EQ(ClockAlarmFileRead(), -2) << size;
   }
-  EXPECT_EQ(Clock.ClockPerformanceCount, 2);
+  EXPECT_EQ(PerformanceTable.ClockPerformanceCount, 2);
   EXPECT_TRUE(Table(kPerformanceMax) == before);
 }
 
@@ -158,7 +158,7 @@ TEST_F(ClockAlarmFileTest, RandomMutationsGive0OrMinus2AndTheTableHoldsTheDefaul
     }
     const int result = ClockAlarmFileRead();
     ASSERT_TRUE(result == 0 || result == -2);
-    ASSERT_EQ(Clock.ClockPerformanceCount, 3);
+    ASSERT_EQ(PerformanceTable.ClockPerformanceCount, 3);
     for (const off_t place : places) {
       ASSERT_EQ(pwrite(fileno(file), &image[static_cast<std::size_t>(place)], 1, place), 1);
     }

@@ -183,14 +183,14 @@ TEST_F(ClockTest, TheCurrentDesignIsNotActivatedAgainButAReactivationTakesIt) {
 
 TEST_F(ClockTest, AReactivationOfNoDesignLeavesNothingOfTheOneBefore) {
   Design(kHandBar);
-  ASSERT_EQ(Clock.ClockHourHand.form, HandForm::Filled);
+  ASSERT_EQ(ClockHands.ClockHourHand.form, HandForm::Filled);
   Clock.ClockDesign = kClockNone;  // as the settings file may hold it
   ClockReactivate();
   EXPECT_EQ(Clock.ClockDesign, kClockNone);
   EXPECT_EQ(Clock.ClockWanted, kClockNone);
   EXPECT_EQ(Clock.ClockHandKind, -1);
-  EXPECT_EQ(Clock.ClockHourHand.form, HandForm::None);
-  EXPECT_EQ(Clock.ClockMinuteHand.form, HandForm::None);
+  EXPECT_EQ(ClockHands.ClockHourHand.form, HandForm::None);
+  EXPECT_EQ(ClockHands.ClockMinuteHand.form, HandForm::None);
 }
 
 TEST_F(ClockTest, ANumberWithoutADesignBecomesTheCurrentOneWithNothingToDraw) {
@@ -203,8 +203,8 @@ TEST_F(ClockTest, ANumberWithoutADesignBecomesTheCurrentOneWithNothingToDraw) {
     ClockActivate();
     EXPECT_EQ(Clock.ClockDesign, number);
     EXPECT_EQ(Clock.ClockHandKind, -1);
-    EXPECT_EQ(Clock.ClockHourHand.form, HandForm::None);
-    EXPECT_EQ(Clock.ClockMinuteHand.form, HandForm::None);
+    EXPECT_EQ(ClockHands.ClockHourHand.form, HandForm::None);
+    EXPECT_EQ(ClockHands.ClockMinuteHand.form, HandForm::None);
     EXPECT_EQ(Clock.ClockHourFigures[0][0], 0);
   }
   // A count beyond the table does not lead out of it.
@@ -235,27 +235,27 @@ TEST_F(ClockTest, EachKindHasItsOutlinesAtTwelve) {
   };
   for (const auto& kind : kKinds) {
     Design(kind.hand);
-    EXPECT_EQ(Clock.ClockHourHand.form, kind.hourForm) << kind.hand;
-    EXPECT_EQ(Points(Clock.ClockHourHand, 0), kind.hour) << kind.hand;
-    EXPECT_EQ(Clock.ClockMinuteHand.form, kind.minuteForm) << kind.hand;
-    EXPECT_EQ(Points(Clock.ClockMinuteHand, 0), kind.minute) << kind.hand;
+    EXPECT_EQ(ClockHands.ClockHourHand.form, kind.hourForm) << kind.hand;
+    EXPECT_EQ(Points(ClockHands.ClockHourHand, 0), kind.hour) << kind.hand;
+    EXPECT_EQ(ClockHands.ClockMinuteHand.form, kind.minuteForm) << kind.hand;
+    EXPECT_EQ(Points(ClockHands.ClockMinuteHand, 0), kind.minute) << kind.hand;
   }
 }
 
 TEST_F(ClockTest, HandsTurnClockwiseThrough120And60Positions) {
   Design(kHandDiamond);
   // A quarter: x goes where minus y was, y where x was.
-  EXPECT_EQ(Points(Clock.ClockHourHand, 30), "(3,3)(40,0)(3,-3)(0,0)");
-  EXPECT_EQ(Points(Clock.ClockHourHand, 60), "(-3,3)(0,40)(3,3)(0,0)");
-  EXPECT_EQ(Points(Clock.ClockHourHand, 90), "(-3,-3)(-40,0)(-3,3)(0,0)");
-  EXPECT_EQ(Points(Clock.ClockMinuteHand, 15), "(3,3)(60,0)(3,-3)(0,0)");
-  EXPECT_EQ(Points(Clock.ClockMinuteHand, 45), "(-3,-3)(-60,0)(-3,3)(0,0)");
+  EXPECT_EQ(Points(ClockHands.ClockHourHand, 30), "(3,3)(40,0)(3,-3)(0,0)");
+  EXPECT_EQ(Points(ClockHands.ClockHourHand, 60), "(-3,3)(0,40)(3,3)(0,0)");
+  EXPECT_EQ(Points(ClockHands.ClockHourHand, 90), "(-3,-3)(-40,0)(-3,3)(0,0)");
+  EXPECT_EQ(Points(ClockHands.ClockMinuteHand, 15), "(3,3)(60,0)(3,-3)(0,0)");
+  EXPECT_EQ(Points(ClockHands.ClockMinuteHand, 45), "(-3,-3)(-60,0)(-3,3)(0,0)");
   Design(kHandLine);
   // 60 degrees: 40 sin 60 = 34.64, 40 cos 60 = 20; 30 degrees of 60: 30, 51.96.
-  EXPECT_EQ(Points(Clock.ClockHourHand, 20), "(0,0)(35,-20)");
-  EXPECT_EQ(Points(Clock.ClockMinuteHand, 5), "(0,0)(30,-52)");
+  EXPECT_EQ(Points(ClockHands.ClockHourHand, 20), "(0,0)(35,-20)");
+  EXPECT_EQ(Points(ClockHands.ClockMinuteHand, 5), "(0,0)(30,-52)");
   for (int i = 0; i < 120; ++i) {
-    const Point& tip = Clock.ClockHourHand.points[i][1];
+    const Point& tip = ClockHands.ClockHourHand.points[i][1];
     EXPECT_NEAR(std::hypot(tip.x, tip.y), 40, 0.8) << i;
   }
 }
@@ -280,15 +280,17 @@ TEST_F(ClockTest, TheDesignDefaultsGoIntoTheSettings) {
   TextCopy(fields.sound, sizeof fields.sound, "po2.wav");
   CharaTables.ClockDesignCount = 1;
   CharaTables.ClockDesigns[0].record = fields;
-  EXPECT_TRUE(ClockDesignDefaults(0));
+  ClockStrikeSettings settings{};
+  EXPECT_TRUE(ClockDesignDefaults(0, settings));
+  ClockStrikeSettingsSet(settings);
   EXPECT_EQ(Clock.ClockStrikeMode, 2);
   EXPECT_EQ(Clock.ClockStrikeSel, 1);
   EXPECT_EQ(Clock.ClockSoundOn, 1);
   EXPECT_STREQ(Clock.ClockSoundName, "po2.wav");
-  Clock.ClockStrikeMode = 1;
-  EXPECT_FALSE(ClockDesignDefaults(1));
-  EXPECT_FALSE(ClockDesignDefaults(255));
-  EXPECT_EQ(Clock.ClockStrikeMode, 1);
+  settings.mode = 1;
+  EXPECT_FALSE(ClockDesignDefaults(1, settings));
+  EXPECT_FALSE(ClockDesignDefaults(255, settings));
+  EXPECT_EQ(settings.mode, 1);
 }
 
 TEST_F(ClockTest, ADesignIsCalledByItsNameOrElseByItsCharacters) {
@@ -377,7 +379,7 @@ class ClockStrikeTest : public ClockTest {
     std::string figures;
     for (int i = 0; i < 2000; ++i) {
       ClockTickCheck(hour, 0);
-      if (!Clock.ClockStrikeOn) return figures;
+      if (!Clock.strike.on) return figures;
       figures += static_cast<char>('0' + ClockStrikeFigure());
     }
     return "endless";
@@ -448,12 +450,12 @@ TEST_F(ClockStrikeTest, AnyOtherModeStrikesAtTwelveWithoutRepeatsAndEndsAtTheFir
 TEST_F(ClockStrikeTest, AStrikeBeginsOnlyInMinute0AndOnlyOnce) {
   ClockTimeTake(2, 58);
   ClockTickCheck(2, 59);
-  EXPECT_FALSE(Clock.ClockStrikeOn);
+  EXPECT_FALSE(Clock.strike.on);
   EXPECT_EQ(ClockTickCheck(3, 0), 1);
-  EXPECT_TRUE(Clock.ClockStrikeOn);
+  EXPECT_TRUE(Clock.strike.on);
   EXPECT_EQ(ClockStrikeFigure(), 1);
   for (int i = 0; i < 100; ++i) ClockTickCheck(3, 0);
-  EXPECT_FALSE(Clock.ClockStrikeOn);
+  EXPECT_FALSE(Clock.strike.on);
   EXPECT_EQ(Sounds(), 1U);
   EXPECT_EQ(ClockTickCheck(3, 0), 0);
 }
