@@ -1,29 +1,13 @@
 #include "clock_calendar/clock_calendar_commands.h"
 
-#include "clock_calendar/calendar/calendar.h"
 #include "services/commands.h"
 #include "services/panel_entry.h"
-#include "services/settings_save.h"
-
-namespace {
-
-// The windows of the clock and the calendar are not there yet: all that is left
-// of a panel entry is that the panel closes.
-bool IsPanelEntry(Command command) {
-  return command == Command::ClockSelect || command == Command::CalendarSelect;
-}
-
-}  // namespace
 
 void ClockCommand(Command command) {
-  if (IsPanelEntry(command)) PanelLeave();
+  // The clock's windows are not there yet: all that is left of its panel entry is that
+  // the panel closes.
+  if (command == Command::ClockSelect) PanelLeave();
 }
 
-void CalendarCommand(Command command) {
-  if (IsPanelEntry(command)) PanelLeave();
-  // The years are rebuilt when a sibling has written the calendar file.
-  if (command == Command::CalendarYears) {
-    CalenYearsRebuild();
-    SysFileWrite();
-  }
-}
+// The day's schedule is the schedule's to show.
+void CalendarCommand(Command) {}

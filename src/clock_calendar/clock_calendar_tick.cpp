@@ -16,3 +16,8 @@ void CalendarTick() {
     CommandSendTo(ClockNotice.hClockNoticeWnd, Command::NextStep);
   if (Calendar.hCalenWnd) CalenTickerTick();
 }
+
+int CalendarDue() {
+  if (ClockNotice.hClockNoticeWnd) return 1;
+  return Calendar.hCalenWnd ? CalenWindowDue() : kTickNever;
+}

@@ -11,5 +11,5 @@ inline bool CalendarStepIsActive() {
   return Calendar.hCalenWnd || ClockNotice.hClockNoticeWnd;
 }
 void CalendarTick();
-inline constexpr TimedStep kCalendarStep{CalendarStepIsActive,
-                                         {CalendarTick, [] { return TickDueIf(CalendarStepIsActive()); }}};
+int CalendarDue();
+inline constexpr TimedStep kCalendarStep{CalendarStepIsActive, {CalendarTick, CalendarDue}};

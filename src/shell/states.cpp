@@ -11,6 +11,8 @@
 #include "character/stage.h"
 #include "character/walk.h"
 #include "clock_calendar/calendar/calendar.h"
+#include "clock_calendar/calendar/calendar_edit.h"
+#include "clock_calendar/calendar/calendar_fonts.h"
 #include "clock_calendar/calendar/calendar_picture.h"
 #include "clock_calendar/calendar/calendar_window.h"
 #include "clock_calendar/clock/clock.h"
@@ -97,7 +99,7 @@ void ClockCalendarReset() {
   ClockPreviewFree();
   CalenFontDelete();
   CalenStickersFree();
-  ResetAll(Clock, ClockNotice, Timed, Performance, Calendar, CalendarPictures);
+  ResetAll(Clock, ClockNotice, Timed, Performance, Calendar, CalendarEdit, CalendarFonts, CalendarPictures);
 }
 
 void ScheduleReset() {
