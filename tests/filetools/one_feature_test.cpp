@@ -1,6 +1,7 @@
 #include <tuple>
 // Commands from outside that would open the dialog of a feature over the one of
 // another.
+#include "resources/calendar_ids.h"
 #include "resources/character_ids.h"
 #include "resources/filetools_ids.h"
 #include "resources/shell_ids.h"
@@ -20,6 +21,7 @@ constexpr FeatureRow kFeatures[] = {
     {1915, IDD_FileDivideSetDlg}, {1920, IDD_FileDesktopClrDlg}, {1922, IDD_DesktopIconSetDlg},
     {2008, IDD_FileOpnGrpSetDlg}, {2066, IDD_FileDivideSetDlg2}, {2067, IDD_FileDivideSetDlg3},
     {2281, IDD_OptionSelDlg1_2},  {2282, IDD_OptionSelDlg2},     {2283, IDD_OptionSelDlg3},
+    {1913, IDD_SelCalenderDlg},   {2276, IDD_SelCalenderDlg},
 };
 
 using OneFeatureTest = OpenFixture;

@@ -187,7 +187,7 @@ TEST_F(PanelProgramTest, WhatTheTickSendsLeavesThePanelOpen) {
 }
 
 TEST_F(PanelProgramTest, TheEntriesOfFeaturesStillToComeCloseThePanel) {
-  for (const std::uint32_t command : {1910U, 1911U, 1912U, 1913U, 1918U, 1921U, 1923U, 1924U, 1926U}) {
+  for (const std::uint32_t command : {1910U, 1911U, 1912U, 1918U, 1921U, 1923U, 1924U, 1926U}) {
     Then([command] {
       SendCommand(Program.hMainWnd, command);
       EXPECT_EQ(Panel.hDiskMenu, nullptr) << command;

@@ -48,9 +48,7 @@ const CalenMonthPicture& PictureOf(int place) {
 
 void PictureDraw(Canvas* canvas, const Rect& area) {
   const unsigned char(&colour)[3] = CalendarEdit.bmp.picture.backColour;
-  const BrushHandle brush = BrushCreate(MakeColour(colour[0], colour[1], colour[2]));
-  FillArea(canvas, brush, area);
-  BrushDelete(brush);
+  FillColour(canvas, MakeColour(colour[0], colour[1], colour[2]), area);
   DibDraw(canvas, area.left, area.top, CalendarEdit.pictures.CalenBackground);
 }
 
@@ -108,6 +106,7 @@ void Edit(WindowHandle dialog) {
 
 void Open(WindowHandle dialog) {
   CalendarEdit.live = false;
+  CalenTodayTake();
   ControlSetChecked(dialog, IDC_SEL_SHOW, Calendar.CalenShow != 0);
   Fill(dialog);
 }

@@ -120,6 +120,9 @@ void CalenTickerSetup();
 
 // --- The month on show.
 
+// Asks for today's date and puts its month on display, and its year if the span has it: for
+// a dialog that opens without the window.
+void CalenTodayTake();
 // Puts the year and month of today on display, moving the span there if it lies
 // outside, and loads the pictures. The calendar window calls it when it opens.
 void CalenShowToday();

@@ -96,14 +96,12 @@ bool CalenTickerDraw(Canvas* screen) {
   const int x = width - Calendar.tickerPosition * Calendar.CalenTickerStep;
   const Colour colour = ColourOf(Calendar.CalenTickerColour);
   bool shows = false;
-  const BrushHandle brush = BrushCreate(colour ^ kComplement);
   DrawSteady(screen, {0, top, width, top + kStripHeight}, [&](Canvas* canvas, const Rect& area) {
     shows = length > 0 && x + CanvasTextWidth(canvas, text, length) > 0;
-    FillArea(canvas, brush, area);
+    FillColour(canvas, colour ^ kComplement, area);
     CanvasTextColour(canvas, colour);
     CanvasBackTransparent(canvas, true);
     CanvasText(canvas, area.left + x, area.top + kTextInStrip, text, length);
   });
-  BrushDelete(brush);
   return shows;
 }

@@ -8,9 +8,7 @@ namespace {
 
 void GroundDraw(Canvas* canvas, const CalenPage& page, const Rect& area) {
   const unsigned char(&colour)[3] = CalenPageMonth(page).picture.backColour;
-  const BrushHandle brush = BrushCreate(MakeColour(colour[0], colour[1], colour[2]));
-  FillArea(canvas, brush, area);
-  BrushDelete(brush);
+  FillColour(canvas, MakeColour(colour[0], colour[1], colour[2]), area);
   DibDraw(canvas, area.left, area.top, page.pictures->CalenBackground);
 }
 
