@@ -2,8 +2,8 @@
 #include <iterator>
 
 #include "character/character_commands.h"
+#include "clock_calendar/calendar/calendar_commands.h"
 #include "clock_calendar/clock/clock_commands.h"
-#include "clock_calendar/clock_calendar_commands.h"
 #include "filetools/back_up/back_up_commands.h"
 #include "filetools/divide/divide_commands.h"
 #include "filetools/open/open_commands.h"

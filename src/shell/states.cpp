@@ -11,6 +11,8 @@
 #include "character/stage.h"
 #include "character/walk.h"
 #include "clock_calendar/calendar/calendar.h"
+#include "clock_calendar/calendar/calendar_edit.h"
+#include "clock_calendar/calendar/calendar_fonts.h"
 #include "clock_calendar/calendar/calendar_picture.h"
 #include "clock_calendar/calendar/calendar_window.h"
 #include "clock_calendar/clock/clock.h"
@@ -114,7 +116,7 @@ void ClockCalendarReset() {
   ClockPicturesFree();
   ResetAll(Clock, ClockHands, ClockNotice, ClockPictures, ClockPreview, PerformanceTable, Timed, WatchAdust,
            WatchList);
-  ResetAll(Performance, Calendar, CalendarPictures);
+  ResetAll(Performance, Calendar, CalendarEdit, CalendarFonts, CalendarPictures);
 }
 
 void ScheduleReset() {

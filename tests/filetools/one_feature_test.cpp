@@ -1,6 +1,7 @@
 #include <tuple>
 // Commands from outside that would open the dialog of a feature over the one of
 // another.
+#include "resources/calendar_ids.h"
 #include "resources/character_ids.h"
 #include "resources/clock_ids.h"
 #include "resources/filetools_ids.h"
@@ -28,6 +29,7 @@ constexpr FeatureRow kFeatures[] = {
     {2108, IDD_WatchListChgDlg},  {2330, IDD_SetClockAlarmDlg},  {2339, IDD_SetClockEventDlg},
     {2281, IDD_OptionSelDlg1_2},  {2282, IDD_OptionSelDlg2},     {2283, IDD_OptionSelDlg3},
     {1910, IDD_ScheduleSelDlg2},  {2019, IDD_ScheduleSelDlg},    {1918, IDD_MailSettingMenuDlg},
+    {1913, IDD_SelCalenderDlg},   {2276, IDD_SelCalenderDlg},
 };
 
 using OneFeatureTest = OpenFixture;

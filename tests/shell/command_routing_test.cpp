@@ -189,7 +189,7 @@ TEST_F(PanelProgramTest, WhatTheTickSendsLeavesThePanelOpen) {
 }
 
 TEST_F(PanelProgramTest, TheEntriesOfFeaturesStillToComeCloseThePanel) {
-  for (const std::uint32_t command : {1913U, 1923U, 1924U, 1926U}) {
+  for (const std::uint32_t command : {1923U, 1924U, 1926U}) {
     Then([command] {
       SendCommand(Program.hMainWnd, command);
       EXPECT_EQ(Panel.hDiskMenu, nullptr) << command;

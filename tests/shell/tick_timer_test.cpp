@@ -206,8 +206,8 @@ TEST_F(TickTimerTest, WorkInTheTickKeepsThePace) {
 TEST_F(TickTimerTest, AnOpenWindowKeepsThePace) {
   for (WindowHandle* handle :
        {&Panel.hDiskMenu, &Dialogs.hMenuDlg, &Dialogs.hToolDlg, &Dialogs.hSubDlg, &Dialogs.hSnryDlg,
-        &Picker.hFilePickDlg, &BackUpRun.hBackUpDlg, &Stepped.hSearchDlg, &Calendar.hCalenWnd,
-        &ClockNotice.hClockNoticeWnd, &SclTable.hSclTableWnd, &SclTable.hPlanWnd, &Music.hBgmWnd}) {
+        &Picker.hFilePickDlg, &BackUpRun.hBackUpDlg, &Stepped.hSearchDlg, &ClockNotice.hClockNoticeWnd,
+        &SclTable.hSclTableWnd, &SclTable.hPlanWnd, &Music.hBgmWnd}) {
     *handle = OpenListener();
     Fire();
     EXPECT_EQ(Period(), 30);
@@ -231,6 +231,22 @@ TEST_F(TickTimerTest, AnOpenNoticeIsDueAtItsNextPicture) {
     WindowDestroy(*handle);
     *handle = nullptr;
   }
+}
+
+// Its next day begins with a minute.
+TEST_F(TickTimerTest, AStillCalendarIsDueAtTheNextMinute) {
+  Calendar.hCalenWnd = OpenListener();
+  Calendar.CalenTickerOn = false;
+  TestClockSet({2026, 11, 21, 6, 9, 30, 15, 0});
+  EXPECT_EQ(CalendarDue(), 45000 / 30);
+  EXPECT_EQ(TicksUntilDue(), kStep);
+  TestClockSet({2026, 11, 21, 6, 23, 59, 59, 940});
+  EXPECT_EQ(CalendarDue(), 2) << "60 milliseconds";
+  Calendar.CalenTickerOn = true;
+  EXPECT_EQ(CalendarDue(), 1);
+  WindowDestroy(Calendar.hCalenWnd);
+  Calendar.hCalenWnd = nullptr;
+  EXPECT_EQ(CalendarDue(), kTickNever);
 }
 
 TEST_F(TickTimerTest, AnOpenClockIsDueAtItsNextMinute) {
