@@ -39,6 +39,7 @@
 #include "schedule/execution/scl_alarm.h"
 #include "schedule/execution/scl_notice.h"
 #include "schedule/model/schedule.h"
+#include "schedule/plan/plan.h"
 #include "schedule/table/line_chart.h"
 #include "schedule/table/row_selection.h"
 #include "schedule/table/schedule_dialogs.h"
@@ -108,7 +109,8 @@ void ClockCalendarReset() {
 void ScheduleReset() {
   ApliListFree();
   SclMapFree();
-  ResetAll(Applications, Notices, LineChart, RowSelection, Schedule, SclAlarm, SclDay, SclRun, SclTable);
+  ResetAll(Applications, LineChart, Notices, Plan, RowSelection, Schedule, SclAlarm, SclDay, SclRun,
+           SclTable);
 }
 
 void FileToolsReset() {

@@ -4,6 +4,8 @@
 #include "resources/character_ids.h"
 #include "resources/filetools_ids.h"
 #include "resources/mail_music_ids.h"
+#include "resources/schedule_applications_ids.h"
+#include "resources/schedule_table_ids.h"
 #include "resources/shell_ids.h"
 #include "services/dialog_family.h"
 #include "services/program.h"
@@ -17,11 +19,12 @@ struct FeatureRow {
   int templateId;
 };
 constexpr FeatureRow kFeatures[] = {
-    {1900, IDD_FileOpnDialog},     {1901, IDD_FileBackUpSetDlg},   {1914, IDD_FolderScopeSetDlg},
-    {1915, IDD_FileDivideSetDlg},  {1918, IDD_MailSettingMenuDlg}, {1920, IDD_FileDesktopClrDlg},
-    {1922, IDD_DesktopIconSetDlg}, {2008, IDD_FileOpnGrpSetDlg},   {2066, IDD_FileDivideSetDlg2},
-    {2067, IDD_FileDivideSetDlg3}, {2281, IDD_OptionSelDlg1_2},    {2282, IDD_OptionSelDlg2},
-    {2283, IDD_OptionSelDlg3},
+    {1900, IDD_FileOpnDialog},    {1901, IDD_FileBackUpSetDlg},  {1914, IDD_FolderScopeSetDlg},
+    {1915, IDD_FileDivideSetDlg}, {1920, IDD_FileDesktopClrDlg}, {1922, IDD_DesktopIconSetDlg},
+    {2008, IDD_FileOpnGrpSetDlg}, {2066, IDD_FileDivideSetDlg2}, {2067, IDD_FileDivideSetDlg3},
+    {1912, IDD_MyAplicationDlg},  {2020, IDD_SclApliListDialog}, {2367, IDD_SclRegiApliListDialog},
+    {2281, IDD_OptionSelDlg1_2},  {2282, IDD_OptionSelDlg2},     {2283, IDD_OptionSelDlg3},
+    {1910, IDD_ScheduleSelDlg2},  {2019, IDD_ScheduleSelDlg},    {1918, IDD_MailSettingMenuDlg},
 };
 
 using OneFeatureTest = OpenFixture;

@@ -164,7 +164,12 @@ TEST_F(TickTimerTest, WorkInTheTickKeepsThePace) {
   const Busy kinds[] = {
       {"back-up", [] { BackUpRun.BackUpActive = true; }, [] { BackUpRun.BackUpActive = false; }},
       {"stepped work", [] { Stepped.progressMode = 3; }, [] { Stepped.progressMode = 0; }},
-      {"a started schedule program", [] { Applications.ApliStarted = 1; },
+      {"a started schedule program",
+       [] {
+         Applications.ApliStarted = 1;
+         PutFile(InProgram("SclApliStUp.svt"), "x");
+         TextCopy(Applications.ApliHandOffFile, sizeof Applications.ApliHandOffFile, "SclApliStUp.svt");
+       },
        [] { Applications.ApliStarted = 0; }},
       {"reopen guard", [] { Panel.MenuReopenGuard = 5; }, [] { Panel.MenuReopenGuard = 0; }},
       {"the panel", [] { Panel.MenuPanelState = 1; }, [] { Panel.MenuPanelState = 0; }},

@@ -84,11 +84,12 @@ void SclTableWindowSet(WindowHandle window, const RowTable* rows) {
   SclTable.SclTableView = {};
 }
 
-void PlanWindowSet(WindowHandle window, const RowTable* rows) {
+void PlanWindowSet(WindowHandle window, const RowTable* rows, void (*redraw)(WindowHandle)) {
   WindowForget(SclTable.hPlanWnd);
   SclTable.hPlanWnd = window;
   SclTable.planRows = rows;
   SclTable.PlanView = {};
+  SclTable.PlanView.redraw = redraw;
 }
 
 void RowGuestSet(WindowHandle window, const RowTable* rows) {

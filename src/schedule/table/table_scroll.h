@@ -46,10 +46,11 @@ extern SclTableState SclTable;
 inline constexpr int kTableLineHeight = 20;
 inline constexpr int kTableBarWidth = 16;
 
-// --- The windows. Each tells itself at its Init, and null at its end.
+// --- The windows. Each tells itself at its Init, and null at its end; `redraw` is that of
+// its view.
 
 void SclTableWindowSet(WindowHandle window, const RowTable* rows);
-void PlanWindowSet(WindowHandle window, const RowTable* rows);
+void PlanWindowSet(WindowHandle window, const RowTable* rows, void (*redraw)(WindowHandle) = nullptr);
 // Of another window that opens the menu of such rows.
 void RowGuestSet(WindowHandle window, const RowTable* rows);
 
