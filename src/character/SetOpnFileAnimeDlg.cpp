@@ -39,7 +39,7 @@ void Open(WindowHandle dialog) {
 
 // Plays what the dialog shows; the stored settings stay.
 void Check(WindowHandle dialog) {
-  if (Walk.OpeningState != 0 || Walk.MailPhase != 0 || Walk.WalkActive || Walk.WalkEndActive) return;
+  if (Walk.OpeningState != 0 || Walk.mailState != 0 || Walk.WalkActive || Walk.WalkEndActive) return;
   WalkRequest request{};
   Walk.SettingsForm->request(FromControls(dialog), request);
   request.opening = kOpeningCheck;

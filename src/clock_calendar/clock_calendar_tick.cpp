@@ -15,5 +15,5 @@ void CalendarTick() {
 
 int CalendarDue() {
   if (!CalendarStepIsActive()) return kTickNever;
-  return std::min(TickDueIf(CalendarIsLookedAt()), ClockAlarmDue());
+  return std::min(Calendar.hCalenWnd ? CalenWindowDue() : kTickNever, ClockAlarmDue());
 }

@@ -11,6 +11,8 @@
 #include "character/stage.h"
 #include "character/walk.h"
 #include "clock_calendar/calendar/calendar.h"
+#include "clock_calendar/calendar/calendar_edit.h"
+#include "clock_calendar/calendar/calendar_fonts.h"
 #include "clock_calendar/calendar/calendar_picture.h"
 #include "clock_calendar/calendar/calendar_window.h"
 #include "clock_calendar/clock/clock.h"
@@ -35,11 +37,18 @@
 #include "filetools/tidy/desktop_tidy.h"
 #include "mail_music/mail/mail.h"
 #include "mail_music/mail/mail_setting.h"
+#include "mail_music/mail/mail_talk.h"
 #include "mail_music/music/music.h"
 #include "schedule/applications/application_list.h"
 #include "schedule/execution/schedule_run.h"
+#include "schedule/execution/scl_alarm.h"
 #include "schedule/execution/scl_notice.h"
 #include "schedule/model/schedule.h"
+#include "schedule/plan/plan.h"
+#include "schedule/rates/scl_map.h"
+#include "schedule/table/line_chart.h"
+#include "schedule/table/row_selection.h"
+#include "schedule/table/schedule_dialogs.h"
 #include "schedule/table/table_scroll.h"
 #include "services/child_controls.h"
 #include "services/data_file.h"
@@ -66,7 +75,10 @@
 #include "shell/settings.h"
 #include "shell/tick.h"
 #include "shell/tick_timer.h"
+#include "world/sef_file.h"
+#include "world/wef_file.h"
 #include "world/world_list.h"
+#include "world/world_pictures.h"
 
 namespace {
 
@@ -78,11 +90,12 @@ void ResetAll(State&... states) {
 void ServicesReset() {
   ScopeBlockFree();
   CastBlockFree();
+  WorldPicturesFree();
   DrawingObjectsDelete();
   DialogsReset();
   ResetAll(WorkBlocks, Drawing, Children, FileResult, FiveTicks, PathParts, Picker, Program, Screen, Today,
            World);
-  ResetAll(Random, FolderPick);
+  ResetAll(Random, FolderPick, Sef, Wef, WorldPictures);
 }
 
 void CharacterReset() {
@@ -103,13 +116,15 @@ void ClockCalendarReset() {
   ClockPicturesFree();
   ResetAll(Clock, ClockHands, ClockNotice, ClockPictures, ClockPreview, PerformanceTable, Timed, WatchAdust,
            WatchList);
-  ResetAll(Performance, Calendar, CalendarPictures);
+  ResetAll(Performance, Calendar, CalendarEdit, CalendarFonts, CalendarPictures);
 }
 
 void ScheduleReset() {
   ApliListFree();
   SclMapFree();
-  ResetAll(Applications, Notices, Schedule, SclRun, SclTable);
+  SclMapPicturesFree();
+  ResetAll(Applications, LineChart, Notices, Plan, RowSelection, Schedule, SclAlarm, SclDay, SclMap, SclRun,
+           SclTable);
 }
 
 void FileToolsReset() {
@@ -123,8 +138,8 @@ void FileToolsReset() {
 
 void MailMusicReset() {
   MailSocketsClose();
-  ResetAll(Mail, MailSetting);
-  MusicReset();
+  ResetAll(Mail, MailDialog, MailLive, MailSetting, MailTalks);
+  ResetAll(BgmTable, Music);
 }
 
 void ShellReset() {

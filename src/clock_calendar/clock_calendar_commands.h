@@ -1,8 +1,0 @@
-// Commands of the calendar.
-#pragma once
-
-#include <cstdint>
-
-#include "services/commands.h"
-
-void CalendarCommand(Command command);
