@@ -272,7 +272,8 @@ int wmain(int count, wchar_t** arguments) {
   if (deed == L"time") {
     SendMessageW(Stage(), RegisterWindowMessageW(L"MirrellTime"),
                  static_cast<WPARAM>(std::wcstol(arguments[2], nullptr, 10)), 0);
-    return 0;
+    // A timer that rests would see it only when something is due.
+    return PostMessageW(Stage(), WM_TIMER, 1, 0) ? 0 : 1;
   }
   if (deed == L"release") return Hold(false);
   if (deed == L"gone") return AwaitGone(arguments[2], [&] { return Look(arguments[2]).count > 0; });
