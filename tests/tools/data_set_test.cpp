@@ -243,7 +243,7 @@ TEST_F(DataSetTest, CalendarFileHoldsThreeCalendars) {
 
 TEST_F(DataSetTest, ClockAlarmFileHoldsThreePerformances) {
   EXPECT_EQ(ClockAlarmFileRead(), 0);
-  EXPECT_EQ(Clock.ClockPerformanceCount, 3);
+  EXPECT_EQ(PerformanceTable.ClockPerformanceCount, 3);
   EXPECT_EQ(fs::file_size(Made("mirrell_ClcAlmPerFile.clc")), 29U + 3U * 2008U);
 }
 
