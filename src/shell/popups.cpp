@@ -41,6 +41,10 @@ bool PopupMayOpen() {
          !Stepped.hSearchDlg && !Picker.hFilePickDlg;
 }
 
+void PopupPointSet(Point at) {
+  Popups.PopupPoint = at;
+}
+
 void CommandSchedulePopup(Command) {
   // The plan chart has the same menu for its lines.
   const WindowHandle table = RowWindow();

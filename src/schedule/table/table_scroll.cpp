@@ -84,11 +84,18 @@ void SclTableWindowSet(WindowHandle window, const RowTable* rows) {
   SclTable.SclTableView = {};
 }
 
-void PlanWindowSet(WindowHandle window, const RowTable* rows) {
+void PlanWindowSet(WindowHandle window, const RowTable* rows, void (*redraw)(WindowHandle)) {
   WindowForget(SclTable.hPlanWnd);
   SclTable.hPlanWnd = window;
   SclTable.planRows = rows;
   SclTable.PlanView = {};
+  SclTable.PlanView.redraw = redraw;
+}
+
+void RowGuestSet(WindowHandle window, const RowTable* rows) {
+  WindowForget(SclTable.guest);
+  SclTable.guest = window;
+  SclTable.guestRows = rows;
 }
 
 void TableViewFit(TableView& view, int lines, int pageLines) {
