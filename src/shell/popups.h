@@ -1,5 +1,6 @@
 // The popup menus of the schedule table, the calendar and the clock. A window puts
-// the clicked place into PopupPoint and sends the main window the menu's command.
+// the clicked place into PopupPoint (PopupPointSet) and sends the main window the menu's
+// command.
 #pragma once
 
 #include "platform/types.h"

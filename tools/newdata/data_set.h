@@ -30,3 +30,4 @@ void UseProgramFolder(const std::filesystem::path& folder);
 inline constexpr const char8_t* kCharacterFolder = u8"キャラクタ";
 inline constexpr const char8_t* kSoundFolder = u8"サウンド";
 inline constexpr const char8_t* kBackgroundFolder = u8"背景";
+inline constexpr const char8_t* kScheduleFolder = u8"スケジュール表";

@@ -7,6 +7,7 @@
 
 namespace {
 
+constexpr std::uint32_t kVerticalBar = 1;
 constexpr std::uint32_t kStaticNotify = 0x100;
 constexpr std::uint32_t kListNotify = 1;
 constexpr std::uint32_t kEditReadOnly = 0x800;
@@ -241,7 +242,10 @@ void Type(WindowHandle dialog, int id, const char* text) {
   ControlTells(*edit, EventKind::Edited);
 }
 
-void Mouse(WindowHandle window, EventKind kind, int x, int y, unsigned keys) {
+namespace {
+
+// Puts the pointer there and sends what the mouse does; with `notches` it is the wheel.
+void MouseSend(WindowHandle window, EventKind kind, int x, int y, unsigned keys, int notches) {
   const WindowPointer found = WindowUse(window, "Mouse");
   if (!found) {
     if (!window) Failure("Mouse: no window");
@@ -263,7 +267,18 @@ void Mouse(WindowHandle window, EventKind kind, int x, int y, unsigned keys) {
   event.x = x;
   event.y = y;
   event.keys = keys;
+  event.wheel = notches;
   EventSend(event);
+}
+
+}  // namespace
+
+void Mouse(WindowHandle window, EventKind kind, int x, int y, unsigned keys) {
+  MouseSend(window, kind, x, y, keys, 0);
+}
+
+void Wheel(WindowHandle window, int x, int y, int notches) {
+  MouseSend(window, EventKind::Wheel, x, y, 0, notches);
 }
 
 void PressKey(WindowHandle window, int code) {
@@ -321,7 +336,7 @@ void ScrollBy(WindowHandle window, WindowHandle bar, Scroll scroll, int position
     return;
   }
   Event event;
-  event.kind = EventKind::VScroll;
+  event.kind = (found->style & kVerticalBar) != 0 ? EventKind::VScroll : EventKind::HScroll;
   event.window = window;
   event.control = bar;
   event.scroll = scroll;
