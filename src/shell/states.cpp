@@ -33,6 +33,9 @@
 #include "mail_music/mail/mail.h"
 #include "mail_music/mail/mail_setting.h"
 #include "mail_music/music/music.h"
+#include "scenario/logic/snry_sheet.h"
+#include "scenario/storage/scenario.h"
+#include "scenario/storage/scenario_dialogs.h"
 #include "schedule/applications/application_list.h"
 #include "schedule/execution/schedule_run.h"
 #include "schedule/execution/scl_notice.h"
@@ -121,6 +124,10 @@ void MailMusicReset() {
   MusicReset();
 }
 
+void ScenarioReset() {
+  ResetAll(Scenario, SnryList, SnryMain, SnryScene, SnryDialogs, SnrySheet);
+}
+
 void ShellReset() {
   OldDataFree();
   ResetAll(FileDialogDefaults, Factory, Layout, MainClient, OldFormat, Panel, Popups, ProgramLine, TickCounts,
@@ -131,6 +138,7 @@ void ShellReset() {
 
 void StatesReset() {
   ShellReset();
+  ScenarioReset();
   MailMusicReset();
   FileToolsReset();
   ScheduleReset();
