@@ -27,6 +27,8 @@ Rect DialogUnits(WindowHandle dialog, const Rect& units);
 
 WindowHandle Control(WindowHandle dialog, int id);
 
+// Its place in the dialog's client area.
+Rect ControlPlace(WindowHandle dialog, int id);
 void ControlSetText(WindowHandle dialog, int id, const char* text);
 // Copies at most size - 1 bytes and terminates; the cut may fall inside a
 // double-byte pair, as dialogs tell. Returns the length.

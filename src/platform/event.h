@@ -20,10 +20,11 @@ enum class EventKind {
   LeftDouble,  // x, y, keys
   RightDown,   // x, y, keys
   MiddleDown,  // x, y, keys
-  Wheel,       // keys
+  Wheel,       // keys, wheel
   Char,        // key: the character's code, 27 for Escape
   KeyDown,     // key: the key's code
   VScroll,     // scroll, scrollPosition, control
+  HScroll,     // the same, of a bar that lies: Up and Top mean left
   SetCursor,   // the pointer's shape is asked for
   Size,        // x, y: the new client width and height
   Timer,       // the window's timer
@@ -48,9 +49,10 @@ struct Event {
   int y = 0;
   unsigned keys = 0;
   int key = 0;
+  int wheel = 0;  // notches, away from the user counted up
   Scroll scroll = Scroll::End;
   int scrollPosition = 0;
-  // VScroll: the scroll bar control.
+  // VScroll, HScroll: the scroll bar control.
   WindowHandle control = nullptr;
 };
 

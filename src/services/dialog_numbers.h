@@ -6,6 +6,7 @@
 enum class MenuDialog : int {
   None = 0,
   FileOpnDialog = 2000,
+  ScheduleSelDlg = 2001,
   ScheduleSelDlg2 = 2001,
   FileBackUpSetDlg = 2002,
   FolderStaticsDlg = 2003,

@@ -19,10 +19,9 @@ int SclDaysInMonth(int year, int month) {
 
 int SclFirstWeekday(int year, int month) {
   if (year < 0 || year > 99 || month < 0 || month >= kMonthsOfYear) return -1;
-  int weekday = 5;  // 1 January 2000 was a Saturday
-  for (int y = 0; y < year; ++y) {
-    for (int m = 0; m < kMonthsOfYear; ++m) weekday = (weekday + SclDaysInMonth(y, m)) % kDaysOfWeek;
-  }
-  for (int m = 0; m < month; ++m) weekday = (weekday + SclDaysInMonth(year, m)) % kDaysOfWeek;
-  return weekday;
+  constexpr int kDaysOfYear = 365;
+  const int leapYears = (year + 3) / 4;           // before this one
+  int days = 5 + year * kDaysOfYear + leapYears;  // 1 January 2000 was a Saturday
+  for (int m = 0; m < month; ++m) days += SclDaysInMonth(year, m);
+  return days % kDaysOfWeek;
 }

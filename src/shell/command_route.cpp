@@ -2,15 +2,23 @@
 #include <iterator>
 
 #include "character/character_commands.h"
-#include "clock_calendar/clock_calendar_commands.h"
+#include "clock_calendar/calendar/calendar_commands.h"
+#include "clock_calendar/clock/clock_commands.h"
 #include "filetools/back_up/back_up_commands.h"
 #include "filetools/divide/divide_commands.h"
 #include "filetools/open/open_commands.h"
 #include "filetools/scope/scope_commands.h"
 #include "filetools/tidy/tidy_commands.h"
-#include "mail_music/mail_music_commands.h"
+#include "mail_music/mail/mail_commands.h"
+#include "mail_music/music/music_commands.h"
 #include "scenario/scenario_commands.h"
+#include "schedule/applications/application_commands.h"
+#include "schedule/execution/execution_commands.h"
+#include "schedule/plan/plan_commands.h"
+#include "schedule/rates/rates_commands.h"
 #include "schedule/schedule_commands.h"
+#include "schedule/table/row_commands.h"
+#include "schedule/table/schedule_table_commands.h"
 #include "shell/shell_commands.h"
 
 namespace {

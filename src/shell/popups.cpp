@@ -8,15 +8,20 @@
 #include "platform/window.h"
 #include "resources/clock_calendar_ids.h"
 #include "resources/schedule_ids.h"
-#include "schedule/table/table_scroll.h"
+#include "schedule/table/row_commands.h"
 #include "services/commands.h"
 #include "services/dialog_family.h"
 #include "services/file_picker.h"
 #include "services/panel_entry.h"
+#include "services/popup_point.h"
 #include "services/program.h"
 #include "shell/shell_commands.h"
 
 PopupsState Popups;
+
+void PopupPointSet(int x, int y) {
+  Popups.PopupPoint = {x, y};
+}
 
 namespace {
 
@@ -36,9 +41,13 @@ bool PopupMayOpen() {
          !Stepped.hSearchDlg && !Picker.hFilePickDlg;
 }
 
+void PopupPointSet(Point at) {
+  Popups.PopupPoint = at;
+}
+
 void CommandSchedulePopup(Command) {
   // The plan chart has the same menu for its lines.
-  const WindowHandle table = SclTable.hSclTableWnd ? SclTable.hSclTableWnd : SclTable.hPlanWnd;
+  const WindowHandle table = RowWindow();
   if (table) Popup(IDM_SCHEDULE_LINE, table);
 }
 

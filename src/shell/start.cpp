@@ -16,6 +16,7 @@
 #include "platform/window.h"
 #include "schedule/applications/application_list.h"
 #include "schedule/execution/schedule_run.h"
+#include "schedule/model/schedule.h"
 #include "services/boxes.h"
 #include "services/commands.h"
 #include "services/drawing_objects.h"

@@ -13,7 +13,6 @@
 #include "platform/posix/faults.h"
 #include "platform/window.h"
 #include "schedule/applications/application_list.h"
-#include "tests/support/byte_order.h"
 #include "services/commands.h"
 #include "services/dialog_family.h"
 #include "services/dialog_numbers.h"
@@ -21,6 +20,7 @@
 #include "shell/settings.h"
 #include "shell/tick.h"
 #include "tests/character/chara_files.h"
+#include "tests/support/byte_order.h"
 #include "tests/support/program.h"
 
 namespace {
@@ -205,7 +205,8 @@ TEST_F(FileWatchTest, ACalendarChangeIsAnsweredInItsOrder) {
             "カレンダーが変更されました(ミルレール)");
   ListenToEverything();
   FileWatch();
-  EXPECT_EQ(TakeHeard(), (Words{"main 2381", "calendar close", "main 2379", "main 2382", "main 2254"}));
+  EXPECT_EQ(TakeHeard(), (Words{"main 2381", "calendar close", "main 2379", "calendar command 2295",
+                                "main 2382", "main 2254"}));
   Calendar.CalenShow = 0;
   SetFileTime(kCalendarFile, 3000000);
   FileWatch();

@@ -7,7 +7,9 @@
 #include "filetools/back_up/back_up.h"
 #include "filetools/stepped_work.h"
 #include "mail_music/mail/mail.h"
+#include "mail_music/mail/mail_setting.h"
 #include "platform/window.h"
+#include "schedule/table/row_selection.h"
 #include "schedule/table/table_scroll.h"
 #include "services/commands.h"
 #include "services/five_ticks.h"
@@ -93,8 +95,9 @@ TEST_F(TickTest, SubLevelsDoNotCloseByThemselves) {
 }
 
 TEST_F(TickTest, SixThousandTicksMakeOneUnitOfTheMailInterval) {
-  Mail.MailCheckOn = true;
-  Mail.MailInterval = 2;
+  MailSetting.enabled = 1;
+  MailSetting.intervalIndex = 1;  // two units
+  Mail.mailStopped = true;        // no server is asked
   Mail.MailMinuteCount = 2;
   Ticks(5999);
   EXPECT_EQ(Mail.MailMinuteCount, 2);
@@ -109,15 +112,16 @@ TEST_F(TickTest, SixThousandTicksMakeOneUnitOfTheMailInterval) {
   EXPECT_EQ(Mail.MailMinuteCount, 2);
 }
 
-// An interval of 0 asks in every tick: a count of 0 is not counted down.
-TEST_F(TickTest, AMailIntervalOf0StaysAt0WhenItsUnitIsOver) {
-  Mail.MailCheckOn = true;
-  Mail.MailInterval = 0;
+TEST_F(TickTest, AMailCountOf0IsLoadedAgainInTheSameTick) {
+  MailSetting.enabled = 1;
+  Mail.mailStopped = true;
   Mail.MailMinuteCount = 0;
+  Mail.MailTickCount = 3000;
   ListenToEverything();
-  Ticks(6000);
-  EXPECT_EQ(Mail.MailMinuteCount, 0);
-  EXPECT_EQ(TakeHeard(), Words(6000, "main 2079"));
+  Ticks(5999);
+  EXPECT_EQ(Mail.MailMinuteCount, 1);
+  EXPECT_EQ(Mail.MailTickCount, 5998) << "a whole interval begins";
+  EXPECT_EQ(TakeHeard(), Words{"main 2079"});
 }
 
 TEST_F(TickTest, MailCountersStandStillWhileCheckingIsOff) {
@@ -174,10 +178,10 @@ class TableScrollTest : public TickTest {
 
 TEST_F(TableScrollTest, DownMovesALineEverySixTicksUntilTheLastPage) {
   SclTable.TableScrollDirection = ScrollDirection::Down;
-  SclTable.SclTableView.selectionEnd = 10;
+  RowSelection.selectionEnd = 11;
   MainTick();
   EXPECT_EQ(SclTable.SclTableView.firstLine, 1);
-  EXPECT_EQ(SclTable.SclTableView.selectionEnd, 11);
+  EXPECT_EQ(RowSelection.selectionEnd, 12);
   EXPECT_EQ(SclTable.AutoScrollDelay, 5);
   EXPECT_EQ(TakeHeard(), Words{"paint"});
   EXPECT_EQ(ScrollBarState(SclTable.SclTableView.scrollBar).position, 1);
@@ -185,7 +189,7 @@ TEST_F(TableScrollTest, DownMovesALineEverySixTicksUntilTheLastPage) {
   EXPECT_EQ(SclTable.SclTableView.firstLine, 1);
   MainTick();
   EXPECT_EQ(SclTable.SclTableView.firstLine, 2);
-  EXPECT_EQ(SclTable.SclTableView.selectionEnd, 11) << "the last line stays the end of the selection";
+  EXPECT_EQ(RowSelection.selectionEnd, 12) << "the last line stays the end of the selection";
   Ticks(6);
   EXPECT_EQ(SclTable.SclTableView.firstLine, 2);
   EXPECT_EQ(SclTable.TableScrollDirection, ScrollDirection::None);
@@ -209,10 +213,10 @@ TEST_F(TableScrollTest, TheBarHasThePageOfItsHeightAndIsOffWhenAllLinesFit) {
 TEST_F(TableScrollTest, UpMovesALineUntilTheFirst) {
   SclTable.TableScrollDirection = ScrollDirection::Up;
   SclTable.SclTableView.firstLine = 1;
-  SclTable.SclTableView.selectionEnd = 0;
+  RowSelection.selectionEnd = 1;
   MainTick();
   EXPECT_EQ(SclTable.SclTableView.firstLine, 0);
-  EXPECT_EQ(SclTable.SclTableView.selectionEnd, 0);
+  EXPECT_EQ(RowSelection.selectionEnd, 1);
   Ticks(6);
   EXPECT_EQ(SclTable.TableScrollDirection, ScrollDirection::None);
 }
@@ -220,12 +224,12 @@ TEST_F(TableScrollTest, UpMovesALineUntilTheFirst) {
 TEST_F(TableScrollTest, UpTakesTheEndOfTheSelectionALineUpAsFarAsTheFirst) {
   SclTable.TableScrollDirection = ScrollDirection::Up;
   SclTable.SclTableView.firstLine = 2;
-  SclTable.SclTableView.selectionEnd = 1;
+  RowSelection.selectionEnd = 2;
   MainTick();
-  EXPECT_EQ(SclTable.SclTableView.selectionEnd, 0);
+  EXPECT_EQ(RowSelection.selectionEnd, 1);
   Ticks(6);
   EXPECT_EQ(SclTable.SclTableView.firstLine, 0);
-  EXPECT_EQ(SclTable.SclTableView.selectionEnd, 0);
+  EXPECT_EQ(RowSelection.selectionEnd, 1);
 }
 
 TEST_F(TableScrollTest, ButtonUpOnTheStageStopsScrolling) {

@@ -20,6 +20,8 @@
 #include "newdata/sound.h"
 #include "platform/posix/posix_paths.h"
 #include "schedule/model/schedule.h"
+#include "schedule/model/scl_file.h"
+#include "services/program.h"
 #include "tests/support/byte_order.h"
 #include "shell/settings.h"
 #include "world/world_list.h"
@@ -103,6 +105,22 @@ TEST_F(DataSetTest, IsGood) {
   EXPECT_EQ(CheckDataSet(Made("")), std::vector<std::string>{});
 }
 
+// Saturday, 21 November 2026, has three hours of work; Sunday and Monday, a holiday, none.
+TEST_F(DataSetTest, HoldsAScheduleThatBeginsOnItsDate) {
+  char path[kRootPathSize];
+  RootPath(path, sizeof path, "\\スケジュール表\\見本の予定.GPI");
+  ASSERT_EQ(SclLoadFile(path), 0);
+  EXPECT_STREQ(Schedule.SclHeader.title, "見本の予定");
+  EXPECT_EQ(Schedule.SclHeader.count, 31);
+  const SclItemRec* items = Schedule.SclItemTable;
+  EXPECT_EQ(items[0].start, (SclItemDate{26, 10, 20, 9}));
+  EXPECT_EQ(items[0].alarmOn, 1);
+  EXPECT_EQ(items[0].doneState, 1);
+  EXPECT_EQ(items[1].end, (SclItemDate{26, 10, 20, 12}));
+  EXPECT_STREQ(items[11].text, "来月の予定を立てる");
+  EXPECT_EQ(items[12].hours, 0U);
+}
+
 TEST_F(DataSetTest, HoldsEveryFileByItsName) {
   const std::map<std::string, Bytes> files = AllFiles(Made(""));
   std::size_t expected = 4 + 2 + Sounds().size();  // data files, world list
@@ -110,6 +128,8 @@ TEST_F(DataSetTest, HoldsEveryFileByItsName) {
                            "mirrell_ClcAlmPerFile.clc"}) {
     EXPECT_TRUE(files.contains(name)) << name;
   }
+  ++expected;
+  EXPECT_TRUE(files.contains(Cp932ToUtf8("スケジュール表/見本の予定.GPI")));
   const std::string pictures = Cp932ToUtf8("キャラクタ/");
   for (const CastMember& member : Cast()) {
     const std::string stem = pictures + "Chara" + std::to_string(member.number);
@@ -223,7 +243,7 @@ TEST_F(DataSetTest, CalendarFileHoldsThreeCalendars) {
 
 TEST_F(DataSetTest, ClockAlarmFileHoldsThreePerformances) {
   EXPECT_EQ(ClockAlarmFileRead(), 0);
-  EXPECT_EQ(Clock.ClockPerformanceCount, 3);
+  EXPECT_EQ(PerformanceTable.ClockPerformanceCount, 3);
   EXPECT_EQ(fs::file_size(Made("mirrell_ClcAlmPerFile.clc")), 29U + 3U * 2008U);
 }
 

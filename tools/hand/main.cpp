@@ -2,6 +2,7 @@
 // deed a call. For the scripts that take pictures of it.
 //
 //   mirrell-hand send COMMAND             posts a numbered command
+//   mirrell-hand time SECOND              sets the time of the day of the tests' build
 //   mirrell-hand find TITLE               waits for a window; prints its x y width height
 //   mirrell-hand part TITLE ID            the same of one of its controls
 //   mirrell-hand press TITLE ID           presses a button or a check box
@@ -267,6 +268,11 @@ int wmain(int count, wchar_t** arguments) {
     return PostMessageW(Stage(), WM_COMMAND, static_cast<WPARAM>(std::wcstol(arguments[2], nullptr, 10)), 0)
                ? 0
                : 1;
+  }
+  if (deed == L"time") {
+    SendMessageW(Stage(), RegisterWindowMessageW(L"MirrellTime"),
+                 static_cast<WPARAM>(std::wcstol(arguments[2], nullptr, 10)), 0);
+    return 0;
   }
   if (deed == L"release") return Hold(false);
   if (deed == L"gone") return AwaitGone(arguments[2], [&] { return Look(arguments[2]).count > 0; });

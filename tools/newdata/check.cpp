@@ -256,8 +256,8 @@ class Checker {
       }
       sounds_.insert(fields.sound);
     }
-    for (int i = 0; i < Clock.ClockPerformanceCount; ++i) {
-      const char* sound = Clock.ClockPerformances[i].sound;
+    for (int i = 0; i < PerformanceTable.ClockPerformanceCount; ++i) {
+      const char* sound = PerformanceTable.ClockPerformances[i].sound;
       if (sound[0] != '\0') sounds_.insert(sound);
     }
   }

@@ -101,6 +101,11 @@ WindowHandle Control(WindowHandle dialog, int id) {
   return control ? control->handle : nullptr;
 }
 
+Rect ControlPlace(WindowHandle dialog, int id) {
+  const WindowPointer control = ControlUse(dialog, id, "ControlPlace");
+  return control ? control->rect : Rect{};
+}
+
 void ControlSetText(WindowHandle dialog, int id, const char* text) {
   const WindowPointer control = ControlUse(dialog, id, "ControlSetText");
   if (!control) return;

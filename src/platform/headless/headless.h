@@ -52,7 +52,8 @@ void ChooseRow(WindowHandle dialog, int id, int row);  // selects and tells the 
 void DoubleClickRow(WindowHandle dialog, int id, int row);
 void Type(WindowHandle dialog, int id, const char* text);  // replaces an edit field's text
 void Mouse(WindowHandle window, EventKind kind, int x, int y, unsigned keys = 0);
-void PressKey(WindowHandle window, int code);  // Char
+void Wheel(WindowHandle window, int x, int y, int notches);  // away from the user counted up
+void PressKey(WindowHandle window, int code);                // Char
 // Enter and Escape in a modal dialog, as the dialog manager hears them: Enter presses
 // the button with the focus, else the default one, else sends 1; Escape sends 2. A
 // disabled button is not pressed. A field of several lines may take Enter itself.

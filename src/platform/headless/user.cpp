@@ -7,6 +7,7 @@
 
 namespace {
 
+constexpr std::uint32_t kVerticalBar = 1;
 constexpr std::uint32_t kStaticNotify = 0x100;
 constexpr std::uint32_t kListNotify = 1;
 constexpr std::uint32_t kEditReadOnly = 0x800;
@@ -84,6 +85,18 @@ std::string Taken(const HeadlessWindow& edit, const char* text) {
   return taken;
 }
 
+// Where a control stands; the height of a combo box with a list is that of the opened list.
+Rect PlaceOf(const HeadlessWindow& control) {
+  constexpr unsigned kComboKinds = 3;
+  constexpr unsigned kComboSimple = 1;
+  constexpr int kClosedHeight = 24;
+  Rect at = control.rect;
+  const bool list =
+      control.controlClass == ControlClass::ComboBox && (control.style & kComboKinds) != kComboSimple;
+  if (list && RectHeight(at) > kClosedHeight) at.bottom = at.top + kClosedHeight;
+  return at;
+}
+
 // What a mouse message meant for the window itself would meet instead: a point outside,
 // or one of its controls. A label, a group box and a disabled control let it through.
 const char* MouseMeets(const HeadlessWindow& window, int x, int y) {
@@ -91,7 +104,7 @@ const char* MouseMeets(const HeadlessWindow& window, int x, int y) {
   if (x < 0 || y < 0 || x >= client.right || y >= client.bottom) return "the point lies outside";
   for (const WindowHandle child : window.children) {
     const WindowPointer control = Windows().Find(child);
-    const Rect& at = control->rect;
+    const Rect at = PlaceOf(*control);
     const bool inside = x >= at.left && x < at.right && y >= at.top && y < at.bottom;
     const bool label = control->controlClass == ControlClass::Static && (control->style & kStaticNotify) == 0;
     if (inside && control->visible && control->enabled && !label && !IsGroupBox(*control)) {
@@ -229,7 +242,10 @@ void Type(WindowHandle dialog, int id, const char* text) {
   ControlTells(*edit, EventKind::Edited);
 }
 
-void Mouse(WindowHandle window, EventKind kind, int x, int y, unsigned keys) {
+namespace {
+
+// Puts the pointer there and sends what the mouse does; with `notches` it is the wheel.
+void MouseSend(WindowHandle window, EventKind kind, int x, int y, unsigned keys, int notches) {
   const WindowPointer found = WindowUse(window, "Mouse");
   if (!found) {
     if (!window) Failure("Mouse: no window");
@@ -251,7 +267,18 @@ void Mouse(WindowHandle window, EventKind kind, int x, int y, unsigned keys) {
   event.x = x;
   event.y = y;
   event.keys = keys;
+  event.wheel = notches;
   EventSend(event);
+}
+
+}  // namespace
+
+void Mouse(WindowHandle window, EventKind kind, int x, int y, unsigned keys) {
+  MouseSend(window, kind, x, y, keys, 0);
+}
+
+void Wheel(WindowHandle window, int x, int y, int notches) {
+  MouseSend(window, EventKind::Wheel, x, y, 0, notches);
 }
 
 void PressKey(WindowHandle window, int code) {
@@ -309,7 +336,7 @@ void ScrollBy(WindowHandle window, WindowHandle bar, Scroll scroll, int position
     return;
   }
   Event event;
-  event.kind = EventKind::VScroll;
+  event.kind = (found->style & kVerticalBar) != 0 ? EventKind::VScroll : EventKind::HScroll;
   event.window = window;
   event.control = bar;
   event.scroll = scroll;

@@ -171,6 +171,14 @@ WindowHandle Control(WindowHandle dialog, int id) {
   return Window(GetDlgItem(Hwnd(dialog), id));
 }
 
+Rect ControlPlace(WindowHandle dialog, int id) {
+  RECT rect{};
+  GetWindowRect(GetDlgItem(Hwnd(dialog), id), &rect);
+  MapWindowPoints(nullptr, Hwnd(dialog), reinterpret_cast<POINT*>(&rect), 2);
+  return {static_cast<int>(rect.left), static_cast<int>(rect.top), static_cast<int>(rect.right),
+          static_cast<int>(rect.bottom)};
+}
+
 void ControlSetText(WindowHandle dialog, int id, const char* text) {
   WindowSetText(Control(dialog, id), text);
 }

@@ -73,6 +73,16 @@ Scroll ScrollOf(UINT code) {
   }
 }
 
+// Fine wheels send parts of a notch; they add up until there is a whole one.
+int WheelNotches(int delta) {
+  static int waiting = 0;
+  if ((delta < 0) != (waiting < 0)) waiting = 0;
+  waiting += delta;
+  const int notches = waiting / WHEEL_DELTA;
+  waiting -= notches * WHEEL_DELTA;
+  return notches;
+}
+
 struct KindOfMessage {
   UINT message;
   EventKind kind;
@@ -100,6 +110,7 @@ bool EventFromMessage(MessageTarget target, HWND window, UINT message, WPARAM wP
     event->x = GET_X_LPARAM(lParam);
     event->y = GET_Y_LPARAM(lParam);
     event->keys = static_cast<unsigned>(wParam & (MK_LBUTTON | MK_SHIFT));
+    if (message == WM_MOUSEWHEEL) event->wheel = WheelNotches(GET_WHEEL_DELTA_WPARAM(wParam));
     return true;
   }
   for (const KindOfMessage& plain : kPlain) {
@@ -120,8 +131,9 @@ bool EventFromMessage(MessageTarget target, HWND window, UINT message, WPARAM wP
       event->x = LOWORD(lParam);
       event->y = HIWORD(lParam);
       return true;
-    case WM_VSCROLL: {
-      event->kind = EventKind::VScroll;
+    case WM_VSCROLL:
+    case WM_HSCROLL: {
+      event->kind = message == WM_VSCROLL ? EventKind::VScroll : EventKind::HScroll;
       event->scroll = ScrollOf(LOWORD(wParam));
       event->control = Window(reinterpret_cast<HWND>(lParam));
       // The message carries 16 bits of the place; the bar itself knows them all.

@@ -1,24 +1,29 @@
 #include "schedule/execution/schedule_run.h"
 
 #include "platform/memory.h"
+#include "schedule/applications/application_list.h"
+#include "schedule/execution/scl_alarm.h"
+#include "schedule/execution/scl_notice.h"
+#include "schedule/model/scl_exec.h"
 #include "services/commands.h"
+#include "services/today.h"
 
 SclRunState SclRun;
 
-void SclDefaults() {
-  constexpr SclHours kDay{10, 8, 18};
-  SclRun.SclTableHours = kDay;
-  for (SclHours& hours : SclRun.SclSubTableHours) hours = kDay;
-  SclRun.SclLineCount = 31;
+namespace {
+
+constexpr int kLastSecond = 59;
+constexpr int kSecond = 1000;
+
+}  // namespace
+
+void SclExecutionLoad() {
+  if (!ApliListHasSelected() || Applications.ApliSchedule.path[0] == '\0') return;
+  if (SclExecLoad(Applications.ApliSchedule.path) == 0) SclAlarmsForget();
 }
 
-// There is no schedule model yet: none can be named, and none runs.
-void SclExecutionLoad() {}
 bool SclIsRunning() {
-  return false;
-}
-bool SclDueCheck() {
-  return false;
+  return Schedule.SclAlarmFlag;
 }
 
 void SclMapFree() {
@@ -27,9 +32,17 @@ void SclMapFree() {
 }
 
 void SclRunTick() {
-  if (SclDueCheck()) CommandSend(Command::ScheduleNotice);
+  const LocalTime& now = Today.SharedTime;
+  if (SclAlarm.quietMinute != 0 && SclAlarm.quietMinute == SclMinuteOf(now)) return;
+  if (SclTickCheck(now) == 0) return;
+  SclNoticeTake();
+  CommandSend(Command::ScheduleNotice);
 }
 
 int SclRunDue() {
-  return TickDueIf(SclIsRunning());
+  if (!SclIsRunning()) return kTickNever;
+  const LocalTime& now = Today.SharedTime;
+  if (SclAlarm.quietMinute == 0 || SclAlarm.quietMinute != SclMinuteOf(now)) return 1;
+  const int left = (kLastSecond - now.second) * kSecond + kSecond - now.millisecond;
+  return left / kTickMilliseconds + 1;
 }

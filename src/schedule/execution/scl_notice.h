@@ -33,6 +33,9 @@ struct NoticesState {
 };
 extern NoticesState Notices;
 
+// Takes the item that the alarms tell, to be announced; none leaves nothing due.
+void SclNoticeTake();
+
 // The five-tick step of the open notice: its next picture, and its repaint.
 void SclNoticeFrameStep();
 

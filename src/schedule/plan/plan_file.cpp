@@ -1,0 +1,66 @@
+#include "schedule/plan/plan_file.h"
+
+#include <cstring>
+
+#include "schedule/plan/plan.h"
+#include "services/record_file.h"
+
+namespace {
+
+constexpr char kMagic[] = "SCP Data File : ";
+constexpr int kMagicSize = sizeof kMagic - 1;
+
+bool MagicRead(DataFile& data) {
+  char magic[kMagicSize] = {};
+  return DataRead(data, magic, kMagicSize) && std::memcmp(magic, kMagic, kMagicSize) == 0;
+}
+
+bool CountIsRight() {
+  return Plan.head.count >= 0 && Plan.head.count <= kScpLineMax;
+}
+
+// settled: the lines behind the last one of a plan file become empty, so that nothing of
+// the plan before is converted with it.
+void LinesBehindClear() {
+  for (int line = Plan.head.count; line < kScpLineMax; ++line) Plan.ScpPlanTable[line] = ScpNewLine();
+}
+
+bool Read(DataFile& data) {
+  if (!MagicRead(data) || !RecordRead(data, Plan.head)) return false;
+  // settled: a plan file that counts more than 300 lines is refused like one that is cut,
+  // and the plan then has the 300 lines that there is room for.
+  if (!CountIsRight()) {
+    Plan.head.count = kScpLineMax;
+    return false;
+  }
+  LinesBehindClear();
+  return RecordsRead(data, Plan.ScpPlanTable, Plan.head.count);
+}
+
+bool Write(DataFile& data) {
+  return DataWrite(data, kMagic, kMagicSize) && RecordWrite(data, Plan.head) &&
+         RecordsWrite(data, Plan.ScpPlanTable, Plan.head.count);
+}
+
+int Finish(DataFile& data, bool done) {
+  if (!done) return DataFailStatus(data);
+  DataClose(data);
+  Plan.dirty = false;
+  return 0;
+}
+
+}  // namespace
+
+int ScpSaveFile(const char* path) {
+  FileResult.FileStatus = 0;
+  DataFile data;
+  if (!DataReplace(data, path)) return FileResult.FileStatus;
+  return Finish(data, Write(data));
+}
+
+int ScpLoadFile(const char* path) {
+  FileResult.FileStatus = 0;
+  DataFile data;
+  if (!DataOpenRead(data, path, OpenMode::Read)) return FileResult.FileStatus;
+  return Finish(data, Read(data));
+}
