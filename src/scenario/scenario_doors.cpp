@@ -3,6 +3,7 @@
 #include "resources/scenario_storage_ids.h"
 #include "scenario/logic/snry_logic.h"
 #include "scenario/storage/scenario.h"
+#include "scenario/trace/trace_dialogs.h"
 
 namespace {
 
@@ -14,7 +15,7 @@ struct Door {
 };
 
 constexpr Door kScenarioDoors[] = {
-    {IDC_SNRY_PARA_CHECK, nullptr},
+    {IDC_SNRY_PARA_CHECK, CheckParameterDlgRun},
     {IDC_SNRY_CHARACTERS, nullptr},
     {IDC_SNRY_OPTIONS, nullptr},
 };

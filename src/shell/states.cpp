@@ -42,6 +42,7 @@
 #include "scenario/logic/snry_sheet.h"
 #include "scenario/storage/scenario.h"
 #include "scenario/storage/scenario_dialogs.h"
+#include "scenario/trace/trace_dialogs.h"
 #include "schedule/applications/application_list.h"
 #include "schedule/execution/schedule_run.h"
 #include "schedule/execution/scl_alarm.h"
@@ -146,7 +147,7 @@ void MailMusicReset() {
 }
 
 void ScenarioReset() {
-  ResetAll(Scenario, SnryList, SnryMain, SnryScene, SnryDialogs, SnrySheet);
+  ResetAll(Scenario, SnryList, SnryMain, SnryScene, SnryDialogs, SnrySheet, SnryTrace);
 }
 
 void ShellReset() {
