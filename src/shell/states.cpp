@@ -39,6 +39,10 @@
 #include "mail_music/mail/mail_setting.h"
 #include "mail_music/mail/mail_talk.h"
 #include "mail_music/music/music.h"
+#include "scenario/logic/snry_sheet.h"
+#include "scenario/storage/scenario.h"
+#include "scenario/storage/scenario_dialogs.h"
+#include "scenario/trace/trace_dialogs.h"
 #include "schedule/applications/application_list.h"
 #include "schedule/execution/schedule_run.h"
 #include "schedule/execution/scl_alarm.h"
@@ -142,6 +146,10 @@ void MailMusicReset() {
   ResetAll(BgmTable, Music);
 }
 
+void ScenarioReset() {
+  ResetAll(Scenario, SnryList, SnryMain, SnryScene, SnryDialogs, SnrySheet, SnryTrace);
+}
+
 void ShellReset() {
   OldDataFree();
   ResetAll(FileDialogDefaults, Factory, Layout, MainClient, OldFormat, Panel, Popups, ProgramLine, TickCounts,
@@ -152,6 +160,7 @@ void ShellReset() {
 
 void StatesReset() {
   ShellReset();
+  ScenarioReset();
   MailMusicReset();
   FileToolsReset();
   ScheduleReset();
