@@ -11,6 +11,7 @@
 #include "clock_calendar/clock/clock.h"
 #include "newdata/host_file.h"
 #include "newdata/picture_files.h"
+#include "newdata/plan_samples.h"
 #include "newdata/tables.h"
 #include "newdata/world_list_file.h"
 #include "platform/posix/posix_paths.h"
@@ -69,6 +70,7 @@ void WriteDataFiles(const DataSetDate& date) {
   CalenStartDefaults();
   SetFactorySettings();
   StillFigures();
+  WritePlanSamples();
   TestClockClear();
   FillCharacters();
   FillClocks();
@@ -99,6 +101,7 @@ void MakeDataSet(const std::filesystem::path& folder, const std::filesystem::pat
   const std::filesystem::path sounds = folder / kSoundFolder;
   std::filesystem::create_directories(characters);
   std::filesystem::create_directories(sounds);
+  std::filesystem::create_directories(folder / kPlanFolder);
   WriteCharacters(assets / "characters", characters);
   WriteHostFile(characters / "EDTCFLAG.edf", WorldFlagFile(Cast()));
   WriteHostFile(characters / "EDTCDATA.edf", WorldDataFile(Cast()));
