@@ -8,7 +8,7 @@ packages=(
   libgtest-dev googletest libbenchmark-dev
   librsvg2-dev libcairo2-dev pkg-config
   wine wine64 xvfb xdotool imagemagick x11-xserver-utils
-  fonts-ipafont-gothic fonts-wine locales python3
+  fonts-ipafont-gothic fonts-wine locales python3 dovecot-pop3d
 )
 
 missing=()

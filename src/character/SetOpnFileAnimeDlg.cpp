@@ -1,18 +1,15 @@
 // SetOpnFileAnimeDlg and SetMailAnimeDlg: what a feature's walks begin with. One piece
 // of code; the feature gives the template and its settings.
 
-#include <cstring>
-
 #include "character/character.h"
 #include "character/character_tables.h"
 #include "character/walk.h"
 #include "platform/dialog.h"
-#include "platform/file.h"
 #include "platform/window.h"
 #include "resources/character_ids.h"
 #include "services/dialog_acts.h"
 #include "services/dialog_family.h"
-#include "services/program.h"
+#include "services/sound_list.h"
 #include "world/world_list.h"
 
 namespace {
@@ -22,30 +19,8 @@ WalkSettings FromControls(WindowHandle dialog) {
   WalkSettings s = Walk.SettingsForm->stored();
   s.animeOn = ControlIsChecked(dialog, IDC_WALK_ANIME) ? 1 : 0;
   s.soundOn = ControlIsChecked(dialog, IDC_WALK_SOUND) ? 1 : 0;
-  char name[kWalkSoundNameSize] = {};
-  if (ListText(dialog, IDC_WALK_SOUND_FILE, ListSelected(dialog, IDC_WALK_SOUND_FILE), name, sizeof name) >
-      0) {
-    std::memcpy(s.soundName, name, sizeof name);
-  }
+  SoundListTake(dialog, IDC_WALK_SOUND_FILE, s.soundName);
   return s;
-}
-
-void SoundsShow(WindowHandle dialog, const char* current) {
-  const ListQuiet quiet(dialog, IDC_WALK_SOUND_FILE);
-  char pattern[kRootPathSize];
-  RootPath(pattern, sizeof pattern, "\\サウンド\\*.*");
-  SearchEntry entry;
-  const SearchHandle search = SearchFirst(pattern, &entry);
-  for (bool more = search != kNoSearch; more; more = SearchNext(search, &entry)) {
-    if ((entry.attributes & kAttributeFolder) == 0) ListAdd(dialog, IDC_WALK_SOUND_FILE, entry.name);
-  }
-  SearchClose(search);
-  const int count = ListCount(dialog, IDC_WALK_SOUND_FILE);
-  for (int row = 0; row < count; ++row) {
-    char name[kWalkSoundNameSize];
-    ListText(dialog, IDC_WALK_SOUND_FILE, row, name, sizeof name);
-    if (std::strncmp(name, current, kWalkSoundNameSize) == 0) ListSelect(dialog, IDC_WALK_SOUND_FILE, row);
-  }
 }
 
 const char* CharacterName() {
@@ -59,12 +34,12 @@ void Open(WindowHandle dialog) {
   ControlSetChecked(dialog, IDC_WALK_ANIME, s.animeOn != 0);
   ControlSetChecked(dialog, IDC_WALK_SOUND, s.soundOn != 0);
   ControlSetText(dialog, IDC_WALK_CHARA, CharacterName());
-  SoundsShow(dialog, s.soundName);
+  SoundListShow(dialog, IDC_WALK_SOUND_FILE, s.soundName);
 }
 
 // Plays what the dialog shows; the stored settings stay.
 void Check(WindowHandle dialog) {
-  if (Walk.OpeningState != 0 || Walk.MailPhase != 0 || Walk.WalkActive || Walk.WalkEndActive) return;
+  if (Walk.OpeningState != 0 || Walk.mailState != 0 || Walk.WalkActive || Walk.WalkEndActive) return;
   WalkRequest request{};
   Walk.SettingsForm->request(FromControls(dialog), request);
   request.opening = kOpeningCheck;

@@ -2,6 +2,7 @@
 
 #include "services/program.h"
 #include "services/text.h"
+#include "world/world_pictures.h"
 
 namespace {
 char pathBuffer[kRootSize + 100];
@@ -13,13 +14,11 @@ const char* CharaDwcPath(int number) {
 }
 
 const char* CharaBmpPath(int number, int frame) {
-  TextFormat(pathBuffer, sizeof pathBuffer, "%s\\キャラクタ\\Chara%d_%d.bmp", Program.RootFolder, number + 1,
-             frame + 1);
+  WorldPicturePath(pathBuffer, sizeof pathBuffer, number + 1, frame + 1);
   return pathBuffer;
 }
 
 const char* CharaMaskPath(int number, int frame) {
-  TextFormat(pathBuffer, sizeof pathBuffer, "%s\\キャラクタ\\Chara%d_%dx.bmp", Program.RootFolder, number + 1,
-             frame + 1);
+  WorldMaskPath(pathBuffer, sizeof pathBuffer, number + 1, frame + 1);
   return pathBuffer;
 }

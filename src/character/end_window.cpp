@@ -43,7 +43,7 @@ void EndWindowsRun() {
   if (WalkPicture(Walk.WalkSlotNow, EndFrame(Walk.WalkSlotNow)))
     DialogOpen(IDD_FlyingBat1, Program.hMainWnd, EndWindowProc);
   // kept: while the mail's settings are open, every walk ends with the mail notice.
-  if (Walk.MailPhase != kMailWalking && PanelFeature() != Feature::MailSettings) {
+  if (Walk.mailState != kMailWalking && PanelFeature() != Feature::MailSettings) {
     DialogRun(IDD_FlyingBat1, Program.hMainWnd, BalloonProc);
   } else {
     MailNoticeOpen();

@@ -90,6 +90,10 @@ void OutlineFlipForWalker(Outline* outline, int pictureHeight) {
   }
 }
 
+void OutlineFlipForBare(Outline* outline, int pictureHeight) {
+  for (int i = 0; i < outline->count; ++i) outline->points[i].y = pictureHeight - outline->points[i].y - 1;
+}
+
 bool OutlinesEqual(const Outline& a, const Outline& b) {
   return a.count == b.count &&
          std::equal(a.points, a.points + a.count, b.points,

@@ -31,6 +31,9 @@ void OutlineFlipForStage(Outline* outline, int pictureHeight);
 // Both ways in from the thin frame of a walking window.
 void OutlineFlipForWalker(Outline* outline, int pictureHeight);
 
+// Of a window without a border.
+void OutlineFlipForBare(Outline* outline, int pictureHeight);
+
 bool OutlinesEqual(const Outline& a, const Outline& b);
 
 // Copies the points in use.

@@ -102,7 +102,7 @@ void WalkFinish(int slot) {
 // What the walk was for goes on now.
 // kept: while the mail notice of a walk stands, a file's walk opens nothing at its end.
 void OpeningEnd() {
-  const bool goesOn = Walk.OpeningState == kOpeningFile && Walk.MailPhase != kMailWalking;
+  const bool goesOn = Walk.OpeningState == kOpeningFile && Walk.mailState != kMailWalking;
   Walk.OpeningState = 0;
   if (goesOn && Walk.AtEnd != Command::None) CommandSend(Walk.AtEnd);
 }
@@ -121,8 +121,8 @@ int WalkStart(const WalkRequest& request) {
   return 0;
 }
 
-void WalkMailPhaseSet(std::int32_t phase) {
-  Walk.MailPhase = phase;
+void WalkMailStateSet(std::int32_t state) {
+  Walk.mailState = state;
 }
 
 int WalkCharaLoad(int slot) {

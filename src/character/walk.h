@@ -24,8 +24,8 @@ struct WalkRequest {
 // once.
 int WalkStart(const WalkRequest& request);
 
-// Tells how far the mail's notice is; in the phase kMailWalking walks end with it.
-void WalkMailPhaseSet(std::int32_t phase);
+// Tells how far the mail's notice is (0, kMail*); with kMailWalking walks end with it.
+void WalkMailStateSet(std::int32_t state);
 
 // Loads the walking character of a slot: its outlines and pictures. Returns 0, -9
 // for a negative slot, -10 for a slot without a character.

@@ -42,7 +42,8 @@ inline constexpr std::int32_t kOpeningFile = 1;
 inline constexpr std::int32_t kOpeningGroup = 2;
 inline constexpr std::int32_t kOpeningCheck = 3;
 
-// MailPhase; 1 is a check that is wanted.
+// mailState: how far the announcement of a mail is.
+inline constexpr std::int32_t kMailSeen = 1;  // the next tick announces it
 inline constexpr std::int32_t kMailWalking = 2;
 inline constexpr std::int32_t kMailAlone = 3;  // the walk could not start
 
@@ -69,7 +70,7 @@ struct WalkState {
   // The outlines of the walking character, as its windows need them.
   Outline WalkOutlines[kFrameMax] = {};
   std::int32_t OpeningState = 0;  // 0: idle
-  std::int32_t MailPhase = 0;     // 0: none
+  std::int32_t mailState = 0;     // 0: none
   // Of the walk that began last.
   WalkBalloon Balloon = {};
   Command AtEnd = Command::None;

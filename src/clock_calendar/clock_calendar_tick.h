@@ -5,11 +5,15 @@
 #include "clock_calendar/clock/clock_notice.h"
 #include "services/tick_step.h"
 
-// The calendar window or the clock notice is open: the day, the figures and the ticker
-// of the one, the alarms, and the performance of the other.
-inline bool CalendarStepIsActive() {
+// The calendar window or the clock notice is open: the day, the figures and the ticker.
+inline bool CalendarIsLookedAt() {
   return Calendar.hCalenWnd || ClockNotice.hClockNoticeWnd;
 }
+// The alarms are looked at with them, and with the clock on the desktop; the performance
+// of the notice goes on.
+inline bool CalendarStepIsActive() {
+  return CalendarIsLookedAt() || Clock.hClockWnd;
+}
 void CalendarTick();
-inline constexpr TimedStep kCalendarStep{CalendarStepIsActive,
-                                         {CalendarTick, [] { return TickDueIf(CalendarStepIsActive()); }}};
+int CalendarDue();
+inline constexpr TimedStep kCalendarStep{CalendarStepIsActive, {CalendarTick, CalendarDue}};

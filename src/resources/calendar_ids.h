@@ -1,7 +1,75 @@
-/* The calendars.
+/* The calendars: 3740 to 3779.
    Numbers of the resources, for the .rc files and the code; a dialog template is IDD_
    and its name. */
 #ifndef MIRRELL_RESOURCES_CALENDAR_IDS_H
 #define MIRRELL_RESOURCES_CALENDAR_IDS_H
+
+#include "clock_calendar_ids.h"
+
+#define IDD_SelCalenderDlg 3740
+#define IDC_SEL_SHOW 101
+#define IDC_SEL_LIST 102
+#define IDC_SEL_NAME 103
+#define IDC_SEL_SPAN 104
+#define IDC_SEL_LOAD 105
+#define IDC_SEL_EDIT 106
+
+#define IDD_CalenderAdustDlg 3741
+#define IDC_CALEN_NAME 101
+#define IDC_CALEN_FORMAT 102
+#define IDC_CALEN_SIZE 103
+#define IDC_CALEN_NOTE_MODE 104
+#define IDC_CALEN_BASE 105
+#define IDC_CALEN_SPAN 106
+#define IDC_CALEN_YEAR 107
+#define IDC_CALEN_MONTH 108
+#define IDC_CALEN_DAY 109
+#define IDC_CALEN_DAY_NOTE 110
+#define IDC_CALEN_HOLIDAY 111
+#define IDC_CALEN_STICKER 112
+#define IDC_CALEN_IMAGE 113
+#define IDC_CALEN_SET_BMP 114
+#define IDC_CALEN_PICTURE 115
+#define IDC_CALEN_NEAR 116
+#define IDC_CALEN_CLEAR_NOTES 117
+#define IDC_CALEN_CLEAR_HOLIDAYS 118
+#define IDC_CALEN_CLEAR_STICKERS 119
+
+#define IDD_CalenCommentDlg 3742
+#define IDC_CALEN_NOTE_DAY 101
+#define IDC_CALEN_NOTE 102
+
+#define IDD_SelectCalenSheelDialog 3743
+#define IDC_STICKER_OFF 101
+
+#define IDD_SetCalenBmpDlg 3744
+#define IDC_BMP_MONTH 101
+#define IDC_BMP_ON 102
+#define IDC_BMP_COLOUR_ONLY 103
+#define IDC_BMP_BACKGROUND 104
+#define IDC_BMP_PICK 105
+#define IDC_BMP_RED 106
+#define IDC_BMP_GREEN 107
+#define IDC_BMP_BLUE 108
+#define IDC_FIGURE1_CHARA 120
+#define IDC_FIGURE1_FRAME 121
+#define IDC_FIGURE1_X 122
+#define IDC_FIGURE1_Y 123
+#define IDC_FIGURE1_DIRECTION 124
+#define IDC_FIGURE1_PERIOD 125
+#define IDC_FIGURE1_STEP 126
+#define IDC_FIGURE1_START 127
+#define IDC_FIGURE1_BY_YEAR 128
+#define IDC_FIGURE2_CHARA 140
+#define IDC_FIGURE2_FRAME 141
+#define IDC_FIGURE2_X 142
+#define IDC_FIGURE2_Y 143
+#define IDC_FIGURE2_DIRECTION 144
+#define IDC_FIGURE2_PERIOD 145
+#define IDC_FIGURE2_STEP 146
+#define IDC_FIGURE2_START 147
+#define IDC_FIGURE2_BY_YEAR 148
+
+#define IDD_DspCalenImageDlg 3745
 
 #endif

@@ -7,3 +7,7 @@
 
 // All numbers of the schedule, the plans and the application list.
 void ScheduleCommand(Command command);
+
+// 2372: the change of the executing application that waits is made, and its schedule is
+// carried out.
+void CommandApplicationHandOff();

@@ -11,3 +11,10 @@ void ChildControlsDestroy(int first, int last) {
     Children.ChildControls[i] = nullptr;
   }
 }
+
+void ChildControlMake(int place, WindowHandle parent, ControlKind kind, int id, const Rect& at,
+                      const char* text) {
+  if (place < 0 || place >= kChildControlCount) return;
+  ChildControlsDestroy(place, place);
+  Children.ChildControls[place] = ControlCreate(parent, kind, id, at, text);
+}

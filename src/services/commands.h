@@ -12,7 +12,12 @@ enum class Command : std::uint32_t {
 #include "services/command_table.inc"
 #undef COMMAND
   // What is sent straight to a window of one's own, and not routed.
-  NextStep = 2258,    // the next step of a walk, or of a performance
+  NextStep = 2258,          // the next step of a walk, or of a performance
+  CalendarClear = 2295,     // the calendar's window: cleared and painted anew
+  CalendarDayBack = 2313,   // the buttons of the calendar's day page ...
+  CalendarDayOn = 2314,
+  CalendarWeekBack = 2315,  // ... and of its week page
+  CalendarWeekOn = 2316,
   BackUpStep = 2375,  // the next file of a back-up
   WorkStep = 2376,    // the next piece of stepped work
 };

@@ -21,6 +21,7 @@ struct Family {
   struct {
     WindowHandle window;
     EventHandler handler;
+    Number id;
   } open[kDepth];
 };
 
@@ -55,7 +56,7 @@ bool Proc(Family<Number>& family, const Event& event) {
   if (event.kind == EventKind::Init) {
     for (auto& entry : family.open) {
       if (entry.window) continue;
-      entry = {event.window, family.next};
+      entry = {event.window, family.next, *family.id};
       break;
     }
     *family.handle = event.window;
@@ -73,6 +74,18 @@ bool Proc(Family<Number>& family, const Event& event) {
     }
   }
   return done;
+}
+
+// A dialog has ended: the one of the same family that it opened from is in force again,
+// or else none.
+template <typename Number>
+void TakeOuter(Family<Number>& family) {
+  *family.id = Number::None;
+  for (const auto& entry : family.open) {
+    if (!entry.window) continue;
+    *family.id = entry.id;
+    *family.handle = entry.window;
+  }
 }
 
 bool MenuDlgProc(const Event& event) {
@@ -94,7 +107,7 @@ int Run(Family<Number>& family, EventHandler proc, Number dialog, int templateId
   *family.id = dialog;
   family.next = handler;
   const int result = DialogRun(templateId, owner, proc, context);
-  *family.id = Number::None;
+  TakeOuter(family);
   return result;
 }
 

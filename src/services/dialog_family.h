@@ -1,6 +1,7 @@
 // The four families of modal dialogs. Each has an id of the template in force
 // and a handle; a dialog that opens from inside another is of another family, so
-// that both can be asked for.
+// that both can be asked for. One that opens from inside its own family takes id and
+// handle over for as long as it is open.
 #pragma once
 
 #include "platform/event.h"

@@ -5,6 +5,8 @@
 
 // Fills an area without an edge.
 void FillArea(Canvas* canvas, BrushHandle brush, const Rect& area);
+// The same with a colour that no shared brush has.
+void FillColour(Canvas* canvas, Colour colour, const Rect& area);
 
 // Draws an area of the screen in memory first, so that it does not flicker; straight
 // onto the screen, cut to the area, if the memory is not to be had. `draw` is given

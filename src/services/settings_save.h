@@ -1,7 +1,11 @@
-// Saving the settings, for whoever has changed one. The shell, which knows the file,
+// Saving the settings, for whoever has changed one, and reading them again. The shell, which knows the file,
 // defines it.
 #pragma once
 
 // Replaces the settings file. Returns 0, or -1 with FileStatus -1 (cannot be created)
 // or -2 (short write; the old file is gone by then).
 int SysFileWrite();
+
+// Reads the settings file over what is in memory: for a dialog that is cancelled after a
+// live change. Returns 0, or -1 with FileStatus.
+int SysFileRead();

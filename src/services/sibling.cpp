@@ -4,10 +4,11 @@
 #include "platform/process.h"
 #include "services/panel_entry.h"
 
-void SiblingStart(const char* folder, const char* commandLine) {
+bool SiblingStart(const char* folder, const char* commandLine) {
   PanelLeave();
   FolderSetCurrent(folder);
   const ProcessHandle process = ProcessStart(commandLine);
   ProcessWaitIdle(process, 5000);
   ProcessClose(process);
+  return process != nullptr;
 }

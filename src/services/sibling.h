@@ -2,6 +2,6 @@
 #pragma once
 
 // Clears the panel state, makes `folder` current, starts the program by command
-// line and waits up to 5 seconds until it waits for input. Failure is not
-// reported.
-void SiblingStart(const char* folder, const char* commandLine);
+// line and waits up to 5 seconds until it waits for input. A failure is not
+// told to the user; false then.
+bool SiblingStart(const char* folder, const char* commandLine);

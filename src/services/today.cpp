@@ -1,5 +1,9 @@
 #include "services/today.h"
 
+#include <algorithm>
+
+#include "services/tick_step.h"
+
 TodayState Today;
 
 void TodaySet(const LocalTime& now) {
@@ -10,4 +14,16 @@ void TodaySet(const LocalTime& now) {
 
 void SharedTimeTake() {
   TimeGetLocal(&Today.SharedTime);
+}
+
+int TicksToNextMinute(const LocalTime& now) {
+  constexpr int kMinuteMilliseconds = 60000;
+  const int left = kMinuteMilliseconds - now.second * 1000 - now.millisecond;
+  return std::max((left + kTickMilliseconds - 1) / kTickMilliseconds, 1);
+}
+
+int TicksToMidnight(const LocalTime& now) {
+  constexpr int kMinutesOfDay = 24 * 60;
+  constexpr int kTicksOfMinute = 60000 / kTickMilliseconds;
+  return TicksToNextMinute(now) + (kMinutesOfDay - 1 - now.hour * 60 - now.minute) * kTicksOfMinute;
 }

@@ -20,3 +20,7 @@ void TodaySet(const LocalTime& now);
 
 // Reads the local time into SharedTime.
 void SharedTimeTake();
+
+// How many ticks are left of the minute, and of the day: at least 1.
+int TicksToNextMinute(const LocalTime& now);
+int TicksToMidnight(const LocalTime& now);

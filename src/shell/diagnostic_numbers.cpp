@@ -20,7 +20,7 @@ void DiagnosticsShowAll() {
   DiagnosticsShow(kShowFileWatchCount, &Watch.FileWatchCount);
   DiagnosticsShow(kShowOpeningState, &Walk.OpeningState);
   DiagnosticsShow(kShowFrameDivider, &FiveTicks.FrameDivider);
-  DiagnosticsShow(kShowMailPhase, &Walk.MailPhase);
+  DiagnosticsShow(kShowMailState, &Walk.mailState);
   DiagnosticsShow(kShowProgressMode, &Stepped.progressMode);
   DiagnosticsShow(kShowStepCounter, &Stepped.stepCounter);
   DiagnosticsShow(kShowFuncNo, &Panel.FuncNo);

@@ -12,7 +12,7 @@ enum DiagnosticNumber {
   kShowFileWatchCount,
   kShowOpeningState,
   kShowFrameDivider,
-  kShowMailPhase,
+  kShowMailState,
   kShowProgressMode,
   kShowStepCounter,
   kShowFuncNo,

@@ -68,6 +68,7 @@ void CalendarLook() {
     return;
   CalendarSnapshotTake();
   CalenFileRead();
+  CalenSheetChangesTake(Watch.monthsBefore);
   Watch.calendarReload = true;
   Watch.clockRestart = true;
   Watch.calendarTell = CalendarSnapshotDiffers();

@@ -4,13 +4,10 @@
 #pragma once
 
 #include "platform/types.h"
+#include "services/popup_place.h"
 
 struct PopupsState {
   // The clicked place, in the client area of the window that was clicked.
   Point PopupPoint = {};
 };
 extern PopupsState Popups;
-
-// Whether the clock and the calendar may open a popup: no panel, no dialog of the
-// four families, no progress dialog and no file picker is open.
-bool PopupMayOpen();

@@ -1,8 +1,8 @@
 #include "shell/shutdown.h"
 
 #include "clock_calendar/calendar/calendar_window.h"
-#include "clock_calendar/clock/clock_window.h"
-#include "mail_music/mail/mail.h"
+#include "clock_calendar/clock/clock_preview.h"
+#include "mail_music/mail/mail_talk.h"
 #include "platform/window.h"
 #include "schedule/applications/application_list.h"
 #include "schedule/execution/schedule_run.h"

@@ -11,12 +11,17 @@
 #include "character/stage.h"
 #include "character/walk.h"
 #include "clock_calendar/calendar/calendar.h"
+#include "clock_calendar/calendar/calendar_edit.h"
+#include "clock_calendar/calendar/calendar_fonts.h"
 #include "clock_calendar/calendar/calendar_picture.h"
 #include "clock_calendar/calendar/calendar_window.h"
 #include "clock_calendar/clock/clock.h"
 #include "clock_calendar/clock/clock_notice.h"
-#include "clock_calendar/clock/clock_window.h"
+#include "clock_calendar/clock/clock_pictures.h"
+#include "clock_calendar/clock/clock_preview.h"
 #include "clock_calendar/clock/performance.h"
+#include "clock_calendar/clock/watch_adust.h"
+#include "clock_calendar/clock/watch_list.h"
 #include "filetools/back_up/back_up.h"
 #include "filetools/divide/file_divide.h"
 #include "filetools/open/group_open.h"
@@ -32,13 +37,19 @@
 #include "filetools/tidy/desktop_tidy.h"
 #include "mail_music/mail/mail.h"
 #include "mail_music/mail/mail_setting.h"
+#include "mail_music/mail/mail_talk.h"
 #include "mail_music/music/music.h"
+#include "scenario/logic/snry_sheet.h"
+#include "scenario/storage/scenario.h"
+#include "scenario/storage/scenario_dialogs.h"
+#include "scenario/trace/trace_dialogs.h"
 #include "schedule/applications/application_list.h"
 #include "schedule/execution/schedule_run.h"
 #include "schedule/execution/scl_alarm.h"
 #include "schedule/execution/scl_notice.h"
 #include "schedule/model/schedule.h"
 #include "schedule/plan/plan.h"
+#include "schedule/rates/scl_map.h"
 #include "schedule/table/line_chart.h"
 #include "schedule/table/row_selection.h"
 #include "schedule/table/schedule_dialogs.h"
@@ -68,7 +79,10 @@
 #include "shell/settings.h"
 #include "shell/tick.h"
 #include "shell/tick_timer.h"
+#include "world/sef_file.h"
+#include "world/wef_file.h"
 #include "world/world_list.h"
+#include "world/world_pictures.h"
 
 namespace {
 
@@ -80,11 +94,12 @@ void ResetAll(State&... states) {
 void ServicesReset() {
   ScopeBlockFree();
   CastBlockFree();
+  WorldPicturesFree();
   DrawingObjectsDelete();
   DialogsReset();
   ResetAll(WorkBlocks, Drawing, Children, FileResult, FiveTicks, PathParts, Picker, Program, Screen, Today,
            World);
-  ResetAll(Random, FolderPick);
+  ResetAll(Random, FolderPick, Sef, Wef, WorldPictures);
 }
 
 void CharacterReset() {
@@ -102,13 +117,17 @@ void ClockCalendarReset() {
   ClockPreviewFree();
   CalenFontDelete();
   CalenStickersFree();
-  ResetAll(Clock, ClockNotice, Timed, Performance, Calendar, CalendarPictures);
+  ClockPicturesFree();
+  ResetAll(Clock, ClockHands, ClockNotice, ClockPictures, ClockPreview, PerformanceTable, Timed, WatchAdust,
+           WatchList);
+  ResetAll(Performance, Calendar, CalendarEdit, CalendarFonts, CalendarPictures);
 }
 
 void ScheduleReset() {
   ApliListFree();
   SclMapFree();
-  ResetAll(Applications, LineChart, Notices, Plan, RowSelection, Schedule, SclAlarm, SclDay, SclRun,
+  SclMapPicturesFree();
+  ResetAll(Applications, LineChart, Notices, Plan, RowSelection, Schedule, SclAlarm, SclDay, SclMap, SclRun,
            SclTable);
 }
 
@@ -123,8 +142,12 @@ void FileToolsReset() {
 
 void MailMusicReset() {
   MailSocketsClose();
-  ResetAll(Mail, MailSetting);
-  MusicReset();
+  ResetAll(Mail, MailDialog, MailLive, MailSetting, MailTalks);
+  ResetAll(BgmTable, Music);
+}
+
+void ScenarioReset() {
+  ResetAll(Scenario, SnryList, SnryMain, SnryScene, SnryDialogs, SnrySheet, SnryTrace);
 }
 
 void ShellReset() {
@@ -137,6 +160,7 @@ void ShellReset() {
 
 void StatesReset() {
   ShellReset();
+  ScenarioReset();
   MailMusicReset();
   FileToolsReset();
   ScheduleReset();

@@ -7,6 +7,7 @@
 #include "character/motion.h"
 #include "character/options.h"
 #include "character/walk.h"
+#include "clock_calendar/clock/clock_preview.h"
 #include "clock_calendar/clock/clock_window.h"
 #include "clock_calendar/clock_calendar_tick.h"
 #include "filetools/back_up/back_up.h"
@@ -14,6 +15,7 @@
 #include "filetools/stepped_work.h"
 #include "mail_music/mail/mail_tick.h"
 #include "schedule/applications/hand_off.h"
+#include "schedule/execution/note_check.h"
 #include "schedule/execution/schedule_run.h"
 #include "schedule/execution/scl_notice.h"
 #include "schedule/table/table_tick.h"
@@ -30,7 +32,8 @@ TickCountsState TickCounts;
 namespace {
 
 // What needs the time: it is read once for all of them.
-constexpr TimedStep kTimedSteps[] = {kWatchAdustStep, kClockStep, kScheduleRunStep, kCalendarStep};
+constexpr TimedStep kTimedSteps[] = {kWatchAdustStep, kClockStep, kScheduleRunStep, kCalendarStep,
+                                     kNoteCheckStep};
 
 // What moves every five ticks.
 constexpr TickStep kFiveTickSteps[] = {kMailNoticeFrames, kSclNoticeFrames, kAlarmCheckFrames};

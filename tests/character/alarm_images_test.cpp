@@ -197,10 +197,9 @@ TEST_F(AlarmTest, WithoutMemoryTheBoxIsDrawnStraightAndNothingLeavesIt) {
 // --- The mail notice
 
 TEST_F(AlarmTest, AMailWithNeitherSoundNorAnimationShowsTheNoticeAloneAtTheCorner) {
-  Mail.MailNoticeFlag = 1;
-  MailNoticeStart();
-  EXPECT_EQ(Mail.MailNoticeFlag, 0);
-  EXPECT_EQ(Walk.MailPhase, 3);
+  Walk.mailState = kMailSeen;
+  MailNotifyStart();
+  EXPECT_EQ(Walk.mailState, 3);
   EXPECT_EQ(Walk.OpeningState, 0);
   ASSERT_NE(Mail.hMailNoticeWnd, nullptr);
   EXPECT_EQ(WindowRect(Mail.hMailNoticeWnd).left, 0);
@@ -210,17 +209,17 @@ TEST_F(AlarmTest, AMailWithNeitherSoundNorAnimationShowsTheNoticeAloneAtTheCorne
   EXPECT_TRUE(IsTopmost(Mail.hMailNoticeWnd));
   EXPECT_TRUE(SoundsPlayed().empty());
   const WindowHandle first = Mail.hMailNoticeWnd;
-  MailNoticeStart();  // one that is up stays
+  MailNotifyStart();  // one that is up stays
   EXPECT_EQ(Mail.hMailNoticeWnd, first);
   SendClose(Mail.hMailNoticeWnd);
   EXPECT_EQ(Mail.hMailNoticeWnd, nullptr);
-  EXPECT_EQ(Walk.MailPhase, 0);
+  EXPECT_EQ(Walk.mailState, 0);
 }
 
 TEST_F(AlarmTest, AMailWithAWalkerWaitsForItsEnd) {
   MailSetting.animeOn = 1;
-  MailNoticeStart();
-  EXPECT_EQ(Walk.MailPhase, 2);
+  MailNotifyStart();
+  EXPECT_EQ(Walk.mailState, 2);
   EXPECT_EQ(Walk.OpeningState, 1);
   EXPECT_TRUE(Walk.WalkActive);
   EXPECT_EQ(Mail.hMailNoticeWnd, nullptr);

@@ -178,6 +178,11 @@ std::vector<int> Companion::Live() const {
   return counts;
 }
 
+void Companion::SetTime(int hour, int minute, int second) const {
+  static const UINT message = RegisterWindowMessageW(L"MirrellTime");
+  SendMessageW(window_, message, static_cast<WPARAM>((hour * 60 + minute) * 60 + second), 0);
+}
+
 void Companion::Tick(int times) {
   for (int i = 0; i < times; ++i) SendMessageW(window_, WM_TIMER, 1, 0);
 }

@@ -44,6 +44,9 @@ class Companion {
   // timers, blocks, files, searches.
   std::vector<int> Live() const;
 
+  // Sets the time of the day that the companion sees; it runs on from there.
+  void SetTime(int hour, int minute, int second) const;
+
   // Drives ticks without waiting for the timer.
   void Tick(int times = 1);
 

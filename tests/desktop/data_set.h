@@ -18,6 +18,7 @@ inline constexpr std::size_t kStageYAt = 88;
 inline constexpr std::size_t kAlarmCharaSelAt = 92;  // three numbers
 inline constexpr std::size_t kCharaSetAt = 104;      // its number comes first, low byte first
 inline constexpr std::size_t kClockShowAt = 1092;
+inline constexpr std::size_t kClockDesignAt = 1093;
 inline constexpr std::size_t kClockXAt = 1094;
 inline constexpr std::size_t kClockYAt = 1098;
 inline constexpr std::size_t kCalenShowAt = 2169;

@@ -1,8 +1,14 @@
 #include <tuple>
 // Commands from outside that would open the dialog of a feature over the one of
 // another.
+#include "resources/calendar_ids.h"
 #include "resources/character_ids.h"
+#include "resources/clock_ids.h"
 #include "resources/filetools_ids.h"
+#include "resources/mail_music_ids.h"
+#include "resources/scenario_storage_ids.h"
+#include "resources/schedule_applications_ids.h"
+#include "resources/schedule_table_ids.h"
 #include "resources/shell_ids.h"
 #include "services/dialog_family.h"
 #include "services/program.h"
@@ -19,7 +25,13 @@ constexpr FeatureRow kFeatures[] = {
     {1900, IDD_FileOpnDialog},    {1901, IDD_FileBackUpSetDlg},  {1914, IDD_FolderScopeSetDlg},
     {1915, IDD_FileDivideSetDlg}, {1920, IDD_FileDesktopClrDlg}, {1922, IDD_DesktopIconSetDlg},
     {2008, IDD_FileOpnGrpSetDlg}, {2066, IDD_FileDivideSetDlg2}, {2067, IDD_FileDivideSetDlg3},
+    {1912, IDD_MyAplicationDlg},  {2020, IDD_SclApliListDialog}, {2367, IDD_SclRegiApliListDialog},
+    {1911, IDD_SelWatchDlg},      {2106, IDD_WatchListAddDlg},   {2107, IDD_WatchListDelDlg},
+    {2108, IDD_WatchListChgDlg},  {2330, IDD_SetClockAlarmDlg},  {2339, IDD_SetClockEventDlg},
     {2281, IDD_OptionSelDlg1_2},  {2282, IDD_OptionSelDlg2},     {2283, IDD_OptionSelDlg3},
+    {1910, IDD_ScheduleSelDlg2},  {2019, IDD_ScheduleSelDlg},    {1918, IDD_MailSettingMenuDlg},
+    {1913, IDD_SelCalenderDlg},   {2276, IDD_SelCalenderDlg},    {1923, IDD_SnryMainLoad},
+    {1924, IDD_SnryMainDelete},   {1926, IDD_NewSnryMainDlg},
 };
 
 using OneFeatureTest = OpenFixture;

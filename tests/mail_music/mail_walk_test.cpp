@@ -22,11 +22,11 @@ class MailWalkTest : public WalkFixture {
   void SetUp() override {
     WalkFixture::SetUp();
     MailSetting.animeOn = 1;
-    Mail.MailCheckOn = true;
+    MailSetting.enabled = 1;
     Mail.MailMinuteCount = 1000;
   }
   // A mail has come; the next tick announces it.
-  static void MailComes() { Mail.MailNoticeFlag = 1; }
+  static void MailComes() { Walk.mailState = 1; }
   // A file that was opened before.
   static void OpenFileBefore() {
     OpnSelectionSet("letter.txt", "C:\\data\\", "edit.exe", "C:\\tools\\");
@@ -78,10 +78,10 @@ TEST_F(MailWalkTest, AMailsWalkOpensTheNoticeAndNothingIsLaunched) {
   EXPECT_EQ(Walk.OpeningState, 0);
   EXPECT_EQ(Walk.WalkSlots[0].endWindow, nullptr);
   EXPECT_NE(Mail.hMailNoticeWnd, nullptr);
-  EXPECT_EQ(Walk.MailPhase, 2);
+  EXPECT_EQ(Walk.mailState, 2);
   Press(Mail.hMailNoticeWnd, 1);
   EXPECT_EQ(Mail.hMailNoticeWnd, nullptr);
-  EXPECT_EQ(Walk.MailPhase, 0);
+  EXPECT_EQ(Walk.mailState, 0);
   EXPECT_EQ(ProcessesStarted().size(), 1U);
 }
 
@@ -91,7 +91,7 @@ TEST_F(MailWalkTest, ANoticeThatIsClosedBeforeItsWalkHasEndedStartsNoFileEither)
   ThenTicks(15);
   WalkTicks(1);
   Press(Mail.hMailNoticeWnd, 1);
-  EXPECT_EQ(Walk.MailPhase, 0);
+  EXPECT_EQ(Walk.mailState, 0);
   EXPECT_TRUE(Walk.WalkEndActive);
   WalkTicks(10);
   EXPECT_FALSE(Walk.WalkEndActive);

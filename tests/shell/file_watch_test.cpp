@@ -13,7 +13,6 @@
 #include "platform/posix/faults.h"
 #include "platform/window.h"
 #include "schedule/applications/application_list.h"
-#include "tests/support/byte_order.h"
 #include "services/commands.h"
 #include "services/dialog_family.h"
 #include "services/dialog_numbers.h"
@@ -21,6 +20,7 @@
 #include "shell/settings.h"
 #include "shell/tick.h"
 #include "tests/character/chara_files.h"
+#include "tests/support/byte_order.h"
 #include "tests/support/program.h"
 
 namespace {
@@ -205,7 +205,8 @@ TEST_F(FileWatchTest, ACalendarChangeIsAnsweredInItsOrder) {
             "カレンダーが変更されました(ミルレール)");
   ListenToEverything();
   FileWatch();
-  EXPECT_EQ(TakeHeard(), (Words{"main 2381", "calendar close", "main 2379", "main 2382", "main 2254"}));
+  EXPECT_EQ(TakeHeard(), (Words{"main 2381", "calendar close", "main 2379", "calendar command 2295",
+                                "main 2382", "main 2254"}));
   Calendar.CalenShow = 0;
   SetFileTime(kCalendarFile, 3000000);
   FileWatch();
@@ -254,6 +255,25 @@ TEST_F(FileWatchTest, AChangedCalendarTellsTheScheduleProgramOnlyWhenTheSelected
             "カレンダーが変更されました(ミルレール)");
   Ticks(201);
   EXPECT_EQ(BoxesShown().size(), 1U);
+}
+
+// What a sibling, or the list of the public holidays, has put into the selected calendar's
+// sheet: the flag of 1 January lies at 2 of the month block, its note at 34.
+TEST_F(FileWatchTest, ChangedHolidaysAndNotesOfTheSheetReachTheWorkingArray) {
+  const bool before = CalenHolidayFlag(0, 0, 0);
+  CalenNoteSet(0, 0, 1, "mine");
+  std::string file = FileBytes(kCalendarFile);
+  file.at(3986 + 2) = before ? 0 : 1;
+  file.at(3986 + 34) = 'x';
+  ASSERT_TRUE(PutFile(kCalendarFile, file));
+  SetFileTime(kCalendarFile, 2000000);
+  Ticks(201);
+  EXPECT_EQ(CalenHolidayFlag(0, 0, 0), !before);
+  char note[kNoteSize + 1];
+  CalenNoteGet(0, 0, 0, note);
+  EXPECT_STREQ(note, "x");
+  CalenNoteGet(0, 0, 1, note);
+  EXPECT_STREQ(note, "mine");
 }
 
 // Behind the sheets (12 blocks of 4672 bytes) and their marks (12 of 10) of all

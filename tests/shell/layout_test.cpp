@@ -187,13 +187,13 @@ TEST_F(LayoutTest, ACalendarThatWasNeverOpenHasTheSizeOfItsPage) {
   Calendar.CalenW = Calendar.CalenH = 0;
   Calendar.CalenPageSize = 0;
   EXPECT_EQ(CalenLayoutWidth(), 150);
-  EXPECT_EQ(CalenLayoutHeight(), 170);
+  EXPECT_EQ(CalenLayoutHeight(), 8 * 12 + 24 + 20);
   Calendar.CalenPageSize = 1;
   EXPECT_EQ(CalenLayoutWidth(), 200);
-  EXPECT_EQ(CalenLayoutHeight(), 220);
+  EXPECT_EQ(CalenLayoutHeight(), 8 * 16 + 24 + 20);
   Calendar.CalenPageSize = 2;
   EXPECT_EQ(CalenLayoutWidth(), 250);
-  EXPECT_EQ(CalenLayoutHeight(), 270);
+  EXPECT_EQ(CalenLayoutHeight(), 8 * 20 + 24 + 20);
   Calendar.CalenPageSize = 1;
 }
 

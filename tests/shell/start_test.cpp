@@ -409,7 +409,7 @@ TEST_F(ProcessEntryTest, ASecondStartInTheSameProcessIsLikeTheFirst) {
   Calendar.CalenPageSize = 2;
   Calendar.CalenShow = 1;
   Clock.ClockX = 5;
-  Mail.MailInterval = 4;
+  Mail.MailMinuteCount = 4;
   Character.StageX = 3;
   Motion.BoredHold = 9;
   OpnHistory.fileCount = 3;
@@ -423,7 +423,7 @@ TEST_F(ProcessEntryTest, ASecondStartInTheSameProcessIsLikeTheFirst) {
   EXPECT_EQ(Calendar.CalenPageSize, 0);
   EXPECT_EQ(Calendar.CalenShow, 0);
   EXPECT_EQ(Clock.ClockX, 0);
-  EXPECT_EQ(Mail.MailInterval, 0);
+  EXPECT_EQ(Mail.MailMinuteCount, 0);
   EXPECT_EQ(Character.StageX, 500);
   EXPECT_EQ(Motion.BoredHold, 0);
   EXPECT_EQ(OpnHistory.fileCount, 0);

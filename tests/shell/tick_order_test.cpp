@@ -17,6 +17,7 @@
 #include "filetools/open/group_open.h"
 #include "filetools/stepped_work.h"
 #include "mail_music/mail/mail.h"
+#include "mail_music/mail/mail_setting.h"
 #include "platform/dialog.h"
 #include "platform/window.h"
 #include "resources/schedule_ids.h"
@@ -121,9 +122,9 @@ TEST_F(TickOrderTest, TheStepsOfATickRunInTheirOrder) {
   Stepped.progressMode = 1;
   Panel.MenuPanelState = 1;
   Panel.MenuCloseCount = 1;
-  Mail.MailCheckOn = true;
+  MailSetting.enabled = 1;
   Mail.MailMinuteCount = 0;
-  Mail.MailInterval = 10;
+  Mail.mailStopped = true;  // no server is asked
   GroupPending();
   Clock.ClockHour12 = 3;  // the clock has another hour to show
   AlarmNow();
@@ -147,7 +148,6 @@ TEST_F(TickOrderTest, TheStepsOfATickRunInTheirOrder) {
   });
   MotionPreviewRun(Program.hMainWnd, 0, Preview::Blink);
 
-  std::erase(heard, "panel close");  // what answers 2079 closes the panel
   EXPECT_EQ(heard, (Words{
                        "main 2373",             // 1
                        "back-up command 2375",  // 2
@@ -166,6 +166,7 @@ TEST_F(TickOrderTest, TheStepsOfATickRunInTheirOrder) {
                        "table paint",  // 17
                        "main 2293",    // 18
                        "main 2254",
+                       "clock close",
                    }));
 }
 
@@ -179,14 +180,26 @@ TEST_F(TickOrderTest, AMatchingAlarmIsSent2336OnceInItsMinute) {
   EXPECT_NE(ClockNotice.hClockNoticeWnd, nullptr);
 }
 
-TEST_F(TickOrderTest, WithNeitherCalendarNorClockNoticeNoAlarmIsLookedFor) {
+TEST_F(TickOrderTest, WithNeitherClockNorCalendarNorClockNoticeNoAlarmIsLookedFor) {
   Ticks(1);
-  Clock.hClockWnd = OpenListener();
   AlarmNow();
   ListenToEverything();
   Ticks(1);
   const Words heard = TakeHeard();
   EXPECT_EQ(std::count(heard.begin(), heard.end(), "main 2336"), 0);
+}
+
+TEST_F(TickOrderTest, WithOnlyTheClockOpenTheAlarmsAreLookedAtAndNotTheDay) {
+  Ticks(1);
+  Clock.hClockWnd = OpenListener();
+  Today.TodayDay = 0;
+  AlarmNow();
+  ListenToEverything();
+  Ticks(3);
+  const Words heard = TakeHeard();
+  EXPECT_EQ(std::count(heard.begin(), heard.end(), "main 2336"), 1);
+  EXPECT_NE(ClockNotice.hClockNoticeWnd, nullptr);
+  Clock.hClockWnd = nullptr;
 }
 
 TEST_F(TickOrderTest, WithOnlyTheClockNoticeOpenDayAndAlarmsAreLookedAt) {
@@ -216,8 +229,8 @@ TEST_F(TickOrderTest, TheChecksOfTheCalendarsStepRunInTheirOrder) {
 
 TEST_F(TickOrderTest, TheMailIsAskedForWhenItsCountIsOver) {
   Ticks(1);
-  Mail.MailCheckOn = true;
-  Mail.MailInterval = 1;
+  MailSetting.enabled = 1;
+  Mail.mailStopped = true;
   Mail.MailMinuteCount = 1;
   ListenToEverything();
   Ticks(5999);

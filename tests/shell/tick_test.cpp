@@ -7,6 +7,7 @@
 #include "filetools/back_up/back_up.h"
 #include "filetools/stepped_work.h"
 #include "mail_music/mail/mail.h"
+#include "mail_music/mail/mail_setting.h"
 #include "platform/window.h"
 #include "schedule/table/row_selection.h"
 #include "schedule/table/table_scroll.h"
@@ -94,8 +95,9 @@ TEST_F(TickTest, SubLevelsDoNotCloseByThemselves) {
 }
 
 TEST_F(TickTest, SixThousandTicksMakeOneUnitOfTheMailInterval) {
-  Mail.MailCheckOn = true;
-  Mail.MailInterval = 2;
+  MailSetting.enabled = 1;
+  MailSetting.intervalIndex = 1;  // two units
+  Mail.mailStopped = true;        // no server is asked
   Mail.MailMinuteCount = 2;
   Ticks(5999);
   EXPECT_EQ(Mail.MailMinuteCount, 2);
@@ -110,15 +112,16 @@ TEST_F(TickTest, SixThousandTicksMakeOneUnitOfTheMailInterval) {
   EXPECT_EQ(Mail.MailMinuteCount, 2);
 }
 
-// An interval of 0 asks in every tick: a count of 0 is not counted down.
-TEST_F(TickTest, AMailIntervalOf0StaysAt0WhenItsUnitIsOver) {
-  Mail.MailCheckOn = true;
-  Mail.MailInterval = 0;
+TEST_F(TickTest, AMailCountOf0IsLoadedAgainInTheSameTick) {
+  MailSetting.enabled = 1;
+  Mail.mailStopped = true;
   Mail.MailMinuteCount = 0;
+  Mail.MailTickCount = 3000;
   ListenToEverything();
-  Ticks(6000);
-  EXPECT_EQ(Mail.MailMinuteCount, 0);
-  EXPECT_EQ(TakeHeard(), Words(6000, "main 2079"));
+  Ticks(5999);
+  EXPECT_EQ(Mail.MailMinuteCount, 1);
+  EXPECT_EQ(Mail.MailTickCount, 5998) << "a whole interval begins";
+  EXPECT_EQ(TakeHeard(), Words{"main 2079"});
 }
 
 TEST_F(TickTest, MailCountersStandStillWhileCheckingIsOff) {

@@ -15,6 +15,7 @@
 #include "filetools/open/group_open.h"
 #include "filetools/stepped_work.h"
 #include "mail_music/mail/mail.h"
+#include "mail_music/mail/mail_setting.h"
 #include "mail_music/music/music.h"
 #include "platform/posix/test_clock.h"
 #include "platform/window.h"
@@ -106,8 +107,8 @@ TEST_F(TickTimerTest, TheFileWatchEndsARestInItsOwnTick) {
 }
 
 TEST_F(TickTimerTest, MailCheckingEndsARestWhenItsUnitIsOver) {
-  Mail.MailCheckOn = true;
-  Mail.MailInterval = 2;
+  MailSetting.enabled = 1;
+  MailSetting.intervalIndex = 1;
   Mail.MailMinuteCount = 2;
   Mail.MailTickCount = 5995;
   Fire();
@@ -163,25 +164,30 @@ TEST_F(TickTimerTest, WorkInTheTickKeepsThePace) {
   const Busy kinds[] = {
       {"back-up", [] { BackUpRun.BackUpActive = true; }, [] { BackUpRun.BackUpActive = false; }},
       {"stepped work", [] { Stepped.progressMode = 3; }, [] { Stepped.progressMode = 0; }},
-      {"a started schedule program", [] { Applications.ApliStarted = 1; },
+      {"a started schedule program",
+       [] {
+         Applications.ApliStarted = 1;
+         PutFile(InProgram("SclApliStUp.svt"), "x");
+         TextCopy(Applications.ApliHandOffFile, sizeof Applications.ApliHandOffFile, "SclApliStUp.svt");
+       },
        [] { Applications.ApliStarted = 0; }},
       {"reopen guard", [] { Panel.MenuReopenGuard = 5; }, [] { Panel.MenuReopenGuard = 0; }},
       {"the panel", [] { Panel.MenuPanelState = 1; }, [] { Panel.MenuPanelState = 0; }},
       {"a mail's walk is wanted",
        [] {
-         Mail.MailCheckOn = true;
-         Mail.MailNoticeFlag = 1;
+         MailSetting.enabled = 1;
+         Walk.mailState = 1;
        },
        [] {
-         Mail.MailCheckOn = false;
-         Mail.MailNoticeFlag = 0;
+         MailSetting.enabled = 0;
+         Walk.mailState = 0;
        }},
       {"a mail check is due",
        [] {
-         Mail.MailCheckOn = true;
+         MailSetting.enabled = 1;
          Mail.MailMinuteCount = 0;
        },
-       [] { Mail.MailCheckOn = false; }},
+       [] { MailSetting.enabled = 0; }},
       {"a pending group", [] { GroupRun.OpnPendingGroup = &group; },
        [] { GroupRun.OpnPendingGroup = nullptr; }},
       {"a walk", [] { Walk.WalkActive = true; }, [] { Walk.WalkActive = false; }},
@@ -200,8 +206,8 @@ TEST_F(TickTimerTest, WorkInTheTickKeepsThePace) {
 TEST_F(TickTimerTest, AnOpenWindowKeepsThePace) {
   for (WindowHandle* handle :
        {&Panel.hDiskMenu, &Dialogs.hMenuDlg, &Dialogs.hToolDlg, &Dialogs.hSubDlg, &Dialogs.hSnryDlg,
-        &Picker.hFilePickDlg, &BackUpRun.hBackUpDlg, &Stepped.hSearchDlg, &Calendar.hCalenWnd,
-        &ClockNotice.hClockNoticeWnd, &SclTable.hSclTableWnd, &SclTable.hPlanWnd, &Music.hBgmWnd}) {
+        &Picker.hFilePickDlg, &BackUpRun.hBackUpDlg, &Stepped.hSearchDlg, &ClockNotice.hClockNoticeWnd,
+        &SclTable.hSclTableWnd, &SclTable.hPlanWnd, &Music.hBgmWnd}) {
     *handle = OpenListener();
     Fire();
     EXPECT_EQ(Period(), 30);
@@ -227,10 +233,27 @@ TEST_F(TickTimerTest, AnOpenNoticeIsDueAtItsNextPicture) {
   }
 }
 
+// Its next day begins with a minute.
+TEST_F(TickTimerTest, AStillCalendarIsDueAtTheNextMinute) {
+  Calendar.hCalenWnd = OpenListener();
+  Calendar.CalenTickerOn = false;
+  TestClockSet({2026, 11, 21, 6, 9, 30, 15, 0});
+  EXPECT_EQ(CalendarDue(), 45000 / 30);
+  EXPECT_EQ(TicksUntilDue(), kStep);
+  TestClockSet({2026, 11, 21, 6, 23, 59, 59, 940});
+  EXPECT_EQ(CalendarDue(), 2) << "60 milliseconds";
+  Calendar.CalenTickerOn = true;
+  EXPECT_EQ(CalendarDue(), 1);
+  WindowDestroy(Calendar.hCalenWnd);
+  Calendar.hCalenWnd = nullptr;
+  EXPECT_EQ(CalendarDue(), kTickNever);
+}
+
 TEST_F(TickTimerTest, AnOpenClockIsDueAtItsNextMinute) {
   EXPECT_EQ(ClockDue(), kTickNever);
   Clock.hClockWnd = OpenListener();
   ClockTimeTake(9, 30);
+  ClockAlarmCheck(9, 30);
   TestClockSet({2026, 11, 21, 6, 9, 30, 15, 0});
   EXPECT_EQ(ClockDue(), 45000 / 30);
   EXPECT_EQ(TicksUntilDue(), kStep);
@@ -245,7 +268,7 @@ TEST_F(TickTimerTest, AnOpenClockIsDueAtItsNextMinute) {
   TestClockSet({2026, 11, 21, 6, 10, 30, 0, 0});
   EXPECT_EQ(ClockDue(), 1) << "another hour";
   TestClockSet({2026, 11, 21, 6, 9, 30, 0, 0});
-  Clock.ClockStrikeOn = true;
+  Clock.strike.on = true;
   EXPECT_EQ(ClockDue(), 1) << "a performance";
   WindowDestroy(Clock.hClockWnd);
 }

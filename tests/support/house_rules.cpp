@@ -40,8 +40,8 @@ const std::vector<Room> kRooms = {
     {"schedule/applications",
      {"schedule/model", "clock_calendar", "character", "world", "services", "platform", "resources"}},
     {"schedule/rates",
-     {"schedule/model", "schedule/applications", "clock_calendar", "character", "world", "services",
-      "platform", "resources"}},
+     {"schedule/model", "schedule/table", "schedule/applications", "clock_calendar", "character", "world",
+      "services", "platform", "resources"}},
     {"schedule/execution",
      {"schedule/model", "schedule/table", "schedule/applications", "clock_calendar", "character", "world",
       "services", "platform", "resources"}},
@@ -137,10 +137,14 @@ std::vector<std::string> Includes(const SourceTree& tree, const std::string& pat
 // --- State
 
 // Whose state may be written by whom, where it is not every file of its own room. The
-// key is the state's instance, the files are units.
+// key is the state's instance, the files are units, or all files of a floor.
 const std::map<std::string, std::vector<std::string>> kOwners = {
     {"Panel", {"shell/DspDiskMenu", "shell/panel_tick"}},
     {"Program", {"shell/start", "shell/shutdown"}},
+    // The tables of a scenario are kept in one room and edited in all of them.
+    {"Scenario", {"scenario/"}},
+    {"SnryMain", {"scenario/"}},
+    {"SnryScene", {"scenario/"}},
 };
 
 // The result of file operations is no feature's: whoever does one leaves its result, and
@@ -168,7 +172,9 @@ bool MayWrite(const std::string& path, const std::string& instance, const State&
   if (kEverybodys.contains(instance)) return true;
   const auto owners = kOwners.find(instance);
   if (owners == kOwners.end()) return LiesIn(path, state.folder) && path.rfind('/') == state.folder.size();
-  return std::find(owners->second.begin(), owners->second.end(), Unit(path)) != owners->second.end();
+  return std::any_of(owners->second.begin(), owners->second.end(), [&](const std::string& owner) {
+    return owner.ends_with("/") ? path.starts_with(owner) : owner == Unit(path);
+  });
 }
 
 int LineOf(const std::string& text, std::size_t at) {

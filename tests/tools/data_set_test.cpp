@@ -20,10 +20,12 @@
 #include "newdata/sound.h"
 #include "platform/posix/posix_paths.h"
 #include "schedule/model/schedule.h"
+#include "schedule/model/scl_file.h"
 #include "schedule/plan/plan.h"
 #include "schedule/plan/plan_file.h"
-#include "tests/support/byte_order.h"
+#include "services/program.h"
 #include "shell/settings.h"
+#include "tests/support/byte_order.h"
 #include "world/world_list.h"
 
 namespace fs = std::filesystem;
@@ -128,6 +130,22 @@ TEST_F(DataSetTest, IsGood) {
   EXPECT_EQ(CheckDataSet(Made("")), std::vector<std::string>{});
 }
 
+// Saturday, 21 November 2026, has three hours of work; Sunday and Monday, a holiday, none.
+TEST_F(DataSetTest, HoldsAScheduleThatBeginsOnItsDate) {
+  char path[kRootPathSize];
+  RootPath(path, sizeof path, "\\スケジュール表\\見本の予定.GPI");
+  ASSERT_EQ(SclLoadFile(path), 0);
+  EXPECT_STREQ(Schedule.SclHeader.title, "見本の予定");
+  EXPECT_EQ(Schedule.SclHeader.count, 31);
+  const SclItemRec* items = Schedule.SclItemTable;
+  EXPECT_EQ(items[0].start, (SclItemDate{26, 10, 20, 9}));
+  EXPECT_EQ(items[0].alarmOn, 1);
+  EXPECT_EQ(items[0].doneState, 1);
+  EXPECT_EQ(items[1].end, (SclItemDate{26, 10, 20, 12}));
+  EXPECT_STREQ(items[11].text, "来月の予定を立てる");
+  EXPECT_EQ(items[12].hours, 0U);
+}
+
 TEST_F(DataSetTest, HoldsEveryFileByItsName) {
   const std::map<std::string, Bytes> files = AllFiles(Made(""));
   std::size_t expected = 4 + 2 + 2 + Sounds().size();  // data files, world list, plans
@@ -135,6 +153,8 @@ TEST_F(DataSetTest, HoldsEveryFileByItsName) {
                            "mirrell_ClcAlmPerFile.clc"}) {
     EXPECT_TRUE(files.contains(name)) << name;
   }
+  ++expected;
+  EXPECT_TRUE(files.contains(Cp932ToUtf8("スケジュール表/見本の予定.GPI")));
   const std::string pictures = Cp932ToUtf8("キャラクタ/");
   for (const CastMember& member : Cast()) {
     const std::string stem = pictures + "Chara" + std::to_string(member.number);
@@ -152,6 +172,9 @@ TEST_F(DataSetTest, HoldsEveryFileByItsName) {
   for (const char* name : {"学習計画.GPP", "筋トレ計画.GPP"}) {
     EXPECT_TRUE(files.contains(Cp932ToUtf8(std::string("計画表/") + name))) << name;
   }
+  for (const Background& background : Backgrounds())
+    EXPECT_TRUE(files.contains(Cp932ToUtf8(std::string("背景/") + background.file))) << background.file;
+  expected += Backgrounds().size();
   EXPECT_EQ(files.size(), expected);
 }
 
@@ -249,9 +272,30 @@ TEST_F(DataSetTest, CalendarFileHoldsThreeCalendars) {
             3986U + 3U * 56064U + 3U * 120U + 3U * 26728U + 302U + 4U + 4U * 104U);
 }
 
+// Every month has a background, a fixed figure and two that move.
+TEST_F(DataSetTest, EveryMonthOfEveryCalendarHasItsPicture) {
+  ASSERT_EQ(CalenFileRead(), 0);
+  const char* const kSeasons[] = {"冬.bmp", "冬.bmp", "春.bmp", "春.bmp", "春.bmp", "夏.bmp",
+                                  "夏.bmp", "夏.bmp", "秋.bmp", "秋.bmp", "秋.bmp", "冬.bmp"};
+  for (int i = 0; i < 3; ++i) {
+    for (int month = 0; month < 12; ++month) {
+      const CalenMonthPicture& picture = Calendar.CalenSheets[i][month].picture;
+      EXPECT_EQ(picture.pictureOn, 1);
+      EXPECT_STREQ(picture.background, kSeasons[month]);
+      for (int place = 0; place < 3; ++place)
+        EXPECT_NE(Calendar.CalenDefinitions[i].charas[month][place], 0) << i << " " << month << " " << place;
+    }
+  }
+}
+
+TEST_F(DataSetTest, CheckFindsAMissingBackground) {
+  Remove(Made("") / u8"背景" / u8"春.bmp");
+  EXPECT_TRUE(HasFault(Cp932ToUtf8("calendar 1, month 3: the background 春.bmp is not there")));
+}
+
 TEST_F(DataSetTest, ClockAlarmFileHoldsThreePerformances) {
   EXPECT_EQ(ClockAlarmFileRead(), 0);
-  EXPECT_EQ(Clock.ClockPerformanceCount, 3);
+  EXPECT_EQ(PerformanceTable.ClockPerformanceCount, 3);
   EXPECT_EQ(fs::file_size(Made("mirrell_ClcAlmPerFile.clc")), 29U + 3U * 2008U);
 }
 

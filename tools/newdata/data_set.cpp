@@ -16,6 +16,7 @@
 #include "newdata/world_list_file.h"
 #include "platform/posix/posix_paths.h"
 #include "platform/posix/test_clock.h"
+#include "schedule/model/scl_file.h"
 #include "services/data_file.h"
 #include "services/program.h"
 #include "services/text.h"
@@ -64,6 +65,14 @@ void StillFigures() {
         Calendar.CalenFigPeriod, Calendar.CalenFigStep, Calendar.CalenFigTurn, Calendar.CalenFigDir);
 }
 
+// The samples that a user finds when a file is to be loaded.
+void WriteSamples(const DataSetDate& date) {
+  char path[kRootPathSize];
+  RootPath(path, sizeof path, "\\スケジュール表\\見本の予定.GPI");
+  FillSchedule(date.year, date.month, date.day);
+  Demand(SclSaveFile(path), "見本の予定.GPI");
+}
+
 void WriteDataFiles(const DataSetDate& date) {
   TestClockSet(LocalTime{date.year, date.month, date.day, 0, 0, 0, 0, 0});
   SetDateDefaults();
@@ -82,6 +91,7 @@ void WriteDataFiles(const DataSetDate& date) {
   TakeFirstCharacter();
   Demand(CalenFileWrite(), "mirrell_calen_file.dcd");
   Demand(ClockAlarmFileWrite(), "mirrell_ClcAlmPerFile.clc");
+  WriteSamples(date);
   Demand(SysFileWrite(), "mirrell_sys_file.svs");
 }
 
@@ -102,10 +112,14 @@ void MakeDataSet(const std::filesystem::path& folder, const std::filesystem::pat
   std::filesystem::create_directories(characters);
   std::filesystem::create_directories(sounds);
   std::filesystem::create_directories(folder / kPlanFolder);
+  std::filesystem::create_directories(folder / kScheduleFolder);
   WriteCharacters(assets / "characters", characters);
   WriteHostFile(characters / "EDTCFLAG.edf", WorldFlagFile(Cast()));
   WriteHostFile(characters / "EDTCDATA.edf", WorldDataFile(Cast()));
   WriteSounds(assets / "sounds", sounds);
+  const std::filesystem::path backgrounds = folder / kBackgroundFolder;
+  std::filesystem::create_directories(backgrounds);
+  WriteBackgrounds(assets / "backgrounds", backgrounds);
   UseProgramFolder(folder);
   WriteDataFiles(date);
 }

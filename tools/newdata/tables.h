@@ -14,3 +14,6 @@ void FillClocks();
 // with the public holidays and the stickers. The holidays that no rule can tell
 // are flagged in the years of the working array.
 void FillCalendars(int year);
+
+// A schedule of a few weeks from that date on, with alarms.
+void FillSchedule(int year, int month, int day);

@@ -10,6 +10,7 @@
 #include <cstdint>
 
 #include "character/alarm_images.h"
+#include "character/walk.h"
 #include "clock_calendar/calendar/calendar.h"
 #include "clock_calendar/clock/clock.h"
 #include "mail_music/mail/mail.h"
@@ -34,8 +35,8 @@ void FillMail() {
   TextCopy(MailSetting.comment, sizeof MailSetting.comment, "新しいお便りが届いています");
   MailSetting.animeOn = 1;
   Mail.MailMinuteCount = INT32_MAX;  // no server is asked
-  Mail.MailCheckOn = true;
-  Mail.MailNoticeFlag = 1;
+  MailSetting.enabled = 1;
+  WalkMailStateSet(kMailSeen);
 }
 
 void FillSchedule() {

@@ -10,10 +10,12 @@
 #include <cstdint>
 
 #include "clock_calendar/calendar/calendar_records.h"
+#include "platform/time.h"
 #include "platform/types.h"
 #include "services/scl_date.h"
 
 inline constexpr int kCalenYearMax = 3;
+inline constexpr int kCalenDayMax = 31;   // days of a month
 inline constexpr int kFigureCopies = 30;  // copies of each moving figure that the settings hold
 
 // Rule kinds: the low five bits, and two flags. A byte of 128 or more is passed
@@ -118,6 +120,9 @@ void CalenTickerSetup();
 
 // --- The month on show.
 
+// Asks for today's date and puts its month on display, and its year if the span has it: for
+// a dialog that opens without the window.
+void CalenTodayTake();
 // Puts the year and month of today on display, moving the span there if it lies
 // outside, and loads the pictures. The calendar window calls it when it opens.
 void CalenShowToday();
@@ -192,6 +197,21 @@ struct CalendarState {
   std::int32_t CalenMonthPos = 0;           // the month on display, 0 to 11
   CalenNote CalenNotes[kNoteDays] = {};
   WindowHandle hCalenWnd = nullptr;  // FlyingBat3
+  std::int32_t CalenDayOffset = 0;   // the week and day page's distance from today, in days
+  std::int32_t CalenMemoDay = 0;     // the day of the memo panel, from 1; 0 for none
+  std::int32_t CalenPointedDay = 0;  // the day under the pointer, from 1; 0 for none
+  // The two hit tables: where the cell of each day stands in the window, -1 for none; and
+  // the size of a cell, 0 by 0 before the first painting.
+  std::int32_t CalenHitX[kCalenDayMax] = {};
+  std::int32_t CalenHitY[kCalenDayMax] = {};
+  std::int32_t CalenHitWidth = 0;
+  std::int32_t CalenHitHeight = 0;
+  // The days with notes from today onward, as the last painting has found them.
+  std::int32_t CalenNearDays[kCalenDayMax] = {};
+  std::int32_t CalenNearCount = 0;
+  std::int32_t tickerRests = 0;      // of the pause that runs
+  std::int32_t tickerTicks = 0;      // of the rest that runs
+  std::int32_t tickerPosition = 0;   // steps that the text has run
   std::int32_t CalenClickedDay = 0;  // the day of the popup menu, from 1; 0 for none
   std::int32_t figureWaits[kFigureCount] = {};
   SclDate notesLookedAt = {};  // the day that the marks are of
@@ -205,6 +225,8 @@ extern CalendarState Calendar;
 int CalenNoteCheck();
 // True while a note waits in CalenNotes.
 bool CalenNoteWaits();
+// Whether the check has nothing more to find on this day.
+bool CalenNotesAreDone(const LocalTime& now);
 // Takes the first waiting note out of CalenNotes, to be announced by command 2294. Returns its place, -1 for
 // none.
 int CalenNoteTake();
@@ -214,3 +236,12 @@ void CalenPlaceSet(std::int32_t x, std::int32_t y);
 
 // The popup menu's day, from 1; 0 for none.
 void CalenClickedDaySet(std::int32_t day);
+
+// Makes another calendar (from 0) the selected one: its page kind, its sheet over the
+// working array, its definition. A place that no calendar has changes nothing.
+void CalenSelect(int place);
+
+// Takes over into the first year of the working array what of the selected calendar's
+// sheet is no longer as in `before`: the holiday flags and the notes of its days. For a
+// calendar file that another program has written.
+void CalenSheetChangesTake(const CalenMonth (&before)[kMonthsOfYear]);

@@ -5,6 +5,7 @@
 #include "clock_calendar/calendar/calendar_picture.h"
 #include "clock_calendar/calendar/calendar_size.h"
 #include "services/random.h"
+#include "services/tick_step.h"
 #include "world/world_list.h"
 
 namespace {
@@ -37,8 +38,6 @@ const Way& WayOf(int direction) {
 
 // Where a figure comes in from that has left the page.
 constexpr std::int32_t kOutside = -300;
-
-// Ticks until the next move.
 
 const CalenMonthPicture& MonthPicture() {
   return Calendar.CalenMonths[CalenYearShown()][Calendar.CalenMonthPos].picture;
@@ -91,6 +90,12 @@ bool MoveCopy(int figure, int copy) {
   position[0] = moved(position[0], way.x);
   position[1] = moved(position[1], way.y);
   return true;
+}
+
+// A figure whose moves are counted down to.
+bool Counts(int figure) {
+  return Calendar.CalenPictureOn != 0 && CalendarPictures.CalenFigures[figure].picture &&
+         Calendar.CalenFigPeriod[figure] > 0;
 }
 
 // The places of a character's named frames, up to `most`; returns how many.
@@ -160,9 +165,7 @@ void CalenFigurePlace(int figure) {
 bool CalenFiguresMove() {
   bool moved = false;
   for (int figure = 0; figure < kFigureCount; ++figure) {
-    if (Calendar.CalenPictureOn == 0 || !CalendarPictures.CalenFigures[figure].picture ||
-        Calendar.CalenFigPeriod[figure] <= 0)
-      continue;
+    if (!Counts(figure)) continue;
     if (--Calendar.figureWaits[figure] > 0) continue;
     Calendar.figureWaits[figure] = Calendar.CalenFigPeriod[figure];
     const int copies = std::min<int>(Calendar.CalenFigCount[figure], kFigureCopies);
@@ -172,4 +175,18 @@ bool CalenFiguresMove() {
     }
   }
   return moved;
+}
+
+int CalenFiguresDue() {
+  int due = kTickNever;
+  for (int figure = 0; figure < kFigureCount; ++figure) {
+    if (Counts(figure)) due = std::min(due, std::max<int>(Calendar.figureWaits[figure], 1));
+  }
+  return due;
+}
+
+Point CalenFigureAt(int figure) {
+  const CalenMonthPicture& month = MonthPicture();
+  const std::int32_t* at = PositionOf(figure, 0);
+  return {at[0] + month.correctX[figure], at[1] + month.correctY[figure]};
 }

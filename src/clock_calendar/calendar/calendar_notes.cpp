@@ -45,6 +45,16 @@ bool Announce(int slot, const Day& day) {
   return true;
 }
 
+bool LookedAt(const SclDate& day) {
+  return day.year == Calendar.notesLookedAt.year && day.month == Calendar.notesLookedAt.month &&
+         day.day == Calendar.notesLookedAt.day;
+}
+
+// The marks that the mode asks for: of today, of tomorrow, of the day after it.
+int MarksAskedFor() {
+  return std::clamp<int>(Calendar.CalenNoteMode, 0, kNoteDays);
+}
+
 }  // namespace
 
 int CalenNoteCheck() {
@@ -54,8 +64,7 @@ int CalenNoteCheck() {
   const SclDate today = {now.year - 2000, now.month - 1, now.day - 1, 0};
   const int yearIndex = CalenSpanIndex(today.year);
   if (yearIndex < 0) return 0;
-  if (today.year != Calendar.notesLookedAt.year || today.month != Calendar.notesLookedAt.month ||
-      today.day != Calendar.notesLookedAt.day) {
+  if (!LookedAt(today)) {
     Calendar.notesLookedAt = today;
     for (bool& mark : Calendar.notesDone) mark = false;
   }
@@ -84,4 +93,12 @@ int CalenNoteTake() {
     return slot;
   }
   return -1;
+}
+
+bool CalenNotesAreDone(const LocalTime& now) {
+  const SclDate today = {now.year - 2000, now.month - 1, now.day - 1, 0};
+  if (CalenSpanIndex(today.year) < 0) return true;
+  return LookedAt(today) && !CalenNoteWaits() &&
+         std::all_of(Calendar.notesDone, Calendar.notesDone + MarksAskedFor(),
+                     [](bool done) { return done; });
 }

@@ -1,5 +1,9 @@
 #include "clock_calendar/calendar/calendar_picture.h"
 
+#include <algorithm>
+#include <iterator>
+
+#include "character/alarm_images.h"
 #include "character/frames.h"
 #include "clock_calendar/calendar/calendar.h"
 #include "clock_calendar/calendar/calendar_window.h"
@@ -10,30 +14,66 @@ CalendarPicturesState CalendarPictures;
 
 namespace {
 
-void PictureFree(CalenPicture& item) {
-  DibFree(item.picture);
-  DibFree(item.mask);
-  item = CalenPicture{};
+void StickersFree(CalendarPicturesState& of) {
+  for (CalenPicture& sticker : of.CalenDayStickers) CalenPictureFree(sticker);
+  for (auto& set : of.CalenDigits) {
+    for (CalenPicture& digit : set) CalenPictureFree(digit);
+  }
 }
 
-// Loads a frame (from 0) of a character (from 1).
-void PictureLoad(CalenPicture& item, int chara, int frame) {
-  item.picture = DibLoad(CharaBmpPath(chara - 1, frame));
-  item.mask = DibLoad(CharaMaskPath(chara - 1, frame));
-  DibApplyMask(item.picture, item.mask);
+void FiguresFree(CalendarPicturesState& of) {
+  DibFree(of.CalenBackground);
+  of.CalenBackground = nullptr;
+  for (CalenPicture& figure : of.CalenFigures) CalenPictureFree(figure);
 }
 
-void StickersFree() {
-  for (CalenPicture& sticker : CalendarPictures.CalenDayStickers) PictureFree(sticker);
+void FigureLoad(CalendarPicturesState& to, int month, int place) {
+  const CalenDefinition& definition = CalenSelectedDefinition();
+  const int chara = definition.charas[month][place];
+  if (chara == 0) return;
+  const int frame =
+      CalenFigureChoice(chara, definition.figures[month][place], definition.figureModes[month][place]);
+  CalenPictureLoad(to.CalenFigures[place], chara, frame);
 }
 
-void MonthPicturesFree() {
-  DibFree(CalendarPictures.CalenBackground);
-  CalendarPictures.CalenBackground = nullptr;
-  for (CalenPicture& figure : CalendarPictures.CalenFigures) PictureFree(figure);
+void FiguresLoad(CalendarPicturesState& to, int yearIndex, int month) {
+  FiguresFree(to);
+  const CalenMonthPicture& picture = Calendar.CalenMonths[yearIndex][month].picture;
+  if (picture.pictureOn != 0) {
+    CalenBackgroundLoad(to, picture);
+    for (int place = 0; place < kFigurePlaces; ++place) FigureLoad(to, month, place);
+  }
+  const CalenDefinition& definition = CalenSelectedDefinition();
+  to.CalenFixedFigure = {definition.startX[month][kFigureCount], definition.startY[month][kFigureCount]};
 }
 
-void BackgroundLoad(const CalenMonthPicture& month) {
+void DigitsLoad(CalendarPicturesState& to) {
+  constexpr int kDesignOfFigures = 2;
+  const CalenDefinition& definition = CalenSelectedDefinition();
+  const int sets[kDigitSets] = {definition.figureSet1, definition.figureSet2};
+  if (definition.design < kDesignOfFigures) return;
+  for (int set = 0; set < kDigitSets; ++set) {
+    if (sets[set] == 0) continue;
+    for (int digit = 0; digit < kDigitCount; ++digit)
+      CalenPictureLoad(to.CalenDigits[set][digit], sets[set], digit);
+  }
+}
+
+void StickersLoad(CalendarPicturesState& to, int month) {
+  StickersFree(to);
+  const auto& days = CalenSelectedDefinition().stickers[month];
+  for (int day = 0; day < kStickerDays; ++day) {
+    int chara = 0;
+    int figure = 0;
+    CalenSticker(days[day] - 1, &chara, &figure);
+    if (chara != 0) CalenPictureLoad(to.CalenDayStickers[day], chara, figure);
+  }
+  DigitsLoad(to);
+}
+
+}  // namespace
+
+void CalenBackgroundLoad(CalendarPicturesState& to, const CalenMonthPicture& month) {
   char name[kMonthBackgroundMax + 1];
   TextCopy(name, sizeof name, month.background);
   if (month.colourOnly != 0 || name[0] == '\0') return;
@@ -41,20 +81,35 @@ void BackgroundLoad(const CalenMonthPicture& month) {
   const bool fullPath = name[0] == '\\' || name[1] == ':';
   if (!fullPath) RootPath(path, sizeof path, "\\背景\\");
   TextAppend(path, sizeof path, name);
-  CalendarPictures.CalenBackground = DibLoad(path);
+  to.CalenBackground = DibLoad(path);
 }
 
-void FigureLoad(int place) {
-  const CalenDefinition& definition = CalenSelectedDefinition();
-  const int month = Calendar.CalenMonthPos;
-  const int chara = definition.charas[month][place];
-  if (chara == 0) return;
-  const int frame =
-      CalenFigureChoice(chara, definition.figures[month][place], definition.figureModes[month][place]);
-  PictureLoad(CalendarPictures.CalenFigures[place], chara, frame);
+void CalenPictureDraw(Canvas* canvas, const CalenPicture& item, Point at) {
+  if (item.picture) MaskedDraw(canvas, at.x, at.y, item.picture, item.mask);
 }
 
-}  // namespace
+void CalenPictureFree(CalenPicture& item) {
+  DibFree(item.picture);
+  DibFree(item.mask);
+  item = CalenPicture{};
+}
+
+void CalenPictureLoad(CalenPicture& item, int chara, int frame) {
+  CalenPictureFree(item);
+  item.picture = DibLoad(CharaBmpPath(chara - 1, frame));
+  item.mask = DibLoad(CharaMaskPath(chara - 1, frame));
+  DibApplyMask(item.picture, item.mask);
+}
+
+void CalenMonthPicturesLoad(CalendarPicturesState& to, int yearIndex, int month) {
+  StickersLoad(to, month);
+  FiguresLoad(to, yearIndex, month);
+}
+
+void CalenMonthPicturesFree(CalendarPicturesState& pictures) {
+  StickersFree(pictures);
+  FiguresFree(pictures);
+}
 
 int CalenPictureHeight() {
   if (Calendar.CalenPictureOn == 0) return 0;
@@ -63,31 +118,16 @@ int CalenPictureHeight() {
 }
 
 void CalenPicturesLoad() {
-  MonthPicturesFree();
-  const int month = Calendar.CalenMonthPos;
-  const CalenMonthPicture& picture = Calendar.CalenMonths[CalenYearShown()][month].picture;
-  if (picture.pictureOn != 0) {
-    BackgroundLoad(picture);
-    for (int place = 0; place < kFigurePlaces; ++place) FigureLoad(place);
-  }
-  const CalenDefinition& definition = CalenSelectedDefinition();
-  CalendarPictures.CalenFixedFigure = {definition.startX[month][kFigureCount],
-                                       definition.startY[month][kFigureCount]};
+  FiguresLoad(CalendarPictures, CalenYearShown(), Calendar.CalenMonthPos);
+  const CalenMonthPicture& month = Calendar.CalenMonths[CalenYearShown()][Calendar.CalenMonthPos].picture;
+  std::copy_n(month.backColour, std::size(month.backColour), Calendar.CalenBackColour);
   CalenFiguresSetup();
 }
 
 void CalenStickersPrepare() {
-  StickersFree();
-  const auto& days = CalenSelectedDefinition().stickers[Calendar.CalenMonthPos];
-  for (int day = 0; day < kStickerDays; ++day) {
-    int chara = 0;
-    int figure = 0;
-    CalenSticker(days[day] - 1, &chara, &figure);
-    if (chara != 0) PictureLoad(CalendarPictures.CalenDayStickers[day], chara, figure);
-  }
+  StickersLoad(CalendarPictures, Calendar.CalenMonthPos);
 }
 
 void CalenStickersFree() {
-  StickersFree();
-  MonthPicturesFree();
+  CalenMonthPicturesFree(CalendarPictures);
 }

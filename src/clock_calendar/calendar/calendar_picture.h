@@ -5,6 +5,7 @@
 #include <cstdint>
 
 #include "clock_calendar/calendar/calendar.h"
+#include "platform/canvas.h"
 #include "services/dib.h"
 
 // A picture with its mask, the mask applied.
@@ -17,13 +18,33 @@ struct CalenPicture {
 inline constexpr int kFigurePlaces = 3;
 inline constexpr int kStickerDays = 31;
 
+inline constexpr int kDigitSets = 2;
+inline constexpr int kDigitCount = 10;
+
 struct CalendarPicturesState {
   ImageHandle CalenBackground = nullptr;
   CalenPicture CalenFigures[kFigurePlaces] = {};
   Point CalenFixedFigure = {};
   CalenPicture CalenDayStickers[kStickerDays] = {};  // by the day from 0
+  // The digits of a page that writes with figures: of plain days, and of those in colour.
+  CalenPicture CalenDigits[kDigitSets][kDigitCount] = {};
 };
-extern CalendarPicturesState CalendarPictures;
+extern CalendarPicturesState CalendarPictures;  // of the month on the desktop
+
+// Draws a picture over what is there, by its mask; nothing without a picture.
+void CalenPictureDraw(Canvas* canvas, const CalenPicture& item, Point at);
+
+// Loads a frame (from 0) of a character (from 1) with its mask in place of what is there;
+// frees it.
+void CalenPictureLoad(CalenPicture& item, int chara, int frame);
+void CalenPictureFree(CalenPicture& item);
+
+// Loads all pictures of a month of the working array in place of what is there: for a
+// preview, whose pictures are its own; frees them.
+void CalenMonthPicturesLoad(CalendarPicturesState& to, int yearIndex, int month);
+void CalenMonthPicturesFree(CalendarPicturesState& pictures);
+// Loads the background that a month's settings name, if they want one.
+void CalenBackgroundLoad(CalendarPicturesState& to, const CalenMonthPicture& month);
 
 // Height of the part of the page that pictures stand in, by the page size; 0 while
 // CalenPictureOn is not set.
@@ -38,7 +59,7 @@ void CalenFiguresSetup();
 // Puts a moving figure (0 or 1) at the start that the definition gives it, in the
 // direction that the month gives it.
 void CalenFigurePlace(int figure);
-// Loads the pictures of the stickers of the month on display.
+// Loads the pictures of the stickers of the month on display, and the page's digits.
 void CalenStickersPrepare();
 
 // The figure that a place of the page shows: the stored one, or with mode 1 and 2
@@ -53,3 +74,8 @@ int CalenStepOf(int code, int height);
 
 // Moves the figures of the page by one tick. True when one has moved.
 bool CalenFiguresMove();
+// In how many ticks the next figure moves; kTickNever when none does.
+int CalenFiguresDue();
+
+// Where a moving figure (0 or 1) stands, its correction by the month included.
+Point CalenFigureAt(int figure);

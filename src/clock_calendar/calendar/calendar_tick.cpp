@@ -33,6 +33,13 @@ void LoadMonth() {
 
 }  // namespace
 
+void CalenTodayTake() {
+  LocalTime now;
+  TimeGetLocal(&now);
+  TodaySet(now);
+  DisplayTodayInSpan();
+}
+
 void CalenTakeDefinition() {
   CalenTickerSetup();
   DisplayTodayInSpan();

@@ -119,3 +119,24 @@ void CalenUseSheet() {
   }
   Calendar.CalenPictures[sel] = 1;
 }
+
+void CalenSelect(int place) {
+  if (place < 0 || place >= kCalenMax || place >= Calendar.CalenCount) return;
+  Calendar.CalenSel = place;
+  Calendar.CalenKind = Calendar.CalenKinds[place];
+  CalenUseSheet();
+  Calendar.CalenPictureOn = Calendar.CalenPictures[place];
+  CalenTakeDefinition();
+}
+
+void CalenSheetChangesTake(const CalenMonth (&before)[kMonthsOfYear]) {
+  for (int month = 0; month < kMonthsOfYear; ++month) {
+    const CalenMonth& sheet = Calendar.CalenSheets[CalenSelected()][month];
+    CalenMonth& working = Calendar.CalenMonths[0][month];
+    for (int day = 0; day < kMonthDayMax; ++day) {
+      if (sheet.holidays[day] != before[month].holidays[day]) working.holidays[day] = sheet.holidays[day];
+      if (std::strcmp(sheet.notes[day], before[month].notes[day]) != 0)
+        std::memcpy(working.notes[day], sheet.notes[day], sizeof working.notes[day]);
+    }
+  }
+}

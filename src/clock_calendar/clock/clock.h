@@ -6,15 +6,13 @@
 
 #include "character/character_tables.h"
 #include "clock_calendar/clock/clock_records.h"
+#include "clock_calendar/clock/clock_strike.h"
 #include "platform/types.h"
 
 // --- Settings, kept in the settings file.
 
-inline constexpr int kClockSoundSize = 300;
 inline constexpr int kClockReservedCount = 3;
 inline constexpr int kClockNone = 255;  // no design is selected
-
-enum ClockStrike { kStrikeNever = 0, kStrikeEveryHour = 1, kStrikeAtTwelve = 2 };
 
 inline constexpr int kAlarmSlotCount = 5;
 
@@ -22,6 +20,20 @@ inline constexpr int kAlarmSlotCount = 5;
 
 inline constexpr int kPerformanceMax = 50;
 inline constexpr int kPerformanceDefaultCount = 3;
+
+// In a state of its own: it is large, and all of it begins as zero.
+struct PerformanceTableState {
+  std::int32_t ClockPerformanceCount = 0;
+  ClockPerformance ClockPerformances[kPerformanceMax] = {};
+};
+extern PerformanceTableState PerformanceTable;
+
+// How many performances are in use, and the number of the one at a place among them;
+// 0 for a place that there is not.
+int PerformancesInUse();
+int PerformanceAt(int place);
+// The place of a number among them; -1 for one that is not in use.
+int PerformancePlace(int number);
 
 // Reads mirrell_ClcAlmPerFile.clc; after a good read the default records and
 // their count stand in the table all the same. Returns FileStatus: 0, -1 when
@@ -83,6 +95,12 @@ struct ClockHandShape {
   Point points[kHourPositions][kHandPoints];
 };
 
+struct ClockHandsState {
+  ClockHandShape ClockHourHand = {};
+  ClockHandShape ClockMinuteHand = {};
+};
+extern ClockHandsState ClockHands;
+
 // Makes the wanted design the current one: takes its hands, centre, colours and
 // strike tables, and turns the outlines. Nothing happens while the current one
 // is the wanted one already. A number without a design becomes the current
@@ -92,9 +110,12 @@ void ClockActivate();
 // none, and the design is taken again.
 void ClockReactivate();
 
-// Sets strike mode, repeat, sound flag and sound file as the design of that
-// place has them. False when there is no such design.
-bool ClockDesignDefaults(int place);
+// The design of that place; null when there is none.
+const ClockDesignRow* ClockDesignAt(int place);
+
+// Strike mode, repeat, sound flag and sound file as the design of that place has
+// them. False, with the settings as they were, when there is no such design.
+bool ClockDesignDefaults(int place, ClockStrikeSettings& settings);
 
 // The name of a design, or that of its character where it has none; empty when
 // there is no such design. At most 64 bytes.
@@ -123,9 +144,6 @@ int ClockStrikeFigure();
 // window must be drawn again.
 int ClockTickCheck(int hour, int minute);
 
-// Ends a performance.
-void ClockStrikeClear();
-
 // --- Alarms.
 
 struct ClockState {
@@ -144,44 +162,43 @@ struct ClockState {
   std::int32_t ClockShowWanted = 0;
   std::int32_t ClockWanted = kClockNone;
   AlarmSlot ClockEvents[kAlarmSlotCount] = {};
-  std::int32_t ClockPerformanceCount = 0;
-  ClockPerformance ClockPerformances[kPerformanceMax] = {};
   std::int32_t ClockListCount = 0;
   ClockListRow ClockList[kClockDesignMax] = {};
   std::int32_t ClockHandKind = -1;  // ClockHand; -1 while no design is in force
   Point ClockCentre = {};
   Colour ClockHandColour = 0;
   Colour ClockFaceColour = 0;  // never the hand's colour
-  ClockHandShape ClockHourHand = {};
-  ClockHandShape ClockMinuteHand = {};
   std::uint16_t ClockStrikeDelay[kStrikeSteps] = {};
   unsigned char ClockHourFigures[kStrikeHours][kStrikeSteps] = {};
   std::int32_t ClockHour = 0;    // 0 to 23
   std::int32_t ClockHour12 = 0;  // the same modulo 12
   std::int32_t ClockMinute = 0;
-  bool ClockStrikeOn = false;
-  std::int32_t ClockStrikeStep = 0;     // 0 to 6
-  std::int32_t ClockStrikeRepeats = 0;  // passes left
   // Slot (from 0) whose alarm is being shown, -1 for none.
   std::int32_t ClockAlarmSlot = -1;
-  WindowHandle hClockWnd = nullptr;       // FlyingBat6
-  unsigned char* previewImage = nullptr;  // of a performance that is being looked at
-  std::int32_t comparedHour = -1;         // of the alarms' last look
+  WindowHandle hClockWnd = nullptr;  // FlyingBat6
+  std::int32_t comparedHour = -1;    // of the alarms' last look
   std::int32_t comparedMinute = -1;
-  int firedLast = -1;                              // slot that fired last; -1 for none
-  unsigned char strikeFigures[kStrikeSteps] = {};  // of the hour that strikes
-  std::int32_t strikeWait = 0;
-  int firstStep = -1;  // with a figure; -1 for none
-  int lastStep = -1;
-  int adustSecond = -1;  // of the day, that WatchAdustDlg shows; -1 for none
+  int firedLast = -1;      // slot that fired last; -1 for none
+  ClockStrikePlay strike;  // the performance of the hour
+  int adustSecond = -1;    // of the day, that WatchAdustDlg shows; -1 for none
 };
 extern ClockState Clock;
+
+// What the settings say of the hourly performance, and taking it over.
+ClockStrikeSettings ClockStrikeSettingsNow();
+void ClockStrikeSettingsSet(const ClockStrikeSettings& settings);
+
+// Takes over the five alarms, and forgets which of them fired last.
+void ClockAlarmsSet(const AlarmSlot (&slots)[kAlarmSlotCount]);
 
 // Compares the time with the five alarms, once for each minute. Returns 1 when
 // an alarm matches; ClockAlarmSlot is the slot then.
 int ClockAlarmCheck(int hour, int minute);
 // Forgets the minute that was compared last.
 void ClockAlarmCheckReset();
+
+// Chooses what the clock notice plays without an alarm: the number of a performance.
+void ClockEventChoose(int number);
 
 // --- Timed events, for as long as the program runs.
 
@@ -205,6 +222,12 @@ bool TimedDelete(int row);
 
 // Gives the clock a place on the screen; its window moves when it is opened anew.
 void ClockPlaceSet(std::int32_t x, std::int32_t y);
+
+// Whether the clock is to stand on the desktop, and in which design; ClockWantedTake
+// makes that so, ClockWantedDrop goes back to what is.
+void ClockWantedSet(bool show, int design);
+void ClockWantedTake();
+void ClockWantedDrop();
 
 // How many rows of ClockList are in use.
 void ClockListCountSet(std::int32_t count);

@@ -1,5 +1,10 @@
 // The five alarms, looked at once in every minute.
 #include "clock_calendar/clock/clock.h"
+#include "clock_calendar/clock/clock_notice.h"
+#include "clock_calendar/clock/minute_due.h"
+#include "clock_calendar/clock/performance.h"
+#include "services/commands.h"
+#include "services/today.h"
 
 namespace {
 constexpr int kNone = -1;
@@ -22,6 +27,23 @@ int ClockAlarmCheck(int hour, int minute) {
   return 0;
 }
 
+void ClockAlarmTick() {
+  if (ClockAlarmCheck(Today.SharedTime.hour, Today.SharedTime.minute) != 0)
+    CommandSend(Command::ClockNoticeOpen);
+  if (ClockNotice.hClockNoticeWnd && ClockNoticeWaitIsOver())
+    CommandSendTo(ClockNotice.hClockNoticeWnd, Command::NextStep);
+}
+
+int ClockAlarmDue() {
+  const bool waits = ClockNotice.hClockNoticeWnd && Performance.wait != PerformanceWait::None;
+  return waits ? 1 : TicksToMinuteAfter(Clock.comparedHour, Clock.comparedMinute);
+}
+
 void ClockAlarmCheckReset() {
   Clock.comparedHour = Clock.comparedMinute = kNone;
+}
+
+void ClockEventChoose(int number) {
+  Clock.ClockAlarmSlot = -1;
+  Performance.PerformanceActive = number;
 }

@@ -34,9 +34,9 @@ constexpr DefaultRecord kDefaults[kPerformanceDefaultCount] = {
 // kept: what a file holds never reaches the program; the default records stand
 // in the table after every read and before every write.
 void PutDefaults() {
-  Clock.ClockPerformanceCount = kPerformanceDefaultCount;
+  PerformanceTable.ClockPerformanceCount = kPerformanceDefaultCount;
   for (int i = 0; i < kPerformanceDefaultCount; ++i) {
-    ClockPerformance& record = Clock.ClockPerformances[i];
+    ClockPerformance& record = PerformanceTable.ClockPerformances[i];
     const DefaultRecord& value = kDefaults[i];
     record = ClockPerformance{};
     record.flags = kPerformanceCharacter;
@@ -81,8 +81,9 @@ int ClockAlarmFileWrite() {
   DataFile data;
   if (!DataReplace(data, path)) return FileResult.FileStatus;
   DataWrite(data, kMagic, kMagicSize);
-  DataWriteBE32(data, static_cast<std::uint32_t>(Clock.ClockPerformanceCount));
-  if (!RecordsWrite(data, Clock.ClockPerformances, Clock.ClockPerformanceCount)) return DataFailStatus(data);
+  DataWriteBE32(data, static_cast<std::uint32_t>(PerformanceTable.ClockPerformanceCount));
+  if (!RecordsWrite(data, PerformanceTable.ClockPerformances, PerformanceTable.ClockPerformanceCount))
+    return DataFailStatus(data);
   DataClose(data);
   return 0;
 }

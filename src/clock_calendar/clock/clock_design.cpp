@@ -142,8 +142,8 @@ void TakeWanted() {
   }
   std::memcpy(Clock.ClockStrikeDelay, fields.strikeDelay, sizeof Clock.ClockStrikeDelay);
   std::memcpy(Clock.ClockHourFigures, fields.hourFigures, sizeof Clock.ClockHourFigures);
-  Turn(HourOutline(Clock.ClockHandKind, fields.hourLength), kHourPositions, Clock.ClockHourHand);
-  Turn(MinuteOutline(Clock.ClockHandKind, fields.minuteLength), kMinutePositions, Clock.ClockMinuteHand);
+  Turn(HourOutline(Clock.ClockHandKind, fields.hourLength), kHourPositions, ClockHands.ClockHourHand);
+  Turn(MinuteOutline(Clock.ClockHandKind, fields.minuteLength), kMinutePositions, ClockHands.ClockMinuteHand);
 }
 
 }  // namespace
@@ -157,14 +157,18 @@ void ClockReactivate() {
   TakeWanted();
 }
 
-bool ClockDesignDefaults(int place) {
+const ClockDesignRow* ClockDesignAt(int place) {
+  return DesignAt(place);
+}
+
+bool ClockDesignDefaults(int place, ClockStrikeSettings& settings) {
   const ClockDesignRow* row = DesignAt(place);
   if (!row) return false;
   const ClockDesignRecord& fields = row->record;
-  Clock.ClockStrikeMode = fields.strikeMode;
-  Clock.ClockStrikeSel = fields.repeat != 0 ? 1 : 0;
-  Clock.ClockSoundOn = fields.soundOn != 0 ? 1 : 0;
-  TextPut(Clock.ClockSoundName, fields.sound);
+  settings.mode = fields.strikeMode;
+  settings.repeat = fields.repeat != 0 ? 1 : 0;
+  settings.soundOn = fields.soundOn != 0 ? 1 : 0;
+  TextPut(settings.sound, fields.sound);
   return true;
 }
 

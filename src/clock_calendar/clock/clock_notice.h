@@ -10,6 +10,14 @@ struct ClockNoticeState {
 };
 extern ClockNoticeState ClockNotice;
 
+// The alarms' part of a tick: opens the notice when one of them matches, and moves the
+// performance of the open one on. It is due at the next minute, and at every tick of a
+// performance that waits.
+// settled: an alarm rings while the clock stands on the desktop, even if the calendar
+// does not.
+void ClockAlarmTick();
+int ClockAlarmDue();
+
 // True when the performance that the open notice plays is to take its next step
 // (message 2258 to the notice). Called once a tick; SharedTime is the time.
 bool ClockNoticeWaitIsOver();

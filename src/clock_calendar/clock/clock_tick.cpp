@@ -3,67 +3,20 @@
 #include <cstring>
 
 #include "clock_calendar/clock/clock.h"
-#include "platform/sound.h"
-#include "services/program.h"
 #include "services/text.h"
 
 namespace {
 
-constexpr int kNoStep = -1;
-
-void PlayStrikeSound() {
-  if (Clock.ClockSoundOn == 0 || Clock.ClockSoundName[0] == '\0') return;
-  char path[kRootPathSize + kClockSoundSize];
-  RootPath(path, sizeof path, "\\サウンド\\");
-  TextAppend(path, sizeof path, Clock.ClockSoundName);
-  SoundPlay(path);
-}
-
-void EnterStep(int step) {
-  Clock.ClockStrikeStep = step;
-  Clock.strikeWait = Clock.ClockStrikeDelay[step];
-}
-
-bool StrikeBegins() {
+bool StrikeIsDue() {
   if (Clock.ClockMinute != 0) return false;
   return Clock.ClockStrikeMode == kStrikeEveryHour || Clock.ClockHour12 == 0 || Clock.ClockHour12 == 12;
 }
 
 void BeginStrike() {
-  const bool repeats = Clock.ClockStrikeSel != 0 && (Clock.ClockStrikeMode == kStrikeEveryHour ||
-                                                     Clock.ClockStrikeMode == kStrikeAtTwelve);
-  Clock.ClockStrikeRepeats = !repeats ? 0 : Clock.ClockHour12 == 0 ? 11 : Clock.ClockHour12 - 1;
-  std::memcpy(Clock.strikeFigures, Clock.ClockHourFigures[Clock.ClockHour12], sizeof Clock.strikeFigures);
-  Clock.firstStep = Clock.lastStep = kNoStep;
-  for (int step = 0; step < kStrikeSteps; ++step) {
-    if (Clock.strikeFigures[step] == 0) continue;
-    if (Clock.firstStep == kNoStep) Clock.firstStep = step;
-    Clock.lastStep = step;
-  }
-  Clock.ClockStrikeOn = true;
-  PlayStrikeSound();
-  EnterStep(0);
-}
-
-void ContinueStrike() {
-  if (Clock.strikeWait > 0) {
-    --Clock.strikeWait;
-    return;
-  }
-  if (Clock.ClockStrikeStep == Clock.lastStep && Clock.ClockStrikeRepeats > 0) {
-    --Clock.ClockStrikeRepeats;
-    PlayStrikeSound();
-    EnterStep(Clock.firstStep);
-    return;
-  }
-  const int next = Clock.ClockStrikeStep + 1;
-  const bool endsAtZero =
-      Clock.ClockStrikeMode != kStrikeEveryHour && Clock.ClockStrikeMode != kStrikeAtTwelve;
-  if (next >= kStrikeSteps || (endsAtZero && Clock.strikeFigures[next] == 0)) {
-    ClockStrikeClear();
-    return;
-  }
-  EnterStep(next);
+  ClockStrikeTables tables;
+  std::memcpy(tables.delay, Clock.ClockStrikeDelay, sizeof tables.delay);
+  std::memcpy(tables.figures, Clock.ClockHourFigures, sizeof tables.figures);
+  StrikeBegin(Clock.strike, tables, ClockStrikeSettingsNow(), Clock.ClockHour12);
 }
 
 }  // namespace
@@ -101,26 +54,20 @@ void ClockTimeText(int hand, int hour, int minute, char (&to)[kClockTextSize]) {
 }
 
 int ClockStrikeFigure() {
-  return Clock.ClockStrikeOn ? Clock.strikeFigures[Clock.ClockStrikeStep] : 0;
-}
-
-void ClockStrikeClear() {
-  Clock.ClockStrikeOn = false;
-  Clock.ClockStrikeStep = 0;
-  Clock.ClockStrikeRepeats = 0;
+  return StrikeFigure(Clock.strike);
 }
 
 int ClockTickCheck(int hour, int minute) {
   const int need = ClockTimeTake(hour, minute);
-  if (need == 0 && !Clock.ClockStrikeOn) return 0;
-  const bool wasOn = Clock.ClockStrikeOn;
+  if (need == 0 && !Clock.strike.on) return 0;
+  const bool wasOn = Clock.strike.on;
   const int wasFigure = ClockStrikeFigure();
   if (Clock.ClockStrikeMode == kStrikeNever) {
-    ClockStrikeClear();
-  } else if (Clock.ClockStrikeOn) {
-    ContinueStrike();
-  } else if (StrikeBegins()) {
+    Clock.strike = ClockStrikePlay{};
+  } else if (Clock.strike.on) {
+    StrikeTick(Clock.strike);
+  } else if (StrikeIsDue()) {
     BeginStrike();
   }
-  return need != 0 || wasOn != Clock.ClockStrikeOn || wasFigure != ClockStrikeFigure() ? 1 : 0;
+  return need != 0 || wasOn != Clock.strike.on || wasFigure != ClockStrikeFigure() ? 1 : 0;
 }

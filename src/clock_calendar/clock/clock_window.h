@@ -10,6 +10,8 @@ inline bool WatchAdustIsOpen() {
   return Dialogs.hToolDlg && Dialogs.DlgIdTool == ToolDialog::WatchAdustDlg;
 }
 void WatchAdustTimeDraw();
+// The next drawing is made whatever the second.
+void WatchAdustTimeForget();
 inline constexpr TimedStep kWatchAdustStep{
     WatchAdustIsOpen, {WatchAdustTimeDraw, [] { return TickDueIf(WatchAdustIsOpen()); }}};
 
@@ -22,12 +24,8 @@ void ClockTick();
 int ClockDue();
 inline constexpr TimedStep kClockStep{ClockIsOpen, {ClockTick, ClockDue}};
 
-// A clock preview that is playing goes on, drawn into the tool dialog at
-// (10, 120); with no tool dialog it stops.
-void ClockPreviewStep();
-int ClockPreviewDue();
-inline constexpr TickStep kClockPreviewStep{ClockPreviewStep, ClockPreviewDue};
-void ClockPreviewFree();
-
-// Opens the clock window, FlyingBat6.
+// Opens the clock window, FlyingBat6, with the time that it is.
 void ClockWindowOpen();
+
+// Cuts the open window to what it shows now, and draws it.
+void ClockWindowShow();

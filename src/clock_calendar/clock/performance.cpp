@@ -14,9 +14,9 @@ constexpr int kPassMax = 5;
 // The active record; null for none.
 const ClockPerformance* Record() {
   const bool known = Performance.PerformanceActive >= 1 &&
-                     Performance.PerformanceActive <= Clock.ClockPerformanceCount &&
+                     Performance.PerformanceActive <= PerformanceTable.ClockPerformanceCount &&
                      Performance.PerformanceActive <= kPerformanceMax;
-  return known ? &Clock.ClockPerformances[Performance.PerformanceActive - 1] : nullptr;
+  return known ? &PerformanceTable.ClockPerformances[Performance.PerformanceActive - 1] : nullptr;
 }
 
 void PlaySound() {

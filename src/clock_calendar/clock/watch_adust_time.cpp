@@ -15,6 +15,10 @@ constexpr int kBoxWidth = 100;
 constexpr int kBoxHeight = 20;
 }  // namespace
 
+void WatchAdustTimeForget() {
+  Clock.adustSecond = -1;
+}
+
 void WatchAdustTimeDraw() {
   const int seconds = (Today.SharedTime.hour * 60 + Today.SharedTime.minute) * 60 + Today.SharedTime.second;
   if (seconds == Clock.adustSecond) return;

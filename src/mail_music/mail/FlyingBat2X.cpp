@@ -27,7 +27,7 @@ constexpr std::int32_t kTicksOfFrame = 5;
 
 // Under the end picture; the picture counts as no height when it is not there.
 Point Place() {
-  if (Walk.MailPhase != kMailWalking) return {0, 0};
+  if (Walk.mailState != kMailWalking) return {0, 0};
   const WalkSlot& s = Walk.WalkSlots[Walk.WalkSlotNow];
   const int frame = WalkFrameOf(s.endFrames[0]);
   return {Walk.WalkLastX,
@@ -59,16 +59,15 @@ void Paint(WindowHandle window) {
 constexpr NoticeWindow kNotice{&Mail.hMailNoticeWnd, Begin, Paint};
 
 bool Proc(const Event& event) {
-  if (event.kind == EventKind::Destroy) WalkMailPhaseSet(0);
+  if (event.kind == EventKind::Destroy) WalkMailStateSet(0);
   return NoticeEvent(kNotice, event);
 }
 
 }  // namespace
 
-void MailNoticeStart() {
-  Mail.MailNoticeFlag = 0;
+void MailNotifyStart() {
   const bool walks = WalkStartMail() == 0;
-  WalkMailPhaseSet(walks ? kMailWalking : kMailAlone);
+  WalkMailStateSet(walks ? kMailWalking : kMailAlone);
   if (!walks) MailNoticeOpen();
 }
 

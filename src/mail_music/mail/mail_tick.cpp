@@ -1,27 +1,45 @@
 #include "mail_music/mail/mail_tick.h"
 
+#include <algorithm>
+#include <iterator>
+
+#include "character/walk_state.h"
+#include "mail_music/mail/mail_interval.h"
+#include "mail_music/mail/mail_setting.h"
 #include "services/commands.h"
 
 namespace {
+
 constexpr std::int32_t kUnitTicks = 6000;
+constexpr auto kLastInterval = static_cast<std::int32_t>(std::size(kMailIntervals)) - 1;
+
+bool NotifyIsWanted() {
+  return Walk.mailState == kMailSeen;
+}
+
+}  // namespace
+
+void MailResetInterval() {
+  Mail.MailMinuteCount = kMailIntervals[std::clamp(MailSetting.intervalIndex, 0, kLastInterval)].units;
+  Mail.MailTickCount = 0;
 }
 
 void MailTick() {
-  if (!Mail.MailCheckOn) return;
+  if (MailSetting.enabled == 0) return;
   if (++Mail.MailTickCount >= kUnitTicks) {
     Mail.MailTickCount = 0;
-    if (Mail.MailMinuteCount != 0) --Mail.MailMinuteCount;
+    if (Mail.MailMinuteCount > 0) --Mail.MailMinuteCount;
   }
   if (Mail.MailMinuteCount == 0) {
-    Mail.MailMinuteCount = Mail.MailInterval;
+    MailResetInterval();
     CommandSend(Command::MailCheck);
   }
-  if (Mail.MailNoticeFlag == 1) MailNoticeStart();
+  if (NotifyIsWanted()) MailNotifyStart();
 }
 
 int MailDue() {
-  if (!Mail.MailCheckOn) return kTickNever;
-  if (Mail.MailMinuteCount == 0 || Mail.MailNoticeFlag == 1) return 1;
+  if (MailSetting.enabled == 0) return kTickNever;
+  if (Mail.MailMinuteCount == 0 || NotifyIsWanted()) return 1;
   return kUnitTicks - Mail.MailTickCount;
 }
 

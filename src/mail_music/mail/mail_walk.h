@@ -4,7 +4,7 @@
 #include "platform/types.h"
 
 // Starts the walk of a mail arrival with its sound. Returns 0, or -1 when nobody walks;
-// the caller sets the mail phase.
+// the caller sets the mail's state.
 int WalkStartMail();
 
 // SetMailAnimeDlg on animeOn, soundOn and soundName of MailSetting. True when the user

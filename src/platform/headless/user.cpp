@@ -85,6 +85,18 @@ std::string Taken(const HeadlessWindow& edit, const char* text) {
   return taken;
 }
 
+// Where a control stands; the height of a combo box with a list is that of the opened list.
+Rect PlaceOf(const HeadlessWindow& control) {
+  constexpr unsigned kComboKinds = 3;
+  constexpr unsigned kComboSimple = 1;
+  constexpr int kClosedHeight = 24;
+  Rect at = control.rect;
+  const bool list =
+      control.controlClass == ControlClass::ComboBox && (control.style & kComboKinds) != kComboSimple;
+  if (list && RectHeight(at) > kClosedHeight) at.bottom = at.top + kClosedHeight;
+  return at;
+}
+
 // What a mouse message meant for the window itself would meet instead: a point outside,
 // or one of its controls. A label, a group box and a disabled control let it through.
 const char* MouseMeets(const HeadlessWindow& window, int x, int y) {
@@ -92,7 +104,7 @@ const char* MouseMeets(const HeadlessWindow& window, int x, int y) {
   if (x < 0 || y < 0 || x >= client.right || y >= client.bottom) return "the point lies outside";
   for (const WindowHandle child : window.children) {
     const WindowPointer control = Windows().Find(child);
-    const Rect& at = control->rect;
+    const Rect at = PlaceOf(*control);
     const bool inside = x >= at.left && x < at.right && y >= at.top && y < at.bottom;
     const bool label = control->controlClass == ControlClass::Static && (control->style & kStaticNotify) == 0;
     if (inside && control->visible && control->enabled && !label && !IsGroupBox(*control)) {

@@ -9,5 +9,8 @@ void TestClockSet(const LocalTime& time);
 // While the clock is set, milliseconds pass only by this.
 void TestClockPass(unsigned milliseconds);
 
+// From now on nobody may set the clock, or everybody again.
+void TestClockForbid(bool forbidden);
+
 // Back to the machine's clock.
 void TestClockClear();

@@ -8,6 +8,7 @@
 
 namespace {
 bool fixed = false;
+bool forbidden = false;
 LocalTime fixedTime{};
 std::uint64_t fixedMilliseconds = 0;
 
@@ -26,7 +27,12 @@ void TestClockPass(unsigned milliseconds) {
   fixedMilliseconds += milliseconds;
 }
 
+void TestClockForbid(bool now) {
+  forbidden = now;
+}
+
 void TestClockClear() {
+  forbidden = false;
   fixed = false;
 }
 
@@ -44,6 +50,7 @@ void TimeGetLocal(LocalTime* time) {
 
 // The native build never touches the machine's clock: only the one of the test.
 bool TimeSetLocal(const LocalTime* time) {
+  if (forbidden) return false;
   TestClockSet(*time);
   return true;
 }

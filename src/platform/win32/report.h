@@ -9,5 +9,11 @@
 // this is no such message.
 bool ReportAnswers(UINT message, WPARAM number, LRESULT* answer);
 
+// The time of the build that the tests start goes its own way once a test has set it;
+// the machine's clock is never touched.
+void ReportTimeShift(SYSTEMTIME* now);
+// True when it has taken a time that the program sets over.
+bool ReportTimeTake(const SYSTEMTIME& wanted);
+
 // The message loop has ended: what is still held is told.
 void ReportEnd();

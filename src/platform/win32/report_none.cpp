@@ -5,4 +5,10 @@ bool ReportAnswers(UINT, WPARAM, LRESULT*) {
   return false;
 }
 
+void ReportTimeShift(SYSTEMTIME*) {}
+
+bool ReportTimeTake(const SYSTEMTIME&) {
+  return false;
+}
+
 void ReportEnd() {}

@@ -3,6 +3,7 @@
 #include <ctime>
 
 #include "platform/win32/border.h"
+#include "platform/win32/report.h"
 
 namespace {
 void FromSystemTime(const SYSTEMTIME& from, LocalTime* to) {
@@ -14,6 +15,7 @@ void FromSystemTime(const SYSTEMTIME& from, LocalTime* to) {
 void TimeGetLocal(LocalTime* time) {
   SYSTEMTIME now{};
   GetLocalTime(&now);
+  ReportTimeShift(&now);
   FromSystemTime(now, time);
 }
 
@@ -27,7 +29,7 @@ bool TimeSetLocal(const LocalTime* time) {
   value.wMinute = static_cast<WORD>(time->minute);
   value.wSecond = static_cast<WORD>(time->second);
   value.wMilliseconds = static_cast<WORD>(time->millisecond);
-  return SetLocalTime(&value) != FALSE;
+  return ReportTimeTake(value) || SetLocalTime(&value) != FALSE;
 }
 
 bool TimeFromFileTime(std::uint64_t fileTime, LocalTime* time) {

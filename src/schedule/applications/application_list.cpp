@@ -9,14 +9,16 @@
 //   then    600 each      second list: read, never written
 #include "schedule/applications/application_list.h"
 
+#include <algorithm>
 #include <cstring>
 
 #include "platform/memory.h"
+#include "services/path.h"
 #include "services/program.h"
 #include "services/record_file.h"
 #include "services/text.h"
 
-ApplicationsState Applications;
+ApliListState Applications;
 
 namespace {
 
@@ -33,6 +35,25 @@ bool EntriesAllocate(ApliEntry*& list, int count) {
   MemoryFree(list);
   list = block;
   return true;
+}
+
+// Room for `count` entries, with those that are there.
+bool EntriesGrow(int count) {
+  ApliEntry* old = Applications.entries;
+  Applications.entries = nullptr;
+  if (!EntriesAllocate(Applications.entries, count)) {
+    Applications.entries = old;
+    return false;
+  }
+  if (old) std::copy_n(old, Applications.ApliCount, Applications.entries);
+  MemoryFree(old);
+  return true;
+}
+
+// The number, from 1, of an entry when the one from 0 has been removed; 0 for that itself.
+std::int32_t NumberBehind(std::int32_t number, int removed) {
+  if (number == removed + 1) return 0;
+  return number > removed + 1 ? number - 1 : number;
 }
 
 // bounded: a list longer than the program ever writes is bad content.
@@ -107,6 +128,41 @@ const char* ApliPath(int entry) {
              : "";
 }
 
+bool ApliListHasRoom() {
+  return Applications.ApliCount < kApliMax;
+}
+
+int ApliListAdd(const char* path) {
+  if (!ApliListHasRoom() || !EntriesGrow(Applications.ApliCount + 2)) return -1;
+  TextCopy(Applications.entries[Applications.ApliCount++].path, kApliPathSize, path);
+  ApliListSave();
+  return 0;
+}
+
+void ApliListRemove(int entry) {
+  if (!Applications.entries || entry < 0 || entry >= Applications.ApliCount) return;
+  Applications.ApliSelected = NumberBehind(Applications.ApliSelected, entry);
+  // settled: the watched program keeps its entry too; without one it is watched no more.
+  Applications.ApliStarted = NumberBehind(Applications.ApliStarted, entry);
+  std::copy(Applications.entries + entry + 1, Applications.entries + Applications.ApliCount,
+            Applications.entries + entry);
+  --Applications.ApliCount;
+  ApliListSave();
+}
+
+void ApliRowText(int entry, char* text, int size) {
+  PathSplit(ApliPath(entry));
+  char name[kPathSplitSize + 1];
+  TextCopy(name, sizeof name, PathParts.PathName);
+  char* dot = std::strrchr(name, '.');
+  if (dot) *dot = '\0';
+  // settled: an entry that is both is shown as the started one.
+  const char* format = Applications.ApliStarted == entry + 1    ? "%s (起動中)"
+                       : Applications.ApliSelected == entry + 1 ? "%s (実行指定)"
+                                                                : "%s";
+  TextFormat(text, static_cast<std::size_t>(size), format, name);
+}
+
 int ApliListSetFirst(const char* path) {
   if (!Applications.entries && !EntriesAllocate(Applications.entries, 2)) return -1;
   TextCopy(Applications.entries[0].path, kApliPathSize, path);
@@ -120,6 +176,11 @@ bool ApliListHasSelected() {
 
 bool ApliSelectedIsRunning() {
   return Applications.ApliSelected != 0 && Applications.ApliStarted == Applications.ApliSelected;
+}
+
+void ApliToStartSet(std::int32_t entry, std::uint8_t mode) {
+  Applications.ApliToStart = entry;
+  Applications.ApliMode = mode;
 }
 
 void ApliListFree() {

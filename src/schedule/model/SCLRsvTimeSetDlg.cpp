@@ -17,7 +17,7 @@ std::uint32_t& Hours(const Event& event) {
 
 void Open(const Event& event) {
   char text[16];
-  TextFormat(text, sizeof text, "%4u", Hours(event));
+  TextFormat(text, sizeof text, "%4d", static_cast<int>(Hours(event)));
   ControlSetText(event.window, IDC_SCL_HOURS, text);
   ControlSetLimit(event.window, IDC_SCL_HOURS, kDigits);
 }

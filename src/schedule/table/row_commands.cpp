@@ -10,19 +10,25 @@ namespace {
 
 constexpr const char* kInsertError = "スケジュール項目挿入エラー";
 
+bool GuestIsClicked() {
+  return SclTable.guest && RowWindow() == SclTable.guest;
+}
+
 const RowTable* Rows() {
+  if (GuestIsClicked()) return SclTable.guestRows;
   return RowWindow() == SclTable.hSclTableWnd ? SclTable.sclRows : SclTable.planRows;
 }
 
 TableView& View() {
-  return RowWindow() == SclTable.hSclTableWnd ? SclTable.SclTableView : SclTable.PlanView;
+  return Rows() == SclTable.planRows ? SclTable.PlanView : SclTable.SclTableView;
 }
 
-// The window shows the rows as they are now.
+// The windows show the rows as they are now.
 void Show(const RowTable& rows) {
   TableView& view = View();
   TableViewFit(view, rows.count(), view.pageLines);
   SendPaint(RowWindow());
+  if (GuestIsClicked()) SendPaint(SclTable.hSclTableWnd);
 }
 
 void TellFull(const RowTable& rows) {

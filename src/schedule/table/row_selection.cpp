@@ -110,7 +110,8 @@ void RowsMarkClear() {
 }
 
 bool RowIsCopied(int row, CopyMark mark) {
-  return RowSelection.copyMark == mark && row >= RowSelection.copyFirst && row <= RowSelection.copyLast;
+  return mark != CopyMark::None && RowSelection.copyMark == mark && row >= RowSelection.copyFirst &&
+         row <= RowSelection.copyLast;
 }
 
 void RowEndMove(int step, int rows) {

@@ -92,6 +92,12 @@ void PlanWindowSet(WindowHandle window, const RowTable* rows, void (*redraw)(Win
   SclTable.PlanView.redraw = redraw;
 }
 
+void RowGuestSet(WindowHandle window, const RowTable* rows) {
+  WindowForget(SclTable.guest);
+  SclTable.guest = window;
+  SclTable.guestRows = rows;
+}
+
 void TableViewFit(TableView& view, int lines, int pageLines) {
   view.lines = lines;
   view.pageLines = std::max(pageLines, 0);

@@ -33,6 +33,9 @@ struct SclTableState {
   const RowTable* sclRows = nullptr;
   const RowTable* planRows = nullptr;
   WindowHandle clicked = nullptr;
+  // A window without rows of its own whose menu is that of these rows.
+  WindowHandle guest = nullptr;
+  const RowTable* guestRows = nullptr;
   // Of the schedule's window: the height that its buttons stand by, and that it is asking
   // whether to save before it closes.
   std::int32_t clientHeight = 0;
@@ -42,12 +45,15 @@ extern SclTableState SclTable;
 
 inline constexpr int kTableLineHeight = 20;
 inline constexpr int kTableBarWidth = 16;
+inline constexpr int kTableBar = 100;  // the bar's number as a control
 
 // --- The windows. Each tells itself at its Init, and null at its end; `redraw` is that of
 // its view.
 
 void SclTableWindowSet(WindowHandle window, const RowTable* rows);
 void PlanWindowSet(WindowHandle window, const RowTable* rows, void (*redraw)(WindowHandle) = nullptr);
+// Of another window that opens the menu of such rows.
+void RowGuestSet(WindowHandle window, const RowTable* rows);
 
 // --- Scrolling
 

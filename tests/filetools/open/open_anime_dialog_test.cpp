@@ -155,7 +155,7 @@ TEST_F(OpenAnimeTest, ACheckIsRefusedWhileANotificationIsRunning) {
   SaveHistory();
   In(IDC_OPN_ANIMATION, [] {
     ThenExpect([] {
-      for (std::int32_t* running : {&Walk.OpeningState, &Walk.MailPhase}) {
+      for (std::int32_t* running : {&Walk.OpeningState, &Walk.mailState}) {
         *running = 2;
         Press(TopDialog(), IDC_WALK_CHECK);
         *running = 0;

@@ -1,0 +1,107 @@
+// The notes of the coming days: the list under the page, and the ticker over it.
+#include <algorithm>
+
+#include "clock_calendar/calendar/calendar.h"
+#include "clock_calendar/calendar/calendar_fonts.h"
+#include "clock_calendar/calendar/calendar_memo.h"
+#include "clock_calendar/calendar/calendar_picture.h"
+#include "clock_calendar/calendar/calendar_size.h"
+#include "services/painting.h"
+#include "services/text.h"
+#include "services/today.h"
+
+namespace {
+
+constexpr int kEntrySize = kNoteSize + 16;
+constexpr int kListHeight = 20;
+constexpr int kStripHeight = 20;
+constexpr int kTextInStrip = 2;
+constexpr Colour kBlack = 0;
+constexpr Colour kComplement = 0xFFFFFF;
+
+Colour ColourOf(const unsigned char (&colour)[3]) {
+  return MakeColour(colour[0], colour[1], colour[2]);
+}
+
+void EntryText(int day, char (&text)[kEntrySize]) {
+  char note[kNoteSize + 1];
+  CalenNoteGet(CalenYearShown(), Calendar.CalenMonthPos, day, note);
+  TextFormat(text, sizeof text, "%d日: %s  ", day + 1, note);
+}
+
+}  // namespace
+
+void CalenNearListDraw(Canvas* canvas, Point at, int width) {
+  constexpr int kLines = kListHeight / (kCalenSmallLine + 2);
+  const Colour today = ColourOf(CalenSelectedDefinition().tickerColour);
+  CanvasFont(canvas, CalenSmallFont());
+  int line = 0;
+  int x = 0;
+  for (int i = 0; i < Calendar.CalenNearCount; ++i) {
+    char text[kEntrySize];
+    EntryText(Calendar.CalenNearDays[i], text);
+    const int entry = CanvasTextWidth(canvas, text);
+    if (x > 0 && x + entry > width) {
+      x = 0;
+      ++line;
+    }
+    if (line >= kLines) return;
+    CanvasTextColour(canvas, Calendar.CalenNearDays[i] == Today.TodayDay ? today : kBlack);
+    CanvasText(canvas, at.x + x, at.y + line * (kCalenSmallLine + 2), text);
+    x += entry;
+  }
+}
+
+// --- The ticker
+
+namespace {
+
+int StripTop() {
+  const int picture = CalenPictureHeight();
+  const int page = CalenPageHeight();
+  switch (Calendar.CalenTickerPlace) {
+    case 1:
+      return picture / 2 - 10;
+    case 2:
+      return picture - 20;
+    case 3:
+      return page - 40;
+    case 4:
+      return (picture + page) / 2 - 10;
+    default:
+      return 0;
+  }
+}
+
+// The notes that the ticker tells, one behind the other.
+int TickerText(char (&text)[kCalenDayMax * kEntrySize]) {
+  text[0] = '\0';
+  std::size_t length = 0;
+  for (int i = 0; i < Calendar.CalenNearCount; ++i) {
+    if (Calendar.CalenNearDays[i] >= Today.TodayDay + Calendar.CalenTickerReach) break;
+    char entry[kEntrySize];
+    EntryText(Calendar.CalenNearDays[i], entry);
+    length = TextAppend(text, sizeof text, entry);
+  }
+  return static_cast<int>(length);
+}
+
+}  // namespace
+
+bool CalenTickerDraw(Canvas* screen) {
+  char text[kCalenDayMax * kEntrySize];
+  const int length = TickerText(text);
+  const int width = CalenLayoutWidth();
+  const int top = StripTop();
+  const int x = width - Calendar.tickerPosition * Calendar.CalenTickerStep;
+  const Colour colour = ColourOf(Calendar.CalenTickerColour);
+  bool shows = false;
+  DrawSteady(screen, {0, top, width, top + kStripHeight}, [&](Canvas* canvas, const Rect& area) {
+    shows = length > 0 && x + CanvasTextWidth(canvas, text, length) > 0;
+    FillColour(canvas, colour ^ kComplement, area);
+    CanvasTextColour(canvas, colour);
+    CanvasBackTransparent(canvas, true);
+    CanvasText(canvas, area.left + x, area.top + kTextInStrip, text, length);
+  });
+  return shows;
+}

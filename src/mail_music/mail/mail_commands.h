@@ -1,0 +1,5 @@
+// Commands of the mail notification.
+#pragma once
+
+void MailSettingsCommand();  // 1918
+void MailCheckCommand();     // 2079

@@ -1,0 +1,4 @@
+// Commands of the music table.
+#pragma once
+
+void MusicTableCommand();  // 1921

@@ -1,0 +1,125 @@
+#include "scenario/logic/snry_paras.h"
+
+#include <algorithm>
+#include <cstring>
+#include <iterator>
+
+#include "services/text.h"
+
+namespace {
+
+constexpr char kNotSet[] = "未設定";
+
+bool IsUsed(int slot) {
+  return SnryMain.paras[slot].used != 0;
+}
+
+int UsedBefore(int slot) {
+  const auto used = [](const SnryParaRec& para) { return para.used != 0; };
+  return static_cast<int>(std::count_if(SnryMain.paras, SnryMain.paras + slot, used));
+}
+
+bool IsPara(int id) {
+  return id >= 1 && id <= kSnryParaMax && IsUsed(id - 1);
+}
+
+// How a parameter reads in a combo box and in the list, by what it does for the player
+// besides.
+constexpr const char* kComboTexts[] = {"%s", "%s(&Load)", "%s(&Save)", "%s(&Exit)"};
+constexpr const char* kListTexts[] = {"%d. %s", "%d. %s(&Load)", "%d. %s(&Save)", "%d. %s(&Exit)"};
+
+template <std::size_t N>
+const char* TextOf(const char* const (&texts)[N], const SnryParaRec& para) {
+  const auto assignment = static_cast<std::size_t>(para.assignment);
+  return texts[assignment < N ? assignment : 0];
+}
+
+void ComboText(int row, char* text, int size) {
+  const int slot = SnryParaIdOf(row) - 1;
+  if (slot < 0) {
+    TextCopy(text, static_cast<std::size_t>(size), kNotSet);
+  } else {
+    const SnryParaRec& para = SnryMain.paras[slot];
+    TextFormat(text, static_cast<std::size_t>(size), TextOf(kComboTexts, para), para.name);
+  }
+}
+
+}  // namespace
+
+int SnryParaRowOf(int id) {
+  return IsPara(id) ? 1 + UsedBefore(id - 1) : 0;
+}
+
+int SnryParaIdOf(int row) {
+  return SnryParaSlotOfRow(row - 1) + 1;
+}
+
+Rows SnryParaRows() {
+  return RowsOf(1 + SnryParaUsedCount(), ComboText);
+}
+
+void SnryParaExchange(Form& form, int id, std::uint16_t& parameter) {
+  int row = SnryParaRowOf(parameter);
+  form.Choice(id, row, SnryParaRows());
+  if (form.Takes()) parameter = static_cast<std::uint16_t>(SnryParaIdOf(row));
+}
+
+void SnryPairExchange(Form& form, int paraId, int valueId, SnryPair& pair, int digits) {
+  SnryParaExchange(form, paraId, pair.parameter);
+  form.Number(valueId, pair.value, digits);
+}
+
+const char* SnryParaName(int id) {
+  return IsPara(id) ? SnryMain.paras[id - 1].name : kNotSet;
+}
+
+int SnryParaUsedCount() {
+  return UsedBefore(kSnryParaMax);
+}
+
+int SnryParaSlotOfRow(int row) {
+  if (row < 0) return -1;
+  for (int slot = 0; slot < kSnryParaMax; ++slot) {
+    if (IsUsed(slot) && row-- == 0) return slot;
+  }
+  return -1;
+}
+
+void SnryParaListText(int row, char* text, int size) {
+  text[0] = '\0';
+  const int slot = SnryParaSlotOfRow(row);
+  if (slot < 0) return;
+  const SnryParaRec& para = SnryMain.paras[slot];
+  TextFormat(text, static_cast<std::size_t>(size), TextOf(kListTexts, para), row + 1, para.name);
+}
+
+bool SnryParaNameIsTaken(const char* name) {
+  return std::any_of(std::begin(SnryMain.paras), std::end(SnryMain.paras), [name](const SnryParaRec& para) {
+    return para.used != 0 && std::strcmp(para.name, name) == 0;
+  });
+}
+
+// kept: a parameter goes behind the last slot that was given; a gap in between is not used
+// again.
+bool SnryParaAdd(const SnryParaRec& para) {
+  if (SnryMain.paraCount >= kSnryParaMax) return false;
+  SnryMain.paras[SnryMain.paraCount] = para;
+  SnryMain.paras[SnryMain.paraCount].used = 1;
+  ++SnryMain.paraCount;
+  return true;
+}
+
+void SnryParaChange(int slot, const SnryParaRec& para) {
+  if (slot >= 0 && slot < kSnryParaMax) SnryMain.paras[slot] = para;
+}
+
+// kept: who uses the parameter goes on naming its slot; the count falls by one only behind the
+// highest slot, whatever the slot below it holds.
+void SnryParaRemove(int slot) {
+  if (slot < 0 || slot >= kSnryParaMax) return;
+  SnryParaRec& para = SnryMain.paras[slot];
+  para.used = 0;
+  para.name[0] = '\0';
+  para.assignment = SnryAssignment::None;
+  if (slot + 1 == SnryMain.paraCount) --SnryMain.paraCount;
+}

@@ -1,0 +1,58 @@
+#include "scenario/scenario_doors.h"
+
+#include "resources/scenario_storage_ids.h"
+#include "scenario/logic/snry_logic.h"
+#include "scenario/storage/scenario.h"
+#include "scenario/trace/trace_dialogs.h"
+
+namespace {
+
+// A button, and the dialog behind it.
+struct Door {
+  int id;
+  void (*open)(WindowHandle owner);
+  bool needsCast = false;
+};
+
+constexpr Door kScenarioDoors[] = {
+    {IDC_SNRY_PARA_CHECK, CheckParameterDlgRun},
+    {IDC_SNRY_CHARACTERS, nullptr},
+    {IDC_SNRY_OPTIONS, nullptr},
+};
+
+constexpr Door kSceneDoors[] = {
+    {IDC_SNRY_CAST_ADD, nullptr},
+    {IDC_SNRY_CAST_DELETE, nullptr, true},
+    {IDC_SNRY_CAST_COPY, nullptr, true},
+    {IDC_SNRY_CAST_LINES, nullptr, true},
+    {IDC_SNRY_CAST_MOTIONS, nullptr, true},
+    {IDC_SNRY_CAST_ENTRY, nullptr, true},
+    {IDC_SNRY_CAST_DEPTH, nullptr, true},
+    {IDC_SNRY_SCENE_START, SceneSelParaDlgRun},
+    {IDC_SNRY_SCENE_ADVANCE, SnryAdvanceSheetRun},
+    {IDC_SNRY_SCENE_BACKDROP, nullptr},
+    {IDC_SNRY_SCENE_TITLE, nullptr},
+    {IDC_SNRY_SCENE_SOUNDS, nullptr},
+    {IDC_SNRY_SCENE_TABLE, nullptr},
+    {IDC_SNRY_SCENE_KEYS, nullptr},
+};
+
+template <std::size_t N>
+bool Open(const Door (&doors)[N], int id, WindowHandle owner) {
+  for (const Door& door : doors) {
+    if (door.id != id || !door.open) continue;
+    if (!door.needsCast || Scenario.castRow >= 0) door.open(owner);
+    return true;
+  }
+  return false;
+}
+
+}  // namespace
+
+bool SnryScenarioDoorOpen(int id, WindowHandle owner) {
+  return Open(kScenarioDoors, id, owner);
+}
+
+bool SnrySceneDoorOpen(int id, WindowHandle owner) {
+  return Open(kSceneDoors, id, owner);
+}

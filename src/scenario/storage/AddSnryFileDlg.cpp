@@ -1,0 +1,68 @@
+// AddSnryFileDlg, "場面ファイル追加".
+
+#include "platform/dialog.h"
+#include "platform/file.h"
+#include "resources/scenario_storage_ids.h"
+#include "scenario/storage/scenario_dialogs.h"
+#include "scenario/storage/snry_folders.h"
+#include "scenario/storage/snry_paths.h"
+#include "scenario/storage/snry_reset.h"
+#include "services/dialog_acts.h"
+#include "services/dialog_family.h"
+#include "services/rows.h"
+#include "services/text.h"
+
+namespace {
+
+// kept: only an entry whose one attribute is that of a folder is left out, so that a hidden
+// folder is listed.
+bool IsListed(const SearchEntry& entry) {
+  return entry.name[0] != '.' && entry.attributes != kAttributeFolder && !SnrySceneHasFile(entry.name);
+}
+
+void Find() {
+  SnryDialogs.fileCount = 0;
+  char pattern[kSnryLongPath];
+  TextFormat(pattern, sizeof pattern, "%s\\*.*", SnryFolderNow().path);
+  SearchEntry entry;
+  const SearchHandle search = SearchFirst(pattern, &entry);
+  for (bool more = search != kNoSearch; more && SnryDialogs.fileCount < kSnryFilesMax;
+       more = SearchNext(search, &entry)) {
+    if (IsListed(entry)) TextCopy(SnryDialogs.files[SnryDialogs.fileCount++], kSnryFileNameMax, entry.name);
+  }
+  SearchClose(search);
+}
+
+void Open(WindowHandle dialog) {
+  Find();
+  RowsShow(dialog, IDC_SNRY_SCENES, RowsOf(SnryDialogs.fileCount, [](int row, char* text, int size) {
+             TextCopy(text, static_cast<std::size_t>(size), SnryDialogs.files[row]);
+           }));
+}
+
+void Add(WindowHandle dialog) {
+  const int row = ListSelected(dialog, IDC_SNRY_SCENES);
+  if (row >= 0 && row < SnryDialogs.fileCount && SnrySceneAdd(SnryDialogs.files[row])) {
+    SnryCastReset();
+    Scenario.changed = true;
+    Scenario.sceneListChanged = true;
+  }
+  SubDialogEnd(dialog, 1);
+}
+
+// kept: the button that would choose all files has no effect.
+constexpr DialogAct kActs[] = {
+    {EventKind::Init, Open},
+    {kOkButton, Add},
+    {IDC_SNRY_SCENE_ALL, [] {}},
+};
+
+bool Handle(const Event& event) {
+  return DialogActRun(event, kActs);
+}
+
+}  // namespace
+
+void AddSnryFileDlgRun(WindowHandle owner) {
+  SubDialogRun(SubDialog::AddSnryFileDlg, IDD_AddSnryFileDlg, owner, Handle);
+}

@@ -1,0 +1,40 @@
+// SnryMainLoad, "シナリオのロード".
+
+#include "platform/dialog.h"
+#include "resources/scenario_storage_ids.h"
+#include "scenario/storage/scenario_dialogs.h"
+#include "scenario/storage/snry_list_file.h"
+#include "services/dialog_acts.h"
+#include "services/dialog_family.h"
+#include "services/rows.h"
+
+namespace {
+
+void Open(WindowHandle dialog) {
+  RowsShow(dialog, IDC_SNRY_LIST, RowsOf(SnryList.count, SnryListRowText));
+}
+
+void Choose(WindowHandle dialog) {
+  const int row = ListSelected(dialog, IDC_SNRY_LIST);
+  SnryDialogs.listRow = row < SnryList.count ? row : -1;
+  MenuDialogEnd(dialog, 1);
+}
+
+// kept: the button of details has no effect.
+constexpr DialogAct kActs[] = {
+    {EventKind::Init, Open},
+    {kOkButton, Choose},
+    {IDC_SNRY_LIST_DETAIL, [] {}},
+};
+
+bool Handle(const Event& event) {
+  return DialogActRun(event, kActs);
+}
+
+}  // namespace
+
+int SnryMainLoadRun(WindowHandle owner) {
+  SnryDialogs.listRow = -1;
+  MenuDialogRun(MenuDialog::SnryMainLoad, IDD_SnryMainLoad, owner, Handle);
+  return SnryDialogs.listRow;
+}

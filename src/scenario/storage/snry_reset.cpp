@@ -1,0 +1,136 @@
+#include "scenario/storage/snry_reset.h"
+
+#include <algorithm>
+#include <iterator>
+
+#include "scenario/storage/snry_tables.h"
+#include "services/path.h"
+#include "services/program.h"
+#include "services/text.h"
+#include "world/world_list.h"
+
+namespace {
+
+template <class T, std::size_t N>
+void Clear(T (&table)[N]) {
+  if constexpr (std::is_array_v<T>) {
+    for (T& row : table) Clear(row);
+  } else {
+    for (T& record : table) record = {};
+  }
+}
+
+template <std::size_t N>
+void Title(char (&to)[N], const char* text) {
+  TextCopy(to, N, text);
+}
+
+// The motions take the character's figures, the low byte of each.
+void ResetMotions(SnryCastRec& cast, const SnryCharMotionRec& motion) {
+  for (int place = 0; place < kSnryPlaces; ++place) {
+    cast.motions[place] = static_cast<std::uint8_t>(motion.figures[place]);
+    cast.motionParameters[place] = 0;
+    cast.motionValues[place] = 0;
+  }
+}
+
+void ResetCast(SnryCastRec& cast, const SnryCharMotionRec& motion) {
+  Clear(cast.lines);
+  Clear(cast.lineParameters);
+  Clear(cast.lineValues);
+  cast.entry = {};
+  ResetMotions(cast, motion);
+}
+
+template <std::size_t N>
+void Paint(std::uint8_t (&colours)[N][3], int first, int last, std::uint8_t red, std::uint8_t green,
+           std::uint8_t blue) {
+  for (int i = first; i <= last; ++i) {
+    colours[i][0] = red;
+    colours[i][1] = green;
+    colours[i][2] = blue;
+  }
+}
+
+}  // namespace
+
+void SnryMainReset() {
+  Clear(SnryMain.title);
+  TextCopy(SnryMain.title, sizeof SnryMain.title, "無題");
+  Clear(SnryMain.folders);
+  Clear(SnryMain.scenes);
+  Clear(SnryMain.paras);
+  Clear(SnryMain.registered);
+  SnryMain.folderCount = 0;
+  SnryMain.registeredCount = 0;
+  SnryMain.paraCount = 0;
+}
+
+void SnryCountsClear() {
+  SnryMain.folderCount = 0;
+  Clear(SnryMain.sceneCounts);
+  Clear(SnryScene.keys);
+  SnryMain.registeredCount = 0;
+}
+
+void SnrySceneReset() {
+  SnryCastReset();
+  Clear(SnryScene.menus);
+  Clear(SnryScene.events);
+  for (SnryEventRec& event : SnryScene.events) event.type = SnryEventType::Time;
+  Clear(SnryScene.randoms);
+  Clear(SnryScene.randomExs);
+  Clear(SnryScene.eventExs);
+  SnryScene.title = {};
+  Clear(SnryScene.sounds);
+  SnryTableReset(SnryScene.table);
+}
+
+void SnryCastReset() {
+  for (int slot = 0; slot < kSnryCharaMax; ++slot) ResetCast(SnryCastAt(slot), SnryMain.charMotions[slot]);
+  for (int slot = 0; slot < kSnryLineSlots; ++slot) SnryLineAt(slot).used = 0;
+}
+
+void SnryTableReset(SnryTableRec& table) {
+  table = {};
+  Title(table.itemTitle, "  項  目 ");
+  Title(table.settingTitle, "  設  定 ");
+  Title(table.dataTitle, "  データ ");
+  Paint(table.colours, 0, 6, 255, 255, 255);
+  Paint(table.colours, 7, 9, 0, 0, 250);
+  table.kept236[1] = 7;
+}
+
+// kept: only a stage of 1000 lines or more and of a width from 1 to 1200 keeps its options; the
+// sense of the test of the height is turned round.
+void SnryOptionCheck() {
+  SnryOptionRec& options = SnryMain.options;
+  if (options.stageWidth >= 1 && options.stageWidth <= 1200 && options.stageHeight >= 1000) return;
+  options.stageWidth = 840;
+  options.stageHeight = 400;
+  options.menuWidth = 840;
+  options.menuHeight = 200;
+  options.menuPosition = 0;
+  options.menuFormat = 0;
+  options.readingSpeed = 1;
+  options.balloonFormat = 0;
+}
+
+void SnryWorldLoad() {
+  char path[kRootPathSize];
+  WorldFlagPath(path, sizeof path);
+  if (FileExists(path) == 0) return;
+  WorldListRead();
+  SnryMain.charaCount = static_cast<std::uint16_t>(World.WorldCharaCount);
+  for (int i = 0; i < SnryMain.charaCount; ++i) {
+    Clear(SnryMain.charaNames[i].text);
+    TextCopy(SnryMain.charaNames[i].text, sizeof SnryMain.charaNames[i].text, World.WorldCharas[i].name);
+  }
+}
+
+void SnryFiguresTake() {
+  for (int i = 0; i < kSnryCharaMax; ++i) {
+    const auto& figures = World.WorldCharas[i].figureIds;
+    std::copy(std::begin(figures), std::end(figures), SnryMain.charMotions[i].figures);
+  }
+}

@@ -1,0 +1,22 @@
+// The cast and the lines of the scene that was loaded last. They lie in the two work blocks.
+#pragma once
+
+#include "scenario/storage/snry_scene_records.h"
+
+inline constexpr int kSnryCastSlots = 712;  // 512 characters, 200 copies
+inline constexpr int kSnryCopyFirst = 512;  // slot of the first copy
+inline constexpr int kSnryCopyMax = 200;
+inline constexpr int kSnryLineSlots = 25600;
+
+// The cast record of a slot, 0 to 712: the table has one slot behind its last, so that
+// what is done one past its end stays inside. For another slot, and without the block, an
+// empty record that belongs to nobody.
+SnryCastRec& SnryCastAt(int slot);
+
+// The line of a slot, 0 to 25599; its text has an end, whatever stands in the block. For
+// another slot, and without the block, an empty one that belongs to nobody.
+SnryLineRec& SnryLineAt(int slot);
+
+// The tables as a whole, 712 and 25600 records; null without their block.
+SnryCastRec* SnryCasts();
+SnryLineRec* SnryLines();

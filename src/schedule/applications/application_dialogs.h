@@ -1,0 +1,15 @@
+// The dialogs of the schedule applications; each reads the list first.
+#pragma once
+
+#include <cstdint>
+
+#include "services/commands.h"
+
+// "スケジュール用アプリケーション選択": the entry to be started, from 1; 0 for none.
+std::int32_t SclApliListDialogRun();
+
+// "スケジュール用アプリケーション登録".
+int SclRegiApliListDialogRun();
+
+// The menu of the own applications: the command that was chosen, None without one.
+int MyAplicationDlgRun();

@@ -1,0 +1,55 @@
+// SclSucsPerAndMapDlg: how far the schedule has come.
+
+#include "platform/dialog.h"
+#include "platform/time.h"
+#include "resources/schedule_rates_ids.h"
+#include "schedule/rates/rates_dialogs.h"
+#include "schedule/rates/scl_rates.h"
+#include "services/dialog_acts.h"
+#include "services/today.h"
+
+namespace {
+
+void ShowDate(WindowHandle dialog, int id, int year, int month, int day) {
+  char text[64];
+  SclRateDateText(year, month, day, text, sizeof text);
+  ControlSetText(dialog, id, text);
+}
+
+void ShowRate(WindowHandle dialog, int id, float rate) {
+  char text[64];
+  SclRateText(rate, text, sizeof text);
+  ControlSetText(dialog, id, text);
+}
+
+void Open(WindowHandle dialog) {
+  LocalTime now;
+  TimeGetLocal(&now);
+  TodaySet(now);
+  const SclRates rates = SclRatesOf(Today.TodayYear, Today.TodayMonth, Today.TodayDay);
+  const SclDate& start = Schedule.SclHeader.start;
+  ShowDate(dialog, IDC_RATE_START, start.year, start.month, start.day);
+  ShowDate(dialog, IDC_RATE_TODAY, Today.TodayYear, Today.TodayMonth, Today.TodayDay);
+  if (rates.any) ShowDate(dialog, IDC_RATE_END, rates.end.year, rates.end.month, rates.end.day);
+  if (rates.reached) ShowRate(dialog, IDC_RATE_DONE, rates.done);
+  if (rates.reached) ShowRate(dialog, IDC_RATE_DUE, rates.due);
+  if (rates.measured) ShowRate(dialog, IDC_RATE_PROGRESS, rates.progress);
+}
+
+constexpr DialogAct kActs[] = {
+    {EventKind::Init, Open},
+    {IDC_RATE_MAP, DispCelSclMapPosDlgRun},
+    {kOkButton, [](WindowHandle dialog) { DialogEnd(dialog, kOkButton); }},
+    {kCancelButton, [](WindowHandle dialog) { DialogEnd(dialog, kCancelButton); }},
+    {EventKind::Close, [](WindowHandle dialog) { DialogEnd(dialog, kCancelButton); }},
+};
+
+bool Handle(const Event& event) {
+  return DialogActRun(event, kActs);
+}
+
+}  // namespace
+
+void SclSucsPerAndMapDlgRun(WindowHandle owner) {
+  DialogRun(IDD_SclSucsPerAndMapDlg, owner, Handle);
+}

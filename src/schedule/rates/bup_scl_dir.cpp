@@ -1,0 +1,31 @@
+#include "schedule/rates/bup_scl_dir.h"
+
+#include "services/data_file.h"
+#include "services/program.h"
+#include "services/record_file.h"
+
+namespace {
+
+constexpr char kName[] = "\\BupSclDir.bsd";
+
+}  // namespace
+
+int BupSclDirWrite(const BupSclDir& dirs) {
+  char path[kRootPathSize];
+  RootPath(path, sizeof path, kName);
+  DataFile data;
+  if (!DataReplace(data, path)) return -1;
+  const bool written = RecordWrite(data, dirs);
+  DataClose(data);
+  return written ? 0 : -2;
+}
+
+int BupSclDirRead(BupSclDir& dirs) {
+  char path[kRootPathSize];
+  RootPath(path, sizeof path, kName);
+  DataFile data;
+  if (!DataOpenRead(data, path, OpenMode::Read)) return -3;
+  const bool read = RecordRead(data, dirs);
+  DataClose(data);
+  return read ? 0 : -2;
+}

@@ -1,0 +1,6 @@
+// The commands of the rates and the map.
+#pragma once
+
+void CommandScheduleRates();
+void CommandScheduleMap();
+void CommandScheduleStatus();
