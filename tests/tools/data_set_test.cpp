@@ -21,6 +21,8 @@
 #include "platform/posix/posix_paths.h"
 #include "schedule/model/schedule.h"
 #include "schedule/model/scl_file.h"
+#include "schedule/plan/plan.h"
+#include "schedule/plan/plan_file.h"
 #include "services/program.h"
 #include "shell/settings.h"
 #include "tests/support/byte_order.h"
@@ -99,6 +101,29 @@ std::map<std::string, Bytes> AllFiles(const fs::path& folder) {
   return files;
 }
 
+// --- The samples of plans
+
+TEST_F(DataSetTest, AStudyPlanAndATrainingPlanLieInTheFolderOfPlans) {
+  ASSERT_EQ(ScpLoadFile(PosixToProgram((Made(kPlanFolder) / u8"学習計画.GPP").string()).c_str()), 0);
+  EXPECT_EQ(Plan.head.ScpPlanKind, kScpStudy);
+  EXPECT_STREQ(Plan.head.title, "学習計画の見本");
+  EXPECT_EQ(Plan.head.start.year, 26);
+  EXPECT_EQ(Plan.head.start.day, 20);
+  EXPECT_EQ(Plan.head.start.hour, 8);
+  EXPECT_STREQ(Plan.ScpPlanTable[0].text, "英単語 1～50");
+  EXPECT_EQ(Plan.ScpPlanTable[5].hours, 5U);
+  ASSERT_EQ(ScpLoadFile(PosixToProgram((Made(kPlanFolder) / u8"筋トレ計画.GPP").string()).c_str()), 0);
+  EXPECT_EQ(Plan.head.ScpPlanKind, kScpTraining);
+  EXPECT_EQ(Plan.head.start.hour, 17);
+  EXPECT_EQ(Plan.ScpPlanTable[1].load, 2U);
+  EXPECT_EQ(Plan.ScpPlanTable[1].repeat, 8);
+}
+
+TEST_F(DataSetTest, APlanThatIsCutIsAFault) {
+  Cut(Made(kPlanFolder) / u8"学習計画.GPP", 1000);
+  EXPECT_TRUE(HasFault(Cp932ToUtf8("学習計画.GPP is no plan")));
+}
+
 }  // namespace
 
 TEST_F(DataSetTest, IsGood) {
@@ -123,7 +148,7 @@ TEST_F(DataSetTest, HoldsAScheduleThatBeginsOnItsDate) {
 
 TEST_F(DataSetTest, HoldsEveryFileByItsName) {
   const std::map<std::string, Bytes> files = AllFiles(Made(""));
-  std::size_t expected = 4 + 2 + Sounds().size();  // data files, world list
+  std::size_t expected = 4 + 2 + 2 + Sounds().size();  // data files, world list, plans
   for (const char* name : {"mirrell_sys_file.svs", "mirrell_chara_file.dcx", "mirrell_calen_file.dcd",
                            "mirrell_ClcAlmPerFile.clc"}) {
     EXPECT_TRUE(files.contains(name)) << name;
@@ -143,6 +168,9 @@ TEST_F(DataSetTest, HoldsEveryFileByItsName) {
   for (const char* name :
        {"旗印.wav", "foot1.wav", "foot2.wav", "ringout.wav", "kan.wav", "po2.wav", "nya.wav"}) {
     EXPECT_TRUE(files.contains(Cp932ToUtf8(std::string("サウンド/") + name))) << name;
+  }
+  for (const char* name : {"学習計画.GPP", "筋トレ計画.GPP"}) {
+    EXPECT_TRUE(files.contains(Cp932ToUtf8(std::string("計画表/") + name))) << name;
   }
   for (const Background& background : Backgrounds())
     EXPECT_TRUE(files.contains(Cp932ToUtf8(std::string("背景/") + background.file))) << background.file;
