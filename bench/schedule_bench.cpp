@@ -5,6 +5,7 @@
 #include <benchmark/benchmark.h>
 
 #include "clock_calendar/calendar/calendar.h"
+#include "schedule/execution/scl_alarm.h"
 #include "schedule/model/schedule.h"
 #include "schedule/model/scl_exec.h"
 #include "schedule/model/scl_items.h"
@@ -57,5 +58,22 @@ void ExecutingCopy(benchmark::State& state) {
   for (auto _ : state) SclExecRefresh();
 }
 BENCHMARK(ExecutingCopy)->Unit(benchmark::kMicrosecond);
+
+// The check of the tick with a list of 1,000 alarms of the day, none of them due. The
+// running program makes it once a minute.
+void AlarmCheck(benchmark::State& state) {
+  Fill(kHoursOfDay);
+  SclRecalcAll();
+  for (int i = 0; i < kSclItemMax; ++i) {
+    SclItem(i).start = {26, 10, 22, 17};
+    SclItem(i).end = {26, 10, 23, 12};
+  }
+  SclExecRefresh();
+  SclAlarmsForget();
+  const LocalTime now{2026, 11, 23, 1, 9, 30, 0, 0};
+  for (auto _ : state) benchmark::DoNotOptimize(SclTickCheck(now));
+  if (SclAlarm.count != kSclItemMax) state.SkipWithError("the list is not full");
+}
+BENCHMARK(AlarmCheck);
 
 }  // namespace

@@ -17,6 +17,11 @@ clock_at() {
 send 1911
 shot SelWatchDlg "$clock"
 press "$clock" 101
+# It strikes twelve times at noon, which leaves time for a picture.
+press "$clock" 103
+press "$adust" 114
+sleep 0.3
+leave "$adust" 1
 leave "$clock" 1
 for design in 0 1 2 3; do
   send 1911
@@ -24,11 +29,12 @@ for design in 0 1 2 3; do
   leave "$clock" 1
   clock_at 10 8 0
   shot "FlyingBat6_$design" -
-  clock_at 11 59 57
-  sleep 3.6
+  clock_at 11 59 59
+  sleep 1
   shot "FlyingBat6_${design}_strike" -
 done
 # Half past ten in the evening, and five past midnight.
+send 2254
 clock_at 22 30 0
 shot FlyingBat6_3_evening -
 clock_at 0 5 0
@@ -36,8 +42,9 @@ shot FlyingBat6_3_midnight -
 send 1911
 choose "$clock" 102 0
 leave "$clock" 1
-for time in '0 0' '3 0' '6 0' '9 45'; do
+for time in '0 1' '3 0' '6 30' '9 45'; do
   clock_at $time 20
+  send 2254
   shot "FlyingBat6_0_${time/ /_}" -
 done
 xdotool mousemove $(hand find - | awk '{ print $1 + $3 / 2, $2 + $4 / 2 }') click 3
@@ -76,9 +83,8 @@ dialog FlyingBat5_alarm "$notice" 1
 send 2339
 choose "$events" 101 0
 shot SetClockEventDlg "$events"
-leave "$events" 1
-sleep 0.5
-dialog FlyingBat5_event "$notice" 1
+brief FlyingBat5_event "$notice" "$events" 1
+leave "$notice" 1
 
 add='時計イベント追加'
 change='時計イベント変更'

@@ -51,18 +51,24 @@
 #define IDC_BMP_RED 106
 #define IDC_BMP_GREEN 107
 #define IDC_BMP_BLUE 108
-/* The controls of the two figures: the number of the figure's first one and these. */
-#define IDC_BMP_FIGURE1 120
-#define IDC_BMP_FIGURE2 140
-#define IDC_FIGURE_CHARA 0
-#define IDC_FIGURE_FRAME 1
-#define IDC_FIGURE_X 2
-#define IDC_FIGURE_Y 3
-#define IDC_FIGURE_DIRECTION 4
-#define IDC_FIGURE_PERIOD 5
-#define IDC_FIGURE_STEP 6
-#define IDC_FIGURE_START 7
-#define IDC_FIGURE_BY_YEAR 8
+#define IDC_FIGURE1_CHARA 120
+#define IDC_FIGURE1_FRAME 121
+#define IDC_FIGURE1_X 122
+#define IDC_FIGURE1_Y 123
+#define IDC_FIGURE1_DIRECTION 124
+#define IDC_FIGURE1_PERIOD 125
+#define IDC_FIGURE1_STEP 126
+#define IDC_FIGURE1_START 127
+#define IDC_FIGURE1_BY_YEAR 128
+#define IDC_FIGURE2_CHARA 140
+#define IDC_FIGURE2_FRAME 141
+#define IDC_FIGURE2_X 142
+#define IDC_FIGURE2_Y 143
+#define IDC_FIGURE2_DIRECTION 144
+#define IDC_FIGURE2_PERIOD 145
+#define IDC_FIGURE2_STEP 146
+#define IDC_FIGURE2_START 147
+#define IDC_FIGURE2_BY_YEAR 148
 
 #define IDD_DspCalenImageDlg 3745
 

@@ -24,12 +24,11 @@
 #define IDC_POP_USER 102
 #define IDC_POP_PASSWORD 103
 
-/* EntertainmentBGMDlg. The code makes the bar. */
+/* EntertainmentBGMDlg. */
 #define IDC_BGM_LOAD 101
 #define IDC_BGM_SAVE 102
 #define IDC_BGM_START 103
 #define IDC_BGM_END 104
-#define IDC_BGM_BAR 110
 
 /* BGMRsvTimeSetDlg. */
 #define IDC_BGM_HOUR 101

@@ -21,8 +21,7 @@
 #define IDC_SCL_RUN 106
 #define IDC_SCL_REGISTER 107
 
-/* ScheduleMakeDlg; the scroll bar is made by the code. */
-#define IDC_SCL_BAR 100
+/* ScheduleMakeDlg */
 #define IDC_SCL_LINES 2022
 #define IDC_SCL_SAVE 2023
 #define IDC_SCL_OVERWRITE 2024

@@ -5,6 +5,7 @@
 #include "scenario/characters/chara_regi.h"
 #include "scenario/logic/snry_logic.h"
 #include "scenario/storage/scenario.h"
+#include "scenario/trace/trace_dialogs.h"
 
 namespace {
 
@@ -20,7 +21,7 @@ void OpenBackdrop(WindowHandle owner) {
 }
 
 constexpr Door kScenarioDoors[] = {
-    {IDC_SNRY_PARA_CHECK, nullptr},
+    {IDC_SNRY_PARA_CHECK, CheckParameterDlgRun},
     {IDC_SNRY_CHARACTERS, CharaRegiDlgRun},
     {IDC_SNRY_OPTIONS, nullptr},
 };

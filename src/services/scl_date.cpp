@@ -20,8 +20,9 @@ int SclDaysInMonth(int year, int month) {
 int SclFirstWeekday(int year, int month) {
   if (year < 0 || year > 99 || month < 0 || month >= kMonthsOfYear) return -1;
   constexpr int kDaysOfYear = 365;
-  const int leapYears = (year + 3) / 4;           // before this one
-  int days = 5 + year * kDaysOfYear + leapYears;  // 1 January 2000 was a Saturday
-  for (int m = 0; m < month; ++m) days += SclDaysInMonth(year, m);
-  return days % kDaysOfWeek;
+  constexpr int kDaysBefore[kMonthsOfYear] = {0, 31, 59, 90, 120, 151, 181, 212, 243, 273, 304, 334};
+  const int leapYears = (year + 3) / 4;  // before this one
+  const int leapDay = month > 1 && SclIsLeapYear(year) ? 1 : 0;
+  // 1 January 2000 was a Saturday.
+  return (5 + year * kDaysOfYear + leapYears + kDaysBefore[month] + leapDay) % kDaysOfWeek;
 }

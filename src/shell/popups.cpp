@@ -13,15 +13,10 @@
 #include "services/dialog_family.h"
 #include "services/file_picker.h"
 #include "services/panel_entry.h"
-#include "services/popup_point.h"
 #include "services/program.h"
 #include "shell/shell_commands.h"
 
 PopupsState Popups;
-
-void PopupPointSet(int x, int y) {
-  Popups.PopupPoint = {x, y};
-}
 
 namespace {
 

@@ -46,6 +46,7 @@
 #include "scenario/logic/snry_sheet.h"
 #include "scenario/storage/scenario.h"
 #include "scenario/storage/scenario_dialogs.h"
+#include "scenario/trace/trace_dialogs.h"
 #include "schedule/applications/application_list.h"
 #include "schedule/execution/schedule_run.h"
 #include "schedule/execution/scl_alarm.h"
@@ -152,7 +153,7 @@ void MailMusicReset() {
 void ScenarioReset() {
   CastBackdropFree();
   ResetAll(CastBackdrop, CastEdit, CastMember, CharaRegi);
-  ResetAll(Scenario, SnryList, SnryMain, SnryScene, SnryDialogs, SnrySheet);
+  ResetAll(Scenario, SnryList, SnryMain, SnryScene, SnryDialogs, SnrySheet, SnryTrace);
 }
 
 void ShellReset() {

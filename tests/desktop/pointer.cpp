@@ -41,6 +41,23 @@ void PointerClick() {
   Act("click 1");
 }
 
+void PointerDoubleClick() {
+  Act("click --repeat 2 --delay 60 1");
+}
+
+void PointerHold(bool down) {
+  Act(down ? "mousedown 1" : "mouseup 1");
+}
+
+void PointerWheel(int notches) {
+  const std::string button = notches > 0 ? "4" : "5";
+  Act("click --repeat " + std::to_string(notches > 0 ? notches : -notches) + " --delay 30 " + button);
+}
+
 void KeyPress(const char* name) {
   Act(std::string("key ") + name);
+}
+
+void KeysType(const char* text) {
+  Act(std::string("type --delay 30 ") + text);
 }

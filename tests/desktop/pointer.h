@@ -8,5 +8,13 @@ void PointerTo(int x, int y);
 void PointerAway();
 // A press and release of the left button where the pointer is.
 void PointerClick();
+// Two of them, as quick as a double click.
+void PointerDoubleClick();
+// The left button goes down and stays so, or comes up.
+void PointerHold(bool down);
+// So many notches of the wheel, away from the user counted up.
+void PointerWheel(int notches);
 // A key goes down and up, by its name ("Escape").
 void KeyPress(const char* name);
+// Letters and digits, one key after the other.
+void KeysType(const char* text);

@@ -6,6 +6,7 @@
 #include "resources/clock_ids.h"
 #include "resources/filetools_ids.h"
 #include "resources/mail_music_ids.h"
+#include "resources/scenario_storage_ids.h"
 #include "resources/schedule_applications_ids.h"
 #include "resources/schedule_table_ids.h"
 #include "resources/shell_ids.h"
@@ -29,7 +30,8 @@ constexpr FeatureRow kFeatures[] = {
     {2108, IDD_WatchListChgDlg},  {2330, IDD_SetClockAlarmDlg},  {2339, IDD_SetClockEventDlg},
     {2281, IDD_OptionSelDlg1_2},  {2282, IDD_OptionSelDlg2},     {2283, IDD_OptionSelDlg3},
     {1910, IDD_ScheduleSelDlg2},  {2019, IDD_ScheduleSelDlg},    {1918, IDD_MailSettingMenuDlg},
-    {1913, IDD_SelCalenderDlg},   {2276, IDD_SelCalenderDlg},
+    {1913, IDD_SelCalenderDlg},   {2276, IDD_SelCalenderDlg},    {1923, IDD_SnryMainLoad},
+    {1924, IDD_SnryMainDelete},   {1926, IDD_NewSnryMainDlg},
 };
 
 using OneFeatureTest = OpenFixture;

@@ -188,17 +188,6 @@ TEST_F(PanelProgramTest, WhatTheTickSendsLeavesThePanelOpen) {
   }
 }
 
-TEST_F(PanelProgramTest, TheEntriesOfFeaturesStillToComeCloseThePanel) {
-  for (const std::uint32_t command : {1923U, 1924U, 1926U}) {
-    Then([command] {
-      SendCommand(Program.hMainWnd, command);
-      EXPECT_EQ(Panel.hDiskMenu, nullptr) << command;
-      EXPECT_EQ(Panel.MenuPanelState, 0) << command;
-    });
-    TouchStage();
-  }
-}
-
 TEST_F(PanelProgramTest, EndingTheProgramIsAskedForAndCancelClearsTheState) {
   Then([] { ClickRow(7); });
   ExpectBox("プログラムを終了します。", "プログラム終了", BoxAnswer::Cancel,

@@ -257,6 +257,25 @@ TEST_F(FileWatchTest, AChangedCalendarTellsTheScheduleProgramOnlyWhenTheSelected
   EXPECT_EQ(BoxesShown().size(), 1U);
 }
 
+// What a sibling, or the list of the public holidays, has put into the selected calendar's
+// sheet: the flag of 1 January lies at 2 of the month block, its note at 34.
+TEST_F(FileWatchTest, ChangedHolidaysAndNotesOfTheSheetReachTheWorkingArray) {
+  const bool before = CalenHolidayFlag(0, 0, 0);
+  CalenNoteSet(0, 0, 1, "mine");
+  std::string file = FileBytes(kCalendarFile);
+  file.at(3986 + 2) = before ? 0 : 1;
+  file.at(3986 + 34) = 'x';
+  ASSERT_TRUE(PutFile(kCalendarFile, file));
+  SetFileTime(kCalendarFile, 2000000);
+  Ticks(201);
+  EXPECT_EQ(CalenHolidayFlag(0, 0, 0), !before);
+  char note[kNoteSize + 1];
+  CalenNoteGet(0, 0, 0, note);
+  EXPECT_STREQ(note, "x");
+  CalenNoteGet(0, 0, 1, note);
+  EXPECT_STREQ(note, "mine");
+}
+
 // Behind the sheets (12 blocks of 4672 bytes) and their marks (12 of 10) of all
 // calendars stand the definitions.
 TEST_F(FileWatchTest, AChangedDefinitionTellsTheScheduleProgram) {

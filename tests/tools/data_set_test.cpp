@@ -22,8 +22,8 @@
 #include "schedule/model/schedule.h"
 #include "schedule/model/scl_file.h"
 #include "services/program.h"
-#include "tests/support/byte_order.h"
 #include "shell/settings.h"
+#include "tests/support/byte_order.h"
 #include "world/world_list.h"
 
 namespace fs = std::filesystem;
@@ -144,6 +144,9 @@ TEST_F(DataSetTest, HoldsEveryFileByItsName) {
        {"旗印.wav", "foot1.wav", "foot2.wav", "ringout.wav", "kan.wav", "po2.wav", "nya.wav"}) {
     EXPECT_TRUE(files.contains(Cp932ToUtf8(std::string("サウンド/") + name))) << name;
   }
+  for (const Background& background : Backgrounds())
+    EXPECT_TRUE(files.contains(Cp932ToUtf8(std::string("背景/") + background.file))) << background.file;
+  expected += Backgrounds().size();
   EXPECT_EQ(files.size(), expected);
 }
 
@@ -239,6 +242,27 @@ TEST_F(DataSetTest, CalendarFileHoldsThreeCalendars) {
   EXPECT_EQ(Clock.ClockListCount, 4);
   EXPECT_EQ(fs::file_size(Made("mirrell_calen_file.dcd")),
             3986U + 3U * 56064U + 3U * 120U + 3U * 26728U + 302U + 4U + 4U * 104U);
+}
+
+// Every month has a background, a fixed figure and two that move.
+TEST_F(DataSetTest, EveryMonthOfEveryCalendarHasItsPicture) {
+  ASSERT_EQ(CalenFileRead(), 0);
+  const char* const kSeasons[] = {"冬.bmp", "冬.bmp", "春.bmp", "春.bmp", "春.bmp", "夏.bmp",
+                                  "夏.bmp", "夏.bmp", "秋.bmp", "秋.bmp", "秋.bmp", "冬.bmp"};
+  for (int i = 0; i < 3; ++i) {
+    for (int month = 0; month < 12; ++month) {
+      const CalenMonthPicture& picture = Calendar.CalenSheets[i][month].picture;
+      EXPECT_EQ(picture.pictureOn, 1);
+      EXPECT_STREQ(picture.background, kSeasons[month]);
+      for (int place = 0; place < 3; ++place)
+        EXPECT_NE(Calendar.CalenDefinitions[i].charas[month][place], 0) << i << " " << month << " " << place;
+    }
+  }
+}
+
+TEST_F(DataSetTest, CheckFindsAMissingBackground) {
+  Remove(Made("") / u8"背景" / u8"春.bmp");
+  EXPECT_TRUE(HasFault(Cp932ToUtf8("calendar 1, month 3: the background 春.bmp is not there")));
 }
 
 TEST_F(DataSetTest, ClockAlarmFileHoldsThreePerformances) {

@@ -20,6 +20,14 @@ const Dates kHolidays2026 = {{1, 1},  {1, 12}, {2, 11}, {2, 23},  {3, 20}, {4, 2
 const Dates kHolidays2027 = {{1, 1}, {1, 11}, {2, 11}, {2, 23}, {3, 21}, {3, 22},  {4, 29}, {5, 3},  {5, 4},
                              {5, 5}, {7, 19}, {8, 11}, {9, 20}, {9, 23}, {10, 11}, {11, 3}, {11, 23}};
 
+// The days as published for 2024 and 2025.
+const Dates kHolidays2024 = {{1, 1},  {1, 8},  {2, 11}, {2, 12},  {2, 23}, {3, 20}, {4, 29},
+                             {5, 3},  {5, 4},  {5, 5},  {5, 6},   {7, 15}, {8, 11}, {8, 12},
+                             {9, 16}, {9, 22}, {9, 23}, {10, 14}, {11, 3}, {11, 4}, {11, 23}};
+const Dates kHolidays2025 = {{1, 1},  {1, 13},  {2, 11}, {2, 23},  {2, 24}, {3, 20}, {4, 29},
+                             {5, 3},  {5, 4},   {5, 5},  {5, 6},   {7, 21}, {8, 11}, {9, 15},
+                             {9, 23}, {10, 13}, {11, 3}, {11, 23}, {11, 24}};
+
 // Fills the calendars for a year and returns what they show as holidays in the
 // year at a place of the working array: by flag or by a rule of the first kind,
 // without plain Sundays.
@@ -48,6 +56,13 @@ const HolidayRule* RuleOf(const std::vector<HolidayRule>& rules, int month, int 
 }
 
 }  // namespace
+
+TEST(Holidays, DatesOf2024And2025) {
+  EXPECT_EQ(HolidaysOf(2024), kHolidays2024);
+  EXPECT_EQ(HolidaysOf(2025), kHolidays2025);
+  EXPECT_EQ(ShownHolidays(2024, 0), kHolidays2024);
+  EXPECT_EQ(ShownHolidays(2025, 0), kHolidays2025);
+}
 
 TEST(Holidays, DatesOf2026) {
   EXPECT_EQ(HolidaysOf(2026), kHolidays2026);

@@ -10,6 +10,7 @@
 //   mirrell-hand choose TITLE ID ROW      selects a row
 //   mirrell-hand double TITLE ID ROW      and double clicks it
 //   mirrell-hand type TITLE ID TEXT       fills an edit field
+//   mirrell-hand page TITLE PAGE          shows a page of a property sheet, from 0
 //   mirrell-hand key TITLE CODE           gives the window a character
 //   mirrell-hand leave TITLE [ID]         closes it, by that button if one is named, and waits
 //   mirrell-hand gone TITLE               waits until no window has the title
@@ -19,12 +20,16 @@
 //   mirrell-hand list                     the windows there are
 //   mirrell-hand stage                    the place of the stage
 //
+// A control of a property sheet may be one of the page on show.
 // ROW is a number from 0 or the beginning of its text.
 // TITLE is a window's whole caption; "-" is a window without one. "other:TEXT" is a
 // window of another program, one that the companion has started, whose caption
 // begins with TEXT. Of several windows the topmost is meant. Everything waits a few
 // seconds for its window; the exit code is 1 if it did not come.
 #include <windows.h>
+
+#include <commctrl.h>
+#include <prsht.h>
 
 #include <cstdio>
 #include <cstdlib>
@@ -137,6 +142,15 @@ int AwaitGone(const wchar_t* title, const std::function<bool()>& isThere) {
   return 1;
 }
 
+// A control of the window; of a property sheet also one of the page on show.
+HWND ControlOf(HWND window, const wchar_t* number) {
+  const int id = static_cast<int>(std::wcstol(number, nullptr, 10));
+  HWND control = GetDlgItem(window, id);
+  if (control || !FindWindowExW(window, nullptr, L"SysTabControl32", nullptr)) return control;
+  const auto page = reinterpret_cast<HWND>(SendMessageW(window, PSM_GETCURRENTPAGEHWND, 0, 0));
+  return page ? GetDlgItem(page, id) : nullptr;
+}
+
 // Posted: what it opens may be modal.
 void Tell(HWND window, HWND control, int notice) {
   PostMessageW(window, WM_COMMAND, MAKEWPARAM(GetDlgCtrlID(control), notice),
@@ -224,8 +238,13 @@ int Do(const std::wstring& deed, HWND window, int count, wchar_t** arguments) {
     return PostMessageW(window, WM_CHAR, static_cast<WPARAM>(std::wcstol(arguments[3], nullptr, 10)), 0) ? 0
                                                                                                          : 1;
   }
-  HWND control = GetDlgItem(window, static_cast<int>(std::wcstol(arguments[3], nullptr, 10)));
+  if (deed == L"page") {
+    SendMessageW(window, PSM_SETCURSEL, static_cast<WPARAM>(std::wcstol(arguments[3], nullptr, 10)), 0);
+    return 0;
+  }
+  HWND control = ControlOf(window, arguments[3]);
   if (!control) return 1;
+  window = GetParent(control);
   if (deed == L"part") {
     PrintPlace(control);
     return 0;
@@ -272,7 +291,8 @@ int wmain(int count, wchar_t** arguments) {
   if (deed == L"time") {
     SendMessageW(Stage(), RegisterWindowMessageW(L"MirrellTime"),
                  static_cast<WPARAM>(std::wcstol(arguments[2], nullptr, 10)), 0);
-    return 0;
+    // A timer that rests would see it only when something is due.
+    return PostMessageW(Stage(), WM_TIMER, 1, 0) ? 0 : 1;
   }
   if (deed == L"release") return Hold(false);
   if (deed == L"gone") return AwaitGone(arguments[2], [&] { return Look(arguments[2]).count > 0; });

@@ -50,6 +50,8 @@ const std::vector<Sound> kSounds = {
     {"nya.wav", "nya.txt"},         {"手紙.wav", "tegami.txt"},
 };
 
+const std::vector<Background> kBackgrounds = {{"春.bmp", 1}, {"夏.bmp", 2}, {"秋.bmp", 3}, {"冬.bmp", 4}};
+
 const std::vector<CastMember> kCast = {
     {1,
      Role::Main,
@@ -107,6 +109,11 @@ const std::vector<CastMember> kCast = {
                                                "りょこう",     "でんしゃ", "びょういん",     "スポーツ",
                                                "おんがく",     "でんわ",   "ごみの日",       "おはなみ",
                                                "おまつり",     "あめの日", "クリスマス",     "おやすみ"}},
+    {21, Role::Figure, "季節の空のなかま", {"ちょうちょ", "かもめ", "とんぼ", "ゆきだるま"}},
+    {22, Role::Figure, "季節の雲", {"はるのくも", "なつのくも", "ゆうやけぐも", "ゆきぐも"}},
+    {23, Role::Figure, "日めくりの数字", {"0", "1", "2", "3", "4", "5", "6", "7", "8", "9"}},
+    {24, Role::Figure, "日めくりの赤い数字", {"0", "1", "2", "3", "4", "5", "6", "7", "8", "9"}},
+    {25, Role::Figure, "庭の木", {"さくら", "わかば", "もみじ", "ゆきのき"}},
 };
 
 }  // namespace
@@ -133,4 +140,8 @@ const Dial& DialOf(int place) {
 
 const std::vector<Sound>& Sounds() {
   return kSounds;
+}
+
+const std::vector<Background>& Backgrounds() {
+  return kBackgrounds;
 }

@@ -13,12 +13,13 @@ enum class Role {
   Walker,   // walks over the screen
   Dial,     // a clock design
   Sticker,  // its frames are stuck on days of a calendar
+  Figure,   // stands or moves on a calendar's page
 };
 
-// Stickers are never a window's shape, so they have no outlines and may be in
-// pieces.
+// Stickers and the figures of a page are never a window's shape, so they have no outlines
+// and may be in pieces.
 constexpr bool HasOutline(Role role) {
-  return role != Role::Sticker;
+  return role != Role::Sticker && role != Role::Figure;
 }
 
 // How the windows of a role are shaped.
@@ -82,3 +83,11 @@ struct Sound {
   const char* recipe;
 };
 const std::vector<Sound>& Sounds();
+
+// A background of the calendars' months, a file of the folder "背景", and the frame of the
+// drawing "haikei.svg" that it is made from. In the order of the seasons, spring first.
+struct Background {
+  const char* file;
+  int frame;
+};
+const std::vector<Background>& Backgrounds();

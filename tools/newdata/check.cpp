@@ -277,6 +277,19 @@ class Checker {
     }
   }
 
+  // The background and the figures that a month shows.
+  void CheckMonthPicture(const CalenDefinition& definition, const CalenMonth& block, int month,
+                         const std::string& name) {
+    if (block.picture.pictureOn == 0) return;
+    const std::string background = Cp932ToUtf8(block.picture.background);
+    Demand(background.empty() || std::filesystem::is_regular_file(folder_ / kBackgroundFolder / background),
+           name + ": the background " + background + " is not there");
+    for (int place = 0; place < kDefinitionPlaces; ++place) {
+      if (definition.charas[month][place] != 0)
+        DemandFrame(definition.charas[month][place], definition.figures[month][place], name);
+    }
+  }
+
   void CheckCalendars() {
     Demand(Calendar.CalenCount > 0 && Calendar.CalenSel >= 0 && Calendar.CalenSel < Calendar.CalenCount,
            "there is no calendar");
@@ -290,6 +303,8 @@ class Checker {
         Demand(block.days == SclDaysInMonth(Calendar.CalenFirstYear, month) &&
                    block.firstWeekday == SclFirstWeekday(Calendar.CalenFirstYear, month),
                name + ": month " + std::to_string(month + 1) + " is not one of its year");
+        CheckMonthPicture(Calendar.CalenDefinitions[i], block, month,
+                          name + ", month " + std::to_string(month + 1));
       }
     }
   }

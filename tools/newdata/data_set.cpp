@@ -114,6 +114,9 @@ void MakeDataSet(const std::filesystem::path& folder, const std::filesystem::pat
   WriteHostFile(characters / "EDTCFLAG.edf", WorldFlagFile(Cast()));
   WriteHostFile(characters / "EDTCDATA.edf", WorldDataFile(Cast()));
   WriteSounds(assets / "sounds", sounds);
+  const std::filesystem::path backgrounds = folder / kBackgroundFolder;
+  std::filesystem::create_directories(backgrounds);
+  WriteBackgrounds(assets / "backgrounds", backgrounds);
   UseProgramFolder(folder);
   WriteDataFiles(date);
 }

@@ -12,8 +12,8 @@ struct DataSetDate {
 };
 
 // Makes the whole data set in `folder`, which is made if it is not there. Files
-// of an older set are replaced. `assets` holds the folders "characters" and
-// "sounds"; the calendars begin with the year of `date`. The same assets and date
+// of an older set are replaced. `assets` holds the folders "characters",
+// "backgrounds" and "sounds"; the calendars begin with the year of `date`. The same assets and date
 // give the same files. Throws std::runtime_error that says what went wrong.
 void MakeDataSet(const std::filesystem::path& folder, const std::filesystem::path& assets,
                  const DataSetDate& date);
@@ -29,4 +29,5 @@ void UseProgramFolder(const std::filesystem::path& folder);
 // The folders of a data set, as names of this machine.
 inline constexpr const char8_t* kCharacterFolder = u8"キャラクタ";
 inline constexpr const char8_t* kSoundFolder = u8"サウンド";
+inline constexpr const char8_t* kBackgroundFolder = u8"背景";
 inline constexpr const char8_t* kScheduleFolder = u8"スケジュール表";

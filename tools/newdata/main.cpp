@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "newdata/data_set.h"
+#include "newdata/holiday_list.h"
 #include "newdata/host_file.h"
 #include "newdata/ico.h"
 
@@ -18,13 +19,16 @@ constexpr char kUsage[] =
     "usage: mirrell-newdata [--assets DIR] [--date YYYY-MM-DD] FOLDER   makes a data set in a program "
     "folder\n"
     "       mirrell-newdata --check FOLDER                              reads one back and tells its faults\n"
-    "       mirrell-newdata [--assets DIR] --icon FILE                  makes the program's icon\n";
+    "       mirrell-newdata [--assets DIR] --icon FILE                  makes the program's icon\n"
+    "       mirrell-newdata holidays FILE FOLDER                        sets the holidays of a list (date, "
+    "name)\n";
 
-enum class Job { Make, Check, Icon };
+enum class Job { Make, Check, Icon, Holidays };
 
 struct Arguments {
   Job job = Job::Make;
   std::filesystem::path assets = MIRRELL_ASSETS_DIR;
+  std::filesystem::path list;  // of holidays
   std::filesystem::path target;
   DataSetDate date{};
 };
@@ -68,6 +72,9 @@ Arguments Parse(const std::vector<std::string>& words) {
       arguments.date = ParseDate(value());
     } else if (words[i] == "--check" || words[i] == "--icon") {
       arguments.job = words[i] == "--check" ? Job::Check : Job::Icon;
+    } else if (words[i] == "holidays" && i == 0) {
+      arguments.job = Job::Holidays;
+      arguments.list = value();
     } else if (words[i].starts_with("--") || !arguments.target.empty()) {
       throw std::runtime_error("not understood: " + words[i]);
     } else {
@@ -82,6 +89,23 @@ int Check(const std::filesystem::path& folder) {
   const std::vector<std::string> faults = CheckDataSet(folder);
   for (const std::string& fault : faults) std::fprintf(stderr, "%s\n", fault.c_str());
   return faults.empty() ? 0 : 1;
+}
+
+// 1 when a line of the list could not be taken.
+int Holidays(const std::filesystem::path& file, const std::filesystem::path& folder) {
+  const Bytes content = ReadHostFile(file);
+  const HolidayList list = ReadHolidayList({reinterpret_cast<const char*>(content.data()), content.size()});
+  for (const std::string& fault : list.faults)
+    std::fprintf(stderr, "%s: %s\n", file.string().c_str(), fault.c_str());
+  const HolidaysTaken taken = TakeHolidays(folder, list.days);
+  std::printf("%d holidays set, %d with a note of their own, %d outside the calendars' years\n", taken.set,
+              taken.withNote, taken.outside);
+  if (taken.later > 0)
+    std::printf(
+        "%d of them lie behind the first year: a companion that runs takes these at its next start, if "
+        "it had ended before\n",
+        taken.later);
+  return list.faults.empty() ? 0 : 1;
 }
 
 }  // namespace
@@ -101,6 +125,8 @@ int main(int count, char** words) {
         break;
       case Job::Check:
         return Check(arguments.target);
+      case Job::Holidays:
+        return Holidays(arguments.list, arguments.target);
       case Job::Icon:
         WriteHostFile(arguments.target, ProgramIcon(arguments.assets / "icon" / "mirrell.svg"));
         break;

@@ -60,3 +60,10 @@ void WriteSounds(const std::filesystem::path& recipes, const std::filesystem::pa
     WriteHostFile(folder / Cp932ToUtf8(sound.file), WavFile(MakeSoundOf(recipes / sound.recipe)));
   }
 }
+
+void WriteBackgrounds(const std::filesystem::path& drawings, const std::filesystem::path& folder) {
+  for (const Background& background : Backgrounds()) {
+    const Frame frame = RenderFrame(drawings / "haikei.svg", background.frame);
+    WriteHostFile(folder / Cp932ToUtf8(background.file), BmpFile(frame.picture));
+  }
+}

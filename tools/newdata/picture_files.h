@@ -17,3 +17,7 @@ void WriteCharacters(const std::filesystem::path& drawings, const std::filesyste
 
 // All sounds; their recipes are in `recipes`.
 void WriteSounds(const std::filesystem::path& recipes, const std::filesystem::path& folder);
+
+// Makes the backgrounds of the calendars out of the drawing in `drawings`. Throws
+// std::runtime_error, which names the file.
+void WriteBackgrounds(const std::filesystem::path& drawings, const std::filesystem::path& folder);

@@ -27,8 +27,16 @@ constexpr const char* kStarts[kStartPlaces] = {"指定なし", "左上", "上", 
 
 // --- The fields
 
-// The controls of one figure are numbered alike, from a first one on.
-constexpr int kFirstOfFigure[kFigureCount] = {IDC_BMP_FIGURE1, IDC_BMP_FIGURE2};
+// The controls of one figure.
+struct FigureControls {
+  int chara, frame, x, y, direction, period, step, start, byYear;
+};
+constexpr FigureControls kControls[kFigureCount] = {
+    {IDC_FIGURE1_CHARA, IDC_FIGURE1_FRAME, IDC_FIGURE1_X, IDC_FIGURE1_Y, IDC_FIGURE1_DIRECTION,
+     IDC_FIGURE1_PERIOD, IDC_FIGURE1_STEP, IDC_FIGURE1_START, IDC_FIGURE1_BY_YEAR},
+    {IDC_FIGURE2_CHARA, IDC_FIGURE2_FRAME, IDC_FIGURE2_X, IDC_FIGURE2_Y, IDC_FIGURE2_DIRECTION,
+     IDC_FIGURE2_PERIOD, IDC_FIGURE2_STEP, IDC_FIGURE2_START, IDC_FIGURE2_BY_YEAR},
+};
 
 void CharaRow(int row, char* text, int size) {
   if (row == 0) {
@@ -39,17 +47,17 @@ void CharaRow(int row, char* text, int size) {
 }
 
 void FigureExchange(Form& form, CalenBmpEdit& bmp, int figure) {
-  const int first = kFirstOfFigure[figure];
+  const FigureControls& controls = kControls[figure];
   CalenMonthPicture& picture = bmp.picture;
-  form.Choice(first + IDC_FIGURE_CHARA, picture.charas[figure], RowsOf(World.WorldCharaCount + 1, CharaRow));
-  form.Choice(first + IDC_FIGURE_FRAME, picture.figures[figure], RowsOfNumbers(0, kWorldFrames - 1));
-  form.Number(first + IDC_FIGURE_X, picture.correctX[figure], 5);
-  form.Number(first + IDC_FIGURE_Y, picture.correctY[figure], 5);
-  form.Choice(first + IDC_FIGURE_DIRECTION, picture.directions[figure], RowsOf(kDirections));
-  form.Choice(first + IDC_FIGURE_PERIOD, picture.periods[figure], RowsOf(kPeriods));
-  form.Choice(first + IDC_FIGURE_STEP, picture.steps[figure], RowsOf(kSteps));
-  form.Choice(first + IDC_FIGURE_START, picture.starts[figure], RowsOf(kStarts));
-  form.Check(first + IDC_FIGURE_BY_YEAR, picture.byYear[figure]);
+  form.Choice(controls.chara, picture.charas[figure], RowsOf(World.WorldCharaCount + 1, CharaRow));
+  form.Choice(controls.frame, picture.figures[figure], RowsOfNumbers(0, kWorldFrames - 1));
+  form.Number(controls.x, picture.correctX[figure], 5);
+  form.Number(controls.y, picture.correctY[figure], 5);
+  form.Choice(controls.direction, picture.directions[figure], RowsOf(kDirections));
+  form.Choice(controls.period, picture.periods[figure], RowsOf(kPeriods));
+  form.Choice(controls.step, picture.steps[figure], RowsOf(kSteps));
+  form.Choice(controls.start, picture.starts[figure], RowsOf(kStarts));
+  form.Check(controls.byYear, picture.byYear[figure]);
 }
 
 void Exchange(Form& form, CalenBmpEdit& bmp) {

@@ -3,8 +3,8 @@
 
 #include "clock_calendar/clock/clock.h"
 #include "clock_calendar/clock/clock_commands.h"
+#include "clock_calendar/clock/comment_field.h"
 #include "clock_calendar/clock/performance_rows.h"
-#include "platform/dialog.h"
 #include "resources/clock_ids.h"
 #include "services/dialog_acts.h"
 #include "services/dialog_family.h"
@@ -44,7 +44,7 @@ void Exchange(Form& form, Alarms& alarms) {
     form.Choice(IDC_ALARM_HOUR + i, slot.hour, kHourRows);
     form.Choice(IDC_ALARM_MINUTE + i, slot.minute, kMinuteRows);
     ExchangePerformance(form, IDC_ALARM_PERFORMANCE + i, slot.performance);
-    form.Text(IDC_ALARM_COMMENT + i, slot.comment);
+    CommentExchange(form, IDC_ALARM_COMMENT + i, slot.comment, sizeof slot.comment);
   }
 }
 
@@ -57,8 +57,6 @@ Alarms AlarmsNow() {
 void Open(WindowHandle dialog) {
   Alarms alarms = AlarmsNow();
   FormShow(dialog, alarms, Exchange);
-  for (int i = 0; i < kAlarmSlotCount; ++i)
-    ControlSetLimit(dialog, IDC_ALARM_COMMENT + i, kAlarmCommentSize - 1);
 }
 
 void Accept(WindowHandle dialog) {

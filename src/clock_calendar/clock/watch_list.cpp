@@ -1,5 +1,6 @@
 #include "clock_calendar/clock/watch_list.h"
 
+#include "clock_calendar/clock/comment_field.h"
 #include "resources/clock_ids.h"
 #include "services/text.h"
 
@@ -29,7 +30,7 @@ void WatchListExchange(Form& form, TimedEvent& event) {
   form.NumberIn(IDC_TIMED_HOUR, event.hour, 2, 0, 23, "%2d");
   form.NumberIn(IDC_TIMED_MINUTE, event.minute, 2, 0, 59, "%2d");
   form.NumberIn(IDC_TIMED_SECOND, event.second, 2, 0, 59, "%2d");
-  form.Text(IDC_TIMED_COMMENT, event.comment);
+  CommentExchange(form, IDC_TIMED_COMMENT, event.comment, sizeof event.comment);
 }
 
 void WatchListFill(WindowHandle dialog, const TimedEvent& event) {

@@ -16,11 +16,13 @@
 
 namespace {
 
+constexpr int kBar = 110;  // the scroll bar, which the template has not
+
 // kept: the music table scrolls as far as the schedule has rows, whose scrolling it shares;
 // its other rows are out of reach.
 void Fit(WindowHandle dialog) {
   const TableLayout layout = BgmLayout(dialog);
-  TableBarPlace(dialog, Music.view, IDC_BGM_BAR, TableBarPlaceOf(layout));
+  TableBarPlace(dialog, Music.view, kBar, TableBarPlaceOf(layout));
   TableViewFit(Music.view, Schedule.SclHeader.count, layout.visible);
 }
 
@@ -30,7 +32,7 @@ void Open(WindowHandle dialog) {
   RowGuestSet(dialog, &SclRowTable());
   RowsForget();
   Fit(dialog);
-  TableFocus(dialog, Music.view, IDC_BGM_BAR);
+  TableFocus(dialog, Music.view, kBar);
 }
 
 void Paint(WindowHandle dialog) {
@@ -45,7 +47,7 @@ TablePlace PlaceOf(const Event& event) {
 }
 
 void LeftDown(const Event& event) {
-  TableFocus(event.window, Music.view, IDC_BGM_BAR);
+  TableFocus(event.window, Music.view, kBar);
   const TablePlace place = PlaceOf(event);
   const bool cell = place.hit == TableHit::Content || place.hit == TableHit::Hours;
   if (!cell && place.hit != TableHit::Number) return;

@@ -23,11 +23,15 @@ bool IsPara(int id) {
   return id >= 1 && id <= kSnryParaMax && IsUsed(id - 1);
 }
 
-// The name with what the parameter does for the player besides.
-void NameText(const SnryParaRec& para, char* text, std::size_t size) {
-  constexpr const char* kMarks[] = {"", "(&Load)", "(&Save)", "(&Exit)"};
+// How a parameter reads in a combo box and in the list, by what it does for the player
+// besides.
+constexpr const char* kComboTexts[] = {"%s", "%s(&Load)", "%s(&Save)", "%s(&Exit)"};
+constexpr const char* kListTexts[] = {"%d. %s", "%d. %s(&Load)", "%d. %s(&Save)", "%d. %s(&Exit)"};
+
+template <std::size_t N>
+const char* TextOf(const char* const (&texts)[N], const SnryParaRec& para) {
   const auto assignment = static_cast<std::size_t>(para.assignment);
-  TextFormat(text, size, "%s%s", para.name, kMarks[assignment < std::size(kMarks) ? assignment : 0]);
+  return texts[assignment < N ? assignment : 0];
 }
 
 void ComboText(int row, char* text, int size) {
@@ -35,7 +39,8 @@ void ComboText(int row, char* text, int size) {
   if (slot < 0) {
     TextCopy(text, static_cast<std::size_t>(size), kNotSet);
   } else {
-    NameText(SnryMain.paras[slot], text, static_cast<std::size_t>(size));
+    const SnryParaRec& para = SnryMain.paras[slot];
+    TextFormat(text, static_cast<std::size_t>(size), TextOf(kComboTexts, para), para.name);
   }
 }
 
@@ -81,10 +86,11 @@ int SnryParaSlotOfRow(int row) {
 }
 
 void SnryParaListText(int row, char* text, int size) {
-  char name[kSnryNameSize + 16] = "";
+  text[0] = '\0';
   const int slot = SnryParaSlotOfRow(row);
-  if (slot >= 0) NameText(SnryMain.paras[slot], name, sizeof name);
-  TextFormat(text, static_cast<std::size_t>(size), "%d. %s", row + 1, name);
+  if (slot < 0) return;
+  const SnryParaRec& para = SnryMain.paras[slot];
+  TextFormat(text, static_cast<std::size_t>(size), TextOf(kListTexts, para), row + 1, para.name);
 }
 
 bool SnryParaNameIsTaken(const char* name) {

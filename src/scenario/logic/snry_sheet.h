@@ -19,7 +19,7 @@ struct SnrySheetState {
   std::int32_t menu = 0;
   std::int32_t event = 0;
   std::int32_t random = 0;
-  std::int32_t item = -1;
+  std::int32_t item = 0;
 
   SnryParaRec para = {};  // in the fields of the dialogs of parameters
 };

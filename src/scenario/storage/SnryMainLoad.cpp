@@ -11,7 +11,6 @@
 namespace {
 
 void Open(WindowHandle dialog) {
-  SnryDialogs.listRow = -1;
   RowsShow(dialog, IDC_SNRY_LIST, RowsOf(SnryList.count, SnryListRowText));
 }
 
@@ -35,6 +34,7 @@ bool Handle(const Event& event) {
 }  // namespace
 
 int SnryMainLoadRun(WindowHandle owner) {
+  SnryDialogs.listRow = -1;
   MenuDialogRun(MenuDialog::SnryMainLoad, IDD_SnryMainLoad, owner, Handle);
   return SnryDialogs.listRow;
 }

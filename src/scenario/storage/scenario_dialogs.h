@@ -12,7 +12,7 @@ inline constexpr int kSnryFilesMax = 1024;  // that AddSnryFileDlg lists
 struct SnryDialogsState {
   FolderList folders;                   // of NewSnryMainDlg
   char folderOnShow[kFolderSize] = {};  //
-  std::int32_t listRow = -1;            // that was chosen in SnryMainLoad
+  std::int32_t listRow = 0;             // that was chosen in SnryMainLoad
   std::int32_t fileCount = 0;           // of AddSnryFileDlg
   char files[kSnryFilesMax][kSnryFileNameMax] = {};
 };

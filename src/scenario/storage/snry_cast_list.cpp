@@ -42,8 +42,8 @@ void CopyText(int number, int id, char* text, std::size_t size) {
 
 void CharacterText(SnryCastShow show, int number, int id, char* text, std::size_t size) {
   const bool withCopies = show == SnryCastShow::Characters && SnryCastAt(id - 1).copies != 0;
-  TextFormat(text, size, "%d. %s%s [登場名: %s]", number, SnryMain.charaNames[id - 1].text,
-             withCopies ? "(コピー含む)" : "", SnryMain.castNames[id - 1].text);
+  TextFormat(text, size, withCopies ? "%d. %s(コピー含む) [登場名: %s]" : "%d. %s [登場名: %s]", number,
+             SnryMain.charaNames[id - 1].text, SnryMain.castNames[id - 1].text);
 }
 
 }  // namespace

@@ -20,7 +20,7 @@ int SnryWorldPath(char* buffer, int size) {
 int SnryListPath(char* buffer, int size) {
   char world[kRootPathSize];
   SnryWorldPath(world, sizeof world);
-  return Join(buffer, size, world, kSnryListName);
+  return TextFormat(buffer, static_cast<std::size_t>(size), "%s%s", world, kSnryListName);
 }
 
 int SnryMainPath(char* buffer, int size) {

@@ -7,7 +7,7 @@
 inline constexpr int kSnryLongPath = 2 * kSnryPathSize + 2;
 
 inline constexpr char kSnryWorldFolder[] = "\\ワールド";
-inline constexpr char kSnryListName[] = "SNRYLIST.sli";
+inline constexpr char kSnryListName[] = "\\SNRYLIST.sli";
 inline constexpr char kSnryMainName[] = "シナリオメイン.cff";
 inline constexpr char kSnryBackFolder[] = "\\背景";
 inline constexpr char kSnryCharaFolder[] = "\\キャラクタ";

@@ -61,17 +61,16 @@ bool TableIsFull(int items) {
   return items >= kSclItemMax;
 }
 
-// The hours behind the one that was just placed that follow it in the same day, before a
-// rest begins and before the day ends; at most `most`.
-std::uint32_t HoursAhead(const SclDate& at, std::uint32_t most) {
-  const int row = RowOf(at);
+// The hours from `hour` on, where no rest begins, that lie in a day before a rest begins and
+// before the day ends; at most `most`.
+std::uint32_t HoursInDay(int row, int hour, std::uint32_t most) {
   const int end = Schedule.SclHeader.rows[row].end;
-  std::uint32_t ahead = 0;
-  while (ahead < most && at.hour + static_cast<int>(ahead) < end &&
-         RestOf(row, at.hour + static_cast<int>(ahead)) < 0) {
-    ++ahead;
+  std::uint32_t hours = 0;
+  while (hours < most && hour < end && (hours == 0 || RestOf(row, hour) < 0)) {
+    ++hours;
+    ++hour;
   }
-  return ahead;
+  return hours;
 }
 
 // One placement as it grows.
@@ -99,18 +98,21 @@ void HoursCount(Placement& placement, std::uint32_t hours) {
   placement.left -= hours;
 }
 
-void HoursPlace(Placement& placement) {
+// The next hour lies in another day.
+void HourPlaceBeyond(Placement& placement) {
   const SclDate before = placement.at;
-  if (placement.done == 0) SclItem(placement.item).start = SclItemDateOf(before);
   WorkHoursPass(1, placement.at);
-  if (SclDateCompare(before, placement.at) == 0) {
-    // There is no work to be found, not for the hours behind this one either.
-    HoursCount(placement, EndsTheDay(placement) ? 1 : placement.left);
-    return;
-  }
-  const std::uint32_t ahead = HoursAhead(placement.at, placement.left - 1);
-  placement.at.hour += static_cast<int>(ahead);
-  HoursCount(placement, 1 + ahead);
+  const bool found = SclDateCompare(before, placement.at) != 0;
+  // Where there is no work to be found, there is none for the hours behind this one either.
+  HoursCount(placement, found || EndsTheDay(placement) ? 1 : placement.left);
+}
+
+void HoursPlace(Placement& placement, int row) {
+  if (placement.done == 0) SclItem(placement.item).start = SclItemDateOf(placement.at);
+  const std::uint32_t hours = HoursInDay(row, placement.at.hour, placement.left);
+  placement.at.hour += static_cast<int>(hours);
+  HoursCount(placement, hours);
+  if (hours == 0) HourPlaceBeyond(placement);
 }
 
 // Puts a rest behind the item that is being filled. False when the table is full.
@@ -144,9 +146,10 @@ bool RestsBefore(Placement& placement) {
 // The hours and the rests between them. False when the table is full.
 bool HoursPlaceAll(Placement& placement) {
   while (placement.left != 0) {
-    const int row = ScpRestAt(placement.at);
-    if (row != 0 && !RestPlace(placement, row)) return false;
-    if (row == 0) HoursPlace(placement);
+    const int row = RowOf(placement.at);
+    const bool rests = RestOf(row, placement.at.hour) >= 0;
+    if (rests && !RestPlace(placement, row + 1)) return false;
+    if (!rests) HoursPlace(placement, row);
     WorkoutEnd(placement);
   }
   return true;
@@ -168,7 +171,7 @@ std::int64_t DueDay(const ScpProgress& progress, int line) {
 int FirstDue(const ScpProgress& progress) {
   int first = -1;
   std::int64_t day = kWaitBound;
-  for (int line = 0; line < kScpLineMax; ++line) {
+  for (int line = 0; line < progress.lines; ++line) {
     if (progress.remaining[line] <= 0 || DueDay(progress, line) >= day) continue;
     first = line;
     day = DueDay(progress, line);
@@ -178,7 +181,7 @@ int FirstDue(const ScpProgress& progress) {
 
 template <class Fits>
 int FirstLine(const ScpProgress& progress, Fits fits) {
-  for (int line = 0; line < kScpLineMax; ++line) {
+  for (int line = 0; line < progress.lines; ++line) {
     if (progress.remaining[line] > 0 && fits(line)) return line + 1;
   }
   return 0;
@@ -208,14 +211,14 @@ SclDate FirstHour() {
 // False when no line has hours.
 bool ProgressBegin(ScpProgress& progress) {
   progress = {};
-  bool some = false;
+  progress.lines = 0;
   for (int line = 0; line < kScpLineMax; ++line) {
     const ScpPlanRec& plan = Plan.ScpPlanTable[line];
     if (plan.hours == 0) continue;
     progress.remaining[line] = plan.repeat + 1;
-    some = true;
+    progress.lines = line + 1;
   }
-  return some;
+  return progress.lines > 0;
 }
 
 int LinePlace(ScpProgress& progress, int line, SclDate& current) {

@@ -10,6 +10,7 @@
 
 // How far each line has come.
 struct ScpProgress {
+  int lines = kScpLineMax;     // those behind have no hours
   int remaining[kScpLineMax];  // placements that are still to be made
   int lastDay[kScpLineMax];    // day number of the last one
   int wait[kScpLineMax];       // days to wait after it

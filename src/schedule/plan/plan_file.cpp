@@ -15,8 +15,13 @@ bool MagicRead(DataFile& data) {
   return DataRead(data, magic, kMagicSize) && std::memcmp(magic, kMagic, kMagicSize) == 0;
 }
 
-bool CountIsRight() {
-  return Plan.head.count >= 0 && Plan.head.count <= kScpLineMax;
+// settled: a plan file that counts more than 300 lines, or fewer than none, is refused like
+// one that is cut, and the plan then has the 300 lines that there is room for.
+bool HeadRead(DataFile& data) {
+  const bool whole = RecordRead(data, Plan.head);
+  if (Plan.head.count >= 0 && Plan.head.count <= kScpLineMax) return whole;
+  Plan.head.count = kScpLineMax;
+  return false;
 }
 
 // settled: the lines behind the last one of a plan file become empty, so that nothing of
@@ -26,13 +31,7 @@ void LinesBehindClear() {
 }
 
 bool Read(DataFile& data) {
-  if (!MagicRead(data) || !RecordRead(data, Plan.head)) return false;
-  // settled: a plan file that counts more than 300 lines is refused like one that is cut,
-  // and the plan then has the 300 lines that there is room for.
-  if (!CountIsRight()) {
-    Plan.head.count = kScpLineMax;
-    return false;
-  }
+  if (!MagicRead(data) || !HeadRead(data)) return false;
   LinesBehindClear();
   return RecordsRead(data, Plan.ScpPlanTable, Plan.head.count);
 }

@@ -1,4 +1,4 @@
-// Plan files, "*.GPP", numbers of the head big-endian:
+// Plan files, "Plan Files (*.GPP)", numbers of the head big-endian:
 //
 //   0       16        magic "SCP Data File : "
 //   16     574        ScpPlanHead

@@ -13,11 +13,6 @@
 
 namespace {
 
-// "2026年 11月 21日 9時"
-void DateText(const SclDate& date, char* text, std::size_t size) {
-  TextFormat(text, size, "%d年 %d月 %d日 %d時", date.year + 2000, date.month + 1, date.day + 1, date.hour);
-}
-
 // The item is the dialog's context: its place in the table.
 void Show(const Event& event) {
   const auto index = static_cast<int>(reinterpret_cast<std::intptr_t>(event.context));
@@ -25,12 +20,12 @@ void Show(const Event& event) {
   char number[20];
   TextFormat(number, sizeof number, " %d ", index + 1);
   ControlSetText(event.window, IDC_SCL_LINE_NUMBER, number);
-  char start[60];
-  char end[60];
-  DateText(SclShownStart(item), start, sizeof start);
-  DateText(SclDateOf(item.end), end, sizeof end);
+  const SclDate start = SclShownStart(item);
+  const SclDate end = SclDateOf(item.end);
   char time[200];
-  TextFormat(time, sizeof time, "%s ～ %s の%d時間", start, end, static_cast<int>(item.hours));
+  TextFormat(time, sizeof time, "%d年 %d月 %d日 %d時 ～ %d年 %d月 %d日 %d時 の%d時間", start.year + 2000,
+             start.month + 1, start.day + 1, start.hour, end.year + 2000, end.month + 1, end.day + 1,
+             end.hour, static_cast<int>(item.hours));
   ControlSetText(event.window, IDC_SCL_LINE_TIME, time);
   char text[kSclItemTextSize + 1];
   TextFormat(text, sizeof text, "%.*s", kSclItemTextSize, item.text);

@@ -143,8 +143,10 @@ void HeadDraw(Canvas* canvas, const Rect& body) {
 void BandDraw(Canvas* canvas, const Rect& body) {
   for (int i = LineChart.firstBar; i < LastBar(body); ++i) {
     const LineBar& bar = LineChart.bars[i];
-    char text[kSclItemTextSize + 20];
-    TextFormat(text, sizeof text, "(%d) %.*s", bar.item + 1, kSclItemTextSize, ItemOf(bar).text);
+    char content[kSclItemTextSize + 1];
+    TextFormat(content, sizeof content, "%.*s", kSclItemTextSize, ItemOf(bar).text);
+    char text[sizeof content + 20];
+    TextFormat(text, sizeof text, "(%d) %s", bar.item + 1, content);
     const std::size_t fits = TextPrefix(text, (kBandWidth - 2 * kTextIn) / kTextWidth);
     CanvasText(canvas, kLeft + kTextIn, BarY(body, i) - kTextUp, text,
                static_cast<int>(std::min(fits, TextLength(text, sizeof text))));

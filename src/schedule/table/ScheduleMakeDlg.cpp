@@ -35,7 +35,7 @@ void ButtonsMove(WindowHandle dialog, int down) {
 
 void Fit(WindowHandle dialog) {
   const TableLayout layout = ScheduleTableLayout(dialog);
-  TableBarPlace(dialog, SclTable.SclTableView, IDC_SCL_BAR, TableBarPlaceOf(layout));
+  TableBarPlace(dialog, SclTable.SclTableView, kTableBar, TableBarPlaceOf(layout));
   TableViewFit(SclTable.SclTableView, Schedule.SclHeader.count, layout.visible);
 }
 
@@ -65,7 +65,7 @@ TablePlace PlaceOf(const Event& event) {
 }
 
 void LeftDown(const Event& event) {
-  TableFocus(event.window, SclTable.SclTableView, IDC_SCL_BAR);
+  TableFocus(event.window, SclTable.SclTableView, kTableBar);
   RowWindowClicked(event.window);
   const TablePlace place = PlaceOf(event);
   if (place.hit == TableHit::Number) {
@@ -168,7 +168,7 @@ void Open(WindowHandle dialog) {
   if (RowSelection.copyMark == CopyMark::InSchedule) RowsMarkClear();
   SclStatusNamesRead();
   Fit(dialog);
-  TableFocus(dialog, SclTable.SclTableView, IDC_SCL_BAR);
+  TableFocus(dialog, SclTable.SclTableView, kTableBar);
 }
 
 void Close(WindowHandle dialog) {
@@ -190,7 +190,7 @@ void Gone() {
 template <Command command>
 void Send(WindowHandle dialog) {
   CommandSend(command);
-  if (SclTable.hSclTableWnd == dialog) TableFocus(dialog, SclTable.SclTableView, IDC_SCL_BAR);
+  if (SclTable.hSclTableWnd == dialog) TableFocus(dialog, SclTable.SclTableView, kTableBar);
 }
 
 constexpr DialogAct kActs[] = {

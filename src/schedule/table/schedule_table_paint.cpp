@@ -72,10 +72,9 @@ void DetailLine(Canvas* canvas, int top, const char* text) {
 }
 
 // "開始時間: 2026年 11月 21日 8時"
-void DateLine(Canvas* canvas, int top, const char* label, const SclDate& date) {
+void DateLine(Canvas* canvas, int top, const char* format, const SclDate& date) {
   char text[80];
-  TextFormat(text, sizeof text, "%s: %d年 %2d月 %2d日 %d時", label, date.year + 2000, date.month + 1,
-             date.day + 1, date.hour);
+  TextFormat(text, sizeof text, format, date.year + 2000, date.month + 1, date.day + 1, date.hour);
   DetailLine(canvas, top, text);
 }
 
@@ -90,8 +89,9 @@ void DetailDraw(Canvas* canvas, const Rect& client) {
   char number[40];
   TextFormat(number, sizeof number, "[項目%d]", row);
   DetailLine(canvas, top + kDetailDown, number);
-  DateLine(canvas, top + kDetailDown + kDetailLine, "開始時間", SclShownStart(item));
-  DateLine(canvas, top + kDetailDown + 2 * kDetailLine, "終了時間", SclDateOf(item.end));
+  DateLine(canvas, top + kDetailDown + kDetailLine, "開始時間: %d年 %2d月 %2d日 %d時", SclShownStart(item));
+  DateLine(canvas, top + kDetailDown + 2 * kDetailLine, "終了時間: %d年 %2d月 %2d日 %d時",
+           SclDateOf(item.end));
 }
 
 void Draw(Canvas* canvas, const Rect& area) {

@@ -1,5 +1,5 @@
-// Names of the statuses of a schedule that is tied to an application. The rates, a room
-// above, know them.
+// Names of the statuses of a schedule that is tied to an application. A floor above, which
+// knows them, defines this.
 #pragma once
 
 // The window of the schedule opens: the application's tables are read when SclMapFile

@@ -45,6 +45,7 @@ extern SclTableState SclTable;
 
 inline constexpr int kTableLineHeight = 20;
 inline constexpr int kTableBarWidth = 16;
+inline constexpr int kTableBar = 100;  // the bar's number as a control
 
 // --- The windows. Each tells itself at its Init, and null at its end; `redraw` is that of
 // its view.

@@ -5,7 +5,7 @@
 #include "schedule/table/row_commands.h"
 #include "services/commands.h"
 #include "services/modal.h"
-#include "services/popup_point.h"
+#include "services/popup_place.h"
 
 TableCell TableCellOf(TableHit hit) {
   switch (hit) {
@@ -30,6 +30,6 @@ void TableMenuOpen(const Event& event, int row) {
   if (ModalIsUp() || !RowMenuMayOpen(row)) return;
   RowWindowClicked(event.window);
   SendPaint(event.window);
-  PopupPointSet(event.x, event.y);
+  PopupPointSet({event.x, event.y});
   CommandSend(Command::ScheduleLineMenu);
 }

@@ -369,29 +369,29 @@ TEST_F(CalendarDialogsTest, TheMonthsPictureIsStoredForItsMonth) {
       EXPECT_EQ(Dialogs.DlgIdSub, SubDialog::SetCalenBmpDlg);
       EXPECT_EQ(ControlText(TopDialog(), IDC_BMP_ON), "ビットマップ有効");
       EXPECT_EQ(ControlText(TopDialog(), IDC_BMP_COLOUR_ONLY), "背景選択 -> 無効 (RGB有効)");
-      EXPECT_EQ(ControlText(TopDialog(), IDC_BMP_FIGURE1 + IDC_FIGURE_BY_YEAR),
+      EXPECT_EQ(ControlText(TopDialog(), IDC_FIGURE1_BY_YEAR),
                 "Fig.選択を年に合わせる( 2000年～ -> Fig.0～ )");
-      EXPECT_EQ(ListRows(TopDialog(), IDC_BMP_FIGURE1 + IDC_FIGURE_CHARA)[2], "  2 ちょう");
+      EXPECT_EQ(ListRows(TopDialog(), IDC_FIGURE1_CHARA)[2], "  2 ちょう");
       EXPECT_EQ(
-          ListRows(TopDialog(), IDC_BMP_FIGURE1 + IDC_FIGURE_DIRECTION),
+          ListRows(TopDialog(), IDC_FIGURE1_DIRECTION),
           (Rows{"なし", "左", "右", "上", "下", "左斜め上", "右斜め上", "左斜め下", "右斜め下", "ランダム"}));
-      EXPECT_EQ(ListRows(TopDialog(), IDC_BMP_FIGURE2 + IDC_FIGURE_PERIOD).front(), "0.5秒");
-      EXPECT_EQ(ListRows(TopDialog(), IDC_BMP_FIGURE2 + IDC_FIGURE_PERIOD).back(), "5分");
-      EXPECT_EQ(ListRows(TopDialog(), IDC_BMP_FIGURE2 + IDC_FIGURE_STEP).front(), "0 倍");
-      EXPECT_EQ(ListRows(TopDialog(), IDC_BMP_FIGURE2 + IDC_FIGURE_STEP).back(), "10倍");
+      EXPECT_EQ(ListRows(TopDialog(), IDC_FIGURE2_PERIOD).front(), "0.5秒");
+      EXPECT_EQ(ListRows(TopDialog(), IDC_FIGURE2_PERIOD).back(), "5分");
+      EXPECT_EQ(ListRows(TopDialog(), IDC_FIGURE2_STEP).front(), "0 倍");
+      EXPECT_EQ(ListRows(TopDialog(), IDC_FIGURE2_STEP).back(), "10倍");
     });
     ThenPress(IDC_BMP_ON);
     ThenType(IDC_BMP_BACKGROUND, "sea.bmp");
     ThenType(IDC_BMP_RED, "300");  // cut to 255
     ThenType(IDC_BMP_GREEN, "7");
-    ThenRow(IDC_BMP_FIGURE1 + IDC_FIGURE_CHARA, 2);
-    ThenRow(IDC_BMP_FIGURE1 + IDC_FIGURE_FRAME, 4);
-    ThenType(IDC_BMP_FIGURE1 + IDC_FIGURE_X, "-5");
-    ThenRow(IDC_BMP_FIGURE1 + IDC_FIGURE_DIRECTION, 9);
-    ThenRow(IDC_BMP_FIGURE1 + IDC_FIGURE_PERIOD, 2);
-    ThenRow(IDC_BMP_FIGURE1 + IDC_FIGURE_STEP, 5);
-    ThenRow(IDC_BMP_FIGURE1 + IDC_FIGURE_START, 5);
-    ThenPress(IDC_BMP_FIGURE2 + IDC_FIGURE_BY_YEAR);
+    ThenRow(IDC_FIGURE1_CHARA, 2);
+    ThenRow(IDC_FIGURE1_FRAME, 4);
+    ThenType(IDC_FIGURE1_X, "-5");
+    ThenRow(IDC_FIGURE1_DIRECTION, 9);
+    ThenRow(IDC_FIGURE1_PERIOD, 2);
+    ThenRow(IDC_FIGURE1_STEP, 5);
+    ThenRow(IDC_FIGURE1_START, 5);
+    ThenPress(IDC_FIGURE2_BY_YEAR);
     ThenPress(1);
   });
   for (const auto& year : Calendar.CalenMonths) {

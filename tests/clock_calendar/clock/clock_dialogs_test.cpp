@@ -520,6 +520,18 @@ TEST_F(SetClockAlarmTest, ACommentTakesUpTo99Bytes) {
   EXPECT_STREQ(Clock.ClockEvents[0].comment, std::string(99, 'x').c_str());
 }
 
+// 49 double-byte characters are 98 bytes; of the next one there is no room for both.
+TEST_F(SetClockAlarmTest, ACommentIsCutBeforeThePairThatDoesNotFit) {
+  std::string comment;
+  for (int i = 0; i < 60; ++i) comment += "茶";
+  Then([comment] {
+    Type(TopDialog(), IDC_ALARM_COMMENT, comment.c_str());
+    Press(TopDialog(), 1);
+  });
+  Run();
+  EXPECT_STREQ(Clock.ClockEvents[0].comment, comment.substr(0, 98).c_str());
+}
+
 TEST_F(SetClockAlarmTest, APerformanceCanBeTakenAwayAgain) {
   Clock.ClockEvents[1].performance = 3;
   Then([] {
@@ -679,7 +691,7 @@ TEST_F(WatchListTest, AnEventIsAddedWithItsTimeInTwoCharactersEach) {
 
 TEST_F(WatchListTest, ACommentTakes127BytesAndEndsInsideItsField) {
   Then([] {
-    Fill("1", "2", "3", std::string(200, 'x').c_str());
+    Fill("1", "2", "3", std::string(127, 'x').c_str());
     PressEnter(TopDialog());
   });
   CommandSend(Command::WatchListAdd);

@@ -184,7 +184,7 @@ TEST_F(ScheduleRunTest, AnAnnouncementAppearsAboveADialog) {
 TEST_F(ScheduleRunTest, AnItemWithoutATerminatorIsAnnouncedWhole) {
   Line(0, 9, 0, 12, 0, "");
   std::fill_n(SclItem(0).text, kSclItemTextSize, 'w');
-  Clock(8, 0);
+  Clock(9, 0);
   Execute();
   Ticks(2);
   EXPECT_EQ(std::string(Notices.SclNotice.text), std::string(128, 'w'));

@@ -11,10 +11,12 @@ class PlanRandom : public PlanTest {
  protected:
   int Below(int n) { return static_cast<int>(random_() % static_cast<unsigned>(n)); }
 
+  // In some plans there are days of no hours.
   void Rows8() {
+    const bool days = Below(8) != 0;
     for (SclWorkDayRow& row : Plan.head.rows) {
       const int begin = Below(20);
-      row = {Below(5) == 0 ? 0 : Below(25 - begin), begin, Below(25)};
+      row = {days ? 1 + Below(24 - begin) : Below(5) == 0 ? 0 : Below(25 - begin), begin, Below(25)};
     }
     Plan.head.rows[Below(7)] = {6, 9, 0};  // somebody works some day
     if (Below(3) == 0) {

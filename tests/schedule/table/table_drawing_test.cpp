@@ -13,7 +13,7 @@ TEST_F(ScheduleTableTest, TheWindowHasItsPlacesInPixels) {
   EXPECT_TRUE(IsVisible(Window()));
   EXPECT_EQ(View().pageLines, 20);
   EXPECT_EQ(View().lines, 31);
-  const Rect bar = ControlPlace(Window(), IDC_SCL_BAR);
+  const Rect bar = ControlPlace(Window(), kTableBar);
   EXPECT_EQ(bar.left, 782);
   EXPECT_EQ(bar.top, 50);
   EXPECT_EQ(bar.right, 798);
@@ -223,7 +223,7 @@ TEST_F(ScheduleTableTest, AHigherWindowShowsMoreRowsAndTakesItsButtonsAlong) {
   const Rect after = ControlPlace(Window(), IDC_SCL_SAVE);
   EXPECT_EQ(after.top, before.top + 100);
   EXPECT_EQ(after.left, before.left);
-  EXPECT_EQ(ControlPlace(Window(), IDC_SCL_BAR).bottom, 550);
+  EXPECT_EQ(ControlPlace(Window(), kTableBar).bottom, 550);
   WindowMove(Window(), outer.left, outer.top, RectWidth(outer), RectHeight(outer), false);
   EXPECT_EQ(ControlPlace(Window(), IDC_SCL_SAVE).top, before.top);
 }

@@ -1,0 +1,10 @@
+// The comments of alarms and timed events, as fields of a form.
+#pragma once
+
+#include <cstddef>
+
+#include "services/form.h"
+
+// Shows a comment of `size` bytes in an edit field, or takes it from there.
+// settled: a comment that is too long is cut before the double-byte pair that does not fit.
+void CommentExchange(Form& form, int id, char* comment, std::size_t size);
