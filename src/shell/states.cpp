@@ -39,6 +39,10 @@
 #include "mail_music/mail/mail_setting.h"
 #include "mail_music/mail/mail_talk.h"
 #include "mail_music/music/music.h"
+#include "scenario/cast/cast_backdrop.h"
+#include "scenario/cast/cast_edit.h"
+#include "scenario/cast/cast_member.h"
+#include "scenario/characters/chara_regi.h"
 #include "scenario/logic/snry_sheet.h"
 #include "scenario/storage/scenario.h"
 #include "scenario/storage/scenario_dialogs.h"
@@ -147,6 +151,8 @@ void MailMusicReset() {
 }
 
 void ScenarioReset() {
+  CastBackdropFree();
+  ResetAll(CastBackdrop, CastEdit, CastMember, CharaRegi);
   ResetAll(Scenario, SnryList, SnryMain, SnryScene, SnryDialogs, SnrySheet, SnryTrace);
 }
 
