@@ -4,6 +4,7 @@
 #include "scenario/cast/snry_cast.h"
 #include "scenario/characters/chara_regi.h"
 #include "scenario/logic/snry_logic.h"
+#include "scenario/looks/snry_looks.h"
 #include "scenario/storage/scenario.h"
 #include "scenario/trace/trace_dialogs.h"
 
@@ -17,13 +18,13 @@ struct Door {
 };
 
 void OpenBackdrop(WindowHandle owner) {
-  SnryCharBackDlgRun(owner, nullptr);
+  SnryCharBackDlgRun(owner, SnryBackScrollDlgRun);
 }
 
 constexpr Door kScenarioDoors[] = {
     {IDC_SNRY_PARA_CHECK, CheckParameterDlgRun},
     {IDC_SNRY_CHARACTERS, CharaRegiDlgRun},
-    {IDC_SNRY_OPTIONS, nullptr},
+    {IDC_SNRY_OPTIONS, SnryOptionDlgRun},
 };
 
 constexpr Door kSceneDoors[] = {
@@ -37,16 +38,16 @@ constexpr Door kSceneDoors[] = {
     {IDC_SNRY_SCENE_START, SceneSelParaDlgRun},
     {IDC_SNRY_SCENE_ADVANCE, SnryAdvanceSheetRun},
     {IDC_SNRY_SCENE_BACKDROP, OpenBackdrop},
-    {IDC_SNRY_SCENE_TITLE, nullptr},
-    {IDC_SNRY_SCENE_SOUNDS, nullptr},
-    {IDC_SNRY_SCENE_TABLE, nullptr},
-    {IDC_SNRY_SCENE_KEYS, nullptr},
+    {IDC_SNRY_SCENE_TITLE, TitleScnDlgRun},
+    {IDC_SNRY_SCENE_SOUNDS, SoundSetDlgRun},
+    {IDC_SNRY_SCENE_TABLE, TableFormScnDlgRun},
+    {IDC_SNRY_SCENE_KEYS, SceenKeyDlgRun},
 };
 
 template <std::size_t N>
 bool Open(const Door (&doors)[N], int id, WindowHandle owner) {
   for (const Door& door : doors) {
-    if (door.id != id || !door.open) continue;
+    if (door.id != id) continue;
     if (!door.needsCast || Scenario.castRow >= 0) door.open(owner);
     return true;
   }

@@ -44,6 +44,7 @@
 #include "scenario/cast/cast_member.h"
 #include "scenario/characters/chara_regi.h"
 #include "scenario/logic/snry_sheet.h"
+#include "scenario/looks/snry_looks.h"
 #include "scenario/storage/scenario.h"
 #include "scenario/storage/scenario_dialogs.h"
 #include "scenario/trace/trace_dialogs.h"
@@ -153,7 +154,7 @@ void MailMusicReset() {
 void ScenarioReset() {
   CastBackdropFree();
   ResetAll(CastBackdrop, CastEdit, CastMember, CharaRegi);
-  ResetAll(Scenario, SnryList, SnryMain, SnryScene, SnryDialogs, SnrySheet, SnryTrace);
+  ResetAll(Scenario, SnryList, SnryLooks, SnryMain, SnryScene, SnryDialogs, SnrySheet, SnryTrace);
 }
 
 void ShellReset() {

@@ -33,10 +33,11 @@ bool ScenarioFileFits(const char* name, unsigned attributes, const char* extensi
   return stop && std::strcmp(stop + 1, extension) == 0;
 }
 
-void ScenarioFilesShow(WindowHandle dialog, int list, const char* part, const char* extension) {
+void ScenarioFilesShow(WindowHandle dialog, int list, const char* part, const char* extension,
+                       const char* first) {
   const ListQuiet quiet(dialog, list);
   ListClear(dialog, list);
-  ListAdd(dialog, list, "未設定");
+  if (first) ListAdd(dialog, list, first);
   WalkFiles(part, extension, [&](const char* name) {
     ListAdd(dialog, list, name);
     return false;

@@ -8,9 +8,10 @@
 // is the extension, byte by byte.
 bool ScenarioFileFits(const char* name, unsigned attributes, const char* extension);
 
-// Fills a list with "未設定" and the files of a folder of the main folder ("\背景"), in the
-// order of the search.
-void ScenarioFilesShow(WindowHandle dialog, int list, const char* part, const char* extension);
+// Fills a list with a row of its own, null for none, and the files of a folder of the main
+// folder ("\背景"), in the order of the search.
+void ScenarioFilesShow(WindowHandle dialog, int list, const char* part, const char* extension,
+                       const char* first = "未設定");
 
 // Whether that list has a file of this name.
 bool ScenarioFileIsThere(const char* name, const char* part, const char* extension);
