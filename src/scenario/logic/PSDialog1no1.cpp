@@ -72,10 +72,12 @@ SnryPlaces& Values() {
 
 void PlaceText(int row, char* text, int size) {
   const int id = Parameters()[SnryPlaceOfRow(Parameters(), row)];
-  const auto room = static_cast<std::size_t>(size);
-  SnryParaRowOf(id) == 0
-      ? TextCopy(text, room, SnryParaName(id))
-      : static_cast<std::size_t>(TextFormat(text, room, "%d.%s", row + 1, SnryParaName(id)));
+  const char* name = SnryParaName(id);
+  if (SnryParaRowOf(id) == 0) {
+    TextCopy(text, static_cast<std::size_t>(size), name);
+  } else {
+    TextFormat(text, static_cast<std::size_t>(size), "%d.%s", row + 1, name);
+  }
 }
 
 constexpr ListEditor kPlaces{IDC_PAGE_PLACES,
@@ -160,18 +162,8 @@ void Delete(WindowHandle page) {
 
 // --- The parameters of an item
 
-bool AddPlace(WindowHandle page, int) {
-  const int place = SnryPlaceFree(Parameters());
+bool TakeInto(WindowHandle page, int place) {
   if (place < 0) return false;
-  SnryPair pair{};
-  FormTake(page, pair, ExchangePlace);
-  Parameters()[place] = pair.parameter;
-  Values()[place] = pair.value;
-  return true;
-}
-
-bool ChangePlace(WindowHandle page, int row) {
-  const int place = SnryPlaceOfRow(Parameters(), row);
   SnryPair pair{};
   FormTake(page, pair, ExchangePlace);
   Parameters()[place] = pair.parameter;
@@ -186,22 +178,28 @@ bool DeletePlace(WindowHandle, int row) {
   return true;
 }
 
-constexpr ListDeed kAddPlace{.may = ItemIsChosen,
-                             .mayNot = {"メニュー項目を追加または選択してください", "パラメータ追加の中止"},
-                             .question = kSnryParaAddQuestion,
-                             .act = AddPlace,
-                             .failed = kSnryParaFull};
-constexpr ListDeed kChangePlace{.needsRow = true, .question = kSnryParaChangeQuestion, .act = ChangePlace};
+constexpr ListDeed kAddPlace{
+    .may = ItemIsChosen,
+    .mayNot = {"メニュー項目を追加または選択してください", "パラメータ追加の中止"},
+    .question = kSnryParaAddQuestion,
+    .act = [](WindowHandle page, int) { return TakeInto(page, SnryPlaceFree(Parameters())); },
+    .failed = kSnryParaFull};
+constexpr ListDeed kChangePlace{
+    .needsRow = true, .question = kSnryParaChangeQuestion, .act = [](WindowHandle page, int row) {
+      return TakeInto(page, SnryPlaceOfRow(Parameters(), row));
+    }};
 // kept: deleting a menu's or an event's parameter asks under the caption of a change.
 constexpr ListDeed kDeletePlace{
     .needsRow = true, .question = {"パラメータを削除します。", "パラメータの変更"}, .act = DeletePlace};
 
+constexpr BoxWords kNoneToChange{"メニュー項目を選択してください", "パラメータ変更の中止"};
+constexpr BoxWords kNoneToDelete{"メニュー項目を選択してください", "パラメータ削除の中止"};
+
 // Without an item this is told first; without a row nothing is.
-template <const ListDeed& deed>
+template <const ListDeed& deed, const BoxWords& noItem>
 void EditPlace(WindowHandle page) {
   if (!ItemIsChosen()) {
-    const char* caption = &deed == &kChangePlace ? "パラメータ変更の中止" : "パラメータ削除の中止";
-    BoxTell(page, "メニュー項目を選択してください", caption);
+    BoxTell(page, noItem);
     return;
   }
   ListDeedRun(page, kPlaces, deed);
@@ -250,8 +248,8 @@ constexpr DialogAct kActs[] = {
     {IDC_MENU_DELETE, Delete},
     {IDC_PAGE_PLACES, EventKind::Chosen, PlaceChosen},
     {IDC_PAGE_PARA_ADD, [](WindowHandle page) { ListDeedRun(page, kPlaces, kAddPlace); }},
-    {IDC_PAGE_PARA_CHANGE, EditPlace<kChangePlace>},
-    {IDC_PAGE_PARA_DELETE, EditPlace<kDeletePlace>},
+    {IDC_PAGE_PARA_CHANGE, EditPlace<kChangePlace, kNoneToChange>},
+    {IDC_PAGE_PARA_DELETE, EditPlace<kDeletePlace, kNoneToDelete>},
 };
 
 }  // namespace
