@@ -1,6 +1,7 @@
 #include <windows.h>
 
 #include "platform/window.h"
+#include "platform/window_paint.h"
 
 #include "platform/win32/border.h"
 #include "platform/win32/report.h"
@@ -140,6 +141,10 @@ void WindowSetTopmost(WindowHandle window) {
 
 void WindowInvalidate(WindowHandle window, bool erase) {
   InvalidateRect(Hwnd(window), nullptr, erase ? TRUE : FALSE);
+}
+
+void WindowValidate(WindowHandle window) {
+  ValidateRect(Hwnd(window), nullptr);
 }
 
 void WindowSetFocus(WindowHandle window) {
