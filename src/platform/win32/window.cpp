@@ -1,10 +1,10 @@
 #include <windows.h>
 
 #include "platform/window.h"
-#include "platform/window_paint.h"
 
 #include "platform/win32/border.h"
 #include "platform/win32/report.h"
+#include "platform/window_paint.h"
 
 namespace {
 
