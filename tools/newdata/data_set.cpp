@@ -11,6 +11,7 @@
 #include "clock_calendar/clock/clock.h"
 #include "newdata/host_file.h"
 #include "newdata/picture_files.h"
+#include "newdata/sample_scenario.h"
 #include "newdata/tables.h"
 #include "newdata/world_list_file.h"
 #include "platform/posix/posix_paths.h"
@@ -117,6 +118,7 @@ void MakeDataSet(const std::filesystem::path& folder, const std::filesystem::pat
   const std::filesystem::path backgrounds = folder / kBackgroundFolder;
   std::filesystem::create_directories(backgrounds);
   WriteBackgrounds(assets / "backgrounds", backgrounds);
+  WriteSampleScenario(std::filesystem::absolute(folder), assets);
   UseProgramFolder(folder);
   WriteDataFiles(date);
 }
