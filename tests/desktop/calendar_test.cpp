@@ -211,6 +211,26 @@ TEST_F(CalendarTest, ANoteWrittenThroughTheMemoDialogIsAnnounced) {
   EXPECT_TRUE(TickUntil(companion_, announced));
 }
 
+// By the pointer itself: the panel grows out of the foot of the page, and its box closes it.
+TEST_F(CalendarTest, ADoubleClickOpensTheMemoPanel) {
+  Start();
+  ASSERT_TRUE(WaitFor([&] { return Window() != nullptr; }));
+  const auto below = [&] {
+    RECT at{};
+    GetWindowRect(Window(), &at);
+    return static_cast<int>(at.bottom - at.top) - (195 + 8 * 16 + 24);
+  };
+  EXPECT_EQ(below(), 20);
+  PointerTo(kCalenX + 2 + 3 * 28 + 10, kCalenY + 195 + 36 + 18 + 8);
+  PointerClick();
+  PointerClick();
+  EXPECT_TRUE(WaitFor([&] { return below() == 140; }));
+  PointerTo(kCalenX + 190, kCalenY + 195 + 8 * 16 + 24 - 30 + 8);
+  PointerClick();
+  EXPECT_TRUE(WaitFor([&] { return below() == 20; }));
+  PointerAway();
+}
+
 TEST_F(CalendarTest, AStickerIsSetAndTakenOff) {
   Start();
   HWND edit = Edit();

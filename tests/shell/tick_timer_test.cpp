@@ -207,8 +207,8 @@ TEST_F(TickTimerTest, WorkInTheTickKeepsThePace) {
 TEST_F(TickTimerTest, AnOpenWindowKeepsThePace) {
   for (WindowHandle* handle :
        {&Panel.hDiskMenu, &Dialogs.hMenuDlg, &Dialogs.hToolDlg, &Dialogs.hSubDlg, &Dialogs.hSnryDlg,
-        &Picker.hFilePickDlg, &BackUpRun.hBackUpDlg, &Stepped.hSearchDlg, &ClockNotice.hClockNoticeWnd,
-        &SclTable.hSclTableWnd, &SclTable.hPlanWnd, &Music.hBgmWnd}) {
+        &Picker.hFilePickDlg, &BackUpRun.hBackUpDlg, &Stepped.hSearchDlg, &SclTable.hSclTableWnd,
+        &SclTable.hPlanWnd, &Music.hBgmWnd}) {
     *handle = OpenListener();
     Fire();
     EXPECT_EQ(Period(), 30);
