@@ -15,8 +15,11 @@ plan_double() {
 # plan_load NAME: a sample of the data set.
 plan_load() {
   press "$plan" 108
-  double "$picker_load" 2 '[計画表]'
-  sleep 0.3
+  if [ -z "${plan_folder:-}" ]; then
+    double "$picker_load" 2 '[計画表]'
+    sleep 0.3
+    plan_folder=known
+  fi
   choose "$picker_load" 103 "$1"
   leave "$picker_load" 1
   sleep 0.5
@@ -44,9 +47,9 @@ shot PSDialog2no2 "$rests"
 leave "$rests" 2
 plan_double "$plan" 200 250
 dialog SCPContentSetDlg '内容設定'
-plan_double "$plan" 500 250
+plan_double "$plan" 540 250
 dialog SCPRsvTimeSetDlg '学習時間設定'
-plan_double "$plan" 600 250
+plan_double "$plan" 640 250
 dialog SCPRepeatTimeSetDlg '復習回数'
 xdotool mousemove $(plan_at "$plan" 30 330) click 3
 sleep 0.4
@@ -54,7 +57,7 @@ shot menu_plan_row -
 xdotool key Escape
 plan_load '筋トレ計画.GPP'
 shot SchedulePlan1Dlg_training "$plan"
-plan_double "$plan" 500 250
+plan_double "$plan" 540 250
 dialog SCPRsvTime2SetDlg '負荷・時間設定'
 plan_load '学習計画.GPP'
 press "$plan" 107

@@ -22,8 +22,8 @@ constexpr unsigned kTraining = 2218;
 constexpr int kPickName = 100;
 // Columns of the window at its first size, and its first row.
 constexpr int kContentX = 200;
-constexpr int kHoursX = 500;
-constexpr int kRepeatX = 600;
+constexpr int kHoursX = 540;
+constexpr int kRepeatX = 640;
 constexpr int kFirstRowY = 250;
 // A saved schedule.
 constexpr std::size_t kCountAt = 17;
@@ -125,7 +125,7 @@ class PlanTest : public testing::Test {
     WaitFor([&] { return !(bytes = ReadWholeFile(companion_.File(name))).empty(); });
     return bytes;
   }
-  // "23 8 - 23 12 = 4 A": the days, hours and text of an item of a saved schedule.
+  // "23 8 - 23 12 = 4 a": the days, hours and text of an item of a saved schedule.
   static std::string ItemText(const std::vector<unsigned char>& bytes, std::size_t item) {
     const std::size_t at = kItemsAt + item * kItemSize;
     if (bytes.size() < at + kItemSize) return "none";
@@ -146,7 +146,7 @@ class PlanTest : public testing::Test {
 TEST_F(PlanTest, ALessonTypedInBecomesTheWorkedSchedule) {
   Open();
   SetStart();
-  TypeInto(kContentX, 1, L"内容設定", IDC_SCL_TEXT, "A");
+  TypeInto(kContentX, 1, L"内容設定", IDC_SCL_TEXT, "a");
   TypeInto(kHoursX, 1, L"学習時間設定", IDC_SCL_HOURS, "5");
   TypeInto(kRepeatX, 1, L"復習回数", IDC_SCP_REPEAT, "2");
   PostButton(window_, IDC_PLAN_CONVERT);
@@ -166,9 +166,9 @@ TEST_F(PlanTest, ALessonTypedInBecomesTheWorkedSchedule) {
   const std::vector<unsigned char> bytes = Save(table, IDC_SCL_SAVE, L"lesson.GPI");
   ASSERT_EQ(GetBig(bytes, kCountAt), 11U);
   const char* const kItems[] = {
-      "23 8 - 23 12 = 4 A", "23 12 - 23 13 = 1 月曜日 - 休憩1", "23 13 - 23 14 = 1 A", "23 14 - 25 8 = 22",
-      "25 8 - 25 12 = 4 A", "25 12 - 25 13 = 1 水曜日 - 休憩1", "25 13 - 25 14 = 1 A", "25 14 - 2 8 = 92",
-      "2 8 - 2 12 = 4 A",   "2 12 - 2 13 = 1 水曜日 - 休憩1",   "2 13 - 2 14 = 1 A",
+      "23 8 - 23 12 = 4 a", "23 12 - 23 13 = 1 月曜日 - 休憩1", "23 13 - 23 14 = 1 a", "23 14 - 25 8 = 22",
+      "25 8 - 25 12 = 4 a", "25 12 - 25 13 = 1 水曜日 - 休憩1", "25 13 - 25 14 = 1 a", "25 14 - 2 8 = 92",
+      "2 8 - 2 12 = 4 a",   "2 12 - 2 13 = 1 水曜日 - 休憩1",   "2 13 - 2 14 = 1 a",
   };
   for (std::size_t i = 0; i < std::size(kItems); ++i) EXPECT_EQ(ItemText(bytes, i), kItems[i]) << i;
 }
@@ -184,7 +184,7 @@ TEST_F(PlanTest, RestsSetOnTheSheetBreakTheLesson) {
   ChooseCombo(page, IDC_SCP_REST_START_FIRST, 10);
   SetEdit(page, IDC_SCP_REST_LENGTH_FIRST, L"2");
   ASSERT_TRUE(EndBy(sheet, IDOK));
-  TypeInto(kContentX, 1, L"内容設定", IDC_SCL_TEXT, "B");
+  TypeInto(kContentX, 1, L"内容設定", IDC_SCL_TEXT, "b");
   TypeInto(kHoursX, 1, L"学習時間設定", IDC_SCL_HOURS, "4");
   TypeInto(kRepeatX, 1, L"復習回数", IDC_SCP_REPEAT, "0");
   const std::vector<unsigned char> plan = Save(window_, IDC_PLAN_SAVE, L"rests.GPP");
@@ -197,9 +197,9 @@ TEST_F(PlanTest, RestsSetOnTheSheetBreakTheLesson) {
   ASSERT_TRUE(table);
   const std::vector<unsigned char> bytes = Save(table, IDC_SCL_SAVE, L"rests.GPI");
   ASSERT_EQ(GetBig(bytes, kCountAt), 3U);
-  EXPECT_EQ(ItemText(bytes, 0), "23 8 - 23 10 = 2 B");
+  EXPECT_EQ(ItemText(bytes, 0), "23 8 - 23 10 = 2 b");
   EXPECT_EQ(ItemText(bytes, 1), "23 10 - 23 12 = 2 月曜日 - 休憩1");
-  EXPECT_EQ(ItemText(bytes, 2), "23 12 - 23 14 = 2 B");
+  EXPECT_EQ(ItemText(bytes, 2), "23 12 - 23 14 = 2 b");
 }
 
 TEST_F(PlanTest, ASampleOfTheDataSetIsLoadedAndATrainingPlanHasItsForm) {
