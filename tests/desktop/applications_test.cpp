@@ -59,7 +59,7 @@ class ApplicationsTest : public testing::Test {
     EXPECT_TRUE(WaitFor([&] { return !Runs(); }));
   }
 
-  std::wstring Program() const { return tools_ + L"予定 表.exe"; }
+  std::wstring Program() const { return tools_ + L"予定表.exe"; }
   // A program that runs cannot be opened for writing.
   bool Runs() const {
     HANDLE file = CreateFileW(Program().c_str(), GENERIC_WRITE, FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr,
@@ -140,29 +140,29 @@ TEST_F(ApplicationsTest, AnApplicationTakesOverAndHandsBack) {
   companion_.Post(kSelect);
   HWND dialog = companion_.Dialog(kSelectTitle);
   ASSERT_TRUE(dialog);
-  EXPECT_EQ(ListRowText(dialog, IDC_APLI_LIST, 0), L"予定 表");
+  EXPECT_EQ(ListRowText(dialog, IDC_APLI_LIST, 0), L"予定表");
   SelectListRow(dialog, IDC_APLI_LIST, 0);
   ASSERT_TRUE(EndBy(dialog, kStart));
-  ExpectSeen(Cp932(L"予定 表.exe _0_0"), 0);
+  ExpectSeen(Cp932(L"予定表.exe _0_0"), 0);
 
   Ask(L"execute");
   EXPECT_TRUE(WaitFor([&] { return Selected() == 1; }));
   EXPECT_EQ(SchedulePath(), Cp932(schedule_));
-  EXPECT_EQ(RowShown(), L"予定 表 (起動中)");
+  EXPECT_EQ(RowShown(), L"予定表 (起動中)");
   companion_.Post(kRun);
   EXPECT_EQ(AnswerBox(companion_, L"アプリケーション起動中"), L"実行指定アプリケーションは起動中です");
   EXPECT_EQ(ToldOfChangedCalendar(), L"予定表の編集データセーブ後に予定表を閉じて再起動させてください");
 
   Ask(L"end");
   EXPECT_TRUE(WaitFor([&] { return !Runs(); }));
-  EXPECT_TRUE(WaitFor([&] { return RowShown() == L"予定 表 (実行指定)"; }));
+  EXPECT_TRUE(WaitFor([&] { return RowShown() == L"予定表 (実行指定)"; }));
   EXPECT_EQ(Selected(), 1U);
   EXPECT_EQ(ToldOfChangedCalendar(),
             L"予定表でカレンダー変更を有効にするには、予定表を起動しセーブする必要があります");
 
   // As the executing application it is told so; then it gives the schedule up.
   companion_.Post(kRun);
-  ExpectSeen(Cp932(L"予定 表.exe _1_1"), 1);
+  ExpectSeen(Cp932(L"予定表.exe _1_1"), 1);
   Ask(L"clear");
   EXPECT_TRUE(WaitFor([&] { return Selected() == 0; }));
   EXPECT_EQ(SchedulePath(), Cp932(schedule_));

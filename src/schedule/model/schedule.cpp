@@ -1,9 +1,9 @@
 #include "schedule/model/schedule.h"
 
 #include <algorithm>
+#include <limits>
 
 #include "platform/time.h"
-#include "schedule/model/scl_dates.h"
 #include "services/text.h"
 
 ScheduleState Schedule;
@@ -50,6 +50,14 @@ void SclNew() {
   LocalTime now = {};
   TimeGetLocal(&now);
   SclNewDefaults(now.year - 2000, now.month - 1, now.day - 1);
+}
+
+void SclRowEndsRefresh(SclWorkDayRow (&rows)[kSclRowCount]) {
+  for (SclWorkDayRow& row : rows) {
+    const std::int64_t end = std::int64_t{row.begin} + row.length;
+    row.end = static_cast<std::int32_t>(
+        std::clamp<std::int64_t>(end, std::numeric_limits<std::int32_t>::min(), kSclDayHours));
+  }
 }
 
 SclItemRec& SclItem(int index) {

@@ -69,6 +69,9 @@ void SclNewDefaults(int year, int month, int day);
 // The command of the new schedule: kind 1, then the defaults from the local date.
 void SclNew();
 
+// Refreshes the ends of work rows: min(begin + length, 24).
+void SclRowEndsRefresh(SclWorkDayRow (&rows)[kSclRowCount]);
+
 // --- Ways into the state for other rooms. An index is held inside its table.
 
 SclItemRec& SclItem(int index);

@@ -193,14 +193,6 @@ SclDate SclStartMoved(const SclWorkDayRow (&rows)[kSclRowCount], const SclDate& 
   return next;
 }
 
-void SclRowEndsRefresh(SclWorkDayRow (&rows)[kSclRowCount]) {
-  for (SclWorkDayRow& row : rows) {
-    const std::int64_t end = std::int64_t{row.begin} + row.length;
-    row.end = static_cast<std::int32_t>(
-        std::clamp<std::int64_t>(end, std::numeric_limits<std::int32_t>::min(), kSclDayHours));
-  }
-}
-
 void SclAddWorkHours(std::uint32_t hours, const SclDate& start, SclDate& result) {
   WorkEnd end = {};
   const bool found =

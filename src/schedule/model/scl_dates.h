@@ -32,9 +32,6 @@ SclDate SclNextDay(SclDate date);
 // next day's; any other as it is.
 SclDate SclStartMoved(const SclWorkDayRow (&rows)[kSclRowCount], const SclDate& start);
 
-// Refreshes the ends: min(begin + length, 24).
-void SclRowEndsRefresh(SclWorkDayRow (&rows)[kSclRowCount]);
-
 // Where `hours` work hours from `start` on end, by the live rows. When no end is found,
 // as with eight rows of no hours, the result is the start.
 void SclAddWorkHours(std::uint32_t hours, const SclDate& start, SclDate& result);

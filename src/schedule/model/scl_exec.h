@@ -1,16 +1,7 @@
-// The executing schedule: its copy, its mark and its file.
+// The executing schedule: its mark and its file.
 #pragma once
 
-#include "schedule/model/schedule.h"
-
-// Copies the schedule on display into the executing copy, sees whether any alarm is on,
-// and moves the starts that stand at the end of a day.
-void SclExecRefresh();
-// SclAlarmFlag: some item of the copy has hours and alarmOn.
-void SclEvalAlarmFlag();
-// Each start of the copy that stands at the end of its day, by the copy's rows, moves to
-// the begin of the next day's row.
-void SclExecShiftStarts();
+#include "schedule/model/scl_exec_copy.h"
 
 // Makes the schedule on display the executing one, chosen and not yet saved: its copy has
 // no finished items. Both dirty bits are raised. The caller forgets the alarms of the day.

@@ -4,7 +4,7 @@
 #include <cstring>
 
 #include "schedule/model/schedule.h"
-#include "schedule/model/scl_exec.h"
+#include "schedule/model/scl_exec_copy.h"
 #include "services/record_file.h"
 #include "services/text.h"
 
