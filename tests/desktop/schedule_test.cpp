@@ -31,6 +31,10 @@ constexpr std::size_t kItemSize = 160;
 constexpr std::size_t kHoursIn = 12;
 constexpr std::size_t kDoneIn = 16;
 constexpr std::size_t kTextIn = 32;
+// The display may still be busy with a window that comes or goes, and take the click for it;
+// a user clicks again.
+constexpr int kAttempts = 4;
+constexpr unsigned kPatience = 3000;
 const std::wstring kTitle = L"スケジュール表";
 const std::wstring kContent = L"内容設定";
 const std::wstring kHours = L"予想時間設定";
@@ -81,9 +85,13 @@ class ScheduleTest : public testing::Test {
     PointerClick();
   }
   HWND DoubleClick(int x, int row, const std::wstring& opens) const {
-    PointRow(x, row);
-    PointerDoubleClick();
-    return companion_.Dialog(opens);
+    HWND dialog = nullptr;
+    for (int attempt = 0; attempt < kAttempts && !dialog; ++attempt) {
+      PointRow(x, row);
+      PointerDoubleClick();
+      dialog = companion_.Dialog(opens, kPatience);
+    }
+    return dialog;
   }
   bool DialogGone(const std::wstring& title) const {
     return WaitFor([&] { return companion_.FindDialog(title) == nullptr; });
@@ -106,17 +114,19 @@ class ScheduleTest : public testing::Test {
   }
   // Double clicks an empty cell and waits until something stands in it.
   void Turn(int x, int row) const {
-    PointRow(x, row);
-    PointerDoubleClick();
     POINT at{x - 20, 40 + 20 * row - 7};
     ClientToScreen(window_, &at);
-    EXPECT_TRUE(WaitFor(
-        [&] {
-          const auto pixels = ScreenPixels(static_cast<int>(at.x), static_cast<int>(at.y), 40, 14);
-          return std::count(pixels.begin(), pixels.end(), 0U) > 4;
-        },
-        5000))
-        << x;
+    const auto stands = [&] {
+      const auto pixels = ScreenPixels(static_cast<int>(at.x), static_cast<int>(at.y), 40, 14);
+      return std::count(pixels.begin(), pixels.end(), 0U) > 4;
+    };
+    bool turned = false;
+    for (int attempt = 0; attempt < kAttempts && !turned; ++attempt) {
+      PointRow(x, row);
+      PointerDoubleClick();
+      turned = WaitFor(stands, kPatience);
+    }
+    EXPECT_TRUE(turned) << x;
   }
   std::vector<unsigned char> SaveAs(const std::wstring& name) const {
     const HWND picker = OpenBy(companion_, window_, IDC_SCL_SAVE, L"ファイルの保存");
