@@ -13,19 +13,17 @@ schedule_load() {
   leave 'ファイルのロード' 1
   sleep 0.5
 }
-# table_at X Y [WINDOW]: the place of a point of a window's client area, by the button 2.
+# table_at X Y: the place of a point of the table's window, by its scroll bar.
 table_at() {
-  local button
-  button=($(hand part "${3:-$table}" 2))
-  echo $((button[0] - ${4:-700} + $1)) $((button[1] - ${5:-460} + $2))
+  local bar
+  bar=($(hand part "$table" 100))
+  echo $((bar[0] - 782 + $1)) $((bar[1] - 50 + $2))
 }
-# table_double X Y [WINDOW BUTTON_X BUTTON_Y]: a double click there.
+# table_double X Y: a double click there.
 table_double() {
   xdotool mousemove $(table_at "$@") click --repeat 2 --delay 80 1
   sleep 0.3
 }
-# The places of button 2 in the chart.
-in_chart="$chart 852 564"
 
 sent ScheduleSelDlg2 "$menu" 1910
 sent ScheduleSelDlg "$menu" 2019
@@ -50,13 +48,16 @@ table_double 30 100
 dialog DspSclClickLineData "$line" 2
 press "$table" 2022
 shot ScheduleLineDlg_31 "$chart"
-table_double 220 60 $in_chart
+bar=($(hand part "$chart" 101))
+xdotool mousemove $((bar[0] - 934 + 220)) $((bar[1] - 90 + 60)) click --repeat 2 --delay 80 1
 dialog DspSclClickDayData '指定日のスケジュール' 2
 leave "$chart" 2
 xdotool mousemove $(table_at 30 100) click 3
 sleep 0.4
 shot menu_schedule_row -
 xdotool key Escape
+press "$table" 2257
+dialog box_schedule_unchosen '実行スケジュール指定の解除' 2
 schedule_load 300
 press "$table" 2022
 press "$chart" 104
@@ -64,8 +65,6 @@ sleep 0.3
 shot ScheduleLineDlg_300 "$chart"
 leave "$chart" 2
 hand find "$table" >/dev/null
-press "$table" 2257
-dialog box_schedule_marked '実行スケジュールの指定' 2
 press "$table" 2
 dialog box_schedule_save 'スケジュールのセーブ確認' 2
 hand gone "$table"

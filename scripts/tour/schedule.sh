@@ -2,11 +2,11 @@
 hand send 2017
 table='スケジュール表'
 hand find "$table" >/dev/null
-# cell X Y: twice on a place of the table, found by its button 2.
+# cell X Y: twice on a place of the table, found by its scroll bar.
 cell() {
-  local button
-  button=($(hand part "$table" 2))
-  double_click $((button[0] - 700 + $1)) $((button[1] - 460 + $2))
+  local bar
+  bar=($(hand part "$table" 100))
+  double_click $((bar[0] - 782 + $1)) $((bar[1] - 50 + $2))
   sleep 0.5
 }
 picture schedule_empty

@@ -30,6 +30,8 @@ void Show(const Event& event) {
   char text[kSclItemTextSize + 1];
   TextFormat(text, sizeof text, "%.*s", kSclItemTextSize, item.text);
   ControlSetText(event.window, IDC_SCL_LINE_TEXT, text);
+  // In the field the whole text would stand selected.
+  ControlSetFocus(event.window, kCancelButton);
 }
 
 constexpr DialogAct kActs[] = {{EventKind::Init, Show}};

@@ -230,6 +230,15 @@ void Show(WindowHandle dialog) {
   SendPaint(dialog);
 }
 
+// The bars stand right of the body and below it.
+void Open(WindowHandle dialog) {
+  const Rect body = BodyOf(WindowClientRect(dialog));
+  WindowMove(Control(dialog, IDC_CHART_DOWN), body.right, body.top, kTableBarWidth, RectHeight(body), false);
+  WindowMove(Control(dialog, IDC_CHART_ACROSS), body.left, body.bottom, RectWidth(body), kTableBarWidth,
+             false);
+  Show(dialog);
+}
+
 int FirstAfter(const Axis& axis, const Event& event) {
   switch (event.scroll) {
     case Scroll::LineUp:
@@ -330,7 +339,7 @@ void LeftDouble(const Event& event) {
 }
 
 constexpr DialogAct kActs[] = {
-    {EventKind::Init, Show},          {EventKind::Paint, Paint},
+    {EventKind::Init, Open},          {EventKind::Paint, Paint},
     {EventKind::VScroll, ScrollDown}, {EventKind::HScroll, ScrollAcross},
     {EventKind::Wheel, Wheel},        {IDC_CHART_FIRST, ToFirst},
     {IDC_CHART_LAST, ToLast},         {EventKind::LeftDouble, LeftDouble},

@@ -255,6 +255,51 @@ TEST_F(ScheduleTableTest, AWindowOpenedAnewKnowsNoCopiedRows) {
   EXPECT_EQ(RowSelection.currentRow, 0);
 }
 
+// --- Two windows with rows
+
+int planInsertions = 0;
+constexpr RowTable kPlanRows{
+    CopyMark::InPlan, 300,    300, [] { return 10; }, [](int) { ++planInsertions; }, [](int, int) {},
+    [](int, int) {},  nullptr};
+
+TEST_F(ScheduleTableTest, TheCommandsActOnTheWindowThatWasClickedLast) {
+  Lines(4);
+  const WindowHandle plan = OpenListener();
+  PlanWindowSet(plan, &kPlanRows);
+  planInsertions = 0;
+  Click(kNumberX, 2);
+  RowWindowClicked(plan);
+  EXPECT_EQ(RowWindow(), plan);
+  Send(kInsert);
+  EXPECT_EQ(planInsertions, 1);
+  EXPECT_EQ(Texts(), "1 2 3 4");
+  Send(kCopy);
+  EXPECT_EQ(RowSelection.copyMark, CopyMark::InPlan) << "by the window that is open in front";
+  Click(kNumberX, 2);
+  EXPECT_EQ(RowWindow(), Window());
+  Send(kInsert);
+  EXPECT_EQ(planInsertions, 1);
+  EXPECT_EQ(Texts(), "1 - 2 3 4");
+  PlanWindowSet(nullptr, nullptr);
+  WindowDestroy(plan);
+  EXPECT_EQ(RowWindow(), Window());
+  RowsMarkClear();
+}
+
+TEST_F(ScheduleTableTest, WithTheScheduleClosedThePlanHasTheCommands) {
+  const WindowHandle plan = OpenListener();
+  PlanWindowSet(plan, &kPlanRows);
+  planInsertions = 0;
+  Click(kNumberX, 2);
+  SendClose(Window());
+  EXPECT_EQ(RowWindow(), plan);
+  Send(kInsert);
+  EXPECT_EQ(planInsertions, 1);
+  PlanWindowSet(nullptr, nullptr);
+  EXPECT_EQ(RowWindow(), nullptr);
+  WindowDestroy(plan);
+}
+
 TEST_F(ScheduleTest, WithoutAWindowTheCommandsOfRowsDoNothing) {
   for (const std::uint32_t command : {2040U, 2209U, 2210U, 2211U}) SendCommand(Program.hMainWnd, command);
   EXPECT_EQ(OpenWindowCount(), 1);
