@@ -17,13 +17,24 @@
 #include "newdata/cast.h"
 #include "newdata/host_file.h"
 #include "newdata/picture_files.h"
+#include "newdata/sample_scenario.h"
 #include "newdata/sound.h"
+#include "platform/file.h"
 #include "platform/posix/posix_paths.h"
+#include "scenario/storage/scenario.h"
+#include "scenario/storage/snry_list_file.h"
+#include "scenario/storage/snry_main_file.h"
+#include "scenario/storage/snry_paths.h"
+#include "scenario/storage/snry_scene_file.h"
+#include "scenario/storage/snry_tables.h"
 #include "schedule/model/schedule.h"
 #include "schedule/model/scl_file.h"
 #include "schedule/plan/plan.h"
 #include "schedule/plan/plan_file.h"
 #include "services/program.h"
+#include "services/state.h"
+#include "services/text.h"
+#include "services/work_blocks.h"
 #include "shell/settings.h"
 #include "tests/support/byte_order.h"
 #include "world/world_list.h"
@@ -146,6 +157,74 @@ TEST_F(DataSetTest, HoldsAScheduleThatBeginsOnItsDate) {
   EXPECT_EQ(items[12].hours, 0U);
 }
 
+// The tables and the cast of a scenario, read as the program does.
+class SampleScenarioTest : public DataSetTest {
+ protected:
+  void SetUp() override {
+    DataSetTest::SetUp();
+    StateReset(SnryList);
+    StateReset(SnryMain);
+    StateReset(SnryScene);
+    WorkBlocksAllocate();
+    char world[kRootPathSize];
+    SnryWorldPath(world, sizeof world);
+    ASSERT_TRUE(FolderSetCurrent(world));
+    ASSERT_EQ(SnryListRead(), 0);
+    ASSERT_EQ(SnryList.count, 1);
+    TextCopy(Scenario.mainFolder, sizeof Scenario.mainFolder, SnryList.rows[0].folder);
+    ASSERT_EQ(SnryMainRead(), 0);
+  }
+  void TearDown() override {
+    ScopeBlockFree();
+    CastBlockFree();
+    fs::current_path(before_);
+    DataSetTest::TearDown();
+  }
+
+ private:
+  fs::path before_ = fs::current_path();
+};
+
+TEST_F(SampleScenarioTest, HasTwoFoldersOfFiveScenesAndACast) {
+  EXPECT_STREQ(SnryList.rows[0].title, "どんぐりの森");
+  EXPECT_STREQ(SnryMain.title, "どんぐりの森");
+  ASSERT_EQ(SnryMain.folderCount, 2);
+  EXPECT_EQ(SnryMain.sceneCounts[0], 3);
+  EXPECT_EQ(SnryMain.sceneCounts[1], 2);
+  EXPECT_EQ(SnryMain.paraCount, 6);
+  EXPECT_EQ(SnryMain.registeredCount, 7);
+  EXPECT_STREQ(SnryMain.castNames[3].text, "月の使い");
+  EXPECT_STREQ(SnryMain.charaNames[3].text, "月夜のトビネズミ ツキハ");
+  EXPECT_STREQ(SnryMain.motionNames[9].text, "ランダム動作");
+  EXPECT_STREQ(SnryMain.labels[6].text, "セーブ");
+}
+
+TEST_F(SampleScenarioTest, ItsScenesHaveBackdropsLinesMenusAndRandoms) {
+  for (int folder = 0; folder < SnryMain.folderCount; ++folder) {
+    for (int scene = 0; scene < SnryMain.sceneCounts[folder]; ++scene) {
+      const SnrySceneRec& record = SnryMain.scenes[folder][scene];
+      ASSERT_EQ(SnrySceneLoad(folder, scene), 0) << folder << " " << scene;
+      EXPECT_GE(SnryCastCount(record), 2);
+      EXPECT_EQ(SnryLineAt(0).used, 1);
+      EXPECT_GE(SnryScene.menus[0].itemCount, 2);
+      EXPECT_EQ(SnryScene.randoms[0].enabled, 1);
+      for (const char* file :
+           {SnryScene.backdrop.background, SnryScene.backdrop.door, SnryScene.backdrop.window})
+        EXPECT_TRUE(fs::exists(Made(kSampleFolder) / u8"背景" / Cp932ToUtf8(file))) << Cp932ToUtf8(file);
+    }
+  }
+  ASSERT_EQ(SnrySceneLoad(0, 0), 0);
+  EXPECT_STREQ(SnryScene.backdrop.background, "広場.bmp");
+  EXPECT_EQ(SnryScene.events[0].minutes, 3);
+  EXPECT_STREQ(SnryScene.sounds[0].file, "小鳥.wav");
+  // Two copies of the third member stand behind it.
+  const SnrySceneRec& first = SnryMain.scenes[0][0];
+  ASSERT_EQ(SnryCastCount(first), 5);
+  EXPECT_EQ(first.cast[2], 12);
+  EXPECT_EQ(first.cast[3], 513);
+  EXPECT_EQ(SnryCastAt(512).master, 12);
+}
+
 TEST_F(DataSetTest, HoldsEveryFileByItsName) {
   const std::map<std::string, Bytes> files = AllFiles(Made(""));
   std::size_t expected = 4 + 2 + 2 + Sounds().size();  // data files, world list, plans
@@ -155,6 +234,14 @@ TEST_F(DataSetTest, HoldsEveryFileByItsName) {
   }
   ++expected;
   EXPECT_TRUE(files.contains(Cp932ToUtf8("スケジュール表/見本の予定.GPI")));
+  for (const char* name :
+       {"ワールド/SNRYLIST.sli", "どんぐりの森/シナリオメイン.cff", "どんぐりの森/森の朝/広場.scd",
+        "どんぐりの森/森の朝/川べり.scd", "どんぐりの森/森の朝/書庫.scd", "どんぐりの森/星の夜/丘.scd",
+        "どんぐりの森/星の夜/星の広場.scd"}) {
+    ++expected;
+    EXPECT_TRUE(files.contains(Cp932ToUtf8(name))) << Cp932ToUtf8(name);
+  }
+  expected += std::size(kSamplePictures) + std::size(kSampleSounds);
   const std::string pictures = Cp932ToUtf8("キャラクタ/");
   for (const CastMember& member : Cast()) {
     const std::string stem = pictures + "Chara" + std::to_string(member.number);

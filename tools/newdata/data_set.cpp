@@ -12,6 +12,7 @@
 #include "newdata/host_file.h"
 #include "newdata/picture_files.h"
 #include "newdata/plan_samples.h"
+#include "newdata/sample_scenario.h"
 #include "newdata/tables.h"
 #include "newdata/world_list_file.h"
 #include "platform/posix/posix_paths.h"
@@ -120,6 +121,7 @@ void MakeDataSet(const std::filesystem::path& folder, const std::filesystem::pat
   const std::filesystem::path backgrounds = folder / kBackgroundFolder;
   std::filesystem::create_directories(backgrounds);
   WriteBackgrounds(assets / "backgrounds", backgrounds);
+  WriteSampleScenario(std::filesystem::absolute(folder), assets);
   UseProgramFolder(folder);
   WriteDataFiles(date);
 }

@@ -90,7 +90,7 @@ void ExchangePlace(Form& form, SnryPair& pair) {
 void ShowItem(WindowHandle page, int item) {
   SnrySheet.item = item;
   ListSelect(page, IDC_MENU_ITEMS, item);
-  ControlSetText(page, IDC_MENU_TEXT, ItemIsChosen() ? Menu().itemTexts[item] : "");
+  ControlSetText(page, IDC_MENU_TEXT, ItemIsChosen() ? Menu().itemTexts[SnrySheet.item] : "");
   ListEditorShow(page, kPlaces);
 }
 

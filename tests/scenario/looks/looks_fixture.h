@@ -1,6 +1,7 @@
 // A scenario with a scene whose looks are set.
 #pragma once
 
+#include <algorithm>
 #include <string>
 #include <vector>
 
@@ -53,6 +54,18 @@ class LooksTest : public ProgramTest {
   }
   static void ThenChoose(int id, int row) {
     Then([id, row] { ChooseRow(TopDialog(), id, row); });
+  }
+  // Files come in the order of the folder, which is nobody's: they are found by name.
+  static int RowOf(int id, const std::string& text) {
+    const Lines rows = ListRows(TopDialog(), id);
+    return static_cast<int>(std::find(rows.begin(), rows.end(), text) - rows.begin());
+  }
+  static void ThenChooseText(int id, const std::string& text) {
+    Then([id, text] { ChooseRow(TopDialog(), id, RowOf(id, text)); });
+  }
+  static Lines Sorted(Lines rows) {
+    std::sort(rows.begin(), rows.end());
+    return rows;
   }
   static void ThenType(int id, const std::string& text) {
     Then([id, text] { Type(TopDialog(), id, text.c_str()); });

@@ -23,8 +23,9 @@ class SnryBackScrollDlgTest : public LooksTest {
 
 TEST_F(SnryBackScrollDlgTest, ABackgroundIsAddedFromTheFiles) {
   Then([] {
-    EXPECT_EQ(ListRows(TopDialog(), IDC_SCROLL_FILES), (Lines{"未設定", "hill.bmp", "sea.bmp"}));
-    ChooseRow(TopDialog(), IDC_SCROLL_FILES, 2);
+    EXPECT_EQ(ListRows(TopDialog(), IDC_SCROLL_FILES).at(0), "未設定");
+    EXPECT_EQ(Sorted(ListRows(TopDialog(), IDC_SCROLL_FILES)), (Lines{"hill.bmp", "sea.bmp", "未設定"}));
+    ChooseRow(TopDialog(), IDC_SCROLL_FILES, RowOf(IDC_SCROLL_FILES, "sea.bmp"));
   });
   ThenAsked(IDC_SCROLL_ADD, "スクロール背景を追加します", "スクロール背景追加");
   Then([] { EXPECT_EQ(ListRows(TopDialog(), IDC_SCROLL_CHOSEN), (Lines{"sea.bmp"})); });
@@ -62,7 +63,7 @@ TEST_F(SnryBackScrollDlgTest, WithNineADeleteAsksNothingWithTenItAsks) {
 
 TEST_F(SnryBackScrollDlgTest, AChangeNeedsARowOfBothLists) {
   Backgrounds(2);
-  ThenChoose(IDC_SCROLL_FILES, 1);
+  ThenChooseText(IDC_SCROLL_FILES, "hill.bmp");
   ThenPress(IDC_SCROLL_CHANGE);
   ThenChoose(IDC_SCROLL_CHOSEN, 1);
   ThenAsked(IDC_SCROLL_CHANGE, "スクロール背景を変更します", "スクロール背景変更");
