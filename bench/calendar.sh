@@ -1,12 +1,12 @@
 #!/usr/bin/env bash
 # The desktop calendar under Wine: the repaint of each page against a bare window that draws
 # the same texts, and the CPU of a companion whose calendar has a running ticker beside a
-# bare window that scrolls one line of text, and beside a companion with a still calendar.
-# Run after ./run has built everything:  bench/calendar.sh [SECONDS]
+# bare window that scrolls the same line of text, and beside a companion with a still
+# calendar. Run after ./run has built everything:  bench/calendar.sh [SECONDS]
 set -euo pipefail
 cd "$(dirname "$0")/.."
 . scripts/wine_env.sh
-seconds=${1:-60}
+seconds=${1:-25}  # the line of the ticker runs for 36
 
 # put FILE OFFSET BYTES: writes bytes ("\1\0") at a place of a file.
 put() { printf "$3" | dd of="$1" bs=1 seek="$2" conv=notrunc status=none; }
@@ -22,13 +22,12 @@ for kind in month:0 week:1 day:2 ticker:0 still:0; do
   put "$settings" 170405 '\0'
   truncate -s 172716 "$settings"
 done
-# The first calendar's definition: a ticker of two pixels a step without a rest to speak of;
-# today has a note.
+# The first calendar's definition: a ticker of one pixel a step; today has a long note.
 folder=build/bench/calendar_ticker
 definition=$((3986 + 3 * (56064 + 120)))
-put "$folder/mirrell_calen_file.dcd" $((definition + 26228)) '\1\1\0'
+put "$folder/mirrell_calen_file.dcd" $((definition + 26228)) '\0\1\0'
 month=$(($(date +%-m) - 1)) day=$(($(date +%-d) - 1))
-put "$folder/mirrell_sys_file.svs" $((2190 + month * 4672 + 34 + day * 128)) 'the note of today'
+put "$folder/mirrell_sys_file.svs" $((2190 + month * 4672 + 34 + day * 128)) "$(printf 'x%.0s' $(seq 127))"
 
 trap display_stop EXIT
 display_start 1280x960

@@ -102,13 +102,13 @@ void Paint(HWND window) {
 }
 
 void Scroll(HWND window) {
-  const std::wstring text = L"22日: 友人と映画を見る  ";
+  const std::wstring text = L"22日: " + std::wstring(127, L'x') + L"  ";
   Steady(window, 20, RGB(255, 185, 95), [&](HDC dc) {
     SelectObject(dc, GetStockObject(SYSTEM_FIXED_FONT));
     SIZE size{};
     GetTextExtentPoint32W(dc, text.c_str(), static_cast<int>(text.size()), &size);
-    position = position * 2 > kWidth + size.cx ? 0 : position + 1;
-    Say(dc, kWidth - position * 2, 2, text, RGB(0, 70, 160));
+    position = position > kWidth + size.cx ? 0 : position + 1;
+    Say(dc, kWidth - position, 2, text, RGB(0, 70, 160));
   });
 }
 

@@ -23,11 +23,14 @@ calendar_choose() {
 }
 # calendar_page NAME: the calendar's window, which has no title.
 calendar_page() { shot "FlyingBat3_$1" -; }
-# calendar_click BUTTON DX DY [REPEAT]: in the calendar's window.
+# calendar_click BUTTON DX DY [BUTTON]: in the calendar's window, and once more.
 calendar_click() {
   local place
   place=($(hand find -))
-  xdotool mousemove $((place[0] + $2)) $((place[1] + $3)) click --repeat "${4:-1}" --delay 60 "$1"
+  xdotool mousemove $((place[0] + $2)) $((place[1] + $3))
+  sleep 0.3
+  xdotool click "$1"
+  [ -z "${4:-}" ] || xdotool click "$4"
   sleep 0.3
 }
 
@@ -73,7 +76,7 @@ done
 # The day page of another day, the memo panel, the popup and its note.
 calendar_set choose "$calendar" 103 1
 calendar_choose 0
-calendar_click 1 40 262 2
+calendar_click 1 40 262 1
 shot FlyingBat3_memo -
 calendar_click 1 190 322
 xdotool mousemove 2 2

@@ -7,6 +7,7 @@
 #include "clock_calendar/calendar/calendar_picture.h"
 #include "clock_calendar/calendar/calendar_size.h"
 #include "services/painting.h"
+#include "services/screen_figures.h"
 #include "services/text.h"
 #include "services/today.h"
 
@@ -86,22 +87,38 @@ int TickerText(char (&text)[kCalenDayMax * kEntrySize]) {
   return static_cast<int>(length);
 }
 
+// The part of a line that begins at x and lies inside a window: where it begins, and its
+// bytes. The text font has columns of one width, a byte each.
+struct Part {
+  int x;
+  const char* text;
+  int length;
+};
+Part PartInside(const char* text, int length, int x, int width, int column) {
+  const auto hidden = static_cast<int>(TextPrefix(text, static_cast<std::size_t>(std::max(-x / column, 0))));
+  const int room = std::max(width - x - hidden * column, 0) / column + 2;
+  const auto seen = TextPrefix(text + hidden, static_cast<std::size_t>(std::min(room, length - hidden)));
+  return {x + hidden * column, text + hidden, static_cast<int>(seen)};
+}
+
 }  // namespace
 
 bool CalenTickerDraw(Canvas* screen) {
   char text[kCalenDayMax * kEntrySize];
   const int length = TickerText(text);
   const int width = CalenLayoutWidth();
+  const int column = std::max(Screen.CharWidth, 1);
   const int top = StripTop();
   const int x = width - Calendar.tickerPosition * Calendar.CalenTickerStep;
   const Colour colour = ColourOf(Calendar.CalenTickerColour);
-  bool shows = false;
+  const bool shows = length > 0 && x + length * column > 0;
   DrawSteady(screen, {0, top, width, top + kStripHeight}, [&](Canvas* canvas, const Rect& area) {
-    shows = length > 0 && x + CanvasTextWidth(canvas, text, length) > 0;
     FillColour(canvas, colour ^ kComplement, area);
+    if (!shows) return;
     CanvasTextColour(canvas, colour);
     CanvasBackTransparent(canvas, true);
-    CanvasText(canvas, area.left + x, area.top + kTextInStrip, text, length);
+    const Part part = PartInside(text, length, x, width, column);
+    CanvasText(canvas, area.left + part.x, area.top + kTextInStrip, part.text, part.length);
   });
   return shows;
 }

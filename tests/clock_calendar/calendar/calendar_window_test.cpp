@@ -250,10 +250,15 @@ TEST_F(CalendarWindowTest, TheTickerRunsFromTheRightAndRestsWhenItHasRunOut) {
   SendPaint(Calendar.hCalenWnd);
   DrawingClear();
   CalenTickerTick();
+  EXPECT_EQ(Find(Drawings(Calendar.hCalenWnd), "21")->x, 200 - 5) << "what lies inside the window";
+  DrawingClear();
+  for (int i = 2; i <= 16; ++i) CalenTickerTick();
+  DrawingClear();
+  CalenTickerTick();
   const std::vector<DrawCall> drawn = Drawings(Calendar.hCalenWnd);
   const auto text = Find(drawn, "21日: a  ");
   ASSERT_NE(text, nullptr) << "today only";
-  EXPECT_EQ(text->x, 200 - 5);
+  EXPECT_EQ(text->x, 200 - 17 * 5);
   EXPECT_EQ(text->textColour, 0xFF0000U);
   bool strip = false;
   for (const DrawCall& call : drawn) {
@@ -261,7 +266,7 @@ TEST_F(CalendarWindowTest, TheTickerRunsFromTheRightAndRestsWhenItHasRunOut) {
   }
   EXPECT_TRUE(strip) << "the complement";
   // Nine columns of 8 are 72 pixels: the 55th step stands at -75.
-  for (int i = 2; i < 55; ++i) CalenTickerTick();
+  for (int i = 18; i < 55; ++i) CalenTickerTick();
   EXPECT_EQ(Calendar.tickerPosition, 54);
   CalenTickerTick();
   EXPECT_EQ(Calendar.tickerPosition, 0);
@@ -282,6 +287,7 @@ TEST_F(CalendarWindowTest, WithAReachOfAWeekTheTickerTellsTodayAndSixDays) {
   Open();
   CalenTickerSetup();
   SendPaint(Calendar.hCalenWnd);
+  for (int i = 0; i < 160; ++i) CalenTickerTick();
   DrawingClear();
   CalenTickerTick();
   EXPECT_NE(Find(Drawings(Calendar.hCalenWnd), "21日: a  27日: b  "), nullptr);
@@ -298,6 +304,7 @@ TEST_F(CalendarWindowTest, TheTickerStandsAtItsPlace) {
     Open();
     CalenTickerSetup();
     SendPaint(Calendar.hCalenWnd);
+    for (int i = 0; i < 160; ++i) CalenTickerTick();
     DrawingClear();
     CalenTickerTick();
     const auto text = Find(Drawings(Calendar.hCalenWnd), "21日: a  ");
