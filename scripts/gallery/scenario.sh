@@ -106,7 +106,7 @@ leave 'シナリオの削除' 2
 main=$(ls "$program"/ワールド/冒険の島/シナリオメイン.cff)
 printf '\x01' | dd of="$main" bs=1 seek=$((15414 + 596)) conv=notrunc status=none
 send 1923
-choose 'シナリオのロード' 101 0
+choose 'シナリオのロード' 101 '[冒険'
 leave 'シナリオのロード' 1
 choose "$rout" 102 0
 press "$rout" 113

@@ -14,6 +14,7 @@
 #include "platform/file.h"
 #include "platform/time.h"
 #include "platform/window.h"
+#include "scenario/storage/snry_reset.h"
 #include "schedule/applications/application_list.h"
 #include "schedule/execution/schedule_run.h"
 #include "schedule/model/schedule.h"
@@ -32,7 +33,6 @@
 #include "shell/settings.h"
 #include "shell/states.h"
 #include "shell/tick_timer.h"
-#include "world/world_list.h"
 
 namespace {
 
@@ -84,7 +84,7 @@ void StartSequence(WindowHandle window) {
 
   const int settings = SysFileRead();
   ApliListOpen();
-  WorldListRead();
+  SnryWorldLoad();
   CalenFileRead();
   FileWatchStampTake(WatchedFile::CalendarFile);
   CharaFileRead();

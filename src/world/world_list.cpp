@@ -34,14 +34,16 @@ void TakeChara(WorldChara& chara, const EdtcCharRec& record) {
   }
 }
 
-// The counts and the figure table. False when the load ends here.
-bool ReadFlags() {
+// The counts and the figure table. False when the load ends here; `counted` says whether
+// the counts came.
+bool ReadFlags(bool& counted) {
   char path[kRootPathSize];
   WorldFlagPath(path, sizeof path);
   DataFile data;
   if (!DataOpenRead(data, path, OpenMode::Read)) return false;
   EdtcHead head;
   bool good = RecordRead(data, head) && head.charaCount <= kWorldCharaMax;
+  counted = good;
   if (good) {
     World.WorldCharaCount = static_cast<std::int32_t>(head.charaCount);
     // settled: figures that the table has no room for are passed over.
@@ -75,8 +77,10 @@ const WorldChara* CharaAt(int number) {
 
 }  // namespace
 
-void WorldListRead() {
-  if (ReadFlags()) ReadCharas();
+bool WorldListRead() {
+  bool counted = false;
+  if (ReadFlags(counted)) ReadCharas();
+  return counted;
 }
 
 const char* WorldCharaName(int number) {

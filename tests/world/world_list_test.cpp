@@ -172,6 +172,16 @@ TEST_F(WorldListTest, AMissingOrShortListFileEndsTheLoadThereWithoutAWord) {
   EXPECT_TRUE(BoxesShown().empty());
 }
 
+TEST_F(WorldListTest, ItIsKnownWhetherTheCountsCame) {
+  EXPECT_FALSE(WorldListRead());
+  Put(FlagFile(1, {Figure(true, "a")}).substr(0, 11), "");
+  EXPECT_FALSE(WorldListRead());
+  Put(FlagFile(1, {Figure(true, "a")}).substr(0, 12), "");
+  EXPECT_TRUE(WorldListRead());
+  Put(FlagFile(513, {}), "");
+  EXPECT_FALSE(WorldListRead());
+}
+
 TEST_F(WorldListTest, MoreCharactersThanThereCanBeEndTheLoad) {
   for (const std::uint32_t charas : {513U, 0xFFFFFFFFU, 0x80000000U}) {
     World.WorldCharaCount = 3;

@@ -12,7 +12,7 @@
 
 namespace {
 
-constexpr Point kPreviewAt{168, 42};  // dialog units
+constexpr Point kPreviewAt{228, 42};  // dialog units
 
 constexpr ListEditor kList{IDC_CAST_LIST, CastAddRows, CastAddRowText};
 

@@ -4,8 +4,6 @@
 #include <iterator>
 
 #include "scenario/storage/snry_tables.h"
-#include "services/path.h"
-#include "services/program.h"
 #include "services/text.h"
 #include "world/world_list.h"
 
@@ -117,10 +115,7 @@ void SnryOptionCheck() {
 }
 
 void SnryWorldLoad() {
-  char path[kRootPathSize];
-  WorldFlagPath(path, sizeof path);
-  if (FileExists(path) == 0) return;
-  WorldListRead();
+  if (!WorldListRead()) return;
   SnryMain.charaCount = static_cast<std::uint16_t>(World.WorldCharaCount);
   for (int i = 0; i < SnryMain.charaCount; ++i) {
     Clear(SnryMain.charaNames[i].text);
