@@ -7,8 +7,6 @@
 #include "services/dialog_acts.h"
 #include "services/dialog_family.h"
 
-SnryTraceState SnryTrace;
-
 namespace {
 
 void Open(WindowHandle dialog) {
@@ -41,20 +39,8 @@ bool Handle(const Event& event) {
   return DialogActRun(event, kActs);
 }
 
-void AddLine(void* dialog, const char* text) {
-  ListAdd(static_cast<WindowHandle>(dialog), IDC_TRACE_LINES, text);
-}
-
 }  // namespace
 
 void CheckParameterDlgRun(WindowHandle owner) {
   ToolDialogRun(ToolDialog::CheckParameterDlg, IDD_CheckParameterDlg, owner, Handle);
-}
-
-SnryLineSink TraceLines(WindowHandle dialog) {
-  return {AddLine, dialog};
-}
-
-void TraceNameShow(WindowHandle dialog) {
-  ControlSetText(dialog, IDC_TRACE_NAME, SnryMain.paras[SnryTrace.slot].name);
 }
