@@ -1,7 +1,7 @@
-// paint_time ROUNDS PAINTS PROGRAM_A PROGRAM_B: starts two programs in the current folder
-// and has a window of each painted again and again, by turns: the one that is not the
-// companion's main window. Prints the medians of a paint in microseconds and of the
-// ratios of the rounds.
+// paint_time ROUNDS PAINTS PROGRAM_A PROGRAM_B: starts two programs, each a command line,
+// in the current folder and has a window of each painted again and again, by turns: the
+// one that is not the companion's main window. Prints the medians of a paint in
+// microseconds and of the ratios of the rounds.
 #include <windows.h>
 
 #include <algorithm>
@@ -81,7 +81,7 @@ int wmain(int count, wchar_t** arguments) {
   const int rounds = _wtoi(arguments[1]);
   const int paints = _wtoi(arguments[2]);
   Program programs[2];
-  for (int i = 0; i < 2; ++i) Start(programs[i], L"\"" + std::wstring(arguments[3 + i]) + L"\"");
+  for (int i = 0; i < 2; ++i) Start(programs[i], arguments[3 + i]);
   Sleep(1000);
   std::vector<double> ratios;
   for (int round = -1; round < rounds; ++round) {

@@ -28,6 +28,8 @@ dialog MYPOPDLG "$account" 1
 pressed SetMailAnimeDlg 'メール受信時アニメーション設定' "$mail" 105 2
 shot MailSettingMenuDlg "$mail"
 leave "$mail" 1
+# The dialog goes, and the first box comes.
+sleep 0.5
 for reply in greeting user password quit; do
   dialog "box_mail_$reply" 'Server' 1
 done
@@ -62,11 +64,11 @@ shot EntertainmentBGMDlg_empty "$music"
 press "$music" 101
 choose "$picker" 103 '朝の曲'
 leave "$picker" 1
-# music_click X Y CLICK...: at pixels of the window, whose load button stands at (12, 500).
+# music_click X Y CLICK...: at pixels of the window behind its frame and caption.
 music_click() {
   local place
-  place=($(hand part "$music" 101))
-  xdotool mousemove $((place[0] - 12 + $1)) $((place[1] - 500 + $2))
+  place=($(hand find "$music"))
+  xdotool mousemove $((place[0] + 3 + $1)) $((place[1] + 22 + $2))
   xdotool click "${@:3}"
 }
 double_click=(--repeat 2 --delay 60 1)

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "platform/file.h"
+#include "scenario/cast/snry_cast.h"
 #include "scenario/scenario_settings.h"
 #include "scenario/storage/scenario_dialogs.h"
 #include "scenario/storage/snry_list_file.h"
@@ -123,5 +124,8 @@ void CommandScenarioSave() {
   SnrySaveTold(Dialogs.hMenuDlg);
 }
 
-// The folder of backgrounds is not filled from here yet.
-void ScenarioCommand(Command) {}
+// settled: without a scenario that is being edited there is no folder for a background.
+void CommandScenarioBackground() {
+  if (!Dialogs.hMenuDlg || Dialogs.DlgIdMenu != MenuDialog::RoutSnrySetting) return;
+  SnryBackgroundAdd(Dialogs.hSnryDlg ? Dialogs.hSnryDlg : Dialogs.hMenuDlg);
+}

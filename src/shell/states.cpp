@@ -39,7 +39,12 @@
 #include "mail_music/mail/mail_setting.h"
 #include "mail_music/mail/mail_talk.h"
 #include "mail_music/music/music.h"
+#include "scenario/cast/cast_backdrop.h"
+#include "scenario/cast/cast_edit.h"
+#include "scenario/cast/cast_member.h"
+#include "scenario/characters/chara_regi.h"
 #include "scenario/logic/snry_sheet.h"
+#include "scenario/looks/snry_looks.h"
 #include "scenario/storage/scenario.h"
 #include "scenario/storage/scenario_dialogs.h"
 #include "scenario/trace/trace_dialogs.h"
@@ -147,7 +152,9 @@ void MailMusicReset() {
 }
 
 void ScenarioReset() {
-  ResetAll(Scenario, SnryList, SnryMain, SnryScene, SnryDialogs, SnrySheet, SnryTrace);
+  CastBackdropFree();
+  ResetAll(CastBackdrop, CastEdit, CastMember, CharaRegi);
+  ResetAll(Scenario, SnryList, SnryLooks, SnryMain, SnryScene, SnryDialogs, SnrySheet, SnryTrace);
 }
 
 void ShellReset() {

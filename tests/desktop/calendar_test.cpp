@@ -147,6 +147,30 @@ TEST_F(CalendarTest, ItsTickerRuns) {
   }
 }
 
+// The week page is painted by a press of its button, which makes the button anew; and then
+// there is nothing more to paint.
+TEST_F(CalendarTest, ThePageIsTurnedByItsButtonsAndComesToRest) {
+  Start();
+  ASSERT_NE(Edit(), nullptr);
+  ASSERT_TRUE(EndBy(companion_.FindDialog(kEdit), kOk));
+  SelectListRow(choice_, IDC_SEL_LIST, 1);
+  PressButton(choice_, IDC_SEL_LOAD);
+  ASSERT_TRUE(EndBy(choice_, kOk));
+  ASSERT_TRUE(WaitFor([&] { return Window() != nullptr; }));
+  const auto page = [] { return ScreenPixels(kCalenX, kCalenY + 195 + 20, 200, 126); };
+  const std::vector<std::uint32_t> before = page();
+  for (const int x : {140, 172}) {  // a week back and on again
+    const std::vector<std::uint32_t> now = page();
+    PointerTo(kCalenX + x, kCalenY + 195 + 9);
+    PointerClick();
+    EXPECT_TRUE(WaitFor([&] { return page() != now; })) << x;
+    PointerAway();
+  }
+  EXPECT_TRUE(WaitFor([&] { return page() == before; }));
+  EXPECT_TRUE(WaitFor([&] { return GetUpdateRect(Window(), nullptr, FALSE) == 0; }));
+  EXPECT_EQ(companion_.Close(), 0);
+}
+
 // The note of today is written by the popup's dialog while nothing is announced; with the
 // announcing switched on it is told.
 TEST_F(CalendarTest, ANoteWrittenThroughTheMemoDialogIsAnnounced) {
@@ -168,7 +192,7 @@ TEST_F(CalendarTest, ANoteWrittenThroughTheMemoDialogIsAnnounced) {
   SetEdit(note, IDC_CALEN_NOTE, L"歯医者へ行く");
   ASSERT_TRUE(EndBy(note, kOk));
   EXPECT_EQ(SavedNote(day_), "歯医者へ行く");
-  EXPECT_EQ(companion_.FindDialog(L"ミルレール"), companion_.Window()) << "nothing is announced yet";
+  EXPECT_EQ(companion_.FindDialog(L"ミルレール"), nullptr) << "nothing is announced yet";
   const HWND edit = Edit();
   ASSERT_NE(edit, nullptr);
   SendDlgItemMessageW(edit, IDC_CALEN_NOTE_MODE, CB_SETCURSEL, 1, 0);
@@ -185,6 +209,26 @@ TEST_F(CalendarTest, ANoteWrittenThroughTheMemoDialogIsAnnounced) {
   };
   EndBy(choice_, kOk);
   EXPECT_TRUE(TickUntil(companion_, announced));
+}
+
+// By the pointer itself: the panel grows out of the foot of the page, and its box closes it.
+TEST_F(CalendarTest, ADoubleClickOpensTheMemoPanel) {
+  Start();
+  ASSERT_TRUE(WaitFor([&] { return Window() != nullptr; }));
+  const auto below = [&] {
+    RECT at{};
+    GetWindowRect(Window(), &at);
+    return static_cast<int>(at.bottom - at.top) - (195 + 8 * 16 + 24);
+  };
+  EXPECT_EQ(below(), 20);
+  PointerTo(kCalenX + 2 + 3 * 28 + 10, kCalenY + 195 + 36 + 18 + 8);
+  PointerClick();
+  PointerClick();
+  EXPECT_TRUE(WaitFor([&] { return below() == 140; }));
+  PointerTo(kCalenX + 190, kCalenY + 195 + 8 * 16 + 24 - 30 + 8);
+  PointerClick();
+  EXPECT_TRUE(WaitFor([&] { return below() == 20; }));
+  PointerAway();
 }
 
 TEST_F(CalendarTest, AStickerIsSetAndTakenOff) {

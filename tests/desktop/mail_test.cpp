@@ -85,6 +85,7 @@ class MailTest : public testing::Test {
   static std::string TextAt(const std::vector<unsigned char>& bytes, std::size_t at) {
     return reinterpret_cast<const char*>(bytes.data()) + at;
   }
+  static std::string Narrow(const std::wstring& text) { return {text.begin(), text.end()}; }
   bool StateIs(int state) const {
     return WaitFor([&] { return companion_.Value(kShowMailState) == state; });
   }
@@ -130,7 +131,7 @@ TEST_F(MailTest, ConfirmedSettingsCheckAtOnceAndAMailIsBroughtByTheCharacter) {
   ASSERT_EQ(file.size(), kFileSize);
   EXPECT_EQ(GetBig(file, 0), 1U);
   EXPECT_EQ(GetBig(file, 8), 9U);
-  EXPECT_EQ(TextAt(file, kServerAt), std::string(server_->Address().begin(), server_->Address().end()));
+  EXPECT_EQ(TextAt(file, kServerAt), Narrow(server_->Address()));
   EXPECT_EQ(TextAt(file, kUserAt), "mirrell");
   EXPECT_EQ(TextAt(file, kPasswordAt), "secret");
   EXPECT_EQ(TextAt(file, kCommentAt), "お便りです");

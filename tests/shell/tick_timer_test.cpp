@@ -7,6 +7,7 @@
 #include "character/motion.h"
 #include "character/walk.h"
 #include "clock_calendar/calendar/calendar.h"
+#include "clock_calendar/calendar/calendar_window.h"
 #include "clock_calendar/clock/clock.h"
 #include "clock_calendar/clock/clock_notice.h"
 #include "clock_calendar/clock/clock_window.h"
@@ -206,8 +207,8 @@ TEST_F(TickTimerTest, WorkInTheTickKeepsThePace) {
 TEST_F(TickTimerTest, AnOpenWindowKeepsThePace) {
   for (WindowHandle* handle :
        {&Panel.hDiskMenu, &Dialogs.hMenuDlg, &Dialogs.hToolDlg, &Dialogs.hSubDlg, &Dialogs.hSnryDlg,
-        &Picker.hFilePickDlg, &BackUpRun.hBackUpDlg, &Stepped.hSearchDlg, &ClockNotice.hClockNoticeWnd,
-        &SclTable.hSclTableWnd, &SclTable.hPlanWnd, &Music.hBgmWnd}) {
+        &Picker.hFilePickDlg, &BackUpRun.hBackUpDlg, &Stepped.hSearchDlg, &SclTable.hSclTableWnd,
+        &SclTable.hPlanWnd, &Music.hBgmWnd}) {
     *handle = OpenListener();
     Fire();
     EXPECT_EQ(Period(), 30);
@@ -238,10 +239,9 @@ TEST_F(TickTimerTest, AStillCalendarIsDueAtTheNextMinute) {
   Calendar.hCalenWnd = OpenListener();
   Calendar.CalenTickerOn = false;
   TestClockSet({2026, 11, 21, 6, 9, 30, 15, 0});
-  EXPECT_EQ(CalendarDue(), 45000 / 30);
-  EXPECT_EQ(TicksUntilDue(), kStep);
+  EXPECT_EQ(CalenWindowDue(), 45000 / 30);
   TestClockSet({2026, 11, 21, 6, 23, 59, 59, 940});
-  EXPECT_EQ(CalendarDue(), 2) << "60 milliseconds";
+  EXPECT_EQ(CalenWindowDue(), 2) << "60 milliseconds";
   Calendar.CalenTickerOn = true;
   EXPECT_EQ(CalendarDue(), 1);
   WindowDestroy(Calendar.hCalenWnd);

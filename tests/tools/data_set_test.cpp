@@ -17,11 +17,24 @@
 #include "newdata/cast.h"
 #include "newdata/host_file.h"
 #include "newdata/picture_files.h"
+#include "newdata/sample_scenario.h"
 #include "newdata/sound.h"
+#include "platform/file.h"
 #include "platform/posix/posix_paths.h"
+#include "scenario/storage/scenario.h"
+#include "scenario/storage/snry_list_file.h"
+#include "scenario/storage/snry_main_file.h"
+#include "scenario/storage/snry_paths.h"
+#include "scenario/storage/snry_scene_file.h"
+#include "scenario/storage/snry_tables.h"
 #include "schedule/model/schedule.h"
 #include "schedule/model/scl_file.h"
+#include "schedule/plan/plan.h"
+#include "schedule/plan/plan_file.h"
 #include "services/program.h"
+#include "services/state.h"
+#include "services/text.h"
+#include "services/work_blocks.h"
 #include "shell/settings.h"
 #include "tests/support/byte_order.h"
 #include "world/world_list.h"
@@ -99,6 +112,29 @@ std::map<std::string, Bytes> AllFiles(const fs::path& folder) {
   return files;
 }
 
+// --- The samples of plans
+
+TEST_F(DataSetTest, AStudyPlanAndATrainingPlanLieInTheFolderOfPlans) {
+  ASSERT_EQ(ScpLoadFile(PosixToProgram((Made(kPlanFolder) / u8"学習計画.GPP").string()).c_str()), 0);
+  EXPECT_EQ(Plan.head.ScpPlanKind, kScpStudy);
+  EXPECT_STREQ(Plan.head.title, "学習計画の見本");
+  EXPECT_EQ(Plan.head.start.year, 26);
+  EXPECT_EQ(Plan.head.start.day, 20);
+  EXPECT_EQ(Plan.head.start.hour, 8);
+  EXPECT_STREQ(Plan.ScpPlanTable[0].text, "英単語 1～50");
+  EXPECT_EQ(Plan.ScpPlanTable[5].hours, 5U);
+  ASSERT_EQ(ScpLoadFile(PosixToProgram((Made(kPlanFolder) / u8"筋トレ計画.GPP").string()).c_str()), 0);
+  EXPECT_EQ(Plan.head.ScpPlanKind, kScpTraining);
+  EXPECT_EQ(Plan.head.start.hour, 17);
+  EXPECT_EQ(Plan.ScpPlanTable[1].load, 2U);
+  EXPECT_EQ(Plan.ScpPlanTable[1].repeat, 8);
+}
+
+TEST_F(DataSetTest, APlanThatIsCutIsAFault) {
+  Cut(Made(kPlanFolder) / u8"学習計画.GPP", 1000);
+  EXPECT_TRUE(HasFault(Cp932ToUtf8("学習計画.GPP is no plan")));
+}
+
 }  // namespace
 
 TEST_F(DataSetTest, IsGood) {
@@ -121,15 +157,91 @@ TEST_F(DataSetTest, HoldsAScheduleThatBeginsOnItsDate) {
   EXPECT_EQ(items[12].hours, 0U);
 }
 
+// The tables and the cast of a scenario, read as the program does.
+class SampleScenarioTest : public DataSetTest {
+ protected:
+  void SetUp() override {
+    DataSetTest::SetUp();
+    StateReset(SnryList);
+    StateReset(SnryMain);
+    StateReset(SnryScene);
+    WorkBlocksAllocate();
+    char world[kRootPathSize];
+    SnryWorldPath(world, sizeof world);
+    ASSERT_TRUE(FolderSetCurrent(world));
+    ASSERT_EQ(SnryListRead(), 0);
+    ASSERT_EQ(SnryList.count, 1);
+    TextCopy(Scenario.mainFolder, sizeof Scenario.mainFolder, SnryList.rows[0].folder);
+    ASSERT_EQ(SnryMainRead(), 0);
+  }
+  void TearDown() override {
+    ScopeBlockFree();
+    CastBlockFree();
+    fs::current_path(before_);
+    DataSetTest::TearDown();
+  }
+
+ private:
+  fs::path before_ = fs::current_path();
+};
+
+TEST_F(SampleScenarioTest, HasTwoFoldersOfFiveScenesAndACast) {
+  EXPECT_STREQ(SnryList.rows[0].title, "どんぐりの森");
+  EXPECT_STREQ(SnryMain.title, "どんぐりの森");
+  ASSERT_EQ(SnryMain.folderCount, 2);
+  EXPECT_EQ(SnryMain.sceneCounts[0], 3);
+  EXPECT_EQ(SnryMain.sceneCounts[1], 2);
+  EXPECT_EQ(SnryMain.paraCount, 6);
+  EXPECT_EQ(SnryMain.registeredCount, 7);
+  EXPECT_STREQ(SnryMain.castNames[3].text, "月の使い");
+  EXPECT_STREQ(SnryMain.charaNames[3].text, "月夜のトビネズミ ツキハ");
+  EXPECT_STREQ(SnryMain.motionNames[9].text, "ランダム動作");
+  EXPECT_STREQ(SnryMain.labels[6].text, "セーブ");
+}
+
+TEST_F(SampleScenarioTest, ItsScenesHaveBackdropsLinesMenusAndRandoms) {
+  for (int folder = 0; folder < SnryMain.folderCount; ++folder) {
+    for (int scene = 0; scene < SnryMain.sceneCounts[folder]; ++scene) {
+      const SnrySceneRec& record = SnryMain.scenes[folder][scene];
+      ASSERT_EQ(SnrySceneLoad(folder, scene), 0) << folder << " " << scene;
+      EXPECT_GE(SnryCastCount(record), 2);
+      EXPECT_EQ(SnryLineAt(0).used, 1);
+      EXPECT_GE(SnryScene.menus[0].itemCount, 2);
+      EXPECT_EQ(SnryScene.randoms[0].enabled, 1);
+      for (const char* file :
+           {SnryScene.backdrop.background, SnryScene.backdrop.door, SnryScene.backdrop.window})
+        EXPECT_TRUE(fs::exists(Made(kSampleFolder) / u8"背景" / Cp932ToUtf8(file))) << Cp932ToUtf8(file);
+    }
+  }
+  ASSERT_EQ(SnrySceneLoad(0, 0), 0);
+  EXPECT_STREQ(SnryScene.backdrop.background, "広場.bmp");
+  EXPECT_EQ(SnryScene.events[0].minutes, 3);
+  EXPECT_STREQ(SnryScene.sounds[0].file, "小鳥.wav");
+  // Two copies of the third member stand behind it.
+  const SnrySceneRec& first = SnryMain.scenes[0][0];
+  ASSERT_EQ(SnryCastCount(first), 5);
+  EXPECT_EQ(first.cast[2], 12);
+  EXPECT_EQ(first.cast[3], 513);
+  EXPECT_EQ(SnryCastAt(512).master, 12);
+}
+
 TEST_F(DataSetTest, HoldsEveryFileByItsName) {
   const std::map<std::string, Bytes> files = AllFiles(Made(""));
-  std::size_t expected = 4 + 2 + Sounds().size();  // data files, world list
+  std::size_t expected = 4 + 2 + 2 + Sounds().size();  // data files, world list, plans
   for (const char* name : {"mirrell_sys_file.svs", "mirrell_chara_file.dcx", "mirrell_calen_file.dcd",
                            "mirrell_ClcAlmPerFile.clc"}) {
     EXPECT_TRUE(files.contains(name)) << name;
   }
   ++expected;
   EXPECT_TRUE(files.contains(Cp932ToUtf8("スケジュール表/見本の予定.GPI")));
+  for (const char* name :
+       {"ワールド/SNRYLIST.sli", "どんぐりの森/シナリオメイン.cff", "どんぐりの森/森の朝/広場.scd",
+        "どんぐりの森/森の朝/川べり.scd", "どんぐりの森/森の朝/書庫.scd", "どんぐりの森/星の夜/丘.scd",
+        "どんぐりの森/星の夜/星の広場.scd"}) {
+    ++expected;
+    EXPECT_TRUE(files.contains(Cp932ToUtf8(name))) << Cp932ToUtf8(name);
+  }
+  expected += std::size(kSamplePictures) + std::size(kSampleSounds);
   const std::string pictures = Cp932ToUtf8("キャラクタ/");
   for (const CastMember& member : Cast()) {
     const std::string stem = pictures + "Chara" + std::to_string(member.number);
@@ -143,6 +255,9 @@ TEST_F(DataSetTest, HoldsEveryFileByItsName) {
   for (const char* name :
        {"旗印.wav", "foot1.wav", "foot2.wav", "ringout.wav", "kan.wav", "po2.wav", "nya.wav"}) {
     EXPECT_TRUE(files.contains(Cp932ToUtf8(std::string("サウンド/") + name))) << name;
+  }
+  for (const char* name : {"学習計画.GPP", "筋トレ計画.GPP"}) {
+    EXPECT_TRUE(files.contains(Cp932ToUtf8(std::string("計画表/") + name))) << name;
   }
   for (const Background& background : Backgrounds())
     EXPECT_TRUE(files.contains(Cp932ToUtf8(std::string("背景/") + background.file))) << background.file;

@@ -17,6 +17,7 @@
 #include "newdata/outline_file.h"
 #include "newdata/polygon.h"
 #include "platform/posix/posix_paths.h"
+#include "schedule/plan/plan_file.h"
 #include "services/data_file.h"
 #include "services/dib.h"
 #include "services/record.h"
@@ -74,6 +75,7 @@ class Checker {
     CheckDesigns();
     CheckSettings();
     CheckCalendars();
+    CheckPlans();
     for (const std::string& sound : sounds_) CheckSound(sound);
     return faults_;
   }
@@ -306,6 +308,16 @@ class Checker {
         CheckMonthPicture(Calendar.CalenDefinitions[i], block, month,
                           name + ", month " + std::to_string(month + 1));
       }
+    }
+  }
+
+  // The user's and the samples.
+  void CheckPlans() {
+    const std::filesystem::path plans = folder_ / kPlanFolder;
+    if (!std::filesystem::is_directory(plans)) return;
+    for (const auto& item : std::filesystem::directory_iterator(plans)) {
+      const std::string path = PosixToProgram(std::filesystem::absolute(item.path()).string());
+      Demand(ScpLoadFile(path.c_str()) == 0, item.path().filename().string() + " is no plan");
     }
   }
 

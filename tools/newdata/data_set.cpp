@@ -11,6 +11,8 @@
 #include "clock_calendar/clock/clock.h"
 #include "newdata/host_file.h"
 #include "newdata/picture_files.h"
+#include "newdata/plan_samples.h"
+#include "newdata/sample_scenario.h"
 #include "newdata/tables.h"
 #include "newdata/world_list_file.h"
 #include "platform/posix/posix_paths.h"
@@ -78,6 +80,7 @@ void WriteDataFiles(const DataSetDate& date) {
   CalenStartDefaults();
   SetFactorySettings();
   StillFigures();
+  WritePlanSamples();
   TestClockClear();
   FillCharacters();
   FillClocks();
@@ -109,6 +112,7 @@ void MakeDataSet(const std::filesystem::path& folder, const std::filesystem::pat
   const std::filesystem::path sounds = folder / kSoundFolder;
   std::filesystem::create_directories(characters);
   std::filesystem::create_directories(sounds);
+  std::filesystem::create_directories(folder / kPlanFolder);
   std::filesystem::create_directories(folder / kScheduleFolder);
   WriteCharacters(assets / "characters", characters);
   WriteHostFile(characters / "EDTCFLAG.edf", WorldFlagFile(Cast()));
@@ -117,6 +121,7 @@ void MakeDataSet(const std::filesystem::path& folder, const std::filesystem::pat
   const std::filesystem::path backgrounds = folder / kBackgroundFolder;
   std::filesystem::create_directories(backgrounds);
   WriteBackgrounds(assets / "backgrounds", backgrounds);
+  WriteSampleScenario(std::filesystem::absolute(folder), assets);
   UseProgramFolder(folder);
   WriteDataFiles(date);
 }

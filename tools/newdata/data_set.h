@@ -29,5 +29,6 @@ void UseProgramFolder(const std::filesystem::path& folder);
 // The folders of a data set, as names of this machine.
 inline constexpr const char8_t* kCharacterFolder = u8"キャラクタ";
 inline constexpr const char8_t* kSoundFolder = u8"サウンド";
+inline constexpr const char8_t* kPlanFolder = u8"計画表";
 inline constexpr const char8_t* kBackgroundFolder = u8"背景";
 inline constexpr const char8_t* kScheduleFolder = u8"スケジュール表";

@@ -10,6 +10,7 @@
 #include "platform/dialog.h"
 #include "platform/time.h"
 #include "platform/window.h"
+#include "platform/window_paint.h"
 #include "resources/calendar_ids.h"
 #include "services/child_controls.h"
 #include "services/commands.h"
@@ -78,6 +79,7 @@ void Paint(WindowHandle window) {
   if (Calendar.CalenTickerOn && Calendar.tickerRests == 0) CalenTickerDraw(screen);
   CanvasRelease(screen);
   ButtonsMake(window);
+  WindowValidate(window);
 }
 
 void Clear(WindowHandle window) {

@@ -40,9 +40,10 @@ void HeadDraw(Canvas* canvas, const CalenPage& page, Point at, const CalenLeaf& 
   CanvasText(canvas, box.x + 1, box.y + 2, head);
 }
 
+// The box ends with the page, and its edge inside the window.
 void DistanceDraw(Canvas* canvas, Point at, const CalenLeaf& leaf, int offset) {
-  const int right = at.x + leaf.pageWidth;
-  const Rect box = {right - leaf.distanceWidth, at.y + kDistanceTop, right, at.y + kDistanceBottom};
+  const int left = at.x + leaf.pageWidth - leaf.distanceWidth;
+  const Rect box = {left, at.y + kDistanceTop, leaf.pageWidth, at.y + kDistanceBottom};
   BoxDraw(canvas, box);
   const CalenDistance text = CalenDistanceText(offset);
   CanvasText(canvas, box.left + 2, box.top + 2, text.first);

@@ -39,7 +39,7 @@ void Fail(int reason) {
 // False when the program has ended inside it.
 bool ReplyComes() {
   MailTalkHear();
-  char text[kMailBoxBytes + 1];
+  char text[kMailBoxSize];
   MailReplyText(text);
   BoxTell(Program.hMainWnd, text, "Server");
   return !Program.Quitting;

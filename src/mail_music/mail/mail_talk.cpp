@@ -62,17 +62,24 @@ bool MailTalkHasMail() {
   return Now().mail;
 }
 
-// settled: the box about a server's reply shows at most 1000 bytes and 20 lines of it, so
-// that a box of any reply fits on the screen and can be answered.
-void MailReplyText(char (&text)[kMailBoxBytes + 1]) {
-  const std::size_t length = TextPrefix(MailTalks.reply, kMailBoxBytes);
-  std::memcpy(text, MailTalks.reply, length);
-  text[length] = '\0';
-  char* end = text;
-  for (int line = 0; line < kMailBoxLines && end; ++line) {
-    end = std::strchr(line == 0 ? end : end + 1, '\n');
+// settled: the box about a server's reply shows at most 1000 bytes and 20 lines of it, and
+// breaks what is longer than 120 bytes without a blank, so that a box of any reply fits on
+// the screen and can be answered.
+void MailReplyText(char (&text)[kMailBoxSize]) {
+  const char* from = MailTalks.reply;
+  const char* end = from + TextPrefix(from, kMailBoxBytes);
+  char* to = text;
+  int lines = 1;
+  int run = 0;  // bytes since the last blank
+  while (from < end) {
+    const int step = IsSjisLead(*from) && from + 1 < end ? 2 : 1;
+    const bool full = run + step > kMailBoxColumns;
+    if ((full || *from == '\n') && ++lines > kMailBoxLines) break;
+    if (full) *to++ = '\n';
+    run = *from == ' ' || *from == '\n' ? 0 : (full ? 0 : run) + step;
+    for (int i = 0; i < step; ++i) *to++ = *from++;
   }
-  if (end) *end = '\0';
+  *to = '\0';
 }
 
 void MailTalkEnd() {

@@ -42,10 +42,12 @@ void MailTalkHear();
 // Whether the reply that was heard last in this conversation reads as mail.
 bool MailTalkHasMail();
 
-// The last reply as a box can show it: its first lines and bytes, no pair split.
+// The last reply as a box can show it: its first bytes, in lines; no pair is split.
 inline constexpr int kMailBoxBytes = 1000;
 inline constexpr int kMailBoxLines = 20;
-void MailReplyText(char (&text)[kMailBoxBytes + 1]);
+inline constexpr int kMailBoxColumns = 120;
+inline constexpr int kMailBoxSize = kMailBoxBytes + kMailBoxLines + 1;
+void MailReplyText(char (&text)[kMailBoxSize]);
 
 // Ends this conversation and closes its socket.
 void MailTalkEnd();

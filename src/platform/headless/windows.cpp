@@ -6,6 +6,7 @@
 #include "platform/posix/live_counts.h"
 #include "platform/screen.h"
 #include "platform/window.h"
+#include "platform/window_paint.h"
 
 WindowHandle focusWindow = nullptr;
 WindowHandle captureWindow = nullptr;
@@ -309,6 +310,10 @@ void WindowSetTopmost(WindowHandle window) {
 
 void WindowInvalidate(WindowHandle window, bool) {
   if (const WindowPointer found = WindowUse(window, "WindowInvalidate"); found) found->dirty = found->visible;
+}
+
+void WindowValidate(WindowHandle window) {
+  if (const WindowPointer found = WindowUse(window, "WindowValidate"); found) found->dirty = false;
 }
 
 void WindowSetFocus(WindowHandle window) {

@@ -13,67 +13,69 @@
 
 namespace {
 
-// Of the innermost sheet.
-bool endedByOk = false;
-const SheetPage* pagesOfSheet = nullptr;
-int pageCount = 0;
+bool endedByOk = false;  // of the innermost sheet
 
-// --- The size. A sheet takes the units of its pages for those of its own font, and comes
-// out too small for pages with a larger one.
+// --- A sheet is laid out by a font of its own, which is smaller than that of the pages: it
+// grows until the page on show fits.
 
-INT_PTR CALLBACK NoProc(HWND, UINT, WPARAM, LPARAM) {
-  return FALSE;
-}
+constexpr LONG kMargin = 6;  // dialog units behind the last control
+constexpr int kApplyButton = 0x3021;
+constexpr int kButtons[] = {IDOK, IDCANCEL, kApplyButton, IDHELP};
 
-// What the largest page needs, in its own font.
-SIZE PagesSize(HWND sheet) {
-  SIZE size{};
-  for (int i = 0; i < pageCount; ++i) {
-    HWND page = CreateDialogParamW(GetModuleHandleW(nullptr), MAKEINTRESOURCEW(pagesOfSheet[i].templateId),
-                                   sheet, NoProc, 0);
-    RECT client{};
-    GetClientRect(page, &client);
-    if (page) DestroyWindow(page);
-    size.cx = std::max(size.cx, client.right);
-    size.cy = std::max(size.cy, client.bottom);
+// Pixels from the page's corner to behind its last control.
+POINT PageNeeds(HWND page) {
+  RECT margin{0, 0, kMargin, kMargin};
+  MapDialogRect(page, &margin);
+  POINT end{0, 0};
+  for (HWND child = GetWindow(page, GW_CHILD); child; child = GetWindow(child, GW_HWNDNEXT)) {
+    RECT rect{};
+    GetWindowRect(child, &rect);
+    MapWindowPoints(nullptr, page, reinterpret_cast<POINT*>(&rect), 2);
+    end.x = std::max(end.x, rect.right + margin.right);
+    end.y = std::max(end.y, rect.bottom + margin.bottom);
   }
-  return size;
+  return end;
 }
 
-void Resize(HWND window, int right, int down) {
-  RECT at{};
-  GetWindowRect(window, &at);
-  SetWindowPos(window, nullptr, 0, 0, at.right - at.left + right, at.bottom - at.top + down,
-               SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+// The place of the pages in the sheet.
+RECT PagePlace(HWND sheet, HWND tabs) {
+  RECT rect{};
+  GetClientRect(tabs, &rect);
+  SendMessageW(tabs, TCM_ADJUSTRECT, FALSE, reinterpret_cast<LPARAM>(&rect));
+  MapWindowPoints(tabs, sheet, reinterpret_cast<POINT*>(&rect), 2);
+  return rect;
 }
 
-void Move(HWND window, int right, int down) {
-  RECT at{};
-  GetWindowRect(window, &at);
-  MapWindowPoints(nullptr, GetParent(window), reinterpret_cast<POINT*>(&at), 2);
-  SetWindowPos(window, nullptr, at.left + right, at.top + down, 0, 0,
-               SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
-}
-
-void Grow(HWND sheet, HWND tabs, int right, int down) {
-  Resize(sheet, right, down);
-  Resize(tabs, right, down);
-  for (HWND child = GetWindow(sheet, GW_CHILD); child; child = GetWindow(child, GW_HWNDNEXT)) {
-    if (child != tabs) Move(child, right, down);
+void GrowBy(HWND sheet, HWND tabs, LONG right, LONG down) {
+  RECT rect{};
+  GetWindowRect(sheet, &rect);
+  const LONG left = std::max<LONG>(rect.left - right / 2, 0);
+  const LONG top = std::max<LONG>(rect.top - down / 2, 0);
+  SetWindowPos(sheet, nullptr, left, top, rect.right - rect.left + right, rect.bottom - rect.top + down,
+               SWP_NOZORDER | SWP_NOACTIVATE);
+  GetWindowRect(tabs, &rect);
+  SetWindowPos(tabs, nullptr, 0, 0, rect.right - rect.left + right, rect.bottom - rect.top + down,
+               SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOMOVE);
+  for (const int id : kButtons) {
+    const HWND button = GetDlgItem(sheet, id);
+    if (!button) continue;
+    GetWindowRect(button, &rect);
+    MapWindowPoints(nullptr, sheet, reinterpret_cast<POINT*>(&rect), 2);
+    SetWindowPos(button, nullptr, rect.left + right, rect.top + down, 0, 0,
+                 SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOSIZE);
   }
 }
 
-int CALLBACK SheetMade(HWND sheet, UINT message, LPARAM) {
-  HWND tabs = FindWindowExW(sheet, nullptr, L"SysTabControl32", nullptr);
-  if (message != PSCB_INITIALIZED || !tabs) return 0;
-  const SIZE needed = PagesSize(sheet);
-  RECT place{};
-  GetClientRect(tabs, &place);
-  SendMessageW(tabs, TCM_ADJUSTRECT, FALSE, reinterpret_cast<LPARAM>(&place));
-  const int right = std::max<int>(needed.cx - (place.right - place.left), 0);
-  const int down = std::max<int>(needed.cy - (place.bottom - place.top), 0);
-  if (right > 0 || down > 0) Grow(sheet, tabs, right, down);
-  return 0;
+void PageFit(HWND page) {
+  const HWND sheet = GetParent(page);
+  const auto tabs = reinterpret_cast<HWND>(SendMessageW(sheet, PSM_GETTABCONTROL, 0, 0));
+  const POINT needs = PageNeeds(page);
+  RECT place = PagePlace(sheet, tabs);
+  const LONG right = std::max<LONG>(needs.x - (place.right - place.left), 0);
+  const LONG down = std::max<LONG>(needs.y - (place.bottom - place.top), 0);
+  if (right > 0 || down > 0) GrowBy(sheet, tabs, right, down);
+  place = PagePlace(sheet, tabs);
+  MoveWindow(page, place.left, place.top, place.right - place.left, place.bottom - place.top, TRUE);
 }
 
 INT_PTR CALLBACK PageProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
@@ -83,6 +85,11 @@ INT_PTR CALLBACK PageProc(HWND window, UINT message, WPARAM wParam, LPARAM lPara
     return DialogBegin(window, page->handler, page->context);
   }
   const auto* notice = reinterpret_cast<const PSHNOTIFY*>(lParam);
+  if (message == WM_NOTIFY && notice->hdr.code == PSN_SETACTIVE) {
+    PageFit(window);
+    SetWindowLongPtrW(window, DWLP_MSGRESULT, 0);
+    return TRUE;
+  }
   if (message != WM_NOTIFY || notice->hdr.code != PSN_APPLY) {
     return DialogMessage(window, message, wParam, lParam);
   }
@@ -116,8 +123,7 @@ bool SheetRun(WindowHandle owner, const char* caption, const SheetPage* pages, i
   const std::wstring title = Wide(caption);
   PROPSHEETHEADERW sheet{};
   sheet.dwSize = sizeof sheet;
-  sheet.dwFlags = PSH_PROPSHEETPAGE | PSH_NOCONTEXTHELP | PSH_USECALLBACK;
-  sheet.pfnCallback = SheetMade;
+  sheet.dwFlags = PSH_PROPSHEETPAGE | PSH_NOCONTEXTHELP;
   sheet.hwndParent = Hwnd(owner);
   sheet.hInstance = GetModuleHandleW(nullptr);
   sheet.pszCaption = title.c_str();
@@ -125,8 +131,6 @@ bool SheetRun(WindowHandle owner, const char* caption, const SheetPage* pages, i
   sheet.ppsp = made;
   const bool around = endedByOk;
   endedByOk = false;
-  pagesOfSheet = pages;
-  pageCount = count;
   const bool good = run(&sheet) >= 0 && endedByOk;
   endedByOk = around;
   return good;

@@ -4,6 +4,7 @@
 
 #include "platform/win32/border.h"
 #include "platform/win32/report.h"
+#include "platform/window_paint.h"
 
 namespace {
 
@@ -140,6 +141,10 @@ void WindowSetTopmost(WindowHandle window) {
 
 void WindowInvalidate(WindowHandle window, bool erase) {
   InvalidateRect(Hwnd(window), nullptr, erase ? TRUE : FALSE);
+}
+
+void WindowValidate(WindowHandle window) {
+  ValidateRect(Hwnd(window), nullptr);
 }
 
 void WindowSetFocus(WindowHandle window) {

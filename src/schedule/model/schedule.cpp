@@ -3,7 +3,6 @@
 #include <algorithm>
 
 #include "platform/time.h"
-#include "schedule/model/scl_dates.h"
 #include "services/text.h"
 
 ScheduleState Schedule;
@@ -25,11 +24,6 @@ void DefaultHours(const SclWorkDayRow& day) {
   Schedule.SclHeader.count = kSclNewItems;
 }
 
-void ForgetFile() {
-  Schedule.SclCurrentFile[0] = '\0';
-  Schedule.SclExecMark = SclMark::None;
-}
-
 }  // namespace
 
 void SclDefaults() {
@@ -42,7 +36,7 @@ void SclNewDefaults(int year, int month, int day) {
   Schedule.SclHeader.start = {year, month, day, kWorkDay.begin};
   // kept: a new schedule clears the first 200 items only; what stands behind them stays.
   std::fill_n(Schedule.SclItemTable, kClearedItems, SclItemRec{});
-  ForgetFile();
+  SclFileForget();
 }
 
 void SclNew() {
@@ -80,6 +74,11 @@ void SclCurrentFileSet(const char* path) {
   TextCopy(Schedule.SclCurrentFile, sizeof Schedule.SclCurrentFile, path);
 }
 
+void SclFileForget() {
+  Schedule.SclCurrentFile[0] = '\0';
+  Schedule.SclExecMark = SclMark::None;
+}
+
 void SclDirtyRaise(unsigned bits) {
   Schedule.SclDirtyFlags |= bits;
 }
@@ -99,17 +98,4 @@ void SclMapFileSet(const char* path) {
 void SclMapPlaceSet(int index, int column, int row) {
   Schedule.SclMapColumn[Held(index)] = static_cast<std::uint16_t>(column);
   Schedule.SclMapRow[Held(index)] = static_cast<std::uint16_t>(row);
-}
-
-void SclConversionBegin(const char* title, const SclWorkDayRow (&rows)[kSclRowCount]) {
-  std::fill_n(Schedule.SclItemTable, kSclItemMax, SclItemRec{});
-  Schedule.SclHeader.count = 0;
-  TextCopy(Schedule.SclHeader.title, kSclTitleSize, title);
-  std::copy_n(rows, kSclRowCount, Schedule.SclHeader.rows);
-  SclRowEndsRefresh(Schedule.SclHeader.rows);
-}
-
-void SclConversionEnd() {
-  ForgetFile();
-  Schedule.SclConverted = true;
 }

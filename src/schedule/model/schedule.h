@@ -78,6 +78,7 @@ SclWorkDayRow (&SclRows())[kSclRowCount];  // the live work rows
 SclDate& SclStart();
 char (&SclTitle())[kSclTitleSize];
 void SclCurrentFileSet(const char* path);
+void SclFileForget();  // no file and no mark any more
 void SclDirtyRaise(unsigned bits);
 void SclDirtyClear(unsigned bits);
 void SclConvertedSet(bool converted);

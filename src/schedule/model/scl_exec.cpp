@@ -5,7 +5,6 @@
 #include <iterator>
 
 #include "schedule/model/scl_dates.h"
-#include "schedule/model/scl_file.h"
 #include "services/text.h"
 
 namespace {
@@ -82,23 +81,4 @@ void SclExecLoaded() {
   if (!Schedule.SclExecActive) return;
   const bool same = std::strcmp(Schedule.SclCurrentFile, Schedule.SclExecFile) == 0;
   Schedule.SclExecMark = same ? SclMark::Running : SclMark::None;
-}
-
-int SclExecEdit() {
-  const int status = SclLoadFile(Schedule.SclExecFile);
-  if (status == 0) Schedule.SclExecMark = SclMark::Running;
-  return status;
-}
-
-int SclExecLoad(const char* path) {
-  const int status = SclLoadFile(path);
-  // settled: a schedule that cannot be loaded leaves what is carried out as it is.
-  if (status != 0) return status;
-  Schedule.SclExecActive = true;
-  Schedule.SclExecMark = SclMark::Running;
-  // settled: the schedule of an application is the executing file too, so that it can be
-  // opened for editing, and a save of it reaches the copy.
-  ExecFileTake(path);
-  SclExecRefresh();
-  return status;
 }

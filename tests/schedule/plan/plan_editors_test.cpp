@@ -279,7 +279,7 @@ TEST_F(PlanEditors, AStudyLinesHoursAreTypedInFourCharacters) {
   ThenPress(1);
   DoubleClick(kHours, Down(3));
   EXPECT_EQ(Plan.ScpPlanTable[2].hours, 12U);
-  EXPECT_TRUE(Shows(" 12H", 446, 3));
+  EXPECT_TRUE(Shows(" 12H", 494, 3));
   EXPECT_TRUE(Plan.dirty);
 }
 
@@ -300,7 +300,7 @@ TEST_F(PlanEditors, ATrainingLinesLoadAndHoursAreSetTogether) {
   DoubleClick(kHours, Down(1));
   EXPECT_EQ(Plan.ScpPlanTable[0].load, 2U);
   EXPECT_EQ(Plan.ScpPlanTable[0].hours, 2U);
-  EXPECT_TRUE(Shows("(重)  2H", 446, 1));
+  EXPECT_TRUE(Shows("(重)  2H", 494, 1));
   EXPECT_TRUE(Plan.dirty);
 }
 
@@ -322,7 +322,7 @@ TEST_F(PlanEditors, ALoadThatIsNoneIsShownAsNoneAndKept) {
   ThenPress(1);
   DoubleClick(kHours, Down(1));
   EXPECT_EQ(Plan.ScpPlanTable[0].load, 9U);
-  EXPECT_TRUE(Shows("(-)  0H", 446, 1));
+  EXPECT_TRUE(Shows("(-)  0H", 494, 1));
 }
 
 TEST_F(PlanEditors, TheRepeatsAreCutDownToTen) {
@@ -384,7 +384,7 @@ TEST_F(PlanEditors, ADoubleClickOnNoCellOpensNothing) {
   DoubleClick(kContent, 230);      // the heads
   DoubleClick(kContent, Down(3));  // behind the last line
   DoubleClick(300, 100);
-  DoubleClick(668, Down(1));
+  DoubleClick(716, Down(1));
   EXPECT_EQ(TopDialog(), nullptr);
 }
 

@@ -26,11 +26,11 @@ class PlanWindowTest : public ScheduleTest {
     ASSERT_NE(Window(), nullptr);
   }
 
-  // Places in the window as it opens, 672 by 530: the columns, and a row from 1.
+  // Places in the window as it opens, 720 by 530: the columns, and a row from 1.
   static constexpr int kNumber = 30;
   static constexpr int kContent = 200;
-  static constexpr int kHours = 500;
-  static constexpr int kRepeat = 600;
+  static constexpr int kHours = 540;
+  static constexpr int kRepeat = 640;
   static constexpr int Down(int row) { return 240 + 20 * (row - 1) + 10; }
 
   static void Click(int x, int y, unsigned keys = 0) {
@@ -51,7 +51,7 @@ class PlanWindowTest : public ScheduleTest {
     return TextStands(Window(), text, x + 2, 240 + 20 * (row - 1) + 2);
   }
   static bool Heads(const char* third, const char* fourth) {
-    return TextStands(Window(), third, 448, 222) && TextStands(Window(), fourth, 548, 222);
+    return TextStands(Window(), third, 496, 222) && TextStands(Window(), fourth, 596, 222);
   }
   static void SetLine(int line, std::uint32_t hours, int repeat, const char* text) {
     ScpPlanRec& plan = Plan.ScpPlanTable[line];

@@ -74,8 +74,8 @@ TEST_F(PlanWindow, ATrainingPlanHasItsOwnFormAndColumns) {
   SendPaint(Window());
   EXPECT_TRUE(Heads("(負荷) 時間", " 予定回数 "));
   EXPECT_TRUE(Shows("Training for arm 70per", 50, 1));
-  EXPECT_TRUE(Shows("(中)  0H", 446, 1));
-  EXPECT_TRUE(Shows(" 10", 546, 1));
+  EXPECT_TRUE(Shows("(中)  0H", 494, 1));
+  EXPECT_TRUE(Shows(" 10", 594, 1));
 }
 
 TEST_F(PlanWindow, TheTableShowsNumbersContentsHoursAndRepeats) {
@@ -87,13 +87,13 @@ TEST_F(PlanWindow, TheTableShowsNumbersContentsHoursAndRepeats) {
   EXPECT_TRUE(TextStands(Window(), "   内  容 ", 52, 222));
   EXPECT_TRUE(Heads(" 学習時間 ", " 復習回数 "));
   EXPECT_TRUE(Shows("  1", 10, 1));
-  EXPECT_TRUE(Shows("----", 446, 1));
-  EXPECT_TRUE(Shows("  2", 546, 1));
+  EXPECT_TRUE(Shows("----", 494, 1));
+  EXPECT_TRUE(Shows("  2", 594, 1));
   EXPECT_TRUE(Shows("  2", 10, 2));
   EXPECT_TRUE(Shows("英単語", 50, 2));
-  EXPECT_TRUE(Shows(" 12H", 446, 2));
-  EXPECT_TRUE(Shows(" 10", 546, 2));
-  EXPECT_TRUE(Shows("----", 546, 3));
+  EXPECT_TRUE(Shows(" 12H", 494, 2));
+  EXPECT_TRUE(Shows(" 10", 594, 2));
+  EXPECT_TRUE(Shows("----", 594, 3));
   // (530 - 290) / 20 rows are in view.
   EXPECT_TRUE(Shows(" 12", 10, 12));
   EXPECT_FALSE(Shows(" 13", 10, 13));
@@ -115,7 +115,7 @@ TEST_F(PlanWindow, AScrolledTrainingTableIsDrawnLikeAStudyPlanUntilItIsPainted) 
   ScrollBy(Window(), SclTable.PlanView.scrollBar, Scroll::LineDown);
   EXPECT_EQ(SclTable.PlanView.firstLine, 1);
   EXPECT_TRUE(Heads(" 学習時間 ", " 復習回数 "));
-  EXPECT_TRUE(Shows("----", 446, 1));
+  EXPECT_TRUE(Shows("----", 494, 1));
   SendPaint(Window());
   EXPECT_TRUE(Heads("(負荷) 時間", " 予定回数 "));
 }
@@ -186,8 +186,8 @@ TEST_F(PlanWindow, ALoadedTrainingPlanBringsItsColumnsAndEditorsIntoTheStudyWind
   EXPECT_EQ(Title(), "Plan to Train");
   EXPECT_FALSE(Plan.dirty);
   EXPECT_TRUE(Heads("(負荷) 時間", " 予定回数 "));
-  EXPECT_TRUE(Shows("(中)  2H", 446, 1));
-  EXPECT_TRUE(Shows("(軽)  1H", 446, 2));
+  EXPECT_TRUE(Shows("(中)  2H", 494, 1));
+  EXPECT_TRUE(Shows("(軽)  1H", 494, 2));
   EXPECT_FALSE(Shows("  3", 10, 3));
   EXPECT_EQ(WindowText(Window()), "学習作業スケジュール作成");
   Then([] { EXPECT_EQ(TemplateOf(TopDialog()), IDD_SCPRsvTime2SetDlg); });
@@ -221,7 +221,7 @@ TEST_F(PlanWindow, ABadFileIsToldAndItsLinesStand) {
   ExpectBox("データが正しく読み込めません", "スケジュール表読み込みエラー");
   Press(Window(), IDC_PLAN_LOAD);
   EXPECT_EQ(Title(), "Plan to Study");  // only a good load brings the title
-  EXPECT_TRUE(Shows("(中)  2H", 446, 1));
+  EXPECT_TRUE(Shows("(中)  2H", 494, 1));
   PutFile(InProgram("t.GPP"), "SCL Data File : ");
   ThenPick("t.GPP");
   ExpectBox("データが正しく読み込めません", "スケジュール表読み込みエラー");

@@ -1,0 +1,3 @@
+#include "scenario/cast/cast_edit.h"
+
+CastEditState CastEdit;

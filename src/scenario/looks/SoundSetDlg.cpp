@@ -1,0 +1,149 @@
+// SoundSetDlg, "サウンド設定": the sounds of a scene, and what starts each.
+
+#include <algorithm>
+#include <iterator>
+
+#include "platform/dialog.h"
+#include "resources/scenario_looks_ids.h"
+#include "scenario/cast/scenario_files.h"
+#include "scenario/logic/snry_paras.h"
+#include "scenario/looks/snry_looks.h"
+#include "scenario/storage/snry_paths.h"
+#include "services/dialog_acts.h"
+#include "services/dialog_family.h"
+#include "services/form.h"
+#include "services/list_editor.h"
+#include "services/text.h"
+
+namespace {
+
+constexpr int kValueDigits = 3;
+constexpr int kSecondsDigits = 4;
+// kept: the sixth row says the fifth's words once more.
+constexpr const char* kRepeats[] = {"繰り返さない", "2 回", "3 回",  "4 回",
+                                    "5 回",         "5 回", "10 回", "起動条件が一致してる間"};
+
+// --- The sounds in use, by row
+
+int Count() {
+  return static_cast<int>(std::count_if(std::begin(SnryScene.sounds), std::end(SnryScene.sounds),
+                                        [](const SnrySoundRec& sound) { return sound.used != 0; }));
+}
+
+int SlotOfRow(int row) {
+  for (int slot = 0; row >= 0 && slot < kSnrySoundMax; ++slot) {
+    if (SnryScene.sounds[slot].used != 0 && row-- == 0) return slot;
+  }
+  return -1;
+}
+
+SnrySoundRec* FirstFree() {
+  auto* sound = std::find_if(std::begin(SnryScene.sounds), std::end(SnryScene.sounds),
+                             [](const SnrySoundRec& record) { return record.used == 0; });
+  return sound == std::end(SnryScene.sounds) ? nullptr : sound;
+}
+
+void RowText(int row, char* text, int size) {
+  const SnrySoundRec& sound = SnryScene.sounds[SlotOfRow(row)];
+  const auto room = static_cast<std::size_t>(size);
+  if (SnryParaRowOf(sound.start.parameter) == 0) {
+    TextFormat(text, room, "%d. %s (起動条件: 未設定)", row + 1, sound.file);
+  } else {
+    TextFormat(text, room, "%d. %s (起動条件: %s = %d)", row + 1, sound.file,
+               SnryParaName(sound.start.parameter), sound.start.value);
+  }
+}
+
+constexpr ListEditor kSounds{IDC_SOUND_ROWS, Count, RowText};
+
+// --- Fields
+
+void ExchangeFields(Form& form, SnrySoundRec& sound) {
+  SnryPairExchange(form, IDC_SOUND_PARA, IDC_SOUND_VALUE, sound.start, kValueDigits);
+  form.Number(IDC_SOUND_SECONDS, sound.seconds, kSecondsDigits);
+}
+
+void Take(WindowHandle dialog, SnrySoundRec& sound) {
+  FormTake(dialog, sound, ExchangeFields);
+  sound.file[0] = '\0';
+  ListText(dialog, IDC_SOUND_FILE, ListSelected(dialog, IDC_SOUND_FILE), sound.file, sizeof sound.file);
+  sound.repeat = static_cast<std::uint8_t>(std::max(ListSelected(dialog, IDC_SOUND_REPEAT), 0));
+}
+
+// kept: what is chosen in the list of files then is the row of the sound's repeats, and the
+// list of repeats stays as it was; a change stores both as they stand.
+void SoundChosen(WindowHandle dialog) {
+  const int slot = SlotOfRow(ListEditorChosen(dialog, kSounds));
+  if (slot < 0) return;
+  SnrySoundRec sound = SnryScene.sounds[slot];
+  FormShow(dialog, sound, ExchangeFields);
+  ListSelect(dialog, IDC_SOUND_FILE,
+             sound.repeat < ListCount(dialog, IDC_SOUND_FILE) ? static_cast<int>(sound.repeat) : -1);
+}
+
+void Open(WindowHandle dialog) {
+  SnrySoundRec none{};
+  FormShow(dialog, none, ExchangeFields);
+  ScenarioFilesShow(dialog, IDC_SOUND_FILE, kSnrySoundFolder, "wav", nullptr);
+  RowsShow(dialog, IDC_SOUND_REPEAT, RowsOf(kRepeats), 0);
+  ListEditorShow(dialog, kSounds);
+}
+
+// --- What is done
+
+bool AddSound(WindowHandle dialog, int) {
+  SnrySoundRec* sound = FirstFree();
+  if (!sound) return false;
+  Take(dialog, *sound);
+  sound->used = 1;
+  return true;
+}
+
+bool ChangeSound(WindowHandle dialog, int row) {
+  Take(dialog, SnryScene.sounds[SlotOfRow(row)]);
+  return true;
+}
+
+bool DeleteSound(WindowHandle, int row) {
+  auto* sound = SnryScene.sounds + SlotOfRow(row);
+  std::copy(sound + 1, std::end(SnryScene.sounds), sound);
+  SnryScene.sounds[kSnrySoundMax - 1] = {};
+  return true;
+}
+
+constexpr ListDeed kAdd{.may = [] { return FirstFree() != nullptr; },
+                        .question = {"サウンドを追加します", "サウンドの追加"},
+                        .act = AddSound};
+constexpr ListDeed kChange{
+    .needsRow = true, .question = {"サウンドを変更します", "サウンドの変更"}, .act = ChangeSound};
+constexpr ListDeed kDelete{
+    .needsRow = true, .question = {"サウンドを削除します", "サウンドの削除"}, .act = DeleteSound};
+
+void Add(WindowHandle dialog) {
+  ListDeedRun(dialog, kSounds, kAdd);
+}
+void Change(WindowHandle dialog) {
+  const int row = ListEditorChosen(dialog, kSounds);
+  if (ListDeedRun(dialog, kSounds, kChange)) ListSelect(dialog, IDC_SOUND_ROWS, row);
+}
+void Delete(WindowHandle dialog) {
+  if (!ListDeedRun(dialog, kSounds, kDelete) || Count() == 0) return;
+  ListSelect(dialog, IDC_SOUND_ROWS, 0);
+  SoundChosen(dialog);
+}
+
+constexpr DialogAct kActs[] = {
+    {EventKind::Init, Open},    {IDC_SOUND_ROWS, EventKind::Chosen, SoundChosen},
+    {IDC_SOUND_ADD, Add},       {IDC_SOUND_CHANGE, Change},
+    {IDC_SOUND_DELETE, Delete},
+};
+
+bool Handle(const Event& event) {
+  return DialogActRun(event, kActs);
+}
+
+}  // namespace
+
+void SoundSetDlgRun(WindowHandle owner) {
+  SnryDialogRun(SnryDialog::SoundSetDlg, IDD_SoundSetDlg, owner, Handle);
+}

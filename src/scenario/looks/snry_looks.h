@@ -1,0 +1,27 @@
+// How a scene looks, sounds and is played: its title, sounds, keys, scrolling backgrounds
+// and its form as a table; and the options of the scenario as a whole. The dialogs work in
+// the scene's buffers; the file is written when the scene's dialog is confirmed.
+#pragma once
+
+#include "platform/types.h"
+#include "scenario/storage/scenario.h"
+
+// What the dialogs have in hand until they are confirmed.
+struct SnryLooksState {
+  SnryTitleRec title = {};
+  std::uint8_t tableFlags = 0;
+  // Of a key: the mode and the axes that its buttons show.
+  std::uint8_t cursorSync = 0;
+  std::uint8_t axes = 0;
+  std::uint8_t direction = 0;  // of a condition of scrolling
+  std::uint8_t statusBar = 0;
+};
+extern SnryLooksState SnryLooks;
+
+void TitleScnDlgRun(WindowHandle owner);
+void SoundSetDlgRun(WindowHandle owner);
+void TableFormScnDlgRun(WindowHandle owner);
+void SceenKeyDlgRun(WindowHandle owner);
+void SnryBackScrollDlgRun(WindowHandle owner);
+void SnryOptionDlgRun(WindowHandle owner);
+void StsBarSettingDlgRun(WindowHandle owner);
