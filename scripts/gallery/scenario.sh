@@ -25,8 +25,8 @@ shot MkNewSnryFolderDlg 'シナリオフォルダー新規作成'
 press 'シナリオフォルダー新規作成' 1
 sleep 0.5
 shot box_scenario_folder 'シナリオフォルダー新規作成'
-press 'シナリオフォルダー新規作成' 2
-sleep 0.5
+press 'シナリオフォルダー新規作成' 1
+hand gone 'シナリオフォルダー新規作成'
 pressed AddSnryFolderDlg 'シナリオフォルダー追加' "$rout" 111 3
 choose "$rout" 102 0
 press "$rout" 113

@@ -191,6 +191,19 @@ class ScenarioTest : public testing::Test {
   Companion companion_;
 };
 
+// Nothing of a page is cut off.
+void ExpectWhole(HWND page) {
+  RECT client{};
+  GetClientRect(page, &client);
+  for (HWND control = GetWindow(page, GW_CHILD); control; control = GetWindow(control, GW_HWNDNEXT)) {
+    RECT at{};
+    GetWindowRect(control, &at);
+    MapWindowPoints(nullptr, page, reinterpret_cast<POINT*>(&at), 2);
+    EXPECT_LE(at.right, client.right) << GetDlgCtrlID(control);
+    EXPECT_LE(at.bottom, client.bottom) << GetDlgCtrlID(control);
+  }
+}
+
 // The folder, its scene and what they hold, typed through the dialogs of the first run.
 void ExpectMain(const Bytes& main) {
   ASSERT_EQ(main.size(), kMainSize);
@@ -295,6 +308,7 @@ TEST_F(ScenarioTest, AScenarioMadeByHandIsKeptAndReadBackByASecondRun) {
   SetEdit(scene, IDC_SNRY_SCENE_NAME, L"町の夜");
   const HWND sheet = OpenSheet(scene);
   ASSERT_TRUE(sheet);
+  for (const int page : {0, 1, 2}) ExpectWhole(Page(sheet, page));
   FillMenu(Page(sheet, 0));
   FillEvent(Page(sheet, 1));
   FillRandom(Page(sheet, 2));

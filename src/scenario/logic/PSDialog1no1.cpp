@@ -29,8 +29,11 @@ int ItemCount() {
   return std::min<int>(Menu().itemCount, kSnryMenuItemMax);
 }
 
+bool IsItem(int item) {
+  return item >= 0 && item < ItemCount();
+}
 bool ItemIsChosen() {
-  return SnrySheet.item >= 0 && SnrySheet.item < ItemCount();
+  return IsItem(SnrySheet.item);
 }
 
 // --- The fields of a menu
@@ -90,7 +93,7 @@ void ExchangePlace(Form& form, SnryPair& pair) {
 void ShowItem(WindowHandle page, int item) {
   SnrySheet.item = item;
   ListSelect(page, IDC_MENU_ITEMS, item);
-  ControlSetText(page, IDC_MENU_TEXT, ItemIsChosen() ? Menu().itemTexts[SnrySheet.item] : "");
+  ControlSetText(page, IDC_MENU_TEXT, IsItem(item) ? Menu().itemTexts[item] : "");
   ListEditorShow(page, kPlaces);
 }
 
