@@ -104,11 +104,12 @@ void Paint(HWND window) {
 void Scroll(HWND window) {
   const std::wstring text = L"22日: " + std::wstring(127, L'x') + L"  ";
   Steady(window, 20, RGB(255, 185, 95), [&](HDC dc) {
-    SelectObject(dc, GetStockObject(SYSTEM_FIXED_FONT));
+    HGDIOBJ oldFont = SelectObject(dc, font);
     SIZE size{};
     GetTextExtentPoint32W(dc, text.c_str(), static_cast<int>(text.size()), &size);
     position = position > kWidth + size.cx ? 0 : position + 1;
     Say(dc, kWidth - position, 2, text, RGB(0, 70, 160));
+    SelectObject(dc, oldFont);
   });
 }
 
@@ -137,8 +138,11 @@ void TodayTake() {
 int WINAPI wWinMain(HINSTANCE instance, HINSTANCE, LPWSTR arguments, int) {
   kind = arguments;
   TodayTake();
-  font = CreateFontW(12, 6, 0, 0, 400, FALSE, FALSE, FALSE, SHIFTJIS_CHARSET, OUT_DEFAULT_PRECIS,
-                     CLIP_DEFAULT_PRECIS, DEFAULT_QUALITY, DEFAULT_PITCH, L"ＭＳ ゴシック");
+  // The page's text, and the ticker's.
+  const bool line = kind == L"ticker";
+  font =
+      CreateFontW(line ? 16 : 12, line ? 8 : 6, 0, 0, 400, FALSE, FALSE, FALSE, SHIFTJIS_CHARSET,
+                  OUT_DEFAULT_PRECIS, CLIP_DEFAULT_PRECIS, DEFAULT_QUALITY, DEFAULT_PITCH, L"ＭＳ ゴシック");
   WNDCLASSEXW windowClass{};
   windowClass.cbSize = sizeof windowClass;
   windowClass.lpfnWndProc = WindowProc;
