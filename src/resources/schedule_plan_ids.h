@@ -15,7 +15,6 @@
 #define IDC_PLAN_CONVERT 107
 #define IDC_PLAN_LOAD 108
 #define IDC_PLAN_SAVE 109
-#define IDC_PLAN_SCROLL 110
 
 #define IDD_SCPRepeatIntSetDlg 3642
 #define IDC_SCP_INTERVAL_FIRST 101 /* to 110 */

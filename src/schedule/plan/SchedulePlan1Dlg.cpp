@@ -24,7 +24,7 @@ TableView& View() {
 
 void Fit(WindowHandle window) {
   const TableLayout layout = PlanLayout(window);
-  TableBarPlace(window, View(), IDC_PLAN_SCROLL, TableBarPlaceOf(layout));
+  TableBarPlace(window, View(), kTableBar, TableBarPlaceOf(layout));
   TableViewFit(View(), Plan.head.count, layout.visible);
 }
 
@@ -35,7 +35,7 @@ TablePlace PlaceOf(const Event& event) {
 }
 
 void LeftDown(const Event& event) {
-  TableFocus(event.window, View(), IDC_PLAN_SCROLL);
+  TableFocus(event.window, View(), kTableBar);
   RowWindowClicked(event.window);
   const TablePlace place = PlaceOf(event);
   if (place.hit == TableHit::Number) {
@@ -95,7 +95,7 @@ void Open(WindowHandle window) {
   PlanTitleShow();
   ControlSetLimit(window, IDC_PLAN_TITLE, kScpTitleSize - 1);
   Fit(window);
-  TableFocus(window, View(), IDC_PLAN_SCROLL);
+  TableFocus(window, View(), kTableBar);
 }
 
 void Size(WindowHandle window) {
