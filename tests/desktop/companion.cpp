@@ -13,6 +13,12 @@ std::wstring EnvironmentText(const wchar_t* name) {
   return text;
 }
 
+// Somebody else may hold the file for a moment.
+void CopyWhole(const std::wstring& from, const std::wstring& to) {
+  EXPECT_TRUE(WaitFor([&] { return CopyFileW(from.c_str(), to.c_str(), FALSE) != 0; }))
+      << "a file was not copied";
+}
+
 void CopyTree(const std::wstring& from, const std::wstring& to) {
   CreateDirectoryW(to.c_str(), nullptr);
   WIN32_FIND_DATAW data{};
@@ -24,7 +30,7 @@ void CopyTree(const std::wstring& from, const std::wstring& to) {
     if (data.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) {
       CopyTree(from + L"\\" + name, to + L"\\" + name);
     } else {
-      CopyFileW((from + L"\\" + name).c_str(), (to + L"\\" + name).c_str(), FALSE);
+      CopyWhole(from + L"\\" + name, to + L"\\" + name);
     }
   } while (FindNextFileW(search, &data));
   FindClose(search);
@@ -129,8 +135,8 @@ Companion::Companion(bool dataSet) {
     CopyTree(source, folder_);
   } else {
     CreateDirectoryW(folder_.c_str(), nullptr);
-    CopyFileW((source + L"\\mirrell.exe").c_str(), (folder_ + L"\\mirrell.exe").c_str(), FALSE);
-    CopyFileW((source + L"\\mirrell-send.exe").c_str(), (folder_ + L"\\mirrell-send.exe").c_str(), FALSE);
+    CopyWhole(source + L"\\mirrell.exe", folder_ + L"\\mirrell.exe");
+    CopyWhole(source + L"\\mirrell-send.exe", folder_ + L"\\mirrell-send.exe");
   }
 }
 

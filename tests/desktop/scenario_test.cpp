@@ -86,12 +86,13 @@ class ScenarioTest : public testing::Test {
     return main;
   }
 
-  // RoutSnrySetting of the first scenario of the list.
+  // RoutSnrySetting of the last scenario of the list: a data set has one of its own.
   HWND Load() {
     companion_.Post(kLoadCommand);
     const HWND load = companion_.Dialog(L"シナリオのロード");
     if (!load) return nullptr;
-    SelectListRow(load, IDC_SNRY_LIST, 0);
+    const LRESULT rows = SendMessageW(GetDlgItem(load, IDC_SNRY_LIST), LB_GETCOUNT, 0, 0);
+    SelectListRow(load, IDC_SNRY_LIST, static_cast<int>(rows) - 1);
     PostButton(load, 1);
     return companion_.Dialog(L"シナリオ設定");
   }
