@@ -247,9 +247,12 @@ leave "$scope"
 sent FileDesktopClrDlg 'デスクトップの整理' 1920
 sent DesktopIconSetDlg 'デスクトップ カバー設定' 1922
 
-# --- The rooms that have a file of their own.
+# --- The rooms that have a file of their own. Each begins in the program folder, with
+# nothing open.
 for room in scripts/gallery/*.sh; do
-  [ ! -e "$room" ] || . "$room"
+  companion_end
+  companion_start "$program"
+  . "$room"
 done
 
 # --- The exit question.
