@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
 # Whole-process figures under Wine: the start against a bare window, and idle CPU
 # and memory beside two programs of the desktop-pet kind. Run after ./run has
-# built everything:  bench/desktop.sh [SECONDS]
+# built everything:  bench/desktop.sh [SECONDS [furnished]]
+# "furnished" puts the clock and a still calendar on the desktop too.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 . scripts/wine_env.sh
@@ -14,6 +15,14 @@ done
 program=build/bench/program
 rm -rf "$program"
 scripts/program_folder.sh "$program"
+if [ "${2:-}" = furnished ]; then
+  # put OFFSET BYTES: into the settings.
+  put() { printf "$2" | dd of="$program/mirrell_sys_file.svs" bs=1 seek="$1" conv=notrunc status=none; }
+  put 1092 '\1\0'  # the clock shows, in the first design
+  put 2169 '\1'    # the calendar shows, with no picture: see bench/calendar.sh
+  put 170405 '\0'
+  truncate -s 172716 "$program/mirrell_sys_file.svs"
+fi
 
 trap display_stop EXIT
 display_start 1280x960
