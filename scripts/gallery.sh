@@ -1,6 +1,9 @@
 #!/usr/bin/env bash
 # Takes a picture of every window and dialog of the real companion, on a virtual
 # display: out/gallery/NAME.png and all of them on one sheet, out/gallery.png.
+#
+#   scripts/gallery.sh            all of them
+#   scripts/gallery.sh ROOM ...   those of some files of scripts/gallery/ only
 set -euo pipefail
 cd "$(dirname "$0")/.."
 . scripts/wine_env.sh
@@ -9,7 +12,7 @@ cd "$(dirname "$0")/.."
 pictures=out/gallery
 # In a drive of its own, so that the folder scope has a small one to measure.
 program=$WINEPREFIX/drive_c/MIRRELL
-rm -rf "$pictures"
+[ "$#" != 0 ] || rm -rf "$pictures"
 mkdir -p "$pictures"
 
 # shot NAME TITLE: a row of the table. "-" is the topmost window without a title.
@@ -44,6 +47,10 @@ xdotool mousemove 2 2
 companion_start "$program"
 sleep 1
 
+# The picker of files, in all rooms.
+picker='ファイルのロード'
+
+if [ "$#" = 0 ]; then
 # --- The stage, and all frames of the data set as they are on the disk.
 screenshot "$pictures/desktop.png"
 for number in 0 1 2 3; do
@@ -93,7 +100,6 @@ leave 'アラームキャラクタ' 1
 sent OptionSelDlg3 'レイアウト設定' 2283
 
 # --- Opening files: first one by the walk, so that there is a history.
-picker='ファイルのロード'
 open='ファイル オープン'
 # go TITLE FOLDER...: from folder to folder in a list of folders.
 go() {
@@ -247,13 +253,18 @@ leave "$scope"
 sent FileDesktopClrDlg 'デスクトップの整理' 1920
 sent DesktopIconSetDlg 'デスクトップ カバー設定' 1922
 
+fi
+
 # --- The rooms that have a file of their own. Each begins in the program folder, with
 # nothing open.
-for room in scripts/gallery/*.sh; do
+rooms=("$@")
+[ "$#" != 0 ] || rooms=($(basename -s .sh scripts/gallery/*.sh))
+for room in "${rooms[@]}"; do
   companion_end
   companion_start "$program"
-  . "$room"
+  . "scripts/gallery/$room.sh"
 done
+if [ "$#" != 0 ]; then exit; fi
 
 # --- The exit question.
 sent box_exit 'プログラム終了' 1908 2

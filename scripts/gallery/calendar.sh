@@ -82,7 +82,7 @@ calendar_click 1 190 322
 xdotool mousemove 2 2
 calendar_click 3 40 262
 shot menu_calendar_popup -
-xdotool key Down Down Return
+xdotool key --delay 200 Down Down Return
 dialog CalenCommentDlg 'カレンダー書き込み' 2
 xdotool mousemove 2 2
 send 1913
