@@ -40,6 +40,7 @@
 #pragma once
 
 #include <algorithm>
+#include <bit>
 #include <cstdint>
 #include <cstring>
 #include <type_traits>
@@ -47,10 +48,22 @@
 // What a number's bytes are, and in which order.
 enum class RecordOrder { LowFirst, HighFirst };
 
+// A field, or the first element of a table in any number of dimensions.
+template <class T>
+constexpr auto* RecordFirst(T& field) {
+  if constexpr (std::is_array_v<T>) {
+    return RecordFirst(field[0]);
+  } else {
+    return &field;
+  }
+}
+
 // What all kinds of Io share: the vocabulary above, told to `Self` as
 //
 //   Number(value, width, order)   one number
-//   Block(first, width, text)     bytes; a text's array ends `text` bytes behind `first`
+//   Block(first, size, unit)      bytes that lie in memory as in the file; of a cut block
+//                                 the whole units are there
+//   Chars(first, width, room)     a text whose array has `room` bytes
 //   MoveTo(position)              from the first byte of all
 //   Position()
 template <class Self>
@@ -58,23 +71,23 @@ class RecordIo {
  public:
   template <class T>
   constexpr void U8(T& field) {
-    Numbers<1>(field, RecordOrder::LowFirst);
+    Numbers<1, RecordOrder::LowFirst>(field);
   }
   template <class T>
   constexpr void LE16(T& field) {
-    Numbers<2>(field, RecordOrder::LowFirst);
+    Numbers<2, RecordOrder::LowFirst>(field);
   }
   template <class T>
   constexpr void LE32(T& field) {
-    Numbers<4>(field, RecordOrder::LowFirst);
+    Numbers<4, RecordOrder::LowFirst>(field);
   }
   template <class T>
   constexpr void BE16(T& field) {
-    Numbers<2>(field, RecordOrder::HighFirst);
+    Numbers<2, RecordOrder::HighFirst>(field);
   }
   template <class T>
   constexpr void BE32(T& field) {
-    Numbers<4>(field, RecordOrder::HighFirst);
+    Numbers<4, RecordOrder::HighFirst>(field);
   }
 
   template <class T, std::size_t N>
@@ -83,7 +96,7 @@ class RecordIo {
       for (T& row : field) Bytes(row);
     } else {
       static_assert(sizeof(T) == 1);
-      self().Block(field, static_cast<int>(N), 0);
+      self().Block(field, static_cast<int>(N), 1);
     }
   }
 
@@ -98,7 +111,7 @@ class RecordIo {
       for (T& row : field) Text(row, width);
     } else {
       static_assert(std::is_same_v<T, char>);
-      self().Block(field, std::min(width, static_cast<int>(N)), static_cast<int>(N));
+      self().Chars(field, std::min(width, static_cast<int>(N)), static_cast<int>(N));
     }
   }
 
@@ -117,13 +130,22 @@ class RecordIo {
   constexpr void At(int offset) { self().MoveTo(start_ + offset); }
 
  private:
-  template <int Width, class T>
-  constexpr void Numbers(T& field, RecordOrder order) {
-    if constexpr (std::is_array_v<T>) {
-      for (auto& one : field) Numbers<Width>(one, order);
+  // Tables of numbers are most of what the files hold: where this machine keeps them as the
+  // file does, they are moved at once.
+  template <class Element, int Width, RecordOrder Order>
+  static consteval bool LiesAlike() {
+    constexpr bool low = Order == RecordOrder::LowFirst && std::endian::native == std::endian::little;
+    return !std::is_same_v<Element, bool> && sizeof(Element) == Width && (Width == 1 || low);
+  }
+  template <int Width, RecordOrder Order, class T>
+  constexpr void Numbers(T& field) {
+    if constexpr (std::is_array_v<T> && LiesAlike<std::remove_all_extents_t<T>, Width, Order>()) {
+      self().Block(RecordFirst(field), static_cast<int>(sizeof field), Width);
+    } else if constexpr (std::is_array_v<T>) {
+      for (auto& one : field) Numbers<Width, Order>(one);
     } else {
       static_assert(std::is_same_v<T, bool> || sizeof(T) >= Width, "the field cannot hold the number");
-      self().Number(field, Width, order);
+      self().Number(field, Width, Order);
     }
   }
   constexpr Self& self() { return static_cast<Self&>(*this); }
@@ -180,18 +202,20 @@ class RecordReader : public RecordIo<RecordReader> {
     field = static_cast<T>(value);
   }
 
-  void Block(void* first, int width, int text) {
-    const int there = std::min(width, cursor_.Left());
+  // False when the block is cut.
+  bool Block(void* first, int size, int unit) {
+    const int there = std::min(size, cursor_.Left()) / unit * unit;
     if (there > 0) std::memcpy(first, from_ + cursor_.Position(), static_cast<std::size_t>(there));
-    const bool whole = cursor_.Take(width) >= 0;
+    return cursor_.Take(size) >= 0;
+  }
+
+  void Chars(char* first, int width, int room) {
     // bounded: a text without a terminator ends with its array.
-    if (whole && text > 0) std::memset(static_cast<char*>(first) + End(width, text), 0, Rest(width, text));
+    const int end = std::min(width, room - 1);
+    if (Block(first, width, 1)) std::memset(first + end, 0, static_cast<std::size_t>(room - end));
   }
 
  private:
-  static int End(int width, int text) { return std::min(width, text - 1); }
-  static std::size_t Rest(int width, int text) { return static_cast<std::size_t>(text - End(width, text)); }
-
   const unsigned char* from_;
   RecordCursor cursor_;
 };
@@ -216,10 +240,12 @@ class RecordWriter : public RecordIo<RecordWriter> {
     }
   }
 
-  void Block(const void* first, int width, int) {
-    const int at = cursor_.Take(width);
-    if (at >= 0) std::memcpy(to_ + at, first, static_cast<std::size_t>(width));
+  void Block(const void* first, int size, int) {
+    const int at = cursor_.Take(size);
+    if (at >= 0) std::memcpy(to_ + at, first, static_cast<std::size_t>(size));
   }
+
+  void Chars(const char* first, int width, int) { Block(first, width, 1); }
 
  private:
   unsigned char* to_;
@@ -246,10 +272,8 @@ class RecordMeasure : public RecordIo<RecordMeasure> {
   constexpr void Number(const T& field, int width, RecordOrder) {
     Add(&field, width);
   }
-  template <class T>
-  constexpr void Block(const T* first, int width, int) {
-    Add(first, width);
-  }
+  constexpr void Block(const void* first, int size, int) { Add(first, size); }
+  constexpr void Chars(const char* first, int width, int) { Add(first, width); }
 
  private:
   // Not constexpr: a list of fields that lie in one another is no program.
@@ -280,18 +304,9 @@ consteval int RecordSize() {
   return measure.Position();
 }
 
-template <class T>
-constexpr const void* RecordFirstPlace(const T& field) {
-  if constexpr (std::is_array_v<T>) {
-    return RecordFirstPlace(field[0]);
-  } else {
-    return &field;
-  }
-}
-
 template <class T, class Field>
 consteval int RecordOffsetOf(Field T::*member) {
-  RecordMeasure measure(RecordFirstPlace(RecordProbe<T>::record.*member));
+  RecordMeasure measure(RecordFirst(RecordProbe<T>::record.*member));
   measure.Record(RecordProbe<T>::record);
   return measure.Offset();
 }

@@ -89,7 +89,7 @@ TEST_F(ScopeTest, ListsTheFilesByKindAndShowsTheirSharesAsBars) {
     for (const std::uint32_t pixel : line) width += pixel == kBlue;
     return width;
   };
-  EXPECT_TRUE(WaitFor([&] { return barWidth(1) > 0; }, 5000));
+  EXPECT_TRUE(WaitFor([&] { return barWidth(3) > 0; }, 5000));
   // The outline takes a pixel of each end.
   EXPECT_NEAR(barWidth(1), 210, 2);
   EXPECT_NEAR(barWidth(2), 75, 2);

@@ -9,6 +9,7 @@
 #include "platform/headless/resource_file.h"
 #include "resources/filetools_ids.h"
 #include "resources/mail_music_ids.h"
+#include "tests/support/places.h"
 
 namespace {
 
@@ -82,7 +83,7 @@ const Labels kLabels[] = {
 
 TEST(FileToolsLabelsTest, EveryLabelStandsInItsDialogLetterByLetter) {
   ResourceSet set;
-  ASSERT_EQ(ResourceLoad(MIRRELL_RES_FILE, &set), nullptr);
+  ASSERT_EQ(ResourceLoad(kResourceFile, &set), nullptr);
   for (const Labels& labels : kLabels) {
     ASSERT_EQ(set.dialogs.count(labels.dialog), 1U) << labels.dialog;
     const ResourceDialog& dialog = set.dialogs.at(labels.dialog);

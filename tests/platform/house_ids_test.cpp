@@ -8,6 +8,7 @@
 #include "platform/headless/resource_file.h"
 #include "resources/filetools_ids.h"
 #include "tests/support/house_rules.h"
+#include "tests/support/places.h"
 
 namespace {
 
@@ -74,12 +75,12 @@ std::string LintIds(const SourceTree& tree, const ResourceSet& set) {
 
 ResourceSet Resources() {
   ResourceSet set;
-  EXPECT_EQ(ResourceLoad(MIRRELL_RES_FILE, &set), nullptr);
+  EXPECT_EQ(ResourceLoad(kResourceFile, &set), nullptr);
   return set;
 }
 
 TEST(HouseIdsTest, EveryControlOfADialogsFileStandsInItsTemplate) {
-  EXPECT_EQ(LintIds(SourceTreeRead(MIRRELL_SOURCE_DIR "/src"), Resources()), "");
+  EXPECT_EQ(LintIds(SourceTreeRead(SourcePath("src")), Resources()), "");
 }
 
 TEST(HouseIdsTest, AControlOfAnotherTemplateIsFound) {

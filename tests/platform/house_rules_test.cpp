@@ -6,12 +6,14 @@
 
 #include <cstdlib>
 
+#include "tests/support/places.h"
+
 namespace {
 
 using Findings = std::vector<std::string>;
 
 const SourceTree& Tree() {
-  static const SourceTree tree = SourceTreeRead(MIRRELL_SOURCE_DIR "/src");
+  static const SourceTree tree = SourceTreeRead(SourcePath("src"));
   return tree;
 }
 
@@ -119,7 +121,7 @@ TEST(HouseRulesTest, TheTreesNumbersHaveNames) {
 }
 
 TEST(HouseRulesTest, ThePageOfFidelityIsWhatTheCommentsSay) {
-  EXPECT_EQ(std::system("python3 " MIRRELL_SOURCE_DIR "/scripts/fidelity.py --check"), 0)
+  EXPECT_EQ(std::system(("python3 " + SourcePath("scripts/fidelity.py") + " --check").c_str()), 0)
       << "scripts/fidelity.py makes it anew";
 }
 

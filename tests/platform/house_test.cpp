@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "resources/program_ids.h"
+#include "tests/support/places.h"
 #include "tests/support/resource_lint.h"
 #include "tests/support/source_lint.h"
 #include "tests/support/test_dialogs.h"
@@ -16,30 +17,30 @@ ResourceSet Load(const char* path) {
 }
 
 TEST(HouseTest, SourcesKeepTheBordersOfTheHouse) {
-  const std::string findings = LintTree(MIRRELL_SOURCE_DIR "/src");
+  const std::string findings = LintTree(SourcePath("src"));
   EXPECT_TRUE(findings.empty()) << findings;
 }
 
 TEST(HouseTest, DialogsOfTheProductAreTidy) {
-  const ResourceSet set = Load(MIRRELL_RES_FILE);
+  const ResourceSet set = Load(kResourceFile);
   const std::string findings = LintResources(set);
   EXPECT_TRUE(findings.empty()) << findings;
 }
 
 TEST(HouseTest, NoKeyOfTheProgramIsACommand) {
   // Alt+F4 would end the whole program from whichever of its windows has the keyboard.
-  const ResourceSet set = Load(MIRRELL_RES_FILE);
+  const ResourceSet set = Load(kResourceFile);
   ASSERT_TRUE(set.accelerators.contains(IDR_MAIN));
   EXPECT_TRUE(set.accelerators.at(IDR_MAIN).empty());
 }
 
 TEST(HouseTest, ATidyDialogHasNoFindings) {
-  const ResourceSet set = Load(MIRRELL_TEST_RES_FILE);
+  const ResourceSet set = Load(kTestResourceFile);
   EXPECT_EQ(LintDialog(set.dialogs.at(IDD_TestHouse)), std::vector<std::string>());
 }
 
 TEST(HouseTest, EveryFaultOfAnUntidyDialogIsFound) {
-  const ResourceSet set = Load(MIRRELL_TEST_RES_FILE);
+  const ResourceSet set = Load(kTestResourceFile);
   // Texts of this file are code page 932, findings are UTF-8: compare by parts
   // that have no Japanese in them.
   const std::vector<std::string> findings = LintDialog(set.dialogs.at(IDD_TestUntidy));

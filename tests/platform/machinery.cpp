@@ -1,6 +1,7 @@
 #include "tests/platform/machinery.h"
 
 #include "platform/window.h"
+#include "tests/support/places.h"
 #include "tests/support/test_dialogs.h"
 
 std::vector<std::string> heard;
@@ -57,7 +58,7 @@ bool Listen(const Event& event) {
 
 void MachineryTest::SetUp() {
   DesktopTest::SetUp();
-  HeadlessResourceFile(MIRRELL_TEST_RES_FILE);
+  HeadlessResourceFile(kTestResourceFile);
   heard.clear();
   reaction = nullptr;
 }

@@ -8,12 +8,13 @@
 #include <random>
 
 #include "resources/character_ids.h"
+#include "tests/support/places.h"
 #include "tests/support/test_dialogs.h"
 
 namespace {
 
 std::string Bytes() {
-  std::ifstream file(MIRRELL_TEST_RES_FILE, std::ios::binary);
+  std::ifstream file(kTestResourceFile, std::ios::binary);
   return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
 }
 
@@ -134,7 +135,7 @@ TEST(ResourceFileTest, StringsAndAcceleratorsAreRead) {
 
 TEST(ResourceFileTest, ProductsOwnResourcesAreRead) {
   ResourceSet set;
-  EXPECT_EQ(ResourceLoad(MIRRELL_RES_FILE, &set), nullptr);
+  EXPECT_EQ(ResourceLoad(kResourceFile, &set), nullptr);
   EXPECT_FALSE(set.strings.empty());
   EXPECT_FALSE(set.menus.empty());
   // Nothing opens these two; they stand in the templates all the same.

@@ -5,6 +5,7 @@
 #include "platform/posix/live_counts.h"
 #include "platform/screen.h"
 #include "tests/platform/machinery.h"
+#include "tests/support/places.h"
 #include "tests/support/test_dialogs.h"
 
 namespace {
@@ -175,7 +176,7 @@ TEST_F(WindowTest, MessageLoopRunsTheScriptUntilQuit) {
   EXPECT_EQ(heard, Names{"command 40"});
   EXPECT_EQ(StepsLeft(), 1);
   HeadlessReset();
-  HeadlessResourceFile(MIRRELL_TEST_RES_FILE);
+  HeadlessResourceFile(kTestResourceFile);
 }
 
 TEST_F(WindowTest, MessageLoopWithoutAScriptIsAFailure) {

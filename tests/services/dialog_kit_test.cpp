@@ -7,6 +7,7 @@
 #include "services/list_editor.h"
 #include "services/progress.h"
 #include "tests/support/desktop.h"
+#include "tests/support/places.h"
 #include "tests/support/test_dialogs.h"
 
 namespace {
@@ -21,7 +22,7 @@ class KitTest : public DesktopTest {
  protected:
   void SetUp() override {
     DesktopTest::SetUp();
-    HeadlessResourceFile(MIRRELL_TEST_RES_FILE);
+    HeadlessResourceFile(kTestResourceFile);
   }
 };
 
@@ -411,7 +412,7 @@ TEST_F(ProgressTest, ASecondWorkIsNotBegunWhileOneRuns) {
 }
 
 TEST_F(ProgressTest, DialogThatCannotBeMadeBeginsNothing) {
-  HeadlessResourceFile(MIRRELL_RES_FILE);  // without that template
+  HeadlessResourceFile(kResourceFile);  // without that template
   EXPECT_EQ(ProgressRun(kWork, nullptr), -1);
   EXPECT_EQ(HeadlessTakeFailures().size(), 1U);
   EXPECT_TRUE(ran.empty());

@@ -11,6 +11,7 @@
 #include "services/program.h"
 #include "shell/panel.h"
 #include "shell/shell_commands.h"
+#include "tests/support/places.h"
 #include "tests/support/program.h"
 
 namespace {
@@ -87,7 +88,7 @@ TEST(PopupResourcesTest, EntriesHaveTheirTextsAndCommands) {
       {2338, {{2330, "アラーム設定"}, {2339, "イベントの実行"}, {1911, "時計設定"}}},
   };
   ResourceSet set;
-  ASSERT_EQ(ResourceLoad(MIRRELL_RES_FILE, &set), nullptr);
+  ASSERT_EQ(ResourceLoad(kResourceFile, &set), nullptr);
   for (const MenuExpected& menu : expected) {
     ASSERT_TRUE(set.menus.contains(menu.menu));
     const std::vector<ResourceMenuItem>& items = set.menus.at(menu.menu).at(0).items;

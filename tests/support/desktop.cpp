@@ -17,6 +17,7 @@
 #include "services/program.h"
 #include "services/text.h"
 #include "shell/states.h"
+#include "tests/support/places.h"
 
 namespace fs = std::filesystem;
 
@@ -42,7 +43,7 @@ void DesktopTest::SetUp() {
 
   StatesReset();
   HeadlessReset();
-  HeadlessResourceFile(MIRRELL_RES_FILE);
+  HeadlessResourceFile(kResourceFile);
   FaultClear();
   FilesOpenedClear();
   TestClockSet({2026, 11, 21, 6, 9, 30, 15, 0});

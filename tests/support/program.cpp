@@ -8,6 +8,7 @@
 #include "shell/shutdown.h"
 #include "shell/states.h"
 #include "shell/tick.h"
+#include "tests/support/places.h"
 #include "tests/support/test_dialogs.h"
 
 namespace {
@@ -78,9 +79,9 @@ void Ticks(int times) {
 }
 
 WindowHandle OpenListener(const char* name) {
-  HeadlessResourceFile(MIRRELL_TEST_RES_FILE);
+  HeadlessResourceFile(kTestResourceFile);
   const WindowHandle dialog = DialogOpen(IDD_TestControls, nullptr, Listen);
-  HeadlessResourceFile(MIRRELL_RES_FILE);
+  HeadlessResourceFile(kResourceFile);
   heard.clear();
   if (name[0] != '\0') names[dialog] = std::string(name) + " ";
   return dialog;

@@ -30,7 +30,11 @@ class RecordSpots : public RecordIo<RecordSpots> {
   void Number(const T&, int width, RecordOrder) {
     Add({position_, width, true, std::is_same_v<T, bool>, 0});
   }
-  void Block(const void*, int width, int text) { Add({position_, width, false, false, text}); }
+  void Block(const void*, int size, int unit) {
+    const int each = unit == 1 ? size : unit;
+    for (int done = 0; done < size; done += each) Add({position_, each, unit != 1, false, 0});
+  }
+  void Chars(const char*, int width, int room) { Add({position_, width, false, false, room}); }
 
   std::vector<RecordSpot> spots;
 

@@ -12,6 +12,7 @@
 #include "newdata/host_file.h"
 #include "platform/posix/posix_paths.h"
 #include "shell/settings.h"
+#include "tests/support/places.h"
 
 namespace fs = std::filesystem;
 
@@ -101,7 +102,7 @@ class HolidayListFolder : public testing::Test {
   void TearDown() override { fs::remove_all(folder_); }
   std::string Set() const { return (folder_ / "set").string(); }
   static int Run(const std::string& words) {
-    const int status = std::system((MIRRELL_NEWDATA " " + words + " >/dev/null 2>&1").c_str());
+    const int status = std::system((std::string(kNewdataProgram) + " " + words + " >/dev/null 2>&1").c_str());
     return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
   }
   static std::string Note(int year, int month, int day) {

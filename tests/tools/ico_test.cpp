@@ -4,6 +4,7 @@
 
 #include "newdata/host_file.h"
 #include "tests/support/byte_order.h"
+#include "tests/support/places.h"
 
 TEST(IcoFile, DirectoryPicturesAndMasks) {
   // One pixel, half clear, and one clear pixel beside it would not be square: two
@@ -39,7 +40,7 @@ TEST(ProgramIcon, HoldsFiveSizesAndThePngOfTheLargest) {
 }
 
 TEST(ProgramIcon, CommittedFileHoldsItsFivePicturesWhole) {
-  const Bytes file = ReadHostFile(MIRRELL_SOURCE_DIR "/src/resources/mirrell.ico");
+  const Bytes file = ReadHostFile(SourcePath("src/resources/mirrell.ico"));
   ASSERT_GT(file.size(), 6U + 5U * 16U);
   ASSERT_EQ(GetLE16(&file[4]), 5);
   std::size_t end = 6 + 5 * 16;

@@ -8,12 +8,14 @@
 #include <filesystem>
 #include <string>
 
+#include "tests/support/places.h"
+
 namespace fs = std::filesystem;
 
 namespace {
 
 int RunTool(const std::string& words) {
-  const int status = std::system((MIRRELL_NEWDATA " " + words + " >/dev/null 2>&1").c_str());
+  const int status = std::system((std::string(kNewdataProgram) + " " + words + " >/dev/null 2>&1").c_str());
   return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
 }
 

@@ -12,6 +12,7 @@
 #include "services/program.h"
 #include "shell/panel.h"
 #include "tests/filetools/divide/divide_fixture.h"
+#include "tests/support/places.h"
 
 namespace {
 
@@ -327,7 +328,7 @@ TEST_F(DivideDialogTest, ASourceOfLessThanTwoGigabytesIsNotTooLarge) {
 // The desktop's font makes a unit of 17 / 8 pixels of the height.
 TEST_F(DivideDialogTest, TheSizesStandBesideTheirLabelsOnTheDesktop) {
   ResourceSet set;
-  ASSERT_EQ(ResourceLoad(MIRRELL_RES_FILE, &set), nullptr);
+  ASSERT_EQ(ResourceLoad(kResourceFile, &set), nullptr);
   std::map<std::string, int> tops;
   for (const ResourceControl& control : set.dialogs.at(IDD_FileDivideSetDlg2).controls) {
     tops[control.text] = control.y * 17 / 8;
