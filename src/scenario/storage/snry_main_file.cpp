@@ -54,13 +54,13 @@ struct Reading {
 };
 
 struct Writing {
-  DataFile& data;
+  RecordStream& to;
   template <class T>
   void Table(T* records, int count) {
-    RecordsWrite(data, records, count);
+    for (int i = 0; i < count; ++i) to.Put(records[i]);
   }
-  void Bytes(const std::uint8_t* bytes, int count) { DataWrite(data, bytes, count); }
-  void Count(std::uint16_t count, int) { DataWriteBE16(data, count); }
+  void Bytes(const std::uint8_t* bytes, int count) { to.PutBytes(bytes, count); }
+  void Count(std::uint16_t count, int) { to.Put(SnryNumberRec{count}); }
 };
 
 struct Measuring {
@@ -110,10 +110,11 @@ bool WriteAll(const char* path) {
   DataFile data;
   data.file = FileOpen(path, OpenMode::ReadWrite);
   data.failed = data.file == kNoFile;
-  RecordWrite(data, Head());
-  Writing way{data};
+  RecordStream stream(data);
+  stream.Put(Head());
+  Writing way{stream};
   Sections(way, SnryMain);
-  const bool written = !data.failed;
+  const bool written = stream.Finish();
   DataClose(data);
   return written;
 }
