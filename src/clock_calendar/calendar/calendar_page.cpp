@@ -38,7 +38,7 @@ constexpr int kWeekPageX = 12;
 CalenPage CalenPageOnShow() {
   return {CalenYearShown(),
           std::clamp<std::int32_t>(Calendar.CalenMonthPos, 0, kMonthsOfYear - 1),
-          Today.TodayDay,
+          CalenTodayShown(),
           Today.TodayDay,
           Calendar.CalenClickedDay,
           Calendar.CalenPointedDay,
