@@ -4,6 +4,7 @@
 #include <iterator>
 
 #include "scenario/storage/snry_tables.h"
+#include "scenario/storage/table_colours.h"
 #include "services/text.h"
 #include "world/world_list.h"
 
@@ -16,11 +17,6 @@ void Clear(T (&table)[N]) {
   } else {
     for (T& record : table) record = {};
   }
-}
-
-template <std::size_t N>
-void Title(char (&to)[N], const char* text) {
-  TextCopy(to, N, text);
 }
 
 // The motions take the character's figures, the low byte of each.
@@ -38,16 +34,6 @@ void ResetCast(SnryCastRec& cast, const SnryCharMotionRec& motion) {
   Clear(cast.lineValues);
   cast.entry = {};
   ResetMotions(cast, motion);
-}
-
-template <std::size_t N>
-void Paint(std::uint8_t (&colours)[N][3], int first, int last, std::uint8_t red, std::uint8_t green,
-           std::uint8_t blue) {
-  for (int i = first; i <= last; ++i) {
-    colours[i][0] = red;
-    colours[i][1] = green;
-    colours[i][2] = blue;
-  }
 }
 
 }  // namespace
@@ -91,11 +77,10 @@ void SnryCastReset() {
 
 void SnryTableReset(SnryTableRec& table) {
   table = {};
-  Title(table.itemTitle, "  項  目 ");
-  Title(table.settingTitle, "  設  定 ");
-  Title(table.dataTitle, "  データ ");
-  Paint(table.colours, 0, 6, 255, 255, 255);
-  Paint(table.colours, 7, 9, 0, 0, 250);
+  TextCopy(table.itemTitle, sizeof table.itemTitle, "  項  目 ");
+  TextCopy(table.settingTitle, sizeof table.settingTitle, "  設  定 ");
+  TextCopy(table.dataTitle, sizeof table.dataTitle, "  データ ");
+  SnryTableColours(table);
   table.kept236[1] = 7;
 }
 
