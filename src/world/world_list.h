@@ -4,6 +4,9 @@
 //
 // EDTCFLAG.edf holds an EdtcHead and an EdtcFigureRec for each figure, EDTCDATA.edf an
 // EdtcCharRec for each character.
+//
+// kept: a third file, EDTCBMDATA.edf, with 20 blocks of 100 bytes for each character, has no
+// effect; nothing reads it.
 #pragma once
 
 #include <cstdint>
