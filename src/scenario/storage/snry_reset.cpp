@@ -20,20 +20,20 @@ void Clear(T (&table)[N]) {
 }
 
 // The motions take the character's figures, the low byte of each.
-void ResetMotions(SnryCastRec& cast, const SnryCharMotionRec& motion) {
-  for (int place = 0; place < kSnryPlaces; ++place) {
-    cast.motions[place] = static_cast<std::uint8_t>(motion.figures[place]);
+void ResetMotions(SnryCastRec& cast, const WorldChara& chara) {
+  for (int place = 0; place < kWorldFrames; ++place) {
+    cast.motions[place] = static_cast<std::uint8_t>(chara.figureIds[place]);
     cast.motionParameters[place] = 0;
     cast.motionValues[place] = 0;
   }
 }
 
-void ResetCast(SnryCastRec& cast, const SnryCharMotionRec& motion) {
+void ResetCast(SnryCastRec& cast, const WorldChara& chara) {
   Clear(cast.lines);
   Clear(cast.lineParameters);
   Clear(cast.lineValues);
   cast.entry = {};
-  ResetMotions(cast, motion);
+  ResetMotions(cast, chara);
 }
 
 }  // namespace
@@ -71,7 +71,7 @@ void SnrySceneReset() {
 }
 
 void SnryCastReset() {
-  for (int slot = 0; slot < kSnryCharaMax; ++slot) ResetCast(SnryCastAt(slot), SnryMain.charMotions[slot]);
+  for (int slot = 0; slot < kSnryCharaMax; ++slot) ResetCast(SnryCastAt(slot), World.WorldCharas[slot]);
   for (int slot = 0; slot < kSnryLineSlots; ++slot) SnryLineAt(slot).used = 0;
 }
 
@@ -100,9 +100,10 @@ void SnryOptionCheck() {
 }
 
 void SnryWorldLoad() {
-  if (!WorldListRead()) return;
+  const int read = WorldListRead();
+  if (read < 0) return;
   SnryMain.charaCount = static_cast<std::uint16_t>(World.WorldCharaCount);
-  for (int i = 0; i < SnryMain.charaCount; ++i) {
+  for (int i = 0; i < read; ++i) {
     Clear(SnryMain.charaNames[i].text);
     TextCopy(SnryMain.charaNames[i].text, sizeof SnryMain.charaNames[i].text, World.WorldCharas[i].name);
   }
