@@ -14,6 +14,7 @@
 #include "services/feature_dialog.h"
 #include "services/program.h"
 #include "services/text.h"
+#include "world/world_pictures.h"
 
 namespace {
 
@@ -26,11 +27,13 @@ int Tell(const char* text, const char* caption) {
   return 0;
 }
 
-// The scenario is edited, and saved if that changed something.
+// The scenario is edited, and saved if that changed something. The pictures of the
+// characters are kept no longer than that.
 int Edit() {
   SnryWorldLoad();
   RoutSnrySettingRun(Owner());
   if (Scenario.changed) SnrySaveTold(Owner());
+  WorldPicturesFree();
   return 0;
 }
 
@@ -76,19 +79,23 @@ void ReadMain() {
 }
 
 void TakeRow(int row) {
+  if (row < 0) return;
   Scenario.listIndex = row;
   TextCopy(Scenario.mainFolder, sizeof Scenario.mainFolder, SnryList.rows[row].folder);
   TextCopy(SnryMain.title, sizeof SnryMain.title, SnryList.rows[row].title);
 }
 
+// kept: the main folder is entered before it is asked whether a row was chosen, so that a user
+// who leaves the list of scenarios without one is told that there is no folder as long as no
+// scenario has been opened.
 int Load() {
   constexpr char kStopped[] = "シナリオロードの中止";
   if (SnryOpenList(Owner()) != 0) return Tell("シナリオリストファイルを開くことができません。", kStopped);
   SnryOptionCheck();
   const int row = SnryMainLoadRun(Owner());
-  if (row < 0 || row >= SnryList.count) return 0;
   TakeRow(row);
   if (!FolderSetCurrent(Scenario.mainFolder)) return Tell("シナリオフォルダーがありません。", kStopped);
+  if (row < 0) return 0;
   Scenario.changed = false;
   ReadMain();
   return Edit();

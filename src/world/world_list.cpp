@@ -59,16 +59,19 @@ bool ReadFlags(bool& counted) {
   return good;
 }
 
-void ReadCharas() {
+// How many characters have come.
+int ReadCharas() {
   char path[kRootPathSize];
   WorldDataPath(path, sizeof path);
   DataFile data;
-  if (!DataOpenRead(data, path, OpenMode::Read)) return;
+  if (!DataOpenRead(data, path, OpenMode::Read)) return 0;
   EdtcCharRec record;
-  for (int i = 0; i < World.WorldCharaCount && RecordRead(data, record); ++i) {
-    TakeChara(World.WorldCharas[i], record);
+  int read = 0;
+  while (read < World.WorldCharaCount && RecordRead(data, record)) {
+    TakeChara(World.WorldCharas[read++], record);
   }
   DataClose(data);
+  return read;
 }
 
 const WorldChara* CharaAt(int number) {
@@ -77,10 +80,10 @@ const WorldChara* CharaAt(int number) {
 
 }  // namespace
 
-bool WorldListRead() {
+int WorldListRead() {
   bool counted = false;
-  if (ReadFlags(counted)) ReadCharas();
-  return counted;
+  const int read = ReadFlags(counted) ? ReadCharas() : 0;
+  return counted ? read : -1;
 }
 
 const char* WorldCharaName(int number) {

@@ -59,6 +59,6 @@ bool Handle(const Event& event) {
 
 void FileCharaCopyDlgRun(WindowHandle owner) {
   if (!CastMemberTake(Scenario.castRow)) return;
-  if (CastIsCopy(CastMember.id)) return BoxTell(owner, kIsCopy);
+  if (SnryCastIsCopy(CastMember.id)) return BoxTell(owner, kIsCopy);
   SnryDialogRun(SnryDialog::FileCharaCopyDlg, IDD_FileCharaCopyDlg, owner, Handle);
 }

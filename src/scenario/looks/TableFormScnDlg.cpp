@@ -5,7 +5,7 @@
 
 #include "resources/scenario_looks_ids.h"
 #include "scenario/looks/snry_looks.h"
-#include "scenario/looks/table_colours.h"
+#include "scenario/storage/table_colours.h"
 #include "services/dialog_acts.h"
 #include "services/dialog_family.h"
 #include "services/form.h"

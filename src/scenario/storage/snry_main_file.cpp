@@ -3,10 +3,10 @@
 #include <algorithm>
 #include <cstring>
 
-#include "scenario/storage/snry_images.h"
 #include "scenario/storage/snry_paths.h"
 #include "services/record_file.h"
 #include "services/text.h"
+#include "world/world_pictures.h"
 
 namespace {
 
@@ -152,7 +152,7 @@ int SnryMainRead() {
   if (!DataOpenRead(data, path, OpenMode::Read)) return -1;
   const int result = ReadFrom(data);
   DataClose(data);
-  SnryImagesRelease();
+  WorldPicturesFree();
   return result;
 }
 

@@ -1,4 +1,4 @@
-#include "scenario/looks/table_colours.h"
+#include "scenario/storage/table_colours.h"
 
 #include <algorithm>
 #include <iterator>
