@@ -4,9 +4,9 @@
 #include <iterator>
 
 #include "platform/dialog.h"
-#include "platform/sheet.h"
 #include "resources/scenario_logic_ids.h"
 #include "scenario/logic/snry_logic.h"
+#include "services/dialog_family.h"
 #include "services/text.h"
 
 SnrySheetState SnrySheet;
@@ -69,5 +69,5 @@ void SnryAdvanceSheetRun(WindowHandle owner) {
   Begin();
   const SheetPage pages[] = {
       {IDD_PSDialog1no1, SnryMenuPage}, EventPage(), {IDD_PSDialog1no3, SnryRandomPage}};
-  if (!SheetRun(owner, "場面進行方法設定", pages, static_cast<int>(std::size(pages)))) BringBack();
+  if (!PlainSheetRun(owner, "場面進行方法設定", pages, static_cast<int>(std::size(pages)))) BringBack();
 }
