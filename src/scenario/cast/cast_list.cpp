@@ -65,7 +65,7 @@ void SlotsClose() {
 // bounded: the clearing of the copies that are left over goes up to the slot behind the
 // last of the table, which is nobody's.
 void CopiesTidy(SnrySceneRec& scene) {
-  SlotsClear(kSnryCopyFirst + CastCopySum(), kSnryCastSlots);
+  SlotsClear(CastCopiesEnd(), kSnryCastSlots);
   for (int slot = kSnryCastSlots - 1; slot >= kSnryCopyFirst; --slot) {
     if (SnryCastAt(slot).master == 0) IdRemove(scene, slot);
   }

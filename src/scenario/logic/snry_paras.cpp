@@ -9,6 +9,8 @@
 namespace {
 
 constexpr char kNotSet[] = "未設定";
+constexpr int kUnsignedDigits = 5;
+constexpr int kUnsignedHighest = 65535;
 
 bool IsUsed(int slot) {
   return SnryMain.paras[slot].used != 0;
@@ -67,6 +69,11 @@ void SnryParaExchange(Form& form, int id, std::uint16_t& parameter) {
 void SnryPairExchange(Form& form, int paraId, int valueId, SnryPair& pair, int digits) {
   SnryParaExchange(form, paraId, pair.parameter);
   form.Number(valueId, pair.value, digits);
+}
+
+void SnryUnsignedPairExchange(Form& form, int paraId, int valueId, SnryPair& pair) {
+  SnryParaExchange(form, paraId, pair.parameter);
+  form.NumberIn(valueId, pair.value, kUnsignedDigits, 0, kUnsignedHighest);
 }
 
 const char* SnryParaName(int id) {
