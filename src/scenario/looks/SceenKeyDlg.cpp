@@ -154,6 +154,7 @@ void Exchange(Form& form, SnryKeyRec& key) {
 
 void ExchangePlace(Form& form, SnryPair& pair) {
   SnryParaExchange(form, IDC_KEY_PARA, pair.parameter);
+  // kept: a value below 0 that is typed for a key is 0, unlike in the other dialogs of a scene.
   form.NumberIn(IDC_KEY_VALUE, pair.value, kValueDigits, 0, kValueHighest);
 }
 
@@ -195,8 +196,8 @@ void TakePlace(WindowHandle dialog, SnryKeyRec& key, int place) {
   key.values[place] = pair.value;
 }
 
-// kept: an empty record is asked about, and takes the parameter all the same unless the
-// answer is to cancel.
+// kept: an assignment of a key that is empty is asked about, and takes the parameter all the same
+// unless the answer is to cancel.
 bool EmptyIsAllowed(WindowHandle dialog, const SnryKeyRec& key, const BoxWords& question) {
   return key.key != 0 || BoxAsk(dialog, question);
 }
@@ -250,8 +251,8 @@ void RecordChosen(WindowHandle dialog) {
   ShowPlaces(dialog);
 }
 
-// kept: a record that is added has no cursor sync, whatever its buttons show; a change
-// gives it one.
+// kept: an assignment of a key that is added has no cursor sync, whatever its buttons show; a
+// change gives it one.
 bool AddRecord(WindowHandle dialog, int) {
   SnryKeyRec* key = FirstFree();
   if (!key) return false;

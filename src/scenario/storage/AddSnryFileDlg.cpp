@@ -14,8 +14,8 @@
 
 namespace {
 
-// kept: only an entry whose one attribute is that of a folder is left out, so that a hidden
-// folder is listed.
+// kept: among the files that can become scenes only an entry whose one attribute is that of a
+// folder is left out, so that a hidden folder is listed.
 bool IsListed(const SearchEntry& entry) {
   return entry.name[0] != '.' && entry.attributes != kAttributeFolder && !SnrySceneHasFile(entry.name);
 }
@@ -40,6 +40,7 @@ void Open(WindowHandle dialog) {
            }));
 }
 
+// kept: a file that is added as a scene is not looked into; one too many is left out in silence.
 void Add(WindowHandle dialog) {
   const int row = ListSelected(dialog, IDC_SNRY_SCENES);
   if (row >= 0 && row < SnryDialogs.fileCount && SnrySceneAdd(SnryDialogs.files[row])) {
@@ -50,7 +51,7 @@ void Add(WindowHandle dialog) {
   SubDialogEnd(dialog, 1);
 }
 
-// kept: the button that would choose all files has no effect.
+// kept: the button that would add all files as scenes has no effect.
 constexpr DialogAct kActs[] = {
     {EventKind::Init, Open},
     {kOkButton, Add},

@@ -11,6 +11,7 @@ namespace {
 
 constexpr ListEditor kList{IDC_SNRY_LIST, [] { return static_cast<int>(SnryList.count); }, SnryListRowText};
 
+// kept: a deleted scenario loses its row in the list only; its folder and its files stay.
 constexpr ListDeed kDelete{
     .needsRow = true,
     .question = {"シナリオを削除します。よろしいですか", "シナリオの削除"},

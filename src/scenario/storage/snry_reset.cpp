@@ -32,6 +32,8 @@ void ResetMotions(SnryCastRec& cast, const SnryCharMotionRec& motion) {
   }
 }
 
+// kept: exits, the ways in which lines end and the motions behind the twentieth stay when the
+// cast is made anew.
 void ResetCast(SnryCastRec& cast, const SnryCharMotionRec& motion) {
   Clear(cast.lines);
   Clear(cast.lineParameters);
@@ -52,6 +54,8 @@ void Paint(std::uint8_t (&colours)[N][3], int first, int last, std::uint8_t red,
 
 }  // namespace
 
+// kept: a new scenario has the names, the motions, the labels of buttons and the options that are
+// in memory.
 void SnryMainReset() {
   Clear(SnryMain.title);
   TextCopy(SnryMain.title, sizeof SnryMain.title, "無題");
@@ -71,6 +75,7 @@ void SnryCountsClear() {
   SnryMain.registeredCount = 0;
 }
 
+// kept: a new scene has the backdrop, the keys and the scrolling that are in memory.
 void SnrySceneReset() {
   SnryCastReset();
   Clear(SnryScene.menus);
@@ -99,8 +104,8 @@ void SnryTableReset(SnryTableRec& table) {
   table.kept236[1] = 7;
 }
 
-// kept: only a stage of 1000 lines or more and of a width from 1 to 1200 keeps its options; the
-// sense of the test of the height is turned round.
+// kept: only a scenario's stage of 1000 lines or more and of a width from 1 to 1200 keeps its
+// options; the sense of the test of the height is turned round.
 void SnryOptionCheck() {
   SnryOptionRec& options = SnryMain.options;
   if (options.stageWidth >= 1 && options.stageWidth <= 1200 && options.stageHeight >= 1000) return;
