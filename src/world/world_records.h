@@ -90,7 +90,7 @@ constexpr void Fields(Io& io, EdtcCharRec& chara) {
 static_assert(RecordSize<EdtcCharRec>() == 1520);
 
 // EDTCBMDATA.edf, 20 blocks of 100 bytes for each character.
-// kept: the file has no effect; nothing reads it.
+// kept: EDTCBMDATA.edf has no effect; nothing reads it.
 struct EdtcBmRec {
   unsigned char blocks[kWorldFrames][100];
 };
