@@ -136,8 +136,8 @@ void Paint(WindowHandle panel) {
 
 // Beside the stage, on the side where the screen has more room.
 Point PlaceFor(int width, int height) {
-  // bounded: the settings file may hold any place for the stage; the panel beside it counts
-  // one far away.
+  // bounded: a stage that the settings file puts out of reach is far away for the place of the
+  // panel.
   const int x = std::clamp(Character.StageX, -kFarAway, kFarAway);
   const int y = std::clamp(Character.StageY, -kFarAway, kFarAway);
   const bool stageIsLeft = Screen.ScreenWidth / 2 > x + Stage.StageWidth / 2;

@@ -35,7 +35,8 @@ int WeekdayCount(int year, int month, int weekday) {
 }
 
 // A fixed date, and the Monday after it when it falls on a Sunday.
-// kept: that Monday is a holiday in the drawing of the calendar, but not for the schedule.
+// kept: the Monday behind a holiday on a Sunday is a holiday in the drawing of the calendar, but
+// not for the schedule.
 bool MatchesDate(const Rule& rule, const AskedDay& asked) {
   if (asked.month != rule.month) return false;
   const int day = rule.value - 1 - (rule.leapEarlier && asked.leap ? 1 : 0);
