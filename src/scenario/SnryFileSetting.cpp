@@ -82,7 +82,7 @@ bool Handle(const Event& event) {
 
 }  // namespace
 
-// kept: the dialog opens on whatever the buffers hold when the file of the scene cannot be read,
+// kept: when the file of a scene cannot be read, its dialog opens on whatever the buffers hold,
 // and its confirm writes that over the file.
 void SnryFileSettingRun(WindowHandle owner) {
   SnryFiguresTake();

@@ -39,7 +39,8 @@ int Edit() {
 
 // --- A new one
 
-// kept: a main file that is there already is not loaded; the first save replaces it.
+// kept: a new scenario does not load a main file that is there already; its first save replaces
+// it.
 int MakeMain() {
   const int status = SnryMainStatus();
   if (status == -3) return Tell("異常なシナリオメインファイルです", "新規シナリオ作成中止"), -1;
@@ -69,7 +70,8 @@ int New() {
 
 // --- One that is there
 
-// What cannot be read is told; the program goes on with what is left in memory.
+// kept: when the main file of a scenario cannot be read, that is told, and the program goes on
+// with what is left in memory.
 void ReadMain() {
   const int result = SnryMainRead();
   if (result == 0) return;
@@ -120,7 +122,7 @@ void CommandScenarioDelete() {
   FeatureDialogRun(Feature::None, Delete);
 }
 
-// settled: without a scenario that is being edited there is nothing to save.
+// settled: the command that saves a scenario does nothing while none is being edited.
 void CommandScenarioSave() {
   if (!Dialogs.hMenuDlg || Dialogs.DlgIdMenu != MenuDialog::RoutSnrySetting) return;
   if (SnryOpenList(Dialogs.hMenuDlg) != 0) return;
@@ -131,7 +133,7 @@ void CommandScenarioSave() {
   SnrySaveTold(Dialogs.hMenuDlg);
 }
 
-// settled: without a scenario that is being edited there is no folder for a background.
+// settled: the command that adds a background does nothing while no scenario is being edited.
 void CommandScenarioBackground() {
   if (!Dialogs.hMenuDlg || Dialogs.DlgIdMenu != MenuDialog::RoutSnrySetting) return;
   SnryBackgroundAdd(Dialogs.hSnryDlg ? Dialogs.hSnryDlg : Dialogs.hMenuDlg);

@@ -210,7 +210,7 @@ class RecordReader : public RecordIo<RecordReader> {
   }
 
   void Chars(char* first, int width, int room) {
-    // bounded: a text without a terminator ends with its array.
+    // bounded: a text of a file that has no terminator ends with its field.
     const int end = std::min(width, room - 1);
     if (Block(first, width, 1)) std::memset(first + end, 0, static_cast<std::size_t>(room - end));
   }

@@ -46,7 +46,7 @@ bool ReadFlags(bool& counted) {
   counted = good;
   if (good) {
     World.WorldCharaCount = static_cast<std::int32_t>(head.charaCount);
-    // settled: figures that the table has no room for are passed over.
+    // settled: figures of EDTCFLAG.edf that the table has no room for are passed over.
     World.WorldFigureCount =
         static_cast<std::int32_t>(std::min<std::uint32_t>(head.figureCount, kWorldFigureMax));
   }

@@ -107,8 +107,8 @@ void PlacesDown(SnrySceneRec& scene, const Change& change, int by) {
   }
 }
 
-// kept: behind copies that went, ids come down twice: those that moved have come down
-// already and are not told from the others.
+// kept: when copies of a character go, the ids of the cast behind them come down twice: those
+// that moved have come down already and are not told from the others.
 void IdsDown(SnrySceneRec& scene, const Change& change, int by) {
   for (int place = 0; place < SnryCastCount(scene); ++place) {
     std::uint16_t& id = scene.cast[place];

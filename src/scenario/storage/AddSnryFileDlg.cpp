@@ -13,8 +13,8 @@
 
 namespace {
 
-// kept: only an entry whose one attribute is that of a folder is left out, so that a hidden
-// folder is listed.
+// kept: among the files that can become scenes only an entry whose one attribute is that of a
+// folder is left out, so that a hidden folder is listed.
 bool IsListed(const SearchEntry& entry) {
   return entry.name[0] != '.' && entry.attributes != kAttributeFolder && !SnrySceneHasFile(entry.name);
 }
@@ -31,6 +31,17 @@ void Open(WindowHandle dialog) {
   SearchClose(search);
 }
 
+<<<<<<< HEAD
+=======
+void Open(WindowHandle dialog) {
+  Find();
+  RowsShow(dialog, IDC_SNRY_SCENES, RowsOf(SnryDialogs.fileCount, [](int row, char* text, int size) {
+             TextCopy(text, static_cast<std::size_t>(size), SnryDialogs.files[row]);
+           }));
+}
+
+// kept: a file that is added as a scene is not looked into; one too many is left out in silence.
+>>>>>>> 6584ea216dd4fd65b6d52713c24a6ff7c46c38d3
 void Add(WindowHandle dialog) {
   char name[kSnryPathSize + 1];
   const int row = ListSelected(dialog, IDC_SNRY_SCENES);
@@ -42,7 +53,7 @@ void Add(WindowHandle dialog) {
   SubDialogEnd(dialog, 1);
 }
 
-// kept: the button that would choose all files has no effect.
+// kept: the button that would add all files as scenes has no effect.
 constexpr DialogAct kActs[] = {
     {EventKind::Init, Open},
     {kOkButton, Add},

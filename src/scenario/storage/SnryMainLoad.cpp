@@ -20,7 +20,7 @@ void Choose(const Event& event) {
   MenuDialogEnd(event.window, 1);
 }
 
-// kept: the button of details has no effect.
+// kept: the button of details in the list of scenarios has no effect.
 constexpr DialogAct kActs[] = {
     {EventKind::Init, Open},
     {kOkButton, Choose},

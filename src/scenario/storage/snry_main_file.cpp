@@ -46,8 +46,8 @@ struct Reading {
     RecordsRead(data, records, count);
   }
   void Bytes(std::uint8_t* bytes, int count) { DataRead(data, bytes, count); }
-  // settled: a count beyond its table is taken as the whole table, so that one wrong number does
-  // not cost the scenario.
+  // settled: a count of a main file beyond its table is taken as the whole table, so that one wrong number
+  // does not cost the scenario.
   void Count(std::uint16_t& count, int most) {
     if (DataReadBE16(data, count)) count = static_cast<std::uint16_t>(std::min<int>(count, most));
   }
@@ -156,8 +156,8 @@ int SnryMainRead() {
   return result;
 }
 
-// kept: a main file is written, read back and written again, and what is there is deleted first;
-// a file that is no main file is not overwritten, and the save fails.
+// kept: the main file of a scenario is written, read back and written again, and what is there is deleted
+// first; a file that is no main file is not overwritten, and the save fails.
 int SnrySaveMain() {
   char path[kSnryLongPath];
   SnryMainPath(path, sizeof path);

@@ -28,7 +28,13 @@ void ResetMotions(SnryCastRec& cast, const WorldChara& chara) {
   }
 }
 
+<<<<<<< HEAD
 void ResetCast(SnryCastRec& cast, const WorldChara& chara) {
+=======
+// kept: exits, the ways in which lines end and the motions behind the twentieth stay when the
+// cast is made anew.
+void ResetCast(SnryCastRec& cast, const SnryCharMotionRec& motion) {
+>>>>>>> 6584ea216dd4fd65b6d52713c24a6ff7c46c38d3
   Clear(cast.lines);
   Clear(cast.lineParameters);
   Clear(cast.lineValues);
@@ -38,6 +44,8 @@ void ResetCast(SnryCastRec& cast, const WorldChara& chara) {
 
 }  // namespace
 
+// kept: a new scenario has the names, the motions, the labels of buttons and the options that are
+// in memory.
 void SnryMainReset() {
   Clear(SnryMain.title);
   TextCopy(SnryMain.title, sizeof SnryMain.title, "無題");
@@ -57,6 +65,7 @@ void SnryCountsClear() {
   SnryMain.registeredCount = 0;
 }
 
+// kept: a new scene has the backdrop, the keys and the scrolling that are in memory.
 void SnrySceneReset() {
   SnryCastReset();
   Clear(SnryScene.menus);
@@ -84,8 +93,8 @@ void SnryTableReset(SnryTableRec& table) {
   table.kept236[1] = 7;
 }
 
-// kept: only a stage of 1000 lines or more and of a width from 1 to 1200 keeps its options; the
-// sense of the test of the height is turned round.
+// kept: only a scenario's stage of 1000 lines or more and of a width from 1 to 1200 keeps its
+// options; the sense of the test of the height is turned round.
 void SnryOptionCheck() {
   SnryOptionRec& options = SnryMain.options;
   if (options.stageWidth >= 1 && options.stageWidth <= 1200 && options.stageHeight >= 1000) return;

@@ -56,7 +56,7 @@ void DrawGround(const Map& map) {
   DibDraw(map.canvas, map.area.left, map.area.top, SclMap.picture);
 }
 
-// bounded: a grid is drawn as far as the window shows it, however many cells it claims.
+// bounded: the grid of a map is drawn as far as the window shows it, however many cells it claims.
 void DrawCells(const Map& map) {
   for (unsigned row = 0; row < Sef.grid.rows; ++row) {
     if (!IsOnMap(map, CellOf(map, 0, static_cast<int>(row)))) return;
