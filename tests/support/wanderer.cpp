@@ -5,6 +5,7 @@
 #include <cstdlib>
 
 #include "platform/dialog.h"
+#include "platform/posix/posix_paths.h"
 #include "platform/posix/test_clock.h"
 #include "platform/window.h"
 #include "services/commands.h"
@@ -65,8 +66,8 @@ int Wanderer::Below(int bound) {
 // With MIRRELL_SOAK_TRACE set every deed is told before it is done.
 void Wanderer::Note(const std::string& what) {
   static const bool traced = std::getenv("MIRRELL_SOAK_TRACE") != nullptr;
-  if (traced) std::fprintf(stderr, "%d: %s\n", sends_, what.c_str());
-  trail_.push_back(what);
+  if (traced) std::fprintf(stderr, "%d: %s\n", sends_, Cp932ToUtf8(what).c_str());
+  trail_.push_back(Cp932ToUtf8(what));
   if (trail_.size() > 2 * kTrail) trail_.erase(trail_.begin(), trail_.end() - kTrail);
 }
 
