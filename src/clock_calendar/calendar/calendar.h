@@ -158,8 +158,8 @@ struct CalendarState {
   CalenStickerList CalenStickers = {};
   std::int32_t CalenCount = 0;
   char CalenNames[kCalenMax][kCalenNameSize] = {};
-  unsigned char CalenKinds[kCalenMax] = {};  // CalenPageKind
-  unsigned char CalenParts[kCalenMax] = {};  // kept: stored and read for each calendar, and used by nothing
+  unsigned char CalenKinds[kCalenMax] = {};     // CalenPageKind
+  unsigned char CalenParts[kCalenMax] = {};     // kept: a byte of each calendar is used by nothing
   unsigned char CalenPictures[kCalenMax] = {};  // picture switch
   CalenMonth CalenSheets[kCalenMax][kMonthsOfYear] = {};
   CalenMonthChoices CalenSheetFlags[kCalenMax][kMonthsOfYear] = {};

@@ -138,13 +138,7 @@ void Exchange(Form& form, SnryKeyRec& key) {
 }
 
 void ExchangePlace(Form& form, SnryPair& pair) {
-<<<<<<< HEAD
   SnryUnsignedPairExchange(form, IDC_KEY_PARA, IDC_KEY_VALUE, pair);
-=======
-  SnryParaExchange(form, IDC_KEY_PARA, pair.parameter);
-  // kept: a value below 0 that is typed for a key is 0, unlike in the other dialogs of a scene.
-  form.NumberIn(IDC_KEY_VALUE, pair.value, kValueDigits, 0, kValueHighest);
->>>>>>> 6584ea216dd4fd65b6d52713c24a6ff7c46c38d3
 }
 
 // --- The parameters of the current record
@@ -190,7 +184,6 @@ bool TakePlace(WindowHandle dialog, int place) {
   return true;
 }
 
-<<<<<<< HEAD
 constexpr ListDeed kAddPlace{
     .may = [] { return SlotFree(Key().parameters) >= 0; },
     .mayNot = {"設定できるパラメータは最大20個です", "パラメータ追加エラー"},
@@ -208,20 +201,13 @@ constexpr ListDeed kDeletePlace{.needsRow = true,
                                   SlotDrop(Key().values, place);
                                   return true;
                                 }};
-=======
-// kept: an assignment of a key that is empty is asked about, and takes the parameter all the same
-// unless the answer is to cancel.
-bool EmptyIsAllowed(WindowHandle dialog, const SnryKeyRec& key, const BoxWords& question) {
-  return key.key != 0 || BoxAsk(dialog, question);
-}
->>>>>>> 6584ea216dd4fd65b6d52713c24a6ff7c46c38d3
 
 constexpr BoxWords kAddEmpty{"キー/マウスが設定されていません", "パラメータの追加エラー"};
 constexpr BoxWords kChangeEmpty{"キーコードが設定されていません", "パラメータの変更エラー"};
 constexpr BoxWords kUnasked{};
 
-// kept: an empty record is asked about, and takes the parameter all the same unless the
-// answer is to cancel.
+// kept: an assignment of a key that is empty is asked about, and takes the parameter all the same
+// unless the answer is to cancel.
 template <const ListDeed& deed, const BoxWords& empty>
 void EditPlace(WindowHandle dialog) {
   if (!HasKey() || (Key().key == 0 && !BoxAsk(dialog, empty))) return;
@@ -247,15 +233,10 @@ void RecordChosen(WindowHandle dialog) {
   ShowSync(dialog);
 }
 
-<<<<<<< HEAD
-// kept: a record that is added has no cursor sync, whatever its buttons show; a change
-// gives it one.
-// settled: without a chosen key, as behind a record whose key the list does not have, nothing
-// is added.
-=======
 // kept: an assignment of a key that is added has no cursor sync, whatever its buttons show; a
 // change gives it one.
->>>>>>> 6584ea216dd4fd65b6d52713c24a6ff7c46c38d3
+// settled: without a chosen key, as behind an assignment whose key the list does not have, nothing
+// is added.
 bool AddRecord(WindowHandle dialog, int) {
   const int slot = FreeSlot();
   if (slot < 0 || ListSelected(dialog, IDC_KEY_KEY) < 0) return false;

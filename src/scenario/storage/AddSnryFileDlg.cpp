@@ -31,17 +31,7 @@ void Open(WindowHandle dialog) {
   SearchClose(search);
 }
 
-<<<<<<< HEAD
-=======
-void Open(WindowHandle dialog) {
-  Find();
-  RowsShow(dialog, IDC_SNRY_SCENES, RowsOf(SnryDialogs.fileCount, [](int row, char* text, int size) {
-             TextCopy(text, static_cast<std::size_t>(size), SnryDialogs.files[row]);
-           }));
-}
-
 // kept: a file that is added as a scene is not looked into; one too many is left out in silence.
->>>>>>> 6584ea216dd4fd65b6d52713c24a6ff7c46c38d3
 void Add(WindowHandle dialog) {
   char name[kSnryPathSize + 1];
   const int row = ListSelected(dialog, IDC_SNRY_SCENES);

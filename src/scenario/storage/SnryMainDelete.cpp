@@ -11,7 +11,6 @@ namespace {
 
 constexpr ListEditor kList{IDC_SNRY_LIST, [] { return static_cast<int>(SnryList.count); }, SnryListRowText};
 
-<<<<<<< HEAD
 // A row is gone from the list in memory also when the file cannot be rewritten; it is shown
 // so, or the next deletion would take another row than the chosen one.
 bool Remove(WindowHandle dialog, int row) {
@@ -21,9 +20,7 @@ bool Remove(WindowHandle dialog, int row) {
   return false;
 }
 
-=======
 // kept: a deleted scenario loses its row in the list only; its folder and its files stay.
->>>>>>> 6584ea216dd4fd65b6d52713c24a6ff7c46c38d3
 constexpr ListDeed kDelete{
     .needsRow = true,
     .question = {"シナリオを削除します。よろしいですか", "シナリオの削除"},

@@ -28,13 +28,9 @@ void ResetMotions(SnryCastRec& cast, const WorldChara& chara) {
   }
 }
 
-<<<<<<< HEAD
-void ResetCast(SnryCastRec& cast, const WorldChara& chara) {
-=======
 // kept: exits, the ways in which lines end and the motions behind the twentieth stay when the
 // cast is made anew.
-void ResetCast(SnryCastRec& cast, const SnryCharMotionRec& motion) {
->>>>>>> 6584ea216dd4fd65b6d52713c24a6ff7c46c38d3
+void ResetCast(SnryCastRec& cast, const WorldChara& chara) {
   Clear(cast.lines);
   Clear(cast.lineParameters);
   Clear(cast.lineValues);
