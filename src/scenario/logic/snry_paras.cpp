@@ -71,7 +71,6 @@ void SnryPairExchange(Form& form, int paraId, int valueId, SnryPair& pair, int d
   form.Number(valueId, pair.value, digits);
 }
 
-// kept: a value below 0 that is typed for a key or for scrolling is 0, unlike elsewhere in a scene.
 void SnryUnsignedPairExchange(Form& form, int paraId, int valueId, SnryPair& pair) {
   SnryParaExchange(form, paraId, pair.parameter);
   form.NumberIn(valueId, pair.value, kUnsignedDigits, 0, kUnsignedHighest);

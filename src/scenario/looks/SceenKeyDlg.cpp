@@ -235,7 +235,7 @@ void RecordChosen(WindowHandle dialog) {
 
 // kept: an assignment of a key that is added has no cursor sync, whatever its buttons show; a
 // change gives it one.
-// settled: without a chosen key, as behind an assignment whose key the list does not have, nothing
+// settled: without a chosen key, as behind a record whose key the list does not have, nothing
 // is added.
 bool AddRecord(WindowHandle dialog, int) {
   const int slot = FreeSlot();
