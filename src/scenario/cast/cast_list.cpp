@@ -104,6 +104,7 @@ void CastAddRowText(int row, char* text, int size) {
              SnryMain.charaNames[chara - 1].text, SnryMain.castNames[chara - 1].text);
 }
 
+// kept: a member too many of a cast is left out in silence.
 void CastAdd(int chara) {
   SnrySceneRec& scene = SnrySceneNow();
   if (SnryCastCount(scene) == kSnrySceneCastMax) return;
