@@ -106,7 +106,7 @@ bool SnryParaNameIsTaken(const char* name) {
   });
 }
 
-// kept: a parameter goes behind the last slot that was given; a gap in between is not used
+// kept: a new parameter goes behind the last slot that was given; a gap in between is not used
 // again.
 bool SnryParaAdd(const SnryParaRec& para) {
   if (SnryMain.paraCount >= kSnryParaMax) return false;
@@ -120,8 +120,8 @@ void SnryParaChange(int slot, const SnryParaRec& para) {
   if (slot >= 0 && slot < kSnryParaMax) SnryMain.paras[slot] = para;
 }
 
-// kept: who uses the parameter goes on naming its slot; the count falls by one only behind the
-// highest slot, whatever the slot below it holds.
+// kept: who uses a deleted parameter goes on naming its slot; the count falls by one only behind
+// the highest slot, whatever the slot below it holds.
 void SnryParaRemove(int slot) {
   if (slot < 0 || slot >= kSnryParaMax) return;
   SnryParaRec& para = SnryMain.paras[slot];

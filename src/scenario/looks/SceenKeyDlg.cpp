@@ -206,8 +206,8 @@ constexpr BoxWords kAddEmpty{"キー/マウスが設定されていません", "
 constexpr BoxWords kChangeEmpty{"キーコードが設定されていません", "パラメータの変更エラー"};
 constexpr BoxWords kUnasked{};
 
-// kept: an empty record is asked about, and takes the parameter all the same unless the
-// answer is to cancel.
+// kept: an assignment of a key that is empty is asked about, and takes the parameter all the same
+// unless the answer is to cancel.
 template <const ListDeed& deed, const BoxWords& empty>
 void EditPlace(WindowHandle dialog) {
   if (!HasKey() || (Key().key == 0 && !BoxAsk(dialog, empty))) return;
@@ -233,10 +233,10 @@ void RecordChosen(WindowHandle dialog) {
   ShowSync(dialog);
 }
 
-// kept: a record that is added has no cursor sync, whatever its buttons show; a change
-// gives it one.
-// settled: without a chosen key, as behind a record whose key the list does not have, nothing
-// is added.
+// kept: an assignment of a key that is added has no cursor sync, whatever its buttons show; a
+// change gives it one.
+// settled: a key assignment is not added while no key is chosen, as it is behind one whose key
+// the list does not have.
 bool AddRecord(WindowHandle dialog, int) {
   const int slot = FreeSlot();
   if (slot < 0 || ListSelected(dialog, IDC_KEY_KEY) < 0) return false;

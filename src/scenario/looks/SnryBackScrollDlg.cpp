@@ -36,7 +36,7 @@ SnryScrollRec& Scroll() {
 
 // --- The backgrounds
 
-// bounded: ten backgrounds, whatever the count says.
+// bounded: a scene scrolls ten backgrounds at most, whatever the count says.
 int Count() {
   return std::min<int>(Scroll().count, kSnryScrollMax);
 }
@@ -72,7 +72,8 @@ constexpr ListDeed kAdd{.may = [] { return Count() < kSnryScrollMax; },
                         .mayNot = {"設定できるスクロール背景は最大10個です", "スクロール背景追加エラー"},
                         .question = {"スクロール背景を追加します", "スクロール背景追加"},
                         .act = AddBackground};
-// bounded: a change needs a background to change; without one nothing is done.
+// bounded: a change of a scrolling background needs one that is chosen; without it nothing is
+// done.
 constexpr ListDeed kChange{
     .needsRow = true, .question = {"スクロール背景を変更します", "スクロール背景変更"}, .act = TakeFile};
 constexpr ListDeed kDeleteAsked{.needsRow = true,
@@ -86,7 +87,7 @@ void Add(WindowHandle dialog) {
 void Change(WindowHandle dialog) {
   if (ListSelected(dialog, IDC_SCROLL_FILES) >= 0) ListDeedRun(dialog, kBackgrounds, kChange);
 }
-// kept: a background is taken out without a question while there are fewer than ten.
+// kept: a scrolling background is taken out without a question while there are fewer than ten.
 void Delete(WindowHandle dialog) {
   ListDeedRun(dialog, kBackgrounds, Count() == kSnryScrollMax ? kDeleteAsked : kDeleteUnasked);
 }
@@ -194,7 +195,7 @@ void CharacterText(int row, char* text, int size) {
   TextCopy(text, static_cast<std::size_t>(size), row == 0 ? "未設定" : SnryMain.charaNames[row - 1].text);
 }
 
-// bounded: only characters whose row the record's byte can tell are offered.
+// bounded: for scrolling only characters whose row a byte can tell are offered.
 void ExchangeCharacter(Form& form, SnryScrollRec& scroll) {
   const int rows = 1 + std::min<int>({SnryMain.charaCount, kSnryCharaMax, kCharacterRows});
   form.Choice(IDC_SCROLL_CHARACTER, scroll.character, RowsOf(rows, CharacterText));

@@ -19,7 +19,7 @@ namespace {
 
 constexpr int kValueDigits = 3;
 constexpr int kSecondsDigits = 4;
-// kept: the sixth row says the fifth's words once more.
+// kept: the sixth row of a sound's repeats says the fifth's words once more.
 constexpr const char* kRepeats[] = {"繰り返さない", "2 回", "3 回",  "4 回",
                                     "5 回",         "5 回", "10 回", "起動条件が一致してる間"};
 
@@ -65,7 +65,7 @@ void Take(WindowHandle dialog, SnrySoundRec& sound) {
   sound.repeat = static_cast<std::uint8_t>(std::max(ListSelected(dialog, IDC_SOUND_REPEAT), 0));
 }
 
-// kept: what is chosen in the list of files then is the row of the sound's repeats, and the
+// kept: when a sound is chosen, the row of its repeats is chosen in the list of files, and the
 // list of repeats stays as it was; a change stores both as they stand.
 void SoundChosen(WindowHandle dialog) {
   const int slot = SlotOf(ListEditorChosen(dialog, kSounds));
