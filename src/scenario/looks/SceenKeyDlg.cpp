@@ -147,8 +147,9 @@ bool HasKey() {
   return SnryLooks.key >= 0;
 }
 
+// The current record; the first while there is none, which nobody asks for.
 SnryKeyRec& Key() {
-  return SnryScene.keys[SnryLooks.key];
+  return SnryScene.keys[HasKey() ? SnryLooks.key : 0];
 }
 
 // The place of a row of its parameters; -1 for a row that there is not.
