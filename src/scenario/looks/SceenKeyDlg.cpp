@@ -148,8 +148,9 @@ bool HasKey() {
   return SnryLooks.key >= 0;
 }
 
+// The current record; the first while there is none, which nobody asks for.
 SnryKeyRec& Key() {
-  return SnryScene.keys[SnryLooks.key];
+  return SnryScene.keys[HasKey() ? SnryLooks.key : 0];
 }
 
 // The place of a row of its parameters; -1 for a row that there is not.
@@ -232,8 +233,8 @@ void RecordChosen(WindowHandle dialog) {
 
 // kept: an assignment of a key that is added has no cursor sync, whatever its buttons show; a
 // change gives it one.
-// settled: without a chosen key, as behind a record whose key the list does not have, nothing
-// is added.
+// settled: a key assignment is not added while no key is chosen, as it is behind one whose key
+// the list does not have.
 bool AddRecord(WindowHandle dialog, int) {
   const int slot = FreeSlot();
   if (slot < 0 || ListSelected(dialog, IDC_KEY_KEY) < 0) return false;
