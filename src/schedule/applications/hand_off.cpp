@@ -15,6 +15,7 @@
 namespace {
 
 constexpr char kHandOffName[] = "SclApliStUp.svt";
+constexpr std::int32_t kLooksMost = 10;
 
 static_assert(RecordSize<HandOffHead>() + RecordSize<HandOffCalendars>() +
                   kCalenYearMax * kMonthsOfYear * RecordSize<CalenMonth>() +
@@ -59,6 +60,7 @@ void WatchBegin(std::int32_t entry, const char* path) {
   Applications.ApliStarted = entry;
   TextCopy(Applications.ApliHandOffFile, sizeof Applications.ApliHandOffFile, path);
   Applications.ApliHandOffTime = 0;
+  Applications.ApliHandOffLooks = 0;
   FileLastWrite(path, &Applications.ApliHandOffTime);
 }
 
@@ -119,10 +121,12 @@ bool SclHandOffCheck() {
   if (time == Applications.ApliHandOffTime) return false;
   HandOffHead head = {};
   // settled: a file that cannot be read whole is being written, and is looked at again at
-  // the next tick.
-  if (!HeadRead(head)) return false;
+  // the next ticks, ten times in all; then it is let be until it changes once more.
+  const bool whole = HeadRead(head);
+  if (!whole && ++Applications.ApliHandOffLooks < kLooksMost) return false;
+  Applications.ApliHandOffLooks = 0;
   Applications.ApliHandOffTime = time;
-  return AnswerTake(head);
+  return whole && AnswerTake(head);
 }
 
 void ApliSelectionTake() {
