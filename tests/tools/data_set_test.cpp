@@ -34,6 +34,7 @@
 #include "schedule/model/scl_file.h"
 #include "schedule/plan/plan.h"
 #include "schedule/plan/plan_file.h"
+#include "services/data_file.h"
 #include "services/program.h"
 #include "services/state.h"
 #include "services/text.h"
