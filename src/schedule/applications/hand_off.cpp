@@ -105,7 +105,7 @@ void ApliStart() {
   TextFormat(file, sizeof file, "%s%s", folder, kHandOffName);
   HandOffWrite(file, Applications.ApliMode);
   WatchBegin(entry, file);
-  // settled: a program that cannot be started is not the started one, so that it can be
+  // settled: an application that cannot be started is not the started one, so that it can be
   // tried again.
   if (!SiblingStart(folder, line)) WatchEnd();
   FolderSetCurrent(Program.RootFolder);
@@ -120,8 +120,9 @@ bool SclHandOffCheck() {
   }
   if (time == Applications.ApliHandOffTime) return false;
   HandOffHead head = {};
-  // settled: a file that cannot be read whole is being written, and is looked at again at
-  // the next ticks, ten times in all; then it is let be until it changes once more.
+  // settled: a hand-off file whose first 1000 bytes cannot be read is being written, and is
+  // looked at again at the next ticks, ten times in all, then not before it changes once more;
+  // a longer one is read as it stands.
   const bool whole = HeadRead(head);
   if (!whole && ++Applications.ApliHandOffLooks < kLooksMost) return false;
   Applications.ApliHandOffLooks = 0;
