@@ -87,7 +87,7 @@ class RatesTest : public ProgramTest {
     MakeFolder("C:\\mirrell\\apps");
     PutFile("C:\\mirrell\\apps\\study_1_1.sef", SefBytes(places));
     PutFile("C:\\mirrell\\apps\\study.wef", WefBytes("map.bmp"));
-    SclMapFileSet("C:\\mirrell\\apps\\study.exe");
+    TextCopy(Schedule.SclMapFile, sizeof Schedule.SclMapFile, "C:\\mirrell\\apps\\study.exe");
     SclMapRead();
     ASSERT_TRUE(SclMap.read);
   }
