@@ -59,7 +59,7 @@ void CalenTakeDefinition() {
 
 void CalenShowToday() {
   DisplayToday();
-  LoadMonth();
+  if (!CalenPicturesAreLoaded()) LoadMonth();
 }
 
 int CalenTodayShown() {
@@ -80,8 +80,7 @@ void CalenPrepareMonth() {
 }
 
 int CalenTickCheck() {
-  LocalTime now;
-  TimeGetLocal(&now);
+  const LocalTime& now = Today.SharedTime;
   const SclDate today = {now.year - 2000, now.month - 1, now.day - 1, now.hour};
   const bool otherMonth = today.year != Today.TodayYear || today.month != Today.TodayMonth;
   const bool otherDay = otherMonth || today.day != Today.TodayDay;

@@ -230,10 +230,10 @@ TEST_F(CalendarWindowTest, TheButtonsAreMadeAfreshAndGoWithTheWindow) {
 
 // --- When it is due
 
-TEST_F(CalendarWindowTest, AStillCalendarIsDueAtTheNextMinuteOnly) {
+TEST_F(CalendarWindowTest, AStillCalendarIsDueAtMidnightOnly) {
   Open();
-  Date(2026, 11, 21, 9, 30);  // 15 seconds past
-  EXPECT_EQ(CalenWindowDue(), 45000 / 30);
+  Date(2026, 11, 21, 9, 30);  // 15 seconds past: 14 hours, 29 minutes and 45 seconds are left
+  EXPECT_EQ(CalenWindowDue(), 52185000 / 30);
 }
 
 TEST_F(CalendarWindowTest, ARunningTickerIsDueAtEveryTickAndARestingOneAtTheEndOfItsRest) {
