@@ -358,7 +358,7 @@ TEST_F(CalendarWindowTest, AYearOfMidnightsIsFollowedDayByDay) {
   EXPECT_TRUE(Says("2029年  1月"));
 }
 
-TEST_F(CalendarWindowTest, TheCountsAreFlatOverADayOfTicks) {
+TEST_F(CalendarWindowTest, TheCountsAreFlatWhileATickerRuns) {
   Calendar.CalenDefinitions[0].tickerFlags = 1;
   CalenNoteSet(0, 10, 20, "a");
   Open(kPageWeek);
