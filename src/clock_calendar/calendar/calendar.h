@@ -147,8 +147,8 @@ inline constexpr int kNoteDays = 3;  // today, tomorrow, the day after
 struct CalenNote {
   bool due;
   std::int32_t year;  // two digits
-  // kept: month and day share one place, and the day is the last to be put there;
-  // both numbers of the announced date are this one + 1.
+  // kept: month and day of a note to be announced share one place, and the day is the last to
+  // be put there; both numbers of the announced date are this one + 1.
   std::int32_t monthAndDay;
   char text[kNoteSize + 1];
 };

@@ -157,7 +157,7 @@ const MaskedFrame* DigitsOf(const CalenPage& page, int day) {
   const auto& sets = page.pictures->CalenDigits;
   const bool second = CalenDayColour(page, day) != kCalenBlack && sets[1][0].picture;
   const MaskedFrame* set = second ? sets[1] : sets[0];
-  // settled: with a digit missing the number stands as text.
+  // settled: where the picture of a digit is missing, a day's number stands as text.
   const bool whole = std::all_of(set, set + kDigitCount, [](const MaskedFrame& p) { return p.picture; });
   return whole ? set : nullptr;
 }

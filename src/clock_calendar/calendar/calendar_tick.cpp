@@ -72,7 +72,8 @@ void CalenPrepareMonth() {
   if (Calendar.CalenYearPos < 0 ||
       Calendar.CalenYearPos >= std::min<std::int32_t>(Calendar.CalenYearCount, kCalenYearMax)) {
     const std::int64_t year = std::int64_t{Calendar.CalenFirstYear} + Calendar.CalenYearPos;
-    // bounded: the settings file may hold any place; today is always a year.
+    // bounded: the settings file may hold any first year and any place in the years; where they
+    // make no year, the calendar begins with this one.
     BeginSpanAt(year >= 0 && year <= 99 ? static_cast<int>(year) : Today.TodayYear);
   }
   LoadMonth();

@@ -1,5 +1,7 @@
 // The settings of the mail notification: the committed ones with their file, those that
 // the open dialog shows, and those that the client connects with.
+//
+// kept: the password of the mail server stands in its file as plain text.
 #pragma once
 
 #include <cstdint>

@@ -58,7 +58,7 @@ void SnryFolderRemove(int folder) {
   for (int i = folder + 1; i < count; ++i) {
     std::copy(std::begin(SnryMain.scenes[i]), std::end(SnryMain.scenes[i]), SnryMain.scenes[i - 1]);
   }
-  // kept: the scene records of the last place stay behind a folder's removal.
+  // kept: when a scenario folder is removed, the scene records of the last place stay.
   SnryMain.folders[count - 1] = {};
   SnryMain.sceneCounts[count - 1] = 0;
   --SnryMain.folderCount;
@@ -91,7 +91,7 @@ void SnrySceneRemove(int scene) {
   if (scene < 0 || scene >= count) return;
   SnrySceneRec* scenes = SnryMain.scenes[Scenario.folderIndex];
   MoveUp(scenes, scene, count);
-  // kept: the last scene record loses its flag only, behind a scene's removal.
+  // kept: when a scene is removed, the record of the last place loses its flag only.
   scenes[--count].used = 0;
 }
 
