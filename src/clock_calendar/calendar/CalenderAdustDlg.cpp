@@ -150,8 +150,7 @@ void Paint(WindowHandle dialog) {
 int DayAt(int x, int y) {
   const CalenPage page = EditedPage();
   for (int day = 0; day < CalenPageDays(page); ++day) {
-    const Rect cell = CellOf(page, day, kGridAt);
-    if (x >= cell.left && x < cell.right && y >= cell.top && y < cell.bottom) return day;
+    if (RectHas(CellOf(page, day, kGridAt), x, y)) return day;
   }
   return -1;
 }

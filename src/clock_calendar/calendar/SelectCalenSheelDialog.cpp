@@ -74,9 +74,7 @@ void Paint(WindowHandle dialog) {
 void Click(const Event& event) {
   const Grid grid = GridOf(event.window);
   for (int i = 0; i < CalenStickerCount(); ++i) {
-    const Rect cell = CellOf(grid, i);
-    if (event.x < cell.left || event.x >= cell.right || event.y < cell.top || event.y >= cell.bottom)
-      continue;
+    if (!RectHas(CellOf(grid, i), event.x, event.y)) continue;
     CalendarEdit.chosenSticker = i;
     Paint(event.window);
     return;
