@@ -21,8 +21,8 @@ bool DisplayTodayInSpan() {
   return index >= 0;
 }
 
-// settled: a span that is over begins anew with the year of today; of one that is yet to
-// come the first year is on display.
+// settled: a calendar whose years are over begins anew with the year of today; one whose years
+// are yet to come shows the first of them, and no day of it is today.
 void DisplayToday() {
   if (DisplayTodayInSpan()) return;
   if (Today.TodayYear > Calendar.CalenFirstYear) {
