@@ -421,6 +421,19 @@ TEST_F(DataSetTest, CheckFindsAMissingBackground) {
   EXPECT_TRUE(HasFault(Cp932ToUtf8("calendar 1, month 3: the background 春.bmp is not there")));
 }
 
+// The day page of the third calendar writes with the figures of character 23.
+TEST_F(DataSetTest, CheckFindsAMissingDigit) {
+  Remove(MadePicture("Chara23_5.bmp"));
+  EXPECT_TRUE(HasFault("calendar 3, digit: character 23 has no frame 5"));
+}
+
+TEST_F(DataSetTest, CheckFindsASpoiltMaskOfADigit) {
+  Spoil(MadePicture("Chara23_5x.bmp"), 54, 1);
+  const std::vector<std::string> faults = CheckDataSet(Made(""));
+  ASSERT_EQ(faults.size(), 1U);
+  EXPECT_EQ(faults[0].rfind("character 23 frame 5: the mask is neither black nor white at ", 0), 0U);
+}
+
 TEST_F(DataSetTest, ClockAlarmFileHoldsThreePerformances) {
   EXPECT_EQ(ClockAlarmFileRead(), 0);
   EXPECT_EQ(PerformanceTable.ClockPerformanceCount, 3);
