@@ -60,7 +60,7 @@ void LeftDouble(const Event& event) {
   const TablePlace place = PlaceOf(event);
   if (place.hit == TableHit::Content) BgmFileRun(event.window, place.row - 1);
   if (place.hit == TableHit::Hours) BGMRsvTimeSetDlgRun(event.window);
-  if (place.hit == TableHit::Title) SCLTitleDlgRun(ToolDialog::SCLTitleDlg, event.window);
+  if (place.hit == TableHit::Title) SCLTitleDlgRun(ToolDialog::SCLTitleDlgSecond, event.window);
   SendPaint(event.window);
 }
 
