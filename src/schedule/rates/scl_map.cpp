@@ -102,8 +102,9 @@ void SclMapRead() {
   SclMap.read = false;
   if (Schedule.SclMapFile[0] == '\0') return;
   const Application application = ApplicationOf(Schedule.SclMapFile);
-  SclMap.read = SefRead(application.folder, application.name, kFirstScene) == 0;
+  SefRead(application.folder, application.name, kFirstScene);
   WefRead(application.folder, application.name);
+  SclMap.read = true;
 }
 
 void SclStatusNamesRead() {
