@@ -1,6 +1,7 @@
 #include <algorithm>
 #include <functional>
 
+#include "platform/file.h"
 #include "platform/window.h"
 #include "resources/schedule_rates_ids.h"
 #include "schedule/table/schedule_table.h"
@@ -84,6 +85,20 @@ TEST_F(SclMapTest, TheApplicationsNameAndFolderComeFromThePath) {
   MakeApplication();
   EXPECT_EQ(SclMapPositionCount(), 2);
   EXPECT_STREQ(Wef.scenes[0].background, "map.bmp");
+}
+
+// Whatever folder the user has looked into last.
+TEST_F(SclMapTest, APathOfNoDriveBeginsAtTheProgramsFolder) {
+  MakeApplication();
+  MakeFolder("C:\\elsewhere");
+  ASSERT_TRUE(FolderSetCurrent("C:\\elsewhere"));
+  SclMapFileSet("apps\\study.exe");
+  SclMapRead();
+  EXPECT_EQ(SclMapPositionCount(), 2);
+  EXPECT_STREQ(Wef.scenes[0].background, "map.bmp");
+  SclMapFileSet("\\mirrell\\apps\\study.exe");
+  SclMapRead();
+  EXPECT_EQ(SclMapPositionCount(), 2);
 }
 
 TEST_F(SclMapTest, StatusNamesByCode) {
