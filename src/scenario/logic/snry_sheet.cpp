@@ -25,7 +25,8 @@ void Keep() {
   Copy(SnryScene.randomExs, SnrySheet.randomExs);
 }
 
-// kept: the extensions of the events are not among what a cancel brings back.
+// kept: whether an event remembers the entered text is not among what a cancel of a scene's ways
+// to move on brings back.
 void BringBack() {
   Copy(SnrySheet.menus, SnryScene.menus);
   Copy(SnrySheet.events, SnryScene.events);
@@ -33,6 +34,8 @@ void BringBack() {
   Copy(SnrySheet.randomExs, SnryScene.randomExs);
 }
 
+// kept: the scenario does not count as changed by a scene's ways to move on; they are in the
+// scene's file once the scene is confirmed.
 void Begin() {
   SnrySheet.menu = 0;
   SnrySheet.event = 0;
@@ -49,6 +52,8 @@ SheetPage EventPage() {
 
 }  // namespace
 
+// kept: the pages step through the first hundred records, so that the second hundred of a scene's
+// events and randoms is out of reach.
 int SnryRecordStep(int record, int step) {
   return (record + step + kSnryRecords) % kSnryRecords;
 }

@@ -62,7 +62,7 @@ void DrawGround(const Map& map) {
   DibDraw(map.canvas, map.area.left, map.area.top, SclMap.picture);
 }
 
-// bounded: a grid is drawn as far as the window shows it, however many cells it claims.
+// bounded: the grid of a map is drawn as far as the window shows it, however many cells it claims.
 void DrawCells(const Map& map) {
   for (int row = 0; static_cast<unsigned>(row) < Sef.grid.rows && IsOnMap(map, 0, row); ++row) {
     for (int column = 0; static_cast<unsigned>(column) < Sef.grid.columns && IsOnMap(map, column, row);
