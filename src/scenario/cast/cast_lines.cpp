@@ -64,6 +64,8 @@ CastLine CastLineTake(const SnryCastRec& member, int row) {
   return line;
 }
 
+// kept: a line without a text, or one too many, is left out in silence; a change may take the
+// text away.
 bool CastLineAdd(SnryCastRec& member, const CastLine& line) {
   const int slot = FreeSlot();
   const int place = SlotFree(member.lines);

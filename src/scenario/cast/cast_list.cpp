@@ -102,6 +102,7 @@ void CastAddRowText(int row, char* text, int size) {
   SnryCharaText(row + 1, chara, text, size);
 }
 
+// kept: a member too many of a cast is left out in silence.
 void CastAdd(int chara) {
   SnrySceneRec& scene = SnrySceneNow();
   if (SnryCastCount(scene) == kSnrySceneCastMax) return;

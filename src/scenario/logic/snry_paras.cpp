@@ -109,6 +109,7 @@ bool SnryParaNameIsTaken(const char* name) {
 // kept: a new parameter goes behind the last slot that was given; a gap in between is not used
 // again.
 bool SnryParaAdd(const SnryParaRec& para) {
+  // kept: a parameter too many is left out in silence.
   if (SnryMain.paraCount >= kSnryParaMax) return false;
   SnryMain.paras[SnryMain.paraCount] = para;
   SnryMain.paras[SnryMain.paraCount].used = 1;
