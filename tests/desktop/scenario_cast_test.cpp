@@ -339,15 +339,16 @@ TEST_F(ScenarioCastTest, TwoHundredCopiesAreTheLimitOfAllTogether) {
   ASSERT_TRUE(EndBy(copies, IDOK));
   EXPECT_EQ(Cast().size(), 5U);
 
-  SetCopies(2, L"200");
-  EXPECT_TRUE(WaitFor([&] { return Cast().size() == 203; }));
-  EXPECT_EQ(Cast().back(), L"203. " + kFrog + L"のコピー200 [登場名: かえる]");
-  const HWND full = OpenFor(0, IDC_SNRY_CAST_COPY, kCopies);
-  ASSERT_TRUE(full);
-  EXPECT_EQ(EditText(full, IDC_CAST_COPIES_MOST), L"0");
-  SetEdit(full, IDC_CAST_COPIES, L"1");
-  Answer(full, IDOK, L"コピー数設定エラー", L"コピー最大数を超えています。");
-  ASSERT_TRUE(EndBy(full, IDCANCEL));
+  // What is left is for the others: more of them is refused, as the number says.
+  SetCopies(2, L"180");
+  EXPECT_TRUE(WaitFor([&] { return Cast().size() == 183; }));
+  EXPECT_EQ(Cast().back(), L"183. " + kFrog + L"のコピー180 [登場名: かえる]");
+  const HWND rest = OpenFor(0, IDC_SNRY_CAST_COPY, kCopies);
+  ASSERT_TRUE(rest);
+  EXPECT_EQ(EditText(rest, IDC_CAST_COPIES_MOST), L"20");
+  SetEdit(rest, IDC_CAST_COPIES, L"21");
+  Answer(rest, IDOK, L"コピー数設定エラー", L"コピー最大数を超えています。");
+  ASSERT_TRUE(EndBy(rest, IDCANCEL));
 
   // With the character go all of its copies.
   const HWND leave = OpenFor(2, IDC_SNRY_CAST_DELETE, kDelete);
