@@ -36,8 +36,14 @@ bool Handle(const Event& event) {
 
 }  // namespace
 
+// settled: one of these dialogs at a time, as their folder is one; a command from outside
+// opens none over another.
 int FolderPickRun(ToolDialog number, int templateId, WindowHandle owner, char* folder, int size) {
-  if (ToolDialogRun(number, templateId, owner, Handle) != 1) return 0;
+  if (FolderPick.active) return 0;
+  FolderPick.active = true;
+  const int result = ToolDialogRun(number, templateId, owner, Handle);
+  FolderPick.active = false;
+  if (result != 1) return 0;
   if (FolderPick.folderOnShow[0] == '\0') return 0;  // where it stood could not be told
   const bool driveRoot =
       std::strcmp(FolderPick.folderOnShow + TextPrefix(FolderPick.folderOnShow, 1), ":\\") == 0;

@@ -97,6 +97,20 @@ TEST_F(FolderPickTest, ADialogThatCannotBeMadeChoosesNothing) {
   EXPECT_STREQ(folder, "as it was");
 }
 
+TEST_F(FolderPickTest, NoneOpensOverAnotherAndTheOpenOneGoesOn) {
+  Then([this] {
+    const WindowHandle dialog = TopDialog();
+    char other[300] = "as it was";
+    EXPECT_EQ(FolderPickRun(ToolDialog::FileDivFileDlg, IDD_FileDivFileDlg, nullptr, other, sizeof other), 0);
+    EXPECT_STREQ(other, "as it was");
+    EXPECT_EQ(TopDialog(), dialog);
+    OpenFolderRow("[sub]");
+  });
+  Then([] { Press(TopDialog(), 1); });
+  EXPECT_EQ(Run(), 1);
+  EXPECT_STREQ(folder, "C:\\start\\sub");
+}
+
 TEST_F(FolderPickTest, TheResultStaysInsideTheCallersBuffer) {
   char small[6] = "";
   Then([] { Press(TopDialog(), 1); });

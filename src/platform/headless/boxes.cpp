@@ -4,6 +4,7 @@
 #include <deque>
 
 #include "platform/dialog.h"
+#include "platform/headless/free_user.h"
 #include "platform/headless/state.h"
 #include "platform/window.h"
 
@@ -90,6 +91,10 @@ void FileDialogShow(const WindowPointer& owner, const std::function<void()>& mea
 bool FileDialogRun(const FileDialogCall& call, char* path, int size) {
   const WindowPointer owner = OwnerOf(call.owner, "the owner of a file dialog");
   fileDialogs.push_back(call);
+  if (expectedFiles.empty() && freeUser) {
+    const std::string chosen = freeUser->File(call);
+    return !chosen.empty() && CopyOut(chosen, path, size) == static_cast<int>(chosen.size());
+  }
   if (expectedFiles.empty()) {
     Failure("nobody expected the file dialog " + Quoted(call.title));
     return false;
@@ -107,12 +112,47 @@ bool FileDialogRun(const FileDialogCall& call, char* path, int size) {
   return true;
 }
 
+// The free user's answer to the box that has come last, with its owner disabled meanwhile.
+BoxAnswer FreeAnswer(const WindowPointer& owner) {
+  const bool enabled = owner && owner->enabled;
+  if (owner) owner->enabled = false;
+  const Box box = boxesShown.back();
+  const BoxAnswer answer = freeUser->Answer(box);
+  if (enabled) owner->enabled = true;
+  if (!Offers(box.buttons, answer)) Failure("the box " + Told(box.text, box.caption) + " has no such button");
+  return answer;
+}
+
+void CommandsOf(const std::vector<ResourceMenuItem>& items, std::vector<std::uint32_t>& commands) {
+  for (const ResourceMenuItem& item : items) {
+    if (!item.isPopup && !item.separator && !item.grayed) commands.push_back(item.command);
+    CommandsOf(item.items, commands);
+  }
+}
+
+// What comes of a chosen entry.
+std::uint32_t MenuChosen(WindowHandle window, std::uint32_t command, bool asCommand) {
+  if (command != 0 && !asCommand) SendCommand(window, command);
+  return asCommand ? command : 0;
+}
+
+std::uint32_t FreeMenu(const std::vector<ResourceMenuItem>& items, WindowHandle window, bool asCommand) {
+  std::vector<std::uint32_t> commands;
+  CommandsOf(items, commands);
+  menuIsUp = true;
+  const std::uint32_t command = freeUser->Entry(commands);
+  if (!menuIsUp) return 0;
+  menuIsUp = false;
+  return MenuChosen(window, command, asCommand);
+}
+
 }  // namespace
 
 BoxAnswer MessageBoxRun(WindowHandle owner, const char* text, const char* caption, BoxButtons buttons,
                         BoxIcon icon) {
   boxesShown.push_back({text, caption, buttons, icon, owner});
   const WindowPointer ownerWindow = OwnerOf(owner, "the owner of a message box");
+  if (expectedBoxes.empty() && freeUser) return FreeAnswer(ownerWindow);
   if (expectedBoxes.empty()) {
     Failure("nobody expected the box " + Told(text, caption));
     return Harmless(buttons);
@@ -160,6 +200,7 @@ std::uint32_t MenuPopup(int menuId, WindowHandle window, int x, int y, bool asCo
     Failure(name + " is not in the resources");
     return 0;
   }
+  if (expectedMenus.empty() && freeUser) return FreeMenu(menu->second[0].items, window, asCommand);
   if (expectedMenus.empty() || expectedMenus.front().menuId != menuId) {
     Failure("nobody expected " + name);
     return 0;
@@ -177,9 +218,7 @@ std::uint32_t MenuPopup(int menuId, WindowHandle window, int x, int y, bool asCo
     Failure(name + " does not offer " + std::to_string(command));
     return 0;
   }
-  if (asCommand) return command;
-  SendCommand(window, command);
-  return 0;
+  return MenuChosen(window, command, asCommand);
 }
 
 void MenuPopupEnd() {

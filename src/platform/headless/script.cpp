@@ -1,6 +1,7 @@
 // The script, the failures against it, and the start from nothing.
 #include <deque>
 
+#include "platform/headless/free_user.h"
 #include "platform/headless/state.h"
 #include "platform/posix/posix_paths.h"
 
@@ -15,6 +16,7 @@ std::function<void(const Event&)> overhearing;
 }  // namespace
 
 bool nextLoopIsLeft = false;
+FreeUser* freeUser = nullptr;
 
 std::uintptr_t HandleNext() {
   constexpr std::uintptr_t kFirst = 0x10000;
@@ -66,7 +68,10 @@ void OverhearTell(const Event& event) {
 }
 
 bool ScriptStep() {
-  if (steps.empty()) return false;
+  if (steps.empty()) {
+    if (freeUser) freeUser->Deed();
+    return freeUser != nullptr;
+  }
   const std::function<void()> step = std::move(steps.front());
   steps.pop_front();
   step();
@@ -99,4 +104,9 @@ void HeadlessReset() {
   failures.clear();
   overhearing = nullptr;
   nextLoopIsLeft = false;
+  freeUser = nullptr;
+}
+
+void FreeUserSet(FreeUser* user) {
+  freeUser = user;
 }

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "platform/dialog.h"
+#include "platform/headless/free_user.h"
 #include "platform/headless/state.h"
 #include "platform/posix/faults.h"
 #include "platform/window.h"
@@ -94,6 +95,20 @@ void SheetPageChoose(int page) {
     return;
   }
   Show(*sheet, page);
+}
+
+WindowHandle SheetPageOnShow() {
+  const Sheet* sheet = SheetOf(TopDialog());
+  if (!sheet) return nullptr;
+  for (const WindowHandle page : sheet->made) {
+    if (IsVisible(page)) return page;
+  }
+  return nullptr;
+}
+
+int SheetPageCount() {
+  const Sheet* sheet = SheetOf(TopDialog());
+  return sheet ? static_cast<int>(sheet->pages.size()) : 0;
 }
 
 void SheetsReset() {

@@ -134,9 +134,13 @@ WindowPointer OwnerOf(WindowHandle owner, const char* call);
 void Failure(const std::string& text);
 // Code page 932 text for a failure: UTF-8 in quotes.
 std::string Quoted(const std::string& text);
-// Runs the next step. False if there is none.
+// Runs the next step, or asks the free user. False if there is none.
 bool ScriptStep();
 void ScriptReset();
+
+// Who is asked where no script says what comes next; null: nobody.
+class FreeUser;
+extern FreeUser* freeUser;
 
 // For EventSend: tells who overhears.
 void OverhearTell(const Event& event);

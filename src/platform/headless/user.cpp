@@ -2,6 +2,7 @@
 #include <cctype>
 
 #include "platform/cp932.h"
+#include "platform/headless/free_user.h"
 #include "platform/headless/state.h"
 #include "platform/window.h"
 
@@ -272,6 +273,11 @@ void MouseSend(WindowHandle window, EventKind kind, int x, int y, unsigned keys,
 }
 
 }  // namespace
+
+bool MouseReaches(WindowHandle window, int x, int y) {
+  const WindowPointer found = Windows().Find(window);
+  return found && found->visible && found->enabled && !MouseMeets(*found, x, y);
+}
 
 void Mouse(WindowHandle window, EventKind kind, int x, int y, unsigned keys) {
   MouseSend(window, kind, x, y, keys, 0);

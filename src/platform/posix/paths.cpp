@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cctype>
+#include <filesystem>
 #include <map>
 
 #include "platform/posix/posix_paths.h"
@@ -97,6 +98,26 @@ std::string PosixToCp932(const std::string& utf8) {
   return Convert(converter, true, utf8);
 }
 
+namespace {
+
+// A path of a drive, told from its root: ".." does not lead out of it.
+std::string OnDrive(const std::string& drive, const std::string& rest) {
+  const std::string rooted = rest.starts_with('/') ? rest : "/" + rest;
+  if (rooted.find("..") == std::string::npos) return drive + rooted;
+  return drive + std::filesystem::path(rooted).lexically_normal().string();
+}
+
+// A path told from the current folder.
+std::string FromCurrent(const std::string& path) {
+  char current[4096];
+  if (path.find("..") == std::string::npos || !getcwd(current, sizeof current)) return path;
+  const std::string drive = CurrentDrive();
+  if (drive.empty()) return path;
+  return OnDrive(drive, current + drive.size() + ("/" + path));
+}
+
+}  // namespace
+
 std::string PosixPath(const char* path) {
   // Backslashes are turned after the conversion: a trail byte may be 0x5C, and
   // in UTF-8 no byte of a Japanese character is.
@@ -108,16 +129,16 @@ std::string PosixPath(const char* path) {
     const char letter = static_cast<char>(std::toupper(static_cast<unsigned char>(text[0])));
     std::string rest = text.substr(2);
     const auto drive = Drives().find(letter);
-    if (drive != Drives().end()) return drive->second + (rest.empty() ? "/" : rest);
+    if (drive != Drives().end()) return OnDrive(drive->second, rest);
     if (letter == 'Z') return rest.empty() ? "/" : rest;
     return "/nonexistent-drive" + rest;
   }
   // Without a letter, the root is that of the current drive.
   if (text.starts_with('/')) {
     const std::string drive = CurrentDrive();
-    if (!drive.empty()) return drive + text;
+    return drive.empty() ? text : OnDrive(drive, text);
   }
-  return text;
+  return FromCurrent(text);
 }
 
 std::string PosixToProgram(const std::string& path) {
@@ -146,6 +167,6 @@ void PosixDriveSet(char letter, const std::string& folder) {
 std::string PosixDrives() {
   std::string letters;
   for (const auto& drive : Drives()) letters += drive.first;
-  letters += 'Z';
+  if (!Drives().contains('Z')) letters += 'Z';
   return letters;
 }

@@ -9,6 +9,9 @@ void TestClockSet(const LocalTime& time);
 // While the clock is set, milliseconds pass only by this.
 void TestClockPass(unsigned milliseconds);
 
+// The set clock goes on: the local time too.
+void TestClockGo(unsigned milliseconds);
+
 // From now on nobody may set the clock, or everybody again.
 void TestClockForbid(bool forbidden);
 

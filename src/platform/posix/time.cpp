@@ -27,6 +27,22 @@ void TestClockPass(unsigned milliseconds) {
   fixedMilliseconds += milliseconds;
 }
 
+void TestClockGo(unsigned milliseconds) {
+  constexpr unsigned kSecond = 1000;
+  fixedMilliseconds += milliseconds;
+  const unsigned all = static_cast<unsigned>(fixedTime.millisecond) + milliseconds;
+  tm at{};
+  at.tm_year = fixedTime.year - 1900;
+  at.tm_mon = fixedTime.month - 1;
+  at.tm_mday = fixedTime.day;
+  at.tm_hour = fixedTime.hour;
+  at.tm_min = fixedTime.minute;
+  at.tm_sec = fixedTime.second;
+  const std::time_t seconds = timegm(&at) + static_cast<std::time_t>(all / kSecond);
+  gmtime_r(&seconds, &at);
+  FromTm(at, static_cast<int>(all % kSecond), &fixedTime);
+}
+
 void TestClockForbid(bool now) {
   forbidden = now;
 }
