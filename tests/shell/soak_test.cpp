@@ -105,7 +105,8 @@ class SoakTest : public ProgramTest {
 
   // Whether anything has gone wrong.
   void Look() {
-    for (const std::string& failure : HeadlessTakeFailures()) ADD_FAILURE() << failure << " " << user_->Trail();
+    for (const std::string& failure : HeadlessTakeFailures())
+      ADD_FAILURE() << failure << " " << user_->Trail();
     for (const std::string& stuck : user_->Stuck()) ADD_FAILURE() << "cannot be left: " << stuck;
   }
 
