@@ -118,7 +118,7 @@ bool Proc(const Event& event) {
 }  // namespace
 
 void MotionPreviewRun(WindowHandle owner, int index, Preview kind) {
-  if (index < 0 || index >= kMainCharaMax) return;  // bounded: a place beyond the list plays nothing
+  if (index < 0 || index >= kMainCharaMax) return;  // bounded: a main character beyond the list plays nothing
   Load(CharaTables.MainCharas[index], kind);
   SubDialogRun(kNumbers[static_cast<int>(kind)], IDD_DspOptionOpeDlg, owner, Proc);
   Free();

@@ -40,7 +40,7 @@ void NameRow(int selection, char* text, int size) {
 void Fill(WindowHandle dialog) {
   for (const Choice& choice : kChoices) {
     const std::int32_t selection = Character.AlarmCharaSel[choice.row];
-    // bounded: a selection beyond the list selects nobody.
+    // bounded: an alarm character beyond the list is shown as none.
     const bool listed = selection >= 0 && selection <= CharaTables.AlarmCharaCount;
     RowsShow(dialog, choice.combo, RowsOf(CharaTables.AlarmCharaCount + 1, NameRow), listed ? selection : 0);
   }

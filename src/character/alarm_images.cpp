@@ -61,7 +61,7 @@ void AlarmCharaLoad() {
 
 void AlarmRowLoad(AlarmRow* row, int selection) {
   AlarmRowFree(row);
-  // bounded: a selection may lie beyond the list.
+  // bounded: an alarm character beyond the list has no images.
   if (selection < 1 || selection > CharaTables.AlarmCharaCount || selection > kAlarmCharaMax) return;
   const int number = CharaTables.AlarmCharas[selection - 1];
   if (number < 1) return;

@@ -53,7 +53,8 @@ struct ReadTransfer {
   bool Records(T* records, int count) {
     return RecordsRead(data, records, count);
   }
-  // bounded: a count beyond its table is bad content; nothing behind it is read.
+  // bounded: a count of the character file that its table cannot hold makes the file bad
+  // content.
   bool Count(std::int32_t& count, int most) {
     if (!DataReadBE32(data, count)) return false;
     badCount = count < 0 || count > most;
@@ -66,8 +67,8 @@ struct ReadTransfer {
     badCount = count > most;
     return !badCount;
   }
-  // A count and its numbers. settled: those that the table has no room for are passed
-  // over, so that what stands behind them is not lost with them.
+  // A count and its numbers. settled: alarm characters that the table has no room for are
+  // passed over, so that what stands behind them is not lost with them.
   bool NumberList(std::int32_t& count, std::int32_t* numbers, int most) {
     if (!Count(count, std::numeric_limits<std::int32_t>::max())) return false;
     const std::int32_t listed = count;

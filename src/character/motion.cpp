@@ -18,7 +18,8 @@ namespace {
 
 constexpr std::int32_t kTicksBetweenSteps = 16;
 // Steps of one count of the idle timer's next level.
-// kept: they are no seconds, and the labels of the delays are nominal: "5分" is 365 steps.
+// kept: the steps of the idle timer are no seconds, and the labels of the delays are nominal:
+// "5分" is 365 steps.
 constexpr std::int32_t kStepsOfCount = 60;
 
 // What a step comes to.
@@ -110,7 +111,7 @@ Step StepBored() {
     return Step::Nothing;
   }
   const std::int32_t place = PatternLength() - Motion.BoredLeft;
-  // bounded: the pattern in play may have been cut short by another character.
+  // bounded: a bored pattern in play may have been cut short by another character; it ends.
   if (Motion.BoredLeft <= 0 || place < 0 || place >= kBoredLenMax) {
     GoIdle();
     return Step::Redraw;

@@ -34,7 +34,7 @@ int ReadFrame(DataFile& data, Outline* outline) {
   outline->count = 0;
   std::uint32_t count = 0;
   if (!DataReadBE32(data, count)) return -2;
-  if (count > kOutlinePointMax) return -2;  // bounded: more points than the table takes
+  if (count > kOutlinePointMax) return -2;  // bounded: an outline of more points than the table takes is none
   unsigned char image[RecordSize<Point>() * kOutlinePointMax];
   const int size = RecordBytesRead(data, image, static_cast<int>(count) * RecordSize<Point>());
   outline->count = size / RecordSize<Point>();
@@ -71,6 +71,8 @@ int OutlineReadAll(int number, Outline (&outlines)[kFrameMax]) {
   for (Outline& outline : outlines) outline.count = 0;
   DataFile data;
   if (!OpenDwc(data, number)) return -1;
+  // kept: the number of frames in an outline file says nothing to a walking character, which
+  // reads twenty as far as they are there.
   std::uint8_t ignored = 0;
   const int result = DataReadByte(data, ignored) ? ReadFrames(data, kFrameMax, outlines) : -2;
   DataClose(data);

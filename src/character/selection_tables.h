@@ -5,7 +5,8 @@
 
 inline constexpr const char* kBoredDelayLabels[] = {"5分",   "10分",  "30分",  "1時間", "1時間30分",
                                                     "2時間", "3時間", "4時間", "5h",    "ランダム"};
-// kept: the last two rows read the same, though the last one holds a frame longer.
+// kept: the last two rows of a bored pattern's speed read the same, though the last one holds a
+// frame longer.
 inline constexpr const char* kBoredSpeedLabels[] = {"0秒", "30ﾐﾘ秒", "40ﾐﾘ秒", "50ﾐﾘ秒",
                                                     "1秒", "2秒",    "10秒",   "10秒"};
 inline constexpr const char* kBoredRepeatLabels[] = {"0",  "2",  "3",   "4",   "5",

@@ -119,7 +119,8 @@ int CharaLoadStage() {
 
 void StageShowFrame(int frame, int slot) {
   Stage.CharaFrame = frame;
-  if (slot < 0 || slot >= kOutlineSlotCount) return;  // bounded: an outline beyond the table is not taken
+  // bounded: an outline of the stage beyond the table is not taken.
+  if (slot < 0 || slot >= kOutlineSlotCount) return;
   if (OutlinesEqual(Stage.StageOutlines[slot], Stage.CurrentOutline)) {
     Stage.StageRedraw = kRedrawSame;
     return;

@@ -54,17 +54,13 @@ void Open(WindowHandle dialog) {
 
 // --- What is done to a folder, and to a parameter
 
-void MakeFolder(WindowHandle dialog) {
-  MkNewSnryFolderDlgRun(dialog);
+template <void (*run)(WindowHandle)>
+void ANewFolder(WindowHandle dialog) {
+  run(dialog);
   ShowFolders(dialog);
 }
 
-void AddFolder(WindowHandle dialog) {
-  AddSnryFolderDlgRun(dialog);
-  ShowFolders(dialog);
-}
-
-template <class Result, Result (*run)(WindowHandle)>
+template <void (*run)(WindowHandle)>
 void OfFolder(WindowHandle dialog) {
   const int row = ListEditorChosen(dialog, kFolders);
   if (row < 0) return;
@@ -100,10 +96,10 @@ void SaveAndEnd(WindowHandle dialog) {
 
 constexpr DialogAct kActs[] = {
     {EventKind::Init, Open},
-    {IDC_SNRY_FOLDER_NEW, MakeFolder},
-    {IDC_SNRY_FOLDER_ADD, AddFolder},
-    {IDC_SNRY_FOLDER_DELETE, OfFolder<bool, DelSnryFolderDlgRun>},
-    {IDC_SNRY_FOLDER_SET, OfFolder<void, SnryFolderSettingRun>},
+    {IDC_SNRY_FOLDER_NEW, ANewFolder<MkNewSnryFolderDlgRun>},
+    {IDC_SNRY_FOLDER_ADD, ANewFolder<AddSnryFolderDlgRun>},
+    {IDC_SNRY_FOLDER_DELETE, OfFolder<DelSnryFolderDlgRun>},
+    {IDC_SNRY_FOLDER_SET, OfFolder<SnryFolderSettingRun>},
     {IDC_SNRY_PARAS, EventKind::Chosen, ParaChosen},
     {IDC_SNRY_PARA_ADD, AddPara},
     {IDC_SNRY_PARA_CHANGE, OfPara<ChgSnryParaDlgRun>},

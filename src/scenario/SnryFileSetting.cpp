@@ -1,5 +1,8 @@
 // SnryFileSetting, "場面ファイル設定".
 
+#include <algorithm>
+#include <iterator>
+
 #include "platform/dialog.h"
 #include "resources/scenario_storage_ids.h"
 #include "scenario/scenario_doors.h"
@@ -57,6 +60,16 @@ void Accept(WindowHandle dialog) {
   SubDialogEnd(dialog, 1);
 }
 
+// Name and start condition have been confirmed by themselves and stay; the rest goes with the
+// file, which has no records for a cast that was not confirmed.
+void DropEdits() {
+  SnrySceneRec& scene = SnrySceneNow();
+  SnrySceneRec& before = Scenario.sceneBefore;
+  before.start = scene.start;
+  std::copy(std::begin(scene.name), std::end(scene.name), before.name);
+  scene = before;
+}
+
 constexpr DialogAct kActs[] = {
     {EventKind::Init, Show},
     {IDC_SNRY_CAST, EventKind::Chosen, CastChosen},
@@ -69,11 +82,12 @@ bool Handle(const Event& event) {
 
 }  // namespace
 
-// kept: the dialog opens on whatever the buffers hold when the file of the scene cannot be read,
+// kept: when the file of a scene cannot be read, its dialog opens on whatever the buffers hold,
 // and its confirm writes that over the file.
 void SnryFileSettingRun(WindowHandle owner) {
   SnryFiguresTake();
   SnrySceneLoad(Scenario.folderIndex, Scenario.sceneIndex);
   Scenario.castRow = -1;
-  SubDialogRun(SubDialog::SnryFileSetting, IDD_SnryFileSetting, owner, Handle);
+  Scenario.sceneBefore = SnrySceneNow();
+  if (SubDialogRun(SubDialog::SnryFileSetting, IDD_SnryFileSetting, owner, Handle) != 1) DropEdits();
 }

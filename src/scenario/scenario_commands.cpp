@@ -14,6 +14,7 @@
 #include "services/feature_dialog.h"
 #include "services/program.h"
 #include "services/text.h"
+#include "world/world_pictures.h"
 
 namespace {
 
@@ -26,17 +27,20 @@ int Tell(const char* text, const char* caption) {
   return 0;
 }
 
-// The scenario is edited, and saved if that changed something.
+// The scenario is edited, and saved if that changed something. The pictures of the
+// characters are kept no longer than that.
 int Edit() {
   SnryWorldLoad();
   RoutSnrySettingRun(Owner());
   if (Scenario.changed) SnrySaveTold(Owner());
+  WorldPicturesFree();
   return 0;
 }
 
 // --- A new one
 
-// kept: a main file that is there already is not loaded; the first save replaces it.
+// kept: a new scenario does not load a main file that is there already; its first save replaces
+// it.
 int MakeMain() {
   const int status = SnryMainStatus();
   if (status == -3) return Tell("異常なシナリオメインファイルです", "新規シナリオ作成中止"), -1;
@@ -66,7 +70,8 @@ int New() {
 
 // --- One that is there
 
-// What cannot be read is told; the program goes on with what is left in memory.
+// kept: when the main file of a scenario cannot be read, that is told, and the program goes on
+// with what is left in memory.
 void ReadMain() {
   const int result = SnryMainRead();
   if (result == 0) return;
@@ -76,19 +81,23 @@ void ReadMain() {
 }
 
 void TakeRow(int row) {
+  if (row < 0) return;
   Scenario.listIndex = row;
   TextCopy(Scenario.mainFolder, sizeof Scenario.mainFolder, SnryList.rows[row].folder);
   TextCopy(SnryMain.title, sizeof SnryMain.title, SnryList.rows[row].title);
 }
 
+// kept: the main folder is entered before it is asked whether a row was chosen, so that a user
+// who leaves the list of scenarios without one is told that there is no folder as long as no
+// scenario has been opened.
 int Load() {
   constexpr char kStopped[] = "シナリオロードの中止";
   if (SnryOpenList(Owner()) != 0) return Tell("シナリオリストファイルを開くことができません。", kStopped);
   SnryOptionCheck();
   const int row = SnryMainLoadRun(Owner());
-  if (row < 0 || row >= SnryList.count) return 0;
   TakeRow(row);
   if (!FolderSetCurrent(Scenario.mainFolder)) return Tell("シナリオフォルダーがありません。", kStopped);
+  if (row < 0) return 0;
   Scenario.changed = false;
   ReadMain();
   return Edit();
@@ -113,7 +122,7 @@ void CommandScenarioDelete() {
   FeatureDialogRun(Feature::None, Delete);
 }
 
-// settled: without a scenario that is being edited there is nothing to save.
+// settled: the command that saves a scenario does nothing while none is being edited.
 void CommandScenarioSave() {
   if (!Dialogs.hMenuDlg || Dialogs.DlgIdMenu != MenuDialog::RoutSnrySetting) return;
   if (SnryOpenList(Dialogs.hMenuDlg) != 0) return;
@@ -124,7 +133,7 @@ void CommandScenarioSave() {
   SnrySaveTold(Dialogs.hMenuDlg);
 }
 
-// settled: without a scenario that is being edited there is no folder for a background.
+// settled: the command that adds a background does nothing while no scenario is being edited.
 void CommandScenarioBackground() {
   if (!Dialogs.hMenuDlg || Dialogs.DlgIdMenu != MenuDialog::RoutSnrySetting) return;
   SnryBackgroundAdd(Dialogs.hSnryDlg ? Dialogs.hSnryDlg : Dialogs.hMenuDlg);

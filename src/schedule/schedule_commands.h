@@ -5,7 +5,7 @@
 
 #include "services/commands.h"
 
-// All numbers of the schedule, the plans and the application list.
+// 2026 to 2028, 2035, 2368 to 2370: nothing.
 void ScheduleCommand(Command command);
 
 // 2372: the change of the executing application that waits is made, and its schedule is

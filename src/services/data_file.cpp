@@ -12,7 +12,7 @@ bool DataOpenRead(DataFile& data, const char* path, OpenMode mode) {
 }
 
 bool DataReplace(DataFile& data, const char* path) {
-  // kept: the old file is gone before the new one is written.
+  // kept: an old data file is gone before the new one is written.
   const int old = FileOpen(path, OpenMode::ReadWrite);
   FileClose(old);
   if (old != kNoFile) FileDelete(path);

@@ -111,6 +111,23 @@ int Run(Family<Number>& family, EventHandler proc, Number dialog, int templateId
   return result;
 }
 
+// --- Dialogs of no family
+
+struct PlainDialog {
+  EventHandler handler;
+  void* context;
+};
+
+bool PlainDlgProc(const Event& event) {
+  const auto& plain = *static_cast<const PlainDialog*>(event.context);
+  Event own = event;
+  own.context = plain.context;
+  if (plain.handler(own)) return true;
+  if (!EndIsAsked(event)) return false;
+  DialogEnd(event.window, IsPressed(event, kOkButton) ? kOkButton : kCancelButton);
+  return true;
+}
+
 }  // namespace
 
 void DialogsReset() {
@@ -122,7 +139,7 @@ void DialogsReset() {
 }
 
 bool FamilyDialogIsUp() {
-  return Dialogs.hMenuDlg || Dialogs.hToolDlg || Dialogs.hSubDlg || Dialogs.hSnryDlg;
+  return Dialogs.hMenuDlg || Dialogs.hToolDlg || Dialogs.hSubDlg || Dialogs.hSnryDlg || Dialogs.plain > 0;
 }
 
 int MenuDialogRun(MenuDialog dialog, int templateId, WindowHandle owner, EventHandler handler,
@@ -139,6 +156,21 @@ int SubDialogRun(SubDialog dialog, int templateId, WindowHandle owner, EventHand
 int SnryDialogRun(SnryDialog dialog, int templateId, WindowHandle owner, EventHandler handler,
                   void* context) {
   return Run(snryFamily, SnryDlgProc, dialog, templateId, owner, handler, context);
+}
+
+int PlainDialogRun(int templateId, WindowHandle owner, EventHandler handler, void* context) {
+  PlainDialog plain{handler, context};
+  ++Dialogs.plain;
+  const int result = DialogRun(templateId, owner, PlainDlgProc, &plain);
+  --Dialogs.plain;
+  return result;
+}
+
+bool PlainSheetRun(WindowHandle owner, const char* caption, const SheetPage* pages, int count) {
+  ++Dialogs.plain;
+  const bool taken = SheetRun(owner, caption, pages, count);
+  --Dialogs.plain;
+  return taken;
 }
 
 void MenuDialogEnd(WindowHandle dialog, int result) {

@@ -1,10 +1,12 @@
 // The four families of modal dialogs. Each has an id of the template in force
 // and a handle; a dialog that opens from inside another is of another family, so
 // that both can be asked for. One that opens from inside its own family takes id and
-// handle over for as long as it is open.
+// handle over for as long as it is open. Dialogs of no family, and property sheets, are
+// counted, so that it is known when one is up.
 #pragma once
 
 #include "platform/event.h"
+#include "platform/sheet.h"
 #include "services/dialog_numbers.h"
 
 struct DialogsState {
@@ -16,13 +18,14 @@ struct DialogsState {
   ToolDialog DlgIdTool = ToolDialog::None;
   SubDialog DlgIdSub = SubDialog::None;
   SnryDialog DlgIdSnry = SnryDialog::None;
+  int plain = 0;  // how many dialogs of no family and property sheets are up
 };
 extern DialogsState Dialogs;
 
 // No dialog of a family is known any more.
 void DialogsReset();
 
-// Whether a dialog of one of the families is up.
+// Whether a dialog of one of the families, one of none, or a property sheet is up.
 bool FamilyDialogIsUp();
 
 // Runs a modal dialog of a family: sets the family's id, runs, and clears the
@@ -38,6 +41,13 @@ int SubDialogRun(SubDialog dialog, int templateId, WindowHandle owner, EventHand
                  void* context = nullptr);
 int SnryDialogRun(SnryDialog dialog, int templateId, WindowHandle owner, EventHandler handler,
                   void* context = nullptr);
+
+// Runs a modal dialog of no family in the same way, but for id and handle: only that it is
+// up is known.
+int PlainDialogRun(int templateId, WindowHandle owner, EventHandler handler, void* context = nullptr);
+
+// SheetRun, with the sheet known to be up.
+bool PlainSheetRun(WindowHandle owner, const char* caption, const SheetPage* pages, int count);
 
 // Ends a family's dialog from its own handler: clears the handle (for the menu
 // family the panel state too) and ends it with `result`.

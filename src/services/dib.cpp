@@ -138,7 +138,7 @@ ImageHandle LoadFrom(int file) {
   if (FileRead(file, bytes, kFileHeaderSize) != kFileHeaderSize) return nullptr;
   if (!RecordTake(header, bytes, kFileHeaderSize) || header.magic != kMagic) return nullptr;
   const std::uint32_t fileSize = header.size;
-  // bounded: a block too small for its first word is no picture.
+  // bounded: a picture file too small for the first word of its header is none.
   if (fileSize < kFileHeaderSize + 4 || !FileHolds(file, fileSize)) return nullptr;
   const std::uint32_t size = fileSize - kFileHeaderSize;
   auto* block = static_cast<unsigned char*>(MemoryAllocate(size));
@@ -165,8 +165,8 @@ struct Layout {
   std::size_t stride;  // bytes from row to row
 };
 
-// bounded: header, colour table and rows must lie inside the block; false if not,
-// and for anything that is not a plain uncompressed picture.
+// False for anything that is not a plain uncompressed picture.
+// bounded: header, colour table and rows of a picture must lie inside its block.
 bool LayoutOf(ImageHandle image, Layout* layout) {
   const std::uint64_t size = MemorySize(image);
   if (size < kCoreSize) return false;
@@ -185,9 +185,9 @@ bool LayoutOf(ImageHandle image, Layout* layout) {
   if (bits != 1 && bits != 4 && bits != 8 && bits != 16 && bits != 24 && bits != 32) return false;
   if (headerSize >= kUpToCompression && header.compression != 0) return false;
 
-  // kept: 16 and 32 bits count a colour table too, which such files do not have.
-  // Their rows then end behind the block, and they draw nothing unless the header
-  // names the number of colours.
+  // kept: a picture of 16 or 32 bits counts a colour table too, which such files do not have.
+  // Its rows then end behind the block, and it draws nothing unless the header names the
+  // number of colours.
   std::uint64_t colours = bits == 24 ? 0 : std::uint64_t{1} << bits;
   if (headerSize >= kUpToColours && header.colours != 0) colours = header.colours;
 
@@ -236,7 +236,7 @@ int DibWidth(ImageHandle image) {
   return HeaderOf<Figures>(image).width;
 }
 
-// kept: the low 16 bits count, of a negative height too.
+// kept: of a picture's width and height the low 16 bits count, of a negative height too.
 int DibHeight(ImageHandle image) {
   if (MemorySize(image) < kFiguresSize) return 0;
   const auto figures = HeaderOf<Figures>(image);

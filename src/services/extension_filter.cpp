@@ -10,6 +10,8 @@ namespace {
 
 constexpr int kExtensionSize = 8;
 
+// kept: the last extension of the row of sources, "*RC", lacks its full stop on show; it counts
+// as ".RC".
 const char* const kTexts[kFilterRows] = {
     "*.*",   "*.C",   "*.CPP", "*.H",   "*.INC", "*.RC",  "*.C *.CPP *.H *.INC *RC",
     "*.DOC", "*.TXT", "*.XCL", "*.BMP", "*.JPG", "*.WAV", "*.MP3",
@@ -18,6 +20,7 @@ const char* const kTexts[kFilterRows] = {
 
 // What stands behind the first full stop, at most 8 bytes, in capitals. False
 // without a full stop.
+// kept: the extension of a name with several full stops begins behind the first of them.
 bool ExtensionOf(const char* name, char (&extension)[kExtensionSize + 1]) {
   const char* stop = std::strchr(name, '.');
   if (!stop) return false;

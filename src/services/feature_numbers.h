@@ -14,7 +14,7 @@ enum class Feature : std::int32_t {
   FolderScope = 6,
   DivideChoice = 7,
   Divide = 8,
-  PanelSchedule = 8,  // kept: the panel's schedule level has the number of dividing
+  PanelSchedule = 8,  // kept: the panel's schedule level has the feature number of dividing
   Restore = 9,
   PanelDesktop = 10,
   MailSettings = 11,

@@ -44,7 +44,7 @@ void OpenFolders(WindowHandle dialog) {
 // The fixed kinds of file, and behind them the caller's if it is none of these.
 void OpenFilter(WindowHandle dialog) {
   FilterFill(dialog, kPickFilterId);
-  // bounded: the caller's row is there only for a call that brings a filter.
+  // bounded: the row of the caller's filter is there only for a call that brings one.
   if (Picker.PickFilterSel < 0 || Picker.PickFilterSel >= kFilterRows) Picker.PickFilterSel = kFilterAll;
   if (Picker.PickFilter[0] != '\0') {
     Picker.PickFilterSel = FilterFind(Picker.PickFilter);
@@ -70,8 +70,10 @@ void End(WindowHandle dialog) {
 }
 
 void Accept(WindowHandle dialog) {
+  // kept: a name that is typed into the file picker is taken as it stands, even where a file is
+  // to be loaded that is not there.
   ControlGetText(dialog, kPickNameId, Picker.PickName, sizeof Picker.PickName);
-  // kept: behind the root of a drive the backslash stands twice.
+  // kept: in a path of the file picker the backslash stands twice behind the root of a drive.
   TextFormat(Picker.PickResult, sizeof Picker.PickResult, "%s\\%s", Picker.PickFolder, Picker.PickName);
   Picker.PickDone = 1;
   End(dialog);

@@ -11,6 +11,7 @@ struct FiveTicksState {
 extern FiveTicksState FiveTicks;
 
 // Turns the step on; the first one comes after that many ticks.
+// kept: the five-tick step goes on when the window that wanted it has closed.
 void FiveTicksStart(std::int32_t first);
 
 // One tick. True when the step is due.

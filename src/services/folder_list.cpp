@@ -77,8 +77,8 @@ void OpenRow(const FolderList& list) {
   const int length =
       ListText(list.dialog, kFolderListId, ListSelected(list.dialog, kFolderListId), row, sizeof row);
   if (length < 3) return;
-  // kept: the second character alone tells the rows apart, so that a folder whose
-  // name begins with a full stop leads up, and one with a hyphen to a drive.
+  // kept: the second character alone tells the rows of a folder list apart, so that a folder
+  // whose name begins with a full stop leads up, and one with a hyphen to a drive.
   if (row[1] == '.') {
     PathGoUp(list.folder);
   } else if (row[1] == '-') {

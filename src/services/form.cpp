@@ -48,13 +48,18 @@ int Form::RadioValue(const int* ids, int count, int value) {
   return checked;
 }
 
+// settled: a number with more characters than its field takes, as a negative one becomes in a
+// field without sign, stays as it is while its text stands there as it was shown.
 std::int32_t Form::NumberValue(int id, std::int32_t value, int digits, const char* format) {
   char text[kNumberSize];
-  if (Takes()) {
-    ControlGetText(dialog_, id, text, std::min(digits + 1, kNumberSize));
-    return DecimalParse(text);
-  }
   TextFormat(text, sizeof text, format, value);
+  if (Takes()) {
+    char typed[kNumberSize];
+    ControlGetText(dialog_, id, typed, sizeof typed);
+    if (std::strcmp(typed, text) == 0) return value;
+    typed[std::min(digits, kNumberSize - 1)] = '\0';
+    return DecimalParse(typed);
+  }
   ControlSetLimit(dialog_, id, digits);
   ControlSetText(dialog_, id, text);
   return value;

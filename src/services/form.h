@@ -63,7 +63,8 @@ class Form {
   }
 
   // An edit field with a number of at most `digits` characters, its sign among them, read
-  // by the rule of DecimalParse and cut to the width of its field.
+  // by the rule of DecimalParse and cut to the width of its field. What stands there as the
+  // field's own number is shown is that number, however long.
   template <class T>
   void Number(int id, T& field, int digits, const char* format = "%d") {
     const std::int32_t value = NumberValue(id, static_cast<std::int32_t>(field), digits, format);

@@ -35,7 +35,8 @@ bool ListDeedRun(WindowHandle dialog, const ListEditor& editor, const ListDeed& 
   if (RowIsMissing(dialog, editor, deed)) return Refuse(dialog, deed.noRow);
   if (deed.may && !deed.may()) return Refuse(dialog, deed.mayNot);
   if (!Asked(dialog, editor, deed) || RowIsMissing(dialog, editor, deed)) return false;
-  if (!deed.act(dialog, ListEditorChosen(dialog, editor))) return Refuse(dialog, deed.failed);
-  ListEditorShow(dialog, editor);
+  const int row = ListEditorChosen(dialog, editor);
+  if (!deed.act(dialog, row)) return Refuse(dialog, deed.failed);
+  ListEditorShow(dialog, editor, deed.keepsRow ? row : -1);
   return true;
 }

@@ -10,6 +10,7 @@
 struct ListDeed {
   bool needsRow = false;    // it is done to the chosen row ...
   BoxWords noRow{};         // ... and this is told when there is none
+  bool keepsRow = false;    // ... which stays chosen behind it
   bool (*may)() = nullptr;  // whether it can be done at all, for example there is room
   BoxWords mayNot{};        // what is told when it cannot
   // For a question that names the row: its text, terminated at `size`.
@@ -32,6 +33,7 @@ void ListEditorShow(WindowHandle dialog, const ListEditor& editor, int chosen = 
 // The chosen row; -1 for none. A row that the table no longer has is none.
 int ListEditorChosen(WindowHandle dialog, const ListEditor& editor);
 
-// Does it. True when it is done; the list is shown anew then, with no row chosen. The row
-// is asked for again behind the question, as the program goes on while a box is up.
+// Does it. True when it is done; the list is shown anew then, with no row chosen but for a
+// deed that keeps it. The row is asked for again behind the question, as the program goes on
+// while a box is up.
 bool ListDeedRun(WindowHandle dialog, const ListEditor& editor, const ListDeed& deed);

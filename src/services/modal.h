@@ -1,6 +1,6 @@
 // Whether something modal stands in the user's way.
 #pragma once
 
-// A dialog of one of the four families, the program's file picker, or a file dialog of the
-// system is up. Modeless windows, and commands from outside, open no dialog then.
+// A modal dialog of a feature, a property sheet, the program's file picker, or a file dialog
+// of the system is up. Modeless windows, and commands from outside, open no dialog then.
 bool ModalIsUp();

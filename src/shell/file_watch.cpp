@@ -12,6 +12,7 @@
 #include "character/options.h"
 #include "character/stage.h"
 #include "clock_calendar/calendar/calendar.h"
+#include "clock_calendar/calendar/calendar_window.h"
 #include "clock_calendar/clock/clock.h"
 #include "platform/dialog.h"
 #include "platform/file.h"
@@ -21,6 +22,7 @@
 #include "services/dialog_family.h"
 #include "services/dialog_numbers.h"
 #include "services/program.h"
+#include "services/settings_save.h"
 #include "shell/settings.h"
 #include "shell/shell_commands.h"
 
@@ -78,8 +80,7 @@ void CalendarAnswer() {
   if (!Watch.calendarReload) return;
   Watch.calendarReload = false;
   CommandSend(Command::CalendarYears);
-  SendClose(Calendar.hCalenWnd);
-  if (Calendar.CalenShow) CommandSend(Command::CalendarOpen);
+  CalenWindowRenew();
   if (Watch.calendarTell) {
     Watch.calendarTell = false;
     CommandSend(Command::CalendarChanged);
@@ -127,6 +128,12 @@ void ClockAlarmLook() {
 
 void FileWatchStampTake(WatchedFile file) {
   StampRead(file, &Watch.stamps[static_cast<int>(file)]);
+}
+
+// settled: what the program has saved itself is no change of a sibling's, and is not read
+// again.
+void CalendarFileSaved() {
+  FileWatchStampTake(WatchedFile::CalendarFile);
 }
 
 void FileWatch() {

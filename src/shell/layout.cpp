@@ -8,9 +8,6 @@
 #include "clock_calendar/calendar/calendar_window.h"
 #include "clock_calendar/clock/clock.h"
 #include "clock_calendar/clock/clock_size.h"
-#include "clock_calendar/clock/clock_window.h"
-#include "platform/time.h"
-#include "platform/window.h"
 #include "services/commands.h"
 #include "services/screen_figures.h"
 
@@ -35,20 +32,6 @@ int DivFor(int width, int height) {
   if (width / div >= 401 || height / div >= 241) div = 4;
   if (width / div >= 401 || height / div > 240) div = 5;
   return div;
-}
-
-void ClockApply() {
-  SendClose(Clock.hClockWnd);
-  if (Clock.ClockShow == 0) return;
-  LocalTime now;
-  TimeGetLocal(&now);
-  ClockTimeTake(now.hour, now.minute);
-  if (!Clock.hClockWnd) ClockWindowOpen();
-}
-
-void CalendarApply() {
-  SendClose(Calendar.hCalenWnd);
-  if (Calendar.CalenShow != 0 && !Calendar.hCalenWnd) CalenWindowOpen();
 }
 
 }  // namespace
@@ -114,7 +97,7 @@ void LayoutDefault() {
 
 void CommandLayoutApply(Command) {
   if ((Layout.LayoutChange & kLayoutStage) != 0) StageMove(true);
-  if ((Layout.LayoutChange & kLayoutClock) != 0) ClockApply();
-  if ((Layout.LayoutChange & kLayoutCalendar) != 0) CalendarApply();
+  if ((Layout.LayoutChange & kLayoutClock) != 0) CommandSend(Command::ClockOpen);
+  if ((Layout.LayoutChange & kLayoutCalendar) != 0) CalenWindowRenew();
   Layout.LayoutChange = 0;
 }

@@ -41,8 +41,8 @@ int LayoutItemAt(int x, int y);
 
 // Gives the windows' places those of the image where they differ, and sets
 // LayoutChange to what does.
-// kept: the image has lost the remainder of the division, so an item whose place is
-// no multiple of LayoutDiv differs even if nobody dragged it.
+// kept: the image of the layout dialog has lost the remainder of the division, so an item
+// whose place is no multiple of LayoutDiv differs even if nobody dragged it.
 void LayoutPut();
 
 // --- The screen

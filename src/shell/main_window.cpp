@@ -41,7 +41,7 @@ void Size(const Event& event) {
 }
 
 void Close(const Event&) {
-  // kept: the window is never destroyed; the end of the process takes it.
+  // kept: the main window is never destroyed; the end of the process takes it.
   SendDestroy(Program.hMainWnd);
 }
 

@@ -5,7 +5,7 @@
 #include "services/boxes.h"
 #include "services/commands.h"
 #include "services/data_file.h"
-#include "services/dialog_family.h"
+#include "services/modal.h"
 #include "services/program.h"
 #include "services/text.h"
 #include "shell/shell_commands.h"
@@ -93,7 +93,7 @@ void OldDataFree() {
 
 void CommandOldData(Command command) {
   // One dialog at a time, as with the features.
-  if (FamilyDialogIsUp() || FileDialogIsUp()) return;
+  if (ModalIsUp()) return;
   if (command == Command::OldLoad) {
     OldDataLoad();
   } else if (command == Command::OldSave) {

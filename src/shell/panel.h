@@ -16,7 +16,9 @@ struct PanelState {
   std::int32_t FuncNo = 0;           // the active feature
   Rect MenuPanelRect = {};           // the panel's place on the screen
   std::int32_t MenuCloseCount = 0;  // from 40 down while the pointer is outside the panel; -1: inside it once
-  std::int32_t MenuReopenGuard = 0;  // from 40 down; blocks opening the panel again
+  // From 40 down; blocks opening the panel again. kept: nothing sets MenuReopenGuard, so a panel
+  // that has closed may open at the next move of the pointer.
+  std::int32_t MenuReopenGuard = 0;
 };
 extern PanelState Panel;  // written by the panel's own files
 

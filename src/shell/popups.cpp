@@ -10,8 +10,7 @@
 #include "resources/schedule_ids.h"
 #include "schedule/table/row_commands.h"
 #include "services/commands.h"
-#include "services/dialog_family.h"
-#include "services/file_picker.h"
+#include "services/modal.h"
 #include "services/panel_entry.h"
 #include "services/program.h"
 #include "shell/shell_commands.h"
@@ -32,8 +31,7 @@ bool Popup(int menuId, WindowHandle window) {
 }  // namespace
 
 bool PopupMayOpen() {
-  return !PanelIsOpen() && !FamilyDialogIsUp() && !FileDialogIsUp() && !BackUpRun.hBackUpDlg &&
-         !Stepped.hSearchDlg && !Picker.hFilePickDlg;
+  return !PanelIsOpen() && !ModalIsUp() && !BackUpRun.hBackUpDlg && !Stepped.hSearchDlg;
 }
 
 void PopupPointSet(Point at) {

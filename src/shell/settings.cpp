@@ -96,8 +96,8 @@ int SysFileRead() {
   char magic[kSysFileMagicSize + 1] = {};
   if (!DataRead(file.data, magic, kSysFileMagicSize)) return DataFailShort(file.data);
   if (std::strcmp(magic, kMagic) != 0) {
-    // kept: a file of something else counts as read, so that the start goes on
-    // with the state as it was.
+    // kept: a settings file that is something else counts as read, so that the start goes
+    // on with the state as it was.
     DataClose(file.data);
     FileResult.FileStatus = -2;
     return 0;

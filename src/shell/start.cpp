@@ -98,6 +98,8 @@ void StartSequence(WindowHandle window) {
   ApliListRead();
   SclExecutionLoad();
   MailSettingsRead();
+  // kept: without settings that can be read the program runs on with no alarm images, no
+  // clock and no calendar.
   if (settings != 0) return;
 
   AlarmCharaLoad();

@@ -6,8 +6,7 @@
 #include "platform/dialog.h"
 #include "platform/time.h"
 #include "platform/window.h"
-#include "services/dialog_family.h"
-#include "services/file_picker.h"
+#include "services/modal.h"
 #include "services/program.h"
 #include "services/tick_step.h"
 #include "shell/tick.h"
@@ -51,7 +50,7 @@ void Run(int ticks) {
 // The handlers of these dialogs may change at any time what a tick has to do. Other
 // windows belong to a step of the tick, which says when it is due.
 bool DialogIsUp() {
-  return FamilyDialogIsUp() || FileDialogIsUp() || Picker.hFilePickDlg || Music.hBgmWnd;
+  return ModalIsUp() || Music.hBgmWnd;
 }
 
 }  // namespace

@@ -14,7 +14,8 @@ constexpr char kMagic[] = "シナリオ シーン 編集ファイル";
 
 // Reads as many records as the file claims to have; the table keeps the whole ones that it
 // has room for.
-// settled: objects and stage sizes that the table has no room for are passed over.
+// settled: objects and stage sizes of a scene edit file that the table has no room for are
+// passed over.
 template <class T, int N>
 void ReadTable(DataFile& data, std::uint32_t claimed, T (&table)[N], int& count) {
   for (std::uint32_t i = 0; i < claimed && !data.failed; ++i) {

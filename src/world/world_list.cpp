@@ -46,7 +46,7 @@ bool ReadFlags(bool& counted) {
   counted = good;
   if (good) {
     World.WorldCharaCount = static_cast<std::int32_t>(head.charaCount);
-    // settled: figures that the table has no room for are passed over.
+    // settled: figures of EDTCFLAG.edf that the table has no room for are passed over.
     World.WorldFigureCount =
         static_cast<std::int32_t>(std::min<std::uint32_t>(head.figureCount, kWorldFigureMax));
   }
@@ -59,16 +59,19 @@ bool ReadFlags(bool& counted) {
   return good;
 }
 
-void ReadCharas() {
+// How many characters have come.
+int ReadCharas() {
   char path[kRootPathSize];
   WorldDataPath(path, sizeof path);
   DataFile data;
-  if (!DataOpenRead(data, path, OpenMode::Read)) return;
+  if (!DataOpenRead(data, path, OpenMode::Read)) return 0;
   EdtcCharRec record;
-  for (int i = 0; i < World.WorldCharaCount && RecordRead(data, record); ++i) {
-    TakeChara(World.WorldCharas[i], record);
+  int read = 0;
+  while (read < World.WorldCharaCount && RecordRead(data, record)) {
+    TakeChara(World.WorldCharas[read++], record);
   }
   DataClose(data);
+  return read;
 }
 
 const WorldChara* CharaAt(int number) {
@@ -77,10 +80,10 @@ const WorldChara* CharaAt(int number) {
 
 }  // namespace
 
-bool WorldListRead() {
+int WorldListRead() {
   bool counted = false;
-  if (ReadFlags(counted)) ReadCharas();
-  return counted;
+  const int read = ReadFlags(counted) ? ReadCharas() : 0;
+  return counted ? read : -1;
 }
 
 const char* WorldCharaName(int number) {

@@ -4,6 +4,9 @@
 //
 // EDTCFLAG.edf holds an EdtcHead and an EdtcFigureRec for each figure, EDTCDATA.edf an
 // EdtcCharRec for each character.
+//
+// kept: a third file, EDTCBMDATA.edf, with 20 blocks of 100 bytes for each character, has no
+// effect; nothing reads it.
 #pragma once
 
 #include <cstdint>
@@ -38,8 +41,9 @@ extern WorldState World;
 
 // Reads both files over the tables, and ends without a word where a file is
 // missing, short, or counts more characters than there can be; what was read stays.
-// Figures beyond the table are passed over. True when the counts have been read anew.
-bool WorldListRead();
+// Figures beyond the table are passed over. How many characters have been read anew; -1
+// when not even the counts have.
+int WorldListRead();
 
 // Name of a character by its number from 1; empty for one that the list does not
 // hold.

@@ -88,15 +88,3 @@ constexpr void Fields(Io& io, EdtcCharRec& chara) {
   io.Record(chara.figures);
 }
 static_assert(RecordSize<EdtcCharRec>() == 1520);
-
-// EDTCBMDATA.edf, 20 blocks of 100 bytes for each character.
-// kept: the file has no effect; nothing reads it.
-struct EdtcBmRec {
-  unsigned char blocks[kWorldFrames][100];
-};
-
-template <class Io>
-constexpr void Fields(Io& io, EdtcBmRec& chara) {
-  io.Bytes(chara.blocks);
-}
-static_assert(RecordSize<EdtcBmRec>() == 2000);

@@ -468,6 +468,15 @@ TEST_F(CalendarTest, ANewYearOutsideTheSpanBecomesItsFirstYear) {
   EXPECT_EQ(Calendar.CalenMonths[0][0].firstWeekday, 4);
 }
 
+TEST_F(CalendarTest, ASpanThatBeginsAnewEndsBy2099) {
+  Span(96, 3);
+  SetToday(98, 11, 30);
+  TestClockSet({2099, 1, 1, 3, 0, 0, 0, 0});
+  EXPECT_EQ(CalenTickCheck(), 1);
+  EXPECT_EQ(Calendar.CalenFirstYear, 99);
+  EXPECT_EQ(Calendar.CalenYearCount, 1);
+}
+
 TEST_F(CalendarTest, APlaceOutOfTheSettingsFileBringsASpanThatHoldsIt) {
   Span(26, 1);
   Today.TodayYear = 26;

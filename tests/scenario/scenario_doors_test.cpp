@@ -62,10 +62,10 @@ TEST_F(ScenarioDoorsTest, TheListOfTheSceneShowsWhoJoinedAndWhoLeft) {
   ThenPress(1);
   Then([] {
     EXPECT_EQ(RowsIn(IDC_SNRY_CAST), (Rows{"1. ミル [登場名: 郵便屋]", "2. メンティ [登場名: ちび竜]"}));
+    EXPECT_EQ(CastIds(), (std::vector<int>{1, 0, 3}));
   });
   ThenPress(2);
   SnryFileSettingRun(Program.hMainWnd);
-  EXPECT_EQ(CastIds(), (std::vector<int>{1, 0, 3}));
 }
 
 TEST_F(ScenarioDoorsTest, TheBackdropOpensWithoutAMember) {

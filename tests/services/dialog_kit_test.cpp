@@ -155,6 +155,20 @@ TEST_F(FormTest, NumbersFollowTheRuleOfTheSystem) {
   EXPECT_EQ(sample.value, 0);
 }
 
+TEST_F(FormTest, ANumberThatIsLongerThanItsFieldStaysUntilAnotherIsTyped) {
+  Sample sample;
+  FormShow(dialog_, sample, Exchange);
+  Type(dialog_, 23, "-5");
+  FormTake(dialog_, sample, Exchange);
+  FormShow(dialog_, sample, Exchange);
+  EXPECT_EQ(ControlText(dialog_, 23), "65531");
+  FormTake(dialog_, sample, Exchange);
+  EXPECT_EQ(sample.value, 65531);
+  ControlSetText(dialog_, 23, "65532");  // as if a digit of it were typed over
+  FormTake(dialog_, sample, Exchange);
+  EXPECT_EQ(sample.value, 655);
+}
+
 void Bounded(Form& form, std::int32_t& value) {
   form.NumberIn(23, value, 3, 0, 60, "%02d");
 }

@@ -21,6 +21,17 @@ constexpr void Fields(Io& io, Inner& inner) {
   io.At(4);
 }
 
+struct Whole {
+  std::uint16_t pair[2];
+  char text[3];
+};
+
+template <class Io>
+constexpr void Fields(Io& io, Whole& whole) {
+  io.LE16(whole.pair);
+  io.Text(whole.text);
+}
+
 // offset  size  field
 //      0     1  on
 //      1     1  colour
@@ -150,6 +161,12 @@ TEST(Record, FailsForEverAfterTheFirstFieldThatDoesNotFit) {
   EXPECT_EQ(one, 1);
 }
 
+TEST(Record, IsWholeWhenEveryByteBelongsToAField) {
+  static_assert(!RecordIsWhole<Sample>());
+  static_assert(!RecordIsWhole<Inner>());
+  static_assert(RecordIsWhole<Whole>());
+}
+
 TEST(Record, DoesNotGoBack) {
   RecordReader io(kImage, 10);
   std::uint32_t four = 0;
@@ -226,25 +243,65 @@ TEST_F(RecordFileTest, WritesARecordInOneTransfer) {
   EXPECT_EQ(FileBytes("a.bin").size(), 45U + 44U);
 }
 
-// A batch holds 364 samples of 45 bytes, so that 730 take three.
+// A batch holds 1456 samples of 45 bytes, so that 2914 take three.
 TEST_F(RecordFileTest, MovesTablesInBatches) {
-  static_assert(kRecordBatch<Sample> == 364);
-  std::vector<Sample> table(730, Taken());
+  static_assert(kRecordBatch<Sample> == 1456);
+  std::vector<Sample> table(2914, Taken());
   for (std::size_t i = 0; i < table.size(); ++i) table[i].high = static_cast<std::int32_t>(i);
   DataFile data;
   ASSERT_TRUE(DataReplace(data, "a.bin"));
-  EXPECT_TRUE(RecordsWrite(data, table.data(), 730));
+  EXPECT_TRUE(RecordsWrite(data, table.data(), 2914));
   DataClose(data);
   const std::string bytes = FileBytes("a.bin");
-  ASSERT_EQ(bytes.size(), 730U * 45U);
+  ASSERT_EQ(bytes.size(), 2914U * 45U);
 
   for (Sample& sample : table) sample = Sample{};
   ASSERT_TRUE(DataOpenRead(data, "a.bin", OpenMode::Read));
-  EXPECT_TRUE(RecordsRead(data, table.data(), 730));
+  EXPECT_TRUE(RecordsRead(data, table.data(), 2914));
   DataClose(data);
   EXPECT_EQ(table[0].high, 0);
-  EXPECT_EQ(table[729].high, 729);
-  EXPECT_STREQ(table[364].name, "abcd");
+  EXPECT_EQ(table[2913].high, 2913);
+  EXPECT_STREQ(table[1456].name, "abcd");
+}
+
+namespace {
+
+// 3000 samples of 45 bytes and 5 of their own behind each hundredth: 135150 bytes.
+bool StreamMany(DataFile& data) {
+  RecordStream stream(data);
+  for (int i = 1; i <= 3000; ++i) {
+    stream.Put(Taken());
+    if (i % 100 == 0) stream.PutBytes("12345", 5);
+  }
+  return stream.Finish();
+}
+
+}  // namespace
+
+TEST_F(RecordFileTest, AStreamWritesWholePiecesOfWhatIsPutIntoIt) {
+  std::string expected;
+  for (int i = 1; i <= 3000; ++i) expected += RecordBytes(Taken()) + (i % 100 == 0 ? "12345" : "");
+  DataFile data;
+  ASSERT_TRUE(DataReplace(data, "a.bin"));
+  FaultClear();
+  EXPECT_TRUE(StreamMany(data));
+  EXPECT_EQ(FaultCalls(FaultKind::Write), 3);  // 65536, 65536 and 4078 bytes
+  DataClose(data);
+  EXPECT_TRUE(FileBytes("a.bin") == expected);
+}
+
+TEST_F(RecordFileTest, AStreamWritesNothingBehindAWriteThatFailed) {
+  for (int nth = 1; nth <= 3; ++nth) {
+    DataFile data;
+    ASSERT_TRUE(DataReplace(data, "a.bin"));
+    FaultArm(FaultKind::Write, nth);
+    EXPECT_FALSE(StreamMany(data)) << nth;
+    EXPECT_EQ(FaultCalls(FaultKind::Write), nth);
+    FaultClear();
+    DataClose(data);
+    // The write that failed is one byte short.
+    EXPECT_EQ(FileBytes("a.bin").size(), (nth < 3 ? 65536U * nth : 135150U) - 1U);
+  }
 }
 
 TEST_F(RecordFileTest, KeepsTheRecordsBeforeACut) {

@@ -5,6 +5,7 @@
 #include "platform/window.h"
 #include "services/data_file.h"
 #include "services/dialog_family.h"
+#include "services/file_picker.h"
 #include "services/program.h"
 #include "shell/popups.h"
 #include "shell/shell_commands.h"
@@ -186,6 +187,18 @@ TEST_F(OldDataTest, WhileAFeaturesDialogIsUpItsFileDialogDoesNotOpen) {
     Press(TopDialog(), 2);
   });
   SendCommand(Program.hMainWnd, 2283);
+  EXPECT_TRUE(FileDialogsShown().empty());
+}
+
+TEST_F(OldDataTest, WhileTheProgramsPickerIsUpItsFileDialogDoesNotOpen) {
+  Then([] {
+    ASSERT_NE(Picker.hFilePickDlg, nullptr);
+    for (const std::uint32_t command : {kLoad, kSave, kSaveAs}) SendCommand(Program.hMainWnd, command);
+    EXPECT_TRUE(FileDialogsShown().empty());
+    PressEscape(TopDialog());
+  });
+  char path[kPickPathSize] = "";
+  PickFileForLoad(Program.hMainWnd, "", path);
   EXPECT_TRUE(FileDialogsShown().empty());
 }
 

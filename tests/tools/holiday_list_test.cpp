@@ -112,8 +112,8 @@ class HolidayListFolder : public testing::Test {
   }
   void ReadBack() {
     UseProgramFolder(folder_ / "set");
-    ASSERT_EQ(CalenFileRead(), 0);
     ASSERT_EQ(SysFileRead(), 0);
+    ASSERT_EQ(CalenFileRead(), 0);
   }
   fs::path folder_ = fs::temp_directory_path() / ("newdata_list_" + std::to_string(getpid()));
 };
@@ -148,6 +148,25 @@ TEST_F(HolidayListFolder, LaterYearsOfTheSpanAndNotesOfTheUsersOwnAreKept) {
   EXPECT_EQ(Note(0, 6, 14), "私用");
   EXPECT_TRUE(CalenHolidayFlag(0, 6, 14));
   EXPECT_TRUE(CalenHolidayFlag(1, 6, 13));
+}
+
+// The count of the calendars, a number of four bytes at 2182 of the settings.
+TEST_F(HolidayListFolder, TheCalendarsAreCountedByTheirFileAndNotByTheSettings) {
+  ReadBack();
+  ASSERT_EQ(Calendar.CalenCount, 3);
+  const fs::path settings = folder_ / "set" / "mirrell_sys_file.svs";
+  for (const unsigned char count : {2, 31, 255}) {
+    Bytes bytes = ReadHostFile(settings);
+    for (std::size_t i = 0; i < 4; ++i) bytes.at(2182 + i) = i == 3 || count == 255 ? count : 0;
+    bytes.at(2182) &= 0x7F;
+    WriteHostFile(settings, bytes);
+    EXPECT_EQ(CheckDataSet(folder_ / "set"), std::vector<std::string>{}) << int{count};
+    const std::string line = "2026/7/1" + std::to_string(count % 10) + ",x\n";
+    EXPECT_EQ(TakeHolidays(folder_ / "set", ReadHolidayList(line).days).set, 1);
+    ReadBack();
+    EXPECT_EQ(Calendar.CalenCount, 3) << int{count};
+    for (int i = 0; i < 3; ++i) EXPECT_EQ(Calendar.CalenSheets[i][6].holidays[9 + count % 10], 1);
+  }
 }
 
 TEST_F(HolidayListFolder, TheCommandTellsItsEndByItsExitCode) {

@@ -172,14 +172,19 @@ TEST_F(WorldListTest, AMissingOrShortListFileEndsTheLoadThereWithoutAWord) {
   EXPECT_TRUE(BoxesShown().empty());
 }
 
-TEST_F(WorldListTest, ItIsKnownWhetherTheCountsCame) {
-  EXPECT_FALSE(WorldListRead());
+TEST_F(WorldListTest, ItIsKnownHowManyCharactersCame) {
+  EXPECT_EQ(WorldListRead(), -1) << "without the counts";
   Put(FlagFile(1, {Figure(true, "a")}).substr(0, 11), "");
-  EXPECT_FALSE(WorldListRead());
-  Put(FlagFile(1, {Figure(true, "a")}).substr(0, 12), "");
-  EXPECT_TRUE(WorldListRead());
+  EXPECT_EQ(WorldListRead(), -1);
+  Put(FlagFile(1, {Figure(true, "a")}).substr(0, 12), Chara("c", "f", 1));
+  EXPECT_EQ(WorldListRead(), 0) << "the load ends in the figures";
   Put(FlagFile(513, {}), "");
-  EXPECT_FALSE(WorldListRead());
+  EXPECT_EQ(WorldListRead(), -1);
+  const std::string two = Chara("c", "f", 1) + Chara("d", "f", 1);
+  Put(FlagFile(3, {Figure(true, "a")}), two);
+  EXPECT_EQ(WorldListRead(), 2);
+  Put(FlagFile(3, {Figure(true, "a")}), two.substr(0, two.size() - 1));
+  EXPECT_EQ(WorldListRead(), 1);
 }
 
 TEST_F(WorldListTest, MoreCharactersThanThereCanBeEndTheLoad) {

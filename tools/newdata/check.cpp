@@ -88,12 +88,13 @@ class Checker {
   }
 
   bool ReadDataFiles() {
-    FileResult.FileStatus = 0;
-    Demand(CharaFileRead() == 0, "mirrell_chara_file.dcx cannot be read");
-    Demand(CalenFileRead() == 0, "mirrell_calen_file.dcd cannot be read");
-    Demand(ClockAlarmFileRead() == 0, "mirrell_ClcAlmPerFile.clc cannot be read");
+    // In the order of the program's start: the settings hold a count of the calendars too.
+    SetDateDefaults();
     FileResult.FileStatus = 0;  // a wrong magic is told by it alone
     Demand(SysFileRead() == 0 && FileResult.FileStatus == 0, "mirrell_sys_file.svs cannot be read");
+    Demand(CalenFileRead() == 0, "mirrell_calen_file.dcd cannot be read");
+    Demand(CharaFileRead() == 0, "mirrell_chara_file.dcx cannot be read");
+    Demand(ClockAlarmFileRead() == 0, "mirrell_ClcAlmPerFile.clc cannot be read");
     World.WorldCharaCount = 0;
     WorldListRead();
     Demand(World.WorldCharaCount > 0, "EDTCFLAG.edf cannot be read");

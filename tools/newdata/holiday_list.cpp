@@ -163,10 +163,11 @@ void Demand(bool good, const char* what) {
 
 HolidaysTaken TakeHolidays(const std::filesystem::path& folder, const std::vector<ListedHoliday>& days) {
   UseProgramFolder(folder);
-  FileResult.FileStatus = 0;
-  Demand(CalenFileRead() == 0, "mirrell_calen_file.dcd cannot be read");
+  // In the order of the program's start: the settings hold a count of the calendars too.
+  SetDateDefaults();
   FileResult.FileStatus = 0;
   Demand(SysFileRead() == 0 && FileResult.FileStatus == 0, "mirrell_sys_file.svs cannot be read");
+  Demand(CalenFileRead() == 0, "mirrell_calen_file.dcd cannot be read");
   HolidaysTaken taken;
   for (const ListedHoliday& day : days) Take(day, taken);
   Demand(SysFileWrite() == 0, "mirrell_sys_file.svs cannot be written");

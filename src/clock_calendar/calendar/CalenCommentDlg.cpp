@@ -1,6 +1,7 @@
 // CalenCommentDlg, "カレンダー書き込み": the note of the clicked day.
 #include "clock_calendar/calendar/calendar.h"
 #include "clock_calendar/calendar/calendar_dialogs.h"
+#include "clock_calendar/calendar/calendar_edit.h"
 #include "platform/dialog.h"
 #include "platform/window.h"
 #include "resources/calendar_ids.h"
@@ -8,7 +9,6 @@
 #include "services/dialog_acts.h"
 #include "services/dialog_family.h"
 #include "services/program.h"
-#include "services/settings_save.h"
 #include "services/text.h"
 
 namespace {
@@ -16,11 +16,12 @@ namespace {
 constexpr BoxWords kNotSaved{"ファイルセーブできません", "カレンダー書き込み"};
 
 void Open(WindowHandle dialog) {
+  CalenEditNoteBegin();
+  const CalendarEditState& edit = CalendarEdit;
   char text[kNoteSize + 1];
-  TextFormat(text, sizeof text, "%d年 %d月 %d日", 2000 + Calendar.CalenYears[CalenYearShown()],
-             Calendar.CalenMonthPos + 1, Calendar.CalenClickedDay);
+  TextFormat(text, sizeof text, "%d年 %d月 %d日", 2000 + edit.noteYear, edit.noteMonth + 1, edit.noteDay + 1);
   ControlSetText(dialog, IDC_CALEN_NOTE_DAY, text);
-  CalenNoteGet(CalenYearShown(), Calendar.CalenMonthPos, Calendar.CalenClickedDay - 1, text);
+  CalenNoteGet(CalenYearShown(), edit.noteMonth, edit.noteDay, text);
   ControlSetLimit(dialog, IDC_CALEN_NOTE, kNoteSize - 1);
   ControlSetText(dialog, IDC_CALEN_NOTE, text);
   ControlSetFocus(dialog, IDC_CALEN_NOTE);
@@ -29,8 +30,7 @@ void Open(WindowHandle dialog) {
 void Write(WindowHandle dialog) {
   char note[kNoteSize];
   ControlGetText(dialog, IDC_CALEN_NOTE, note, sizeof note);
-  CalenNoteSet(CalenYearShown(), Calendar.CalenMonthPos, Calendar.CalenClickedDay - 1, note);
-  if (SysFileWrite() != 0) BoxTell(dialog, kNotSaved);
+  if (!CalenEditNoteWrite(note)) BoxTell(dialog, kNotSaved);
   SubDialogEnd(dialog, kOkButton);
 }
 
@@ -47,8 +47,5 @@ bool Handle(const Event& event) {
 
 int CalenCommentDlgRun() {
   if (Calendar.CalenClickedDay == 0) return 0;
-  const int result = SubDialogRun(SubDialog::CalenCommentDlg, IDD_CalenCommentDlg, Program.hMainWnd, Handle);
-  CalenClickedDaySet(0);
-  SendPaint(Calendar.hCalenWnd);
-  return result;
+  return SubDialogRun(SubDialog::CalenCommentDlg, IDD_CalenCommentDlg, Program.hMainWnd, Handle);
 }

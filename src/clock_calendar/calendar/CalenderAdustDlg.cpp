@@ -23,7 +23,7 @@
 namespace {
 
 constexpr const char* kFormats[] = {"月ごと", "一週間(日付縦)", "日めくり"};
-// kept: the list calls the smallest page large.
+// kept: the list of a calendar's page sizes calls the smallest page large.
 constexpr const char* kSizes[] = {" 大", " 中", " 小"};
 constexpr const char* kNoteModes[] = {"なし", "当日", "1日前から", "2日前から"};
 

@@ -40,7 +40,8 @@ void SizeTake(WindowHandle window) {
 
 void Open(WindowHandle window) {
   Calendar.hCalenWnd = window;
-  Calendar.CalenMemoDay = Calendar.CalenPointedDay = Calendar.CalenClickedDay = 0;
+  // The clicked day stays: the window may be opened anew under its popup or its dialog.
+  Calendar.CalenMemoDay = Calendar.CalenPointedDay = 0;
   Calendar.CalenDayOffset = 0;
   CalenShowToday();
   SizeTake(window);
@@ -210,7 +211,7 @@ void CalenWindowOpen() {
 
 void CalenWindowRenew() {
   SendClose(Calendar.hCalenWnd);
-  if (Calendar.CalenShow != 0 && !Calendar.hCalenWnd) CommandSend(Command::CalendarOpen);
+  if (Calendar.CalenShow != 0) CommandSend(Command::CalendarOpen);
 }
 
 int CalenWindowDue() {

@@ -18,10 +18,12 @@ namespace {
 
 constexpr const char* kDirections[] = {"なし",     "左",       "右",       "上",       "下",
                                        "左斜め上", "右斜め上", "左斜め下", "右斜め下", "ランダム"};
+// kept: the periods of moving figures are counted in ticks, and their labels are nominal.
 constexpr const char* kPeriods[] = {"0.5秒", "1秒", "10秒", "30秒", "1分", "3分", "5分"};
 constexpr const char* kSteps[] = {"0 倍", "0.1倍", "0.3倍", "0.5倍", "0.7倍", "1 倍",
                                   "2 倍", "3 倍",  "4 倍",  "5 倍",  "10倍"};
-// settled: nine places of the picture; the first row leaves the place that the definition has.
+// settled: a moving figure starts at one of nine places of the picture; the first row leaves the
+// place that the definition has.
 constexpr const char* kStarts[kStartPlaces] = {"指定なし", "左上", "上",   "右上", "左",
                                                "中央",     "右",   "左下", "下",   "右下"};
 

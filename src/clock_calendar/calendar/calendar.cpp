@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <string_view>
 
 #include "services/text.h"
 
@@ -62,12 +63,15 @@ void CalenNoteGet(int yearIndex, int month, int day, char (&to)[kNoteSize + 1]) 
   TextCopy(to, sizeof to, block ? block->notes[day] : "");
 }
 
-void CalenNoteSet(int yearIndex, int month, int day, const char* note) {
+bool CalenNoteSet(int yearIndex, int month, int day, const char* note) {
   CalenMonth* block = MonthAt(yearIndex, month, day);
-  if (!block) return;
+  if (!block) return false;
   char(&field)[kNoteSize + 1] = block->notes[day];
+  const std::string_view text(note, TextPrefix(note, kNoteSize - 1));
+  if (text == std::string_view(field, TextPrefix(field, kNoteSize - 1))) return false;
   std::memset(field, 0, sizeof field);
-  std::memcpy(field, note, TextPrefix(note, kNoteSize - 1));
+  std::memcpy(field, text.data(), text.size());
+  return true;
 }
 
 void CalenPlaceSet(std::int32_t x, std::int32_t y) {

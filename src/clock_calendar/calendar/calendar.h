@@ -61,7 +61,9 @@ bool CalenHolidayFlag(int yearIndex, int month, int day);
 void CalenHolidayFlagSet(int yearIndex, int month, int day, bool holiday);
 // A day's note, terminated; empty outside the tables.
 void CalenNoteGet(int yearIndex, int month, int day, char (&to)[kNoteSize + 1]);
-void CalenNoteSet(int yearIndex, int month, int day, const char* note);
+// Up to 127 bytes of a note. False when the day's reads so already, a longer one as far as
+// that.
+bool CalenNoteSet(int yearIndex, int month, int day, const char* note);
 
 // --- Years.
 
@@ -126,6 +128,8 @@ void CalenTodayTake();
 // Puts the year and month of today on display, moving the span there if it lies
 // outside, and loads the pictures. The calendar window calls it when it opens.
 void CalenShowToday();
+// The day of today, from 0, when its month is the one on display; else -1.
+int CalenTodayShown();
 // Called at each change of the month on show: a year on display outside the span
 // becomes the first of the span; then the month's pictures are loaded, and its
 // figures begin to move from their start.
@@ -145,8 +149,8 @@ inline constexpr int kNoteDays = 3;  // today, tomorrow, the day after
 struct CalenNote {
   bool due;
   std::int32_t year;  // two digits
-  // kept: month and day share one place, and the day is the last to be put there;
-  // both numbers of the announced date are this one + 1.
+  // kept: month and day of a note to be announced share one place, and the day is the last to
+  // be put there; both numbers of the announced date are this one + 1.
   std::int32_t monthAndDay;
   char text[kNoteSize + 1];
 };
@@ -155,7 +159,7 @@ struct CalendarState {
   std::int32_t CalenCount = 0;
   char CalenNames[kCalenMax][kCalenNameSize] = {};
   unsigned char CalenKinds[kCalenMax] = {};     // CalenPageKind
-  unsigned char CalenParts[kCalenMax] = {};     // stored and read, no other use
+  unsigned char CalenParts[kCalenMax] = {};     // kept: a byte of each calendar is used by nothing
   unsigned char CalenPictures[kCalenMax] = {};  // picture switch
   CalenMonth CalenSheets[kCalenMax][kMonthsOfYear] = {};
   CalenMonthChoices CalenSheetFlags[kCalenMax][kMonthsOfYear] = {};
@@ -183,6 +187,7 @@ struct CalendarState {
   std::int32_t CalenFigPos2[kFigureCopies][2] = {};
   std::int32_t CalenFigPeriod[kFigureCount] = {};
   std::int32_t CalenFigStep[kFigureCount] = {};
+  // kept: nothing but a settings file makes a moving figure turn back at an edge.
   std::int32_t CalenFigTurn[kFigureCount] = {};
   unsigned char CalenFigDir[kFigureCount][kFigureCopies] = {};
   // The size of the calendar's page, for the layout of the windows.
@@ -214,6 +219,7 @@ struct CalendarState {
   std::int32_t tickerPosition = 0;   // steps that the text has run
   std::int32_t CalenClickedDay = 0;  // the day of the popup menu, from 1; 0 for none
   std::int32_t figureWaits[kFigureCount] = {};
+  bool monthIsOver = false;    // another one is to be put on display when no dialog edits this one
   SclDate notesLookedAt = {};  // the day that the marks are of
   bool notesDone[kNoteDays] = {};
 };

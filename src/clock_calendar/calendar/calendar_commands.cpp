@@ -3,16 +3,28 @@
 #include "clock_calendar/calendar/calendar.h"
 #include "clock_calendar/calendar/calendar_dialogs.h"
 #include "clock_calendar/calendar/calendar_window.h"
+#include "platform/window.h"
 #include "services/commands.h"
 #include "services/feature_dialog.h"
 #include "services/settings_save.h"
 
+namespace {
+
+// A dialog that the popup menu opens too: the clicked day is done with at its end.
+void DayDialogRun(int (*dialog)()) {
+  FeatureDialogRun(Feature::CalendarDisplay, dialog);
+  CalenClickedDaySet(0);
+  SendPaint(Calendar.hCalenWnd);
+}
+
+}  // namespace
+
 void CommandCalendarSelect() {
-  FeatureDialogRun(Feature::CalendarDisplay, SelCalenderDlgRun);
+  DayDialogRun(SelCalenderDlgRun);
 }
 
 void CommandCalendarNote() {
-  FeatureDialogRun(Feature::CalendarDisplay, CalenCommentDlgRun);
+  DayDialogRun(CalenCommentDlgRun);
 }
 
 void CommandCalendarOpen() {

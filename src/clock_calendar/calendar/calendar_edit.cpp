@@ -57,11 +57,7 @@ void CalenEditSpanSet(int firstYear, int length) {
 }
 
 void CalenEditNoteSet(const char* note) {
-  char now[kNoteSize + 1];
-  CalenNoteGet(CalenYearShown(), CalendarEdit.month, CalendarEdit.day, now);
-  if (std::strcmp(now, note) == 0) return;
-  CalenNoteSet(CalenYearShown(), CalendarEdit.month, CalendarEdit.day, note);
-  CalendarEdit.changed = true;
+  if (CalenNoteSet(CalenYearShown(), CalendarEdit.month, CalendarEdit.day, note)) CalendarEdit.changed = true;
 }
 
 void CalenEditHolidayTurn() {
@@ -142,8 +138,21 @@ Point CalenStartPlace(int place, int width, int height) {
   return {roomX * (at % kPerRow) / 2, roomY * (at / kPerRow) / 2};
 }
 
+void CalenEditNoteBegin() {
+  CalendarEdit.noteYear = Calendar.CalenYears[CalenYearShown()];
+  CalendarEdit.noteMonth = Calendar.CalenMonthPos;
+  CalendarEdit.noteDay = Calendar.CalenClickedDay - 1;
+}
+
+bool CalenEditNoteWrite(const char* note) {
+  const int year = CalenSpanIndex(CalendarEdit.noteYear);
+  CalenNoteSet(year, CalendarEdit.noteMonth, CalendarEdit.noteDay, note);
+  return SysFileWrite() == 0 && year >= 0;
+}
+
 int CalenSave() {
   const int settings = SysFileWrite();
   const int calendars = CalenFileWrite();
+  if (calendars == 0) CalendarFileSaved();
   return settings == 0 && calendars == 0 ? 0 : -1;
 }

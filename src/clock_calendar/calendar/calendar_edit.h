@@ -21,7 +21,11 @@ struct CalendarEditState {
   bool live = false;       // something has changed that a cancel takes back
   std::int32_t chosenSticker = -1;
   CalenBmpEdit bmp = {};
-  CalendarPicturesState pictures = {};      // of the edited month
+  CalendarPicturesState pictures = {};  // of the edited month
+  // The day whose note CalenCommentDlg writes, wherever the calendar has gone meanwhile.
+  std::int32_t noteYear = 0;  // two digits
+  std::int32_t noteMonth = 0;
+  std::int32_t noteDay = 0;
   CalenPicture stickers[kStickerMax] = {};  // of the dialog that chooses one
 };
 extern CalendarEditState CalendarEdit;
@@ -54,6 +58,11 @@ void CalenEditBmpPut();
 inline constexpr int kStartPlaces = 10;
 // Where a figure of that size starts in the picture.
 Point CalenStartPlace(int place, int width, int height);
+
+// Holds the clicked day for its note. Writes the note of the day that is held and saves the
+// settings: false when they could not be written, or the span has left the day's year.
+void CalenEditNoteBegin();
+bool CalenEditNoteWrite(const char* note);
 
 // Saves the settings and the calendar file. 0, or -1 when one of them could not be written.
 int CalenSave();

@@ -74,7 +74,7 @@ bool MoveCopy(int figure, int copy) {
   const bool leavesY = Leaves(position[1], way.y, step, CalenPictureHeight());
   if (leavesX || leavesY) {
     if (Calendar.CalenFigTurn[figure] == 0) {
-      // kept: whichever edge it leaves by, it goes on from the same place.
+      // kept: whichever edge a moving figure leaves by, it goes on from the same place, -300.
       if (leavesX) position[0] = kOutside;
       if (leavesY) position[1] = kOutside;
       return true;
@@ -82,7 +82,7 @@ bool MoveCopy(int figure, int copy) {
     direction = static_cast<unsigned char>(way.opposite);
     way = WayOf(direction);
   }
-  // bounded: positions and steps may come from a file.
+  // bounded: positions and steps of moving figures may come from a file; a sum stays a number.
   const auto moved = [step](std::int32_t at, int by) {
     return static_cast<std::int32_t>(
         std::clamp<std::int64_t>(std::int64_t{at} + std::int64_t{step} * by, -0x7FFFFFFF, 0x7FFFFFFF));
@@ -115,7 +115,8 @@ int CalenFigureChoice(int chara, int stored, int mode) {
   constexpr int kCycleYear = 2008;
   int places[kWorldFrames];
   if (mode == 1 && NamedFrames(chara, places, kTenFrames) == kTenFrames) {
-    // kept: the first year is multiplied, not added, and so has no part in it.
+    // kept: in the choice of a figure for a cycle of ten years the first year is multiplied, not
+    // added, and so has no part in it.
     const std::int64_t number = std::int64_t{Calendar.CalenFirstYear} * 2000 + CalenYearShown();
     return places[(number % kTenFrames + kTenFrames) % kTenFrames];
   }

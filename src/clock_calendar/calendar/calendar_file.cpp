@@ -66,7 +66,8 @@ void ReadOrZero(DataFile& data, T& record) {
   data.failed = false;
 }
 
-// bounded: a list that counts more designs than there can be is no list.
+// bounded: a list of the calendar file that counts more clock designs than there can be is no
+// list.
 std::int32_t ReadListCount(DataFile& data) {
   std::uint32_t designs = 0;
   DataReadBE32(data, designs);
@@ -81,7 +82,8 @@ void ReadTail(DataFile& data) {
   for (int i = 0; i < Clock.ClockListCount; ++i) ReadOrZero(data, Clock.ClockList[i]);
 }
 
-// bounded: the settings file has its own copy of the count.
+// bounded: the number of calendars may come from the settings file; no more are written than
+// there can be.
 CalenHead HeadToWrite() {
   CalenHead head;
   head.count = std::clamp<std::int32_t>(Calendar.CalenCount, 0, kCalenMax);
@@ -119,6 +121,7 @@ int CalenFileWrite() {
   std::memcpy(Calendar.CalenSheets[sel], Calendar.CalenMonths[0], sizeof Calendar.CalenSheets[sel]);
   std::memcpy(Calendar.CalenSheetFlags[sel], Calendar.CalenMonthFlags[0],
               sizeof Calendar.CalenSheetFlags[sel]);
+  // kept: every save switches the picture of the first calendar on.
   Calendar.CalenPictures[0] = 1;
 
   char path[kRootPathSize];

@@ -16,12 +16,12 @@ constexpr int kWeightNormal = 400;
 constexpr char kFace[] = "ＭＳ ゴシック";
 constexpr std::int32_t kLargest = 64;
 
-// bounded: a font of a file is no higher than a page can hold.
+// bounded: a font of the calendar file is no higher than a page can hold.
 int Held(std::int32_t size) {
   return static_cast<int>(std::clamp(size, -kLargest, kLargest));
 }
 
-// settled: a definition whose digits are figures writes its other texts with its font too.
+// settled: a calendar whose digits are figures writes its other texts with its font too.
 bool HasFont(const CalenDefinition& definition) {
   return definition.design != 0 && definition.font.height != 0;
 }

@@ -75,6 +75,7 @@ void CalenDayOffsetSet(std::int32_t offset) {
   Calendar.CalenDayOffset = offset;
 }
 
+// kept: a step of the day or week page is held against 31 days, however long the month is.
 void CalenDayStep(int way) {
   constexpr int kLastDay = 31;
   if (Calendar.CalenKind != kPageWeek && Calendar.CalenKind != kPageDay) return;

@@ -35,6 +35,8 @@ int WeekdayCount(int year, int month, int weekday) {
 }
 
 // A fixed date, and the Monday after it when it falls on a Sunday.
+// kept: the Monday behind a holiday on a Sunday is a holiday in the drawing of the calendar, but
+// not for the schedule.
 bool MatchesDate(const Rule& rule, const AskedDay& asked) {
   if (asked.month != rule.month) return false;
   const int day = rule.value - 1 - (rule.leapEarlier && asked.leap ? 1 : 0);
@@ -78,7 +80,7 @@ int Match(const Rule& rule, const AskedDay& asked) {
 
 int CalenHolidayRule(int yearIndex, int month, int day, HolidayUse use) {
   if (yearIndex < 0 || yearIndex >= kCalenYearMax || month < 0 || month >= kMonthsOfYear || day < 0) return 0;
-  // kept: weekdays and week numbers are those of the year on display, whatever
+  // kept: for holiday rules weekdays and week numbers are those of the year on display, whatever
   // year is asked about; the leap year is that of the year asked about for the
   // schedule, and of the displayed one for drawing.
   const int displayed = Calendar.CalenYears[CalenYearShown()];

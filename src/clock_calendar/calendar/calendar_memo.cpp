@@ -50,7 +50,7 @@ void CalenMemoDraw(Canvas* canvas) {
   CanvasFont(canvas, nullptr);
   CanvasTextColour(canvas, 0);
   CanvasBackTransparent(canvas, true);
-  // settled: the two arrows turn the week and the day page, as their buttons do.
+  // settled: the two arrows of the memo panel turn the week and the day page, as their buttons do.
   ArrowDraw(canvas, kHitMemoBack, "<");
   ArrowDraw(canvas, kHitMemoOn, ">");
   CloseBoxDraw(canvas);

@@ -9,7 +9,6 @@
 #include "services/painting.h"
 #include "services/screen_figures.h"
 #include "services/text.h"
-#include "services/today.h"
 
 namespace {
 
@@ -47,7 +46,7 @@ void CalenNearListDraw(Canvas* canvas, Point at, int width) {
       ++line;
     }
     if (line >= kLines) return;
-    CanvasTextColour(canvas, Calendar.CalenNearDays[i] == Today.TodayDay ? today : kBlack);
+    CanvasTextColour(canvas, Calendar.CalenNearDays[i] == CalenTodayShown() ? today : kBlack);
     CanvasText(canvas, at.x + x, at.y + line * (kCalenSmallLine + 2), text);
     x += entry;
   }
@@ -78,8 +77,10 @@ int StripTop() {
 int TickerText(char (&text)[kCalenDayMax * kEntrySize]) {
   text[0] = '\0';
   std::size_t length = 0;
+  const int today = CalenTodayShown();
+  if (today < 0) return 0;  // the year on display is yet to come
   for (int i = 0; i < Calendar.CalenNearCount; ++i) {
-    if (Calendar.CalenNearDays[i] >= Today.TodayDay + Calendar.CalenTickerReach) break;
+    if (Calendar.CalenNearDays[i] >= today + Calendar.CalenTickerReach) break;
     char entry[kEntrySize];
     EntryText(Calendar.CalenNearDays[i], entry);
     length = TextAppend(text, sizeof text, entry);

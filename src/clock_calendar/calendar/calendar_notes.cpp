@@ -76,7 +76,8 @@ int CalenNoteCheck() {
   if (!Calendar.notesDone[1] && Announce(1, second)) return 1;
   if (Calendar.CalenNoteMode != kNoteTwoDaysBefore || Calendar.notesDone[2]) return 0;
   Calendar.notesDone[2] = true;
-  // kept: the second step is held against the length of the first day's month.
+  // kept: the day after tomorrow is found by the length of today's month alone, though tomorrow
+  // may lie in the next one.
   return Announce(2, NextDay(second, daysOfMonth)) ? 1 : 0;
 }
 

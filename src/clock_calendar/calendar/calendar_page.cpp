@@ -38,7 +38,7 @@ constexpr int kWeekPageX = 12;
 CalenPage CalenPageOnShow() {
   return {CalenYearShown(),
           std::clamp<std::int32_t>(Calendar.CalenMonthPos, 0, kMonthsOfYear - 1),
-          Today.TodayDay,
+          CalenTodayShown(),
           Today.TodayDay,
           Calendar.CalenClickedDay,
           Calendar.CalenPointedDay,
@@ -158,7 +158,7 @@ const CalenPicture* DigitsOf(const CalenPage& page, int day) {
   const auto& sets = page.pictures->CalenDigits;
   const bool second = CalenDayColour(page, day) != kBlack && sets[1][0].picture;
   const CalenPicture* set = second ? sets[1] : sets[0];
-  // settled: with a digit missing the number stands as text.
+  // settled: where the picture of a digit is missing, a day's number stands as text.
   const bool whole = std::all_of(set, set + kDigitCount, [](const CalenPicture& p) { return p.picture; });
   return whole ? set : nullptr;
 }

@@ -88,7 +88,8 @@ void LeafDraw(Canvas* canvas, const CalenPage& page, int day, Point at, const Ca
   CanvasText(canvas, at.x + Middle(leaf, CanvasTextWidth(canvas, text)), foot + 2, text);
 }
 
-// kept: today counts from 0, so that a page past the month's end tells one day more.
+// kept: a day page past the month's end shows the last day and tells its distance from today
+// as one day more.
 void OffsetHold(const CalenPage& page) {
   const int days = CalenPageDays(page);
   if (page.viewFrom + Calendar.CalenDayOffset >= days) CalenDayOffsetSet(days - page.viewFrom);

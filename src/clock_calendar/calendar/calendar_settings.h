@@ -78,8 +78,8 @@ constexpr void Fields(Io& io, CalendarMonthSettings&) {
 }
 
 // The whole file has been read.
-// kept: a file with its last field shows the calendar's picture, whatever its own
-// switch says; an older file is believed.
+// kept: a settings file with its last field shows the calendar's picture, whatever its own
+// switch says; an older one is believed.
 void CalendarSettingsTaken();
 
 // The calendars begin in this year, with a year built if there is none.

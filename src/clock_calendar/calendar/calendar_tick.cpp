@@ -4,14 +4,13 @@
 #include "clock_calendar/calendar/calendar.h"
 #include "clock_calendar/calendar/calendar_picture.h"
 #include "platform/time.h"
+#include "services/dialog_family.h"
 #include "services/today.h"
 
 namespace {
 
 void BeginSpanAt(int year) {
-  CalenYearsSet(year);
-  CalenYearsRebuild();
-  Calendar.CalenYearPos = 0;
+  CalenSpanSet(year, Calendar.CalenYearCount);
 }
 
 // Puts the month of today on display, and its year if the span has it. False if not.
@@ -22,8 +21,20 @@ bool DisplayTodayInSpan() {
   return index >= 0;
 }
 
+// settled: a span that is over begins anew with the year of today; of one that is yet to
+// come the first year is on display.
 void DisplayToday() {
-  if (!DisplayTodayInSpan()) BeginSpanAt(Today.TodayYear);
+  if (DisplayTodayInSpan()) return;
+  if (Today.TodayYear > Calendar.CalenFirstYear) {
+    BeginSpanAt(Today.TodayYear);
+  } else {
+    Calendar.CalenYearPos = 0;
+  }
+}
+
+// The editing dialog works on the month and the year on display.
+bool IsEdited() {
+  return Dialogs.hToolDlg && Dialogs.DlgIdTool == ToolDialog::CalenderAdustDlg;
 }
 
 void LoadMonth() {
@@ -51,11 +62,18 @@ void CalenShowToday() {
   LoadMonth();
 }
 
+int CalenTodayShown() {
+  const bool shown =
+      CalenSpanIndex(Today.TodayYear) == CalenYearShown() && Today.TodayMonth == Calendar.CalenMonthPos;
+  return shown ? Today.TodayDay : -1;
+}
+
 void CalenPrepareMonth() {
   if (Calendar.CalenYearPos < 0 ||
       Calendar.CalenYearPos >= std::min<std::int32_t>(Calendar.CalenYearCount, kCalenYearMax)) {
     const std::int64_t year = std::int64_t{Calendar.CalenFirstYear} + Calendar.CalenYearPos;
-    // bounded: the settings file may hold any place; today is always a year.
+    // bounded: the settings file may hold any first year and any place in the years; where they
+    // make no year, the calendar begins with this one.
     BeginSpanAt(year >= 0 && year <= 99 ? static_cast<int>(year) : Today.TodayYear);
   }
   LoadMonth();
@@ -69,7 +87,9 @@ int CalenTickCheck() {
   const bool otherMonth = today.year != Today.TodayYear || today.month != Today.TodayMonth;
   const bool otherDay = otherMonth || today.day != Today.TodayDay;
   TodaySet(now);
-  if (otherMonth) {
+  Calendar.monthIsOver = Calendar.monthIsOver || otherMonth;
+  if (Calendar.monthIsOver && !IsEdited()) {
+    Calendar.monthIsOver = false;
     DisplayToday();
     CalenPrepareMonth();
   }

@@ -20,8 +20,8 @@ constexpr const char* kDefaultNames[kCalenSettingsCount] = {
 };
 constexpr unsigned char kDefaultKinds[kCalenSettingsCount] = {kPageMonth, kPageWeek, kPageDay};
 
-// The weekday of the first of a month as a month block keeps it. bounded: a year
-// without weekdays counts from Monday.
+// The weekday of the first of a month as a month block keeps it.
+// bounded: a month of a calendar that has no weekdays, from 2100 on, counts from Monday.
 int FirstWeekday(int year, int month) {
   return std::max(SclFirstWeekday(year, month), 0);
 }

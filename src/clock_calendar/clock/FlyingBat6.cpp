@@ -22,14 +22,14 @@ int FrameOnShow() {
   return figure == 0 ? 0 : figure - 1;
 }
 
-// settled: a step whose picture is missing keeps the shape of the one before it.
+// settled: a step of the clock's performance whose picture is missing keeps the shape of the one before it.
 void Shape(WindowHandle window) {
   if (!ClockShapeTake(FrameOnShow())) return;
   const Outline& shape = ClockPictures.shape;
   WindowSetRegion(window, RegionPolygon(shape.points, shape.count), true);
 }
 
-// settled: a design without a picture of its dial has the size of the template.
+// settled: a clock design without a picture of its dial has the size of the template.
 void Place(WindowHandle window) {
   Rect size = WindowRect(window);
   if (ImageHandle dial = ClockPicture(0)) size = {0, 0, DibWidth(dial), DibHeight(dial)};

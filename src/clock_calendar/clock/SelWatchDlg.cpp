@@ -28,7 +28,7 @@ int DesignCount() {
   return std::clamp<int>(CharaTables.ClockDesignCount, 0, kClockDesignMax);
 }
 
-// settled: while no design is chosen the list proposes the first, so that a clock that is
+// settled: while no clock design is chosen the list proposes the first, so that a clock that is
 // switched on has one.
 void Open(WindowHandle dialog) {
   const int chosen = Clock.ClockWanted == kClockNone ? 0 : Clock.ClockWanted;

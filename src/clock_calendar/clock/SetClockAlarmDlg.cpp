@@ -32,7 +32,8 @@ void PerformanceRow(int row, char* text, int size) {
 // Row 0 is for none, the others for the performances in use.
 void ExchangePerformance(Form& form, int id, std::uint16_t& number) {
   int row = number == 0 ? 0 : PerformancePlace(number) + 1;
-  if (row == 0 && number != 0) row = -1;  // bounded: the settings file may name one that there is not
+  // bounded: a performance of an alarm that there is not stays unless one is chosen.
+  if (row == 0 && number != 0) row = -1;
   form.Choice(id, row, RowsOf(PerformancesInUse() + 1, PerformanceRow));
   if (form.Takes() && row >= 0) number = static_cast<std::uint16_t>(row == 0 ? 0 : PerformanceAt(row - 1));
 }

@@ -21,7 +21,7 @@ void Open(WindowHandle dialog) {
   WatchListFill(dialog, {true, now.hour, now.minute, now.second, {}});
 }
 
-// settled: a row too many is refused with a box, and the dialog stays as it is filled in.
+// settled: a clock event too many is refused with a box, and the dialog stays as it is filled in.
 int Confirm(WindowHandle dialog) {
   WatchListTake(dialog);
   if (TimedAdd(WatchList.event) >= 0) return 0;

@@ -31,8 +31,8 @@ constexpr DefaultRecord kDefaults[kPerformanceDefaultCount] = {
     {0, 18, 0, "kan.wav", "音のみ"},
 };
 
-// kept: what a file holds never reaches the program; the default records stand
-// in the table after every read and before every write.
+// kept: what the file of performances holds never reaches the program; the default records
+// stand in the table after every read and before every write.
 void PutDefaults() {
   PerformanceTable.ClockPerformanceCount = kPerformanceDefaultCount;
   for (int i = 0; i < kPerformanceDefaultCount; ++i) {

@@ -53,8 +53,8 @@ void Show(WindowHandle dialog) {
   CanvasRelease(screen);
 }
 
-// settled: the place above the frames, where a notice's figure plays otherwise, names
-// the design whose performance is tried out.
+// settled: in the check of a clock's performance the place above the frames, where a notice's figure plays
+// otherwise, names the design whose performance is tried out.
 void Paint(WindowHandle dialog) {
   char name[kDesignNameSize + 1];
   ClockDesignName(ClockPreview.design, name);

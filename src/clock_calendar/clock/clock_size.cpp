@@ -20,7 +20,7 @@ PictureSize DesignSize(std::int32_t design) {
   return size;
 }
 
-// settled: with none chosen, as a new data set has it, the clock counts as large as the
+// settled: with no design chosen, as a new data set has it, the clock counts as large as the
 // first design, so that it has a place of its own once it is shown.
 std::int32_t DesignOrFirst() {
   return Clock.ClockDesign == kClockNone ? 0 : Clock.ClockDesign;

@@ -42,11 +42,11 @@ int ClockMinutePosition(int minute) {
 
 void ClockTimeText(int hand, int hour, int minute, char (&to)[kClockTextSize]) {
   if (hand == kHandAmPm) {
-    // kept: noon and the hour after it read 0, not 12.
+    // kept: from noon to one o'clock the AM/PM clock reads 0, not 12.
     TextFormat(to, sizeof to, hour < 12 ? " AM %2d:%2d" : " PM %2d:%2d", hour < 12 ? hour : hour - 12,
                minute);
   } else {
-    // kept: the dial of 24 hours is given the count of 12.
+    // kept: the digital clock without AM and PM reads the hours modulo 12 too.
     TextFormat(to, sizeof to, "  %2d:%2d", hour % 12, minute);
   }
   char* tens = std::strchr(to, ':');

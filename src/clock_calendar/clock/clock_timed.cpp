@@ -8,8 +8,8 @@ namespace {
 bool ComesBefore(const TimedEvent& event, const TimedEvent& other) {
   if (event.hour != other.hour) return event.hour < other.hour;
   if (event.minute != other.minute) return event.minute < other.minute;
-  // kept: the new row's minute is held against the other's second, so events of
-  // one minute do not stand in the order of their seconds.
+  // kept: in the order of the clock's events the new row's minute is held against the other's
+  // second, so those of one minute do not stand in the order of their seconds.
   return event.minute < other.second;
 }
 
@@ -25,7 +25,7 @@ void Sort() {
 
 void Put(int row, const TimedEvent& event) {
   Timed.TimedRows[row] = event;
-  // bounded: a comment ends inside its field.
+  // bounded: the comment of a clock event ends inside its field.
   Timed.TimedRows[row].comment[kTimedCommentSize - 1] = '\0';
 }
 

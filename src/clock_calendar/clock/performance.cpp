@@ -8,7 +8,7 @@ PerformanceState Performance;
 
 namespace {
 
-constexpr int kStepHundredths = 10;  // of every step; the durations of a record are not used
+constexpr int kStepHundredths = 10;  // kept: the durations of a performance record have no effect
 constexpr int kPassMax = 5;
 
 // The active record; null for none.
@@ -104,7 +104,7 @@ bool PerformanceWaitIsOver(const LocalTime& now) {
   bool over = false;
   if (Performance.wait == PerformanceWait::Ticks) over = --Performance.ticksLeft <= 0;
   if (Performance.wait == PerformanceWait::Time) {
-    // kept: each of the four numbers must have been reached, so a deadline at the
+    // kept: each of the four numbers of a performance's deadline must have been reached, so a deadline at the
     // beginning of a minute waits for that second of a later minute if it is missed.
     over = now.hour >= Performance.deadline.hour && now.minute >= Performance.deadline.minute &&
            now.second >= Performance.deadline.second && now.millisecond >= Performance.deadline.millisecond;

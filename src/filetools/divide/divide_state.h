@@ -28,9 +28,10 @@ struct FileDivideState {
   std::uint8_t encryptFlag;
   char keyword[kDivKeywordMax + 1];
   std::int32_t keywordLength;  // 0: none set
-  char storeDir[300];          // takes the pieces, or the rebuilt file
-  char baseName[300];          // of the pieces; in a restore the path of the piece being read
-  char cofDir[300];            // folder of the joining file, with its trailing backslash
+  // kept: a division and a restore share the folder that takes the pieces, or the rebuilt file.
+  char storeDir[300];
+  char baseName[300];  // of the pieces; in a restore the path of the piece being read
+  char cofDir[300];    // folder of the joining file, with its trailing backslash
   std::int32_t pieceTotal;
   std::uint32_t pieceSize;  // nominal
   std::int32_t bodyKeyPos;

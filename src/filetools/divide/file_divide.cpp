@@ -90,6 +90,7 @@ Copied CopyBody(int from, int to, std::int32_t size, DivCipher cipher) {
 
 int DivideStart() {
   BeginRun();
+  // kept: a number of pieces below 1 makes two, and 1 makes a single one.
   FileDivide.pieceTotal = FileDivide.divideCount < 1 ? 2 : FileDivide.divideCount;
   FileDivide.pieceSize = FileDivide.sourceSize / static_cast<std::uint32_t>(FileDivide.pieceTotal);
   FileDivide.sourceFile = FileOpen(FileDivide.sourcePath, OpenMode::ReadDenyWrite);

@@ -31,6 +31,7 @@ void OpnGroupTick() {
   GroupRun.GroupOpenDelay = kGap;
   OpnSelectionKeep();
   OpnSelectionSet(g.fileName[file], g.filePath[file], g.progName[file], g.progPath[file]);
+  // kept: what is opened as a group comes into neither the history nor the open record.
   OpnLaunch();
   OpnSelectionBack();
 }

@@ -97,6 +97,7 @@ bool OpnHisUpdate() {
     OpnHisBrowsedTake();
     changed = true;
   }
+  // kept: a known file that is opened again does not move to the top; only its program is kept.
   changed = OpnHisProgramSet(OpnWork.fileSel, OpnSelection.progName, OpnSelection.progPath) || changed;
   ProgListUpdate();
   return changed;

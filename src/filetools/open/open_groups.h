@@ -78,7 +78,7 @@ void OpnGroupRemoveFile(int group, int row);
 
 // Adds all rows of the open record. 0, or -1 when the group was full
 // before the last: it then holds those that fitted.
-// kept: the record goes into a group with no test for doubles.
+// kept: the open record goes into a group with no test for doubles.
 int OpnGroupAddRecord(int group);
 
 // Takes a comment over with at most 255 bytes. True if it is another one than before.

@@ -24,6 +24,7 @@ constexpr Association kAssociations[] = {
 };
 constexpr const char* kListed[] = {"txt", "cpp", "pdf"};
 
+// kept: "%SystemRoot%" in an association is C:\WINDOWS, wherever Windows lies.
 constexpr char kSystemRoot[] = "%SystemRoot%";
 constexpr char kWindowsFolder[] = "C:\\WINDOWS";
 

@@ -65,7 +65,7 @@ bool SetOpnFileAnimeDlgRun(WindowHandle owner) {
 void OpnHisTakeWalkSettings() {
   const int row = Character.CharaSet.WalkRow[0];
   if (row < 1 || row > kWalkCharaMax)
-    return;  // bounded: beyond the walking rows there is nothing to carry over
+    return;  // bounded: a character whose walking row is beyond the table carries nothing into the history
   // A browsed file that waits for its start stands in memory only: reading again
   // would lose it, and the rest of memory is what the file holds.
   const bool waits = OpnHistory.workCount != OpnHistory.fileCount;

@@ -42,7 +42,7 @@ BrushHandle BrushOf(const ScopePieRow& row, int line) {
       kBrush0000E6, kBrushFF0000, kBrush00C800, kBrush8CE6F0, kBrush00F0F0, kBrushF000F0, kBrushFFFF00,
   };
   constexpr int kColours = 7;
-  // kept: the chosen folder has the colour of the slice that it lies in.
+  // kept: in the pie of the drive the chosen folder has the colour of the slice that it lies in.
   if (row.tag == kTagChosen) line = 0;
   return Drawing.Brushes[brushes[line < kColours ? line : line % kColours + 1]];
 }
@@ -54,7 +54,7 @@ void DrawSlices(Canvas* canvas, const Column& column) {
   CanvasEllipse(canvas, column.x0, column.y0, right, bottom);
   for (int i = 0; i < column.pie.count; ++i) {
     const ScopePieRow& row = column.pie.rows[i];
-    // kept: a slice whose ends meet is not drawn, be it nothing or the whole pie.
+    // kept: a slice of a pie whose ends meet is not drawn, be it nothing or the whole pie.
     if (row.tag == kTagFree || (row.x1 == row.x2 && row.y1 == row.y2)) continue;
     CanvasBrush(canvas, BrushOf(row, i));
     CanvasPie(canvas, column.x0, column.y0, right, bottom, row.x1, row.y1, row.x2, row.y2);
@@ -62,8 +62,8 @@ void DrawSlices(Canvas* canvas, const Column& column) {
 }
 
 void DrawKey(Canvas* canvas, const Column& column) {
-  // settled: a name of 23 bytes behind its number ends 240 or 248 pixels from its key's left
-  // edge. The sizes stand 188 from it on the left and 228 on the right, and with sizes further
+  // settled: in the keys of the pies a name of 23 bytes behind its number ends 240 or 248 pixels from its
+  // key's left edge. The sizes stand 188 from it on the left and 228 on the right, and with sizes further
   // out, which take 96, the left key would run into the right one, which begins 320 from it.
   // A longer line ends with the last whole character in front of the sizes.
   const int keyX = column.x0 - kKeyLeft;
@@ -116,8 +116,8 @@ void Draw(Canvas* canvas, const Rect& area) {
   const ScopeAmount drive = ScopeUnit(Scope.driveTotal);
   TextFormat(amount, sizeof amount, "ドライブ %c 容量:%d.%d %s", Scope.driveRoot[0], drive.valueInt,
              drive.valueFrac, ScopeUnitText(drive.unit));
-  // kept: the sizes of the left key stand at 228 of the window, those of the right key at 228
-  // from its left edge.
+  // kept: the sizes in the key of the left pie stand at 228 of the window, those of the right
+  // one at 228 from the key's left edge.
   DrawColumn(canvas, {Scope.drivePie, kDriveLeaders, x0, y0, kSizeX}, "対 ルートドライブ 容量比", amount);
   if (Scope.folderPie.count == 0) return;
   const ScopeAmount folder = ScopeUnit(Scope.chosenTotal);

@@ -29,7 +29,8 @@ float TotalBelow(const char* folder, const char* name) {
 
 // `path` has kWalkPathSize bytes and is as it was when the call returns, but for
 // what stands behind `length`. kept: a folder that cannot be searched adds nothing to its
-// parent's size, and nobody is told. bounded: a path longer than 4,096 bytes is not followed.
+// parent's size, and nobody is told. bounded: in the folder scope a path longer than 4,096 bytes is not
+// followed.
 void Walk(char* path, std::size_t length) {
   constexpr char kEverything[] = "\\*.*";
   if (length + sizeof kEverything > kWalkPathSize) return;

@@ -13,7 +13,7 @@ namespace {
 constexpr float kTwelve = 1.5707964F;  // the angle of 12 o'clock
 constexpr float kPi = 3.1415927F;
 
-// bounded: to a full table of slices nothing is added.
+// bounded: to a full table of slices of the folder scope nothing is added.
 void AddRow(ScopePie& pie, std::uint8_t kind, std::int32_t tag, const char* name, float size,
             std::uint64_t bytes) {
   if (pie.count >= kScopePieRows) return;

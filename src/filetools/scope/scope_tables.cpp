@@ -63,7 +63,8 @@ void ScopeEntryPut(ScopeArea area, int number, const ScopeEntry& entry) {
 ScopeEntry ScopeEntryGet(ScopeArea area, int number) {
   const ScopeEntry* at = EntryAt(area, number);
   ScopeEntry entry = at ? *at : ScopeEntry{};
-  entry.name[kScopeNameSize - 1] = '\0';  // bounded: in a shared work block a name may lack its end
+  // bounded: in a work block shared with the scenario a name may lack its end.
+  entry.name[kScopeNameSize - 1] = '\0';
   return entry;
 }
 
@@ -74,7 +75,8 @@ std::uint64_t ScopeEntrySize(ScopeArea area, int number) {
 
 int ScopeOrder(ScopeArea area, int rank, int count) {
   const std::int32_t* at = rank < count ? OrderAt(area, rank) : nullptr;
-  // bounded: in a shared work block the number of an entry may be anything.
+  // bounded: in a work block shared with the scenario the number of an entry may be anything;
+  // one that is none is passed over.
   return at && *at >= 0 && *at < kScopeLimit ? *at : -1;
 }
 

@@ -12,7 +12,8 @@ inline constexpr int kScopeNameSize = 256;
 enum class ScopeArea { Folder, Drive };
 
 // One entry of an area. A folder's size is the total of all files below it.
-// kept: the times of an entry are copied, low word first, and not used further.
+// kept: in the folder scope the times of an entry are copied, low word first, and not used
+// further.
 struct ScopeEntry {
   std::uint32_t attributes = 0;
   std::uint32_t creationTime[2] = {};

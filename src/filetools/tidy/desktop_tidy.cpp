@@ -28,8 +28,8 @@ BoxAnswer Ask(WindowHandle owner, const char* format, const char* name, const ch
   return MessageBoxRun(owner, text, caption, BoxButtons::YesNo, BoxIcon::Question);
 }
 
-// Moves an item of the desktop into its folder. bounded: an item whose path does not fit is
-// not moved.
+// Moves an item of the desktop into its folder. bounded: an item of the desktop whose path does not
+// fit is not moved.
 bool MoveItem(const char* name) {
   TextCopy(Tidy.tidyTargetPath, sizeof Tidy.tidyTargetPath, Tidy.tidyBasePath);
   if (Tidy.tidySplitByExt != 0) {

@@ -5,6 +5,7 @@
 #include "platform/dialog.h"
 #include "resources/mail_music_ids.h"
 #include "services/dialog_acts.h"
+#include "services/dialog_family.h"
 #include "services/form.h"
 
 namespace {
@@ -24,15 +25,9 @@ void Set(WindowHandle dialog) {
   DialogEnd(dialog, kOkButton);
 }
 
-void Cancel(WindowHandle dialog) {
-  DialogEnd(dialog, kCancelButton);
-}
-
 constexpr DialogAct kActs[] = {
     {EventKind::Init, Open},
     {kOkButton, Set},
-    {kCancelButton, Cancel},
-    {EventKind::Close, Cancel},
 };
 
 bool Handle(const Event& event) {
@@ -42,5 +37,5 @@ bool Handle(const Event& event) {
 }  // namespace
 
 void MYPOPDLGRun(WindowHandle owner) {
-  DialogRun(IDD_MYPOPDLG, owner, Handle);
+  PlainDialogRun(IDD_MYPOPDLG, owner, Handle);
 }

@@ -35,8 +35,8 @@ void Fail(int reason) {
   }
 }
 
-// kept: every reply is shown in a box that the check waits for.
-// False when the program has ended inside it.
+// False when the program has ended inside the box.
+// kept: every reply of the mail server is shown in a box that the check waits for.
 bool ReplyComes() {
   MailTalkHear();
   char text[kMailBoxSize];
@@ -66,6 +66,7 @@ void Converse() {
 
 }  // namespace
 
+// kept: mail that is still there is announced anew by every check.
 void MailCheck() {
   if (Mail.mailStopped || !MailTalkHasRoom()) return;
   const int reason = MailTalkBegin();

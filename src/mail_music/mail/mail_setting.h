@@ -1,5 +1,7 @@
 // The settings of the mail notification: the committed ones with their file, those that
 // the open dialog shows, and those that the client connects with.
+//
+// kept: the password of the mail server stands in its file as plain text.
 #pragma once
 
 #include <cstdint>
@@ -27,7 +29,7 @@ inline constexpr int kMailSoundSize = 300;
 //    783   300  soundName
 struct MailSettingRec {
   std::int32_t enabled;
-  std::int32_t reserved;
+  std::int32_t reserved;  // kept: a number of the mail's settings is used by nothing
   std::int32_t intervalIndex;
   char server[kMailServerSize];
   char userName[kMailAccountMax][kMailAccountSize];

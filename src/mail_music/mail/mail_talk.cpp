@@ -21,8 +21,8 @@ bool IsSet() {
   return MailLive.liveServer[0] != '\0' && MailLive.liveUser[0] != '\0' && MailLive.livePassword[0] != '\0';
 }
 
-// kept: this text anywhere in the reply means that there is no mail, so "10 messages" is
-// no mail; and every reply without it, the refusal of a password too, is mail.
+// kept: "0 message" anywhere in the reply to the password means that there is no mail, so
+// "10 messages" is no mail; and every reply without it, the refusal of a password too, is mail.
 bool ReadsAsMail() {
   return std::strstr(MailTalks.reply, "0 message") == nullptr;
 }
@@ -35,7 +35,7 @@ bool MailTalkHasRoom() {
   return MailTalks.count < kMailTalkMax;
 }
 
-// kept: a host that is not found, a socket that is not to be had, and settings that are
+// kept: a mail server that is not found, a socket that is not to be had, and settings that are
 // not there leave the network started.
 int MailTalkBegin() {
   if (!SocketsStart()) return kMailNoNetwork;

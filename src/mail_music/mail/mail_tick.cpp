@@ -10,6 +10,8 @@
 
 namespace {
 
+// kept: a unit of the mail interval is 6000 ticks, some three minutes, whatever the list of the
+// intervals calls it.
 constexpr std::int32_t kUnitTicks = 6000;
 constexpr auto kLastInterval = static_cast<std::int32_t>(std::size(kMailIntervals)) - 1;
 

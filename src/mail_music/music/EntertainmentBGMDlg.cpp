@@ -1,5 +1,6 @@
-// EntertainmentBGMDlg, "BGM 設定": the music table. Nothing plays: the buttons of the
-// performance have no function.
+// EntertainmentBGMDlg, "BGM 設定": the music table.
+//
+// kept: nothing plays the music table; the two buttons that would start and end it do nothing.
 #include "mail_music/music/BGMRsvTimeSetDlg.h"
 #include "mail_music/music/music.h"
 #include "mail_music/music/music_window.h"
@@ -60,6 +61,7 @@ void LeftDouble(const Event& event) {
   const TablePlace place = PlaceOf(event);
   if (place.hit == TableHit::Content) BgmFileRun(event.window, place.row - 1);
   if (place.hit == TableHit::Hours) BGMRsvTimeSetDlgRun(event.window);
+  // kept: the title of the music table is the schedule's.
   if (place.hit == TableHit::Title) SCLTitleDlgRun(ToolDialog::SCLTitleDlg, event.window);
   SendPaint(event.window);
 }

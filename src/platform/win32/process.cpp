@@ -16,7 +16,7 @@ ProcessHandle ProcessStart(const char* commandLine) {
                       &information)) {
     return nullptr;
   }
-  // kept: the thread handle stays open for the life of this program.
+  // kept: the thread handle of a started program stays open for the life of this one.
   return reinterpret_cast<ProcessHandle>(information.hProcess);
 }
 

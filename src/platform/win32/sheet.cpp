@@ -49,8 +49,10 @@ RECT PagePlace(HWND sheet, HWND tabs) {
 void GrowBy(HWND sheet, HWND tabs, LONG right, LONG down) {
   RECT rect{};
   GetWindowRect(sheet, &rect);
-  const LONG left = std::max<LONG>(rect.left - right / 2, 0);
-  const LONG top = std::max<LONG>(rect.top - down / 2, 0);
+  // Not beyond the left or upper edge of the screen; one to the left of or above the main
+  // screen has places below 0.
+  const LONG left = std::max(rect.left - right / 2, std::min<LONG>(rect.left, 0));
+  const LONG top = std::max(rect.top - down / 2, std::min<LONG>(rect.top, 0));
   SetWindowPos(sheet, nullptr, left, top, rect.right - rect.left + right, rect.bottom - rect.top + down,
                SWP_NOZORDER | SWP_NOACTIVATE);
   GetWindowRect(tabs, &rect);

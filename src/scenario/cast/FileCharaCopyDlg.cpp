@@ -20,7 +20,7 @@ struct Fields {
   std::int32_t most;
 };
 
-// settled: a number of copies below 0 counts as 0.
+// settled: a number of copies of a character below 0 counts as 0.
 void Exchange(Form& form, Fields& fields) {
   form.NumberIn(IDC_CAST_COPIES, fields.copies, 3, 0, 999);
   if (!form.Takes()) form.Number(IDC_CAST_COPIES_MOST, fields.most, 3);
@@ -59,6 +59,6 @@ bool Handle(const Event& event) {
 
 void FileCharaCopyDlgRun(WindowHandle owner) {
   if (!CastMemberTake(Scenario.castRow)) return;
-  if (CastIsCopy(CastMember.id)) return BoxTell(owner, kIsCopy);
+  if (SnryCastIsCopy(CastMember.id)) return BoxTell(owner, kIsCopy);
   SnryDialogRun(SnryDialog::FileCharaCopyDlg, IDD_FileCharaCopyDlg, owner, Handle);
 }

@@ -40,6 +40,6 @@ bool Handle(const Event& event) {
 
 void FileCharaDelDlgRun(WindowHandle owner) {
   if (!CastMemberTake(Scenario.castRow)) return;
-  if (CastIsCopy(CastMember.id)) return BoxTell(owner, kIsCopy);
+  if (SnryCastIsCopy(CastMember.id)) return BoxTell(owner, kIsCopy);
   SnryDialogRun(SnryDialog::FileCharaDelDlg, IDD_FileCharaDelDlg, owner, Handle);
 }

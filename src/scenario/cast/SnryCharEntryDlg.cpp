@@ -29,8 +29,8 @@ void Show(WindowHandle dialog) {
   FormShow(dialog, CastMemberRecord(), Exchange);
 }
 
-// kept: entry and exit do not mark the scenario as changed; they are in the scene's file
-// once the scene is confirmed.
+// kept: a character's entry and exit do not mark the scenario as changed; they are in the
+// scene's file once the scene is confirmed.
 void Confirm(WindowHandle dialog) {
   FormTake(dialog, CastMemberRecord(), Exchange);
   SnryDialogEnd(dialog, kOkButton);

@@ -12,6 +12,7 @@
 namespace {
 
 constexpr BoxWords kReplace{"同じ名前のファイルがあります。コピーしますか?", "背景ファイルコピーの確認"};
+// kept: a background that cannot be copied is told under the caption of the file back-up.
 constexpr BoxWords kNotCopied{"ファイルをコピーできません", "ファイルバックアップエラー"};
 
 // Where the file goes: its name, in the folder.

@@ -71,6 +71,10 @@ void ListPut(SnrySceneRec& scene, int place, int id) {
   if (place < kSnrySceneCastMax) scene.cast[place] = static_cast<std::uint16_t>(id);
 }
 
+// kept: new copies come in between the slots, and only the members behind them in the list
+// follow their copies up. A member before them that has its copies in higher slots goes on
+// with the ids that it had, which are then those of other copies, and its last one is in
+// nobody's list.
 void Grow(SnrySceneRec& scene, const Change& change) {
   const int by = change.to - change.from;
   for (int slot = change.end - 1; slot >= change.slot; --slot) SnryCastAt(slot + by) = SnryCastAt(slot);
@@ -85,6 +89,8 @@ void Grow(SnrySceneRec& scene, const Change& change) {
   scene.castCount = static_cast<std::uint16_t>(std::min(SnryCastCount(scene) + by, kSnrySceneCastMax));
 }
 
+// kept: a copy that goes gives its lines back only when another takes its slot. Those of the
+// last copies stay taken until all lines of the scene are released.
 void SlotsDown(const Change& change, int by) {
   for (int slot = change.slot; slot + by < change.end; ++slot) {
     CastLinesFree(SnryCastAt(slot));
@@ -101,8 +107,8 @@ void PlacesDown(SnrySceneRec& scene, const Change& change, int by) {
   }
 }
 
-// kept: behind copies that went, ids come down twice: those that moved have come down
-// already and are not told from the others.
+// kept: when copies of a character go, the ids of the cast behind them come down twice: those
+// that moved have come down already and are not told from the others.
 void IdsDown(SnrySceneRec& scene, const Change& change, int by) {
   for (int place = 0; place < SnryCastCount(scene); ++place) {
     std::uint16_t& id = scene.cast[place];
@@ -125,34 +131,43 @@ void FreeSlotsClear() {
     SnryCastAt(slot) = {};
 }
 
-// bounded: counts of copies that a damaged scene has end with the table.
-int CopiesEnd() {
-  return std::min(kSnryCopyFirst + CastCopySum(), kSnryCastSlots);
+// The copies of the members that `counts` says so about.
+template <class Counts>
+int SumCopies(Counts counts) {
+  const SnrySceneRec& scene = SnrySceneNow();
+  int sum = 0;
+  for (int place = 0; place < SnryCastCount(scene); ++place) {
+    if (counts(scene.cast[place])) sum += CastCopies(scene.cast[place]);
+  }
+  return sum;
 }
 
 }  // namespace
 
 int CastCopySum() {
-  const SnrySceneRec& scene = SnrySceneNow();
-  int sum = 0;
-  for (int place = 0; place < SnryCastCount(scene); ++place) {
-    if (SnryCharaIsRegistered(scene.cast[place])) sum += CastCopies(scene.cast[place]);
-  }
-  return sum;
+  return SumCopies(SnryCharaIsRegistered);
+}
+
+// bounded: counts of copies that a damaged scene has end with the table.
+int CastCopiesEnd() {
+  return std::min(kSnryCopyFirst + SumCopies([](int) { return true; }), kSnryCastSlots);
 }
 
 int CastCopies(int chara) {
   return chara >= 1 && chara <= kSnryCharaMax ? SnryCastAt(chara - 1).copies : 0;
 }
 
+// bounded: copies of a character that is no longer registered do not count as taken, but
+// they have their slots; no more copies are offered than there are slots behind them all.
 int CastCopiesMost(int chara) {
-  return CastCopies(chara) + std::max(0, kSnryCopyMax - CastCopySum());
+  const int free = std::min(kSnryCopyMax - CastCopySum(), kSnryCastSlots - CastCopiesEnd());
+  return CastCopies(chara) + std::max(0, free);
 }
 
 void CastCopiesSet(int chara, int copies) {
   if (copies == CastCopies(chara)) return;
   SnrySceneRec& scene = SnrySceneNow();
-  Change change{chara, CastCopies(chara), copies, CopiesEnd(), 0, 0};
+  Change change{chara, CastCopies(chara), copies, CastCopiesEnd(), 0, 0};
   change.slot = SlotOf(change);
   change.place = PlaceOf(scene, change);
   if (change.to > change.from) {
@@ -168,7 +183,7 @@ void CastCopiesSet(int chara, int copies) {
 
 void CastCopiesRemove(int chara) {
   CastCopiesSet(chara, 0);
-  const int end = CopiesEnd();
+  const int end = CastCopiesEnd();
   for (int slot = kSnryCopyFirst; slot < end; ++slot) {
     if (!IsCopyOf(slot, chara)) continue;
     SnryCastRec& copy = SnryCastAt(slot);

@@ -5,6 +5,9 @@
 // How many copies the registered characters of the cast have together.
 int CastCopySum();
 
+// The slot behind the last copy of all characters of the cast, registered or not, 512 to 712.
+int CastCopiesEnd();
+
 // How many copies a character of the cast (from 1) has, and how many it may have.
 int CastCopies(int chara);
 int CastCopiesMost(int chara);

@@ -30,8 +30,8 @@ void Put(SnryCastRec& member, int place, int id, const CastLine& line) {
   member.endValues[place] = line.change.value;
 }
 
-// kept: the ways in which lines end, and what changes then, stay at their places when a
-// line goes, and so the next line has them.
+// kept: the ways in which a character's lines end, and what changes then, stay at their places
+// when a line goes, and so the next line has them.
 void Remove(SnryCastRec& member, int place) {
   SnryLineAt(member.lines[place] - 1).used = 0;
   CastPlaceClose(member.lines, place);
@@ -67,6 +67,8 @@ CastLine CastLineTake(const SnryCastRec& member, int row) {
   return line;
 }
 
+// kept: a line without a text, or one too many, is left out in silence; a change may take the
+// text away.
 bool CastLineAdd(SnryCastRec& member, const CastLine& line) {
   const int slot = FreeSlot();
   const int place = CastPlaceFree(member.lines);
@@ -90,7 +92,7 @@ void CastLineDelete(SnryCastRec& member, int row) {
   Scenario.changed = true;
 }
 
-// settled: each line is given back, whatever else comes down meanwhile.
+// settled: each line of a copy that goes is given back, whatever else comes down meanwhile.
 void CastLinesFree(SnryCastRec& member) {
   for (int place = kSnryCastPlaces - 1; place >= 0; --place) {
     if (member.lines[place] != 0) Remove(member, place);

@@ -19,8 +19,9 @@ bool IsInCast(int id) {
 
 // Goes through the characters that can be added; the one at which `ends` says so, 0 for
 // none.
-// kept: the number of registered characters is a countdown here. The walk over the flags
-// ends with it, so characters behind are not offered, and with 0 nobody is.
+// kept: where characters are offered to a cast, the number of registered ones is a countdown.
+// The walk over the flags ends with it, so characters behind are not offered, and with 0
+// nobody is.
 template <class Ends>
 int WalkRegistered(Ends ends) {
   int left = SnryMain.registeredCount;
@@ -62,10 +63,10 @@ void SlotsClose() {
   SlotsClear(to, kSnryCastSlots - 1);
 }
 
-// bounded: the clearing of the copies that are left over goes up to the slot behind the
-// last of the table, which is nobody's.
+// bounded: when a member leaves a cast, the clearing of the copies that are left over goes up to
+// the slot behind the last of the table, which is nobody's.
 void CopiesTidy(SnrySceneRec& scene) {
-  SlotsClear(kSnryCopyFirst + CastCopySum(), kSnryCastSlots);
+  SlotsClear(CastCopiesEnd(), kSnryCastSlots);
   for (int slot = kSnryCastSlots - 1; slot >= kSnryCopyFirst; --slot) {
     if (SnryCastAt(slot).master == 0) IdRemove(scene, slot);
   }
@@ -103,6 +104,7 @@ void CastAddRowText(int row, char* text, int size) {
              SnryMain.charaNames[chara - 1].text, SnryMain.castNames[chara - 1].text);
 }
 
+// kept: a member too many of a cast is left out in silence.
 void CastAdd(int chara) {
   SnrySceneRec& scene = SnrySceneNow();
   if (SnryCastCount(scene) == kSnrySceneCastMax) return;

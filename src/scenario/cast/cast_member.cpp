@@ -19,12 +19,8 @@ SnryCastRec& CastMemberRecord() {
   return SnryCastAt(CastMember.id - 1);
 }
 
-bool CastIsCopy(int id) {
-  return id > kSnryCopyFirst && id <= kSnryCastSlots;
-}
-
 int CastCharacterOf(int id) {
-  const int character = CastIsCopy(id) ? SnryCastAt(id - 1).master : id;
+  const int character = SnryCastIsCopy(id) ? SnryCastAt(id - 1).master : id;
   return character >= 1 && character <= kSnryCharaMax ? character : 0;
 }
 
@@ -32,7 +28,7 @@ void CastName(int id, char* text, int size) {
   const auto room = static_cast<std::size_t>(size);
   const int character = CastCharacterOf(id);
   const char* name = character == 0 ? "" : SnryMain.charaNames[character - 1].text;
-  if (CastIsCopy(id)) {
+  if (SnryCastIsCopy(id)) {
     TextFormat(text, room, "%sのコピー%d", name, SnryCastAt(id - 1).copies + 1);
   } else {
     TextCopy(text, room, name);

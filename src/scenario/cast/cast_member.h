@@ -19,8 +19,6 @@ bool CastMemberTake(int row);
 // Its record.
 SnryCastRec& CastMemberRecord();
 
-bool CastIsCopy(int id);
-
 // The character of a cast id: itself, or the one that it copies; 0 for none.
 int CastCharacterOf(int id);
 

@@ -27,6 +27,7 @@ bool WalkFiles(const char* part, const char* extension, Ends ends) {
 
 }  // namespace
 
+// kept: the extension of a background or a sound of a scenario must be in small letters.
 bool ScenarioFileFits(const char* name, unsigned attributes, const char* extension) {
   if ((attributes & kAttributeFolder) != 0 || name[0] == '.') return false;
   const char* stop = std::strrchr(name, '.');

@@ -35,7 +35,8 @@ void Delete(WindowHandle dialog) {
   ShowAgain(dialog, row);
 }
 
-// kept: the buttons for all characters at once and for characters from elsewhere do nothing.
+// kept: in the registration of characters the buttons for all characters at once and for characters from
+// elsewhere do nothing.
 constexpr DialogAct kActs[] = {
     {EventKind::Init, Show},
     {IDC_CHARA_REGI_SET, Set},

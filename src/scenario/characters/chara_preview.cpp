@@ -3,7 +3,6 @@
 #include "platform/canvas.h"
 #include "platform/dialog.h"
 #include "scenario/characters/picture_fit.h"
-#include "scenario/storage/snry_images.h"
 #include "services/drawing_objects.h"
 #include "services/painting.h"
 #include "world/world_pictures.h"
@@ -41,8 +40,4 @@ void CharaPreviewPaint(WindowHandle dialog, const Point& at, int chara) {
     picture.picture ? Draw(canvas, area, picture) : DrawEmpty(canvas, area);
   });
   CanvasRelease(screen);
-}
-
-void SnryImagesRelease() {
-  WorldPicturesFree();
 }

@@ -39,7 +39,7 @@ void CharaRegister(int chara, const SnryNameRec& castName) {
 
 void CharaUnregister(int chara) {
   if (!IsChara(chara)) return;
-  SnryMain.registered[chara] = 0;
+  SnryMain.registered[chara] = 0;  // kept: a character that is taken out keeps its cast name
   // kept: the number of registered characters falls only when it happens to be one more
   // than the slot of the parameter chosen last. It is no number of registered characters
   // but how many of them a scene can choose from.

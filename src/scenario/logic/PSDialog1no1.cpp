@@ -24,7 +24,7 @@ SnryMenuRec& Menu() {
   return SnryScene.menus[SnrySheet.menu];
 }
 
-// bounded: a menu has ten items, whatever its count says.
+// bounded: a menu of a scene has ten items at most, whatever its count says.
 int ItemCount() {
   return std::min<int>(Menu().itemCount, kSnryMenuItemMax);
 }
@@ -124,7 +124,8 @@ bool AddItem(WindowHandle page, int) {
   return true;
 }
 
-// kept: when the tenth item is deleted, its text and its parameters stay behind the count.
+// kept: when the tenth item of a menu is deleted, its text and its parameters stay behind the
+// count.
 bool DeleteItem(WindowHandle, int item) {
   const auto left = static_cast<std::uint8_t>(ItemCount() - 1);
   MoveUp(Menu().itemTexts, item);

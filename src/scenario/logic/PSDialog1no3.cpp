@@ -96,8 +96,8 @@ void PlaceText(int row, char* text, int size) {
 
 constexpr ListEditor kPlaces{IDC_PAGE_PLACES, [] { return SnryPlaceCount(Random().parameters); }, PlaceText};
 
-// kept: modes, operations and other parameters of a random stay in their places behind a
-// delete, so that they no longer line up with the entries.
+// kept: when an entry of a random is deleted, the modes, operations and other parameters stay in
+// their places, so that they no longer line up with the entries behind it.
 bool DeletePlace(WindowHandle, int row) {
   SnryRandomRec& random = Random();
   const int place = SnryPlaceOfRow(random.parameters, row);

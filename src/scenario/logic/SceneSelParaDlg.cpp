@@ -13,7 +13,8 @@ void Exchange(Form& form, SnrySceneRec& scene) {
   SnryPairExchange(form, IDC_START_PARA, IDC_START_VALUE, scene.start);
 }
 
-// kept: the scenario does not count as changed by this; the next save takes it along.
+// kept: the scenario does not count as changed by a scene's name and start condition; the next
+// save takes them along.
 void Accept(WindowHandle dialog) {
   FormTake(dialog, SnrySceneNow(), Exchange);
   SnryDialogEnd(dialog, 1);

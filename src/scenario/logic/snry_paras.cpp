@@ -9,6 +9,8 @@
 namespace {
 
 constexpr char kNotSet[] = "未設定";
+constexpr int kUnsignedDigits = 5;
+constexpr int kUnsignedHighest = 65535;
 
 bool IsUsed(int slot) {
   return SnryMain.paras[slot].used != 0;
@@ -69,6 +71,11 @@ void SnryPairExchange(Form& form, int paraId, int valueId, SnryPair& pair, int d
   form.Number(valueId, pair.value, digits);
 }
 
+void SnryUnsignedPairExchange(Form& form, int paraId, int valueId, SnryPair& pair) {
+  SnryParaExchange(form, paraId, pair.parameter);
+  form.NumberIn(valueId, pair.value, kUnsignedDigits, 0, kUnsignedHighest);
+}
+
 const char* SnryParaName(int id) {
   return IsPara(id) ? SnryMain.paras[id - 1].name : kNotSet;
 }
@@ -99,9 +106,10 @@ bool SnryParaNameIsTaken(const char* name) {
   });
 }
 
-// kept: a parameter goes behind the last slot that was given; a gap in between is not used
+// kept: a new parameter goes behind the last slot that was given; a gap in between is not used
 // again.
 bool SnryParaAdd(const SnryParaRec& para) {
+  // kept: a parameter too many is left out in silence.
   if (SnryMain.paraCount >= kSnryParaMax) return false;
   SnryMain.paras[SnryMain.paraCount] = para;
   SnryMain.paras[SnryMain.paraCount].used = 1;
@@ -113,8 +121,8 @@ void SnryParaChange(int slot, const SnryParaRec& para) {
   if (slot >= 0 && slot < kSnryParaMax) SnryMain.paras[slot] = para;
 }
 
-// kept: who uses the parameter goes on naming its slot; the count falls by one only behind the
-// highest slot, whatever the slot below it holds.
+// kept: who uses a deleted parameter goes on naming its slot; the count falls by one only behind
+// the highest slot, whatever the slot below it holds.
 void SnryParaRemove(int slot) {
   if (slot < 0 || slot >= kSnryParaMax) return;
   SnryParaRec& para = SnryMain.paras[slot];

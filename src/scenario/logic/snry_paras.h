@@ -20,6 +20,10 @@ Rows SnryParaRows();
 void SnryParaExchange(Form& form, int id, std::uint16_t& parameter);
 // A parameter and a value of at most `digits` characters.
 void SnryPairExchange(Form& form, int paraId, int valueId, SnryPair& pair, int digits = 3);
+// The same with a value that has no sign, of at most five characters: 0 to 65535.
+// kept: a value below 0 that is typed for a key or for a scroll is 0, unlike in the other
+// dialogs of a scene.
+void SnryUnsignedPairExchange(Form& form, int paraId, int valueId, SnryPair& pair);
 
 // The name of a parameter by its id; "未設定" for one that is none.
 const char* SnryParaName(int id);

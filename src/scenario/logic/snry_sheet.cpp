@@ -4,9 +4,9 @@
 #include <iterator>
 
 #include "platform/dialog.h"
-#include "platform/sheet.h"
 #include "resources/scenario_logic_ids.h"
 #include "scenario/logic/snry_logic.h"
+#include "services/dialog_family.h"
 #include "services/text.h"
 
 SnrySheetState SnrySheet;
@@ -25,7 +25,8 @@ void Keep() {
   Copy(SnryScene.randomExs, SnrySheet.randomExs);
 }
 
-// kept: the extensions of the events are not among what a cancel brings back.
+// kept: whether an event remembers the entered text is not among what a cancel of a scene's ways
+// to move on brings back.
 void BringBack() {
   Copy(SnrySheet.menus, SnryScene.menus);
   Copy(SnrySheet.events, SnryScene.events);
@@ -33,6 +34,8 @@ void BringBack() {
   Copy(SnrySheet.randomExs, SnryScene.randomExs);
 }
 
+// kept: the scenario does not count as changed by a scene's ways to move on; they are in the
+// scene's file once the scene is confirmed.
 void Begin() {
   SnrySheet.menu = 0;
   SnrySheet.event = 0;
@@ -49,6 +52,8 @@ SheetPage EventPage() {
 
 }  // namespace
 
+// kept: the pages step through the first hundred records, so that the second hundred of a scene's
+// events and randoms is out of reach.
 int SnryRecordStep(int record, int step) {
   return (record + step + kSnryRecords) % kSnryRecords;
 }
@@ -69,5 +74,5 @@ void SnryAdvanceSheetRun(WindowHandle owner) {
   Begin();
   const SheetPage pages[] = {
       {IDD_PSDialog1no1, SnryMenuPage}, EventPage(), {IDD_PSDialog1no3, SnryRandomPage}};
-  if (!SheetRun(owner, "場面進行方法設定", pages, static_cast<int>(std::size(pages)))) BringBack();
+  if (!PlainSheetRun(owner, "場面進行方法設定", pages, static_cast<int>(std::size(pages)))) BringBack();
 }

@@ -39,8 +39,7 @@ int SnryRecordStep(int record, int step);
 // Shows the number of the record, from 1.
 void SnryRecordShow(WindowHandle page, int record);
 
-// True when something was done to the page that it may have to take over; it is marked
-// then as changed.
+// Marks a page as changed when something was done to it that it may have to take over.
 void SnryPageMark(const Event& event);
 
 // What is asked and told about a page's list of parameters.

@@ -1,25 +1,22 @@
 // SceenKeyDlg, "キー、マウス割付": what keys and actions of the mouse change in a scene.
 
-#include <algorithm>
 #include <iterator>
 
 #include "platform/dialog.h"
 #include "resources/scenario_looks_ids.h"
 #include "scenario/logic/snry_cast_choice.h"
 #include "scenario/logic/snry_paras.h"
-#include "scenario/logic/snry_places.h"
 #include "scenario/looks/snry_looks.h"
 #include "services/dialog_acts.h"
 #include "services/dialog_family.h"
 #include "services/form.h"
 #include "services/list_editor.h"
+#include "services/slots.h"
 #include "services/text.h"
 
 namespace {
 
 constexpr int kNameMost = 32;
-constexpr int kValueDigits = 5;
-constexpr int kValueHighest = 65535;
 
 constexpr const char* kKeys[] = {"Enter",
                                  "Space",
@@ -99,21 +96,16 @@ constexpr std::uint8_t kUpAndDown = 2;
 // --- The records in use, by row
 
 int Count() {
-  return static_cast<int>(std::count_if(std::begin(SnryScene.keys), std::end(SnryScene.keys),
-                                        [](const SnryKeyRec& key) { return key.key != 0; }));
+  return SlotsUsed(SnryScene.keys, &SnryKeyRec::key);
 }
 
-int SlotOfRow(int row) {
-  for (int slot = 0; row >= 0 && slot < kSnryKeyMax; ++slot) {
-    if (SnryScene.keys[slot].key != 0 && row-- == 0) return slot;
-  }
-  return -1;
+int SlotOf(int row) {
+  return SlotOfRow(SnryScene.keys, row, &SnryKeyRec::key);
 }
 
-SnryKeyRec* FirstFree() {
-  auto* key = std::find_if(std::begin(SnryScene.keys), std::end(SnryScene.keys),
-                           [](const SnryKeyRec& record) { return record.key == 0; });
-  return key == std::end(SnryScene.keys) ? nullptr : key;
+// The slot for another record; -1 when there is none.
+int FreeSlot() {
+  return SlotFree(SnryScene.keys, &SnryKeyRec::key);
 }
 
 const char* KeyText(int key) {
@@ -121,18 +113,11 @@ const char* KeyText(int key) {
 }
 
 void RowText(int row, char* text, int size) {
-  const SnryKeyRec& key = SnryScene.keys[SlotOfRow(row)];
+  const SnryKeyRec& key = SnryScene.keys[SlotOf(row)];
   TextFormat(text, static_cast<std::size_t>(size), "[ %s ] - %s", KeyText(key.key), key.name);
 }
 
 constexpr ListEditor kRecords{IDC_KEY_ROWS, Count, RowText};
-
-// The record whose parameters are on show: that of the chosen row, or with none the first
-// that is empty. Null when there is neither.
-SnryKeyRec* Current(WindowHandle dialog) {
-  const int slot = SlotOfRow(ListEditorChosen(dialog, kRecords));
-  return slot >= 0 ? &SnryScene.keys[slot] : FirstFree();
-}
 
 // --- Fields
 
@@ -153,114 +138,114 @@ void Exchange(Form& form, SnryKeyRec& key) {
 }
 
 void ExchangePlace(Form& form, SnryPair& pair) {
-  SnryParaExchange(form, IDC_KEY_PARA, pair.parameter);
-  form.NumberIn(IDC_KEY_VALUE, pair.value, kValueDigits, 0, kValueHighest);
+  SnryUnsignedPairExchange(form, IDC_KEY_PARA, IDC_KEY_VALUE, pair);
 }
 
 // --- The parameters of the current record
 
-void PlaceText(const SnryKeyRec& key, int row, char* text, int size) {
-  const int place = SnryPlaceOfRow(key.parameters, row);
-  TextFormat(text, static_cast<std::size_t>(size), "%d.%s", row + 1, SnryParaName(key.parameters[place]));
+bool HasKey() {
+  return SnryLooks.key >= 0;
 }
 
-void ShowPlaces(WindowHandle dialog) {
-  const ListQuiet quiet(dialog, IDC_KEY_PLACES);
-  ListClear(dialog, IDC_KEY_PLACES);
-  const SnryKeyRec* key = Current(dialog);
-  for (int row = 0; key && row < SnryPlaceCount(key->parameters); ++row) {
-    char text[kRowTextSize];
-    PlaceText(*key, row, text, sizeof text);
-    ListAdd(dialog, IDC_KEY_PLACES, text);
-  }
+SnryKeyRec& Key() {
+  return SnryScene.keys[SnryLooks.key];
 }
 
-// The place of the chosen parameter; -1 for none.
-int PlaceChosen(WindowHandle dialog, const SnryKeyRec& key) {
-  return SnryPlaceOfRow(key.parameters, ListSelected(dialog, IDC_KEY_PLACES));
+// The place of a row of its parameters; -1 for a row that there is not.
+int PlaceOf(int row) {
+  return HasKey() ? SlotOfRow(Key().parameters, row) : -1;
 }
+
+SnryPair PairOf(int place) {
+  return {Key().parameters[place], Key().values[place]};
+}
+
+void PlaceText(int row, char* text, int size) {
+  TextFormat(text, static_cast<std::size_t>(size), "%d.%s", row + 1,
+             SnryParaName(Key().parameters[PlaceOf(row)]));
+}
+
+constexpr ListEditor kPlaces{IDC_KEY_PLACES, [] { return HasKey() ? SlotsUsed(Key().parameters) : 0; },
+                             PlaceText};
 
 void ShowPlace(WindowHandle dialog) {
-  const SnryKeyRec* key = Current(dialog);
-  const int place = key ? PlaceChosen(dialog, *key) : -1;
+  const int place = PlaceOf(ListEditorChosen(dialog, kPlaces));
   if (place < 0) return;
-  SnryPair pair{key->parameters[place], key->values[place]};
+  SnryPair pair = PairOf(place);
   FormShow(dialog, pair, ExchangePlace);
 }
 
-void TakePlace(WindowHandle dialog, SnryKeyRec& key, int place) {
-  SnryPair pair{};
+bool TakePlace(WindowHandle dialog, int place) {
+  if (place < 0) return false;
+  SnryPair pair = PairOf(place);
   FormTake(dialog, pair, ExchangePlace);
-  key.parameters[place] = pair.parameter;
-  key.values[place] = pair.value;
+  Key().parameters[place] = pair.parameter;
+  Key().values[place] = pair.value;
+  return true;
 }
 
-// kept: an empty record is asked about, and takes the parameter all the same unless the
-// answer is to cancel.
-bool EmptyIsAllowed(WindowHandle dialog, const SnryKeyRec& key, const BoxWords& question) {
-  return key.key != 0 || BoxAsk(dialog, question);
-}
+constexpr ListDeed kAddPlace{
+    .may = [] { return SlotFree(Key().parameters) >= 0; },
+    .mayNot = {"設定できるパラメータは最大20個です", "パラメータ追加エラー"},
+    .question = {"パラメータを追加", "パラメータの追加"},
+    .act = [](WindowHandle dialog, int) { return TakePlace(dialog, SlotFree(Key().parameters)); }};
+constexpr ListDeed kChangePlace{
+    .needsRow = true,
+    .question = {"パラメータを変更します。", "パラメータの変更"},
+    .act = [](WindowHandle dialog, int row) { return TakePlace(dialog, PlaceOf(row)); }};
+constexpr ListDeed kDeletePlace{.needsRow = true,
+                                .question = {"パラメータを削除します。", "パラメータの削除"},
+                                .act = [](WindowHandle, int row) {
+                                  const int place = PlaceOf(row);
+                                  SlotDrop(Key().parameters, place);
+                                  SlotDrop(Key().values, place);
+                                  return true;
+                                }};
 
 constexpr BoxWords kAddEmpty{"キー/マウスが設定されていません", "パラメータの追加エラー"};
 constexpr BoxWords kChangeEmpty{"キーコードが設定されていません", "パラメータの変更エラー"};
-constexpr BoxWords kPlacesFull{"設定できるパラメータは最大20個です", "パラメータ追加エラー"};
-constexpr BoxWords kAddPlace{"パラメータを追加", "パラメータの追加"};
-constexpr BoxWords kChangePlace{"パラメータを変更します。", "パラメータの変更"};
-constexpr BoxWords kDeletePlace{"パラメータを削除します。", "パラメータの削除"};
+constexpr BoxWords kUnasked{};
 
-void AddPlace(WindowHandle dialog) {
-  SnryKeyRec* key = Current(dialog);
-  if (!key || !EmptyIsAllowed(dialog, *key, kAddEmpty)) return;
-  const int place = SnryPlaceFree(key->parameters);
-  if (place < 0) return BoxTell(dialog, kPlacesFull);
-  if (!BoxAsk(dialog, kAddPlace)) return;
-  TakePlace(dialog, *key, place);
-  ShowPlaces(dialog);
-}
-
-void ChangePlace(WindowHandle dialog) {
-  SnryKeyRec* key = Current(dialog);
-  if (!key || !EmptyIsAllowed(dialog, *key, kChangeEmpty)) return;
-  const int place = PlaceChosen(dialog, *key);
-  if (place < 0 || !BoxAsk(dialog, kChangePlace)) return;
-  TakePlace(dialog, *key, place);
-  ShowPlaces(dialog);
-}
-
-void DeletePlace(WindowHandle dialog) {
-  SnryKeyRec* key = Current(dialog);
-  const int place = key ? PlaceChosen(dialog, *key) : -1;
-  if (place < 0 || !BoxAsk(dialog, kDeletePlace)) return;
-  SnryPlaceDrop(key->parameters, place);
-  SnryPlaceDrop(key->values, place);
-  ShowPlaces(dialog);
+// kept: an assignment of a key that is empty is asked about, and takes the parameter all the same
+// unless the answer is to cancel.
+template <const ListDeed& deed, const BoxWords& empty>
+void EditPlace(WindowHandle dialog) {
+  if (!HasKey() || (Key().key == 0 && !BoxAsk(dialog, empty))) return;
+  ListDeedRun(dialog, kPlaces, deed);
 }
 
 // --- The records
 
-void RecordChosen(WindowHandle dialog) {
-  const int slot = SlotOfRow(ListEditorChosen(dialog, kRecords));
-  if (slot >= 0) {
-    SnryKeyRec key = SnryScene.keys[slot];
-    FormShow(dialog, key, Exchange);
-    SnryLooks.cursorSync = key.cursorSync;
-    SnryLooks.axes = key.axes;
-    ShowSync(dialog);
-  }
-  ShowPlaces(dialog);
+// Shows the parameters of the chosen record, or with none chosen those of the first that is
+// empty.
+void ShowPlaces(WindowHandle dialog) {
+  const int slot = SlotOf(ListEditorChosen(dialog, kRecords));
+  SnryLooks.key = slot >= 0 ? slot : FreeSlot();
+  ListEditorShow(dialog, kPlaces);
 }
 
-// kept: a record that is added has no cursor sync, whatever its buttons show; a change
-// gives it one.
+void RecordChosen(WindowHandle dialog) {
+  ShowPlaces(dialog);
+  if (ListEditorChosen(dialog, kRecords) < 0) return;
+  FormShow(dialog, Key(), Exchange);
+  SnryLooks.cursorSync = Key().cursorSync;
+  SnryLooks.axes = Key().axes;
+  ShowSync(dialog);
+}
+
+// kept: an assignment of a key that is added has no cursor sync, whatever its buttons show; a
+// change gives it one.
+// settled: without a chosen key, as behind a record whose key the list does not have, nothing
+// is added.
 bool AddRecord(WindowHandle dialog, int) {
-  SnryKeyRec* key = FirstFree();
-  if (!key) return false;
-  FormTake(dialog, *key, Exchange);
+  const int slot = FreeSlot();
+  if (slot < 0 || ListSelected(dialog, IDC_KEY_KEY) < 0) return false;
+  FormTake(dialog, SnryScene.keys[slot], Exchange);
   return true;
 }
 
 bool ChangeRecord(WindowHandle dialog, int row) {
-  SnryKeyRec& key = SnryScene.keys[SlotOfRow(row)];
+  SnryKeyRec& key = SnryScene.keys[SlotOf(row)];
   FormTake(dialog, key, Exchange);
   key.cursorSync = SnryLooks.cursorSync;
   key.axes = SnryLooks.axes;
@@ -268,27 +253,24 @@ bool ChangeRecord(WindowHandle dialog, int row) {
 }
 
 bool DeleteRecord(WindowHandle, int row) {
-  auto* key = SnryScene.keys + SlotOfRow(row);
-  std::copy(key + 1, std::end(SnryScene.keys), key);
-  SnryScene.keys[kSnryKeyMax - 1] = {};
+  SlotDrop(SnryScene.keys, SlotOf(row));
   return true;
 }
 
-constexpr ListDeed kAdd{.may = [] { return FirstFree() != nullptr; },
+constexpr ListDeed kAdd{.may = [] { return FreeSlot() >= 0; },
                         .mayNot = {"設定できるキー/マウスは最大20個です", "割付の追加エラー"},
                         .question = {"キー/マウス割付を追加します", "割付の追加"},
                         .act = AddRecord};
-constexpr ListDeed kChange{
-    .needsRow = true, .question = {"キー/マウス割付を変更します。", "割付の変更"}, .act = ChangeRecord};
+constexpr ListDeed kChange{.needsRow = true,
+                           .keepsRow = true,
+                           .question = {"キー/マウス割付を変更します。", "割付の変更"},
+                           .act = ChangeRecord};
 constexpr ListDeed kDelete{
     .needsRow = true, .question = {"キー/マウス割付を削除します。", "割付の削除"}, .act = DeleteRecord};
 
 template <const ListDeed& deed>
 void Edit(WindowHandle dialog) {
-  const int row = ListEditorChosen(dialog, kRecords);
-  if (!ListDeedRun(dialog, kRecords, deed)) return;
-  if (&deed == &kChange) ListSelect(dialog, IDC_KEY_ROWS, row);
-  ShowPlaces(dialog);
+  if (ListDeedRun(dialog, kRecords, deed)) ShowPlaces(dialog);
 }
 
 // --- Buttons that act on what is in hand
@@ -325,9 +307,9 @@ constexpr DialogAct kActs[] = {
     {IDC_KEY_ADD, Edit<kAdd>},
     {IDC_KEY_CHANGE, Edit<kChange>},
     {IDC_KEY_DELETE, Edit<kDelete>},
-    {IDC_KEY_PLACE_ADD, AddPlace},
-    {IDC_KEY_PLACE_CHANGE, ChangePlace},
-    {IDC_KEY_PLACE_DELETE, DeletePlace},
+    {IDC_KEY_PLACE_ADD, EditPlace<kAddPlace, kAddEmpty>},
+    {IDC_KEY_PLACE_CHANGE, EditPlace<kChangePlace, kChangeEmpty>},
+    {IDC_KEY_PLACE_DELETE, EditPlace<kDeletePlace, kUnasked>},
     {IDC_KEY_SYNC_START, Sync<kSyncStart>},
     {IDC_KEY_SYNC_END, Sync<kSyncEnd>},
     {IDC_KEY_SIDEWARDS, Axis<kSidewards>},

@@ -3,24 +3,23 @@
 
 #include <algorithm>
 #include <iterator>
+#include <span>
 
 #include "platform/dialog.h"
 #include "resources/scenario_looks_ids.h"
 #include "scenario/cast/scenario_files.h"
 #include "scenario/logic/snry_paras.h"
-#include "scenario/logic/snry_places.h"
 #include "scenario/looks/snry_looks.h"
 #include "scenario/storage/snry_paths.h"
 #include "services/dialog_acts.h"
 #include "services/dialog_family.h"
 #include "services/form.h"
 #include "services/list_editor.h"
+#include "services/slots.h"
 #include "services/text.h"
 
 namespace {
 
-constexpr int kValueDigits = 5;
-constexpr int kValueHighest = 65535;
 constexpr int kCharacterRows = 255;  // that the record's byte can tell
 
 constexpr const char* kSpeeds[] = {
@@ -37,7 +36,7 @@ SnryScrollRec& Scroll() {
 
 // --- The backgrounds
 
-// bounded: ten backgrounds, whatever the count says.
+// bounded: a scene scrolls ten backgrounds at most, whatever the count says.
 int Count() {
   return std::min<int>(Scroll().count, kSnryScrollMax);
 }
@@ -63,13 +62,9 @@ bool AddBackground(WindowHandle dialog, int) {
 }
 
 bool DeleteBackground(WindowHandle, int row) {
-  const auto left = static_cast<std::uint8_t>(Count() - 1);
-  for (int i = row; i < left; ++i) {
-    std::copy(std::begin(Scroll().backgrounds[i + 1]), std::end(Scroll().backgrounds[i + 1]),
-              std::begin(Scroll().backgrounds[i]));
-  }
-  std::fill(std::begin(Scroll().backgrounds[left]), std::end(Scroll().backgrounds[left]), '\0');
-  Scroll().count = left;
+  std::span chosen(Scroll().backgrounds, static_cast<std::size_t>(Count()));
+  SlotDrop(chosen, row);
+  Scroll().count = static_cast<std::uint8_t>(Count() - 1);
   return true;
 }
 
@@ -77,7 +72,8 @@ constexpr ListDeed kAdd{.may = [] { return Count() < kSnryScrollMax; },
                         .mayNot = {"設定できるスクロール背景は最大10個です", "スクロール背景追加エラー"},
                         .question = {"スクロール背景を追加します", "スクロール背景追加"},
                         .act = AddBackground};
-// bounded: a change needs a background to change; without one nothing is done.
+// bounded: a change of a scrolling background needs one that is chosen; without it nothing is
+// done.
 constexpr ListDeed kChange{
     .needsRow = true, .question = {"スクロール背景を変更します", "スクロール背景変更"}, .act = TakeFile};
 constexpr ListDeed kDeleteAsked{.needsRow = true,
@@ -91,7 +87,7 @@ void Add(WindowHandle dialog) {
 void Change(WindowHandle dialog) {
   if (ListSelected(dialog, IDC_SCROLL_FILES) >= 0) ListDeedRun(dialog, kBackgrounds, kChange);
 }
-// kept: a background is taken out without a question while there are fewer than ten.
+// kept: a scrolling background is taken out without a question while there are fewer than ten.
 void Delete(WindowHandle dialog) {
   ListDeedRun(dialog, kBackgrounds, Count() == kSnryScrollMax ? kDeleteAsked : kDeleteUnasked);
 }
@@ -99,22 +95,24 @@ void Delete(WindowHandle dialog) {
 // --- The conditions
 
 void PlaceText(int row, char* text, int size) {
-  const int place = SnryPlaceOfRow(Scroll().parameters, row);
+  const int place = SlotOfRow(Scroll().parameters, row);
   TextFormat(text, static_cast<std::size_t>(size), "%d.%s", row + 1,
              SnryParaName(Scroll().parameters[place]));
 }
 
-constexpr ListEditor kPlaces{IDC_SCROLL_PLACES, [] { return SnryPlaceCount(Scroll().parameters); },
-                             PlaceText};
+constexpr ListEditor kPlaces{IDC_SCROLL_PLACES, [] { return SlotsUsed(Scroll().parameters); }, PlaceText};
 
 struct Condition {
   SnryPair pair;
   std::uint8_t speed;
 };
 
+Condition ConditionOf(int place) {
+  return {{Scroll().parameters[place], Scroll().values[place]}, Scroll().speeds[place]};
+}
+
 void ExchangePlace(Form& form, Condition& condition) {
-  SnryParaExchange(form, IDC_SCROLL_PARA, condition.pair.parameter);
-  form.NumberIn(IDC_SCROLL_VALUE, condition.pair.value, kValueDigits, 0, kValueHighest);
+  SnryUnsignedPairExchange(form, IDC_SCROLL_PARA, IDC_SCROLL_VALUE, condition.pair);
   form.Choice(IDC_SCROLL_SPEED, condition.speed, RowsOf(kSpeeds));
 }
 
@@ -131,7 +129,7 @@ void Direct(WindowHandle dialog) {
 }
 
 void TakePlace(WindowHandle dialog, int place) {
-  Condition condition{};
+  Condition condition = ConditionOf(place);
   FormTake(dialog, condition, ExchangePlace);
   Scroll().parameters[place] = condition.pair.parameter;
   Scroll().values[place] = condition.pair.value;
@@ -140,37 +138,37 @@ void TakePlace(WindowHandle dialog, int place) {
 }
 
 void PlaceChosen(WindowHandle dialog) {
-  const int place = SnryPlaceOfRow(Scroll().parameters, ListEditorChosen(dialog, kPlaces));
+  const int place = SlotOfRow(Scroll().parameters, ListEditorChosen(dialog, kPlaces));
   if (place < 0) return;
-  Condition condition{{Scroll().parameters[place], Scroll().values[place]}, Scroll().speeds[place]};
+  Condition condition = ConditionOf(place);
   FormShow(dialog, condition, ExchangePlace);
   SnryLooks.direction = Scroll().directions[place];
   ShowDirection(dialog);
 }
 
-constexpr ListDeed kAddPlace{.may = [] { return SnryPlaceFree(Scroll().parameters) >= 0; },
+constexpr ListDeed kAddPlace{.may = [] { return SlotFree(Scroll().parameters) >= 0; },
                              .mayNot = {"設定できるパラメータは最大20個です", "条件パラメータ追加エラー"},
                              .question = {"パラメータを追加します", "パラメータ追加"},
                              .act =
                                  [](WindowHandle dialog, int) {
-                                   const int place = SnryPlaceFree(Scroll().parameters);
+                                   const int place = SlotFree(Scroll().parameters);
                                    if (place >= 0) TakePlace(dialog, place);
                                    return place >= 0;
                                  }};
 constexpr ListDeed kChangePlace{.needsRow = true,
                                 .question = {"パラメータを変更します", "パラメータ変更"},
                                 .act = [](WindowHandle dialog, int row) {
-                                  TakePlace(dialog, SnryPlaceOfRow(Scroll().parameters, row));
+                                  TakePlace(dialog, SlotOfRow(Scroll().parameters, row));
                                   return true;
                                 }};
 constexpr ListDeed kDeletePlace{.needsRow = true,
                                 .question = {"パラメータを削除します", "パラメータ削除"},
                                 .act = [](WindowHandle, int row) {
-                                  const int place = SnryPlaceOfRow(Scroll().parameters, row);
-                                  SnryPlaceDrop(Scroll().parameters, place);
-                                  SnryPlaceDrop(Scroll().values, place);
-                                  SnryPlaceDrop(Scroll().speeds, place);
-                                  SnryPlaceDrop(Scroll().directions, place);
+                                  const int place = SlotOfRow(Scroll().parameters, row);
+                                  SlotDrop(Scroll().parameters, place);
+                                  SlotDrop(Scroll().values, place);
+                                  SlotDrop(Scroll().speeds, place);
+                                  SlotDrop(Scroll().directions, place);
                                   return true;
                                 }};
 
@@ -197,7 +195,7 @@ void CharacterText(int row, char* text, int size) {
   TextCopy(text, static_cast<std::size_t>(size), row == 0 ? "未設定" : SnryMain.charaNames[row - 1].text);
 }
 
-// bounded: only characters whose row the record's byte can tell are offered.
+// bounded: for scrolling only characters whose row a byte can tell are offered.
 void ExchangeCharacter(Form& form, SnryScrollRec& scroll) {
   const int rows = 1 + std::min<int>({SnryMain.charaCount, kSnryCharaMax, kCharacterRows});
   form.Choice(IDC_SCROLL_CHARACTER, scroll.character, RowsOf(rows, CharacterText));

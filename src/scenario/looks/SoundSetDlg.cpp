@@ -1,7 +1,6 @@
 // SoundSetDlg, "サウンド設定": the sounds of a scene, and what starts each.
 
 #include <algorithm>
-#include <iterator>
 
 #include "platform/dialog.h"
 #include "resources/scenario_looks_ids.h"
@@ -13,38 +12,34 @@
 #include "services/dialog_family.h"
 #include "services/form.h"
 #include "services/list_editor.h"
+#include "services/slots.h"
 #include "services/text.h"
 
 namespace {
 
 constexpr int kValueDigits = 3;
 constexpr int kSecondsDigits = 4;
-// kept: the sixth row says the fifth's words once more.
+// kept: the sixth row of a sound's repeats says the fifth's words once more.
 constexpr const char* kRepeats[] = {"繰り返さない", "2 回", "3 回",  "4 回",
                                     "5 回",         "5 回", "10 回", "起動条件が一致してる間"};
 
 // --- The sounds in use, by row
 
 int Count() {
-  return static_cast<int>(std::count_if(std::begin(SnryScene.sounds), std::end(SnryScene.sounds),
-                                        [](const SnrySoundRec& sound) { return sound.used != 0; }));
+  return SlotsUsed(SnryScene.sounds, &SnrySoundRec::used);
 }
 
-int SlotOfRow(int row) {
-  for (int slot = 0; row >= 0 && slot < kSnrySoundMax; ++slot) {
-    if (SnryScene.sounds[slot].used != 0 && row-- == 0) return slot;
-  }
-  return -1;
+int SlotOf(int row) {
+  return SlotOfRow(SnryScene.sounds, row, &SnrySoundRec::used);
 }
 
-SnrySoundRec* FirstFree() {
-  auto* sound = std::find_if(std::begin(SnryScene.sounds), std::end(SnryScene.sounds),
-                             [](const SnrySoundRec& record) { return record.used == 0; });
-  return sound == std::end(SnryScene.sounds) ? nullptr : sound;
+// The slot for another sound; -1 when there is none.
+int FreeSlot() {
+  return SlotFree(SnryScene.sounds, &SnrySoundRec::used);
 }
 
 void RowText(int row, char* text, int size) {
-  const SnrySoundRec& sound = SnryScene.sounds[SlotOfRow(row)];
+  const SnrySoundRec& sound = SnryScene.sounds[SlotOf(row)];
   const auto room = static_cast<std::size_t>(size);
   if (SnryParaRowOf(sound.start.parameter) == 0) {
     TextFormat(text, room, "%d. %s (起動条件: 未設定)", row + 1, sound.file);
@@ -70,10 +65,10 @@ void Take(WindowHandle dialog, SnrySoundRec& sound) {
   sound.repeat = static_cast<std::uint8_t>(std::max(ListSelected(dialog, IDC_SOUND_REPEAT), 0));
 }
 
-// kept: what is chosen in the list of files then is the row of the sound's repeats, and the
+// kept: when a sound is chosen, the row of its repeats is chosen in the list of files, and the
 // list of repeats stays as it was; a change stores both as they stand.
 void SoundChosen(WindowHandle dialog) {
-  const int slot = SlotOfRow(ListEditorChosen(dialog, kSounds));
+  const int slot = SlotOf(ListEditorChosen(dialog, kSounds));
   if (slot < 0) return;
   SnrySoundRec sound = SnryScene.sounds[slot];
   FormShow(dialog, sound, ExchangeFields);
@@ -92,39 +87,37 @@ void Open(WindowHandle dialog) {
 // --- What is done
 
 bool AddSound(WindowHandle dialog, int) {
-  SnrySoundRec* sound = FirstFree();
-  if (!sound) return false;
-  Take(dialog, *sound);
-  sound->used = 1;
+  const int slot = FreeSlot();
+  if (slot < 0) return false;
+  Take(dialog, SnryScene.sounds[slot]);
+  SnryScene.sounds[slot].used = 1;
   return true;
 }
 
 bool ChangeSound(WindowHandle dialog, int row) {
-  Take(dialog, SnryScene.sounds[SlotOfRow(row)]);
+  Take(dialog, SnryScene.sounds[SlotOf(row)]);
   return true;
 }
 
 bool DeleteSound(WindowHandle, int row) {
-  auto* sound = SnryScene.sounds + SlotOfRow(row);
-  std::copy(sound + 1, std::end(SnryScene.sounds), sound);
-  SnryScene.sounds[kSnrySoundMax - 1] = {};
+  SlotDrop(SnryScene.sounds, SlotOf(row));
   return true;
 }
 
-constexpr ListDeed kAdd{.may = [] { return FirstFree() != nullptr; },
+// kept: a sound too many is left out in silence.
+constexpr ListDeed kAdd{.may = [] { return FreeSlot() >= 0; },
                         .question = {"サウンドを追加します", "サウンドの追加"},
                         .act = AddSound};
-constexpr ListDeed kChange{
-    .needsRow = true, .question = {"サウンドを変更します", "サウンドの変更"}, .act = ChangeSound};
+constexpr ListDeed kChange{.needsRow = true,
+                           .keepsRow = true,
+                           .question = {"サウンドを変更します", "サウンドの変更"},
+                           .act = ChangeSound};
 constexpr ListDeed kDelete{
     .needsRow = true, .question = {"サウンドを削除します", "サウンドの削除"}, .act = DeleteSound};
 
-void Add(WindowHandle dialog) {
-  ListDeedRun(dialog, kSounds, kAdd);
-}
-void Change(WindowHandle dialog) {
-  const int row = ListEditorChosen(dialog, kSounds);
-  if (ListDeedRun(dialog, kSounds, kChange)) ListSelect(dialog, IDC_SOUND_ROWS, row);
+template <const ListDeed& deed>
+void Edit(WindowHandle dialog) {
+  ListDeedRun(dialog, kSounds, deed);
 }
 void Delete(WindowHandle dialog) {
   if (!ListDeedRun(dialog, kSounds, kDelete) || Count() == 0) return;
@@ -133,8 +126,8 @@ void Delete(WindowHandle dialog) {
 }
 
 constexpr DialogAct kActs[] = {
-    {EventKind::Init, Open},    {IDC_SOUND_ROWS, EventKind::Chosen, SoundChosen},
-    {IDC_SOUND_ADD, Add},       {IDC_SOUND_CHANGE, Change},
+    {EventKind::Init, Open},     {IDC_SOUND_ROWS, EventKind::Chosen, SoundChosen},
+    {IDC_SOUND_ADD, Edit<kAdd>}, {IDC_SOUND_CHANGE, Edit<kChange>},
     {IDC_SOUND_DELETE, Delete},
 };
 

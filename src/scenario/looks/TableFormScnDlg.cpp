@@ -5,7 +5,7 @@
 
 #include "resources/scenario_looks_ids.h"
 #include "scenario/looks/snry_looks.h"
-#include "scenario/looks/table_colours.h"
+#include "scenario/storage/table_colours.h"
 #include "services/dialog_acts.h"
 #include "services/dialog_family.h"
 #include "services/form.h"
@@ -43,7 +43,8 @@ void ExchangeFormat(Form& form, SnrySceneRec& scene) {
   form.Choice(IDC_TABLE_FORMAT, scene.tableFormat, RowsOf(kFormats));
 }
 
-// kept: the rows of colours and of data are shown, and what is chosen there is not taken over.
+// kept: the rows of colours and of data of the table form are shown, and what is chosen there is not taken
+// over.
 void ShowRows(Form& form, SnryTableRec& table) {
   form.Choice(IDC_TABLE_COLOUR, table.colourRow, RowsOf(kColourRows));
   form.Choice(IDC_TABLE_ROW, table.dataRow, RowsOf(kDataRows));

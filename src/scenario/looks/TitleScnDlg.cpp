@@ -44,8 +44,8 @@ constexpr const char* kMethods[] = {"カットイン",
 constexpr const char* kTimes[] = {"5秒",  "10秒", "15秒", "20秒", "25秒",
                                   "30秒", "40秒", "50秒", "1分",  "1分30秒"};
 
-// kept: a colour that is none of the list shows as black, and is black from the next confirm
-// on.
+// kept: a title's colour that is none of the list shows as black, and is black from the next
+// confirm on.
 int ColourRow(const Colour3& colour) {
   const auto* row = std::find_if(std::begin(kColours), std::end(kColours), [&](const Colour3& listed) {
     return std::equal(std::begin(listed), std::end(listed), std::begin(colour));

@@ -10,6 +10,7 @@
 struct SnryLooksState {
   SnryTitleRec title = {};
   std::uint8_t tableFlags = 0;
+  std::int32_t key = -1;  // slot of the key whose parameters are on show; -1 for none
   // Of a key: the mode and the axes that its buttons show.
   std::uint8_t cursorSync = 0;
   std::uint8_t axes = 0;

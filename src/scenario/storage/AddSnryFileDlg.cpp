@@ -9,40 +9,33 @@
 #include "scenario/storage/snry_reset.h"
 #include "services/dialog_acts.h"
 #include "services/dialog_family.h"
-#include "services/rows.h"
 #include "services/text.h"
 
 namespace {
 
-// kept: only an entry whose one attribute is that of a folder is left out, so that a hidden
-// folder is listed.
+// kept: among the files that can become scenes only an entry whose one attribute is that of a
+// folder is left out, so that a hidden folder is listed.
 bool IsListed(const SearchEntry& entry) {
   return entry.name[0] != '.' && entry.attributes != kAttributeFolder && !SnrySceneHasFile(entry.name);
 }
 
-void Find() {
-  SnryDialogs.fileCount = 0;
+void Open(WindowHandle dialog) {
+  const ListQuiet quiet(dialog, IDC_SNRY_SCENES);
   char pattern[kSnryLongPath];
   TextFormat(pattern, sizeof pattern, "%s\\*.*", SnryFolderNow().path);
   SearchEntry entry;
   const SearchHandle search = SearchFirst(pattern, &entry);
-  for (bool more = search != kNoSearch; more && SnryDialogs.fileCount < kSnryFilesMax;
-       more = SearchNext(search, &entry)) {
-    if (IsListed(entry)) TextCopy(SnryDialogs.files[SnryDialogs.fileCount++], kSnryFileNameMax, entry.name);
+  for (bool more = search != kNoSearch; more; more = SearchNext(search, &entry)) {
+    if (IsListed(entry)) ListAdd(dialog, IDC_SNRY_SCENES, entry.name);
   }
   SearchClose(search);
 }
 
-void Open(WindowHandle dialog) {
-  Find();
-  RowsShow(dialog, IDC_SNRY_SCENES, RowsOf(SnryDialogs.fileCount, [](int row, char* text, int size) {
-             TextCopy(text, static_cast<std::size_t>(size), SnryDialogs.files[row]);
-           }));
-}
-
+// kept: a file that is added as a scene is not looked into; one too many is left out in silence.
 void Add(WindowHandle dialog) {
+  char name[kSnryPathSize + 1];
   const int row = ListSelected(dialog, IDC_SNRY_SCENES);
-  if (row >= 0 && row < SnryDialogs.fileCount && SnrySceneAdd(SnryDialogs.files[row])) {
+  if (ListText(dialog, IDC_SNRY_SCENES, row, name, sizeof name) > 0 && SnrySceneAdd(name)) {
     SnryCastReset();
     Scenario.changed = true;
     Scenario.sceneListChanged = true;
@@ -50,7 +43,7 @@ void Add(WindowHandle dialog) {
   SubDialogEnd(dialog, 1);
 }
 
-// kept: the button that would choose all files has no effect.
+// kept: the button that would add all files as scenes has no effect.
 constexpr DialogAct kActs[] = {
     {EventKind::Init, Open},
     {kOkButton, Add},

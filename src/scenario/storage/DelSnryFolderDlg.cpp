@@ -16,9 +16,8 @@ bool Handle(const Event& event) {
 
 }  // namespace
 
-bool DelSnryFolderDlgRun(WindowHandle owner) {
-  if (ToolDialogRun(ToolDialog::DelSnryFolderDlg, IDD_DelSnryFolderDlg, owner, Handle) != 1) return false;
+void DelSnryFolderDlgRun(WindowHandle owner) {
+  if (ToolDialogRun(ToolDialog::DelSnryFolderDlg, IDD_DelSnryFolderDlg, owner, Handle) != 1) return;
   SnryFolderRemove(Scenario.folderIndex);
   Scenario.changed = true;
-  return true;
 }

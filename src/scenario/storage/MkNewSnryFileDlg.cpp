@@ -61,7 +61,6 @@ void Make(WindowHandle dialog) {
   BoxTell(dialog, "新規にファイルを作成しました", "新規場面ファイル作成");
   SnrySceneNow().used = 1;
   ++SnrySceneCountNow();
-  SnryCastReset();
   Scenario.changed = true;
   Scenario.sceneListChanged = true;
   SubDialogEnd(dialog, 1);

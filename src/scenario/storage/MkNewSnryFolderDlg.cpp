@@ -58,10 +58,10 @@ bool Handle(const Event& event) {
 
 }  // namespace
 
-bool MkNewSnryFolderDlgRun(WindowHandle owner) {
+void MkNewSnryFolderDlgRun(WindowHandle owner) {
   if (SnryMain.folderCount >= kSnryFolderMax) {
     BoxTell(owner, "シナリオフォルダー数リミットの30個を超えました", "新規フォルダー作成");
-    return false;
+    return;
   }
-  return ToolDialogRun(ToolDialog::MkNewSnryFolderDlg, IDD_MkNewSnryFolderDlg, owner, Handle) == 1;
+  ToolDialogRun(ToolDialog::MkNewSnryFolderDlg, IDD_MkNewSnryFolderDlg, owner, Handle);
 }

@@ -33,6 +33,11 @@ bool MakeParts() {
   return true;
 }
 
+// False when it could not be told where the list of folders stands.
+bool FolderIsKnown() {
+  return SnryDialogs.folderOnShow[0] != '\0';
+}
+
 // False for a path that its field cannot hold.
 bool TakeMain(const char* path) {
   return TextCopy(Scenario.mainFolder, kSnryPathSize, path) == TextLength(path, kSnryLongPath);
@@ -43,13 +48,13 @@ void Make(WindowHandle dialog) {
   ControlGetText(dialog, IDC_SNRY_NEW_NAME, name, sizeof name);
   char path[kSnryLongPath];
   TextFormat(path, sizeof path, "%s\\%s", SnryDialogs.folderOnShow, name);
-  const bool made = TakeMain(path) && MakeParts();
+  const bool made = FolderIsKnown() && TakeMain(path) && MakeParts();
   if (!made) BoxTell(dialog, "フォルダーを作成できませんでした", "メインフォルダー作成失敗");
   ToolDialogEnd(dialog, made ? 1 : 2);
 }
 
 void TakeAsItIs(WindowHandle dialog) {
-  ToolDialogEnd(dialog, SnryDialogs.folderOnShow[0] != '\0' && TakeMain(SnryDialogs.folderOnShow) ? 1 : 2);
+  ToolDialogEnd(dialog, FolderIsKnown() && TakeMain(SnryDialogs.folderOnShow) ? 1 : 2);
 }
 
 constexpr DialogAct kActs[] = {

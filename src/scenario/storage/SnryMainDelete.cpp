@@ -11,14 +11,20 @@ namespace {
 
 constexpr ListEditor kList{IDC_SNRY_LIST, [] { return static_cast<int>(SnryList.count); }, SnryListRowText};
 
+// A row is gone from the list in memory also when the file cannot be rewritten; it is shown
+// so, or the next deletion would take another row than the chosen one.
+bool Remove(WindowHandle dialog, int row) {
+  SnryListRemove(row);
+  if (SnryListWrite() == 0) return true;
+  ListEditorShow(dialog, kList);
+  return false;
+}
+
+// kept: a deleted scenario loses its row in the list only; its folder and its files stay.
 constexpr ListDeed kDelete{
     .needsRow = true,
     .question = {"シナリオを削除します。よろしいですか", "シナリオの削除"},
-    .act =
-        [](WindowHandle, int row) {
-          SnryListRemove(row);
-          return SnryListWrite() == 0;
-        },
+    .act = Remove,
     .failed = {"シナリオリストファイルをセーブできません", "リストファイルのセーブ失敗"}};
 
 constexpr DialogAct kActs[] = {

@@ -14,13 +14,13 @@ void Open(WindowHandle dialog) {
   RowsShow(dialog, IDC_SNRY_LIST, RowsOf(SnryList.count, SnryListRowText));
 }
 
-void Choose(WindowHandle dialog) {
-  const int row = ListSelected(dialog, IDC_SNRY_LIST);
-  SnryDialogs.listRow = row < SnryList.count ? row : -1;
-  MenuDialogEnd(dialog, 1);
+void Choose(const Event& event) {
+  const int row = ListSelected(event.window, IDC_SNRY_LIST);
+  if (row < SnryList.count) *static_cast<int*>(event.context) = row;
+  MenuDialogEnd(event.window, 1);
 }
 
-// kept: the button of details has no effect.
+// kept: the button of details in the list of scenarios has no effect.
 constexpr DialogAct kActs[] = {
     {EventKind::Init, Open},
     {kOkButton, Choose},
@@ -34,7 +34,7 @@ bool Handle(const Event& event) {
 }  // namespace
 
 int SnryMainLoadRun(WindowHandle owner) {
-  SnryDialogs.listRow = -1;
-  MenuDialogRun(MenuDialog::SnryMainLoad, IDD_SnryMainLoad, owner, Handle);
-  return SnryDialogs.listRow;
+  int row = -1;
+  MenuDialogRun(MenuDialog::SnryMainLoad, IDD_SnryMainLoad, owner, Handle, &row);
+  return row;
 }

@@ -82,7 +82,8 @@ struct ScenarioState {
   bool changed = false;          // set by every edit that is confirmed, cleared by a save
   bool sceneListChanged = false;
   bool castNamesChanged = false;
-  std::int32_t castRow = -1;  // that is chosen in the list of SnryFileSetting
+  std::int32_t castRow = -1;      // that is chosen in the list of SnryFileSetting
+  SnrySceneRec sceneBefore = {};  // the current scene's record as SnryFileSetting found it
 };
 extern ScenarioState Scenario;
 

@@ -6,15 +6,10 @@
 #include "scenario/storage/scenario.h"
 #include "services/folder_list.h"
 
-inline constexpr int kSnryFileNameMax = 260;
-inline constexpr int kSnryFilesMax = 1024;  // that AddSnryFileDlg lists
-
+// Of NewSnryMainDlg.
 struct SnryDialogsState {
-  FolderList folders;                   // of NewSnryMainDlg
-  char folderOnShow[kFolderSize] = {};  //
-  std::int32_t listRow = 0;             // that was chosen in SnryMainLoad
-  std::int32_t fileCount = 0;           // of AddSnryFileDlg
-  char files[kSnryFilesMax][kSnryFileNameMax] = {};
+  FolderList folders;
+  char folderOnShow[kFolderSize] = {};
 };
 extern SnryDialogsState SnryDialogs;
 
@@ -29,11 +24,10 @@ int SnryMainLoadRun(WindowHandle owner);
 void SnryMainDeleteRun(WindowHandle owner);
 
 // From RoutSnrySetting. MkNewSnryFolderDlg makes a scenario folder, AddSnryFolderDlg takes
-// one that is there; DelSnryFolderDlg drops the current one. True when the folders have
-// changed.
-bool MkNewSnryFolderDlgRun(WindowHandle owner);
-bool AddSnryFolderDlgRun(WindowHandle owner);
-bool DelSnryFolderDlgRun(WindowHandle owner);
+// one that is there; DelSnryFolderDlg drops the current one.
+void MkNewSnryFolderDlgRun(WindowHandle owner);
+void AddSnryFolderDlgRun(WindowHandle owner);
+void DelSnryFolderDlgRun(WindowHandle owner);
 
 // From SnryFolderSetting. MkNewSnryFileDlg makes a scene of the current folder with its
 // file, AddSnryFileDlg takes a file that is there; DelSnryFileDlg drops the current scene.

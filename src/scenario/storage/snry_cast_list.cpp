@@ -5,12 +5,8 @@
 
 namespace {
 
-bool IsCopy(int id) {
-  return id > kSnryCopyFirst && id <= kSnryCastSlots;
-}
-
 bool IsShown(SnryCastShow show, int id) {
-  return SnryCharaIsRegistered(id) || (show == SnryCastShow::All && IsCopy(id));
+  return SnryCharaIsRegistered(id) || (show == SnryCastShow::All && SnryCastIsCopy(id));
 }
 
 // The first place that is shown and fits; -1 for none.
@@ -81,7 +77,7 @@ void SnryCastRowText(SnryCastShow show, int row, char* text, int size) {
   const auto room = static_cast<std::size_t>(size);
   if (id == 0) {
     text[0] = '\0';
-  } else if (IsCopy(id)) {
+  } else if (SnryCastIsCopy(id)) {
     CopyText(row + 1, id, text, room);
   } else {
     CharacterText(show, row + 1, id, text, room);

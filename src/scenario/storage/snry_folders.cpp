@@ -36,6 +36,7 @@ void MoveUp(T* table, int from, int count) {
 
 }  // namespace
 
+// kept: a scenario folder too many, or one that the list has already, is left out in silence.
 bool SnryFolderAdd(const char* path) {
   const int count = SnryMain.folderCount;
   if (count >= kSnryFolderMax) return false;
@@ -58,7 +59,7 @@ void SnryFolderRemove(int folder) {
   for (int i = folder + 1; i < count; ++i) {
     std::copy(std::begin(SnryMain.scenes[i]), std::end(SnryMain.scenes[i]), SnryMain.scenes[i - 1]);
   }
-  // kept: the scene records of the last place stay behind a folder's removal.
+  // kept: when a scenario folder is removed, the scene records of the last place stay.
   SnryMain.folders[count - 1] = {};
   SnryMain.sceneCounts[count - 1] = 0;
   --SnryMain.folderCount;
@@ -91,7 +92,7 @@ void SnrySceneRemove(int scene) {
   if (scene < 0 || scene >= count) return;
   SnrySceneRec* scenes = SnryMain.scenes[Scenario.folderIndex];
   MoveUp(scenes, scene, count);
-  // kept: the last scene record loses its flag only, behind a scene's removal.
+  // kept: when a scene is removed, the record of the last place loses its flag only.
   scenes[--count].used = 0;
 }
 

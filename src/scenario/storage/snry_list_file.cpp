@@ -26,6 +26,19 @@ int ReadFrom(DataFile& data) {
   return 0;
 }
 
+bool IsRowOfScenario(std::int32_t row) {
+  return row >= 0 && row < SnryList.count && std::strcmp(SnryList.rows[row].folder, Scenario.mainFolder) == 0;
+}
+
+// settled: a save puts a scenario into its own row of the list of scenarios, also when the list
+// has become another one since the scenario was loaded or made; without such a row one is added,
+// and the row of another scenario is never taken.
+std::int32_t RowOfScenario() {
+  if (IsRowOfScenario(Scenario.listIndex)) return Scenario.listIndex;
+  const int row = SnryListFind(Scenario.mainFolder);
+  return row >= 0 ? row : SnryList.count;
+}
+
 }  // namespace
 
 int SnryListRead() {
@@ -52,8 +65,8 @@ int SnryListWrite() {
 }
 
 void SnryListPut() {
-  const std::int32_t row = std::min(Scenario.listIndex, SnryList.count);
-  if (row < 0 || row >= kSnryListMax) return;
+  const std::int32_t row = RowOfScenario();
+  if (row >= kSnryListMax) return;
   SnryList.rows[row] = {};
   SnryList.rows[row].used = 1;
   TextCopy(SnryList.rows[row].folder, sizeof SnryList.rows[row].folder, Scenario.mainFolder);

@@ -3,10 +3,10 @@
 #include <algorithm>
 #include <cstring>
 
-#include "scenario/storage/snry_images.h"
 #include "scenario/storage/snry_paths.h"
 #include "services/record_file.h"
 #include "services/text.h"
+#include "world/world_pictures.h"
 
 namespace {
 
@@ -46,21 +46,21 @@ struct Reading {
     RecordsRead(data, records, count);
   }
   void Bytes(std::uint8_t* bytes, int count) { DataRead(data, bytes, count); }
-  // settled: a count beyond its table is taken as the whole table, so that one wrong number does
-  // not cost the scenario.
+  // settled: a count of a main file beyond its table is taken as the whole table, so that one wrong number
+  // does not cost the scenario.
   void Count(std::uint16_t& count, int most) {
     if (DataReadBE16(data, count)) count = static_cast<std::uint16_t>(std::min<int>(count, most));
   }
 };
 
 struct Writing {
-  DataFile& data;
+  RecordStream& to;
   template <class T>
   void Table(T* records, int count) {
-    RecordsWrite(data, records, count);
+    for (int i = 0; i < count; ++i) to.Put(records[i]);
   }
-  void Bytes(const std::uint8_t* bytes, int count) { DataWrite(data, bytes, count); }
-  void Count(std::uint16_t count, int) { DataWriteBE16(data, count); }
+  void Bytes(const std::uint8_t* bytes, int count) { to.PutBytes(bytes, count); }
+  void Count(std::uint16_t count, int) { to.Put(SnryNumberRec{count}); }
 };
 
 struct Measuring {
@@ -110,10 +110,11 @@ bool WriteAll(const char* path) {
   DataFile data;
   data.file = FileOpen(path, OpenMode::ReadWrite);
   data.failed = data.file == kNoFile;
-  RecordWrite(data, Head());
-  Writing way{data};
+  RecordStream stream(data);
+  stream.Put(Head());
+  Writing way{stream};
   Sections(way, SnryMain);
-  const bool written = !data.failed;
+  const bool written = stream.Finish();
   DataClose(data);
   return written;
 }
@@ -151,12 +152,12 @@ int SnryMainRead() {
   if (!DataOpenRead(data, path, OpenMode::Read)) return -1;
   const int result = ReadFrom(data);
   DataClose(data);
-  SnryImagesRelease();
+  WorldPicturesFree();
   return result;
 }
 
-// kept: a main file is written, read back and written again, and what is there is deleted first;
-// a file that is no main file is not overwritten, and the save fails.
+// kept: the main file of a scenario is written, read back and written again, and what is there is deleted
+// first; a file that is no main file is not overwritten, and the save fails.
 int SnrySaveMain() {
   char path[kSnryLongPath];
   SnryMainPath(path, sizeof path);

@@ -4,6 +4,7 @@
 #include <iterator>
 
 #include "scenario/storage/snry_tables.h"
+#include "scenario/storage/table_colours.h"
 #include "services/text.h"
 #include "world/world_list.h"
 
@@ -18,40 +19,29 @@ void Clear(T (&table)[N]) {
   }
 }
 
-template <std::size_t N>
-void Title(char (&to)[N], const char* text) {
-  TextCopy(to, N, text);
-}
-
 // The motions take the character's figures, the low byte of each.
-void ResetMotions(SnryCastRec& cast, const SnryCharMotionRec& motion) {
-  for (int place = 0; place < kSnryPlaces; ++place) {
-    cast.motions[place] = static_cast<std::uint8_t>(motion.figures[place]);
+void ResetMotions(SnryCastRec& cast, const WorldChara& chara) {
+  for (int place = 0; place < kWorldFrames; ++place) {
+    cast.motions[place] = static_cast<std::uint8_t>(chara.figureIds[place]);
     cast.motionParameters[place] = 0;
     cast.motionValues[place] = 0;
   }
 }
 
-void ResetCast(SnryCastRec& cast, const SnryCharMotionRec& motion) {
+// kept: exits, the ways in which lines end and the motions behind the twentieth stay when the
+// cast is made anew.
+void ResetCast(SnryCastRec& cast, const WorldChara& chara) {
   Clear(cast.lines);
   Clear(cast.lineParameters);
   Clear(cast.lineValues);
   cast.entry = {};
-  ResetMotions(cast, motion);
-}
-
-template <std::size_t N>
-void Paint(std::uint8_t (&colours)[N][3], int first, int last, std::uint8_t red, std::uint8_t green,
-           std::uint8_t blue) {
-  for (int i = first; i <= last; ++i) {
-    colours[i][0] = red;
-    colours[i][1] = green;
-    colours[i][2] = blue;
-  }
+  ResetMotions(cast, chara);
 }
 
 }  // namespace
 
+// kept: a new scenario has the names, the motions, the labels of buttons and the options that are
+// in memory.
 void SnryMainReset() {
   Clear(SnryMain.title);
   TextCopy(SnryMain.title, sizeof SnryMain.title, "無題");
@@ -71,6 +61,7 @@ void SnryCountsClear() {
   SnryMain.registeredCount = 0;
 }
 
+// kept: a new scene has the backdrop, the keys and the scrolling that are in memory.
 void SnrySceneReset() {
   SnryCastReset();
   Clear(SnryScene.menus);
@@ -85,22 +76,21 @@ void SnrySceneReset() {
 }
 
 void SnryCastReset() {
-  for (int slot = 0; slot < kSnryCharaMax; ++slot) ResetCast(SnryCastAt(slot), SnryMain.charMotions[slot]);
+  for (int slot = 0; slot < kSnryCharaMax; ++slot) ResetCast(SnryCastAt(slot), World.WorldCharas[slot]);
   for (int slot = 0; slot < kSnryLineSlots; ++slot) SnryLineAt(slot).used = 0;
 }
 
 void SnryTableReset(SnryTableRec& table) {
   table = {};
-  Title(table.itemTitle, "  項  目 ");
-  Title(table.settingTitle, "  設  定 ");
-  Title(table.dataTitle, "  データ ");
-  Paint(table.colours, 0, 6, 255, 255, 255);
-  Paint(table.colours, 7, 9, 0, 0, 250);
+  TextCopy(table.itemTitle, sizeof table.itemTitle, "  項  目 ");
+  TextCopy(table.settingTitle, sizeof table.settingTitle, "  設  定 ");
+  TextCopy(table.dataTitle, sizeof table.dataTitle, "  データ ");
+  SnryTableColours(table);
   table.kept236[1] = 7;
 }
 
-// kept: only a stage of 1000 lines or more and of a width from 1 to 1200 keeps its options; the
-// sense of the test of the height is turned round.
+// kept: only a scenario's stage of 1000 lines or more and of a width from 1 to 1200 keeps its
+// options; the sense of the test of the height is turned round.
 void SnryOptionCheck() {
   SnryOptionRec& options = SnryMain.options;
   if (options.stageWidth >= 1 && options.stageWidth <= 1200 && options.stageHeight >= 1000) return;
@@ -115,9 +105,10 @@ void SnryOptionCheck() {
 }
 
 void SnryWorldLoad() {
-  if (!WorldListRead()) return;
+  const int read = WorldListRead();
+  if (read < 0) return;
   SnryMain.charaCount = static_cast<std::uint16_t>(World.WorldCharaCount);
-  for (int i = 0; i < SnryMain.charaCount; ++i) {
+  for (int i = 0; i < read; ++i) {
     Clear(SnryMain.charaNames[i].text);
     TextCopy(SnryMain.charaNames[i].text, sizeof SnryMain.charaNames[i].text, World.WorldCharas[i].name);
   }

@@ -15,7 +15,8 @@ void SnryCountsClear();
 void SnrySceneReset();
 
 // The cast as a scene begins with it: no lines, no conditions of entry, and each
-// character's figures as its motions; every line of the table is free.
+// character's figures, as the world has them, as its motions; every line of the table is
+// free.
 void SnryCastReset();
 
 // A table's titles, colours and rows in a new scene.
@@ -24,7 +25,8 @@ void SnryTableReset(SnryTableRec& table);
 // Puts the defaults of the stage into the options, in nearly all cases.
 void SnryOptionCheck();
 
-// The world's characters from the files of the character editor, with their names.
+// The world's characters from the files of the character editor, with their names; a name
+// that the files do not give stays.
 void SnryWorldLoad();
 // Their figures into charMotions, as the main file keeps them.
 void SnryFiguresTake();

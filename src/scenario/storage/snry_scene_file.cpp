@@ -137,8 +137,7 @@ int SnryCastHighest(const SnrySceneRec& scene) {
   int highest = 0;
   for (int place = 0; place < SnryCastCount(scene); ++place) {
     const int id = scene.cast[place];
-    const bool copy = id > kSnryCopyFirst && id <= kSnryCastSlots;
-    if (copy || SnryCharaIsRegistered(id)) highest = std::max(highest, id);
+    if (SnryCastIsCopy(id) || SnryCharaIsRegistered(id)) highest = std::max(highest, id);
   }
   return highest;
 }

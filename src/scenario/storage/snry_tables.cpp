@@ -14,7 +14,8 @@ struct CastBlockTable {
 static_assert(sizeof(CastBlockTable) <= kCastBlockSize);
 static_assert(sizeof(SnryLineRec[kSnryLineSlots]) <= kScopeBlockSize);
 
-// bounded: what is written to a slot that there is not, nobody sees again.
+// bounded: what is written to a slot of the cast or the lines that there is not, nobody sees
+// again.
 template <class Record>
 Record& Nobody() {
   static Record nobody;

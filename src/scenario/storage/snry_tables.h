@@ -8,6 +8,11 @@ inline constexpr int kSnryCopyFirst = 512;  // slot of the first copy
 inline constexpr int kSnryCopyMax = 200;
 inline constexpr int kSnryLineSlots = 25600;
 
+// Whether a cast id is that of a copy.
+constexpr bool SnryCastIsCopy(int id) {
+  return id > kSnryCopyFirst && id <= kSnryCastSlots;
+}
+
 // The cast record of a slot, 0 to 712: the table has one slot behind its last, so that
 // what is done one past its end stays inside. For another slot, and without the block, an
 // empty record that belongs to nobody.

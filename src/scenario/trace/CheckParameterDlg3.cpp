@@ -10,7 +10,7 @@
 namespace {
 
 constexpr int kRead = 7;       // characters of the field
-constexpr int kConverted = 5;  // of which these make the number
+constexpr int kConverted = 5;  // kept: of seven characters of a tried value five count
 
 std::int32_t ValueOf(WindowHandle dialog) {
   char text[kRead + 1] = "";
@@ -19,7 +19,8 @@ std::int32_t ValueOf(WindowHandle dialog) {
   return DecimalParse(text);
 }
 
-// kept: the list is not emptied between two starts, so what they find piles up.
+// kept: the list of what a parameter's value would start is not emptied between two starts, so
+// what they find piles up.
 void Start(WindowHandle dialog) {
   ListQuiet quiet(dialog, IDC_TRACE_LINES);
   SnryWalkProgress(SnryTrace.slot, ValueOf(dialog), TraceLines(dialog));

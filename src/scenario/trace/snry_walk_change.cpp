@@ -1,6 +1,7 @@
-// The listing of changes: every place where a parameter is tested or set. The menus' two
-// special buttons, the keys, the scroll block and the random extension are not looked at,
-// though they can name it.
+// The listing of changes: every place where a parameter is tested or set.
+//
+// kept: in the changes of a parameter the special buttons of the menus, the keys, the scrolling
+// and what randoms calculate with are not looked at, though they can name it.
 
 #include "scenario/storage/snry_tables.h"
 #include "scenario/trace/snry_walk.h"
@@ -49,7 +50,7 @@ void MenuItem(SnryWalk& walk, int menu, int item) {
     const std::size_t room = sizeof line - static_cast<std::size_t>(length);
     length += length == 0 ? TextFormat(end, room, "   > メニュー No.%d の項目%dで変更--> 値 = %d", menu + 1,
                                        item + 1, record.itemValues[item][place])
-                          // kept: a further change of the same item shows the numbers of the
+                          // kept: a further change by the same menu item shows the numbers of the
                           // menu and of the item where the item and the value should stand.
                           : TextFormat(end, room, " >項目%dで変更--> 値 = %d", menu + 1, item + 1);
   }
@@ -117,7 +118,8 @@ void Events(SnryWalk& walk) {
 
 void RandomPlace(SnryWalk& walk, int random, int place) {
   const SnryRandomRec& record = SnryScene.randoms[random];
-  // kept: a random that calculates is listed as one that counts by a fixed number.
+  // kept: in the changes of a parameter a random that calculates is listed as one that counts by
+  // a fixed number.
   if (record.modes[place] != 0) {
     WalkSay(walk, "   > ランダム No.%d で変更--> 値 = 現在値±%d ", random + 1, record.counts[place]);
   } else {

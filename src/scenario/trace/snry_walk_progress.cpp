@@ -85,7 +85,7 @@ void Events(SnryWalk& walk) {
 
 // kept: what a random would change is listed under the number of the entry's mode, with the
 // name of the parameter that has this number, not under the parameter that it changes.
-// bounded: mode 0 has no such parameter, and shows an empty name.
+// bounded: mode 0 of a random names no parameter, and shows an empty name.
 void RandomPlace(SnryWalk& walk, const SnryRandomRec& random, int place) {
   if (random.parameters[place] == 0) return;
   const int mode = random.modes[place];
@@ -114,7 +114,7 @@ void Entry(SnryWalk& walk, int id) {
     Head(walk);
     WalkSay(walk, "   > 人物 (%s) 登場", WalkCastName(id));
   }
-  // kept: whether somebody leaves is asked of the value of the entry, not of the exit.
+  // kept: whether a value lets somebody leave is asked of the value of the entry, not of the exit.
   if (IsMet(walk, {cast.exit.parameter, cast.entry.value})) {
     Head(walk);
     WalkSay(walk, "   > 人物 (%s) 退場 ", WalkCastName(id));
@@ -137,7 +137,8 @@ void Lines(SnryWalk& walk, int id) {
   }
 }
 
-// kept: motions and sounds are listed without a heading of their scene.
+// kept: in what a value would start, motions and sounds are listed without a heading of their
+// scene.
 void Sounds(SnryWalk& walk) {
   for (const SnrySoundRec& sound : SnryScene.sounds) {
     if (sound.used != 0 && IsMet(walk, sound.start)) WalkSay(walk, "   > サウンド起動 (%s)", sound.file);
@@ -151,7 +152,7 @@ void Scene(SnryWalk& walk) {
   Randoms(walk);
   WalkCast(walk, Entry);
   WalkCast(walk, Lines);
-  // kept: motions are listed for any value of the parameter.
+  // kept: in what a value would start, motions are listed for any value of the parameter.
   WalkCast(walk, WalkMotions);
   Sounds(walk);
 }

@@ -41,7 +41,7 @@ void WalkScenario(SnryWalk& walk, void (*folder)(SnryWalk&), void (*scene)(SnryW
   for (walk.folder = 0; walk.folder < SnryMain.folderCount; ++walk.folder) {
     folder(walk);
     for (walk.scene = 0; walk.scene < SnryMain.sceneCounts[walk.folder]; ++walk.scene) {
-      // kept: a scene that cannot be read is told of with what the scene before it left in
+      // kept: a scene that cannot be read is listed with what the scene before it left in
       // the buffers, under its own name.
       SnrySceneLoad(walk.folder, walk.scene);
       scene(walk);

@@ -20,7 +20,7 @@ void Show(WindowHandle dialog) {
   ListEditorShow(dialog, kEntries);
 }
 
-// settled: without a chosen row nothing is started, and the dialog stays.
+// settled: without a chosen application nothing is started, and the dialog stays.
 void Start(WindowHandle dialog) {
   const int row = ListEditorChosen(dialog, kEntries);
   if (row >= 0) MenuDialogEnd(dialog, kFirstEntry + row + 1);

@@ -56,7 +56,7 @@ std::int32_t NumberBehind(std::int32_t number, int removed) {
   return number > removed + 1 ? number - 1 : number;
 }
 
-// bounded: a list longer than the program ever writes is bad content.
+// bounded: an application list longer than the program ever writes is bad content.
 bool IsList(const ApliHead& head) {
   return head.count >= 0 && head.count <= kApliMax && head.second >= 0 && head.second <= kApliMax;
 }
@@ -85,6 +85,7 @@ int ApliListRead() {
   if (!DataOpenRead(data, path, OpenMode::Read)) return -1;
   char magic[kMagicSize];
   if (!DataRead(data, magic, kMagicSize)) return DataFailStatus(data);
+  // kept: an application list that is something else counts as read.
   if (std::memcmp(magic, kMagic, kMagicSize) != 0) {
     DataClose(data);
     FileResult.FileStatus = -2;
@@ -116,7 +117,7 @@ int ApliListSave() {
               ApliHead{Applications.ApliCount, Applications.ApliSecondCount, Applications.ApliSelected});
   RecordsWrite(data, Applications.entries, Applications.ApliCount);
   RecordWrite(data, Applications.ApliSchedule);
-  // kept: the second list is counted but not written; its count is 0.
+  // kept: the second list of an application list is counted but not written; its count is 0.
   if (data.failed) return DataFailStatus(data);
   DataClose(data);
   return 0;
@@ -141,8 +142,10 @@ int ApliListAdd(const char* path) {
 
 void ApliListRemove(int entry) {
   if (!Applications.entries || entry < 0 || entry >= Applications.ApliCount) return;
+  // kept: with the selected application its entry goes, but not the path of its schedule.
   Applications.ApliSelected = NumberBehind(Applications.ApliSelected, entry);
-  // settled: the watched program keeps its entry too; without one it is watched no more.
+  // settled: the program whose hand-off file is watched keeps its entry too; without one it is watched no
+  // more.
   Applications.ApliStarted = NumberBehind(Applications.ApliStarted, entry);
   std::copy(Applications.entries + entry + 1, Applications.entries + Applications.ApliCount,
             Applications.entries + entry);
@@ -156,7 +159,7 @@ void ApliRowText(int entry, char* text, int size) {
   TextCopy(name, sizeof name, PathParts.PathName);
   char* dot = std::strrchr(name, '.');
   if (dot) *dot = '\0';
-  // settled: an entry that is both is shown as the started one.
+  // settled: an application that is both selected and started is shown as started.
   const char* format = Applications.ApliStarted == entry + 1    ? "%s (起動中)"
                        : Applications.ApliSelected == entry + 1 ? "%s (実行指定)"
                                                                 : "%s";

@@ -103,7 +103,7 @@ void ApliStart() {
   TextFormat(file, sizeof file, "%s%s", folder, kHandOffName);
   HandOffWrite(file, Applications.ApliMode);
   WatchBegin(entry, file);
-  // settled: a program that cannot be started is not the started one, so that it can be
+  // settled: an application that cannot be started is not the started one, so that it can be
   // tried again.
   if (!SiblingStart(folder, line)) WatchEnd();
   FolderSetCurrent(Program.RootFolder);
@@ -118,8 +118,8 @@ bool SclHandOffCheck() {
   }
   if (time == Applications.ApliHandOffTime) return false;
   HandOffHead head = {};
-  // settled: a file that cannot be read whole is being written, and is looked at again at
-  // the next tick.
+  // settled: a hand-off file whose first 1000 bytes cannot be read is being written, and is
+  // looked at again at the next tick; a longer one is read as it stands.
   if (!HeadRead(head)) return false;
   Applications.ApliHandOffTime = time;
   return AnswerTake(head);

@@ -62,7 +62,7 @@ void CommandCalendarDaySchedule() {
   const SclDate day{Calendar.CalenYears[CalenYearShown()], Calendar.CalenMonthPos,
                     Calendar.CalenClickedDay - 1, 0};
   const WindowHandle owner = Calendar.hCalenWnd ? Calendar.hCalenWnd : Program.hMainWnd;
-  // settled: with nothing carried out the day has no lines.
+  // settled: with no schedule carried out a day of the calendar has no lines.
   DspSclClickDayDataRun(
       SubDialog::DspSclClickDayDataSecond, owner, day,
       Schedule.SclExecActive ? LinesShow : [](WindowHandle) {});

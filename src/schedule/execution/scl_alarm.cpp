@@ -31,8 +31,8 @@ bool IsAnnounced(const SclItemRec& item) {
 }
 
 // Whether a new entry fires at once.
-// kept: one that has begun earlier in this hour or before waits for the check of the next
-// tick, and one that begins later in this hour fires now.
+// kept: when a day's list of alarms is made, one that has begun earlier in this hour waits for
+// the check of the next tick, and one that begins later in this hour fires now.
 bool FiresAtOnce(const SclAlarmEntry& entry, const LocalTime& now) {
   if (entry.startHour > now.hour) return false;
   if (entry.startHour == now.hour && entry.startMinute < now.minute) return false;
@@ -46,6 +46,7 @@ void EntryAdd(int item, const SclDayTimes& times, const LocalTime& now) {
            ByteOf(times.endHour),           ByteOf(times.endMinute), false};
   if (!FiresAtOnce(entry, now)) return;
   entry.fired = true;
+  // kept: of the alarms that fire together when a day's list is made, the last one is announced.
   SclAlarm.announce = item + 1;
 }
 
@@ -90,8 +91,8 @@ int DayGoesOn(const LocalTime& now) {
   }
   for (int i = 0; i < SclAlarm.count; ++i) {
     SclAlarmEntry& entry = SclAlarm.entries[i];
-    // kept: once an hour has begun, all of its alarms up to this minute are due, however
-    // long ago that was.
+    // kept: once an hour has begun, all alarms of its minutes up to this one are due, however
+    // many minutes ago that was.
     if (entry.fired || entry.startHour != now.hour || entry.startMinute > now.minute) continue;
     entry.fired = true;
     SclAlarm.announce = entry.item + 1;
@@ -125,7 +126,8 @@ bool OnlyDayTimes(const SclItemRec& item, const SclDate& day, const SclWorkDayRo
 }  // namespace
 
 DaySpan SclDaySpan(const SclItemRec& item, const SclDate& day) {
-  // kept: the number of a date is for putting dates in order only; a year is 12 times 365.
+  // kept: the number of a date, in which a year is 12 times 365, is for putting dates in order
+  // only.
   constexpr int kYear = 4380;
   constexpr int kMonth = 31;
   const auto number = [](int year, int month, int date) { return year * kYear + month * kMonth + date; };

@@ -27,8 +27,8 @@ void Open(WindowHandle dialog) {
   }
 }
 
-// kept: a choice is written at once, no button takes it back, and the end of the row stays
-// as it is until all items are recalculated.
+// kept: a choice of a day's work hours is written at once, no button takes it back, and the
+// row's end stays as it is until all items are recalculated.
 void BeginChosen(WindowHandle dialog, int row) {
   SclWorkDayRow& day = Schedule.SclHeader.rows[row];
   day.begin = ListSelected(dialog, IDC_SCL_BEGINS + row);

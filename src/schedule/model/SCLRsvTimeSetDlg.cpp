@@ -44,7 +44,7 @@ bool SclHoursDlgRun(ToolDialog number, int templateId, WindowHandle owner, std::
 bool SCLRsvTimeSetDlgRun(WindowHandle owner, int item) {
   const bool confirmed =
       SclHoursDlgRun(ToolDialog::SCLRsvTimeSetDlg, IDD_SCLRsvTimeSetDlg, owner, SclItem(item).hours);
-  // kept: a cancel works all dates out again too.
+  // kept: a cancelled edit of an item's hours works all dates out again too.
   SclRecalcAll();
   return confirmed;
 }

@@ -36,8 +36,8 @@ void Open(const Event& event) {
   ControlSetText(event.window, IDC_SCL_YEAR, year);
   ControlSetLimit(event.window, IDC_SCL_YEAR, kYearDigits);
   RowsShow(event.window, IDC_SCL_MONTH, RowsOfNumbers(1, kMonthsOfYear), start.month);
-  // kept: the days of February are first those of the year in which the schedule starts,
-  // also when the start of a plan is edited.
+  // kept: in the dialog of a start the days of February are first those of the year in which
+  // the schedule starts, also when the start of a plan is edited.
   DaysShow(event.window, Schedule.SclHeader.start.year, start.month, start.day);
   RowsShow(event.window, IDC_SCL_HOUR, kHourRows, start.hour);
 }

@@ -39,6 +39,8 @@ struct ScheduleState {
   SclHeaderState SclHeader = {};
   SclItemRec SclItemTable[kSclItemMax] = {};
   char SclCurrentFile[kSclPathSize] = {};  // empty for a new schedule
+  // kept: only setting or clearing the execution mark counts as a change of the schedule; the
+  // window asks nothing after lines were edited.
   unsigned SclDirtyFlags = 0;
   char SclMapFile[kSclPathSize] = {};
   std::uint16_t SclMapColumn[kSclItemMax] = {};  // from 1, 0 for none
@@ -64,7 +66,7 @@ void SclDefaults();
 
 // Resets to a new schedule from `today` on: the day's hours by the kind, every work row
 // 10 hours from 8 to 18, 31 items, no title, the start today at 8; no file, no mark.
-// kept: only the first 200 of the 1000 items are cleared.
+// Only the first 200 of the 1000 items are cleared.
 void SclNewDefaults(int year, int month, int day);
 // The command of the new schedule: kind 1, then the defaults from the local date.
 void SclNew();

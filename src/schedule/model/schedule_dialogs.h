@@ -8,8 +8,7 @@
 #include "services/dialog_numbers.h"
 
 // "開始年月日設定": a start date, stored when confirmed. True then; the schedule's opener
-// calls SclRecalcAll. kept: the list of days is first built for the year in which the
-// schedule starts, whatever date is edited.
+// calls SclRecalcAll.
 bool SCLSttTimeSetDlgRun(ToolDialog number, WindowHandle owner, SclDate& start);
 
 // "予想時間設定": the hours of an item. All items are recalculated when it has closed,

@@ -51,6 +51,7 @@ void SclSaveRun(WindowHandle owner) {
 
 void SclOverwriteRun(WindowHandle owner) {
   if (Schedule.SclCurrentFile[0] == '\0') SclSaveRun(owner);
-  // kept: without a name even now, the save under no name fails to open and tells so.
+  // kept: a schedule that has no name yet is saved under none, which fails and is told, when the
+  // choice of a name was cancelled.
   SaveTo(owner, Schedule.SclCurrentFile);
 }

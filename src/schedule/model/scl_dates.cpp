@@ -59,7 +59,7 @@ int RowOf(const SclDate& date, int day, Holidays holidays) {
   const int year = CalenSpanIndex(date.year);
   if (year < 0) return PlainWeekday(date, day);
   const int weekday = (std::max(SclFirstWeekday(date.year, date.month), 0) + day) % kDaysOfWeek;
-  // kept: a Sunday has its own row, whether it is a holiday or not.
+  // kept: a Sunday has the work row of Sundays, whether it is a holiday or not.
   if (weekday == kSunday) return weekday;
   if (CalenHolidayFlag(year, date.month, day)) return kSclHolidayRow;
   const bool byRule = holidays == Holidays::FlagsAndRules &&
@@ -92,8 +92,8 @@ bool WorkEndFind(std::int64_t hours, const SclDate& start, WorkEnd& end) {
   const SclWorkDayRow* row = &SclRowAt(Schedule.SclHeader.rows, SclDayRowOf(probe, 0));
   end = {0, start.hour};
   const auto nextDay = [&] {
-    // kept: the count of days is handed to the walk, which goes on from where it stands, so
-    // that the rows looked at are those 1, 3, 6, 10 days from the start.
+    // kept: in adding work hours the count of days is handed to the walk, which goes on from
+    // where it stands, so that the rows looked at are those 1, 3, 6, 10 days from the start.
     row = &SclRowAt(Schedule.SclHeader.rows, SclDayRowOf(probe, ++end.days));
     end.hour = row->begin;
   };
@@ -113,7 +113,7 @@ bool WorkEndFind(std::int64_t hours, const SclDate& start, WorkEnd& end) {
 std::int64_t FirstDay(const SclDate& date) {
   const SclWorkDayRow& row = LiveRow(date);
   const std::int64_t length = row.length;
-  // kept: a start before the begin of work counts the first day as no hours.
+  // kept: between two dates a start before the begin of work counts the first day as no hours.
   if (date.hour < row.begin) return 0;
   return length - std::min<std::int64_t>(std::int64_t{date.hour} - row.begin, length);
 }
@@ -129,9 +129,11 @@ std::int64_t DaysBetween(const SclDate& earlier, const SclDate& later) {
   const std::int64_t first = FirstDay(earlier);
   std::int64_t total = first + LastDay(later);
   std::int32_t days = SclDayDistance(earlier, later);
-  // kept: the last day is not counted twice only when one of the two days has given hours.
+  // kept: between two dates the last day is taken off the days that are counted whole only when
+  // it or the first one has given hours.
   if (total != 0 && days != 0) --days;
-  // settled: a first day that has given no hours is looked at once more as a whole day.
+  // settled: between two dates a first day that has given no hours is looked at once more as a
+  // whole day.
   int offset = first != 0 ? 1 : 0;
   SclDate date = earlier;
   for (; days > 0; --days, ++offset) {
@@ -186,7 +188,8 @@ SclDate SclNextDay(SclDate date) {
 }
 
 SclDate SclStartMoved(const SclWorkDayRow (&rows)[kSclRowCount], const SclDate& start) {
-  // kept: only an hour that is exactly the end moves; a later one stays.
+  // kept: only a start that is exactly the end of its day's work moves to the next day; a later
+  // one stays.
   if (start.hour != SclRowOfDay(rows, start).end) return start;
   SclDate next = SclNextDay(start);
   next.hour = SclRowOfDay(rows, next).begin;

@@ -9,16 +9,18 @@
 // The work row of the day `offset` (0 or more) days on: Monday 0 to Sunday 6, holiday 7;
 // the date moves there. Inside the years of the calendar a day that is no Sunday is a
 // holiday by the calendar's flags and rules.
-// kept: from 2100 on the weekday of a month's first day is told as -1.
+// kept: from 2100 on the weekday of a month's first day is -1, and the weekdays of its other
+// days count from there.
 int SclDayRowOf(SclDate& date, int offset);
 
 // The weekday of the day `offset` days on, without holidays, 0 to 6 (or -1, as above). The
 // date moves to the first of that day's month; within its own month it stays.
 int SclPlainWeekdayOf(SclDate& date, int offset);
 
-// The work row like SclDayRowOf, by the holiday flags only. The date's day stays; when
-// that day lies in a later month the date becomes the first of that month, and the
-// caller's offset 0.
+// The work row like SclDayRowOf. The date's day stays; when that day lies in a later month
+// the date becomes the first of that month, and the caller's offset 0.
+// kept: work hours between two dates know the holidays by flags, not those by rules, and their
+// count of days begins again at each month.
 int SclDayRowCount(SclDate& date, int& offset);
 
 // A work row by its number; any number that is none reads as Monday's.

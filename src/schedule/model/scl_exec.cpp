@@ -39,6 +39,8 @@ void SclExecSaved() {
 
 void SclExecLoaded() {
   if (!Schedule.SclExecActive) return;
+  // kept: another schedule on display takes the mark off, while the one that is carried out
+  // goes on.
   const bool same = std::strcmp(Schedule.SclCurrentFile, Schedule.SclExecFile) == 0;
   Schedule.SclExecMark = same ? SclMark::Running : SclMark::None;
 }

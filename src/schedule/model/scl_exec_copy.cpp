@@ -46,7 +46,8 @@ void SclExecRefresh() {
 
 void SclExecCopyOpen() {
   CopyTake();
-  // kept: what is finished is open again in the copy, and stays finished in the schedule.
+  // kept: finished items are open again in a schedule that is newly chosen to be carried out,
+  // and stay finished in its table.
   for (SclItemRec& item : Schedule.SclExecTable.items) item.doneState = 0;
   CopyDone();
 }

@@ -38,7 +38,7 @@ bool PlacesRead(DataFile& data, MapPlaces& places, int count) {
 
 void HeaderWrite(DataFile& data) {
   SclHeaderState header = Schedule.SclHeader;
-  header.kind = 1;
+  header.kind = 1;  // kept: a schedule file says kind 1 whatever the kind is
   RecordWrite(data, header);
 }
 
@@ -58,7 +58,7 @@ bool MagicRead(DataFile& data) {
   return DataRead(data, magic, kMagicSize) && std::memcmp(magic, kMagic, kMagicSize) == 0;
 }
 
-// bounded: a start that no calendar has is held at the nearest one.
+// bounded: a schedule's start that no calendar has is held at the nearest one.
 void StartHold(SclDate& start) {
   start.year = std::clamp(start.year, 0, 255);
   start.month = std::clamp(start.month, 0, kMonthsOfYear - 1);
@@ -78,7 +78,8 @@ bool HeaderRead(DataFile& data) {
   return false;
 }
 
-// kept: a file that ends behind its items is whole; the path that is there stays in force.
+// kept: a schedule file that ends behind its items is whole; the map of the schedule before it
+// stays in force.
 bool MapRead(DataFile& data) {
   SclMapPath map = {};
   if (!RecordRead(data, map)) return true;
@@ -119,6 +120,8 @@ int SclLoadFile(const char* path) {
   FileResult.FileStatus = 0;
   DataFile data;
   if (!DataOpenRead(data, path, OpenMode::Read)) return FileResult.FileStatus;
+  // kept: a schedule file that cannot be read whole has become the current one all the same, and
+  // what came before its end is in the table.
   CurrentFileTake(path);
   if (!ContentRead(data)) return DataFailStatus(data);
   DataClose(data);

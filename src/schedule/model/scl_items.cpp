@@ -10,7 +10,7 @@ SclDate StartOf(int index) {
   return SclStartMoved(Schedule.SclHeader.rows, SclDateOf(Schedule.SclItemTable[index - 1].end));
 }
 
-// 'a' to 'f' count 10 to 15; kept: what is no digit counts 1.
+// kept: in typed hours 'a' to 'f' count 10 to 15, and any other character that is no digit 1.
 std::uint32_t DigitOf(char character) {
   if (character >= '0' && character <= '9') return static_cast<std::uint32_t>(character - '0');
   if (character >= 'a' && character <= 'f') return static_cast<std::uint32_t>(character - 'a') + 10U;
@@ -47,7 +47,7 @@ void SclHoursText(const SclItemRec& item, char* text, int size) {
     TextCopy(text, room, "----");
     return;
   }
-  // settled: days of no hours cannot be counted; the hours are shown.
+  // settled: a length in days of no hours cannot be counted; its hours are shown.
   if (item.showDays == 0 || day <= 0) {
     TextFormat(text, room, "%3uH", item.hours);
     return;
@@ -57,7 +57,8 @@ void SclHoursText(const SclItemRec& item, char* text, int size) {
   if (rest == 0) {
     TextFormat(text, room, "%3dD", days);
   } else {
-    // kept: the hundredths are the day's length by the rest.
+    // kept: the hundredths of a length in days are the day's length by the rest, not the rest by
+    // the day's length: 25 hours of days of 10 read 2.200.
     TextFormat(text, room, "%3d.%2dD", days, static_cast<int>(day * 100 / rest));
   }
 }

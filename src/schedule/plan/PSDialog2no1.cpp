@@ -4,12 +4,12 @@
 #include <algorithm>
 
 #include "platform/dialog.h"
-#include "platform/sheet.h"
 #include "resources/schedule_plan_ids.h"
 #include "schedule/plan/plan.h"
 #include "schedule/plan/plan_editors.h"
 #include "schedule/plan/plan_number.h"
 #include "services/dialog_acts.h"
+#include "services/dialog_family.h"
 #include "services/rows.h"
 
 namespace {
@@ -68,5 +68,5 @@ void PSDialog2no1Run(WindowHandle owner) {
   RestPage first{0};
   RestPage second{1};
   const SheetPage pages[] = {{IDD_PSDialog2no1, Handle, &first}, {IDD_PSDialog2no2, Handle, &second}};
-  SheetRun(owner, "休憩時間設定", pages, 2);
+  PlainSheetRun(owner, "休憩時間設定", pages, 2);
 }

@@ -1,5 +1,6 @@
 // SCPRepeat2IntSetDlg, "負荷ごとの疲労回復時間設定": the days of recovery of the three loads.
-// kept: the dialog only shows them; what is typed into it is stored by neither button.
+// kept: the dialog of the times of recovery only shows them; what is typed into it is stored by
+// neither button.
 
 #include "resources/schedule_plan_ids.h"
 #include "schedule/plan/plan.h"

@@ -21,7 +21,7 @@ void Show(WindowHandle dialog) {
   }
 }
 
-// kept: no wait is stored that is longer than 10 days, though a new plan has longer ones:
+// kept: no interval of reviews is stored that is longer than 10 days, though a new plan has longer ones:
 // to confirm them unchanged makes 10 of them.
 void Accept(WindowHandle dialog) {
   for (int i = 0; i < kScpIntervalCount; ++i) {

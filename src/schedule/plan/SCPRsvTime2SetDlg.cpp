@@ -43,6 +43,7 @@ void Show(WindowHandle dialog) {
 void Accept(WindowHandle dialog) {
   FormTake(dialog, Line(), Exchange);
   const std::uint32_t hours = PlanNumberTake(dialog, IDC_SCP_LOAD_HOURS, kCharacters);
+  // kept: more than 23 hours of a workout become 24.
   Line().hours = hours > kHoursMost ? std::uint32_t{kSclDayHours} : hours;
   ToolDialogEnd(dialog, kOkButton);
 }

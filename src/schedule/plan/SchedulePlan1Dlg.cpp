@@ -110,8 +110,8 @@ void Paint(WindowHandle window) {
   PlanPaint(window);
 }
 
-// kept: whether the plan is saved or not, whether the saving goes well or not, the window
-// closes.
+// kept: the window of the plan closes whether its changes are saved or not, and whether the
+// saving goes well or not.
 void Close(WindowHandle window) {
   if (Plan.closing || ModalIsUp()) return;
   Plan.closing = true;

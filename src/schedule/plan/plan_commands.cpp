@@ -61,8 +61,8 @@ bool EditStart(WindowHandle owner) {
   return SCLSttTimeSetDlgRun(ToolDialog::SCLSttTimeSetDlgSecond, owner, Plan.head.start);
 }
 
-// kept: the hours are edited in the schedule's own rows, and a cancelled edit leaves the
-// plan's there.
+// kept: a plan's work hours are edited in the schedule's own rows, and a cancelled edit leaves
+// the plan's there.
 bool EditDayHours(WindowHandle owner) {
   std::copy_n(Plan.head.rows, kSclRowCount, SclRows());
   if (!ChgSclDayTimeDlgRun(ToolDialog::ChgSclDayTimeDlgSecond, owner)) return false;
@@ -92,8 +92,8 @@ bool ConversionAllowed(WindowHandle window) {
   return Plan.saveAfter || BoxAsk(window, kLoseChanges);
 }
 
-// kept: the question of the closing window comes too when there are unsaved changes, and a
-// plan that was saved then is saved once more.
+// kept: a plan with unsaved changes that becomes a schedule is asked about once more as its
+// window closes, and one that was saved then is saved once more.
 void ScheduleShow() {
   SendClose(SclTable.hPlanWnd);
   if (Plan.saveAfter) PlanSave(Program.hMainWnd);

@@ -11,13 +11,13 @@ namespace {
 
 constexpr int kWaitBound = 20000;  // days; a line that waits as long is not waited for
 
-// settled: a line of more hours than can be typed, which only a file can hold, is placed
+// settled: a plan's line of more hours than can be typed, which only a file can hold, is placed
 // with the most that can be typed.
 constexpr std::uint32_t kHoursMost = 15 * 1111;
 
 constexpr const char* kDayLabels[kDaysOfWeek] = {"月", "火", "水", "木", "金", "土", "日"};
 
-// settled: a rest of a file that is shorter than no hour or longer than a day is taken for
+// settled: a rest of a plan file that is shorter than no hour or longer than a day is taken for
 // none, or for a day.
 int RestLength(const ScpRestPeriod& rest) {
   return std::clamp(rest.length, std::int32_t{0}, std::int32_t{kSclDayHours});
@@ -57,6 +57,8 @@ bool DayIsOver(const SclDate& date) {
   return date.hour >= HoursOf(date).end;
 }
 
+// kept: a conversion whose last item fills the table to the brim counts as one that did not fit;
+// what has been placed stays.
 bool TableIsFull(int items) {
   return items >= kSclItemMax;
 }
@@ -116,8 +118,8 @@ void HoursPlace(Placement& placement, int row) {
 }
 
 // Puts a rest behind the item that is being filled. False when the table is full.
-// kept: two rests that follow each other have an item of no hours between them, which
-// starts nowhere.
+// kept: two rests of a plan that follow each other have an item of no hours between them,
+// which starts nowhere.
 bool RestPlace(Placement& placement, int rowAndOne) {
   ItemClose(placement);
   if (TableIsFull(++placement.item)) return false;
@@ -285,7 +287,8 @@ int ScpBridgeWait(SclDate& current, const ScpProgress& progress, int day) {
   WorkHoursPass(hours, current);
   const int begin = HoursOf(current).begin;
   if (gap != 0 && current.hour > begin) {
-    // kept: where the days differ, more can be taken off the hours than there were.
+    // kept: where the hours of the weekdays differ, more can be taken off those of a wait than
+    // there were.
     hours -= static_cast<std::uint32_t>(current.hour - begin);
     current.hour = begin;
   }
@@ -305,7 +308,7 @@ void ScpNextRepeat(int line, int& remaining, int& wait) {
   const std::uint32_t place = Plan.head.ScpPlanKind == kScpTraining
                                   ? plan.load
                                   : static_cast<std::uint32_t>(plan.repeat - (remaining - 1));
-  // bounded: a wait behind the tenth, and that of a load which is none, is the tenth.
+  // bounded: a plan's wait behind the tenth, and that of a load which is none, is the tenth.
   wait = Plan.head.ScpIntervalTable[std::min(place, std::uint32_t{kScpIntervalCount - 1})];
   --remaining;
 }

@@ -18,16 +18,15 @@ struct Defaults {
   const char* firstText;
 };
 
-constexpr Defaults kStudy{
-    kScpStudy,
-    "Plan to Study",
-    {2, 7, 14, 28, 56, 56, 56, 56, 56, 56},
-    {14, 8, 22},
-    {{12, 13, 1}, {18, 19, 1}, {21, 22, 1}},
-    2,
-    0,
-    "Instunce: Study English Words Book page 1 1-50words"};  // kept: the first line of a new study plan is
-                                                             // misspelled.
+constexpr Defaults kStudy{kScpStudy,
+                          "Plan to Study",
+                          {2, 7, 14, 28, 56, 56, 56, 56, 56, 56},
+                          {14, 8, 22},
+                          {{12, 13, 1}, {18, 19, 1}, {21, 22, 1}},
+                          2,
+                          0,
+                          // kept: the first line of a new study plan is misspelled.
+                          "Instunce: Study English Words Book page 1 1-50words"};
 
 constexpr Defaults kTraining{kScpTraining,
                              "Plan to Train",
@@ -84,7 +83,7 @@ void ScpTrainDefaults() {
   Take(kTraining);
 }
 
-// kept: a line put in by hand is that of a study plan, in a training plan too.
+// kept: a line that is inserted into a plan is that of a study plan, in a training plan too.
 ScpPlanRec ScpNewLine() {
   ScpPlanRec line{};
   line.repeat = kStudy.repeat;

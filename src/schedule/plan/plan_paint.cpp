@@ -75,7 +75,7 @@ void PlanPaint(WindowHandle window) {
   PaintAs(window, Plan.head.ScpPlanKind == kScpTraining ? Draw<kTrainingLook> : Draw<kStudyLook>);
 }
 
-// kept: a table that has scrolled shows the columns of a study plan, whatever the plan's
+// kept: a plan's table that has scrolled shows the columns of a study plan, whatever the plan's
 // kind, until the whole window is painted.
 void PlanRedraw(WindowHandle window) {
   PaintAs(window, Draw<kStudyLook>);

@@ -1,5 +1,5 @@
 // The lines of the plan, for the commands of its table.
-// settled: whatever inserts, deletes or pastes lines makes the plan changed, as the editors
+// settled: whatever inserts, deletes or pastes lines of a plan makes the plan changed, as the editors
 // do, so that it is not lost without a question.
 #include <algorithm>
 
@@ -21,7 +21,7 @@ void Insert(int row) {
   Plan.dirty = true;
 }
 
-// settled: places that a deletion leaves behind the last line become empty lines, which no
+// settled: places that a deletion leaves behind the plan's last line become empty lines, which no
 // conversion places.
 void Remove(int row, int lines) {
   const int count = Count();

@@ -5,12 +5,12 @@
 
 #include "character/alarm_images.h"
 #include "platform/canvas.h"
-#include "platform/dialog.h"
 #include "platform/window.h"
 #include "resources/schedule_rates_ids.h"
 #include "schedule/rates/rates_dialogs.h"
 #include "schedule/rates/scl_map.h"
 #include "services/dialog_acts.h"
+#include "services/dialog_family.h"
 #include "services/painting.h"
 #include "world/wef_file.h"
 
@@ -56,7 +56,7 @@ void DrawGround(const Map& map) {
   DibDraw(map.canvas, map.area.left, map.area.top, SclMap.picture);
 }
 
-// bounded: a grid is drawn as far as the window shows it, however many cells it claims.
+// bounded: the grid of a map is drawn as far as the window shows it, however many cells it claims.
 void DrawCells(const Map& map) {
   for (unsigned row = 0; row < Sef.grid.rows; ++row) {
     if (!IsOnMap(map, CellOf(map, 0, static_cast<int>(row)))) return;
@@ -140,18 +140,10 @@ void Click(const Event& event) {
   SendPaint(event.window);
 }
 
-void Leave(WindowHandle dialog) {
-  SclMapPicturesFree();
-  DialogEnd(dialog, kCancelButton);
-}
-
 constexpr DialogAct kActs[] = {
     {EventKind::Init, SclMapPicturesLoad},
     {EventKind::Paint, Paint},
     {EventKind::LeftDown, Click},
-    {kCancelButton, Leave},
-    {kOkButton, Leave},
-    {EventKind::Close, Leave},
 };
 
 bool Handle(const Event& event) {
@@ -161,5 +153,6 @@ bool Handle(const Event& event) {
 }  // namespace
 
 void DispCelSclMapPosDlgRun(WindowHandle owner) {
-  DialogRun(IDD_DispCelSclMapPosDlg, owner, Handle);
+  PlainDialogRun(IDD_DispCelSclMapPosDlg, owner, Handle);
+  SclMapPicturesFree();
 }

@@ -6,6 +6,7 @@
 #include "schedule/rates/rates_dialogs.h"
 #include "schedule/rates/scl_rates.h"
 #include "services/dialog_acts.h"
+#include "services/dialog_family.h"
 #include "services/today.h"
 
 namespace {
@@ -39,9 +40,6 @@ void Open(WindowHandle dialog) {
 constexpr DialogAct kActs[] = {
     {EventKind::Init, Open},
     {IDC_RATE_MAP, DispCelSclMapPosDlgRun},
-    {kOkButton, [](WindowHandle dialog) { DialogEnd(dialog, kOkButton); }},
-    {kCancelButton, [](WindowHandle dialog) { DialogEnd(dialog, kCancelButton); }},
-    {EventKind::Close, [](WindowHandle dialog) { DialogEnd(dialog, kCancelButton); }},
 };
 
 bool Handle(const Event& event) {
@@ -51,5 +49,5 @@ bool Handle(const Event& event) {
 }  // namespace
 
 void SclSucsPerAndMapDlgRun(WindowHandle owner) {
-  DialogRun(IDD_SclSucsPerAndMapDlg, owner, Handle);
+  PlainDialogRun(IDD_SclSucsPerAndMapDlg, owner, Handle);
 }

@@ -6,6 +6,7 @@
 #include "schedule/rates/scl_map.h"
 #include "schedule/table/row_selection.h"
 #include "services/dialog_acts.h"
+#include "services/dialog_family.h"
 #include "services/rows.h"
 #include "services/text.h"
 
@@ -49,14 +50,10 @@ void Accept(WindowHandle dialog) {
   DialogEnd(dialog, kOkButton);
 }
 
-void Leave(WindowHandle dialog) {
-  DialogEnd(dialog, kCancelButton);
-}
-
 constexpr DialogAct kActs[] = {
-    {EventKind::Init, Open},   {IDC_MAP_POSITIONS, EventKind::Chosen, ShowChosen},
-    {kOkButton, Accept},       {kCancelButton, Leave},
-    {EventKind::Close, Leave},
+    {EventKind::Init, Open},
+    {IDC_MAP_POSITIONS, EventKind::Chosen, ShowChosen},
+    {kOkButton, Accept},
 };
 
 bool Handle(const Event& event) {
@@ -66,5 +63,5 @@ bool Handle(const Event& event) {
 }  // namespace
 
 void SelMapListScnDlgRun(WindowHandle owner) {
-  DialogRun(IDD_SelMapListScnDlg, owner, Handle);
+  PlainDialogRun(IDD_SelMapListScnDlg, owner, Handle);
 }

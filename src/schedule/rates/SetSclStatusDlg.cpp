@@ -6,6 +6,7 @@
 #include "schedule/rates/scl_map.h"
 #include "schedule/table/row_selection.h"
 #include "services/dialog_acts.h"
+#include "services/dialog_family.h"
 #include "services/rows.h"
 
 namespace {
@@ -30,13 +31,10 @@ void TurnOff(WindowHandle dialog) {
   DialogEnd(dialog, kOkButton);
 }
 
-void Leave(WindowHandle dialog) {
-  DialogEnd(dialog, kCancelButton);
-}
-
 constexpr DialogAct kActs[] = {
-    {EventKind::Init, Open}, {kOkButton, Accept},       {IDC_STATUS_OFF, TurnOff},
-    {kCancelButton, Leave},  {EventKind::Close, Leave},
+    {EventKind::Init, Open},
+    {kOkButton, Accept},
+    {IDC_STATUS_OFF, TurnOff},
 };
 
 bool Handle(const Event& event) {
@@ -46,5 +44,5 @@ bool Handle(const Event& event) {
 }  // namespace
 
 void SetSclStatusDlgRun(WindowHandle owner) {
-  DialogRun(IDD_SetSclStatusDlg, owner, Handle);
+  PlainDialogRun(IDD_SetSclStatusDlg, owner, Handle);
 }

@@ -19,7 +19,7 @@ constexpr int kMapPathSize = 1200;
 constexpr char kBackgrounds[] = "背景";
 
 // The folder and the name of the application, without its extension.
-// settled: the edit files are those named like the application's program, beside it.
+// settled: the edit files of a schedule's application are those named like its program, beside it.
 struct Application {
   char folder[kPathSplitSize + 1];
   char name[kPathSplitSize + 1];
@@ -53,8 +53,8 @@ int TypeOfRow(int row) {
 }
 
 // Runs `set` with the index of each selected row.
-// kept: a range is taken by the numbers of its rows as if they counted from 0, so it is one
-// row later than the range on show.
+// kept: a place on the map or a status goes to a range of lines by their numbers as if they
+// counted from 0, so one line later than the range on show.
 template <class Set>
 void SelectedRows(Set set) {
   if (RowSelection.selectionAnchor == RowSelection.selectionEnd) {

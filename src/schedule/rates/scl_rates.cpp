@@ -42,7 +42,7 @@ SclRates SclRatesOf(int year, int month, int day) {
   return rates;
 }
 
-// kept: the rest loses the zeros that it begins with, so that 5.05 reads as 5.5.
+// kept: the decimals of a rate lose the zeros that they begin with, so that 5.05 reads as 5.5.
 void SclRateText(float rate, char* text, int size) {
   const auto whole = static_cast<std::int64_t>(rate);
   auto rest = static_cast<std::int64_t>((rate - static_cast<float>(whole)) * kFractionScale);

@@ -16,8 +16,8 @@ namespace {
 constexpr std::size_t kLineBytes = 66;
 
 bool Holds(const SclItemRec& item, const SclDate& day) {
-  // kept: year, month and day are held against the range one by one, so that an item over
-  // the end of a month holds none of its days.
+  // kept: in the list of a day's lines year, month and day are held against an item's range one
+  // by one, so that an item over the end of a month holds none of its days.
   return item.start.year <= day.year && day.year <= item.end.year && item.start.month <= day.month &&
          day.month <= item.end.month && item.start.day <= day.day && day.day <= item.end.day;
 }
@@ -33,8 +33,8 @@ void ItemAdd(WindowHandle dialog, int index) {
   const SclWorkDayRow& row = SclRowOfDay(Schedule.SclHeader.rows, SclDay.day);
   const bool starts = IsDay(item.start, SclDay.day);
   if (starts && item.start.hour == row.end) return;
-  // settled: a line of several days is told with its hours on this one: from its start or
-  // the begin of work, to its end or the end of work.
+  // settled: in the list of a day's lines one of several days is told with its hours on this one: from its
+  // start or the begin of work, to its end or the end of work.
   char time[80];
   TextFormat(time, sizeof time, "【 時間 】%d 時～%d 時", starts ? item.start.hour : row.begin,
              IsDay(item.end, SclDay.day) ? item.end.hour : row.end);

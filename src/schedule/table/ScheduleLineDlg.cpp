@@ -74,7 +74,7 @@ struct DateTexts {
 const char* WeekdayText(SclDate date) {
   constexpr const char* kWeekdays[] = {"(月)", "(火)", "(水)", "(木)", "(金)", "(土)", "(日)"};
   const int weekday = SclPlainWeekdayOf(date, 0);
-  // bounded: from 2100 on a month may begin on no day of the week.
+  // bounded: from 2100 on a date of the chart may have no day of the week.
   return weekday >= 0 && weekday < kDaysOfWeek ? kWeekdays[weekday] : "";
 }
 
@@ -101,7 +101,7 @@ bool IsToday(const SclDate& date) {
 
 // Goes through the dates of the bars that begin in the hours on show, from the left:
 // visit(row of the head, x, text, date). A visit that answers true ends the walk.
-// settled: bars that begin close to each other have no room for all their dates; one that
+// settled: bars of the chart that begin close to each other have no room for all their dates; one that
 // would run into the one before it in its row is left out.
 template <class Visit>
 void DatesVisit(const Rect& body, Visit visit) {

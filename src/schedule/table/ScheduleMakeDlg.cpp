@@ -150,8 +150,8 @@ void DayHours(WindowHandle dialog) {
   if (ModalIsUp()) return;
   SclConvertedSet(false);
   ChgSclDayTimeDlgRun(ToolDialog::ChgSclDayTimeDlg, dialog);
-  // kept: the dates follow the new hours at once only when a plan has been converted
-  // meanwhile.
+  // kept: the dates of a schedule follow new work hours at once only when a plan has been
+  // converted meanwhile.
   if (Schedule.SclConverted) {
     SclRecalcAll();
     BoxTell(dialog, kStartsTold);
@@ -176,7 +176,8 @@ void Close(WindowHandle dialog) {
   SclTable.closing = true;
   if ((Schedule.SclDirtyFlags & kSclTableChanged) != 0 && BoxAsk(dialog, kSaveAsked)) SclSaveRun(dialog);
   if ((Schedule.SclDirtyFlags & kSclSettingsChanged) != 0) SysFileWrite();
-  // settled: what the user has not saved now is not asked about again with another schedule.
+  // settled: a change of the schedule that the user has not saved now is not asked about again with another
+  // schedule.
   SclDirtyClear(kSclTableChanged | kSclSettingsChanged);
   SclTable.closing = false;
   if (SclTable.hSclTableWnd == dialog) WindowDestroy(dialog);

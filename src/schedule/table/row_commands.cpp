@@ -38,11 +38,11 @@ void TellFull(const RowTable& rows) {
   BoxTell(RowWindow(), text, kInsertError);
 }
 
-// kept: the limit is looked at once, before the first of several rows goes in.
-// bounded: rows beyond the table's room are not inserted.
+// kept: the limit of rows is looked at once, before the first of several goes in.
+// bounded: rows beyond the room of a schedule or a plan are not inserted.
 void InsertRange(const RowTable& rows) {
   const RowRange range = RowSelectionRange();
-  // settled: an anchor behind the last row, which a deletion leaves, inserts behind it.
+  // settled: an anchor of the selection behind the last row, which a deletion leaves, inserts behind it.
   const int at = std::clamp(RowSelection.selectionAnchor - 1, 0, rows.count());
   for (int n = range.last - range.first + 1; n > 0 && rows.count() < rows.capacity; --n) rows.insert(at);
 }
@@ -59,6 +59,7 @@ bool PasteAsked(int first, int last, int target) {
   return BoxAsk(RowWindow(), text, "貼り付け");
 }
 
+// kept: pasted rows keep the dates of those that were copied.
 // bounded: copied rows that a deletion has taken away since are not pasted.
 void PasteRange(const RowTable& rows, int target) {
   for (int from = RowSelection.copyFirst; from <= RowSelection.copyLast; ++from, ++target) {
@@ -95,10 +96,11 @@ void CommandRowDelete() {
   const RowTable* rows = Rows();
   if (!rows || rows->count() == 0 || RowSelection.currentRow == 0) return;
   const RowRange range = RowSelectionRange();
-  // bounded: a range that reaches behind the last row ends there.
+  // bounded: a range of rows that reaches behind the last one ends there.
   const int last = std::min(range.last, rows->count());
   if (last >= range.first) rows->remove(range.first - 1, last - range.first + 1);
-  // kept: the current row keeps its number, which may now lie behind the last row.
+  // kept: behind a deletion the current row keeps its number, which may now lie behind the last
+  // row.
   RowChoose(RowSelection.currentRow);
   if (rows->recalculate) rows->recalculate();
   Show(*rows);

@@ -14,7 +14,7 @@ int Count() {
 }
 
 SclMirrorDate MirrorOf(const SclItemDate& date) {
-  // kept: the hour goes where the alarms look for minutes.
+  // kept: the hour of an inserted item goes where the alarms look for minutes too.
   return {date.year, date.month, date.day, date.hour};
 }
 
@@ -28,7 +28,8 @@ SclItemRec Empty(int row) {
   return item;
 }
 
-// kept: the places on the map do not move with the rows, nor are later dates worked out.
+// kept: when an item is inserted, the places on the map do not move with the rows, nor are
+// later dates worked out.
 void Insert(int row) {
   const int count = Count();
   if (count >= kSclItemMax) return;

@@ -24,7 +24,8 @@ void BarSet(const TableView& view) {
   ScrollSet(nullptr, 0, kTableLineHeight, view.lines, view.firstLine, view.scrollBar);
 }
 
-// The thumb has its own rule near the end, and the top that comes of it is pulled back.
+// kept: near its end the thumb of a table's scroll bar has a rule of its own, and the top that
+// comes of it is pulled back.
 int ThumbTop(const TableView& view, int position) {
   if (position <= 0) return 0;
   const int top = view.lines - position <= kThumbAtEnd ? view.lines - kThumbEndTop : position;

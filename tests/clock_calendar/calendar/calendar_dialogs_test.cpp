@@ -235,6 +235,57 @@ TEST_F(CalendarDialogsTest, AnotherBaseYearRebuildsTheMonthsAndGoesBackToTheFirs
   });
 }
 
+// Today is in 2026, with all of the span still to come.
+TEST_F(CalendarDialogsTest, ABaseYearToComeStaysWithItsHolidays) {
+  Calendar.CalenShow = 1;
+  Open();
+  Edit([] {
+    ThenRow(IDC_CALEN_BASE, 27);
+    ThenPress(IDC_CALEN_HOLIDAY);
+    Then([] { EXPECT_FALSE(CalenHolidayFlag(0, 10, 20)) << "21 November 2027 is a Sunday"; });
+  });
+  EXPECT_EQ(Calendar.CalenFirstYear, 27);
+  EXPECT_EQ(Calendar.CalenYearPos, 0);
+  EXPECT_TRUE(Says("2027年  11月"));
+  EXPECT_FALSE(CalenHolidayFlag(0, 10, 20));
+  for (const DrawCall& call : Painted()) EXPECT_NE(call.brush, 0xC8C8C8U) << "no day of it is today";
+  TestClockSet({2026, 12, 1, 0, 0, 0, 0, 0});
+  MainTick();
+  EXPECT_EQ(Calendar.CalenFirstYear, 27);
+  EXPECT_TRUE(Says("2027年  12月"));
+  TestClockSet({2027, 1, 1, 0, 0, 0, 0, 0});
+  MainTick();
+  EXPECT_EQ(Calendar.CalenFirstYear, 27);
+  EXPECT_TRUE(Says("2027年  1月"));
+}
+
+TEST_F(CalendarDialogsTest, TheEditedYearStaysWhenTheMonthEndsUnderTheDialog) {
+  Date(2026, 11, 30, 23, 59);
+  Open();
+  Edit([] {
+    ThenRow(IDC_CALEN_YEAR, 1);
+    Then([] {
+      TestClockSet({2026, 12, 1, 0, 0, 0, 0, 0});
+      MainTick();
+      EXPECT_EQ(Calendar.CalenYearPos, 1);
+    });
+    ThenType(IDC_CALEN_DAY_NOTE, "来年");
+  });
+  EXPECT_EQ(Note(1, 10, 29), "来年");
+  EXPECT_EQ(Note(0, 10, 29), "");
+  MainTick();
+  EXPECT_EQ(Calendar.CalenYearPos, 0);
+  EXPECT_EQ(Calendar.CalenMonthPos, 11);
+}
+
+TEST_F(CalendarDialogsTest, TheClickedDayIsEditedFirstAndThenForgotten) {
+  Open();
+  CalenClickedDaySet(5);
+  Edit([] { Then([] { EXPECT_EQ(CalendarEdit.day, 4); }); });
+  EXPECT_EQ(Calendar.CalenClickedDay, 0);
+  Edit([] { Then([] { EXPECT_EQ(CalendarEdit.day, 20) << "today"; }); });
+}
+
 TEST_F(CalendarDialogsTest, ANoteIsWrittenToTheClickedDay) {
   Edit([] {
     ThenClickDay(5);
@@ -258,6 +309,21 @@ TEST_F(CalendarDialogsTest, ANoteIsWrittenToTheClickedDay) {
 TEST_F(CalendarDialogsTest, ALongNoteIsCutAtItsField) {
   Edit([] { ThenType(IDC_CALEN_DAY_NOTE, std::string(127, 'x')); });
   EXPECT_EQ(Note(0, 10, 20).size(), 127U);
+}
+
+// A file may hold all 128 bytes, one more than the field of the dialog.
+TEST_F(CalendarDialogsTest, ANoteOf128BytesIsNotCutByAVisit) {
+  char(&note)[kNoteSize + 1] = Calendar.CalenMonths[0][10].notes[20];
+  std::memset(note, 'x', kNoteSize);
+  Edit([] {
+    ThenClickDay(5);
+    Then([] { EXPECT_FALSE(CalendarEdit.changed); });
+  });
+  EXPECT_EQ(Note(0, 10, 20).size(), 128U);
+  CalenClickedDaySet(21);
+  ThenPress(1);
+  CommandSend(Command::CalendarNote);
+  EXPECT_EQ(Note(0, 10, 20).size(), 128U);
 }
 
 TEST_F(CalendarDialogsTest, TheHolidayOfTheClickedDayIsSetAndTakenBack) {
@@ -298,6 +364,14 @@ TEST_F(CalendarDialogsTest, TheMonthClearKeysAskAndNameTheMonth) {
   EXPECT_EQ(Note(0, 11, 0), "b") << "another month";
   EXPECT_EQ(Calendar.CalenDefinitions[0].stickers[11][3], 2);
   EXPECT_EQ(BoxesShown()[0].buttons, BoxButtons::OkCancel);
+}
+
+// The watch on the files answers another program's change by saving the settings.
+TEST_F(CalendarDialogsTest, WhatIsSavedHereIsNotReadAgain) {
+  Edit([] { ThenType(IDC_CALEN_NAME, "x"); });
+  RemoveFile(kSettingsFile);
+  Ticks(201);
+  EXPECT_FALSE(FileThere(kSettingsFile));
 }
 
 TEST_F(CalendarDialogsTest, EditingThatCannotBeSavedIsTold) {
@@ -509,6 +583,54 @@ TEST_F(CalendarDialogsTest, TheNoteOfTheClickedDayIsWrittenAndSaved) {
   EXPECT_EQ(Note(0, 10, 24), "給料日");
   EXPECT_TRUE(SavedNote("給料日"));
   EXPECT_EQ(Calendar.CalenClickedDay, 0);
+}
+
+// As after a sibling's change of the calendar file.
+TEST_F(CalendarDialogsTest, ANoteIsWrittenThoughTheCalendarIsOpenedAnewUnderItsDialog) {
+  Calendar.CalenShow = 1;
+  Open();
+  CalenClickedDaySet(25);
+  Then([] {
+    Type(TopDialog(), IDC_CALEN_NOTE, "給料日");
+    CalenWindowRenew();
+    Press(TopDialog(), 1);
+  });
+  CommandSend(Command::CalendarNote);
+  EXPECT_EQ(Note(0, 10, 24), "給料日");
+  EXPECT_TRUE(SavedNote("給料日"));
+  EXPECT_EQ(Calendar.CalenClickedDay, 0);
+}
+
+TEST_F(CalendarDialogsTest, ANoteGoesToItsOwnMonthWhenThatEndsUnderTheDialog) {
+  Date(2026, 12, 31, 23, 59);
+  Open();
+  CalenClickedDaySet(25);
+  Then([] {
+    Type(TopDialog(), IDC_CALEN_NOTE, "給料日");
+    TestClockSet({2027, 1, 1, 0, 0, 0, 0, 0});
+    MainTick();
+    EXPECT_EQ(Calendar.CalenMonthPos, 0);
+    Press(TopDialog(), 1);
+  });
+  CommandSend(Command::CalendarNote);
+  EXPECT_EQ(Note(0, 11, 24), "給料日");
+  EXPECT_EQ(Note(1, 0, 24), "");
+}
+
+TEST_F(CalendarDialogsTest, ANoteOfAYearThatTheSpanHasLeftIsToldAsNotSaved) {
+  CalenSpanSet(26, 1);
+  Date(2026, 12, 31, 23, 59);
+  Open();
+  CalenClickedDaySet(25);
+  Then([] {
+    Type(TopDialog(), IDC_CALEN_NOTE, "給料日");
+    TestClockSet({2027, 1, 1, 0, 0, 0, 0, 0});
+    MainTick();
+    ExpectBox("ファイルセーブできません", "カレンダー書き込み");
+    Press(TopDialog(), 1);
+  });
+  CommandSend(Command::CalendarNote);
+  EXPECT_EQ(Note(0, 11, 24), "");
 }
 
 TEST_F(CalendarDialogsTest, ACancelledNoteStaysAsItWas) {

@@ -146,6 +146,20 @@ TEST_F(CalendarWindowTest, TheRightButtonOnADayOpensThePopupThere) {
   EXPECT_EQ(Calendar.CalenClickedDay, 0) << "no day, no menu";
 }
 
+// As after a sibling's change of the calendar file.
+TEST_F(CalendarWindowTest, TheClickedDayStaysWhenTheCalendarIsOpenedAnewUnderThePopup) {
+  Calendar.CalenShow = 1;
+  Open();
+  SendPaint(Calendar.hCalenWnd);
+  ExpectMenu(IDM_CALENDAR_DAY, 2277, [] { CalenWindowRenew(); });
+  Then([] {
+    EXPECT_EQ(ControlText(TopDialog(), IDC_CALEN_NOTE_DAY), "2026年 11月 5日");
+    Press(TopDialog(), 2);
+  });
+  At(EventKind::RightDown, 5);
+  EXPECT_EQ(Calendar.CalenClickedDay, 0);
+}
+
 TEST_F(CalendarWindowTest, ThePopupIsRefusedWhileADialogOrThePanelIsOpen) {
   Open();
   SendPaint(Calendar.hCalenWnd);

@@ -286,6 +286,38 @@ TEST_F(CastListTest, Setting200CopiesLeaves0FreeAndAFurtherIncreaseForAnotherSho
   EXPECT_EQ(CastCopiesMost(302), 0);
 }
 
+TEST_F(CastListTest, CopiesOfACharacterThatIsNoLongerRegisteredKeepTheirSlots) {
+  Cast({1, 2, 3});
+  CastCopiesSet(1, 2);
+  Slot(512).standX = 21;
+  Slot(513).standX = 22;
+  SnryMain.registered[0] = 0;
+  CastCopiesSet(2, 2);
+  EXPECT_EQ(CastIds(), (Ids{1, 513, 514, 2, 515, 516, 3}));
+  EXPECT_EQ(Slot(512).standX, 21);
+  EXPECT_EQ(Slot(513).standX, 22);
+  EXPECT_EQ(Slot(513).master, 1);
+  EXPECT_EQ(Slot(515).master, 2);
+  CastRemove(6);
+  EXPECT_EQ(CastIds(), (Ids{1, 513, 514, 2, 515, 516}));
+  EXPECT_EQ(Slot(513).standX, 22);
+  EXPECT_EQ(Slot(515).master, 2);
+}
+
+TEST_F(CastListTest, NoMoreCopiesAreOfferedThanThereAreSlotsBehindThoseOfTheUnregistered) {
+  Register(301, "x");
+  Register(302, "y");
+  Cast({301, 302});
+  CastCopiesSet(301, 150);
+  SnryMain.registered[300] = 0;
+  EXPECT_EQ(CastCopiesMost(302), 50);
+  CastCopiesSet(302, 50);
+  EXPECT_EQ(Slot(661).master, 301);
+  EXPECT_EQ(Slot(662).master, 302);
+  EXPECT_EQ(Slot(711).master, 302);
+  EXPECT_EQ(Slot(712).master, 0);
+}
+
 TEST_F(CastListTest, OneOfTheFirst200CharactersLosesItsOwnRecordWithTheLastFreeCopy) {
   Cast({1, 2});
   Slot(0).standX = 11;
@@ -412,7 +444,7 @@ std::string Step(ModelCast& model, std::mt19937& random) {
     return "remove place " + std::to_string(place);
   }
   if (kind < 15 && inCast && model.registered.contains(chara)) {
-    const int most = model.slots[static_cast<std::size_t>(chara - 1)].copies + std::max(0, 200 - model.Sum());
+    const int most = model.slots[static_cast<std::size_t>(chara - 1)].copies + model.Most();
     if (CastCopiesMost(chara) != most) return "most";
     const int copies = below(8) == 0 ? below(most + 1) : below(std::min(most, 5) + 1);
     CastCopiesSet(chara, copies);

@@ -20,8 +20,17 @@ int ModelCast::Sum() const {
   return sum;
 }
 
+int ModelCast::Most() const {
+  return std::max(0, std::min(200 - Sum(), 712 - End()));
+}
+
 int ModelCast::End() const {
-  return std::min(712, 512 + Sum());
+  int end = 512;
+  for (int place = 0; place < count; ++place) {
+    const int id = list[At(place)];
+    if (id >= 1 && id <= 512) end += slots[At(id - 1)].copies;
+  }
+  return std::min(712, end);
 }
 
 bool ModelCast::Add(int chara) {
@@ -148,7 +157,7 @@ void ModelCast::Remove(int place) {
     Clear(512, 712);
     return;
   }
-  Clear(512 + Sum(), 712);
+  Clear(End(), 712);
   // One empty slot after the other goes from the list, from the end.
   for (int slot = 711; slot >= 512; --slot) {
     if (slots[At(slot)].master != 0) continue;

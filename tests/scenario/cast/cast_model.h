@@ -33,7 +33,8 @@ struct ModelCast {
   // A fresh scene: each character's slot has a tag of its own, its number.
   ModelCast();
 
-  int Sum() const;
+  int Sum() const;   // copies of the registered
+  int Most() const;  // copies that can be added
   bool Add(int chara);
   void Remove(int place);
   void SetCopies(int chara, int copies);

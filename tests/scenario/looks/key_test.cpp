@@ -145,6 +145,42 @@ TEST_F(SceenKeyDlgTest, AnEmptyRecordIsAskedAboutAndTakesTheParameter) {
   Run();
 }
 
+TEST_F(SceenKeyDlgTest, NothingIsAddedWithoutAChosenKey) {
+  Use(0, 99, "先");  // the list has no such key
+  ThenChoose(IDC_KEY_ROWS, 0);
+  Then([] { EXPECT_EQ(ListSelected(TopDialog(), IDC_KEY_KEY), -1); });
+  ThenAsked(IDC_KEY_ADD, kAddText, kAddCaption);
+  Then([] { EXPECT_EQ(Rows(), (Lines{"[  ] - 先"})); });
+  ThenAsked(IDC_KEY_CHANGE, "キー/マウス割付を変更します。", "割付の変更");
+  ThenPress(kOkButton);
+  Run();
+  EXPECT_EQ(SnryScene.keys[0].key, 99);
+  EXPECT_STREQ(SnryScene.keys[1].name, "");
+}
+
+TEST_F(SceenKeyDlgTest, AChangedKeyStaysChosenWithItsParameters) {
+  Use(0, 1, "一").parameters[0] = 1;
+  Use(1, 2, "二").parameters[0] = 3;
+  ThenChoose(IDC_KEY_ROWS, 1);
+  ThenType(IDC_KEY_NAME, "三");
+  ThenAsked(IDC_KEY_CHANGE, "キー/マウス割付を変更します。", "割付の変更");
+  Then([] {
+    EXPECT_EQ(ListSelected(TopDialog(), IDC_KEY_ROWS), 1);
+    EXPECT_EQ(Places(), (Lines{"1.扉"}));
+  });
+  ThenPress(kOkButton);
+  Run();
+  EXPECT_STREQ(SnryScene.keys[1].name, "三");
+}
+
+TEST_F(SceenKeyDlgTest, WithTwentyKeysAndNoneChosenThereAreNoParametersToEdit) {
+  for (int slot = 0; slot < 20; ++slot) Use(slot, slot + 1, "k").parameters[0] = 1;
+  Then([] { EXPECT_EQ(Places(), Lines()); });
+  for (const int button : {IDC_KEY_PLACE_ADD, IDC_KEY_PLACE_CHANGE, IDC_KEY_PLACE_DELETE}) ThenPress(button);
+  ThenPress(kOkButton);
+  Run();
+}
+
 TEST_F(SceenKeyDlgTest, TwentyParametersAreTheMost) {
   SnryKeyRec& key = Use(0, 1, "一");
   for (auto& parameter : key.parameters) parameter = 1;

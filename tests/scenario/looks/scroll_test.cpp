@@ -105,6 +105,30 @@ TEST_F(SnryBackScrollDlgTest, AConditionTakesParameterValueSpeedAndDirection) {
   EXPECT_EQ(Scroll().directions[0], 0);
 }
 
+TEST_F(SnryBackScrollDlgTest, ASpeedThatTheListDoesNotHaveStaysUntilAnotherIsChosen) {
+  Scroll().parameters[0] = 1;
+  Scroll().speeds[0] = 26;
+  ThenChoose(IDC_SCROLL_PLACES, 0);
+  ThenType(IDC_SCROLL_VALUE, "5");
+  ThenAsked(IDC_SCROLL_PLACE_CHANGE, "パラメータを変更します", "パラメータ変更");
+  ThenPress(kOkButton);
+  Run();
+  EXPECT_EQ(Scroll().values[0], 5);
+  EXPECT_EQ(Scroll().speeds[0], 26);
+}
+
+TEST_F(SnryBackScrollDlgTest, ADeletedBackgroundLeavesWhatStandsBehindTheChosenOnes) {
+  Backgrounds(10);
+  Scroll().count = 3;
+  ThenChoose(IDC_SCROLL_CHOSEN, 1);
+  ThenPress(IDC_SCROLL_DELETE);
+  ThenPress(kOkButton);
+  Run();
+  EXPECT_STREQ(Scroll().backgrounds[1], "b2");
+  EXPECT_STREQ(Scroll().backgrounds[2], "");
+  EXPECT_STREQ(Scroll().backgrounds[3], "b3");
+}
+
 TEST_F(SnryBackScrollDlgTest, DeletingAConditionMovesAllItsFields) {
   for (int place = 0; place < 3; ++place) {
     Scroll().parameters[place] = 1;

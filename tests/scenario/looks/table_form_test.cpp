@@ -1,5 +1,5 @@
-#include "scenario/looks/table_colours.h"
 #include "scenario/storage/snry_reset.h"
+#include "scenario/storage/table_colours.h"
 #include "tests/scenario/looks/looks_fixture.h"
 
 namespace {

@@ -20,14 +20,22 @@ TEST_F(DeleteSnryMainTest, ARowOfTheListIsDeletedWhenTheUserAgrees) {
 }
 
 TEST_F(DeleteSnryMainTest, AListThatCannotBeRewrittenIsTold) {
-  PutList({{"C:\\x", "x"}});
+  PutList({{"C:\\x", "x"}, {"C:\\y", "y"}, {"C:\\z", "z"}});
   ThenChoose(IDC_SNRY_LIST, 0);
   Then([] { FaultArm(FaultKind::Write, 1); });
   ExpectBox("シナリオを削除します。よろしいですか", "シナリオの削除", BoxAnswer::Ok);
   ExpectBox("シナリオリストファイルをセーブできません", "リストファイルのセーブ失敗");
   ThenPress(IDC_SNRY_LIST_DELETE);
+  Then([] {
+    FaultClear();
+    EXPECT_EQ(ListRows(TopDialog(), IDC_SNRY_LIST), (ListTexts{"[y]-C:\\y", "[z]-C:\\z"}));
+  });
+  ThenChoose(IDC_SNRY_LIST, 0);
+  ExpectBox("シナリオを削除します。よろしいですか", "シナリオの削除", BoxAnswer::Ok);
+  ThenPress(IDC_SNRY_LIST_DELETE);
   ThenClose();
   CommandSend(Command::ScenarioDelete);
+  EXPECT_EQ(FileBytes(kListFile), ListImage({{"C:\\z", "z"}})) << "the second deletion takes its own row";
 }
 
 }  // namespace

@@ -77,14 +77,32 @@ TEST_F(SnryListTest, ARowIsPutInItsPlaceOrBehindTheOthers) {
   SetRows(2);
   TextCopy(Scenario.mainFolder, sizeof Scenario.mainFolder, kTale);
   TextCopy(SnryMain.title, sizeof SnryMain.title, "物語");
-  Scenario.listIndex = 0;
-  SnryListPut();
-  EXPECT_EQ(SnryList.count, 2);
-  EXPECT_STREQ(SnryList.rows[0].folder, kTale);
   Scenario.listIndex = 2;
   SnryListPut();
   EXPECT_EQ(SnryList.count, 3);
+  EXPECT_STREQ(SnryList.rows[2].folder, kTale);
   EXPECT_STREQ(SnryList.rows[2].title, "物語");
+  TextCopy(SnryMain.title, sizeof SnryMain.title, "次の題");
+  SnryListPut();
+  EXPECT_EQ(SnryList.count, 3);
+  EXPECT_STREQ(SnryList.rows[2].title, "次の題");
+}
+
+TEST_F(SnryListTest, ARowOfAnotherScenarioIsNeverTaken) {
+  SetRows(2);
+  TextCopy(Scenario.mainFolder, sizeof Scenario.mainFolder, kTale);
+  Scenario.listIndex = 0;  // as a list that did not open leaves it
+  SnryListPut();
+  ASSERT_EQ(SnryList.count, 3);
+  EXPECT_STREQ(SnryList.rows[0].folder, "C:\\話0");
+  EXPECT_STREQ(SnryList.rows[2].folder, kTale);
+}
+
+TEST_F(SnryListTest, AScenarioIsAddedOnceToAListThatWasMadeAnew) {
+  TextCopy(Scenario.mainFolder, sizeof Scenario.mainFolder, kTale);
+  Scenario.listIndex = 5;  // of the list before
+  for (int save = 0; save < 2; ++save) SnryListPut();
+  EXPECT_EQ(SnryList.count, 1);
 }
 
 TEST_F(SnryListTest, ARowIsFoundByItsWholeFolder) {

@@ -1,6 +1,8 @@
 // SnryMainLoad: a scenario of the list is loaded.
 #include "platform/file.h"
 #include "tests/scenario/storage/scenario_dialogs_fixture.h"
+#include "tests/support/bitmaps.h"
+#include "world/world_pictures.h"
 
 namespace {
 
@@ -25,15 +27,33 @@ TEST_F(LoadSnryMainTest, AListedScenarioIsLoaded) {
   EXPECT_EQ(Scenario.listIndex, 0);
 }
 
+// The main folder is entered before it is asked whether there is a row: without a scenario
+// it has none.
 TEST_F(LoadSnryMainTest, WithoutARowNothingIsLoaded) {
   PutTale();
+  for (const int way : {0, 1, 2}) {
+    ExpectBox("シナリオフォルダーがありません。", "シナリオロードの中止");
+    if (way == 0) ThenPress(1);
+    if (way == 1) ThenPress(2);
+    if (way == 2) Then([] { PressEscape(TopDialog()); });
+    Load();
+  }
+  EXPECT_STREQ(Scenario.mainFolder, "");
+  TextCopy(Scenario.mainFolder, sizeof Scenario.mainFolder, kTale);
   ThenPress(1);
   Load();
-  ThenPress(2);
+  EXPECT_EQ(SnryMain.folderCount, 0);
+}
+
+TEST_F(LoadSnryMainTest, ThePicturesAreKeptAsLongAsTheScenarioIsOpen) {
+  PutTale();
+  MakeFolder("C:\\mirrell\\キャラクタ");
+  PutFile("C:\\mirrell\\キャラクタ\\Chara1_1.bmp", BitmapOf(2, 1, std::vector<int>(6)));
+  ThenLoadFirst();
+  Then([] { EXPECT_NE(WorldPictureOf(1).picture, nullptr); });
+  ThenClose();
   Load();
-  Then([] { PressEscape(TopDialog()); });
-  Load();
-  EXPECT_STREQ(Scenario.mainFolder, "");
+  EXPECT_EQ(WorldPictures.pictures[0], nullptr);
 }
 
 // "a later failure to enter the main folder reports シナリオフォルダーがありません。"

@@ -62,6 +62,15 @@ TEST_F(NewSnryMainTest, AFolderThatCannotBeMadeEndsTheNewScenario) {
   CommandSend(Command::ScenarioNew);
 }
 
+TEST_F(NewSnryMainTest, NothingIsMadeWhereNobodyCouldTellWhereTheListStands) {
+  Then([] { SnryDialogs.folderOnShow[0] = '\0'; });
+  ThenType(IDC_SNRY_NEW_NAME, "冒険");
+  ExpectBox("フォルダーを作成できませんでした", "メインフォルダー作成失敗");
+  ThenPress(1);
+  CommandSend(Command::ScenarioNew);
+  EXPECT_STREQ(Scenario.mainFolder, "");
+}
+
 TEST_F(NewSnryMainTest, TheFolderDialogCanBeLeft) {
   for (const int way : {0, 1, 2}) {
     if (way == 0) ThenPress(kFolderCancelId);

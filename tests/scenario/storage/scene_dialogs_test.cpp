@@ -1,4 +1,5 @@
 // The scenes of a scenario folder: made, added, taken out, set up.
+#include "resources/scenario_cast_ids.h"
 #include "tests/scenario/storage/scenario_dialogs_fixture.h"
 
 namespace {
@@ -164,6 +165,35 @@ TEST_F(SceneDialogsTest, AScenesEditsAreDroppedByAnyOtherEnd) {
   EXPECT_EQ(FileBytes(kScene), SceneImage());
 }
 
+TEST_F(SceneDialogsTest, ACastThatWasNotConfirmedIsDropped) {
+  PutTale();
+  ThenOpenScene();
+  Then([] {
+    MakeChara(1, "ミル", "姫");
+    SnryMain.registeredCount = 1;
+  });
+  ThenPress(IDC_SNRY_CAST_ADD);
+  ThenChoose(IDC_CAST_LIST, 0);
+  ThenPress(1);
+  Then([] {
+    EXPECT_EQ(ListRows(TopDialog(), IDC_SNRY_CAST), (ListTexts{"1. ミル [登場名: 姫]"}));
+    SnrySceneNow().tableFlags = 1;
+  });
+  ThenPress(IDC_SNRY_SCENE_START);
+  ThenType(IDC_START_SCENE, "町の夜");
+  ThenPress(1);
+  ThenPress(2);
+  ThenPress(IDC_SNRY_SCENE_SET);
+  Then([] {
+    EXPECT_EQ(ListRows(TopDialog(), IDC_SNRY_CAST), ListTexts());
+    EXPECT_EQ(SnrySceneNow().castCount + SnrySceneNow().tableFlags, 0);
+    EXPECT_EQ(ControlText(TopDialog(), IDC_SNRY_SCENE_NAME), "町の夜") << "confirmed by itself";
+  });
+  for (int i = 0; i < 3; ++i) ThenClose();
+  Load();
+  EXPECT_EQ(FileBytes(kTaleMain).substr(15414 + 68, 4), std::string(4, '\0'));
+}
+
 TEST_F(SceneDialogsTest, ASceneThatCannotBeReadOpensOnWhatTheBuffersHold) {
   PutTale();
   PutFile(kScene, "x");
@@ -195,6 +225,35 @@ TEST_F(SceneDialogsTest, ASceneThatCannotBeWrittenIsToldAndTheDialogStays) {
   ThenClose();
   Load();
   EXPECT_EQ(FileBytes(kScene), SceneImage());
+}
+
+TEST_F(SceneDialogsTest, ANewScenesCastHasItsFiguresAsMotions) {
+  PutTale();
+  MakeFolder("C:\\mirrell\\キャラクタ");
+  PutFile("C:\\mirrell\\キャラクタ\\EDTCFLAG.edf", std::string(4, '\0') + Big32(1) + Big32(0));
+  std::string data(1520, '\0');
+  At(data, 1440, Little16(5));
+  PutFile("C:\\mirrell\\キャラクタ\\EDTCDATA.edf", data);
+  ThenOpenChapter();
+  ThenPress(IDC_SNRY_SCENE_NEW);
+  ExpectBox("新規にファイルを作成しました", "新規場面ファイル作成");
+  ThenPress(1);
+  Then([] { EXPECT_EQ(SnryCastAt(0).motions[0], 5); });
+  for (int i = 0; i < 2; ++i) ThenClose();
+  Load();
+}
+
+TEST_F(SceneDialogsTest, EveryFileOfAFullFolderCanBeAdded) {
+  PutTale();
+  for (int i = 0; i < 1100; ++i) PutFile(std::string(kChapter) + "\\" + std::to_string(i) + ".scd", "");
+  ThenOpenChapter();
+  ThenPress(IDC_SNRY_SCENE_ADD);
+  Then([] { EXPECT_EQ(ListRows(TopDialog(), IDC_SNRY_SCENES).size(), 1100U); });
+  ThenChoose(IDC_SNRY_SCENES, 1099);
+  ThenPress(1);
+  Then([] { EXPECT_EQ(Scenes().size(), 2U); });
+  for (int i = 0; i < 2; ++i) ThenClose();
+  Load();
 }
 
 TEST_F(SceneDialogsTest, TheFiguresOfTheWorldGoIntoTheMainFileWithASceneThatIsOpened) {

@@ -228,8 +228,9 @@ TEST_F(SnryTablesTest, ANewSceneInheritsBackdropKeysAndScroll) {
 
 TEST_F(SnryTablesTest, TheCastBeginsWithItsFiguresAsMotions) {
   for (const int slot : {0, 511, 512}) RecordFill(SnryCastAt(slot), 'c');
-  SnryMain.charMotions[511].figures[0] = 0x0102;
-  SnryMain.charMotions[511].figures[19] = 7;
+  World.WorldCharas[511].figureIds[0] = 0x0102;
+  World.WorldCharas[511].figureIds[19] = 7;
+  SnryMain.charMotions[511].figures[0] = 3;  // of the last edit of a scene
   SnryLineAt(25599).used = 1;
   SnryCastReset();
   const SnryCastRec& cast = SnryCastAt(511);
@@ -287,6 +288,21 @@ TEST_F(SnryTablesTest, TheWorldGivesTheCharactersTheirNamesAndFigures) {
   EXPECT_STREQ(SnryMain.charaNames[2].text, "前の人");
   SnryFiguresTake();
   EXPECT_EQ(SnryMain.charMotions[1].figures[3], 5);
+}
+
+TEST_F(SnryTablesTest, ANameThatTheWorldDoesNotGiveStays) {
+  MakeFolder("C:\\mirrell\\キャラクタ");
+  PutFile("C:\\mirrell\\キャラクタ\\EDTCFLAG.edf", std::string(4, '\0') + Big32(2) + Big32(0));
+  std::string data(2 * 1520 - 1, '\0');
+  At(data, 1, "ミル");
+  for (int i = 0; i < 2; ++i) TextCopy(SnryMain.charaNames[i].text, 65, "前の人");
+  SnryWorldLoad();
+  EXPECT_EQ(SnryMain.charaCount, 2);
+  EXPECT_STREQ(SnryMain.charaNames[0].text, "前の人") << "the second file is missing";
+  PutFile("C:\\mirrell\\キャラクタ\\EDTCDATA.edf", data);
+  SnryWorldLoad();
+  EXPECT_STREQ(SnryMain.charaNames[0].text, "ミル");
+  EXPECT_STREQ(SnryMain.charaNames[1].text, "前の人") << "its record is short";
 }
 
 TEST_F(SnryTablesTest, WithoutTheWorldsFilesTheNamesOfTheMainFileStay) {

@@ -443,7 +443,8 @@ TEST_F(PlanWindow, WhileAnEditorOrTheSheetIsUpNoSecondOneOpens) {
     const WindowHandle top = TopDialog();
     for (const Command command :
          {Command::PlanStart, Command::PlanIntervals, Command::PlanDayHours, Command::PlanRests,
-          Command::PlanConvert, Command::PlanLoad, Command::PlanSave, Command::PlanRecovery}) {
+          Command::PlanConvert, Command::PlanLoad, Command::PlanSave, Command::PlanRecovery,
+          Command::ScheduleStatus, Command::BackUpFiles}) {
       CommandSend(command);
       EXPECT_EQ(TopDialog(), top);
     }

@@ -1,4 +1,6 @@
 #include "resources/schedule_rates_ids.h"
+#include "services/commands.h"
+#include "services/modal.h"
 #include "tests/schedule/rates/rates_fixture.h"
 
 namespace {
@@ -106,6 +108,47 @@ TEST_F(SclRatesTest, TheKeyOfTheMapShowsAnEmptyMapWithoutFiles) {
   });
   Then([] { PressClose(TopDialog()); });
   SclSucsPerAndMapDlgRun(Program.hMainWnd);
+}
+
+// --- Commands from outside
+
+constexpr Command kRatesCommands[] = {Command::ScheduleRates, Command::ScheduleMap, Command::ScheduleStatus};
+
+// Nothing opens over the dialog that is up, neither of the rates nor of another feature.
+void ExpectNothingOpens() {
+  const WindowHandle top = TopDialog();
+  EXPECT_TRUE(ModalIsUp());
+  for (const Command command : kRatesCommands) CommandSend(command);
+  for (const Command command : {Command::ScheduleLoad, Command::BackUpFiles, Command::ScheduleNew}) {
+    CommandSend(command);
+  }
+  EXPECT_EQ(TopDialog(), top);
+}
+
+TEST_F(SclRatesTest, WhileADialogOfTheRatesIsUpNoOtherOpens) {
+  for (const Command command : kRatesCommands) {
+    Then([] {
+      ExpectNothingOpens();
+      PressEscape(TopDialog());
+    });
+    CommandSend(command);
+    EXPECT_FALSE(ModalIsUp());
+  }
+}
+
+TEST_F(SclRatesTest, WhileTheMapIsUpNothingElseOpensAndBehindItTheRatesStillKeepTheOthersClosed) {
+  Then([] { Press(TopDialog(), IDC_RATE_MAP); });
+  Then([] {
+    ExpectNothingOpens();
+    PressEscape(TopDialog());
+  });
+  Then([] {
+    EXPECT_EQ(TemplateOf(TopDialog()), IDD_SclSucsPerAndMapDlg);
+    ExpectNothingOpens();
+    Press(TopDialog(), kOkButton);
+  });
+  CommandSend(Command::ScheduleRates);
+  EXPECT_FALSE(ModalIsUp());
 }
 
 }  // namespace

@@ -1,4 +1,4 @@
-#include "scenario/looks/table_colours.h"
+#include "scenario/storage/table_colours.h"
 
 #include <algorithm>
 #include <iterator>
@@ -30,7 +30,8 @@ constexpr Scheme kUser{kWhite, kWhite, kGrey, kDeepBlue, kDeepBlue};
 constexpr Scheme kSchemes[] = {
     {kWhite, kWhite, kBlue, kBlack, kBlack},
     {kBlack, kBlue, {0, 200, 200}, kGrey, kGrey},
-    // kept: only the first back of the third scheme is blue, the others are grey.
+    // kept: only the first back of the third colour scheme of the table form is blue, the others
+    // are grey.
     {kWhite, kWhite, kGrey, kDeepBlue, kGrey},
     kUser,
     kUser,
