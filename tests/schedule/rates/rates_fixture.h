@@ -102,7 +102,7 @@ class RatesTest : public ProgramTest {
     PutFile("C:\\mirrell\\apps\\study_1_1.sef", SefBytes(places));
     PutFile("C:\\mirrell\\apps\\study.wef", WefBytes("map.bmp"));
     MakePictures();
-    TextCopy(Schedule.SclMapFile, sizeof Schedule.SclMapFile, "C:\\mirrell\\apps\\study.exe");
+    SclMapFileSet("C:\\mirrell\\apps\\study.exe");
     SclMapRead();
     ASSERT_TRUE(SclMap.read);
   }
