@@ -34,6 +34,12 @@ constexpr Door kDoors[] = {
     {L"場面ファイル設定", L"シナリオフォルダー設定", IDC_SNRY_SCENE_SET, IDC_SNRY_SCENES},
     {L"場面起動条件", L"場面ファイル設定", IDC_SNRY_SCENE_START},
     {L"場面進行方法設定", L"場面ファイル設定", IDC_SNRY_SCENE_ADVANCE},
+    {L"登場キャラクター追加", L"場面ファイル設定", IDC_SNRY_CAST_ADD},
+    {L"コピーの作成", L"場面ファイル設定", IDC_SNRY_CAST_COPY, IDC_SNRY_CAST},
+    {L"キャラクター台詞設定", L"場面ファイル設定", IDC_SNRY_CAST_LINES, IDC_SNRY_CAST},
+    {L"キャラクター動作設定", L"場面ファイル設定", IDC_SNRY_CAST_MOTIONS, IDC_SNRY_CAST},
+    {L"キャラクター登場/退場", L"場面ファイル設定", IDC_SNRY_CAST_ENTRY, IDC_SNRY_CAST},
+    {L"キー、マウス割付", L"場面ファイル設定", IDC_SNRY_SCENE_KEYS},
 };
 
 constexpr DWORD kDrawn = 250;  // milliseconds in which a dialog that has come is drawn
