@@ -12,6 +12,7 @@
 #include "newdata/host_file.h"
 #include "newdata/picture_files.h"
 #include "newdata/plan_samples.h"
+#include "newdata/sample_map.h"
 #include "newdata/sample_scenario.h"
 #include "newdata/tables.h"
 #include "newdata/world_list_file.h"
@@ -137,6 +138,7 @@ void MakeDataSet(const std::filesystem::path& folder, const std::filesystem::pat
   std::filesystem::create_directories(backgrounds);
   WriteBackgrounds(assets / "backgrounds", backgrounds);
   WriteSampleScenario(std::filesystem::absolute(folder), assets);
+  WriteSampleMap(folder, assets);
   UseProgramFolder(folder);
   WriteDataFiles(date);
 }

@@ -13,8 +13,8 @@ struct DataSetDate {
 
 // Makes the whole data set in `folder`, which is made if it is not there. Files
 // of an older set are replaced. `assets` holds the folders "characters",
-// "backgrounds" and "sounds"; the calendars begin with the year of `date`. The same assets and date
-// give the same files. Throws std::runtime_error that says what went wrong.
+// "backgrounds", "map", "scenario" and "sounds"; the calendars begin with the year of `date`. The same assets
+// and date give the same files. Throws std::runtime_error that says what went wrong.
 void MakeDataSet(const std::filesystem::path& folder, const std::filesystem::path& assets,
                  const DataSetDate& date);
 

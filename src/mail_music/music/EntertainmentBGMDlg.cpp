@@ -62,7 +62,7 @@ void LeftDouble(const Event& event) {
   if (place.hit == TableHit::Content) BgmFileRun(event.window, place.row - 1);
   if (place.hit == TableHit::Hours) BGMRsvTimeSetDlgRun(event.window);
   // kept: the title of the music table is the schedule's.
-  if (place.hit == TableHit::Title) SCLTitleDlgRun(ToolDialog::SCLTitleDlg, event.window);
+  if (place.hit == TableHit::Title) SCLTitleDlgRun(ToolDialog::SCLTitleDlgSecond, event.window);
   SendPaint(event.window);
 }
 

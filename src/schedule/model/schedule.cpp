@@ -99,6 +99,10 @@ void SclConvertedSet(bool converted) {
   Schedule.SclConverted = converted;
 }
 
+void SclMapFileSet(const char* path) {
+  TextCopy(Schedule.SclMapFile, sizeof Schedule.SclMapFile, path);
+}
+
 void SclMapPlaceSet(int index, int column, int row) {
   Schedule.SclMapColumn[Held(index)] = static_cast<std::uint16_t>(column);
   Schedule.SclMapRow[Held(index)] = static_cast<std::uint16_t>(row);

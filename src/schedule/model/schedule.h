@@ -86,6 +86,7 @@ void SclCurrentFileSet(const char* path);
 void SclDirtyRaise(unsigned bits);
 void SclDirtyClear(unsigned bits);
 void SclConvertedSet(bool converted);
+void SclMapFileSet(const char* path);
 void SclMapPlaceSet(int index, int column, int row);
 
 // --- A plan becomes the schedule on display
