@@ -20,7 +20,8 @@
 #include "platform/window.h"
 #include "resources/character_ids.h"
 #include "resources/clock_calendar_ids.h"
-#include "schedule/execution/scl_notice.h"
+#include "schedule/execution/scl_alarm.h"
+#include "schedule/model/scl_dates.h"
 #include "schedule/table/table_scroll.h"
 #include "services/program.h"
 #include "services/text.h"
@@ -40,10 +41,13 @@ void FillMail() {
 }
 
 void FillSchedule() {
-  const SclDate morning{Today.TodayYear, Today.TodayMonth, Today.TodayDay, 9};
-  const SclDate noon{Today.TodayYear, Today.TodayMonth, Today.TodayDay, 12};
-  Notices.SclNotice = {true, morning, noon, 30, 0, 8, 18, {}};
-  TextCopy(Notices.SclNotice.text, sizeof Notices.SclNotice.text,
+  SclItemRec& item = Schedule.SclExecTable.items[0];
+  item.start = SclItemDateOf({Today.TodayYear, Today.TodayMonth, Today.TodayDay, 9});
+  item.end = SclItemDateOf({Today.TodayYear, Today.TodayMonth, Today.TodayDay, 12});
+  item.mirrorStart.minute = 30;
+  SclAlarm.row = {10, 8, 18};
+  SclAlarm.announce = 1;
+  TextCopy(item.text, sizeof item.text,
            "会議の資料を三部印刷し、二階の会議室へ運ぶ。Projectorの電源と、お茶の用意も忘れずに。");
 }
 

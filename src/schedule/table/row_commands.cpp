@@ -3,7 +3,6 @@
 #include <algorithm>
 
 #include "platform/window.h"
-#include "schedule/table/schedule_table.h"
 #include "services/boxes.h"
 #include "services/modal.h"
 #include "services/text.h"

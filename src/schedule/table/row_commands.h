@@ -17,6 +17,9 @@ struct RowTable {
   void (*recalculate)();  // after a deletion; null for nothing
 };
 
+// The rows of the schedule on display.
+const RowTable& SclRowTable();
+
 // The window whose rows the commands act on: the one that was clicked last, else the
 // schedule table, else the plan chart; null when neither is open.
 WindowHandle RowWindow();

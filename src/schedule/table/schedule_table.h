@@ -5,9 +5,6 @@
 #include "schedule/table/row_commands.h"
 #include "schedule/table/table_layout.h"
 
-// The rows of the schedule on display.
-const RowTable& SclRowTable();
-
 // Opens the window unless it is open; an open one is drawn anew, with no row chosen.
 void ScheduleTableOpen();
 
