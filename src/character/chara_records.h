@@ -133,7 +133,7 @@ struct MainChara {
   std::int32_t boredSpeedSel;
   std::int32_t boredRepeatSel;
   std::int32_t blinkSpeedSel;
-  std::int32_t secondNumber;  // read and kept, no effect
+  std::int32_t secondNumber;  // kept: the second number of a main character has no effect
   CharaSetRecord charaSet;
 };
 

@@ -32,7 +32,7 @@ void CommandDropPopup(Command) {
   MenuPopupEnd();
 }
 
-// The bats' switch is set by nothing, so there is nothing to open.
+// kept: the commands of two flapping bats are known and open nothing.
 void CommandBat(Command) {}
 
 namespace {

@@ -157,7 +157,7 @@ struct CalendarState {
   std::int32_t CalenCount = 0;
   char CalenNames[kCalenMax][kCalenNameSize] = {};
   unsigned char CalenKinds[kCalenMax] = {};     // CalenPageKind
-  unsigned char CalenParts[kCalenMax] = {};     // stored and read, no other use
+  unsigned char CalenParts[kCalenMax] = {};     // kept: a byte of each calendar is used by nothing
   unsigned char CalenPictures[kCalenMax] = {};  // picture switch
   CalenMonth CalenSheets[kCalenMax][kMonthsOfYear] = {};
   CalenMonthChoices CalenSheetFlags[kCalenMax][kMonthsOfYear] = {};
@@ -185,6 +185,7 @@ struct CalendarState {
   std::int32_t CalenFigPos2[kFigureCopies][2] = {};
   std::int32_t CalenFigPeriod[kFigureCount] = {};
   std::int32_t CalenFigStep[kFigureCount] = {};
+  // kept: nothing but a settings file makes a moving figure turn back at an edge.
   std::int32_t CalenFigTurn[kFigureCount] = {};
   unsigned char CalenFigDir[kFigureCount][kFigureCopies] = {};
   // The size of the calendar's page, for the layout of the windows.

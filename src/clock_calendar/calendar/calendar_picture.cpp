@@ -7,6 +7,7 @@
 #include "character/frames.h"
 #include "clock_calendar/calendar/calendar.h"
 #include "clock_calendar/calendar/calendar_window.h"
+#include "services/path.h"
 #include "services/program.h"
 #include "services/text.h"
 
@@ -80,8 +81,7 @@ void CalenBackgroundLoad(CalendarPicturesState& to, const CalenMonthPicture& mon
   TextCopy(name, sizeof name, month.background);
   if (month.pictureOn == 0 || month.colourOnly != 0 || name[0] == '\0') return;
   char path[kRootPathSize + kMonthBackgroundSize] = "";
-  const bool fullPath = name[0] == '\\' || name[1] == ':';
-  if (!fullPath) RootPath(path, sizeof path, "\\背景\\");
+  if (!PathIsFull(name)) RootPath(path, sizeof path, "\\背景\\");
   TextAppend(path, sizeof path, name);
   to.CalenBackground = DibLoad(path);
 }

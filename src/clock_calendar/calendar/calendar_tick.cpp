@@ -82,7 +82,7 @@ void CalenPrepareMonth() {
 
 int CalenTickCheck() {
   const LocalTime& now = Today.SharedTime;
-  const SclDate today = {now.year - 2000, now.month - 1, now.day - 1, now.hour};
+  const SclDate today = SclDateOf(now);
   const bool otherMonth = today.year != Today.TodayYear || today.month != Today.TodayMonth;
   const bool otherDay = otherMonth || today.day != Today.TodayDay;
   TodaySet(now);

@@ -155,7 +155,7 @@ struct ClockState {
   std::int32_t ClockDesign = kClockNone;      // place in ClockDesigns, kClockNone for none
   std::int32_t ClockX = 0;
   std::int32_t ClockY = 0;
-  // Kept in the file and used by nothing.
+  // kept: three numbers of the clock in the settings file are used by nothing.
   std::int32_t ClockReserved[kClockReservedCount] = {};
   // What the dialogs want to be shown; ClockActivate makes the design the current
   // one.

@@ -16,8 +16,8 @@ int ClockAlarmCheck(int hour, int minute) {
   Clock.comparedMinute = minute;
   for (int slot = 0; slot < kAlarmSlotCount; ++slot) {
     const AlarmSlot& alarm = Clock.ClockEvents[slot];
-    // kept: an alarm that has fired is passed over until another one has fired, so of two
-    // alarms at one time each has every second day.
+    // kept: an alarm that has fired is passed over until another one has fired or the alarms
+    // are set anew, so of two alarms at one time each has every second day.
     if (alarm.enabled == 0 || slot == Clock.firedLast || alarm.hour != hour || alarm.minute != minute)
       continue;
     Clock.firedLast = slot;

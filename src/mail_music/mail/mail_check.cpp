@@ -66,6 +66,7 @@ void Converse() {
 
 }  // namespace
 
+// kept: mail that is still there is announced anew by every check.
 void MailCheck() {
   if (Mail.mailStopped || !MailTalkHasRoom()) return;
   const int reason = MailTalkBegin();

@@ -29,7 +29,7 @@ inline constexpr int kMailSoundSize = 300;
 //    783   300  soundName
 struct MailSettingRec {
   std::int32_t enabled;
-  std::int32_t reserved;
+  std::int32_t reserved;  // kept: a number of the mail's settings is used by nothing
   std::int32_t intervalIndex;
   char server[kMailServerSize];
   char userName[kMailAccountMax][kMailAccountSize];

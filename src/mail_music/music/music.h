@@ -22,7 +22,7 @@ struct BgmRow {
   std::uint8_t enabled;
   std::int32_t hour;
   std::int32_t minute;
-  std::int32_t reserved;
+  std::int32_t reserved;  // kept: a number of each music row is used by nothing
   char filePath[kBgmPathSize];
 };
 

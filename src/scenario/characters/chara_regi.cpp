@@ -19,12 +19,8 @@ void SetChanged() {
 }  // namespace
 
 void CharaRegiRowText(int chara, char* text, int size) {
-  const auto room = static_cast<std::size_t>(size);
-  TextFormat(text, room, "%d. %s", chara + 1, SnryMain.charaNames[chara].text);
-  if (!SnryCharaIsRegistered(chara + 1)) return;
-  TextAppend(text, room, " [登場名: ");
-  TextAppend(text, room, SnryMain.castNames[chara].text);
-  TextAppend(text, room, "]");
+  if (SnryCharaIsRegistered(chara + 1)) return SnryCharaText(chara + 1, chara + 1, text, size);
+  TextFormat(text, static_cast<std::size_t>(size), "%d. %s", chara + 1, SnryMain.charaNames[chara].text);
 }
 
 void CharaRegister(int chara, const SnryNameRec& castName) {
@@ -39,7 +35,7 @@ void CharaRegister(int chara, const SnryNameRec& castName) {
 
 void CharaUnregister(int chara) {
   if (!IsChara(chara)) return;
-  SnryMain.registered[chara] = 0;  // kept: the cast name of a character stays behind its registration
+  SnryMain.registered[chara] = 0;  // kept: a character that is taken out keeps its cast name
   // kept: the number of registered characters falls only when it happens to be one more
   // than the slot of the parameter chosen last. It is no number of registered characters
   // but how many of them a scene can choose from.

@@ -104,6 +104,7 @@ bool DeleteSound(WindowHandle, int row) {
   return true;
 }
 
+// kept: a sound too many is left out in silence.
 constexpr ListDeed kAdd{.may = [] { return FreeSlot() >= 0; },
                         .question = {"サウンドを追加します", "サウンドの追加"},
                         .act = AddSound};

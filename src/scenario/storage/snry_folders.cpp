@@ -36,6 +36,7 @@ void MoveUp(T* table, int from, int count) {
 
 }  // namespace
 
+// kept: a scenario folder too many, or one that the list has already, is left out in silence.
 bool SnryFolderAdd(const char* path) {
   const int count = SnryMain.folderCount;
   if (count >= kSnryFolderMax) return false;

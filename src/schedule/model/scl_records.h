@@ -139,6 +139,7 @@ constexpr void Fields(Io& io, SclMirrorDate& date) {
 //     27     1  reserved3
 //     28     4  mirrorHours
 //     32   128  text
+// kept: nothing sets the fixed end of an item or its display in days; a file may bring them.
 struct SclItemRec {
   std::uint8_t alarmOn;
   std::uint8_t endFixed;

@@ -1,5 +1,6 @@
-// BupSclDir.bsd of the program folder: two folders that are kept there and used by nothing
-// here.
+// BupSclDir.bsd of the program folder.
+//
+// kept: the two folders of BupSclDir.bsd are used by nothing.
 #pragma once
 
 #include "services/record.h"
