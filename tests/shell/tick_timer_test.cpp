@@ -234,12 +234,12 @@ TEST_F(TickTimerTest, AnOpenNoticeIsDueAtItsNextPicture) {
   }
 }
 
-// Its next day begins with a minute.
-TEST_F(TickTimerTest, AStillCalendarIsDueAtTheNextMinute) {
+// At half past nine 14 hours, 29 minutes and 45 seconds are left of the day.
+TEST_F(TickTimerTest, AStillCalendarIsDueAtMidnight) {
   Calendar.hCalenWnd = OpenListener();
   Calendar.CalenTickerOn = false;
   TestClockSet({2026, 11, 21, 6, 9, 30, 15, 0});
-  EXPECT_EQ(CalenWindowDue(), 45000 / 30);
+  EXPECT_EQ(CalenWindowDue(), 52185000 / 30);
   TestClockSet({2026, 11, 21, 6, 23, 59, 59, 940});
   EXPECT_EQ(CalenWindowDue(), 2) << "60 milliseconds";
   Calendar.CalenTickerOn = true;
