@@ -123,7 +123,7 @@ TEST_F(RatesTest, TheSampleShowsItsRatesAndTheMarksOfItsLines) {
 TEST_F(RatesTest, AMarkComesWhenAllLinesOfAPlaceAreDoneAndGoesWithAnOpenOne) {
   HWND dialog = OpenForRow(7, kStatuses, L"予定表 ステータス設定");
   ASSERT_TRUE(dialog);
-  EXPECT_EQ(ListRowText(dialog, IDC_STATUS_LIST, 1), L"番号=  2    : とりかかり中");
+  EXPECT_EQ(ListRowText(dialog, IDC_STATUS_LIST, 1), L"番号=  2    : 途中");
   SelectListRow(dialog, IDC_STATUS_LIST, 0);
   ASSERT_TRUE(EndBy(dialog, IDOK));
   OpenMap();
