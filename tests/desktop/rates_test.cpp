@@ -140,7 +140,6 @@ TEST_F(RatesTest, AMarkComesWhenAllLinesOfAPlaceAreDoneAndGoesWithAnOpenOne) {
   EXPECT_NE(SignPixel(kDone, 7, 3), kDone.colour);
   CloseMap();
   PostMessageW(window_, WM_CLOSE, 0, 0);
-  EXPECT_EQ(AnswerBox(companion_, L"スケジュールのセーブ確認", IDCANCEL),
-            L"スケジュールが変更されています。セーブしますか?");
-  EXPECT_TRUE(WaitFor([&] { return companion_.FindDialog(kTitle) == nullptr; }));
+  EXPECT_TRUE(WaitFor([&] { return companion_.FindDialog(kTitle) == nullptr; }))
+      << "edits of lines ask nothing";
 }
