@@ -28,11 +28,15 @@
 #include "scenario/storage/snry_paths.h"
 #include "scenario/storage/snry_scene_file.h"
 #include "scenario/storage/snry_tables.h"
+#include "schedule/applications/application_list.h"
+#include "schedule/execution/schedule_run.h"
+#include "schedule/execution/scl_alarm.h"
 #include "schedule/model/schedule.h"
 #include "schedule/model/scl_file.h"
 #include "schedule/plan/plan.h"
 #include "schedule/plan/plan_file.h"
 #include "schedule/rates/scl_map.h"
+#include "services/data_file.h"
 #include "services/program.h"
 #include "services/state.h"
 #include "services/text.h"
@@ -157,6 +161,43 @@ TEST_F(DataSetTest, HoldsAScheduleThatBeginsOnItsDate) {
   EXPECT_EQ(items[1].end, (SclItemDate{26, 10, 20, 12}));
   EXPECT_STREQ(items[11].text, "来月の予定を立てる");
   EXPECT_EQ(items[12].hours, 0U);
+}
+
+// As the start does: the list of applications, then the schedule that it names.
+void StartExecution(const fs::path& folder) {
+  UseProgramFolder(folder);
+  StateReset(Schedule);
+  ASSERT_EQ(ApliListRead(), 0);
+  EXPECT_EQ(FileResult.FileStatus, 0);
+  SclExecutionLoad();
+}
+
+TEST_F(DataSetTest, CarriesItsScheduleOutWhereverItsFolderStands) {
+  const fs::path made = TestFolder("running");
+  const fs::path moved = TestFolder("moved");
+  MakeDataSet(made, MIRRELL_ASSETS_DIR, kDate);
+  RunSampleSchedule(made);
+  EXPECT_EQ(CheckDataSet(made), std::vector<std::string>{});
+  fs::rename(made, moved);
+  StartExecution(moved);
+  EXPECT_TRUE(Schedule.SclExecActive);
+  EXPECT_TRUE(SclIsRunning());
+  EXPECT_EQ(Schedule.SclExecMark, SclMark::Running);
+  EXPECT_STREQ(Schedule.SclExecTable.title, "見本の予定");
+  EXPECT_STREQ(Schedule.SclExecFile,
+               PosixToProgram((moved / kScheduleFolder / u8"見本の予定.GPI").string()).c_str());
+  EXPECT_STREQ(ApliPath(0),
+               PosixToProgram((moved / kScheduleFolder / u8"予定表 千里万象.exe").string()).c_str());
+  // On its first day, 21 November 2026, its second line is from 10 to 12.
+  const LocalTime ten{2026, 11, 21, 6, 10, 0, 0, 0};
+  SclAlarmsForget();
+  EXPECT_EQ(SclTickCheck(ten), 1);
+  EXPECT_EQ(SclAlarm.announce, 2);
+  SclAlarmsForget();
+  StateReset(Schedule);
+  ApliListFree();
+  StateReset(Applications);
+  fs::remove_all(moved);
 }
 
 // The tables and the cast of a scenario, read as the program does.
@@ -434,6 +475,19 @@ TEST_F(DataSetTest, EveryMonthOfEveryCalendarHasItsPicture) {
 TEST_F(DataSetTest, CheckFindsAMissingBackground) {
   Remove(Made("") / u8"背景" / u8"春.bmp");
   EXPECT_TRUE(HasFault(Cp932ToUtf8("calendar 1, month 3: the background 春.bmp is not there")));
+}
+
+// The day page of the third calendar writes with the figures of character 23.
+TEST_F(DataSetTest, CheckFindsAMissingDigit) {
+  Remove(MadePicture("Chara23_5.bmp"));
+  EXPECT_TRUE(HasFault("calendar 3, digit: character 23 has no frame 5"));
+}
+
+TEST_F(DataSetTest, CheckFindsASpoiltMaskOfADigit) {
+  Spoil(MadePicture("Chara23_5x.bmp"), 54, 1);
+  const std::vector<std::string> faults = CheckDataSet(Made(""));
+  ASSERT_EQ(faults.size(), 1U);
+  EXPECT_EQ(faults[0].rfind("character 23 frame 5: the mask is neither black nor white at ", 0), 0U);
 }
 
 TEST_F(DataSetTest, ClockAlarmFileHoldsThreePerformances) {

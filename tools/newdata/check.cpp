@@ -292,8 +292,22 @@ class Checker {
     Demand(background.empty() || std::filesystem::is_regular_file(folder_ / kBackgroundFolder / background),
            name + ": the background " + background + " is not there");
     for (int place = 0; place < kDefinitionPlaces; ++place) {
-      if (definition.charas[month][place] != 0)
-        DemandFrame(definition.charas[month][place], definition.figures[month][place], name);
+      const int chara = definition.charas[month][place];
+      if (chara == 0) continue;
+      DemandFrame(chara, definition.figures[month][place], name);
+      calendarCharas_.insert(chara);
+    }
+  }
+
+  // The digits of a page that writes with figures.
+  void CheckDigits(const CalenDefinition& definition, const std::string& name) {
+    constexpr int kDesignOfFigures = 2;
+    constexpr int kDigits = 10;
+    if (definition.design < kDesignOfFigures) return;
+    for (const int chara : {definition.figureSet1, definition.figureSet2}) {
+      if (chara == 0) continue;
+      for (int digit = 0; digit < kDigits; ++digit) DemandFrame(chara, digit, name + ", digit");
+      calendarCharas_.insert(chara);
     }
   }
 
@@ -305,6 +319,7 @@ class Checker {
       Demand(Calendar.CalenNames[i][0] != '\0', name + ": no name");
       Demand(Calendar.CalenDefinitions[i].valid == 1, name + ": not valid");
       Demand(Calendar.CalenDefinitions[i].ruleKinds[0] != 0, name + ": no holiday rules");
+      CheckDigits(Calendar.CalenDefinitions[i], name);
       for (int month = 0; month < kMonthsOfYear; ++month) {
         const CalenMonth& block = Calendar.CalenSheets[i][month];
         Demand(block.days == SclDaysInMonth(Calendar.CalenFirstYear, month) &&
@@ -314,6 +329,7 @@ class Checker {
                           name + ", month " + std::to_string(month + 1));
       }
     }
+    for (const int chara : calendarCharas_) CheckCharacter(chara, nullptr);
   }
 
   // The user's and the samples.
@@ -383,6 +399,7 @@ class Checker {
 
   std::filesystem::path folder_;
   std::set<std::string> sounds_;
+  std::set<int> calendarCharas_;
   std::vector<std::string> faults_;
 };
 

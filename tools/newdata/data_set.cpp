@@ -18,6 +18,7 @@
 #include "newdata/world_list_file.h"
 #include "platform/posix/posix_paths.h"
 #include "platform/posix/test_clock.h"
+#include "schedule/applications/application_list.h"
 #include "schedule/model/scl_file.h"
 #include "services/data_file.h"
 #include "services/program.h"
@@ -67,10 +68,12 @@ void StillFigures() {
         Calendar.CalenFigPeriod, Calendar.CalenFigStep, Calendar.CalenFigTurn, Calendar.CalenFigDir);
 }
 
+constexpr char kSampleSchedule[] = "\\スケジュール表\\見本の予定.GPI";
+
 // The samples that a user finds when a file is to be loaded.
 void WriteSamples(const DataSetDate& date) {
   char path[kRootPathSize];
-  RootPath(path, sizeof path, "\\スケジュール表\\見本の予定.GPI");
+  RootPath(path, sizeof path, kSampleSchedule);
   FillSchedule(date.year, date.month, date.day);
   Demand(SclSaveFile(path), "見本の予定.GPI");
 }
@@ -105,6 +108,18 @@ void UseProgramFolder(const std::filesystem::path& folder) {
   TextCopy(Program.RootFolder, kRootSize, path.c_str());
   // A folder that is written with a slash at its end.
   if (path.size() > 3 && path.back() == '\\') Program.RootFolder[path.size() - 1] = '\0';
+}
+
+// Whatever carries a schedule out is in the list of applications; its paths lie below the
+// program folder, wherever that is going to stand.
+void RunSampleSchedule(const std::filesystem::path& folder) {
+  UseProgramFolder(folder);
+  ApliListFree();
+  Applications = {};
+  Demand(ApliListSetFirst("スケジュール表\\予定表 千里万象.exe"), "mirrell_apli_list_file.ali");
+  Applications.ApliSelected = 1;
+  TextCopy(Applications.ApliSchedule.path, kApliPathSize, kSampleSchedule + 1);
+  Demand(ApliListSave(), "mirrell_apli_list_file.ali");
 }
 
 void MakeDataSet(const std::filesystem::path& folder, const std::filesystem::path& assets,

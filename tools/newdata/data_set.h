@@ -18,6 +18,10 @@ struct DataSetDate {
 void MakeDataSet(const std::filesystem::path& folder, const std::filesystem::path& assets,
                  const DataSetDate& date);
 
+// Has the companion of a data set carry out its sample schedule, with its alarms, from the
+// next start on; its own list of applications begins anew. Throws std::runtime_error.
+void RunSampleSchedule(const std::filesystem::path& folder);
+
 // Reads the data set of a folder back as the program does, and returns what is
 // wrong with it, one line for each fault; nothing for a good set.
 std::vector<std::string> CheckDataSet(const std::filesystem::path& folder);

@@ -30,7 +30,7 @@ void Fit(WindowHandle dialog) {
 void Open(WindowHandle dialog) {
   Music.hBgmWnd = dialog;
   Music.view = {};
-  RowGuestSet(dialog, &SclRowTable());
+  RowGuestSet(dialog);
   RowsForget();
   Fit(dialog);
   TableFocus(dialog, Music.view, kBar);
@@ -89,7 +89,7 @@ void Close(WindowHandle dialog) {
 void Gone() {
   Music.hBgmWnd = nullptr;
   Music.view = {};
-  RowGuestSet(nullptr, nullptr);
+  RowGuestSet(nullptr);
   if (PanelFeature() == Feature::MusicTable) PanelEntryDone();
 }
 

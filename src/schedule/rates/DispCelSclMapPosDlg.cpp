@@ -20,10 +20,6 @@ constexpr int kBand = 60;  // pixels for the button below the map
 constexpr Colour kChosenColour = MakeColour(255, 0, 0);
 constexpr int kChosenWidth = 3;
 
-Colour ColourOf(const std::uint8_t (&rgb)[3]) {
-  return MakeColour(rgb[0], rgb[1], rgb[2]);
-}
-
 Rect MapArea(WindowHandle dialog) {
   const Rect client = WindowClientRect(dialog);
   return {0, 0, client.right, std::max(client.bottom - kBand, 0)};

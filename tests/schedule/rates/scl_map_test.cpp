@@ -52,7 +52,7 @@ TEST_F(SclMapTest, AScheduleOfNoApplicationHasNoTables) {
 }
 
 TEST_F(SclMapTest, FilesThatCannotBeReadLeaveTheTablesEmpty) {
-  SclMapFileSet("C:\\mirrell\\apps\\gone.exe");
+  TextCopy(Schedule.SclMapFile, sizeof Schedule.SclMapFile, "C:\\mirrell\\apps\\gone.exe");
   SclMapRead();
   EXPECT_EQ(StatusName(1), "済み");
   EXPECT_EQ(StatusName(5), "");
