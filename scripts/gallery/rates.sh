@@ -26,12 +26,13 @@ shot SclSucsPerAndMapDlg "$rates"
 press "$rates" 2343
 shot DispCelSclMapPosDlg "$map"
 button=($(hand part "$map" 2))
-xdotool mousemove $((button[0] - 668 + 44)) $((button[1] - 496 + 138)) click 1
+xdotool mousemove $((button[0] - 668 + 396)) $((button[1] - 496 + 138)) click 1
 sleep 0.3
 dialog DispCelSclMapPosDlg_chosen "$map" 2
 leave "$rates" 1
 
-python3 scripts/gallery/schedule_file.py "$program/先月の予定.GPI" 31 30
+# The picker stays in the folder of schedules.
+python3 scripts/gallery/schedule_file.py "$program/スケジュール表/先月の予定.GPI" 31 30
 send 2021
 fill "$picker" 100 '先月の予定.GPI'
 leave "$picker" 1

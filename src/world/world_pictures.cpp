@@ -12,16 +12,6 @@ int PicturePath(char* buffer, int size, int chara, int frame, const char* mark) 
                     Program.RootFolder, chara, frame, mark);
 }
 
-void Load(ImageHandle& picture, ImageHandle& mask, int chara) {
-  char path[kRootPathSize];
-  WorldPicturePath(path, sizeof path, chara, 1);
-  picture = DibLoad(path);
-  if (!picture) return;
-  WorldMaskPath(path, sizeof path, chara, 1);
-  mask = DibLoad(path);
-  DibApplyMask(picture, mask);
-}
-
 void Free(ImageHandle& image) {
   DibFree(image);
   image = nullptr;
@@ -37,12 +27,27 @@ int WorldMaskPath(char* buffer, int size, int chara, int frame) {
   return PicturePath(buffer, size, chara, frame, "x");
 }
 
+WorldPicture WorldPictureLoad(int chara, int frame) {
+  WorldPicture loaded{nullptr, nullptr};
+  char path[kRootPathSize];
+  WorldPicturePath(path, sizeof path, chara, frame);
+  loaded.picture = DibLoad(path);
+  if (!loaded.picture) return loaded;
+  WorldMaskPath(path, sizeof path, chara, frame);
+  loaded.mask = DibLoad(path);
+  DibApplyMask(loaded.picture, loaded.mask);
+  return loaded;
+}
+
 WorldPicture WorldPictureOf(int chara) {
   if (chara < 1 || chara > kWorldCharaMax) return {nullptr, nullptr};
-  ImageHandle& picture = WorldPictures.pictures[chara - 1];
-  ImageHandle& mask = WorldPictures.masks[chara - 1];
-  if (!picture) Load(picture, mask, chara);
-  return {picture, mask};
+  WorldPicture kept{WorldPictures.pictures[chara - 1], WorldPictures.masks[chara - 1]};
+  if (!kept.picture) {
+    kept = WorldPictureLoad(chara, 1);
+    WorldPictures.pictures[chara - 1] = kept.picture;
+    WorldPictures.masks[chara - 1] = kept.mask;
+  }
+  return kept;
 }
 
 void WorldPicturesFree() {

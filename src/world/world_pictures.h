@@ -21,6 +21,10 @@ struct WorldPicture {
   ImageHandle mask;
 };
 
+// Loads a frame of a character, both from 1, with its mask applied. Both pictures are the
+// caller's, who frees them.
+WorldPicture WorldPictureLoad(int chara, int frame);
+
 // Frame 1 of a character (from 1), its mask applied. The pictures stay this table's.
 WorldPicture WorldPictureOf(int chara);
 

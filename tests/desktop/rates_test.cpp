@@ -123,7 +123,7 @@ TEST_F(RatesTest, TheSampleShowsItsRatesAndTheMarksOfItsLines) {
 TEST_F(RatesTest, AMarkComesWhenAllLinesOfAPlaceAreDoneAndGoesWithAnOpenOne) {
   HWND dialog = OpenForRow(7, kStatuses, L"予定表 ステータス設定");
   ASSERT_TRUE(dialog);
-  EXPECT_EQ(ListRowText(dialog, IDC_STATUS_LIST, 1), L"番号=  2    : とりかかり中");
+  EXPECT_EQ(ListRowText(dialog, IDC_STATUS_LIST, 1), L"番号=  2    : 途中");
   SelectListRow(dialog, IDC_STATUS_LIST, 0);
   ASSERT_TRUE(EndBy(dialog, IDOK));
   OpenMap();
@@ -140,7 +140,6 @@ TEST_F(RatesTest, AMarkComesWhenAllLinesOfAPlaceAreDoneAndGoesWithAnOpenOne) {
   EXPECT_NE(SignPixel(kDone, 7, 3), kDone.colour);
   CloseMap();
   PostMessageW(window_, WM_CLOSE, 0, 0);
-  EXPECT_EQ(AnswerBox(companion_, L"スケジュールのセーブ確認", IDCANCEL),
-            L"スケジュールが変更されています。セーブしますか?");
-  EXPECT_TRUE(WaitFor([&] { return companion_.FindDialog(kTitle) == nullptr; }));
+  EXPECT_TRUE(WaitFor([&] { return companion_.FindDialog(kTitle) == nullptr; }))
+      << "edits of lines ask nothing";
 }

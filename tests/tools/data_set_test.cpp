@@ -289,8 +289,7 @@ TEST_F(DataSetTest, TheSampleScheduleHasAMapWithLinesInAllStates) {
                                             "; ";
       },
       &marks);
-  EXPECT_EQ(marks,
-            "5,2 できた; 8,1 とりかかり中; 4,4 とりかかり中; 2,2 あとまわし; 6,5 あとまわし; 9,4 できた; ");
+  EXPECT_EQ(marks, "5,2 できた; 8,1 途中; 4,4 途中; 2,2 後回し; 6,5 後回し; 9,4 できた; ");
   SclMapPicturesLoad();
   EXPECT_EQ(DibWidth(SclMap.picture), 800);
   EXPECT_EQ(DibHeight(SclMap.picture), 480);

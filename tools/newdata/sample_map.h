@@ -21,14 +21,13 @@ inline constexpr SampleSpot kSampleSpots[] = {
 };
 
 // What a line of the schedule can be: its code, and the frame of its mark, from 1. 1 is done
-// in all schedules.
+// in all schedules. The column of the table has room for three characters of a name.
 struct SampleStatus {
   int code;
   const char* name;
   int frame;
 };
-inline constexpr SampleStatus kSampleStatuses[] = {
-    {1, "できた", 1}, {2, "とりかかり中", 2}, {3, "あとまわし", 3}};
+inline constexpr SampleStatus kSampleStatuses[] = {{1, "できた", 1}, {2, "途中", 2}, {3, "後回し", 3}};
 
 // Makes the folder of the application in a program folder: its two edit files and its
 // picture. Throws std::runtime_error when a file cannot be written.

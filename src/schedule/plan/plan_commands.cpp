@@ -22,10 +22,7 @@
 
 namespace {
 
-constexpr const char* kCannotOpen = "ファイルを開けません";
-constexpr BoxWords kCannotLoad{kCannotOpen, "スケジュール表読み込みエラー"};
-constexpr BoxWords kBadFile{"データが正しく読み込めません", "スケジュール表読み込みエラー"};
-constexpr BoxWords kCannotSave{kCannotOpen, "セーブエラー"};
+constexpr BoxWords kCannotSave{"ファイルを開けません", "セーブエラー"};
 constexpr BoxWords kTableFull{"スケジュールの最大ライン数を超えました。",
                               "計画表からスケジュールへの変換エラー"};
 constexpr const char* kConvertCaption = "計画表からスケジュールへの変換準備";
@@ -78,8 +75,7 @@ void Load(WindowHandle owner) {
   const int status = ScpLoadFile(path);
   if (status == 0) PlanTitleShow();
   PlanWindowShow();
-  if (status == -1) BoxTell(owner, kCannotLoad);
-  if (status == -2) BoxTell(owner, kBadFile);
+  SclLoadTell(owner, status);
 }
 
 // --- Conversion

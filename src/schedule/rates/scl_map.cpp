@@ -104,12 +104,9 @@ bool HasMark(int index) {
 void MarkLoad(int type) {
   const SefObject* object = SefObjectAt(Sef.types.objects[type]);
   if (!object || object->chara < 1 || object->chara > kWorldCharaMax) return;
-  char path[kMapPathSize];
-  WorldPicturePath(path, sizeof path, static_cast<int>(object->chara), object->frame + 1);
-  SclMap.marks[type] = DibLoad(path);
-  WorldMaskPath(path, sizeof path, static_cast<int>(object->chara), object->frame + 1);
-  SclMap.masks[type] = DibLoad(path);
-  DibApplyMask(SclMap.marks[type], SclMap.masks[type]);
+  const WorldPicture loaded = WorldPictureLoad(static_cast<int>(object->chara), object->frame + 1);
+  SclMap.marks[type] = loaded.picture;
+  SclMap.masks[type] = loaded.mask;
 }
 
 }  // namespace
