@@ -29,6 +29,7 @@ struct Door {
 constexpr Door kDoors[] = {
     {.title = L"シナリオのロード", .command = Command::ScenarioLoad},
     {L"シナリオ設定", L"シナリオのロード", IDOK, IDC_SNRY_LIST},
+    {L"登場キャラクタ登録(キャスティング)", L"シナリオ設定", IDC_SNRY_CHARACTERS},
     {L"シナリオフォルダー設定", L"シナリオ設定", IDC_SNRY_FOLDER_SET, IDC_SNRY_FOLDERS},
     {L"場面ファイル設定", L"シナリオフォルダー設定", IDC_SNRY_SCENE_SET, IDC_SNRY_SCENES},
     {L"場面起動条件", L"場面ファイル設定", IDC_SNRY_SCENE_START},

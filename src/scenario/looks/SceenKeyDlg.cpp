@@ -6,6 +6,7 @@
 #include "resources/scenario_looks_ids.h"
 #include "scenario/logic/snry_cast_choice.h"
 #include "scenario/logic/snry_paras.h"
+#include "scenario/logic/snry_places.h"
 #include "scenario/looks/snry_looks.h"
 #include "services/dialog_acts.h"
 #include "services/dialog_family.h"
@@ -161,13 +162,9 @@ SnryPair PairOf(int place) {
   return {Key().parameters[place], Key().values[place]};
 }
 
-void PlaceText(int row, char* text, int size) {
-  TextFormat(text, static_cast<std::size_t>(size), "%d.%s", row + 1,
-             SnryParaName(Key().parameters[PlaceOf(row)]));
-}
-
-constexpr ListEditor kPlaces{IDC_KEY_PLACES, [] { return HasKey() ? SlotsUsed(Key().parameters) : 0; },
-                             PlaceText};
+constexpr ListEditor kPlaces{
+    IDC_KEY_PLACES, [] { return HasKey() ? SlotsUsed(Key().parameters) : 0; },
+    [](int row, char* text, int size) { SnryPlaceRowText(Key().parameters, row, text, size); }};
 
 void ShowPlace(WindowHandle dialog) {
   const int place = PlaceOf(ListEditorChosen(dialog, kPlaces));
