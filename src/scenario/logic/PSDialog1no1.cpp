@@ -166,7 +166,7 @@ void Delete(WindowHandle page) {
 
 bool TakeInto(WindowHandle page, int place) {
   if (place < 0) return false;
-  SnryPair pair{};
+  SnryPair pair{Parameters()[place], Values()[place]};
   FormTake(page, pair, ExchangePlace);
   Parameters()[place] = pair.parameter;
   Values()[place] = pair.value;

@@ -77,6 +77,11 @@ void ExchangePlace(Form& form, Place& place) {
   form.Choice(IDC_EVENT_OPERATION, place.operation, operations);
 }
 
+Place Get(int at) {
+  const SnryEventRec& event = TheEvent();
+  return {event.parameters[at], event.values[at], event.signs[at], event.operations[at]};
+}
+
 void Put(int at, const Place& place) {
   SnryEventRec& event = TheEvent();
   event.parameters[at] = place.parameter;
@@ -106,7 +111,7 @@ bool AddPlace(WindowHandle page, int) {
 template <const Rows& operations>
 bool ChangePlace(WindowHandle page, int row) {
   const int at = SlotOfRow(TheEvent().parameters, row);
-  Place place{};
+  Place place = Get(at);
   FormTake(page, place, ExchangePlace<operations>);
   Put(at, place);
   return true;
@@ -138,10 +143,9 @@ void Edit(WindowHandle page) {
 
 template <const Rows& operations>
 void PlaceChosen(WindowHandle page) {
-  const SnryEventRec& event = TheEvent();
-  const int at = SlotOfRow(event.parameters, ListEditorChosen(page, kPlaces));
+  const int at = SlotOfRow(TheEvent().parameters, ListEditorChosen(page, kPlaces));
   if (at < 0) return;
-  Place place{event.parameters[at], event.values[at], event.signs[at], event.operations[at]};
+  Place place = Get(at);
   FormShow(page, place, ExchangePlace<operations>);
 }
 

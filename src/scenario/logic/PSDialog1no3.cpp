@@ -73,9 +73,8 @@ Place Get(int at) {
           random.modes[at],      RandomEx().operations[at], RandomEx().others[at]};
 }
 
-bool TakeInto(WindowHandle page, int at) {
-  if (at < 0) return false;
-  Place place{};
+// `place` is what stays where a field has no row or was not touched.
+bool TakeInto(WindowHandle page, int at, Place place) {
   FormTake(page, place, ExchangePlace);
   SnryRandomRec& random = Random();
   random.parameters[at] = place.parameter;
@@ -103,13 +102,17 @@ bool DeletePlace(WindowHandle, int row) {
   return true;
 }
 
-constexpr ListDeed kAdd{
-    .question = kSnryParaAddQuestion,
-    .act = [](WindowHandle page, int) { return TakeInto(page, SlotFree(Random().parameters)); },
-    .failed = kSnryParaFull};
+constexpr ListDeed kAdd{.question = kSnryParaAddQuestion,
+                        .act =
+                            [](WindowHandle page, int) {
+                              const int at = SlotFree(Random().parameters);
+                              return at >= 0 && TakeInto(page, at, {});
+                            },
+                        .failed = kSnryParaFull};
 constexpr ListDeed kChange{
     .needsRow = true, .question = kSnryParaChangeQuestion, .act = [](WindowHandle page, int row) {
-      return TakeInto(page, SlotOfRow(Random().parameters, row));
+      const int at = SlotOfRow(Random().parameters, row);
+      return TakeInto(page, at, Get(at));
     }};
 constexpr ListDeed kDelete{
     .needsRow = true, .question = {"パラメータを削除します。", "パラメータの削除"}, .act = DeletePlace};

@@ -467,6 +467,21 @@ TEST_F(SnryEventPageTest, WhatItChangesIsListedByPlaceAndShownWhenChosen) {
   RunSheet();
 }
 
+TEST_F(SnryEventPageTest, WhatTheFieldsOfAnEntryCannotShowStaysWhenOthersChange) {
+  TheEvent().parameters[0] = 1;
+  TheEvent().values[0] = 65531;   // three characters can be typed
+  TheEvent().operations[0] = 77;  // no row
+  ThenTo(1);
+  OnChoose(IDC_PAGE_PLACES, 0);
+  OnChoose(IDC_EVENT_SIGN, 1);
+  Then([] { AskChangePara(); });
+  OnPress(IDC_PAGE_PARA_CHANGE);
+  RunSheet();
+  EXPECT_EQ(TheEvent().values[0], 65531);
+  EXPECT_EQ(TheEvent().signs[0], 1);
+  EXPECT_EQ(TheEvent().operations[0], 77);
+}
+
 // "With a gap in the parameter slots, an event parameter added through row 3 stores id 3, which
 // isn't the parameter shown in that row; changing the same entry stores the right id."
 TEST_F(SnryEventPageTest, WithAGapAnAddStoresTheRowAndAChangeTheId) {
