@@ -111,7 +111,7 @@ void ScenarioLooksTest::SetTable() {
   SelectListRow(table, IDC_TABLE_ROW, 3);
   SetEdit(table, IDC_TABLE_ITEM, L"こうもく");
   SetEdit(table, IDC_TABLE_SETTING, L"せってい");
-  SetEdit(table, IDC_TABLE_DATA, std::wstring(40, L'表'));  // 31 of them fit
+  SetEdit(table, IDC_TABLE_DATA, std::wstring(40, L'表'));  // 63 bytes of it fit
   ASSERT_TRUE(EndBy(table, IDOK));
 }
 
@@ -291,7 +291,7 @@ void ScenarioLooksTest::ExpectFiles() {
 
   EXPECT_EQ(TextAt(scene, at.table), Narrow(L"こうもく"));
   EXPECT_EQ(TextAt(scene, at.table + 64), Narrow(L"せってい"));
-  EXPECT_EQ(TextAt(scene, at.table + 128), Narrow(std::wstring(31, L'表')));
+  EXPECT_EQ(TextAt(scene, at.table + 128), Narrow(std::wstring(31, L'表')) + '\x95');
   EXPECT_EQ(scene[at.table + 192], 0);
   EXPECT_EQ(Part(scene, at.table + 193 + 18, 18),
             (Numbers{255, 255, 255, 0, 0, 250, 0, 0, 250, 0, 0, 250, 0, 0, 0, 0, 0, 0}));
