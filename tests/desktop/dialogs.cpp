@@ -75,3 +75,19 @@ void SetChecked(HWND dialog, int id, bool checked) {
   SendDlgItemMessageW(dialog, id, BM_SETCHECK, checked ? BST_CHECKED : BST_UNCHECKED, 0);
   PressButton(dialog, id);
 }
+
+void PostKey(HWND dialog, const Key& key) {
+  constexpr LPARAM kAltDown = 1 << 29;
+  GUITHREADINFO info{};
+  info.cbSize = sizeof info;
+  const DWORD thread = GetWindowThreadProcessId(dialog, nullptr);
+  WaitFor([&] {
+    return GetGUIThreadInfo(thread, &info) && (info.hwndFocus == dialog || IsChild(dialog, info.hwndFocus));
+  });
+  PostMessageW(info.hwndFocus, key.alt ? WM_SYSKEYDOWN : WM_KEYDOWN, key.code, key.alt ? kAltDown : 0);
+}
+
+bool EndByKey(HWND dialog, const Key& key) {
+  PostKey(dialog, key);
+  return Gone(dialog);
+}

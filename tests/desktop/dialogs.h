@@ -30,3 +30,14 @@ bool TickUntil(const Companion& companion, const std::function<bool()>& conditio
                unsigned milliseconds = 20000);
 
 void SetChecked(HWND dialog, int id, bool checked);  // and tells the dialog
+
+// A key as it comes to the control of a dialog that has the focus.
+struct Key {
+  unsigned code;
+  bool alt;
+};
+inline constexpr Key kEscape{VK_ESCAPE, false};
+inline constexpr Key kEnter{VK_RETURN, false};
+inline constexpr Key kAltF4{VK_F4, true};
+void PostKey(HWND dialog, const Key& key);
+bool EndByKey(HWND dialog, const Key& key);  // and waits until the dialog is gone

@@ -5,66 +5,39 @@
 #include <gtest/gtest.h>
 #include <prsht.h>
 
-#include <cstring>
-
 #include "resources/scenario_logic_ids.h"
 #include "resources/scenario_storage_ids.h"
-#include "tests/desktop/companion.h"
 #include "tests/desktop/dialogs.h"
+#include "tests/desktop/scenario_fixture.h"
 
 namespace {
 
-constexpr unsigned kLoadCommand = 1923;
-constexpr unsigned kNewCommand = 1926;
-constexpr std::size_t kMainSize = 2371558;
-constexpr std::size_t kScenesAt = 15414;
-constexpr std::size_t kParasAt = 1734178;
 constexpr std::size_t kSceneSize = 35 + 181800 + 47200 + 37600 + 4 + 902 + 154 + 62000 + 15200 + 2760 + 2736 +
                                    10800 + 248;  // without lines and cast
 
-using Bytes = std::vector<unsigned char>;
-
-std::string Narrow(const std::wstring& text) {
-  char narrow[600] = "";
-  WideCharToMultiByte(932, 0, text.c_str(), -1, narrow, sizeof narrow, nullptr, nullptr);
-  return narrow;
-}
-
-void PutText(Bytes& bytes, std::size_t at, const std::wstring& text) {
-  const std::string narrow = Narrow(text);
-  std::memcpy(bytes.data() + at, narrow.data(), narrow.size());
-}
-
-std::string TextAt(const Bytes& bytes, std::size_t at) {
-  return at < bytes.size() ? reinterpret_cast<const char*>(bytes.data()) + at : "";
-}
-int LowFirst(const Bytes& bytes, std::size_t at) {
-  return at + 1 < bytes.size() ? bytes[at] | bytes[at + 1] << 8 : -1;
-}
-
-Bytes MainFile() {
-  Bytes bytes(kMainSize);
+FileImage MainFile() {
+  FileImage bytes(kMainSize);
   PutText(bytes, 0, L"ソルナーデリオン シナリオメイン設定ファイル");
   PutText(bytes, 343, L"見本の話");
   return bytes;
 }
 
-Bytes SceneFile() {
-  Bytes bytes(kSceneSize);
+FileImage SceneFile() {
+  FileImage bytes(kSceneSize);
   PutText(bytes, 0, L"ソルナーデリオン-場面データファイル");
   return bytes;
 }
 
-class ScenarioTest : public testing::Test {
+class ScenarioTest : public ScenarioFixture {
  protected:
   std::wstring Tale(const std::wstring& name = L"") const { return companion_.File(L"物語" + name); }
 
   // A scenario of the list, with its main file and the folder of its scenes.
-  void PutTale(const Bytes& main) {
+  void PutTale(const FileImage& main) {
     CreateDirectoryW(companion_.File(L"ワールド").c_str(), nullptr);
     CreateDirectoryW(Tale().c_str(), nullptr);
     CreateDirectoryW(Tale(L"\\序章").c_str(), nullptr);
-    Bytes list(50 + 464);
+    FileImage list(50 + 464);
     PutText(list, 0, L"ソルナーデリオン メインシナリオファイル リスト");
     list[49] = 1;
     list[50] = 1;
@@ -74,8 +47,8 @@ class ScenarioTest : public testing::Test {
     WriteWholeFile(Tale(L"\\シナリオメイン.cff"), main);
     WriteWholeFile(Tale(L"\\序章\\町.scd"), SceneFile());
   }
-  Bytes TaleMain() const {
-    Bytes main = MainFile();
+  FileImage TaleMain() const {
+    FileImage main = MainFile();
     main[473] = 1;
     main[474] = 1;
     PutText(main, 474 + 68, Tale(L"\\序章"));
@@ -86,25 +59,6 @@ class ScenarioTest : public testing::Test {
     return main;
   }
 
-  // RoutSnrySetting of the last scenario of the list: a data set has one of its own.
-  HWND Load() {
-    companion_.Post(kLoadCommand);
-    const HWND load = companion_.Dialog(L"シナリオのロード");
-    if (!load) return nullptr;
-    const LRESULT rows = SendMessageW(GetDlgItem(load, IDC_SNRY_LIST), LB_GETCOUNT, 0, 0);
-    SelectListRow(load, IDC_SNRY_LIST, static_cast<int>(rows) - 1);
-    PostButton(load, 1);
-    return companion_.Dialog(L"シナリオ設定");
-  }
-  // SnryFolderSetting of the first folder, SnryFileSetting of the first scene.
-  HWND OpenFolder(HWND rout) {
-    SelectListRow(rout, IDC_SNRY_FOLDERS, 0);
-    return OpenBy(companion_, rout, IDC_SNRY_FOLDER_SET, L"シナリオフォルダー設定");
-  }
-  HWND OpenScene(HWND folder) {
-    SelectListRow(folder, IDC_SNRY_SCENES, 0);
-    return OpenBy(companion_, folder, IDC_SNRY_SCENE_SET, L"場面ファイル設定");
-  }
   HWND OpenSheet(HWND scene) {
     return OpenBy(companion_, scene, IDC_SNRY_SCENE_ADVANCE, L"場面進行方法設定");
   }
@@ -116,9 +70,6 @@ class ScenarioTest : public testing::Test {
       return shown && IsWindowVisible(shown);
     });
     return shown;
-  }
-  static int Chosen(HWND dialog, int id) {
-    return static_cast<int>(SendDlgItemMessageW(dialog, id, CB_GETCURSEL, 0, 0));
   }
   // Presses a button that asks, and agrees.
   void Agree(HWND dialog, int button, const std::wstring& caption) {
@@ -188,8 +139,6 @@ class ScenarioTest : public testing::Test {
     Agree(page, IDC_PAGE_PARA_ADD, L"パラメータの追加");
     EXPECT_TRUE(WaitFor([&] { return ListRowCount(page, IDC_PAGE_PLACES) == 1; }));
   }
-
-  Companion companion_;
 };
 
 // Nothing of a page is cut off.
@@ -206,7 +155,7 @@ void ExpectWhole(HWND page) {
 }
 
 // The folder, its scene and what they hold, typed through the dialogs of the first run.
-void ExpectMain(const Bytes& main) {
+void ExpectMain(const FileImage& main) {
   ASSERT_EQ(main.size(), kMainSize);
   EXPECT_EQ(TextAt(main, 343), Narrow(L"大冒険"));
   EXPECT_EQ(main[473], 1);
@@ -223,7 +172,7 @@ void ExpectMain(const Bytes& main) {
   EXPECT_EQ(LowFirst(main, kParasAt + 540 + 2), 300);
 }
 
-void ExpectScene(const Bytes& scene) {
+void ExpectScene(const FileImage& scene) {
   ASSERT_EQ(scene.size(), kSceneSize);
   EXPECT_EQ(scene[35], 1);
   EXPECT_EQ(LowFirst(scene, 35 + 2), 2);
@@ -268,7 +217,7 @@ void ExpectScene(const Bytes& scene) {
 
 TEST_F(ScenarioTest, AScenarioMadeByHandIsKeptAndReadBackByASecondRun) {
   companion_.Start();
-  companion_.Post(kNewCommand);
+  companion_.Post(kScenarioNew);
   const HWND make = companion_.Dialog(L"新規シナリオの作成");
   ASSERT_TRUE(make);
   SetEdit(make, IDC_SNRY_NEW_NAME, L"冒険");
@@ -321,8 +270,8 @@ TEST_F(ScenarioTest, AScenarioMadeByHandIsKeptAndReadBackByASecondRun) {
   EXPECT_EQ(companion_.Close(), 0);
 
   const std::wstring tale = companion_.File(L"ワールド\\冒険");
-  const Bytes main = ReadWholeFile(tale + L"\\シナリオメイン.cff");
-  const Bytes scenario = ReadWholeFile(tale + L"\\第一章\\シーン1.scd");
+  const FileImage main = ReadWholeFile(tale + L"\\シナリオメイン.cff");
+  const FileImage scenario = ReadWholeFile(tale + L"\\第一章\\シーン1.scd");
   ExpectMain(main);
   ExpectScene(scenario);
 
@@ -397,7 +346,7 @@ TEST_F(ScenarioTest, ACancelOfTheSheetTakesEverythingBack) {
 }
 
 TEST_F(ScenarioTest, ThirtyFoldersAndFiftyScenesAreTheLimits) {
-  Bytes main = TaleMain();
+  FileImage main = TaleMain();
   main[473] = 30;
   for (std::size_t i = 1; i < 30; ++i) {
     main[474 + 496 * i] = 1;
@@ -440,9 +389,9 @@ TEST_F(ScenarioTest, AMainFileThatMayNotBeWrittenStays) {
 }
 
 TEST_F(ScenarioTest, AFileThatIsNoMainFileIsNotTouched) {
-  PutTale(Bytes(5000, 'x'));
+  PutTale(FileImage(5000, 'x'));
   companion_.Start();
-  companion_.Post(kLoadCommand);
+  companion_.Post(kScenarioLoad);
   const HWND load = companion_.Dialog(L"シナリオのロード");
   ASSERT_TRUE(load);
   SelectListRow(load, IDC_SNRY_LIST, 0);
@@ -454,5 +403,5 @@ TEST_F(ScenarioTest, AFileThatIsNoMainFileIsNotTouched) {
   PostButton(rout, IDC_SNRY_SAVE);
   EXPECT_EQ(AnswerBox(companion_, L"シナリオセーブエラー"), L"シナリオファイルに書き込めません!");
   ASSERT_TRUE(EndBy(rout, 2));
-  EXPECT_TRUE(ReadWholeFile(Tale(L"\\シナリオメイン.cff")) == Bytes(5000, 'x'));
+  EXPECT_TRUE(ReadWholeFile(Tale(L"\\シナリオメイン.cff")) == FileImage(5000, 'x'));
 }
