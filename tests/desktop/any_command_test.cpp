@@ -42,7 +42,7 @@ BOOL CALLBACK Take(HWND window, LPARAM parameter) {
   auto& search = *reinterpret_cast<Search*>(parameter);
   DWORD process = 0;
   GetWindowThreadProcessId(window, &process);
-  if (process == search.process && IsWindowVisible(window)) search.found.push_back(window);
+  if (process == search.process) search.found.push_back(window);
   return TRUE;
 }
 
@@ -61,8 +61,26 @@ class AnyCommandTest : public testing::Test {
   std::vector<HWND> Shown() const {
     Search search{companion_.ProcessId(), {}};
     EnumWindows(Take, reinterpret_cast<LPARAM>(&search));
-    std::erase(search.found, companion_.Window());
+    std::erase_if(search.found,
+                  [&](HWND window) { return window == companion_.Window() || !IsWindowVisible(window); });
     return search.found;
+  }
+
+  // Every window of the program, hidden ones too: what to read when there is one too many.
+  std::string All() const {
+    Search search{companion_.ProcessId(), {}};
+    EnumWindows(Take, reinterpret_cast<LPARAM>(&search));
+    std::string text;
+    for (const HWND window : search.found) {
+      wchar_t name[64] = L"";
+      GetClassNameW(window, name, 64);
+      RECT at{};
+      GetWindowRect(window, &at);
+      text += "\n  " + Narrow(name) + " \"" + Narrow(TextOf(window)) + "\" " +
+              std::to_string(at.right - at.left) + " x " + std::to_string(at.bottom - at.top) +
+              (IsWindowVisible(window) ? "" : " hidden") + (IsWindowEnabled(window) ? "" : " off");
+    }
+    return text;
   }
 
   static bool IsMenu(HWND window) {
@@ -183,7 +201,9 @@ TEST_F(AnyCommandTest, DISABLED_EveryCommandInAnyOrderLeavesTheProgramStandingAn
     if (sent % kRest != 0) continue;
     ASSERT_TRUE(CloseAll()) << Narrow(stuck_);
     if (counts.empty()) counts = Counts();
-    ASSERT_EQ(Counts(), counts) << "after send " << sent;
+    // Somebody may just have begun to walk.
+    WaitFor([&] { return CloseAll() && Counts() == counts; });
+    ASSERT_EQ(Counts(), counts) << "after send " << sent << All();
   }
   std::printf("%d sends, %d times something was left\n", sends, left_);
   const std::vector<int> live = companion_.Live();
