@@ -10,10 +10,14 @@
 
 namespace {
 
-bool IsInCast(int id) {
+using CharaFlags = bool[kSnryCharaMax + 1];
+
+// Marks the characters of the cast, from 1.
+void CastMark(CharaFlags& inCast) {
   const SnrySceneRec& scene = SnrySceneNow();
-  const std::uint16_t* end = scene.cast + SnryCastCount(scene);
-  return std::find(scene.cast, end, id) != end;
+  for (int place = 0; place < SnryCastCount(scene); ++place) {
+    if (scene.cast[place] <= kSnryCharaMax) inCast[scene.cast[place]] = true;
+  }
 }
 
 // Goes through the characters that can be added; the one at which `ends` says so, 0 for
@@ -23,12 +27,14 @@ bool IsInCast(int id) {
 // nobody is.
 template <class Ends>
 int WalkRegistered(Ends ends) {
+  CharaFlags inCast{};
+  CastMark(inCast);
   int left = SnryMain.registeredCount;
   int row = 0;
   for (int chara = 1; chara <= kSnryCharaMax && left > 0; ++chara) {
     if (!SnryCharaIsRegistered(chara)) continue;
     --left;
-    if (!IsInCast(chara) && ends(row++)) return chara;
+    if (!inCast[chara] && ends(row++)) return chara;
   }
   return 0;
 }
