@@ -1,15 +1,16 @@
 // Leaves a scenario with full tables in a program folder: 512 characters of the world,
-// each registered, 2,048 parameters, 30 scenario folders of 50 scenes, and in each place
-// where a parameter can stand another one. The first scene of the first folder has its
-// file: 56 characters and 200 copies on stage, each with 100 lines and 100 motions. The
-// scenario is the only one of the list.
+// each registered, 2,048 parameters or as many as are told, 30 scenario folders of 50
+// scenes, and in each place where a parameter can stand another one. The first scene of
+// the first folder has its file: 56 characters and 200 copies on stage, each with 100
+// lines and 100 motions. The scenario is the only one of the list.
 //
-//   full_scenario FOLDER
+//   full_scenario FOLDER [PARAMETERS]
 
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <iterator>
+#include <span>
 
 #include "platform/file.h"
 #include "platform/posix/posix_paths.h"
@@ -31,6 +32,8 @@ namespace {
 constexpr int kCopies = 200;
 constexpr int kCharacters = kSnrySceneCastMax - kCopies;  // on stage
 
+std::size_t parameters = kSnryParaMax;
+
 void Need(bool good, const char* what) {
   if (good) return;
   std::fprintf(stderr, "cannot write %s\n", what);
@@ -44,8 +47,8 @@ void Name(char (&to)[N], const char* form, int number) {
 
 // The numbers of the parameters one after the other, from the first again behind the last.
 std::uint16_t NextPara() {
-  static int para = 0;
-  return static_cast<std::uint16_t>(para++ % kSnryParaMax + 1);
+  static std::size_t para = 0;
+  return static_cast<std::uint16_t>(para++ % parameters + 1);
 }
 
 template <std::size_t N>
@@ -103,7 +106,7 @@ void MakeWorld() {
 // --- The main file
 
 void FillParas() {
-  for (SnryParaRec& para : SnryMain.paras) {
+  for (SnryParaRec& para : std::span(SnryMain.paras, parameters)) {
     para.used = 1;
     Name(para.name, "物語の変数その%d", ++SnryMain.paraCount);
     Name(para.comment, "物語が%dまで進んだかどうか", SnryMain.paraCount);
@@ -222,10 +225,11 @@ void MakeScene() {
 }  // namespace
 
 int main(int argc, char** argv) {
-  if (argc != 2) {
-    std::fprintf(stderr, "usage: full_scenario FOLDER\n");
+  if (argc < 2) {
+    std::fprintf(stderr, "usage: full_scenario FOLDER [PARAMETERS]\n");
     return 2;
   }
+  if (argc > 2) parameters = static_cast<std::size_t>(std::clamp(std::atoi(argv[2]), 1, kSnryParaMax));
   WorkBlocksAllocate();
   TextCopy(Program.RootFolder, sizeof Program.RootFolder, PosixToProgram(argv[1]).c_str());
   RootPath(Scenario.mainFolder, sizeof Scenario.mainFolder, "\\長い物語");

@@ -29,10 +29,17 @@ struct Door {
 constexpr Door kDoors[] = {
     {.title = L"シナリオのロード", .command = Command::ScenarioLoad},
     {L"シナリオ設定", L"シナリオのロード", IDOK, IDC_SNRY_LIST},
+    {L"登場キャラクタ登録(キャスティング)", L"シナリオ設定", IDC_SNRY_CHARACTERS},
     {L"シナリオフォルダー設定", L"シナリオ設定", IDC_SNRY_FOLDER_SET, IDC_SNRY_FOLDERS},
     {L"場面ファイル設定", L"シナリオフォルダー設定", IDC_SNRY_SCENE_SET, IDC_SNRY_SCENES},
     {L"場面起動条件", L"場面ファイル設定", IDC_SNRY_SCENE_START},
     {L"場面進行方法設定", L"場面ファイル設定", IDC_SNRY_SCENE_ADVANCE},
+    {L"登場キャラクター追加", L"場面ファイル設定", IDC_SNRY_CAST_ADD},
+    {L"コピーの作成", L"場面ファイル設定", IDC_SNRY_CAST_COPY, IDC_SNRY_CAST},
+    {L"キャラクター台詞設定", L"場面ファイル設定", IDC_SNRY_CAST_LINES, IDC_SNRY_CAST},
+    {L"キャラクター動作設定", L"場面ファイル設定", IDC_SNRY_CAST_MOTIONS, IDC_SNRY_CAST},
+    {L"キャラクター登場/退場", L"場面ファイル設定", IDC_SNRY_CAST_ENTRY, IDC_SNRY_CAST},
+    {L"キー、マウス割付", L"場面ファイル設定", IDC_SNRY_SCENE_KEYS},
 };
 
 constexpr DWORD kDrawn = 250;  // milliseconds in which a dialog that has come is drawn

@@ -1,5 +1,6 @@
 #!/usr/bin/env python3
-"""schedule_file.py FILE COUNT: a schedule of so many lines, to show.
+"""schedule_file.py FILE COUNT [DAYS]: a schedule of so many lines, to show, that began so
+many days ago.
 
 Every second weekday's work is told by a line of a few hours; some are done, some have an
 alarm, one is long. The dates are worked out as the program does for days of ten hours
@@ -20,7 +21,7 @@ def date(day, hour):
 
 def main():
     path, count = sys.argv[1], int(sys.argv[2])
-    today = datetime.date.today()
+    today = datetime.date.today() - datetime.timedelta(int(sys.argv[3]) if len(sys.argv) > 3 else 0)
     day, hour = today, 8
     items = b""
     for i in range(count):

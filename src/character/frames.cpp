@@ -25,6 +25,19 @@ bool FrameOfName(const char* text, int* frame, bool* mask) {
 
 }  // namespace
 
+void MaskedFrameLoad(MaskedFrame& item, int number, int frame) {
+  MaskedFrameFree(item);
+  item.picture = DibLoad(CharaBmpPath(number - 1, frame));
+  item.mask = DibLoad(CharaMaskPath(number - 1, frame));
+  DibApplyMask(item.picture, item.mask);
+}
+
+void MaskedFrameFree(MaskedFrame& item) {
+  DibFree(item.picture);
+  DibFree(item.mask);
+  item = {};
+}
+
 FrameFiles FrameFilesFind(int number) {
   FrameFiles files{};
   if (number < 0) return files;

@@ -4,6 +4,16 @@
 #include "character/chara_paths.h"
 #include "services/dib.h"
 
+// A picture with its mask, the mask applied; nulls for what cannot be loaded.
+struct MaskedFrame {
+  ImageHandle picture;
+  ImageHandle mask;
+};
+// Loads a frame (from 0) of a character (its number, from 1) in place of what is there; frees
+// it.
+void MaskedFrameLoad(MaskedFrame& item, int number, int frame);
+void MaskedFrameFree(MaskedFrame& item);
+
 // Row 0 holds the stage's character, row 1 + slot the character of a walking slot.
 inline constexpr int kFrameRowCount = 51;
 inline constexpr int kStageRow = 0;

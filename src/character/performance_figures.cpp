@@ -18,31 +18,23 @@ int CharacterNumber() {
              : 0;
 }
 
-PerformanceImages Load(int number, int frame) {
-  PerformanceImages images;
-  images.picture = DibLoad(CharaBmpPath(number - 1, frame));
-  images.mask = DibLoad(CharaMaskPath(number - 1, frame));
-  if (images.picture && images.mask) DibApplyMask(images.picture, images.mask);
-  return images;
-}
-
 }  // namespace
 
 bool PerformanceCharacterIsSelected() {
   return CharacterNumber() > 0;
 }
 
-PerformanceImages PerformanceFigure(int step) {
+MaskedFrame PerformanceFigure(int step) {
   if (step < 0 || step >= kFrameMax || CharacterNumber() <= 0) return {};
   PerformanceFigureSlot& figure = PerformanceFigures.figures[step];
-  if (!figure.tried) figure = {true, Load(CharacterNumber(), step)};
+  if (!figure.tried) MaskedFrameLoad(figure.images, CharacterNumber(), step);
+  figure.tried = true;
   return figure.images;
 }
 
 void PerformanceFiguresFree() {
   for (PerformanceFigureSlot& figure : PerformanceFigures.figures) {
-    DibFree(figure.images.picture);
-    DibFree(figure.images.mask);
-    figure = {};
+    MaskedFrameFree(figure.images);
+    figure.tried = false;
   }
 }

@@ -3,16 +3,10 @@
 #pragma once
 
 #include "character/frames.h"
-#include "services/dib.h"
-
-struct PerformanceImages {
-  ImageHandle picture;
-  ImageHandle mask;
-};
 
 struct PerformanceFigureSlot {
   bool tried;
-  PerformanceImages images;
+  MaskedFrame images;
 };
 struct PerformanceFiguresState {
   PerformanceFigureSlot figures[kFrameMax] = {};
@@ -24,6 +18,6 @@ bool PerformanceCharacterIsSelected();
 
 // The picture and mask of a step, 0 to 19, loaded when first asked for and kept
 // until PerformanceFiguresFree; nulls for what cannot be loaded.
-PerformanceImages PerformanceFigure(int step);
+MaskedFrame PerformanceFigure(int step);
 
 void PerformanceFiguresFree();

@@ -47,3 +47,6 @@ inline int RectWidth(const Rect& r) {
 inline int RectHeight(const Rect& r) {
   return r.bottom - r.top;
 }
+inline bool RectHas(const Rect& r, int x, int y) {
+  return x >= r.left && x < r.right && y >= r.top && y < r.bottom;
+}

@@ -6,7 +6,9 @@
 // but for raw blocks, which keep the bytes that did arrive.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
+#include <cstring>
 
 #include "platform/file.h"
 
@@ -44,6 +46,14 @@ int DataFailShort(DataFile& data);
 int DataFailStatus(DataFile& data);
 
 bool DataRead(DataFile& data, void* to, int size);
+// Reads as many bytes as a magic has. False when they differ from it; only a short read
+// makes the file fail.
+template <std::size_t N>
+bool DataMagicRead(DataFile& data, const char (&magic)[N]) {
+  constexpr std::size_t kSize = N - 1;
+  char found[kSize];
+  return DataRead(data, found, static_cast<int>(kSize)) && std::memcmp(found, magic, kSize) == 0;
+}
 bool DataReadByte(DataFile& data, std::uint8_t& to);
 bool DataReadBE16(DataFile& data, std::uint16_t& to);
 bool DataReadBE32(DataFile& data, std::uint32_t& to);

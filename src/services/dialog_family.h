@@ -7,6 +7,7 @@
 
 #include "platform/event.h"
 #include "platform/sheet.h"
+#include "services/commands.h"
 #include "services/dialog_numbers.h"
 
 struct DialogsState {
@@ -52,6 +53,11 @@ bool PlainSheetRun(WindowHandle owner, const char* caption, const SheetPage* pag
 // Ends a family's dialog from its own handler: clears the handle (for the menu
 // family the panel state too) and ends it with `result`.
 void MenuDialogEnd(WindowHandle dialog, int result);
+// What a button of a menu does that ends it with a command.
+template <Command command>
+void MenuDialogEndWith(WindowHandle dialog) {
+  MenuDialogEnd(dialog, static_cast<int>(command));
+}
 void ToolDialogEnd(WindowHandle dialog, int result);
 void SubDialogEnd(WindowHandle dialog, int result);
 void SnryDialogEnd(WindowHandle dialog, int result);

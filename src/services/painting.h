@@ -3,6 +3,11 @@
 
 #include "platform/canvas.h"
 
+// The colour of a record's three bytes: red, green, blue.
+inline Colour ColourOf(const unsigned char (&rgb)[3]) {
+  return MakeColour(rgb[0], rgb[1], rgb[2]);
+}
+
 // Fills an area without an edge.
 void FillArea(Canvas* canvas, BrushHandle brush, const Rect& area);
 // The same with a colour that no shared brush has.

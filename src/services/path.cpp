@@ -71,6 +71,10 @@ bool PathIsBareName(const char* name) {
   return name[0] != '\0' && !IsDevice(name);
 }
 
+bool PathIsFull(const char* path) {
+  return path[0] == '\\' || (path[0] != '\0' && path[1] == ':');
+}
+
 int FileExists(const char* path) {
   FileResult.FileStatus = 0;
   const int file = FileOpen(path, OpenMode::ReadWrite);

@@ -22,6 +22,9 @@ void PathSplit(const char* path);
 // not empty, holds no backslash, slash or colon, and is no device's ("NUL", "com1.txt").
 bool PathIsBareName(const char* name);
 
+// True if a path names its drive, or begins at a root; any other lies below a folder.
+bool PathIsFull(const char* path);
+
 // 1 if the file can be opened for read and write, else 0. Clears FileStatus.
 int FileExists(const char* path);
 

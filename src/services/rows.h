@@ -24,8 +24,8 @@ constexpr Rows RowsOf(const char* const (&labels)[N]) {
 constexpr Rows RowsOf(int count, void (*text)(int row, char* text, int size)) {
   return {count, nullptr, text, nullptr, 0};
 }
-// The same, but a row for which `some` returns false is left out: for lists whose rows
-// need not be found again by their place.
+// The same, but a row for which `some` returns false is left out: for tables with gaps. A
+// row on show is found again by counting those that are in use (services/slots.h).
 constexpr Rows RowsOf(int count, bool (*some)(int row, char* text, int size)) {
   return {count, nullptr, nullptr, some, 0};
 }

@@ -12,6 +12,11 @@ struct SclDate {
   std::int32_t hour;   // 0 to 24
 };
 
+// By year, month and day.
+constexpr bool SclSameDay(const SclDate& a, const SclDate& b) {
+  return a.year == b.year && a.month == b.month && a.day == b.day;
+}
+
 inline constexpr int kDaysOfWeek = 7;
 inline constexpr int kSunday = 6;  // Monday is 0
 inline constexpr int kMonthsOfYear = 12;

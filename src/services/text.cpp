@@ -12,6 +12,10 @@ std::size_t TextCopy(char* to, std::size_t size, const char* from) {
   return length;
 }
 
+std::size_t TextCopyWhole(char* to, std::size_t size, const char* from) {
+  return size == 0 ? 0 : TextCopy(to, TextPrefix(from, size - 1) + 1, from);
+}
+
 std::size_t TextAppend(char* to, std::size_t size, const char* from) {
   const std::size_t length = TextLength(to, size);
   if (length >= size) return size;

@@ -14,7 +14,10 @@ constexpr bool IsSjisLead(char byte) {
 // The cut may fall inside a double-byte pair. Returns the length copied.
 std::size_t TextCopy(char* to, std::size_t size, const char* from);
 
-// Appends in the same way; the length of the whole.
+// The same, but the cut never splits a pair.
+std::size_t TextCopyWhole(char* to, std::size_t size, const char* from);
+
+// Appends in the same way as TextCopy; the length of the whole.
 std::size_t TextAppend(char* to, std::size_t size, const char* from);
 
 // The length of text in a field that may lack its terminator, at most `size`.

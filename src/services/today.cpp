@@ -7,9 +7,20 @@
 TodayState Today;
 
 void TodaySet(const LocalTime& now) {
-  Today.TodayYear = now.year - 2000;
-  Today.TodayMonth = now.month - 1;
-  Today.TodayDay = now.day - 1;
+  const SclDate today = SclDateOf(now);
+  Today.TodayYear = today.year;
+  Today.TodayMonth = today.month;
+  Today.TodayDay = today.day;
+}
+
+SclDate SclDateOf(const LocalTime& time) {
+  return {time.year - 2000, time.month - 1, time.day - 1, time.hour};
+}
+
+SclDate SclDateNow() {
+  LocalTime now{};
+  TimeGetLocal(&now);
+  return SclDateOf(now);
 }
 
 void SharedTimeTake() {

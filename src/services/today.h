@@ -4,6 +4,7 @@
 #include <cstdint>
 
 #include "platform/time.h"
+#include "services/scl_date.h"
 
 struct TodayState {
   // Today: year minus 2000, month minus 1, day minus 1.
@@ -17,6 +18,10 @@ extern TodayState Today;
 
 // Sets today's date.
 void TodaySet(const LocalTime& now);
+
+// A local time as the schedules and calendars count; that of the machine's clock.
+SclDate SclDateOf(const LocalTime& time);
+SclDate SclDateNow();
 
 // Reads the local time into SharedTime.
 void SharedTimeTake();

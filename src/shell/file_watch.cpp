@@ -130,8 +130,8 @@ void FileWatchStampTake(WatchedFile file) {
   StampRead(file, &Watch.stamps[static_cast<int>(file)]);
 }
 
-// settled: what the program has saved itself is no change of a sibling's, and is not read
-// again.
+// settled: a calendar file that the program has saved itself is no change of a sibling's, and
+// is not read again.
 void CalendarFileSaved() {
   FileWatchStampTake(WatchedFile::CalendarFile);
 }

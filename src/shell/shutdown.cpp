@@ -5,7 +5,6 @@
 #include "mail_music/mail/mail_talk.h"
 #include "platform/window.h"
 #include "schedule/applications/application_list.h"
-#include "schedule/execution/schedule_run.h"
 #include "services/drawing_objects.h"
 #include "services/program.h"
 #include "services/work_blocks.h"
@@ -19,7 +18,6 @@ void Shutdown() {
   ClockPreviewFree();
   CastBlockFree();
   ApliListFree();
-  SclMapFree();
   OldDataFree();
   DrawingObjectsDelete();
   CalenFontDelete();

@@ -49,7 +49,6 @@
 #include "scenario/storage/scenario_dialogs.h"
 #include "scenario/trace/trace_dialogs.h"
 #include "schedule/applications/application_list.h"
-#include "schedule/execution/schedule_run.h"
 #include "schedule/execution/scl_alarm.h"
 #include "schedule/execution/scl_notice.h"
 #include "schedule/model/schedule.h"
@@ -130,10 +129,8 @@ void ClockCalendarReset() {
 
 void ScheduleReset() {
   ApliListFree();
-  SclMapFree();
   SclMapPicturesFree();
-  ResetAll(Applications, LineChart, Notices, Plan, RowSelection, Schedule, SclAlarm, SclDay, SclMap, SclRun,
-           SclTable);
+  ResetAll(Applications, LineChart, Notices, Plan, RowSelection, Schedule, SclAlarm, SclMap, SclTable);
 }
 
 void FileToolsReset() {

@@ -18,6 +18,7 @@
 #include "clock_calendar/clock/clock_notice.h"
 #include "clock_calendar/clock/performance.h"
 #include "platform/window.h"
+#include "schedule/execution/scl_alarm.h"
 #include "schedule/execution/scl_notice.h"
 #include "services/program.h"
 #include "services/text.h"
@@ -48,7 +49,6 @@ class NoticesTest : public ProgramTest {
     NoticePlace.NoticeY = 100;
     NoticePlace.NoticeW = 480;
     NoticePlace.NoticeH = 300;
-    Notices.SclNotice = SclNoticeItem{};
     for (CalenNote& note : Calendar.CalenNotes) note = CalenNote{};
     Clock.ClockAlarmSlot = -1;
     Performance.PerformanceActive = 0;
@@ -79,14 +79,15 @@ class NoticesTest : public ProgramTest {
     AlarmCharaLoad();
   }
   static void ItemDue(const char* text) {
-    Notices.SclNotice.due = true;
-    Notices.SclNotice.start = {26, 10, 20, 9};
-    Notices.SclNotice.startMinute = 30;
-    Notices.SclNotice.end = {26, 10, 20, 12};
-    Notices.SclNotice.endMinute = 5;
-    Notices.SclNotice.tableStartHour = 8;
-    Notices.SclNotice.tableEndHour = 18;
-    TextCopy(Notices.SclNotice.text, sizeof Notices.SclNotice.text, text);
+    SclItemRec& item = Schedule.SclExecTable.items[0];
+    item.start = {26, 10, 20, 9};
+    item.mirrorStart.minute = 30;
+    item.end = {26, 10, 20, 12};
+    item.mirrorEnd.minute = 5;
+    std::fill_n(item.text, kSclItemTextSize, '\0');
+    std::copy_n(text, TextLength(text, kSclItemTextSize), item.text);
+    SclAlarm.row = {10, 8, 18};
+    SclAlarm.announce = 1;
   }
   static void NoteDue(int note, const char* text) {
     Calendar.CalenNotes[note].due = true;

@@ -230,6 +230,7 @@ TEST_F(MailDialogTest, SwitchedOnItChecksAtOnceAndTheIntervalBegins) {
     EXPECT_EQ(Mail.MailMinuteCount, 10);
     EXPECT_EQ(Mail.MailTickCount, 0);
     EXPECT_EQ(TopDialog(), nullptr) << "the dialog has closed by then";
+    EXPECT_EQ(Panel.FuncNo, 0) << "and the settings are not open any more";
   });
   RunDialog();
   EXPECT_TRUE(Mail.mailStopped);

@@ -381,6 +381,7 @@ TEST_F(MusicTest, ADoubleClickOnTheTitleEditsTheSharedTitle) {
   Open();
   Then([] {
     EXPECT_EQ(TemplateOf(TopDialog()), IDD_SCLTitleDlg);
+    EXPECT_EQ(Dialogs.DlgIdTool, ToolDialog::SCLTitleDlgSecond);
     Type(TopDialog(), IDC_SCL_TEXT, "夕方の曲");
     Press(TopDialog(), 1);
   });

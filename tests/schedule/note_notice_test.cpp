@@ -4,9 +4,15 @@
 #include "clock_calendar/calendar/calendar.h"
 #include "platform/posix/test_clock.h"
 #include "schedule/execution/scl_notice.h"
+#include "services/today.h"
 #include "tests/character/notices_fixture.h"
 
 namespace {
+
+int NoteCheck() {
+  SharedTimeTake();
+  return CalenNoteCheck();
+}
 
 TEST_F(NoticesTest, WithNoNoteDueNoNoticeOpens) {
   Send(kNoteNotice);
@@ -37,14 +43,14 @@ TEST_F(NoticesTest, TheNoteThatTheCheckHasFoundIsAnnounced) {
   CalenYearInit(0);
   CalenNoteSet(0, 3, 9, "誕生日");
   Calendar.CalenNoteMode = 1;
-  ASSERT_EQ(CalenNoteCheck(), 1);
+  ASSERT_EQ(NoteCheck(), 1);
   Send(kNoteNotice);
   EXPECT_EQ(Notices.SclNoticeKind, 2);
   Repaint(Notices.hSclNoticeWnd);
   // kept: the day stands in the place of the month too.
   EXPECT_TRUE(TextStands(Notices.hSclNoticeWnd, "予定日 : 2026年10月10日  本日です", 10, 40));
   EXPECT_TRUE(TextStands(Notices.hSclNoticeWnd, "誕生日", 10, 84));
-  EXPECT_EQ(CalenNoteCheck(), 0);
+  EXPECT_EQ(NoteCheck(), 0);
   Calendar.CalenNoteMode = 0;
   CalenNoteSet(0, 3, 9, "");
 }

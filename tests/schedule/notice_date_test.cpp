@@ -1,6 +1,7 @@
 // What the schedule's notice takes for today.
 #include "platform/posix/test_clock.h"
 #include "platform/window.h"
+#include "schedule/execution/scl_alarm.h"
 #include "schedule/execution/scl_notice.h"
 #include "services/commands.h"
 #include "services/program.h"
@@ -16,11 +17,16 @@ class NoticeDateTest : public ProgramTest {
     ProgramTest::SetUp();
     StartProgram();
     // 2026-11-21, 9:30 to 12:05, in a table of 8 to 18.
-    Notices.SclNotice = SclNoticeItem{true, {26, 10, 20, 9}, {26, 10, 20, 12}, 30, 5, 8, 18, "x"};
+    SclItemRec& item = Schedule.SclExecTable.items[0];
+    item.start = {26, 10, 20, 9};
+    item.mirrorStart.minute = 30;
+    item.end = {26, 10, 20, 12};
+    item.mirrorEnd.minute = 5;
+    SclAlarm.row = {10, 8, 18};
+    SclAlarm.announce = 1;
   }
   void TearDown() override {
     SendClose(Notices.hSclNoticeWnd);
-    Notices.SclNotice = SclNoticeItem{};
     ProgramTest::TearDown();
   }
 };

@@ -87,7 +87,7 @@ TEST_F(NoticesTest, AFrameWithoutAPictureLeavesNothingOfTheOneBefore) {
 
 TEST_F(NoticesTest, AStartOrEndOnAnotherDayIsShownByTheHoursOfTheTable) {
   ItemDue("");
-  Notices.SclNotice.start.day = 19;
+  Schedule.SclExecTable.items[0].start.day = 19;
   Send(kSclNotice);
   Repaint(Notices.hSclNoticeWnd);
   EXPECT_TRUE(TextStands(Notices.hSclNoticeWnd, "予定 : 8 時 0 分 ～ 12 時 5 分", 10, 30));

@@ -4,7 +4,8 @@
 //
 //   MIRRELL_SOAK_SENDS=20000 MIRRELL_SOAK_SEED=7 shell_tests --gtest_filter='SoakTest.Every*'
 //
-// sends more than the test does; bench/README.md tells what came of it.
+// sends more than the test does; bench/README.md tells what came of it. With
+// MIRRELL_SOAK_FAULTS set a call of the system fails now and then.
 #include <cstdlib>
 #include <ctime>
 #include <filesystem>
@@ -105,13 +106,23 @@ class SoakTest : public ProgramTest {
 
   // Whether anything has gone wrong.
   void Look() {
-    for (const std::string& failure : HeadlessTakeFailures()) ADD_FAILURE() << failure << " " << user_->Trail();
+    for (const std::string& failure : HeadlessTakeFailures())
+      ADD_FAILURE() << failure << " " << user_->Trail();
     for (const std::string& stuck : user_->Stuck()) ADD_FAILURE() << "cannot be left: " << stuck;
   }
 
   void FolderBack() const { fs::current_path(Folder()); }
 
+  // One of the next calls of some kind fails, but for those of the network, all of which do.
+  void Fault() const {
+    static const bool faults = std::getenv("MIRRELL_SOAK_FAULTS") != nullptr;
+    if (!faults || !user_->OneIn(3)) return;
+    const auto kind = static_cast<FaultKind>(user_->Below(static_cast<int>(FaultKind::Count)));
+    if (kind != FaultKind::Socket) FaultArm(kind, 1 + user_->Below(6));
+  }
+
   void Step() {
+    Fault();
     user_->SendAny();
     if (user_->OneIn(2)) user_->Wait(1 + user_->Below(30));
     for (int i = user_->Below(4); i > 0 && !QuitWasAsked(); --i) user_->PointAnywhere();

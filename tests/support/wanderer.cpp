@@ -181,7 +181,8 @@ void Wanderer::Leave(WindowHandle dialog, int attempt) {
       return control.id == id && control.role == ControlRole::Push;
     });
   };
-  if (attempt < 12) Note("leave " + std::to_string(TemplateOf(dialog)) + " by way " + std::to_string(attempt % 6));
+  if (attempt < 12)
+    Note("leave " + std::to_string(TemplateOf(dialog)) + " by way " + std::to_string(attempt % 6));
   switch (attempt % 6) {
     case 0:
       if (has(kOkButton)) Press(dialog, kOkButton);

@@ -17,6 +17,7 @@
 #include "newdata/cast.h"
 #include "newdata/host_file.h"
 #include "newdata/picture_files.h"
+#include "newdata/sample_map.h"
 #include "newdata/sample_scenario.h"
 #include "newdata/sound.h"
 #include "platform/file.h"
@@ -27,10 +28,15 @@
 #include "scenario/storage/snry_paths.h"
 #include "scenario/storage/snry_scene_file.h"
 #include "scenario/storage/snry_tables.h"
+#include "schedule/applications/application_list.h"
+#include "schedule/execution/schedule_run.h"
+#include "schedule/execution/scl_alarm.h"
 #include "schedule/model/schedule.h"
 #include "schedule/model/scl_file.h"
 #include "schedule/plan/plan.h"
 #include "schedule/plan/plan_file.h"
+#include "schedule/rates/scl_map.h"
+#include "services/data_file.h"
 #include "services/program.h"
 #include "services/state.h"
 #include "services/text.h"
@@ -157,6 +163,43 @@ TEST_F(DataSetTest, HoldsAScheduleThatBeginsOnItsDate) {
   EXPECT_EQ(items[12].hours, 0U);
 }
 
+// As the start does: the list of applications, then the schedule that it names.
+void StartExecution(const fs::path& folder) {
+  UseProgramFolder(folder);
+  StateReset(Schedule);
+  ASSERT_EQ(ApliListRead(), 0);
+  EXPECT_EQ(FileResult.FileStatus, 0);
+  SclExecutionLoad();
+}
+
+TEST_F(DataSetTest, CarriesItsScheduleOutWhereverItsFolderStands) {
+  const fs::path made = TestFolder("running");
+  const fs::path moved = TestFolder("moved");
+  MakeDataSet(made, MIRRELL_ASSETS_DIR, kDate);
+  RunSampleSchedule(made);
+  EXPECT_EQ(CheckDataSet(made), std::vector<std::string>{});
+  fs::rename(made, moved);
+  StartExecution(moved);
+  EXPECT_TRUE(Schedule.SclExecActive);
+  EXPECT_TRUE(SclIsRunning());
+  EXPECT_EQ(Schedule.SclExecMark, SclMark::Running);
+  EXPECT_STREQ(Schedule.SclExecTable.title, "見本の予定");
+  EXPECT_STREQ(Schedule.SclExecFile,
+               PosixToProgram((moved / kScheduleFolder / u8"見本の予定.GPI").string()).c_str());
+  EXPECT_STREQ(ApliPath(0),
+               PosixToProgram((moved / kScheduleFolder / u8"予定表 千里万象.exe").string()).c_str());
+  // On its first day, 21 November 2026, its second line is from 10 to 12.
+  const LocalTime ten{2026, 11, 21, 6, 10, 0, 0, 0};
+  SclAlarmsForget();
+  EXPECT_EQ(SclTickCheck(ten), 1);
+  EXPECT_EQ(SclAlarm.announce, 2);
+  SclAlarmsForget();
+  StateReset(Schedule);
+  ApliListFree();
+  StateReset(Applications);
+  fs::remove_all(moved);
+}
+
 // The tables and the cast of a scenario, read as the program does.
 class SampleScenarioTest : public DataSetTest {
  protected:
@@ -225,6 +268,58 @@ TEST_F(SampleScenarioTest, ItsScenesHaveBackdropsLinesMenusAndRandoms) {
   EXPECT_EQ(SnryCastAt(512).master, 12);
 }
 
+// --- The sample's map
+
+// The cells with marks: all lines of the market and of the store are done; at the library one
+// is begun beside one that is done, at home one is put off beside a done and an open one, and
+// the school has an open one only.
+TEST_F(DataSetTest, TheSampleScheduleHasAMapWithLinesInAllStates) {
+  char path[kRootPathSize];
+  RootPath(path, sizeof path, "\\スケジュール表\\見本の予定.GPI");
+  ASSERT_EQ(SclLoadFile(path), 0);
+  SclMapRead();
+  ASSERT_EQ(SclMapPositionCount(), 7);
+  EXPECT_EQ(SclStatusCount(), 3);
+  EXPECT_STREQ(Sef.stages[3].name, "図書館");
+  std::string marks;
+  SclMapMarks(
+      [](const SclMapMark& mark, void* text) {
+        *static_cast<std::string*>(text) += std::to_string(mark.column + 1) + "," +
+                                            std::to_string(mark.row + 1) + " " + Sef.types.names[mark.type] +
+                                            "; ";
+      },
+      &marks);
+  EXPECT_EQ(marks,
+            "5,2 できた; 8,1 とりかかり中; 4,4 とりかかり中; 2,2 あとまわし; 6,5 あとまわし; 9,4 できた; ");
+  SclMapPicturesLoad();
+  EXPECT_EQ(DibWidth(SclMap.picture), 800);
+  EXPECT_EQ(DibHeight(SclMap.picture), 480);
+  for (int type = 0; type < 3; ++type) {
+    EXPECT_EQ(DibWidth(SclMap.marks[type]), Sef.grid.cellWidth);
+    EXPECT_EQ(DibHeight(SclMap.masks[type]), Sef.grid.cellHeight);
+  }
+  SclMapPicturesFree();
+}
+
+TEST_F(DataSetTest, AScheduleThatIsCutIsAFault) {
+  Cut(Made(kScheduleFolder) / u8"見本の予定.GPI", 1000);
+  EXPECT_TRUE(HasFault(Cp932ToUtf8("見本の予定.GPI is no schedule")));
+}
+
+TEST_F(DataSetTest, AMapWithoutItsFilesIsAFault) {
+  Cut(Made(kSampleMapFolder) / u8"どんぐり町_1_1.sef", 400);
+  EXPECT_TRUE(HasFault(Cp932ToUtf8("見本の予定.GPI: the files of its map cannot be read")));
+  EXPECT_TRUE(HasFault(Cp932ToUtf8("見本の予定.GPI: line 1 stands at no place of its map")));
+  EXPECT_TRUE(HasFault(Cp932ToUtf8("見本の予定.GPI: line 1 has a status that its map does not know")));
+}
+
+TEST_F(DataSetTest, AMapWithoutItsPictureOrAMarkIsAFault) {
+  Cut(Made(kSampleMapFolder) / kBackgroundFolder / u8"どんぐり町.bmp", 20);
+  Cut(Made(kCharacterFolder) / u8"Chara26_2.bmp", 20);
+  EXPECT_TRUE(HasFault(Cp932ToUtf8("見本の予定.GPI: its map has no picture")));
+  EXPECT_TRUE(HasFault(Cp932ToUtf8("見本の予定.GPI: status 2 has no mark")));
+}
+
 TEST_F(DataSetTest, HoldsEveryFileByItsName) {
   const std::map<std::string, Bytes> files = AllFiles(Made(""));
   std::size_t expected = 4 + 2 + 2 + Sounds().size();  // data files, world list, plans
@@ -232,8 +327,11 @@ TEST_F(DataSetTest, HoldsEveryFileByItsName) {
                            "mirrell_ClcAlmPerFile.clc"}) {
     EXPECT_TRUE(files.contains(name)) << name;
   }
-  ++expected;
-  EXPECT_TRUE(files.contains(Cp932ToUtf8("スケジュール表/見本の予定.GPI")));
+  for (const char* name : {"スケジュール表/見本の予定.GPI", "どんぐり町/どんぐり町_1_1.sef",
+                           "どんぐり町/どんぐり町.wef", "どんぐり町/背景/どんぐり町.bmp"}) {
+    ++expected;
+    EXPECT_TRUE(files.contains(Cp932ToUtf8(name))) << Cp932ToUtf8(name);
+  }
   for (const char* name :
        {"ワールド/SNRYLIST.sli", "どんぐりの森/シナリオメイン.cff", "どんぐりの森/森の朝/広場.scd",
         "どんぐりの森/森の朝/川べり.scd", "どんぐりの森/森の朝/書庫.scd", "どんぐりの森/星の夜/丘.scd",
@@ -378,6 +476,19 @@ TEST_F(DataSetTest, EveryMonthOfEveryCalendarHasItsPicture) {
 TEST_F(DataSetTest, CheckFindsAMissingBackground) {
   Remove(Made("") / u8"背景" / u8"春.bmp");
   EXPECT_TRUE(HasFault(Cp932ToUtf8("calendar 1, month 3: the background 春.bmp is not there")));
+}
+
+// The day page of the third calendar writes with the figures of character 23.
+TEST_F(DataSetTest, CheckFindsAMissingDigit) {
+  Remove(MadePicture("Chara23_5.bmp"));
+  EXPECT_TRUE(HasFault("calendar 3, digit: character 23 has no frame 5"));
+}
+
+TEST_F(DataSetTest, CheckFindsASpoiltMaskOfADigit) {
+  Spoil(MadePicture("Chara23_5x.bmp"), 54, 1);
+  const std::vector<std::string> faults = CheckDataSet(Made(""));
+  ASSERT_EQ(faults.size(), 1U);
+  EXPECT_EQ(faults[0].rfind("character 23 frame 5: the mask is neither black nor white at ", 0), 0U);
 }
 
 TEST_F(DataSetTest, ClockAlarmFileHoldsThreePerformances) {

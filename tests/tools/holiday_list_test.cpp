@@ -155,16 +155,16 @@ TEST_F(HolidayListFolder, TheCalendarsAreCountedByTheirFileAndNotByTheSettings) 
   ReadBack();
   ASSERT_EQ(Calendar.CalenCount, 3);
   const fs::path settings = folder_ / "set" / "mirrell_sys_file.svs";
-  for (const unsigned char count : {2, 31, 255}) {
+  for (const int count : {2, 31, 255}) {
     Bytes bytes = ReadHostFile(settings);
-    for (std::size_t i = 0; i < 4; ++i) bytes.at(2182 + i) = i == 3 || count == 255 ? count : 0;
-    bytes.at(2182) &= 0x7F;
+    for (std::size_t i = 0; i < 3; ++i) bytes.at(2182 + i) = count < 255 ? 0 : 0x7F;
+    bytes.at(2185) = static_cast<unsigned char>(count);
     WriteHostFile(settings, bytes);
-    EXPECT_EQ(CheckDataSet(folder_ / "set"), std::vector<std::string>{}) << int{count};
+    EXPECT_EQ(CheckDataSet(folder_ / "set"), std::vector<std::string>{}) << count;
     const std::string line = "2026/7/1" + std::to_string(count % 10) + ",x\n";
     EXPECT_EQ(TakeHolidays(folder_ / "set", ReadHolidayList(line).days).set, 1);
     ReadBack();
-    EXPECT_EQ(Calendar.CalenCount, 3) << int{count};
+    EXPECT_EQ(Calendar.CalenCount, 3) << count;
     for (int i = 0; i < 3; ++i) EXPECT_EQ(Calendar.CalenSheets[i][6].holidays[9 + count % 10], 1);
   }
 }

@@ -14,12 +14,13 @@ enum class Role {
   Dial,     // a clock design
   Sticker,  // its frames are stuck on days of a calendar
   Figure,   // stands or moves on a calendar's page
+  Mark,     // its frames are put into the cells of a schedule's map
 };
 
-// Stickers and the figures of a page are never a window's shape, so they have no outlines
-// and may be in pieces.
+// Stickers, the figures of a page and marks are never a window's shape, so they have no
+// outlines and may be in pieces.
 constexpr bool HasOutline(Role role) {
-  return role != Role::Sticker && role != Role::Figure;
+  return role != Role::Sticker && role != Role::Figure && role != Role::Mark;
 }
 
 // How the windows of a role are shaped.

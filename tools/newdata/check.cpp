@@ -17,11 +17,14 @@
 #include "newdata/outline_file.h"
 #include "newdata/polygon.h"
 #include "platform/posix/posix_paths.h"
+#include "schedule/model/scl_file.h"
 #include "schedule/plan/plan_file.h"
+#include "schedule/rates/scl_map.h"
 #include "services/data_file.h"
 #include "services/dib.h"
 #include "services/record.h"
 #include "shell/settings.h"
+#include "world/wef_file.h"
 #include "world/world_list.h"
 
 namespace {
@@ -76,6 +79,7 @@ class Checker {
     CheckSettings();
     CheckCalendars();
     CheckPlans();
+    CheckSchedules();
     for (const std::string& sound : sounds_) CheckSound(sound);
     return faults_;
   }
@@ -288,8 +292,22 @@ class Checker {
     Demand(background.empty() || std::filesystem::is_regular_file(folder_ / kBackgroundFolder / background),
            name + ": the background " + background + " is not there");
     for (int place = 0; place < kDefinitionPlaces; ++place) {
-      if (definition.charas[month][place] != 0)
-        DemandFrame(definition.charas[month][place], definition.figures[month][place], name);
+      const int chara = definition.charas[month][place];
+      if (chara == 0) continue;
+      DemandFrame(chara, definition.figures[month][place], name);
+      calendarCharas_.insert(chara);
+    }
+  }
+
+  // The digits of a page that writes with figures.
+  void CheckDigits(const CalenDefinition& definition, const std::string& name) {
+    constexpr int kDesignOfFigures = 2;
+    constexpr int kDigits = 10;
+    if (definition.design < kDesignOfFigures) return;
+    for (const int chara : {definition.figureSet1, definition.figureSet2}) {
+      if (chara == 0) continue;
+      for (int digit = 0; digit < kDigits; ++digit) DemandFrame(chara, digit, name + ", digit");
+      calendarCharas_.insert(chara);
     }
   }
 
@@ -301,6 +319,7 @@ class Checker {
       Demand(Calendar.CalenNames[i][0] != '\0', name + ": no name");
       Demand(Calendar.CalenDefinitions[i].valid == 1, name + ": not valid");
       Demand(Calendar.CalenDefinitions[i].ruleKinds[0] != 0, name + ": no holiday rules");
+      CheckDigits(Calendar.CalenDefinitions[i], name);
       for (int month = 0; month < kMonthsOfYear; ++month) {
         const CalenMonth& block = Calendar.CalenSheets[i][month];
         Demand(block.days == SclDaysInMonth(Calendar.CalenFirstYear, month) &&
@@ -310,6 +329,7 @@ class Checker {
                           name + ", month " + std::to_string(month + 1));
       }
     }
+    for (const int chara : calendarCharas_) CheckCharacter(chara, nullptr);
   }
 
   // The user's and the samples.
@@ -320,6 +340,44 @@ class Checker {
       const std::string path = PosixToProgram(std::filesystem::absolute(item.path()).string());
       Demand(ScpLoadFile(path.c_str()) == 0, item.path().filename().string() + " is no plan");
     }
+  }
+
+  void CheckSchedules() {
+    const std::filesystem::path schedules = folder_ / kScheduleFolder;
+    if (!std::filesystem::is_directory(schedules)) return;
+    for (const auto& item : std::filesystem::directory_iterator(schedules)) {
+      if (item.path().extension() != ".GPI") continue;
+      const std::string path = PosixToProgram(std::filesystem::absolute(item.path()).string());
+      const std::string name = item.path().filename().string();
+      const bool read = SclLoadFile(path.c_str()) == 0;
+      Demand(read, name + " is no schedule");
+      if (read && Schedule.SclMapFile[0] != '\0') CheckMap(name);
+    }
+  }
+
+  // The map that a schedule is tied to, and what its lines are on it.
+  void CheckMap(const std::string& name) {
+    SclMapRead();
+    Demand(SclMapPositionCount() > 0 && SclStatusCount() > 0 && Wef.sceneCount > 0,
+           name + ": the files of its map cannot be read");
+    SclMapPicturesLoad();
+    Demand(DibBits(SclMap.picture) != nullptr, name + ": its map has no picture");
+    for (int type = 0; type < SefTypeCount(); ++type) {
+      Demand(Sef.types.numbers[type] == 0 || (Is24Bit(SclMap.marks[type]) && Is24Bit(SclMap.masks[type])),
+             name + ": status " + std::to_string(Sef.types.numbers[type]) + " has no mark");
+    }
+    SclMapPicturesFree();
+    for (int line = 0; line < Schedule.SclHeader.count; ++line) CheckLine(name, line);
+  }
+
+  void CheckLine(const std::string& name, int line) {
+    const int column = Schedule.SclMapColumn[line];
+    const int row = Schedule.SclMapRow[line];
+    const int status = Schedule.SclItemTable[line].doneState;
+    const std::string text = name + ": line " + std::to_string(line + 1);
+    Demand((column == 0 && row == 0) || SclMapPositionFind(column, row) >= 0,
+           text + " stands at no place of its map");
+    Demand(status == 0 || SclStatusRowOf(status) >= 0, text + " has a status that its map does not know");
   }
 
   void CheckSound(const std::string& cp932) {
@@ -341,6 +399,7 @@ class Checker {
 
   std::filesystem::path folder_;
   std::set<std::string> sounds_;
+  std::set<int> calendarCharas_;
   std::vector<std::string> faults_;
 };
 

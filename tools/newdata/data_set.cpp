@@ -12,11 +12,13 @@
 #include "newdata/host_file.h"
 #include "newdata/picture_files.h"
 #include "newdata/plan_samples.h"
+#include "newdata/sample_map.h"
 #include "newdata/sample_scenario.h"
 #include "newdata/tables.h"
 #include "newdata/world_list_file.h"
 #include "platform/posix/posix_paths.h"
 #include "platform/posix/test_clock.h"
+#include "schedule/applications/application_list.h"
 #include "schedule/model/scl_file.h"
 #include "services/data_file.h"
 #include "services/program.h"
@@ -66,10 +68,12 @@ void StillFigures() {
         Calendar.CalenFigPeriod, Calendar.CalenFigStep, Calendar.CalenFigTurn, Calendar.CalenFigDir);
 }
 
+constexpr char kSampleSchedule[] = "\\スケジュール表\\見本の予定.GPI";
+
 // The samples that a user finds when a file is to be loaded.
 void WriteSamples(const DataSetDate& date) {
   char path[kRootPathSize];
-  RootPath(path, sizeof path, "\\スケジュール表\\見本の予定.GPI");
+  RootPath(path, sizeof path, kSampleSchedule);
   FillSchedule(date.year, date.month, date.day);
   Demand(SclSaveFile(path), "見本の予定.GPI");
 }
@@ -106,6 +110,18 @@ void UseProgramFolder(const std::filesystem::path& folder) {
   if (path.size() > 3 && path.back() == '\\') Program.RootFolder[path.size() - 1] = '\0';
 }
 
+// Whatever carries a schedule out is in the list of applications; its paths lie below the
+// program folder, wherever that is going to stand.
+void RunSampleSchedule(const std::filesystem::path& folder) {
+  UseProgramFolder(folder);
+  ApliListFree();
+  Applications = {};
+  Demand(ApliListSetFirst("スケジュール表\\予定表 千里万象.exe"), "mirrell_apli_list_file.ali");
+  Applications.ApliSelected = 1;
+  TextCopy(Applications.ApliSchedule.path, kApliPathSize, kSampleSchedule + 1);
+  Demand(ApliListSave(), "mirrell_apli_list_file.ali");
+}
+
 void MakeDataSet(const std::filesystem::path& folder, const std::filesystem::path& assets,
                  const DataSetDate& date) {
   const std::filesystem::path characters = folder / kCharacterFolder;
@@ -122,6 +138,7 @@ void MakeDataSet(const std::filesystem::path& folder, const std::filesystem::pat
   std::filesystem::create_directories(backgrounds);
   WriteBackgrounds(assets / "backgrounds", backgrounds);
   WriteSampleScenario(std::filesystem::absolute(folder), assets);
+  WriteSampleMap(folder, assets);
   UseProgramFolder(folder);
   WriteDataFiles(date);
 }

@@ -13,10 +13,14 @@ struct DataSetDate {
 
 // Makes the whole data set in `folder`, which is made if it is not there. Files
 // of an older set are replaced. `assets` holds the folders "characters",
-// "backgrounds" and "sounds"; the calendars begin with the year of `date`. The same assets and date
-// give the same files. Throws std::runtime_error that says what went wrong.
+// "backgrounds", "map", "scenario" and "sounds"; the calendars begin with the year of `date`. The same assets
+// and date give the same files. Throws std::runtime_error that says what went wrong.
 void MakeDataSet(const std::filesystem::path& folder, const std::filesystem::path& assets,
                  const DataSetDate& date);
+
+// Has the companion of a data set carry out its sample schedule, with its alarms, from the
+// next start on; its own list of applications begins anew. Throws std::runtime_error.
+void RunSampleSchedule(const std::filesystem::path& folder);
 
 // Reads the data set of a folder back as the program does, and returns what is
 // wrong with it, one line for each fault; nothing for a good set.

@@ -18,6 +18,8 @@ namespace {
 constexpr char kUsage[] =
     "usage: mirrell-newdata [--assets DIR] [--date YYYY-MM-DD] FOLDER   makes a data set in a program "
     "folder\n"
+    "           [--run-schedule]                                        ... whose sample schedule is "
+    "carried out\n"
     "       mirrell-newdata --check FOLDER                              reads one back and tells its faults\n"
     "       mirrell-newdata [--assets DIR] --icon FILE                  makes the program's icon\n"
     "       mirrell-newdata holidays FILE FOLDER                        sets the holidays of a list (date, "
@@ -31,6 +33,7 @@ struct Arguments {
   std::filesystem::path list;  // of holidays
   std::filesystem::path target;
   DataSetDate date{};
+  bool runSchedule = false;
 };
 
 DataSetDate Today() {
@@ -70,6 +73,8 @@ Arguments Parse(const std::vector<std::string>& words) {
       arguments.assets = value();
     } else if (words[i] == "--date") {
       arguments.date = ParseDate(value());
+    } else if (words[i] == "--run-schedule") {
+      arguments.runSchedule = true;
     } else if (words[i] == "--check" || words[i] == "--icon") {
       arguments.job = words[i] == "--check" ? Job::Check : Job::Icon;
     } else if (words[i] == "holidays" && i == 0) {
@@ -122,6 +127,7 @@ int main(int count, char** words) {
     switch (arguments.job) {
       case Job::Make:
         MakeDataSet(arguments.target, arguments.assets, arguments.date);
+        if (arguments.runSchedule) RunSampleSchedule(arguments.target);
         break;
       case Job::Check:
         return Check(arguments.target);

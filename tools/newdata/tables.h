@@ -15,5 +15,6 @@ void FillClocks();
 // are flagged in the years of the working array.
 void FillCalendars(int year);
 
-// A schedule of a few weeks from that date on, with alarms.
+// A schedule of a few weeks from that date on, with alarms, and with lines in all states at
+// the places of the sample map.
 void FillSchedule(int year, int month, int day);

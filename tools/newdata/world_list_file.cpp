@@ -26,13 +26,6 @@ void PutName(char (&to)[N], const std::string& name, std::size_t size = N - 1) {
   std::copy(name.begin(), name.end(), to);
 }
 
-// Adds a record to a file.
-template <class T>
-void AddRecord(Bytes& file, const T& record) {
-  file.resize(file.size() + static_cast<std::size_t>(RecordSize<T>()));
-  RecordPut(record, file.data() + file.size() - RecordSize<T>(), RecordSize<T>());
-}
-
 int LastNumber(const std::vector<CastMember>& cast) {
   int last = 0;
   for (const CastMember& member : cast) last = std::max(last, member.number);

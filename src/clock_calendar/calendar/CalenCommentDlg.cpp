@@ -5,15 +5,13 @@
 #include "platform/dialog.h"
 #include "platform/window.h"
 #include "resources/calendar_ids.h"
-#include "services/boxes.h"
 #include "services/dialog_acts.h"
 #include "services/dialog_family.h"
 #include "services/program.h"
+#include "services/settings_save.h"
 #include "services/text.h"
 
 namespace {
-
-constexpr BoxWords kNotSaved{"ファイルセーブできません", "カレンダー書き込み"};
 
 void Open(WindowHandle dialog) {
   CalenEditNoteBegin();
@@ -30,7 +28,7 @@ void Open(WindowHandle dialog) {
 void Write(WindowHandle dialog) {
   char note[kNoteSize];
   ControlGetText(dialog, IDC_CALEN_NOTE, note, sizeof note);
-  if (!CalenEditNoteWrite(note)) BoxTell(dialog, kNotSaved);
+  SaveTold(dialog, CalenEditNoteWrite(note), "カレンダー書き込み");
   SubDialogEnd(dialog, kOkButton);
 }
 

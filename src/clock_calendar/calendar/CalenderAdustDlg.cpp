@@ -1,7 +1,6 @@
 // CalenderAdustDlg, "カレンダー 詳細設定": the selected calendar, with a month that can be
 // clicked.
 #include <algorithm>
-#include <cstring>
 
 #include "clock_calendar/calendar/calendar_dialogs.h"
 #include "clock_calendar/calendar/calendar_edit.h"
@@ -18,6 +17,7 @@
 #include "services/drawing_objects.h"
 #include "services/form.h"
 #include "services/painting.h"
+#include "services/settings_save.h"
 #include "services/text.h"
 
 namespace {
@@ -90,8 +90,6 @@ constexpr int kHeadHeight = 20;
 constexpr int kWeeks = 6;
 constexpr Rect kGrid = {kGridAt.x, kGridAt.y, kGridAt.x + kDaysOfWeek* kCellWidth + 1,
                         kGridAt.y + kHeadHeight + kWeeks* kCellHeight + 1};
-constexpr Colour kRed = 0x0000FF;
-constexpr Colour kBlack = 0;
 
 CalenPage EditedPage() {
   return CalenPagePreview(CalenYearShown(), CalendarEdit.month, CalendarEdit.pictures);
@@ -127,7 +125,7 @@ void FrameDraw(Canvas* canvas, const Rect& area) {
   CanvasRectangle(canvas, area.left, area.top, area.right, area.bottom);
   for (int column = 0; column < kDaysOfWeek; ++column) {
     const char* name = CalenWeekdayName(column);
-    CanvasTextColour(canvas, column == 0 ? kRed : kBlack);
+    CanvasTextColour(canvas, column == 0 ? kCalenRed : kCalenBlack);
     const int x = area.left + column * kCellWidth + (kCellWidth - CanvasTextWidth(canvas, name)) / 2;
     CanvasText(canvas, x, area.top + 2, name);
   }
@@ -152,8 +150,7 @@ void Paint(WindowHandle dialog) {
 int DayAt(int x, int y) {
   const CalenPage page = EditedPage();
   for (int day = 0; day < CalenPageDays(page); ++day) {
-    const Rect cell = CellOf(page, day, kGridAt);
-    if (x >= cell.left && x < cell.right && y >= cell.top && y < cell.bottom) return day;
+    if (RectHas(CellOf(page, day, kGridAt), x, y)) return day;
   }
   return -1;
 }
@@ -240,19 +237,18 @@ void Image(WindowHandle dialog) {
 }
 
 struct Clearing {
-  const char* question;  // names the month
+  const char* question;  // behind the number of the month
   const char* caption;
   void (*clear)();
 };
-constexpr Clearing kNotes{"%d月の書きこみをクリアします", "月の書きこみクリア", CalenEditNotesClear};
-constexpr Clearing kHolidays{"%d月の休日設定を全て解除します", "月の休日設定全解除", CalenEditHolidaysClear};
-constexpr Clearing kStickers{"%d月のシールを全て剥します", "月の全シールを剥す", CalenEditStickersClear};
+constexpr Clearing kNotes{"月の書きこみをクリアします", "月の書きこみクリア", CalenEditNotesClear};
+constexpr Clearing kHolidays{"月の休日設定を全て解除します", "月の休日設定全解除", CalenEditHolidaysClear};
+constexpr Clearing kStickers{"月のシールを全て剥します", "月の全シールを剥す", CalenEditStickersClear};
 
 template <const Clearing& clearing>
 void Clear(WindowHandle dialog) {
   char question[kNoteSize];
-  const char* rest = clearing.question + std::strlen("%d");
-  TextFormat(question, sizeof question, "%d%s", CalendarEdit.month + 1, rest);
+  TextFormat(question, sizeof question, "%d%s", CalendarEdit.month + 1, clearing.question);
   if (!BoxAsk(dialog, question, clearing.caption)) return;
   clearing.clear();
   DayShow(dialog);
@@ -276,7 +272,7 @@ void Leave(WindowHandle dialog) {
   CalenTakeDefinition();
   if (CalendarEdit.changed) {
     CalendarEdit.live = false;
-    if (CalenSave() != 0) BoxTell(dialog, "ファイルセーブできません", "カレンダー 詳細設定");
+    SaveTold(dialog, CalenSave() == 0, "カレンダー 詳細設定");
   }
   CalenWindowRenew();
   ToolDialogEnd(dialog, kOkButton);

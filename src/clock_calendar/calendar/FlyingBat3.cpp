@@ -217,5 +217,5 @@ void CalenWindowRenew() {
 int CalenWindowDue() {
   LocalTime now;
   TimeGetLocal(&now);
-  return std::min({CalenTickerDue(), CalenFiguresDue(), TicksToNextMinute(now)});
+  return std::min({CalenTickerDue(), CalenFiguresDue(), TicksToMidnight(now)});
 }

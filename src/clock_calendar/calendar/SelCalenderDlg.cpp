@@ -9,7 +9,6 @@
 #include "platform/dialog.h"
 #include "platform/window.h"
 #include "resources/calendar_ids.h"
-#include "services/boxes.h"
 #include "services/dialog_acts.h"
 #include "services/dialog_family.h"
 #include "services/dib.h"
@@ -47,8 +46,7 @@ const CalenMonthPicture& PictureOf(int place) {
 }
 
 void PictureDraw(Canvas* canvas, const Rect& area) {
-  const unsigned char(&colour)[3] = CalendarEdit.bmp.picture.backColour;
-  FillColour(canvas, MakeColour(colour[0], colour[1], colour[2]), area);
+  FillColour(canvas, ColourOf(CalendarEdit.bmp.picture.backColour), area);
   DibDraw(canvas, area.left, area.top, CalendarEdit.pictures.CalenBackground);
 }
 
@@ -116,7 +114,7 @@ void Accept(WindowHandle dialog) {
   const bool other = show != Calendar.CalenShow;
   Calendar.CalenShow = show;
   const bool kept = CalendarEdit.live ? CalenSave() == 0 : !other || SysFileWrite() == 0;
-  if (!kept) BoxTell(dialog, "ファイルセーブできません", "カレンダー 選択/設定");
+  SaveTold(dialog, kept, "カレンダー 選択/設定");
   if (other || CalendarEdit.live) CalenWindowRenew();
   MenuDialogEnd(dialog, kOkButton);
 }

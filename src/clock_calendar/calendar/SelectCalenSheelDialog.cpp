@@ -39,12 +39,12 @@ void StickersLoad() {
     int chara = 0;
     int figure = 0;
     CalenSticker(i, &chara, &figure);
-    if (chara != 0) CalenPictureLoad(CalendarEdit.stickers[i], chara, figure);
+    if (chara != 0) MaskedFrameLoad(CalendarEdit.stickers[i], chara, figure);
   }
 }
 
 void StickersFree() {
-  for (CalenPicture& sticker : CalendarEdit.stickers) CalenPictureFree(sticker);
+  for (MaskedFrame& sticker : CalendarEdit.stickers) MaskedFrameFree(sticker);
 }
 
 void Open() {
@@ -57,7 +57,7 @@ void CellDraw(Canvas* canvas, const Rect& cell, int sticker) {
   CanvasPen(canvas, Drawing.Pens[chosen ? kPenThick0000FF : kPen646464]);
   CanvasBrush(canvas, Drawing.Brushes[kBrushFFFFFF]);
   CanvasRectangle(canvas, cell.left, cell.top, cell.right, cell.bottom);
-  const CalenPicture& picture = CalendarEdit.stickers[sticker];
+  const MaskedFrame& picture = CalendarEdit.stickers[sticker];
   CalenPictureDraw(canvas, picture,
                    {cell.left + (RectWidth(cell) - DibWidth(picture.picture)) / 2,
                     cell.top + (RectHeight(cell) - DibHeight(picture.picture)) / 2});
@@ -74,9 +74,7 @@ void Paint(WindowHandle dialog) {
 void Click(const Event& event) {
   const Grid grid = GridOf(event.window);
   for (int i = 0; i < CalenStickerCount(); ++i) {
-    const Rect cell = CellOf(grid, i);
-    if (event.x < cell.left || event.x >= cell.right || event.y < cell.top || event.y >= cell.bottom)
-      continue;
+    if (!RectHas(CellOf(grid, i), event.x, event.y)) continue;
     CalendarEdit.chosenSticker = i;
     Paint(event.window);
     return;

@@ -121,9 +121,10 @@ void BackgroundPick(WindowHandle dialog) {
 }
 
 void Accept(WindowHandle dialog) {
+  const CalenBmpEdit before = CalendarEdit.bmp;
   FormTake(dialog, CalendarEdit.bmp, Exchange);
   ModesTake();
-  CalenEditBmpPut();
+  if (CalendarEdit.bmp != before) CalenEditBmpPut();
   SubDialogEnd(dialog, kOkButton);
 }
 

@@ -46,8 +46,6 @@ inline constexpr int kCalenSettingsCount = 8;  // the calendars that the setting
 
 enum CalenPageKind { kPageMonth = 0, kPageWeek = 1, kPageDay = 2 };
 
-// --- What is on show, kept in the settings file.
-
 // --- Ways into the tables. An index out of a file is held inside its table.
 
 int CalenSelected();  // CalenSel, 0 if it is no calendar's place
@@ -125,8 +123,8 @@ void CalenTickerSetup();
 // Asks for today's date and puts its month on display, and its year if the span has it: for
 // a dialog that opens without the window.
 void CalenTodayTake();
-// Puts the year and month of today on display, moving the span there if it lies
-// outside, and loads the pictures. The calendar window calls it when it opens.
+// Puts the year and month of today on display, moving the span there if it is over, and
+// loads the pictures if they are not. The calendar window calls it when it opens.
 void CalenShowToday();
 // The day of today, from 0, when its month is the one on display; else -1.
 int CalenTodayShown();
@@ -137,7 +135,7 @@ void CalenPrepareMonth();
 
 // --- The tick.
 
-// Takes a new date over and moves the figures. Returns 1 when the calendar must
+// Takes a new date over from the tick's time and moves the figures. Returns 1 when the calendar must
 // be drawn again.
 int CalenTickCheck();
 
@@ -225,9 +223,9 @@ struct CalendarState {
 };
 extern CalendarState Calendar;
 
-// Looks for a note as CalenNoteMode asks and puts it into CalenNotes. Returns 1
-// when there is one, and again until it has been taken. A day's note that has been
-// taken comes back only on another date.
+// Looks on the date of the tick's time for a note as CalenNoteMode asks and puts it into CalenNotes. Returns
+// 1 when there is one, and again until it has been taken. A day's note that has been taken comes back only on
+// another date.
 int CalenNoteCheck();
 // True while a note waits in CalenNotes.
 bool CalenNoteWaits();

@@ -26,7 +26,7 @@ struct CalendarEditState {
   std::int32_t noteYear = 0;  // two digits
   std::int32_t noteMonth = 0;
   std::int32_t noteDay = 0;
-  CalenPicture stickers[kStickerMax] = {};  // of the dialog that chooses one
+  MaskedFrame stickers[kStickerMax] = {};  // of the dialog that chooses one
 };
 extern CalendarEditState CalendarEdit;
 

@@ -14,18 +14,14 @@ constexpr Point kArrowHit = {18, 16};
 constexpr int kCloseWidth = 20;
 constexpr int kArrowStep = 20;
 
-bool Inside(const Rect& box, int x, int y) {
-  return x >= box.left && x < box.right && y >= box.top && y < box.bottom;
-}
-
 Rect BoxAt(int x, int y, Point size) {
   return {x, y, x + size.x, y + size.y};
 }
 
 int MemoHit(int x, int y) {
-  if (Inside(CalenMemoCloseBox(), x, y)) return kHitMemoClose;
+  if (RectHas(CalenMemoCloseBox(), x, y)) return kHitMemoClose;
   for (const int way : {kHitMemoBack, kHitMemoOn}) {
-    if (Inside(CalenMemoArrow(way), x, y)) return way;
+    if (RectHas(CalenMemoArrow(way), x, y)) return way;
   }
   return kHitNothing;
 }
@@ -66,7 +62,7 @@ int CalenHitTest(int x, int y) {
   for (int day = 0; day < kCalenDayMax; ++day) {
     const Point cell = {Calendar.CalenHitX[day], Calendar.CalenHitY[day]};
     const Point size = {Calendar.CalenHitWidth, Calendar.CalenHitHeight};
-    if (cell.y >= 0 && Inside(BoxAt(cell.x, cell.y, size), x, y)) return day + 1;
+    if (cell.y >= 0 && RectHas(BoxAt(cell.x, cell.y, size), x, y)) return day + 1;
   }
   return kHitNothing;
 }

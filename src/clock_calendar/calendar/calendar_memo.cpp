@@ -3,6 +3,7 @@
 
 #include "clock_calendar/calendar/calendar.h"
 #include "clock_calendar/calendar/calendar_hits.h"
+#include "clock_calendar/calendar/calendar_page.h"
 #include "clock_calendar/calendar/calendar_size.h"
 #include "services/drawing_objects.h"
 #include "services/painting.h"
@@ -35,9 +36,7 @@ void CloseBoxDraw(Canvas* canvas) {
 
 void ArrowDraw(Canvas* canvas, int way, const char* sign) {
   const Rect box = CalenMemoArrow(way);
-  CanvasPen(canvas, Drawing.Pens[kPen646464]);
-  CanvasBrush(canvas, Drawing.Brushes[kBrushFFFFFF]);
-  CanvasRectangle(canvas, box.left, box.top, box.right, box.bottom);
+  CalenBoxDraw(canvas, box);
   CanvasText(canvas, box.left + kArrowTextX, box.top, sign);
 }
 

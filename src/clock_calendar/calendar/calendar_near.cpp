@@ -4,6 +4,7 @@
 #include "clock_calendar/calendar/calendar.h"
 #include "clock_calendar/calendar/calendar_fonts.h"
 #include "clock_calendar/calendar/calendar_memo.h"
+#include "clock_calendar/calendar/calendar_page.h"
 #include "clock_calendar/calendar/calendar_picture.h"
 #include "clock_calendar/calendar/calendar_size.h"
 #include "services/painting.h"
@@ -16,12 +17,7 @@ constexpr int kEntrySize = kNoteSize + 16;
 constexpr int kListHeight = 20;
 constexpr int kStripHeight = 20;
 constexpr int kTextInStrip = 2;
-constexpr Colour kBlack = 0;
 constexpr Colour kComplement = 0xFFFFFF;
-
-Colour ColourOf(const unsigned char (&colour)[3]) {
-  return MakeColour(colour[0], colour[1], colour[2]);
-}
 
 void EntryText(int day, char (&text)[kEntrySize]) {
   char note[kNoteSize + 1];
@@ -46,7 +42,7 @@ void CalenNearListDraw(Canvas* canvas, Point at, int width) {
       ++line;
     }
     if (line >= kLines) return;
-    CanvasTextColour(canvas, Calendar.CalenNearDays[i] == CalenTodayShown() ? today : kBlack);
+    CanvasTextColour(canvas, Calendar.CalenNearDays[i] == CalenTodayShown() ? today : kCalenBlack);
     CanvasText(canvas, at.x + x, at.y + line * (kCalenSmallLine + 2), text);
     x += entry;
   }

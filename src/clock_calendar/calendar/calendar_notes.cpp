@@ -4,7 +4,7 @@
 #include <iterator>
 
 #include "clock_calendar/calendar/calendar.h"
-#include "platform/time.h"
+#include "services/today.h"
 
 namespace {
 
@@ -59,8 +59,7 @@ int MarksAskedFor() {
 
 int CalenNoteCheck() {
   if (Calendar.CalenNoteMode <= kNoteNever) return 0;
-  LocalTime now;
-  TimeGetLocal(&now);
+  const LocalTime& now = Today.SharedTime;
   const SclDate today = {now.year - 2000, now.month - 1, now.day - 1, 0};
   const int yearIndex = CalenSpanIndex(today.year);
   if (yearIndex < 0) return 0;

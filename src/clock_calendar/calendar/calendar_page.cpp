@@ -12,9 +12,6 @@
 
 namespace {
 
-constexpr Colour kRed = 0x0000FF;
-constexpr Colour kBlack = 0;
-
 constexpr const char* kWeekdays[] = {"日", "月", "火", "水", "木", "金", "土"};
 constexpr const char* kEnglishWeekdays[] = {"Sun", "Mon", "Tue", "Wed", "Thu", "Fri", "Sat"};
 constexpr const char* kEnglishMonths[] = {"January",   "February", "March",    "April",
@@ -23,10 +20,6 @@ constexpr const char* kEnglishMonths[] = {"January",   "February", "March",    "
 
 bool English() {
   return CalenSelectedDefinition().english != 0;
-}
-
-Colour RuleColour(const unsigned char (&colour)[3]) {
-  return MakeColour(colour[0], colour[1], colour[2]);
 }
 
 // Where a page is painted in its window, by its kind: the week page stands to the left.
@@ -105,10 +98,10 @@ int CalenViewDay(const CalenPage& page) {
 }
 
 Colour CalenDayColour(const CalenPage& page, int day) {
-  if (CalenColumnOf(page, day) == 0 || CalenHolidayFlag(page.yearIndex, page.month, day)) return kRed;
+  if (CalenColumnOf(page, day) == 0 || CalenHolidayFlag(page.yearIndex, page.month, day)) return kCalenRed;
   const int rule = CalenHolidayRule(page.yearIndex, page.month, day, HolidayUse::Display);
   const CalenDefinition& definition = CalenSelectedDefinition();
-  return rule == 1 ? RuleColour(definition.colour1) : rule == 2 ? RuleColour(definition.colour2) : kBlack;
+  return rule == 1 ? ColourOf(definition.colour1) : rule == 2 ? ColourOf(definition.colour2) : kCalenBlack;
 }
 
 bool CalenDayHasNote(const CalenPage& page, int day) {
@@ -122,7 +115,7 @@ Point CalenPageCorner() {
 void CalenPageDraw(Canvas* canvas, const CalenPage& page, Point at) {
   CanvasFont(canvas, CalenPageFont());
   CanvasBackTransparent(canvas, true);
-  CanvasTextColour(canvas, kBlack);
+  CanvasTextColour(canvas, kCalenBlack);
   if (Calendar.CalenKind == kPageWeek) {
     CalenWeekPageDraw(canvas, page, at);
   } else if (Calendar.CalenKind == kPageDay) {
@@ -133,6 +126,12 @@ void CalenPageDraw(Canvas* canvas, const CalenPage& page, Point at) {
 }
 
 // --- Parts of a cell
+
+void CalenBoxDraw(Canvas* canvas, const Rect& box) {
+  CanvasPen(canvas, Drawing.Pens[kPen646464]);
+  CanvasBrush(canvas, Drawing.Brushes[kBrushFFFFFF]);
+  CanvasRectangle(canvas, box.left, box.top, box.right, box.bottom);
+}
 
 void CalenTodayDraw(Canvas* canvas, const CalenPage& page, int day, const Rect& box) {
   if (day == page.today) FillArea(canvas, Drawing.Brushes[kBrushC8C8C8], box);
@@ -146,20 +145,20 @@ void CalenFrameDraw(Canvas* canvas, const CalenPage& page, int day, const Rect& 
 }
 
 void CalenStickerDraw(Canvas* canvas, const CalenPage& page, int day, Point at) {
-  const CalenPicture& sticker = page.pictures->CalenDayStickers[day];
+  const MaskedFrame& sticker = page.pictures->CalenDayStickers[day];
   CalenPictureDraw(canvas, sticker, at);
 }
 
 namespace {
 
 // The pictures of the digits for a day: days in red have the second set, if there is one.
-const CalenPicture* DigitsOf(const CalenPage& page, int day) {
+const MaskedFrame* DigitsOf(const CalenPage& page, int day) {
   if (CalenSelectedDefinition().design < 2) return nullptr;
   const auto& sets = page.pictures->CalenDigits;
-  const bool second = CalenDayColour(page, day) != kBlack && sets[1][0].picture;
-  const CalenPicture* set = second ? sets[1] : sets[0];
+  const bool second = CalenDayColour(page, day) != kCalenBlack && sets[1][0].picture;
+  const MaskedFrame* set = second ? sets[1] : sets[0];
   // settled: where the picture of a digit is missing, a day's number stands as text.
-  const bool whole = std::all_of(set, set + kDigitCount, [](const CalenPicture& p) { return p.picture; });
+  const bool whole = std::all_of(set, set + kDigitCount, [](const MaskedFrame& p) { return p.picture; });
   return whole ? set : nullptr;
 }
 
@@ -170,7 +169,7 @@ bool IsDigit(char c) {
 }  // namespace
 
 CalenExtent CalenNumberExtent(Canvas* canvas, const CalenPage& page, int day, const char* text) {
-  const CalenPicture* digits = DigitsOf(page, day);
+  const MaskedFrame* digits = DigitsOf(page, day);
   if (!digits) return {CanvasTextWidth(canvas, text), CalenPageLineHeight()};
   CalenExtent extent{0, 0};
   for (const char* c = text; *c != '\0'; ++c) {
@@ -182,7 +181,7 @@ CalenExtent CalenNumberExtent(Canvas* canvas, const CalenPage& page, int day, co
 }
 
 void CalenNumberDraw(Canvas* canvas, const CalenPage& page, int day, Point at, const char* text) {
-  const CalenPicture* digits = DigitsOf(page, day);
+  const MaskedFrame* digits = DigitsOf(page, day);
   if (!digits) {
     CanvasTextColour(canvas, CalenDayColour(page, day));
     CanvasText(canvas, at.x, at.y, text);

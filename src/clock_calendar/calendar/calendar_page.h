@@ -8,6 +8,9 @@
 #include "clock_calendar/calendar/calendar_picture.h"
 #include "platform/canvas.h"
 
+inline constexpr Colour kCalenRed = 0x0000FF;
+inline constexpr Colour kCalenBlack = 0;
+
 struct CalenPage {
   int yearIndex;
   int month;
@@ -60,10 +63,8 @@ void CalenPictureLayerDraw(Canvas* canvas, const CalenPage& page, Point at);
 
 // --- Parts of a day's cell that several pages have
 
-struct CalenCell {
-  Rect box;
-  Point number;
-};
+// A white box with an edge.
+void CalenBoxDraw(Canvas* canvas, const Rect& box);
 // The number with the colour of its day, as text or as figures.
 void CalenNumberDraw(Canvas* canvas, const CalenPage& page, int day, Point at, const char* text);
 // How much room it takes.

@@ -10,7 +10,6 @@
 
 namespace {
 
-constexpr Colour kBlack = 0;
 constexpr int kUnitsWide = 4;
 constexpr int kHeadInset = 2;
 constexpr int kHeadHeight = 18;
@@ -22,12 +21,6 @@ constexpr int kNumberBelow = 8;  // the head and a row
 constexpr int kNumberRows = 2;
 constexpr int kNoteLineShorter = 4;
 
-void BoxDraw(Canvas* canvas, const Rect& box) {
-  CanvasPen(canvas, Drawing.Pens[kPen646464]);
-  CanvasBrush(canvas, Drawing.Brushes[kBrushFFFFFF]);
-  CanvasRectangle(canvas, box.left, box.top, box.right, box.bottom);
-}
-
 Rect Body(Point at, const CalenLeaf& leaf) {
   return {at.x - 2, at.y + leaf.row + 2, at.x + kUnitsWide * leaf.unit + 1, at.y + kBodyRows * leaf.row + 10};
 }
@@ -36,15 +29,14 @@ void HeadDraw(Canvas* canvas, const CalenPage& page, Point at, const CalenLeaf& 
   char head[kCalenTextSize];
   CalenHeadText(page, head);
   const Point box = {at.x + kHeadInset, at.y + kHeadInset};
-  BoxDraw(canvas, {box.x, box.y, box.x + kUnitsWide * leaf.unit + 1, box.y + kHeadHeight});
+  CalenBoxDraw(canvas, {box.x, box.y, box.x + kUnitsWide * leaf.unit + 1, box.y + kHeadHeight});
   CanvasText(canvas, box.x + 1, box.y + 2, head);
 }
 
-// The box ends with the page, and its edge inside the window.
 void DistanceDraw(Canvas* canvas, Point at, const CalenLeaf& leaf, int offset) {
   const int left = at.x + leaf.pageWidth - leaf.distanceWidth;
-  const Rect box = {left, at.y + kDistanceTop, leaf.pageWidth, at.y + kDistanceBottom};
-  BoxDraw(canvas, box);
+  const Rect box = {left, at.y + kDistanceTop, left + leaf.distanceWidth, at.y + kDistanceBottom};
+  CalenBoxDraw(canvas, box);
   const CalenDistance text = CalenDistanceText(offset);
   CanvasText(canvas, box.left + 2, box.top + 2, text.first);
   if (text.second[0] != '\0') CanvasText(canvas, box.left + 2, box.top + 2 + kDistanceStep, text.second);
@@ -102,14 +94,14 @@ void CalenDayPageDraw(Canvas* canvas, const CalenPage& page, Point at) {
   const Rect body = Body(at, leaf);
   const int view = CalenViewDay(page);
   if (!page.preview) OffsetHold(page);
-  CanvasTextColour(canvas, kBlack);
+  CanvasTextColour(canvas, kCalenBlack);
   DistanceDraw(canvas, at, leaf, page.preview ? 0 : Calendar.CalenDayOffset);
   CanvasClip(canvas, body);
-  BoxDraw(canvas, body);
+  CalenBoxDraw(canvas, body);
   LeafDraw(canvas, page, view, at, leaf);
   CalenFrameDraw(canvas, page, view, body);
   CanvasClipNone(canvas);
-  CanvasTextColour(canvas, kBlack);
+  CanvasTextColour(canvas, kCalenBlack);
   HeadDraw(canvas, page, at, leaf);
   if (page.preview) return;
   CalenHitsBegin(RectWidth(body), RectHeight(body));

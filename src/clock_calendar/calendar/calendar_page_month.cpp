@@ -6,8 +6,6 @@
 
 namespace {
 
-constexpr Colour kRed = 0x0000FF;
-constexpr Colour kBlack = 0;
 constexpr int kHeadX = 2;
 constexpr int kHeadRows = 2;  // the head and the weekdays
 
@@ -19,11 +17,11 @@ int Middle(Canvas* canvas, int left, int width, const char* text) {
 void HeadDraw(Canvas* canvas, const CalenPage& page, Point at, const CalenMeasure& measure) {
   char head[kCalenTextSize];
   CalenHeadText(page, head);
-  CanvasTextColour(canvas, kBlack);
+  CanvasTextColour(canvas, kCalenBlack);
   CanvasText(canvas, at.x + kHeadX, at.y + 1, head);
   for (int column = 0; column < kDaysOfWeek; ++column) {
     const char* name = CalenWeekdayName(column);
-    CanvasTextColour(canvas, column == 0 ? kRed : kBlack);
+    CanvasTextColour(canvas, column == 0 ? kCalenRed : kCalenBlack);
     CanvasText(canvas, Middle(canvas, at.x + column * measure.column, measure.column, name),
                at.y + measure.row + 1, name);
   }

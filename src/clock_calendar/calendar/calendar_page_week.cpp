@@ -11,8 +11,6 @@
 
 namespace {
 
-constexpr Colour kRed = 0x0000FF;
-constexpr Colour kBlack = 0;
 constexpr int kBesideHead = 70;  // the room of the two buttons
 constexpr int kHeadHeight = 18;
 constexpr int kRowsTop = 20;
@@ -28,17 +26,11 @@ int LeftBy() {
   return Calendar.CalenPageSize == 2 ? 12 : 10;
 }
 
-void BoxDraw(Canvas* canvas, const Rect& box) {
-  CanvasPen(canvas, Drawing.Pens[kPen646464]);
-  CanvasBrush(canvas, Drawing.Brushes[kBrushFFFFFF]);
-  CanvasRectangle(canvas, box.left, box.top, box.right, box.bottom);
-}
-
 void HeadDraw(Canvas* canvas, const CalenPage& page, int left, int top, const CalenMeasure& measure) {
   char head[kCalenTextSize];
   CalenHeadText(page, head);
-  BoxDraw(canvas, {left, top, left + measure.pageWidth - kBesideHead, top + kHeadHeight});
-  CanvasTextColour(canvas, kBlack);
+  CalenBoxDraw(canvas, {left, top, left + measure.pageWidth - kBesideHead, top + kHeadHeight});
+  CanvasTextColour(canvas, kCalenBlack);
   CanvasText(canvas, left + kLabelX, top + 2, head);
 }
 
@@ -50,7 +42,7 @@ void LabelsDraw(Canvas* canvas, int left, int top, const CalenMeasure& measure) 
   CanvasPen(canvas, Drawing.Pens[kPen646464]);
   for (int column = 0; column < kDaysOfWeek; ++column) {
     const int y = RowTop(top, column, measure);
-    CanvasTextColour(canvas, column == 0 ? kRed : kBlack);
+    CanvasTextColour(canvas, column == 0 ? kCalenRed : kCalenBlack);
     CanvasText(canvas, left + kLabelX, y + 1, CalenWeekdayName(column));
     CanvasLine(canvas, left, y + measure.row + 1, left + kDaysOfWeek * measure.column + kLineLonger,
                y + measure.row + 1);
@@ -64,7 +56,7 @@ void DayDraw(Canvas* canvas, const CalenPage& page, int day, Point at, const Cal
   CalenTodayDraw(canvas, page, day, cell);
   CalenStickerDraw(canvas, page, day, at);
   CalenNumberDraw(canvas, page, day, {at.x + 1, at.y + 1}, number);
-  CanvasTextColour(canvas, kBlack);
+  CanvasTextColour(canvas, kCalenBlack);
   CanvasText(canvas, at.x + measure.column + kNoteX, at.y + 1, CalenPageMonth(page).notes[day]);
   CalenFrameDraw(canvas, page, day, cell);
 }

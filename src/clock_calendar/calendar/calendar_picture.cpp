@@ -7,6 +7,7 @@
 #include "character/frames.h"
 #include "clock_calendar/calendar/calendar.h"
 #include "clock_calendar/calendar/calendar_window.h"
+#include "services/path.h"
 #include "services/program.h"
 #include "services/text.h"
 
@@ -15,16 +16,16 @@ CalendarPicturesState CalendarPictures;
 namespace {
 
 void StickersFree(CalendarPicturesState& of) {
-  for (CalenPicture& sticker : of.CalenDayStickers) CalenPictureFree(sticker);
+  for (MaskedFrame& sticker : of.CalenDayStickers) MaskedFrameFree(sticker);
   for (auto& set : of.CalenDigits) {
-    for (CalenPicture& digit : set) CalenPictureFree(digit);
+    for (MaskedFrame& digit : set) MaskedFrameFree(digit);
   }
 }
 
 void FiguresFree(CalendarPicturesState& of) {
   DibFree(of.CalenBackground);
   of.CalenBackground = nullptr;
-  for (CalenPicture& figure : of.CalenFigures) CalenPictureFree(figure);
+  for (MaskedFrame& figure : of.CalenFigures) MaskedFrameFree(figure);
 }
 
 void FigureLoad(CalendarPicturesState& to, int month, int place) {
@@ -33,7 +34,7 @@ void FigureLoad(CalendarPicturesState& to, int month, int place) {
   if (chara == 0) return;
   const int frame =
       CalenFigureChoice(chara, definition.figures[month][place], definition.figureModes[month][place]);
-  CalenPictureLoad(to.CalenFigures[place], chara, frame);
+  MaskedFrameLoad(to.CalenFigures[place], chara, frame);
 }
 
 void FiguresLoad(CalendarPicturesState& to, int yearIndex, int month) {
@@ -43,8 +44,10 @@ void FiguresLoad(CalendarPicturesState& to, int yearIndex, int month) {
     CalenBackgroundLoad(to, picture);
     for (int place = 0; place < kFigurePlaces; ++place) FigureLoad(to, month, place);
   }
-  const CalenDefinition& definition = CalenSelectedDefinition();
-  to.CalenFixedFigure = {definition.startX[month][kFigureCount], definition.startY[month][kFigureCount]};
+}
+
+CalenLoaded Wanted() {
+  return {true, CalenSelected(), Calendar.CalenYears[CalenYearShown()], Calendar.CalenMonthPos};
 }
 
 void DigitsLoad(CalendarPicturesState& to) {
@@ -55,7 +58,7 @@ void DigitsLoad(CalendarPicturesState& to) {
   for (int set = 0; set < kDigitSets; ++set) {
     if (sets[set] == 0) continue;
     for (int digit = 0; digit < kDigitCount; ++digit)
-      CalenPictureLoad(to.CalenDigits[set][digit], sets[set], digit);
+      MaskedFrameLoad(to.CalenDigits[set][digit], sets[set], digit);
   }
 }
 
@@ -66,7 +69,7 @@ void StickersLoad(CalendarPicturesState& to, int month) {
     int chara = 0;
     int figure = 0;
     CalenSticker(days[day] - 1, &chara, &figure);
-    if (chara != 0) CalenPictureLoad(to.CalenDayStickers[day], chara, figure);
+    if (chara != 0) MaskedFrameLoad(to.CalenDayStickers[day], chara, figure);
   }
   DigitsLoad(to);
 }
@@ -76,29 +79,15 @@ void StickersLoad(CalendarPicturesState& to, int month) {
 void CalenBackgroundLoad(CalendarPicturesState& to, const CalenMonthPicture& month) {
   char name[kMonthBackgroundMax + 1];
   TextCopy(name, sizeof name, month.background);
-  if (month.colourOnly != 0 || name[0] == '\0') return;
+  if (month.pictureOn == 0 || month.colourOnly != 0 || name[0] == '\0') return;
   char path[kRootPathSize + kMonthBackgroundSize] = "";
-  const bool fullPath = name[0] == '\\' || name[1] == ':';
-  if (!fullPath) RootPath(path, sizeof path, "\\背景\\");
+  if (!PathIsFull(name)) RootPath(path, sizeof path, "\\背景\\");
   TextAppend(path, sizeof path, name);
   to.CalenBackground = DibLoad(path);
 }
 
-void CalenPictureDraw(Canvas* canvas, const CalenPicture& item, Point at) {
+void CalenPictureDraw(Canvas* canvas, const MaskedFrame& item, Point at) {
   if (item.picture) MaskedDraw(canvas, at.x, at.y, item.picture, item.mask);
-}
-
-void CalenPictureFree(CalenPicture& item) {
-  DibFree(item.picture);
-  DibFree(item.mask);
-  item = CalenPicture{};
-}
-
-void CalenPictureLoad(CalenPicture& item, int chara, int frame) {
-  CalenPictureFree(item);
-  item.picture = DibLoad(CharaBmpPath(chara - 1, frame));
-  item.mask = DibLoad(CharaMaskPath(chara - 1, frame));
-  DibApplyMask(item.picture, item.mask);
 }
 
 void CalenMonthPicturesLoad(CalendarPicturesState& to, int yearIndex, int month) {
@@ -122,6 +111,11 @@ void CalenPicturesLoad() {
   const CalenMonthPicture& month = Calendar.CalenMonths[CalenYearShown()][Calendar.CalenMonthPos].picture;
   std::copy_n(month.backColour, std::size(month.backColour), Calendar.CalenBackColour);
   CalenFiguresSetup();
+  CalendarPictures.loaded = Wanted();
+}
+
+bool CalenPicturesAreLoaded() {
+  return CalendarPictures.loaded == Wanted();
 }
 
 void CalenStickersPrepare() {
@@ -130,4 +124,5 @@ void CalenStickersPrepare() {
 
 void CalenStickersFree() {
   CalenMonthPicturesFree(CalendarPictures);
+  CalendarPictures.loaded = {};
 }

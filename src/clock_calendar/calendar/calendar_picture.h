@@ -4,15 +4,10 @@
 
 #include <cstdint>
 
+#include "character/frames.h"
 #include "clock_calendar/calendar/calendar.h"
 #include "platform/canvas.h"
 #include "services/dib.h"
-
-// A picture with its mask, the mask applied.
-struct CalenPicture {
-  ImageHandle picture;
-  ImageHandle mask;
-};
 
 // Two figures move, the third stands where the definition puts it.
 inline constexpr int kFigurePlaces = 3;
@@ -21,23 +16,28 @@ inline constexpr int kStickerDays = 31;
 inline constexpr int kDigitSets = 2;
 inline constexpr int kDigitCount = 10;
 
+// Whose pictures are loaded.
+struct CalenLoaded {
+  bool any;
+  std::int32_t calendar;
+  std::int32_t year;  // two digits
+  std::int32_t month;
+
+  bool operator==(const CalenLoaded&) const = default;
+};
+
 struct CalendarPicturesState {
+  CalenLoaded loaded = {};
   ImageHandle CalenBackground = nullptr;
-  CalenPicture CalenFigures[kFigurePlaces] = {};
-  Point CalenFixedFigure = {};
-  CalenPicture CalenDayStickers[kStickerDays] = {};  // by the day from 0
+  MaskedFrame CalenFigures[kFigurePlaces] = {};
+  MaskedFrame CalenDayStickers[kStickerDays] = {};  // by the day from 0
   // The digits of a page that writes with figures: of plain days, and of those in colour.
-  CalenPicture CalenDigits[kDigitSets][kDigitCount] = {};
+  MaskedFrame CalenDigits[kDigitSets][kDigitCount] = {};
 };
 extern CalendarPicturesState CalendarPictures;  // of the month on the desktop
 
 // Draws a picture over what is there, by its mask; nothing without a picture.
-void CalenPictureDraw(Canvas* canvas, const CalenPicture& item, Point at);
-
-// Loads a frame (from 0) of a character (from 1) with its mask in place of what is there;
-// frees it.
-void CalenPictureLoad(CalenPicture& item, int chara, int frame);
-void CalenPictureFree(CalenPicture& item);
+void CalenPictureDraw(Canvas* canvas, const MaskedFrame& item, Point at);
 
 // Loads all pictures of a month of the working array in place of what is there: for a
 // preview, whose pictures are its own; frees them.
@@ -61,6 +61,8 @@ void CalenFiguresSetup();
 void CalenFigurePlace(int figure);
 // Loads the pictures of the stickers of the month on display, and the page's digits.
 void CalenStickersPrepare();
+// Whether all of them are loaded already.
+bool CalenPicturesAreLoaded();
 
 // The figure that a place of the page shows: the stored one, or with mode 1 and 2
 // the one that belongs to the year on display, of a character (from 1) with 10 or

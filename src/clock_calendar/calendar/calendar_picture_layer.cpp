@@ -7,21 +7,24 @@
 namespace {
 
 void GroundDraw(Canvas* canvas, const CalenPage& page, const Rect& area) {
-  const unsigned char(&colour)[3] = CalenPageMonth(page).picture.backColour;
-  FillColour(canvas, MakeColour(colour[0], colour[1], colour[2]), area);
+  FillColour(canvas, ColourOf(CalenPageMonth(page).picture.backColour), area);
   DibDraw(canvas, area.left, area.top, page.pictures->CalenBackground);
 }
 
-// Where a figure stands; in a preview, where the month has it start.
-Point FigureAt(const CalenPage& page, int figure) {
-  if (!page.preview) return CalenFigureAt(figure);
+Point StartOf(const CalenPage& page, int figure) {
   const CalenDefinition& definition = CalenSelectedDefinition();
-  const CalenMonthPicture& month = CalenPageMonth(page).picture;
-  return {definition.startX[page.month][figure] + month.correctX[figure],
-          definition.startY[page.month][figure] + month.correctY[figure]};
+  return {definition.startX[page.month][figure], definition.startY[page.month][figure]};
 }
 
-void FigureDraw(Canvas* canvas, const CalenPicture& figure, Point corner, Point at) {
+// Where a moving figure stands; in a preview, where the month has it start.
+Point FigureAt(const CalenPage& page, int figure) {
+  if (!page.preview) return CalenFigureAt(figure);
+  const CalenMonthPicture& month = CalenPageMonth(page).picture;
+  const Point start = StartOf(page, figure);
+  return {start.x + month.correctX[figure], start.y + month.correctY[figure]};
+}
+
+void FigureDraw(Canvas* canvas, const MaskedFrame& figure, Point corner, Point at) {
   CalenPictureDraw(canvas, figure, {corner.x + at.x, corner.y + at.y});
 }
 
@@ -33,7 +36,7 @@ void CalenPictureLayerDraw(Canvas* canvas, const CalenPage& page, Point at) {
   const Rect area = {at.x, at.y, at.x + CalenPageMeasure().pageWidth, at.y + height};
   CanvasClip(canvas, area);
   GroundDraw(canvas, page, area);
-  FigureDraw(canvas, page.pictures->CalenFigures[kFigureCount], at, page.pictures->CalenFixedFigure);
+  FigureDraw(canvas, page.pictures->CalenFigures[kFigureCount], at, StartOf(page, kFigureCount));
   for (int figure = 0; figure < kFigureCount; ++figure)
     FigureDraw(canvas, page.pictures->CalenFigures[figure], at, FigureAt(page, figure));
   CanvasClipNone(canvas);

@@ -11,6 +11,10 @@ enum PageSize { kSmallest = 0, kLargest = 2 };
 constexpr int kTextRows = 8;  // the head, the weekdays, six weeks
 constexpr int kTextMargin = 24;
 
+int TextHeight() {
+  return kTextRows * CalenPageMeasure().row + kTextMargin;
+}
+
 }  // namespace
 
 CalenMeasure CalenPageMeasure() {
@@ -25,12 +29,8 @@ CalenLeaf CalenDayLeaf() {
   return {24, 200, 16, 80, CalenSelectedDefinition().english != 0 ? 14 : 1};
 }
 
-int CalenTextHeight() {
-  return kTextRows * CalenPageMeasure().row + kTextMargin;
-}
-
 int CalenPageHeight() {
-  return CalenPictureHeight() + CalenTextHeight();
+  return CalenPictureHeight() + TextHeight();
 }
 
 int CalenLayoutWidth() {

@@ -20,8 +20,7 @@ struct CalenLeaf {
 };
 CalenLeaf CalenDayLeaf();
 
-// The height of the page's text, and of the whole page: its picture above the text.
-int CalenTextHeight();
+// The height of the page: its picture above its text.
 int CalenPageHeight();
 
 // How far the window reaches below the page: room for the notes to come, or for them and

@@ -21,8 +21,8 @@ bool DisplayTodayInSpan() {
   return index >= 0;
 }
 
-// settled: a span that is over begins anew with the year of today; of one that is yet to
-// come the first year is on display.
+// settled: a calendar whose years are over begins anew with the year of today; one whose years
+// are yet to come shows the first of them, and no day of it is today.
 void DisplayToday() {
   if (DisplayTodayInSpan()) return;
   if (Today.TodayYear > Calendar.CalenFirstYear) {
@@ -59,7 +59,7 @@ void CalenTakeDefinition() {
 
 void CalenShowToday() {
   DisplayToday();
-  LoadMonth();
+  if (!CalenPicturesAreLoaded()) LoadMonth();
 }
 
 int CalenTodayShown() {
@@ -81,9 +81,8 @@ void CalenPrepareMonth() {
 }
 
 int CalenTickCheck() {
-  LocalTime now;
-  TimeGetLocal(&now);
-  const SclDate today = {now.year - 2000, now.month - 1, now.day - 1, now.hour};
+  const LocalTime& now = Today.SharedTime;
+  const SclDate today = SclDateOf(now);
   const bool otherMonth = today.year != Today.TodayYear || today.month != Today.TodayMonth;
   const bool otherDay = otherMonth || today.day != Today.TodayDay;
   TodaySet(now);

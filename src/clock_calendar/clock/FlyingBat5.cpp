@@ -51,7 +51,7 @@ void Begin(WindowHandle window) {
 void DrawFigure(Canvas* canvas, const Rect& area) {
   FillArea(canvas, BrushFace(), area);
   if (!PerformanceShowsFigures()) return;
-  const PerformanceImages figure = PerformanceFigure(Performance.PerformanceStep);
+  const MaskedFrame figure = PerformanceFigure(Performance.PerformanceStep);
   MaskedDraw(canvas, area.left + (RectWidth(area) - DibWidth(figure.picture)) / 2,
              area.top + (RectHeight(area) - DibHeight(figure.picture)) / 2, figure.picture, figure.mask);
 }

@@ -67,7 +67,7 @@ int Run() {
   const int result = MenuDialogRun(MenuDialog::SelWatchDlg, IDD_SelWatchDlg, Program.hMainWnd, Handle);
   if (result != kOkButton) return result;
   ClockWantedTake();
-  SysFileWrite();
+  SaveTold(Program.hMainWnd, SysFileWrite() == 0, "時計 選択/設定");
   CommandSend(Command::ClockOpen);
   return result;
 }

@@ -64,7 +64,7 @@ void Accept(WindowHandle dialog) {
   Alarms alarms = AlarmsNow();
   FormTake(dialog, alarms, Exchange);
   ClockAlarmsSet(alarms.slots);
-  SysFileWrite();
+  SaveTold(dialog, SysFileWrite() == 0, "時計アラーム設定");
   SubDialogEnd(dialog, kOkButton);
 }
 

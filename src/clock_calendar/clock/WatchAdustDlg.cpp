@@ -105,7 +105,7 @@ void Accept(WindowHandle dialog) {
   const ClockStrikeSettings settings = OnShow(dialog);
   if (!(settings == ClockStrikeSettingsNow())) {
     ClockStrikeSettingsSet(settings);
-    SysFileWrite();
+    SaveTold(dialog, SysFileWrite() == 0, "時計 詳細設定");
   }
   ToolDialogEnd(dialog, kOkButton);
 }

@@ -1,7 +1,6 @@
 #include "clock_calendar/clock/clock_preview.h"
 
 #include <algorithm>
-#include <cstring>
 
 #include "character/alarm_images.h"
 #include "character/chara_paths.h"
@@ -24,25 +23,17 @@ constexpr int kY = 120;
 constexpr int kNameY = 10;
 constexpr int kMargin = 10;
 
-void PictureFree() {
-  DibFree(ClockPreview.previewImage);
-  DibFree(ClockPreview.previewMask);
-  ClockPreview.previewImage = ClockPreview.previewMask = nullptr;
-}
-
 void FrameLoad(int frame) {
-  PictureFree();
+  MaskedFrameFree(ClockPreview.shown);
   ClockPreview.frame = frame;
   const ClockDesignRow* row = ClockDesignAt(ClockPreview.design);
   if (!row || row->number < 1 || frame >= kFrameMax) return;
-  ClockPreview.previewImage = DibLoad(CharaBmpPath(row->number - 1, frame));
-  ClockPreview.previewMask = DibLoad(CharaMaskPath(row->number - 1, frame));
-  DibApplyMask(ClockPreview.previewImage, ClockPreview.previewMask);
+  MaskedFrameLoad(ClockPreview.shown, row->number, frame);
 }
 
 void Draw(Canvas* canvas, const Rect& at) {
   FillArea(canvas, BrushFace(), at);
-  MaskedDraw(canvas, at.left, at.top, ClockPreview.previewImage, ClockPreview.previewMask);
+  MaskedDraw(canvas, at.left, at.top, ClockPreview.shown.picture, ClockPreview.shown.mask);
 }
 
 void Show(WindowHandle dialog) {
@@ -80,12 +71,11 @@ void Grow(WindowHandle dialog) {
 void Play() {
   const ClockDesignRow* row = ClockDesignAt(ClockPreview.design);
   if (!row) return;
-  ClockStrikeTables tables;
-  std::memcpy(tables.delay, row->record.strikeDelay, sizeof tables.delay);
-  std::memcpy(tables.figures, row->record.hourFigures, sizeof tables.figures);
   LocalTime now;
   TimeGetLocal(&now);
-  StrikeBegin(ClockPreview.play, tables, ClockPreview.settings, now.hour % 12);
+  const int hour12 = now.hour % 12;
+  StrikeBegin(ClockPreview.play, row->record.strikeDelay, row->record.hourFigures[hour12],
+              ClockPreview.settings, hour12);
 }
 
 int FrameOfStep() {
@@ -94,8 +84,8 @@ int FrameOfStep() {
 
 void Begin(WindowHandle dialog) {
   FrameLoad(0);
-  ClockPreview.box = {kX, kY, kX + DibWidth(ClockPreview.previewImage),
-                      kY + DibHeight(ClockPreview.previewImage)};
+  ClockPreview.box = {kX, kY, kX + DibWidth(ClockPreview.shown.picture),
+                      kY + DibHeight(ClockPreview.shown.picture)};
   Grow(dialog);
   Play();
   FrameLoad(FrameOfStep());
@@ -135,5 +125,5 @@ int ClockPreviewDue() {
 
 void ClockPreviewFree() {
   ClockPreview.play = ClockStrikePlay{};
-  PictureFree();
+  MaskedFrameFree(ClockPreview.shown);
 }

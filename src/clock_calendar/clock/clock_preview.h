@@ -1,19 +1,18 @@
 // A design's performance, tried out in AlarmChkDialog.
 #pragma once
 
+#include "character/frames.h"
 #include "clock_calendar/clock/clock_strike.h"
 #include "platform/types.h"
-#include "services/dib.h"
 #include "services/tick_step.h"
 
 struct ClockPreviewState {
   ClockStrikePlay play;
   ClockStrikeSettings settings = {};
-  int design = 0;                      // place of the design
-  int frame = 0;                       // on show, from 0; 0 is the dial's own
-  Rect box = {};                       // that the frames are drawn in
-  ImageHandle previewImage = nullptr;  // the frame's picture
-  ImageHandle previewMask = nullptr;
+  int design = 0;  // place of the design
+  int frame = 0;   // on show, from 0; 0 is the dial's own
+  Rect box = {};   // that the frames are drawn in
+  MaskedFrame shown = {};
 };
 extern ClockPreviewState ClockPreview;
 

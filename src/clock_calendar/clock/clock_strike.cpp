@@ -38,15 +38,16 @@ bool ClockStrikeSettings::operator==(const ClockStrikeSettings& other) const {
          std::strncmp(sound, other.sound, sizeof sound) == 0;
 }
 
-void StrikeBegin(ClockStrikePlay& play, const ClockStrikeTables& tables, const ClockStrikeSettings& settings,
+void StrikeBegin(ClockStrikePlay& play, const std::uint16_t (&delay)[kStrikeSteps],
+                 const std::uint8_t (&figures)[kStrikeSteps], const ClockStrikeSettings& settings,
                  int hour12) {
   play = ClockStrikePlay{};
   play.on = true;
   play.endsAtZero = !IsSetByUser(settings.mode);
   const bool repeats = settings.repeat != 0 && IsSetByUser(settings.mode);
   play.repeats = !repeats ? 0 : hour12 == 0 ? 11 : hour12 - 1;
-  std::memcpy(play.delay, tables.delay, sizeof play.delay);
-  std::memcpy(play.figures, tables.figures[hour12], sizeof play.figures);
+  std::memcpy(play.delay, delay, sizeof play.delay);
+  std::memcpy(play.figures, figures, sizeof play.figures);
   if (settings.soundOn != 0) TextCopy(play.sound, sizeof play.sound, settings.sound);
   FindEnds(play);
   PlaySound(play);

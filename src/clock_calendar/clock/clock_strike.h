@@ -21,13 +21,6 @@ struct ClockStrikeSettings {
   bool operator==(const ClockStrikeSettings& other) const;
 };
 
-// What a design gives it: the ticks that each step stays, and its figures, frame numbers
-// from 1; 0 for none.
-struct ClockStrikeTables {
-  std::uint16_t delay[kStrikeSteps];
-  std::uint8_t figures[kStrikeHours][kStrikeSteps];
-};
-
 // A performance in play.
 struct ClockStrikePlay {
   bool on = false;
@@ -42,8 +35,11 @@ struct ClockStrikePlay {
   char sound[kClockSoundSize] = {};  // empty: none is played
 };
 
-// Begins the performance of an hour, 0 to 12, with its sound and its first step.
-void StrikeBegin(ClockStrikePlay& play, const ClockStrikeTables& tables, const ClockStrikeSettings& settings,
+// Begins the performance of an hour, 0 to 12, with its sound and its first step. A design
+// gives the ticks that each step stays, and the hour's figures, frame numbers from 1; 0 for
+// none.
+void StrikeBegin(ClockStrikePlay& play, const std::uint16_t (&delay)[kStrikeSteps],
+                 const std::uint8_t (&figures)[kStrikeSteps], const ClockStrikeSettings& settings,
                  int hour12);
 
 // One tick of a performance that is in play; it may be over then.

@@ -12,13 +12,6 @@ bool StrikeIsDue() {
   return Clock.ClockStrikeMode == kStrikeEveryHour || Clock.ClockHour12 == 0 || Clock.ClockHour12 == 12;
 }
 
-void BeginStrike() {
-  ClockStrikeTables tables;
-  std::memcpy(tables.delay, Clock.ClockStrikeDelay, sizeof tables.delay);
-  std::memcpy(tables.figures, Clock.ClockHourFigures, sizeof tables.figures);
-  StrikeBegin(Clock.strike, tables, ClockStrikeSettingsNow(), Clock.ClockHour12);
-}
-
 }  // namespace
 
 int ClockTimeTake(int hour, int minute) {
@@ -67,7 +60,8 @@ int ClockTickCheck(int hour, int minute) {
   } else if (Clock.strike.on) {
     StrikeTick(Clock.strike);
   } else if (StrikeIsDue()) {
-    BeginStrike();
+    StrikeBegin(Clock.strike, Clock.ClockStrikeDelay, Clock.ClockHourFigures[Clock.ClockHour12],
+                ClockStrikeSettingsNow(), Clock.ClockHour12);
   }
   return need != 0 || wasOn != Clock.strike.on || wasFigure != ClockStrikeFigure() ? 1 : 0;
 }

@@ -11,7 +11,7 @@ void CommentExchange(Form& form, int id, char* comment, std::size_t size) {
   if (form.Takes()) {
     char typed[kTypedSize];
     ControlGetText(form.Dialog(), id, typed, sizeof typed);
-    TextCopy(comment, TextPrefix(typed, size - 1) + 1, typed);
+    TextCopyWhole(comment, size, typed);
     return;
   }
   ControlSetText(form.Dialog(), id, comment);

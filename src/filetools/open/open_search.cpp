@@ -29,9 +29,7 @@ struct Words {
 };
 
 Words::Words(const char* text) {
-  const std::size_t length = TextPrefix(text, sizeof field - 1);
-  std::memcpy(field, text, length);
-  field[length] = '\0';
+  TextCopyWhole(field, sizeof field, text);
   const char* at = field;
   while (*at != '\0') {
     if (*at == ' ') {

@@ -16,17 +16,19 @@ void Begin() {
   CommandSend(Command::MailCheck);
 }
 
+constexpr int kConfirmed = 1;
+
 int Run() {
   if (!MailSettingMenuDlgRun()) return 0;
   MailSettingSave();
-  if (MailSetting.enabled == 1) Begin();
-  return 0;
+  return kConfirmed;
 }
 
 }  // namespace
 
 void MailSettingsCommand() {
-  FeatureDialogRun(Feature::MailSettings, Run);
+  const bool confirmed = FeatureDialogRun(Feature::MailSettings, Run) == kConfirmed;
+  if (confirmed && MailSetting.enabled == 1) Begin();
 }
 
 void MailCheckCommand() {

@@ -30,7 +30,7 @@ void Fit(WindowHandle dialog) {
 void Open(WindowHandle dialog) {
   Music.hBgmWnd = dialog;
   Music.view = {};
-  RowGuestSet(dialog, &SclRowTable());
+  RowGuestSet(dialog);
   RowsForget();
   Fit(dialog);
   TableFocus(dialog, Music.view, kBar);
@@ -62,7 +62,7 @@ void LeftDouble(const Event& event) {
   if (place.hit == TableHit::Content) BgmFileRun(event.window, place.row - 1);
   if (place.hit == TableHit::Hours) BGMRsvTimeSetDlgRun(event.window);
   // kept: the title of the music table is the schedule's.
-  if (place.hit == TableHit::Title) SCLTitleDlgRun(ToolDialog::SCLTitleDlg, event.window);
+  if (place.hit == TableHit::Title) SCLTitleDlgRun(ToolDialog::SCLTitleDlgSecond, event.window);
   SendPaint(event.window);
 }
 
@@ -89,7 +89,7 @@ void Close(WindowHandle dialog) {
 void Gone() {
   Music.hBgmWnd = nullptr;
   Music.view = {};
-  RowGuestSet(nullptr, nullptr);
+  RowGuestSet(nullptr);
   if (PanelFeature() == Feature::MusicTable) PanelEntryDone();
 }
 

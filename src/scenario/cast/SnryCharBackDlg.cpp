@@ -1,5 +1,7 @@
 // SnryCharBackDlg: the background of a scene, its door, its window.
 
+#include <cstring>
+
 #include "platform/canvas.h"
 #include "platform/dialog.h"
 #include "platform/window.h"
@@ -68,9 +70,19 @@ void NamesShow(WindowHandle dialog) {
   NameShow(dialog, IDC_CAST_WINDOW, CastBackdrop.fields.window);
 }
 
+// Whether the list has a file of this name; its first row is none.
+bool IsListed(WindowHandle dialog, const char* name) {
+  for (int row = 1; row < ListCount(dialog, IDC_CAST_LIST); ++row) {
+    char file[kSnryPathSize + 1];
+    ListText(dialog, IDC_CAST_LIST, row, file, sizeof file);
+    if (std::strcmp(file, name) == 0) return true;
+  }
+  return false;
+}
+
 void Show(WindowHandle dialog) {
-  CastBackdropBegin();
   ScenarioFilesShow(dialog, IDC_CAST_LIST, kSnryBackFolder, "bmp");
+  CastBackdropBegin(dialog, IsListed);
   NamesShow(dialog);
   FormShow(dialog, CastBackdrop, Exchange);
   CastBackdrop.shown = true;

@@ -1,27 +1,19 @@
 #include "scenario/cast/cast_backdrop.h"
 
 #include <algorithm>
+#include <iterator>
 
-#include "scenario/cast/scenario_files.h"
 #include "scenario/storage/snry_paths.h"
 #include "services/text.h"
 
 CastBackdropState CastBackdrop;
 
-namespace {
-
-template <std::size_t N>
-void ClearIfGone(char (&name)[N]) {
-  if (!ScenarioFileIsThere(name, kSnryBackFolder, "bmp")) std::fill_n(name, N, '\0');
-}
-
-}  // namespace
-
-void CastBackdropBegin() {
+void CastBackdropBegin(WindowHandle dialog, bool (*isThere)(WindowHandle dialog, const char* name)) {
   CastBackdrop.shown = false;
-  ClearIfGone(SnryScene.backdrop.background);
-  ClearIfGone(SnryScene.backdrop.door);
-  ClearIfGone(SnryScene.backdrop.window);
+  SnryBackdropRec& fields = SnryScene.backdrop;
+  for (auto* name : {&fields.background, &fields.door, &fields.window}) {
+    if (!isThere(dialog, *name)) std::fill(std::begin(*name), std::end(*name), '\0');
+  }
   CastBackdrop.fields = SnryScene.backdrop;
   std::copy_n(SnrySceneNow().fallback, 3, CastBackdrop.colour);
   CastBackdropLoad();

@@ -14,9 +14,9 @@ struct CastBackdropState {
 };
 extern CastBackdropState CastBackdrop;
 
-// Takes the fields from the scene. Names of files that are gone are cleared, in the scene
-// too.
-void CastBackdropBegin();
+// Takes the fields from the scene. Names of files that are not there, as a dialog says, are
+// cleared, in the scene too.
+void CastBackdropBegin(WindowHandle dialog, bool (*isThere)(WindowHandle dialog, const char* name));
 
 // Puts the fields into the scene.
 void CastBackdropStore();

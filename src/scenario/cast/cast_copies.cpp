@@ -71,10 +71,9 @@ void ListPut(SnrySceneRec& scene, int place, int id) {
   if (place < kSnrySceneCastMax) scene.cast[place] = static_cast<std::uint16_t>(id);
 }
 
-// kept: new copies come in between the slots, and only the members behind them in the list
-// follow their copies up. A member before them that has its copies in higher slots goes on
-// with the ids that it had, which are then those of other copies, and its last one is in
-// nobody's list.
+// kept: when a character of a cast gets more copies, those of others move up to higher slots,
+// but only members behind it in the list follow theirs. One before it goes on with the ids
+// that its copies had, which are those of other copies then.
 void Grow(SnrySceneRec& scene, const Change& change) {
   const int by = change.to - change.from;
   for (int slot = change.end - 1; slot >= change.slot; --slot) SnryCastAt(slot + by) = SnryCastAt(slot);
@@ -89,8 +88,8 @@ void Grow(SnrySceneRec& scene, const Change& change) {
   scene.castCount = static_cast<std::uint16_t>(std::min(SnryCastCount(scene) + by, kSnrySceneCastMax));
 }
 
-// kept: a copy that goes gives its lines back only when another takes its slot. Those of the
-// last copies stay taken until all lines of the scene are released.
+// kept: a copy of a character that goes gives its lines back only when another copy takes its
+// slot. The lines of the last ones stay taken until all lines of the scene are released.
 void SlotsDown(const Change& change, int by) {
   for (int slot = change.slot; slot + by < change.end; ++slot) {
     CastLinesFree(SnryCastAt(slot));
@@ -157,8 +156,8 @@ int CastCopies(int chara) {
   return chara >= 1 && chara <= kSnryCharaMax ? SnryCastAt(chara - 1).copies : 0;
 }
 
-// bounded: copies of a character that is no longer registered do not count as taken, but
-// they have their slots; no more copies are offered than there are slots behind them all.
+// bounded: copies of a character that is no longer registered do not count as taken, but they
+// have their slots; no more copies of others are offered than there are slots behind them.
 int CastCopiesMost(int chara) {
   const int free = std::min(kSnryCopyMax - CastCopySum(), kSnryCastSlots - CastCopiesEnd());
   return CastCopies(chara) + std::max(0, free);

@@ -1,13 +1,10 @@
 #include "scenario/cast/cast_lines.h"
 
 #include "scenario/cast/cast_places.h"
+#include "services/slots.h"
 #include "services/text.h"
 
 namespace {
-
-int PlaceOfRow(const SnryCastRec& member, int row) {
-  return CastPlaceOfRow(member.lines, row);
-}
 
 // The first free slot of the table of lines; -1 for none.
 int FreeSlot() {
@@ -34,31 +31,31 @@ void Put(SnryCastRec& member, int place, int id, const CastLine& line) {
 // when a line goes, and so the next line has them.
 void Remove(SnryCastRec& member, int place) {
   SnryLineAt(member.lines[place] - 1).used = 0;
-  CastPlaceClose(member.lines, place);
-  CastPlaceClose(member.lineParameters, place);
-  CastPlaceClose(member.lineValues, place);
+  SlotDrop(member.lines, place);
+  SlotDrop(member.lineParameters, place);
+  SlotDrop(member.lineValues, place);
 }
 
 }  // namespace
 
 int CastLineRows(const SnryCastRec& member) {
-  return CastPlacesUsed(member.lines);
+  return SlotsUsed(member.lines);
 }
 
 void CastLineRowText(const SnryCastRec& member, int row, char* text, int size) {
   const auto room = static_cast<std::size_t>(size);
   text[0] = '\0';
-  const int place = PlaceOfRow(member, row);
+  const int place = SlotOfRow(member.lines, row);
   if (place < 0) return;
   char words[kCastShownMost + 1];
-  CastCut(words, SnryLineAt(member.lines[place] - 1).text);
+  TextCopyWhole(words, sizeof words, SnryLineAt(member.lines[place] - 1).text);
   TextFormat(text, room, "「%s」", words);
   CastConditionAppend(text, room, {member.lineParameters[place], member.lineValues[place]});
 }
 
 CastLine CastLineTake(const SnryCastRec& member, int row) {
   CastLine line{};
-  const int place = PlaceOfRow(member, row);
+  const int place = SlotOfRow(member.lines, row);
   if (place < 0) return line;
   TextCopy(line.text, sizeof line.text, SnryLineAt(member.lines[place] - 1).text);
   line.start = {member.lineParameters[place], member.lineValues[place]};
@@ -71,7 +68,7 @@ CastLine CastLineTake(const SnryCastRec& member, int row) {
 // text away.
 bool CastLineAdd(SnryCastRec& member, const CastLine& line) {
   const int slot = FreeSlot();
-  const int place = CastPlaceFree(member.lines);
+  const int place = SlotFree(member.lines);
   if (line.text[0] == '\0' || slot < 0 || place < 0) return false;
   Put(member, place, slot + 1, line);
   Scenario.changed = true;
@@ -79,14 +76,14 @@ bool CastLineAdd(SnryCastRec& member, const CastLine& line) {
 }
 
 void CastLineChange(SnryCastRec& member, int row, const CastLine& line) {
-  const int place = PlaceOfRow(member, row);
+  const int place = SlotOfRow(member.lines, row);
   if (place < 0) return;
   Put(member, place, member.lines[place], line);
   Scenario.changed = true;
 }
 
 void CastLineDelete(SnryCastRec& member, int row) {
-  const int place = PlaceOfRow(member, row);
+  const int place = SlotOfRow(member.lines, row);
   if (place < 0) return;
   Remove(member, place);
   Scenario.changed = true;

@@ -7,7 +7,6 @@
 #include "scenario/storage/scenario.h"
 #include "scenario/storage/snry_cast_list.h"
 #include "scenario/storage/snry_tables.h"
-#include "services/text.h"
 
 namespace {
 
@@ -100,8 +99,7 @@ void CastAddRowText(int row, char* text, int size) {
     text[0] = '\0';
     return;
   }
-  TextFormat(text, static_cast<std::size_t>(size), "%d. %s [登場名: %s]", row + 1,
-             SnryMain.charaNames[chara - 1].text, SnryMain.castNames[chara - 1].text);
+  SnryCharaText(row + 1, chara, text, size);
 }
 
 // kept: a member too many of a cast is left out in silence.

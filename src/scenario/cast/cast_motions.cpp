@@ -2,6 +2,7 @@
 
 #include "scenario/cast/cast_member.h"
 #include "scenario/cast/cast_places.h"
+#include "services/slots.h"
 #include "services/text.h"
 #include "world/world_list.h"
 
@@ -59,7 +60,7 @@ int CastFigureRowOf(int id, int figure) {
 }
 
 int CastMotionRows(const SnryCastRec& member) {
-  return CastPlacesUsed(member.motions);
+  return SlotsUsed(member.motions);
 }
 
 void CastMotionRowText(const SnryCastRec& member, int row, char* text, int size) {
@@ -69,35 +70,35 @@ void CastMotionRowText(const SnryCastRec& member, int row, char* text, int size)
 }
 
 int CastMotionFigure(const SnryCastRec& member, int row) {
-  const int place = CastPlaceOfRow(member.motions, row);
+  const int place = SlotOfRow(member.motions, row);
   return place < 0 ? 0 : member.motions[place];
 }
 
 SnryPair CastMotionStart(const SnryCastRec& member, int row) {
-  const int place = CastPlaceOfRow(member.motions, row);
+  const int place = SlotOfRow(member.motions, row);
   if (place < 0) return {};
   return {member.motionParameters[place], member.motionValues[place]};
 }
 
 bool CastMotionAdd(SnryCastRec& member, int figure, const SnryPair& start) {
-  const int place = CastPlaceFree(member.motions);
+  const int place = SlotFree(member.motions);
   if (place < 0 || MotionOf(figure) == 0) return false;
   Put(member, place, figure, start);
   return true;
 }
 
 bool CastMotionChange(SnryCastRec& member, int row, int figure, const SnryPair& start) {
-  const int place = CastPlaceOfRow(member.motions, row);
+  const int place = SlotOfRow(member.motions, row);
   if (place < 0 || MotionOf(figure) == 0) return false;
   Put(member, place, figure, start);
   return true;
 }
 
 void CastMotionDelete(SnryCastRec& member, int row) {
-  const int place = CastPlaceOfRow(member.motions, row);
+  const int place = SlotOfRow(member.motions, row);
   if (place < 0) return;
-  CastPlaceClose(member.motions, place);
-  CastPlaceClose(member.motionParameters, place);
-  CastPlaceClose(member.motionValues, place);
+  SlotDrop(member.motions, place);
+  SlotDrop(member.motionParameters, place);
+  SlotDrop(member.motionValues, place);
   Scenario.changed = true;
 }

@@ -12,6 +12,3 @@ bool ScenarioFileFits(const char* name, unsigned attributes, const char* extensi
 // folder ("\背景"), in the order of the search.
 void ScenarioFilesShow(WindowHandle dialog, int list, const char* part, const char* extension,
                        const char* first = "未設定");
-
-// Whether that list has a file of this name.
-bool ScenarioFileIsThere(const char* name, const char* part, const char* extension);

@@ -1,6 +1,7 @@
 // SetOrChkCharRegiDlg, SetOrChkCharRegiDlg2 and DelCharRegiDlg: a character is registered,
 // gets another cast name, is registered no more.
 
+#include "platform/dialog.h"
 #include "resources/scenario_characters_ids.h"
 #include "scenario/characters/chara_preview.h"
 #include "scenario/characters/chara_regi.h"
@@ -14,11 +15,11 @@ namespace {
 constexpr Point kPreviewAt{6, 50};  // dialog units
 
 void Exchange(Form& form, CharaRegiState& state) {
-  if (!form.Takes()) form.Text(IDC_CHARA_REGI_NAME, state.name.text);
   form.Text(IDC_CHARA_REGI_CAST_NAME, state.castName.text, kSnryNameSize - 1);
 }
 
 void Show(WindowHandle dialog) {
+  ControlSetText(dialog, IDC_CHARA_REGI_NAME, SnryMain.charaNames[CharaRegi.chara].text);
   FormShow(dialog, CharaRegi, Exchange);
 }
 
@@ -48,7 +49,7 @@ bool Handle(const Event& event) {
 }
 
 void Run(WindowHandle owner, int chara, SubDialog number, int templateId, EventHandler handler) {
-  CharaRegi = {chara, SnryMain.charaNames[chara], SnryMain.castNames[chara]};
+  CharaRegi = {chara, SnryMain.castNames[chara]};
   SubDialogRun(number, templateId, owner, handler);
 }
 

@@ -19,12 +19,8 @@ void SetChanged() {
 }  // namespace
 
 void CharaRegiRowText(int chara, char* text, int size) {
-  const auto room = static_cast<std::size_t>(size);
-  TextFormat(text, room, "%d. %s", chara + 1, SnryMain.charaNames[chara].text);
-  if (!SnryCharaIsRegistered(chara + 1)) return;
-  TextAppend(text, room, " [登場名: ");
-  TextAppend(text, room, SnryMain.castNames[chara].text);
-  TextAppend(text, room, "]");
+  if (SnryCharaIsRegistered(chara + 1)) return SnryCharaText(chara + 1, chara + 1, text, size);
+  TextFormat(text, static_cast<std::size_t>(size), "%d. %s", chara + 1, SnryMain.charaNames[chara].text);
 }
 
 void CharaRegister(int chara, const SnryNameRec& castName) {

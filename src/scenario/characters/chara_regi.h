@@ -8,7 +8,6 @@
 // What SetOrChkCharRegiDlg and its two like are about.
 struct CharaRegiState {
   std::int32_t chara = 0;  // from 0
-  SnryNameRec name = {};
   SnryNameRec castName = {};
 };
 extern CharaRegiState CharaRegi;

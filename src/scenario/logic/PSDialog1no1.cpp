@@ -11,6 +11,7 @@
 #include "services/dialog_acts.h"
 #include "services/form.h"
 #include "services/list_editor.h"
+#include "services/slots.h"
 #include "services/text.h"
 
 namespace {
@@ -74,17 +75,14 @@ SnryPlaces& Values() {
 }
 
 void PlaceText(int row, char* text, int size) {
-  const int id = Parameters()[SnryPlaceOfRow(Parameters(), row)];
-  const char* name = SnryParaName(id);
-  if (SnryParaRowOf(id) == 0) {
-    TextCopy(text, static_cast<std::size_t>(size), name);
-  } else {
-    TextFormat(text, static_cast<std::size_t>(size), "%d.%s", row + 1, name);
-  }
+  const int id = Parameters()[SlotOfRow(Parameters(), row)];
+  const bool isPara = SnryParaRowOf(id) != 0;
+  if (isPara) SnryPlaceRowText(Parameters(), row, text, size);
+  if (!isPara) TextCopy(text, static_cast<std::size_t>(size), SnryParaName(id));
 }
 
-constexpr ListEditor kPlaces{IDC_PAGE_PLACES,
-                             [] { return ItemIsChosen() ? SnryPlaceCount(Parameters()) : 0; }, PlaceText};
+constexpr ListEditor kPlaces{IDC_PAGE_PLACES, [] { return ItemIsChosen() ? SlotsUsed(Parameters()) : 0; },
+                             PlaceText};
 
 void ExchangePlace(Form& form, SnryPair& pair) {
   SnryPairExchange(form, IDC_PAGE_PARA, IDC_PAGE_VALUE, pair, kValueDigits);
@@ -176,9 +174,9 @@ bool TakeInto(WindowHandle page, int place) {
 }
 
 bool DeletePlace(WindowHandle, int row) {
-  const int place = SnryPlaceOfRow(Parameters(), row);
-  SnryPlaceDrop(Parameters(), place);
-  SnryPlaceDrop(Values(), place);
+  const int place = SlotOfRow(Parameters(), row);
+  SlotDrop(Parameters(), place);
+  SlotDrop(Values(), place);
   return true;
 }
 
@@ -186,11 +184,11 @@ constexpr ListDeed kAddPlace{
     .may = ItemIsChosen,
     .mayNot = {"メニュー項目を追加または選択してください", "パラメータ追加の中止"},
     .question = kSnryParaAddQuestion,
-    .act = [](WindowHandle page, int) { return TakeInto(page, SnryPlaceFree(Parameters())); },
+    .act = [](WindowHandle page, int) { return TakeInto(page, SlotFree(Parameters())); },
     .failed = kSnryParaFull};
 constexpr ListDeed kChangePlace{
     .needsRow = true, .question = kSnryParaChangeQuestion, .act = [](WindowHandle page, int row) {
-      return TakeInto(page, SnryPlaceOfRow(Parameters(), row));
+      return TakeInto(page, SlotOfRow(Parameters(), row));
     }};
 // kept: deleting a menu's or an event's parameter asks under the caption of a change.
 constexpr ListDeed kDeletePlace{
@@ -210,7 +208,7 @@ void EditPlace(WindowHandle page) {
 }
 
 void PlaceChosen(WindowHandle page) {
-  const int place = SnryPlaceOfRow(Parameters(), ListEditorChosen(page, kPlaces));
+  const int place = SlotOfRow(Parameters(), ListEditorChosen(page, kPlaces));
   if (place < 0) return;
   SnryPair pair{Parameters()[place], Values()[place]};
   FormShow(page, pair, ExchangePlace);
@@ -231,18 +229,11 @@ void Open(WindowHandle page) {
   ShowRecord(page);
 }
 
-template <int step>
-void Step(WindowHandle page) {
-  Store(page);
-  SnrySheet.menu = SnryRecordStep(SnrySheet.menu, step);
-  ShowRecord(page);
-}
-
 constexpr DialogAct kActs[] = {
     {EventKind::Init, Open},
     {EventKind::Apply, Store},
-    {IDC_PAGE_UP, Step<1>},
-    {IDC_PAGE_DOWN, Step<-1>},
+    {IDC_PAGE_UP, SnryPageStep<&SnrySheetState::menu, Store, ShowRecord, 1>},
+    {IDC_PAGE_DOWN, SnryPageStep<&SnrySheetState::menu, Store, ShowRecord, -1>},
     {IDC_PAGE_ENABLED,
      [](WindowHandle page) { Menu().enabled = ControlIsChecked(page, IDC_PAGE_ENABLED) ? 1 : 0; }},
     {IDC_MENU_ITEMS, EventKind::Chosen,

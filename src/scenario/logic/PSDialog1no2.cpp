@@ -10,7 +10,7 @@
 #include "services/dialog_acts.h"
 #include "services/form.h"
 #include "services/list_editor.h"
-#include "services/text.h"
+#include "services/slots.h"
 
 namespace {
 
@@ -85,20 +85,15 @@ void Put(int at, const Place& place) {
   event.operations[at] = place.operation;
 }
 
-void PlaceText(int row, char* text, int size) {
-  const int place = SnryPlaceOfRow(TheEvent().parameters, row);
-  TextFormat(text, static_cast<std::size_t>(size), "%d. %s", place + 1,
-             SnryParaName(TheEvent().parameters[place]));
-}
-
-constexpr ListEditor kPlaces{IDC_PAGE_PLACES, [] { return SnryPlaceCount(TheEvent().parameters); },
-                             PlaceText};
+constexpr ListEditor kPlaces{
+    IDC_PAGE_PLACES, [] { return SlotsUsed(TheEvent().parameters); },
+    [](int row, char* text, int size) { SnryPlaceText(TheEvent().parameters, row, text, size); }};
 
 // kept: a parameter that is added to an event is stored as the row of the combo box and not as
 // the id that the row stands for; a change stores the id.
 template <const Rows& operations>
 bool AddPlace(WindowHandle page, int) {
-  const int at = SnryPlaceFree(TheEvent().parameters);
+  const int at = SlotFree(TheEvent().parameters);
   if (at < 0) return false;
   Place place{};
   FormTake(page, place, ExchangePlace<operations>);
@@ -110,7 +105,7 @@ bool AddPlace(WindowHandle page, int) {
 
 template <const Rows& operations>
 bool ChangePlace(WindowHandle page, int row) {
-  const int at = SnryPlaceOfRow(TheEvent().parameters, row);
+  const int at = SlotOfRow(TheEvent().parameters, row);
   Place place{};
   FormTake(page, place, ExchangePlace<operations>);
   Put(at, place);
@@ -119,11 +114,11 @@ bool ChangePlace(WindowHandle page, int row) {
 
 bool DeletePlace(WindowHandle, int row) {
   SnryEventRec& event = TheEvent();
-  const int place = SnryPlaceOfRow(event.parameters, row);
-  SnryPlaceDrop(event.parameters, place);
-  SnryPlaceDrop(event.values, place);
-  SnryPlaceDrop(event.signs, place);
-  SnryPlaceDrop(event.operations, place);
+  const int place = SlotOfRow(event.parameters, row);
+  SlotDrop(event.parameters, place);
+  SlotDrop(event.values, place);
+  SlotDrop(event.signs, place);
+  SlotDrop(event.operations, place);
   return true;
 }
 
@@ -144,7 +139,7 @@ void Edit(WindowHandle page) {
 template <const Rows& operations>
 void PlaceChosen(WindowHandle page) {
   const SnryEventRec& event = TheEvent();
-  const int at = SnryPlaceOfRow(event.parameters, ListEditorChosen(page, kPlaces));
+  const int at = SlotOfRow(event.parameters, ListEditorChosen(page, kPlaces));
   if (at < 0) return;
   Place place{event.parameters[at], event.values[at], event.signs[at], event.operations[at]};
   FormShow(page, place, ExchangePlace<operations>);
@@ -174,13 +169,6 @@ void Open(WindowHandle page) {
   ShowRecord<fields>(page);
 }
 
-template <Fields fields, int step>
-void Step(WindowHandle page) {
-  Store<fields>(page);
-  SnrySheet.event = SnryRecordStep(SnrySheet.event, step);
-  ShowRecord<fields>(page);
-}
-
 // What takes effect at once.
 void ExchangeAtOnce(Form& form, SnryEventRec& event) {
   form.Check(IDC_PAGE_ENABLED, event.enabled);
@@ -205,8 +193,8 @@ template <Fields fields, const Rows& operations>
 constexpr DialogAct kActs[] = {
     {EventKind::Init, Open<fields, operations>},
     {EventKind::Apply, Store<fields>},
-    {IDC_PAGE_UP, Step<fields, 1>},
-    {IDC_PAGE_DOWN, Step<fields, -1>},
+    {IDC_PAGE_UP, SnryPageStep<&SnrySheetState::event, Store<fields>, ShowRecord<fields>, 1>},
+    {IDC_PAGE_DOWN, SnryPageStep<&SnrySheetState::event, Store<fields>, ShowRecord<fields>, -1>},
     {IDC_PAGE_PLACES, EventKind::Chosen, PlaceChosen<operations>},
     {IDC_PAGE_PARA_ADD, Edit<kAdd<operations>>},
     {IDC_PAGE_PARA_CHANGE, Edit<kChange<operations>>},

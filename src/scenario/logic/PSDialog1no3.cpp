@@ -9,7 +9,7 @@
 #include "services/dialog_acts.h"
 #include "services/form.h"
 #include "services/list_editor.h"
-#include "services/text.h"
+#include "services/slots.h"
 
 namespace {
 
@@ -88,32 +88,28 @@ bool TakeInto(WindowHandle page, int at) {
   return true;
 }
 
-void PlaceText(int row, char* text, int size) {
-  const int place = SnryPlaceOfRow(Random().parameters, row);
-  TextFormat(text, static_cast<std::size_t>(size), "%d. %s", place + 1,
-             SnryParaName(Random().parameters[place]));
-}
-
-constexpr ListEditor kPlaces{IDC_PAGE_PLACES, [] { return SnryPlaceCount(Random().parameters); }, PlaceText};
+constexpr ListEditor kPlaces{
+    IDC_PAGE_PLACES, [] { return SlotsUsed(Random().parameters); },
+    [](int row, char* text, int size) { SnryPlaceText(Random().parameters, row, text, size); }};
 
 // kept: when an entry of a random is deleted, the modes, operations and other parameters stay in
 // their places, so that they no longer line up with the entries behind it.
 bool DeletePlace(WindowHandle, int row) {
   SnryRandomRec& random = Random();
-  const int place = SnryPlaceOfRow(random.parameters, row);
-  SnryPlaceDrop(random.parameters, place);
-  SnryPlaceDrop(random.ranges, place);
-  SnryPlaceDrop(random.counts, place);
+  const int place = SlotOfRow(random.parameters, row);
+  SlotDrop(random.parameters, place);
+  SlotDrop(random.ranges, place);
+  SlotDrop(random.counts, place);
   return true;
 }
 
 constexpr ListDeed kAdd{
     .question = kSnryParaAddQuestion,
-    .act = [](WindowHandle page, int) { return TakeInto(page, SnryPlaceFree(Random().parameters)); },
+    .act = [](WindowHandle page, int) { return TakeInto(page, SlotFree(Random().parameters)); },
     .failed = kSnryParaFull};
 constexpr ListDeed kChange{
     .needsRow = true, .question = kSnryParaChangeQuestion, .act = [](WindowHandle page, int row) {
-      return TakeInto(page, SnryPlaceOfRow(Random().parameters, row));
+      return TakeInto(page, SlotOfRow(Random().parameters, row));
     }};
 constexpr ListDeed kDelete{
     .needsRow = true, .question = {"パラメータを削除します。", "パラメータの削除"}, .act = DeletePlace};
@@ -124,7 +120,7 @@ void Edit(WindowHandle page) {
 }
 
 void PlaceChosen(WindowHandle page) {
-  const int at = SnryPlaceOfRow(Random().parameters, ListEditorChosen(page, kPlaces));
+  const int at = SlotOfRow(Random().parameters, ListEditorChosen(page, kPlaces));
   if (at < 0) return;
   Place place = Get(at);
   FormShow(page, place, ExchangePlace);
@@ -145,18 +141,11 @@ void Open(WindowHandle page) {
   ShowRecord(page);
 }
 
-template <int step>
-void Step(WindowHandle page) {
-  Store(page);
-  SnrySheet.random = SnryRecordStep(SnrySheet.random, step);
-  ShowRecord(page);
-}
-
 constexpr DialogAct kActs[] = {
     {EventKind::Init, Open},
     {EventKind::Apply, Store},
-    {IDC_PAGE_UP, Step<1>},
-    {IDC_PAGE_DOWN, Step<-1>},
+    {IDC_PAGE_UP, SnryPageStep<&SnrySheetState::random, Store, ShowRecord, 1>},
+    {IDC_PAGE_DOWN, SnryPageStep<&SnrySheetState::random, Store, ShowRecord, -1>},
     {IDC_PAGE_ENABLED,
      [](WindowHandle page) { Random().enabled = ControlIsChecked(page, IDC_PAGE_ENABLED) ? 1 : 0; }},
     {IDC_RANDOM_REPLACES,

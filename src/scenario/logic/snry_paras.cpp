@@ -3,7 +3,9 @@
 #include <algorithm>
 #include <cstring>
 #include <iterator>
+#include <span>
 
+#include "services/slots.h"
 #include "services/text.h"
 
 namespace {
@@ -12,17 +14,12 @@ constexpr char kNotSet[] = "未設定";
 constexpr int kUnsignedDigits = 5;
 constexpr int kUnsignedHighest = 65535;
 
-bool IsUsed(int slot) {
-  return SnryMain.paras[slot].used != 0;
+bool IsPara(int id) {
+  return id >= 1 && id <= kSnryParaMax && SnryMain.paras[id - 1].used != 0;
 }
 
 int UsedBefore(int slot) {
-  const auto used = [](const SnryParaRec& para) { return para.used != 0; };
-  return static_cast<int>(std::count_if(SnryMain.paras, SnryMain.paras + slot, used));
-}
-
-bool IsPara(int id) {
-  return id >= 1 && id <= kSnryParaMax && IsUsed(id - 1);
+  return SlotsUsed(std::span(SnryMain.paras, static_cast<std::size_t>(slot)), &SnryParaRec::used);
 }
 
 // How a parameter reads in a combo box and in the list, by what it does for the player
@@ -36,14 +33,13 @@ const char* TextOf(const char* const (&texts)[N], const SnryParaRec& para) {
   return texts[assignment < N ? assignment : 0];
 }
 
-void ComboText(int row, char* text, int size) {
-  const int slot = SnryParaIdOf(row) - 1;
-  if (slot < 0) {
-    TextCopy(text, static_cast<std::size_t>(size), kNotSet);
-  } else {
-    const SnryParaRec& para = SnryMain.paras[slot];
-    TextFormat(text, static_cast<std::size_t>(size), TextOf(kComboTexts, para), para.name);
-  }
+// A parameter by its id; false for one that is none.
+bool ComboText(int id, char* text, int size) {
+  if (id == 0) TextCopy(text, static_cast<std::size_t>(size), kNotSet);
+  if (!IsPara(id)) return id == 0;
+  const SnryParaRec& para = SnryMain.paras[id - 1];
+  TextFormat(text, static_cast<std::size_t>(size), TextOf(kComboTexts, para), para.name);
+  return true;
 }
 
 }  // namespace
@@ -57,7 +53,7 @@ int SnryParaIdOf(int row) {
 }
 
 Rows SnryParaRows() {
-  return RowsOf(1 + SnryParaUsedCount(), ComboText);
+  return RowsOf(1 + kSnryParaMax, ComboText);
 }
 
 void SnryParaExchange(Form& form, int id, std::uint16_t& parameter) {
@@ -81,15 +77,11 @@ const char* SnryParaName(int id) {
 }
 
 int SnryParaUsedCount() {
-  return UsedBefore(kSnryParaMax);
+  return SlotsUsed(SnryMain.paras, &SnryParaRec::used);
 }
 
 int SnryParaSlotOfRow(int row) {
-  if (row < 0) return -1;
-  for (int slot = 0; slot < kSnryParaMax; ++slot) {
-    if (IsUsed(slot) && row-- == 0) return slot;
-  }
-  return -1;
+  return SlotOfRow(SnryMain.paras, row, &SnryParaRec::used);
 }
 
 void SnryParaListText(int row, char* text, int size) {

@@ -1,19 +1,15 @@
 #include "scenario/logic/snry_places.h"
 
-int SnryPlaceCount(const SnryPlaces& parameters) {
-  return static_cast<int>(std::count_if(parameters, parameters + kSnryPlaces,
-                                        [](std::uint16_t parameter) { return parameter != 0; }));
+#include "scenario/logic/snry_paras.h"
+#include "services/slots.h"
+#include "services/text.h"
+
+void SnryPlaceText(const SnryPlaces& parameters, int row, char* text, int size) {
+  const int place = SlotOfRow(parameters, row);
+  TextFormat(text, static_cast<std::size_t>(size), "%d. %s", place + 1, SnryParaName(parameters[place]));
 }
 
-int SnryPlaceOfRow(const SnryPlaces& parameters, int row) {
-  if (row < 0) return -1;
-  for (int place = 0; place < kSnryPlaces; ++place) {
-    if (parameters[place] != 0 && row-- == 0) return place;
-  }
-  return -1;
-}
-
-int SnryPlaceFree(const SnryPlaces& parameters) {
-  const auto* free = std::find(parameters, parameters + kSnryPlaces, 0);
-  return free == parameters + kSnryPlaces ? -1 : static_cast<int>(free - parameters);
+void SnryPlaceRowText(const SnryPlaces& parameters, int row, char* text, int size) {
+  const int place = SlotOfRow(parameters, row);
+  TextFormat(text, static_cast<std::size_t>(size), "%d.%s", row + 1, SnryParaName(parameters[place]));
 }

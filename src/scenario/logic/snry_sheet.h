@@ -36,6 +36,15 @@ bool SnryRandomPage(const Event& event);
 // From the record with that number, from 0, to the next above or below; behind the last
 // comes the first.
 int SnryRecordStep(int record, int step);
+// The buttons "▲" and "▼" of a page, whose record has its number in the state: stores what
+// is on show and shows the next.
+template <std::int32_t SnrySheetState::*record, void (*store)(WindowHandle), void (*show)(WindowHandle),
+          int step>
+void SnryPageStep(WindowHandle page) {
+  store(page);
+  SnrySheet.*record = SnryRecordStep(SnrySheet.*record, step);
+  show(page);
+}
 // Shows the number of the record, from 1.
 void SnryRecordShow(WindowHandle page, int record);
 

@@ -6,6 +6,7 @@
 #include "resources/scenario_looks_ids.h"
 #include "scenario/logic/snry_cast_choice.h"
 #include "scenario/logic/snry_paras.h"
+#include "scenario/logic/snry_places.h"
 #include "scenario/looks/snry_looks.h"
 #include "services/dialog_acts.h"
 #include "services/dialog_family.h"
@@ -147,8 +148,9 @@ bool HasKey() {
   return SnryLooks.key >= 0;
 }
 
+// The current record; the first while there is none, which nobody asks for.
 SnryKeyRec& Key() {
-  return SnryScene.keys[SnryLooks.key];
+  return SnryScene.keys[HasKey() ? SnryLooks.key : 0];
 }
 
 // The place of a row of its parameters; -1 for a row that there is not.
@@ -160,13 +162,9 @@ SnryPair PairOf(int place) {
   return {Key().parameters[place], Key().values[place]};
 }
 
-void PlaceText(int row, char* text, int size) {
-  TextFormat(text, static_cast<std::size_t>(size), "%d.%s", row + 1,
-             SnryParaName(Key().parameters[PlaceOf(row)]));
-}
-
-constexpr ListEditor kPlaces{IDC_KEY_PLACES, [] { return HasKey() ? SlotsUsed(Key().parameters) : 0; },
-                             PlaceText};
+constexpr ListEditor kPlaces{
+    IDC_KEY_PLACES, [] { return HasKey() ? SlotsUsed(Key().parameters) : 0; },
+    [](int row, char* text, int size) { SnryPlaceRowText(Key().parameters, row, text, size); }};
 
 void ShowPlace(WindowHandle dialog) {
   const int place = PlaceOf(ListEditorChosen(dialog, kPlaces));
@@ -235,8 +233,8 @@ void RecordChosen(WindowHandle dialog) {
 
 // kept: an assignment of a key that is added has no cursor sync, whatever its buttons show; a
 // change gives it one.
-// settled: without a chosen key, as behind a record whose key the list does not have, nothing
-// is added.
+// settled: a key assignment is not added while no key is chosen, as it is behind one whose key
+// the list does not have.
 bool AddRecord(WindowHandle dialog, int) {
   const int slot = FreeSlot();
   if (slot < 0 || ListSelected(dialog, IDC_KEY_KEY) < 0) return false;

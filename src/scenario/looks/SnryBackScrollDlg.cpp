@@ -9,6 +9,7 @@
 #include "resources/scenario_looks_ids.h"
 #include "scenario/cast/scenario_files.h"
 #include "scenario/logic/snry_paras.h"
+#include "scenario/logic/snry_places.h"
 #include "scenario/looks/snry_looks.h"
 #include "scenario/storage/snry_paths.h"
 #include "services/dialog_acts.h"
@@ -94,13 +95,9 @@ void Delete(WindowHandle dialog) {
 
 // --- The conditions
 
-void PlaceText(int row, char* text, int size) {
-  const int place = SlotOfRow(Scroll().parameters, row);
-  TextFormat(text, static_cast<std::size_t>(size), "%d.%s", row + 1,
-             SnryParaName(Scroll().parameters[place]));
-}
-
-constexpr ListEditor kPlaces{IDC_SCROLL_PLACES, [] { return SlotsUsed(Scroll().parameters); }, PlaceText};
+constexpr ListEditor kPlaces{
+    IDC_SCROLL_PLACES, [] { return SlotsUsed(Scroll().parameters); },
+    [](int row, char* text, int size) { SnryPlaceRowText(Scroll().parameters, row, text, size); }};
 
 struct Condition {
   SnryPair pair;

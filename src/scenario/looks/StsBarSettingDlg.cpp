@@ -29,20 +29,17 @@ void ExchangeTime(Form& form, std::uint8_t& time) {
   if (form.Takes() && row < kTimeRows) time = static_cast<std::uint8_t>(row);
 }
 
-void ExchangeShown(Form& form, std::uint8_t& shown) {
-  form.Check(IDC_STATUS_SHOWN, shown);
+void Exchange(Form& form, SnryOptionRec& options) {
+  form.Check(IDC_STATUS_SHOWN, options.statusBar);
+  ExchangeTime(form, options.statusTime);
 }
 
 void Open(WindowHandle dialog) {
-  SnryLooks.statusBar = SnryMain.options.statusBar;
-  FormShow(dialog, SnryLooks.statusBar, ExchangeShown);
-  FormShow(dialog, SnryMain.options.statusTime, ExchangeTime);
+  FormShow(dialog, SnryMain.options, Exchange);
 }
 
 void Accept(WindowHandle dialog) {
-  FormTake(dialog, SnryLooks.statusBar, ExchangeShown);
-  SnryMain.options.statusBar = SnryLooks.statusBar;
-  FormTake(dialog, SnryMain.options.statusTime, ExchangeTime);
+  FormTake(dialog, SnryMain.options, Exchange);
   SubDialogEnd(dialog, kOkButton);
 }
 

@@ -1,8 +1,5 @@
 // TableFormScnDlg, "表形式選択": a scene that is shown as a table.
 
-#include <algorithm>
-#include <iterator>
-
 #include "resources/scenario_looks_ids.h"
 #include "scenario/looks/snry_looks.h"
 #include "scenario/storage/table_colours.h"
@@ -27,19 +24,16 @@ constexpr const char* kColourRows[] = {"1. バック=黒 文字=白 枠=白 タ�
 constexpr const char* kDataRows[] = {"1番目の設定パラメータデータ", "1番目の設定パラメータ名とデータ",
                                      "比較パラメータデータ", "比較パラメータ名とデータ"};
 
-void ExchangeFlags(Form& form, std::uint8_t& flags) {
-  form.Bit(IDC_TABLE_ENABLED, flags, kSnryTableForm);
-  form.Bit(IDC_TABLE_STAGE, flags, kSnryStageArea);
-  form.Bit(IDC_TABLE_HIDE, flags, kSnryHideScene);
-}
-
 void Exchange(Form& form, SnryTableRec& table) {
   form.Text(IDC_TABLE_ITEM, table.itemTitle, kTitleMost);
   form.Text(IDC_TABLE_SETTING, table.settingTitle, kTitleMost);
   form.Text(IDC_TABLE_DATA, table.dataTitle, kTitleMost);
 }
 
-void ExchangeFormat(Form& form, SnrySceneRec& scene) {
+void ExchangeScene(Form& form, SnrySceneRec& scene) {
+  form.Bit(IDC_TABLE_ENABLED, scene.tableFlags, kSnryTableForm);
+  form.Bit(IDC_TABLE_STAGE, scene.tableFlags, kSnryStageArea);
+  form.Bit(IDC_TABLE_HIDE, scene.tableFlags, kSnryHideScene);
   form.Choice(IDC_TABLE_FORMAT, scene.tableFormat, RowsOf(kFormats));
 }
 
@@ -51,20 +45,16 @@ void ShowRows(Form& form, SnryTableRec& table) {
 }
 
 void Open(WindowHandle dialog) {
-  SnryLooks.tableFlags = SnrySceneNow().tableFlags;
-  FormShow(dialog, SnryLooks.tableFlags, ExchangeFlags);
   FormShow(dialog, SnryScene.table, Exchange);
   FormShow(dialog, SnryScene.table, ShowRows);
-  FormShow(dialog, SnrySceneNow(), ExchangeFormat);
+  FormShow(dialog, SnrySceneNow(), ExchangeScene);
 }
 
 void Accept(WindowHandle dialog) {
   SnrySceneRec& scene = SnrySceneNow();
-  FormTake(dialog, SnryLooks.tableFlags, ExchangeFlags);
-  scene.tableFlags = SnryLooks.tableFlags;
   scene.textScheme = 0;
   FormTake(dialog, SnryScene.table, Exchange);
-  FormTake(dialog, scene, ExchangeFormat);
+  FormTake(dialog, scene, ExchangeScene);
   SnryTableColours(SnryScene.table);
   Scenario.changed = true;
   SnryDialogEnd(dialog, kOkButton);

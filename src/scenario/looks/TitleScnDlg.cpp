@@ -1,5 +1,5 @@
-// TitleScnDlg, "タイトル画面設定": the title with which a scene opens. The dialog works on a
-// copy, which a confirm writes back.
+// TitleScnDlg, "タイトル画面設定": the title with which a scene opens. Only a confirm takes what
+// stands in the dialog.
 
 #include <algorithm>
 #include <iterator>
@@ -72,13 +72,11 @@ void Exchange(Form& form, SnryTitleRec& title) {
 }
 
 void Open(WindowHandle dialog) {
-  SnryLooks.title = SnryScene.title;
-  FormShow(dialog, SnryLooks.title, Exchange);
+  FormShow(dialog, SnryScene.title, Exchange);
 }
 
 void Accept(WindowHandle dialog) {
-  FormTake(dialog, SnryLooks.title, Exchange);
-  SnryScene.title = SnryLooks.title;
+  FormTake(dialog, SnryScene.title, Exchange);
   SnryDialogEnd(dialog, kOkButton);
 }
 

@@ -8,14 +8,11 @@
 
 // What the dialogs have in hand until they are confirmed.
 struct SnryLooksState {
-  SnryTitleRec title = {};
-  std::uint8_t tableFlags = 0;
   std::int32_t key = -1;  // slot of the key whose parameters are on show; -1 for none
   // Of a key: the mode and the axes that its buttons show.
   std::uint8_t cursorSync = 0;
   std::uint8_t axes = 0;
   std::uint8_t direction = 0;  // of a condition of scrolling
-  std::uint8_t statusBar = 0;
 };
 extern SnryLooksState SnryLooks;
 

@@ -36,13 +36,16 @@ void CopyText(int number, int id, char* text, std::size_t size) {
   }
 }
 
-void CharacterText(SnryCastShow show, int number, int id, char* text, std::size_t size) {
-  const bool withCopies = show == SnryCastShow::Characters && SnryCastAt(id - 1).copies != 0;
-  TextFormat(text, size, withCopies ? "%d. %s(コピー含む) [登場名: %s]" : "%d. %s [登場名: %s]", number,
-             SnryMain.charaNames[id - 1].text, SnryMain.castNames[id - 1].text);
+void CharacterText(const char* format, int number, int id, char* text, int size) {
+  TextFormat(text, static_cast<std::size_t>(size), format, number, SnryMain.charaNames[id - 1].text,
+             SnryMain.castNames[id - 1].text);
 }
 
 }  // namespace
+
+void SnryCharaText(int number, int chara, char* text, int size) {
+  CharacterText("%d. %s [登場名: %s]", number, chara, text, size);
+}
 
 bool SnryCharaIsRegistered(int id) {
   return id >= 1 && id <= kSnryCharaMax && SnryMain.registered[id - 1] != 0;
@@ -79,7 +82,9 @@ void SnryCastRowText(SnryCastShow show, int row, char* text, int size) {
     text[0] = '\0';
   } else if (SnryCastIsCopy(id)) {
     CopyText(row + 1, id, text, room);
+  } else if (show == SnryCastShow::Characters && SnryCastAt(id - 1).copies != 0) {
+    CharacterText("%d. %s(コピー含む) [登場名: %s]", row + 1, id, text, size);
   } else {
-    CharacterText(show, row + 1, id, text, room);
+    SnryCharaText(row + 1, id, text, size);
   }
 }

@@ -19,5 +19,8 @@ int SnryCastRowOfId(SnryCastShow show, int id);
 // "1. name [登場名: ...]" and its like; terminated at `size`.
 void SnryCastRowText(SnryCastShow show, int row, char* text, int size);
 
+// "1. name [登場名: ...]" of a character (from 1) of the world; terminated at `size`.
+void SnryCharaText(int number, int chara, char* text, int size);
+
 // Whether a cast id is a character of the world, and registered.
 bool SnryCharaIsRegistered(int id);

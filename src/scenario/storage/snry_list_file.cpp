@@ -91,5 +91,5 @@ void SnryListRowText(int row, char* text, int size) {
   char whole[kSnryTitleSize + kSnryPathSize + 8];
   const SnryListRec& scenario = SnryList.rows[row];
   TextFormat(whole, sizeof whole, "[%s]-%s", scenario.title, scenario.folder);
-  TextCopy(text, TextPrefix(whole, static_cast<std::size_t>(size) - 1) + 1, whole);
+  TextCopyWhole(text, static_cast<std::size_t>(size), whole);
 }

@@ -11,8 +11,6 @@
 
 namespace {
 
-constexpr int kShownText = 128;  // of a line
-
 void Folder(SnryWalk& walk) {
   const SnryFolderRec& folder = WalkFolder(walk);
   const int number = walk.folder + 1;
@@ -156,9 +154,8 @@ void Lines(SnryWalk& walk, int id) {
   const SnryCastRec& cast = SnryCastAt(id - 1);
   for (int place = 0; place < kSnryCastPlaces; ++place) {
     if (cast.lines[place] == 0) continue;
-    char text[kShownText + 1];
-    const char* whole = SnryLineAt(cast.lines[place] - 1).text;
-    TextCopy(text, TextPrefix(whole, kShownText) + 1, whole);
+    char text[kWalkTextMost + 1];
+    TextCopyWhole(text, sizeof text, SnryLineAt(cast.lines[place] - 1).text);
     if (cast.lineParameters[place] == walk.parameter) {
       WalkSay(walk, "   > 人物 (%s) 台詞--> 値 = %d (%s)", WalkCastName(id), cast.lineValues[place], text);
     }

@@ -9,17 +9,6 @@
 #include "services/text.h"
 #include "world/world_list.h"
 
-namespace {
-
-constexpr int kShownText = 128;  // of a line and of a figure's name
-
-// The name of a figure by its id; empty for one that there is not.
-const char* FigureName(int id) {
-  return id >= 1 && id <= World.WorldFigureCount ? World.WorldFigures[id - 1].name : "";
-}
-
-}  // namespace
-
 void WalkSay(const SnryWalk& walk, const char* format, ...) {
   char line[kRowTextSize];
   va_list arguments;
@@ -70,9 +59,8 @@ void WalkMotions(SnryWalk& walk, int id) {
   const SnryCastRec& cast = SnryCastAt(id - 1);
   for (int place = 0; place < kSnryCastPlaces; ++place) {
     if (cast.motions[place] == 0 || cast.motionParameters[place] != walk.parameter) continue;
-    char name[kShownText + 1];
-    const char* figure = FigureName(cast.motions[place]);
-    TextCopy(name, TextPrefix(figure, kShownText) + 1, figure);
+    char name[kWalkTextMost + 1];
+    TextCopyWhole(name, sizeof name, WorldFigureName(cast.motions[place]));
     WalkSay(walk, "   > 人物 (%s) 動作--> 値 = %d (%s)", WalkCastName(id), cast.motionValues[place], name);
   }
 }

@@ -9,6 +9,9 @@
 #include "scenario/trace/snry_walk.h"
 #include "services/record.h"
 
+// Bytes that a line shows of what somebody says and of a figure's name.
+inline constexpr int kWalkTextMost = 128;
+
 struct SnryWalk {
   int parameter;  // id that is looked for
   std::int32_t value = 0;

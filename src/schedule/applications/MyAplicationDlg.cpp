@@ -9,14 +9,9 @@
 
 namespace {
 
-template <Command command>
-void EndWith(WindowHandle dialog) {
-  MenuDialogEnd(dialog, static_cast<int>(command));
-}
-
 constexpr DialogAct kActs[] = {
-    {IDC_APLI_SELECT, EndWith<Command::ApplicationSelect>},
-    {IDC_APLI_REGISTER, EndWith<Command::ApplicationRegister>},
+    {IDC_APLI_SELECT, MenuDialogEndWith<Command::ApplicationSelect>},
+    {IDC_APLI_REGISTER, MenuDialogEndWith<Command::ApplicationRegister>},
 };
 
 bool Handle(const Event& event) {

@@ -1,11 +1,8 @@
 // SclApliListDialog, "スケジュール用アプリケーション選択".
 #include "platform/dialog.h"
-#include "resources/schedule_applications_ids.h"
 #include "schedule/applications/application_dialogs.h"
-#include "schedule/applications/application_list.h"
 #include "services/dialog_acts.h"
 #include "services/dialog_family.h"
-#include "services/list_editor.h"
 #include "services/program.h"
 
 namespace {
@@ -13,16 +10,13 @@ namespace {
 // The dialog ends with the chosen entry's number, behind those of its two buttons.
 constexpr int kFirstEntry = kCancelButton;
 
-constexpr ListEditor kEntries{IDC_APLI_LIST, [] { return static_cast<int>(Applications.ApliCount); },
-                              ApliRowText};
-
 void Show(WindowHandle dialog) {
-  ListEditorShow(dialog, kEntries);
+  ListEditorShow(dialog, kApliEntries);
 }
 
 // settled: without a chosen application nothing is started, and the dialog stays.
 void Start(WindowHandle dialog) {
-  const int row = ListEditorChosen(dialog, kEntries);
+  const int row = ListEditorChosen(dialog, kApliEntries);
   if (row >= 0) MenuDialogEnd(dialog, kFirstEntry + row + 1);
 }
 

@@ -1,21 +1,15 @@
 // SclRegiApliListDialog, "スケジュール用アプリケーション登録".
 #include "platform/dialog.h"
-#include "resources/schedule_applications_ids.h"
 #include "schedule/applications/application_dialogs.h"
-#include "schedule/applications/application_list.h"
 #include "services/data_file.h"
 #include "services/dialog_acts.h"
 #include "services/dialog_family.h"
 #include "services/file_picker.h"
-#include "services/list_editor.h"
 #include "services/program.h"
 
 namespace {
 
 constexpr char kProgramMask[] = "*.EXE";
-
-constexpr ListEditor kEntries{IDC_APLI_LIST, [] { return static_cast<int>(Applications.ApliCount); },
-                              ApliRowText};
 
 bool PickAndAdd(WindowHandle dialog, int) {
   char path[kPickPathSize] = "";
@@ -39,12 +33,12 @@ constexpr ListDeed kDelete{
     .act = Remove};
 
 void Show(WindowHandle dialog) {
-  ListEditorShow(dialog, kEntries);
+  ListEditorShow(dialog, kApliEntries);
 }
 
 template <const ListDeed& deed>
 void Edit(WindowHandle dialog) {
-  ListDeedRun(dialog, kEntries, deed);
+  ListDeedRun(dialog, kApliEntries, deed);
 }
 
 constexpr DialogAct kActs[] = {

@@ -3,7 +3,13 @@
 
 #include <cstdint>
 
-#include "services/commands.h"
+#include "resources/schedule_applications_ids.h"
+#include "schedule/applications/application_list.h"
+#include "services/list_editor.h"
+
+// The list that both dialogs show.
+inline constexpr ListEditor kApliEntries{
+    IDC_APLI_LIST, [] { return static_cast<int>(Applications.ApliCount); }, ApliRowText};
 
 // "スケジュール用アプリケーション選択": the entry to be started, from 1; 0 for none.
 std::int32_t SclApliListDialogRun();

@@ -23,30 +23,23 @@ ApliListState Applications;
 namespace {
 
 constexpr char kMagic[] = "Mirrell ApliCation List:";
-constexpr int kMagicSize = sizeof kMagic - 1;
 
 void Path(char* buffer, int size) {
   RootPath(buffer, size, "\\mirrell_apli_list_file.ali");
 }
 
-bool EntriesAllocate(ApliEntry*& list, int count) {
-  auto* block = static_cast<ApliEntry*>(MemoryAllocate(static_cast<std::size_t>(count) * sizeof(ApliEntry)));
-  if (!block) return false;
-  MemoryFree(list);
-  list = block;
-  return true;
+// Room for `count` entries; null when there is none.
+ApliEntry* EntriesMake(int count) {
+  return static_cast<ApliEntry*>(MemoryAllocate(static_cast<std::size_t>(count) * sizeof(ApliEntry)));
 }
 
 // Room for `count` entries, with those that are there.
 bool EntriesGrow(int count) {
-  ApliEntry* old = Applications.entries;
-  Applications.entries = nullptr;
-  if (!EntriesAllocate(Applications.entries, count)) {
-    Applications.entries = old;
-    return false;
-  }
-  if (old) std::copy_n(old, Applications.ApliCount, Applications.entries);
-  MemoryFree(old);
+  ApliEntry* entries = EntriesMake(count);
+  if (!entries) return false;
+  if (Applications.entries) std::copy_n(Applications.entries, Applications.ApliCount, entries);
+  MemoryFree(Applications.entries);
+  Applications.entries = entries;
   return true;
 }
 
@@ -59,6 +52,49 @@ std::int32_t NumberBehind(std::int32_t number, int removed) {
 // bounded: an application list longer than the program ever writes is bad content.
 bool IsList(const ApliHead& head) {
   return head.count >= 0 && head.count <= kApliMax && head.second >= 0 && head.second <= kApliMax;
+}
+
+// A list as its file has it.
+struct ListRead {
+  ApliHead head = {};
+  ApliEntry* entries = nullptr;
+  ApliEntry schedule = {};
+  ApliEntry* second = nullptr;
+};
+
+// Room for so many entries, read from the file.
+bool EntriesRead(DataFile& data, ApliEntry*& entries, int count, int room) {
+  entries = EntriesMake(room);
+  return entries && RecordsRead(data, entries, count);
+}
+
+bool ListTake(DataFile& data, ListRead& list) {
+  if (!RecordRead(data, list.head) || !IsList(list.head)) return false;
+  return EntriesRead(data, list.entries, list.head.count, list.head.count + 1) &&
+         RecordRead(data, list.schedule) &&
+         (list.head.second == 0 || EntriesRead(data, list.second, list.head.second, list.head.second));
+}
+
+// settled: a program or a schedule whose path in the list of applications names no drive lies
+// below the program folder, so that a data set can be made before its place is known.
+void PathComplete(ApliEntry& entry) {
+  if (entry.path[0] == '\0' || PathIsFull(entry.path)) return;
+  const ApliEntry below = entry;
+  RootPath(entry.path, kApliPathSize, "\\");
+  TextAppend(entry.path, kApliPathSize, below.path);
+}
+
+void ListKeep(const ListRead& list) {
+  ApliListFree();
+  const ApliHead& head = list.head;
+  Applications.ApliCount = head.count;
+  Applications.ApliSecondCount = head.second;
+  Applications.ApliSelected = head.selected >= 0 && head.selected <= head.count ? head.selected : 0;
+  Applications.ApliSchedule = list.schedule;
+  Applications.entries = list.entries;
+  Applications.secondList = list.second;
+  for (int entry = 0; entry < head.count; ++entry) PathComplete(Applications.entries[entry]);
+  PathComplete(Applications.ApliSchedule);
 }
 
 }  // namespace
@@ -83,26 +119,20 @@ int ApliListRead() {
   FileResult.FileStatus = 0;
   DataFile data;
   if (!DataOpenRead(data, path, OpenMode::Read)) return -1;
-  char magic[kMagicSize];
-  if (!DataRead(data, magic, kMagicSize)) return DataFailStatus(data);
-  // kept: an application list that is something else counts as read.
-  if (std::memcmp(magic, kMagic, kMagicSize) != 0) {
-    DataClose(data);
-    FileResult.FileStatus = -2;
+  if (!DataMagicRead(data, kMagic)) {
+    if (data.failed) return DataFailStatus(data);
+    // kept: an application list that is something else counts as read.
+    DataFailStatus(data);
     return 0;
   }
-  ApliHead head;
-  if (!RecordRead(data, head) || !IsList(head)) return DataFailStatus(data);
-  if (!EntriesAllocate(Applications.entries, head.count + 1)) return DataFailStatus(data);
-  Applications.ApliCount = head.count;
-  Applications.ApliSecondCount = head.second;
-  Applications.ApliSelected = head.selected >= 0 && head.selected <= head.count ? head.selected : 0;
-  RecordsRead(data, Applications.entries, head.count);
-  RecordRead(data, Applications.ApliSchedule);
-  if (head.second > 0 && EntriesAllocate(Applications.secondList, head.second))
-    RecordsRead(data, Applications.secondList, head.second);
-  if (data.failed) return DataFailStatus(data);
+  ListRead list;
+  if (!ListTake(data, list)) {
+    MemoryFree(list.entries);
+    MemoryFree(list.second);
+    return DataFailStatus(data);
+  }
   DataClose(data);
+  ListKeep(list);
   return 0;
 }
 
@@ -112,7 +142,7 @@ int ApliListSave() {
   FileResult.FileStatus = 0;
   DataFile data;
   if (!DataReplace(data, path)) return -1;
-  DataWrite(data, kMagic, kMagicSize);
+  DataWrite(data, kMagic, sizeof kMagic - 1);
   RecordWrite(data,
               ApliHead{Applications.ApliCount, Applications.ApliSecondCount, Applications.ApliSelected});
   RecordsWrite(data, Applications.entries, Applications.ApliCount);
@@ -167,7 +197,7 @@ void ApliRowText(int entry, char* text, int size) {
 }
 
 int ApliListSetFirst(const char* path) {
-  if (!Applications.entries && !EntriesAllocate(Applications.entries, 2)) return -1;
+  if (!Applications.entries && !EntriesGrow(2)) return -1;
   TextCopy(Applications.entries[0].path, kApliPathSize, path);
   if (Applications.ApliCount < 1) Applications.ApliCount = 1;
   return 0;

@@ -24,6 +24,8 @@ struct ApliListState {
   // last-write time at the last look.
   char ApliHandOffFile[kHandOffPathSize] = {};
   std::uint64_t ApliHandOffTime = 0;
+  // How often the file, after its last change, was not whole.
+  std::int32_t ApliHandOffLooks = 0;
   // A change of the selection that waits: the selected entry to be and 1, so that 1 stands
   // for none selected; 0 when there is no change.
   std::int32_t ApliPending = 0;
@@ -34,8 +36,9 @@ extern ApliListState Applications;
 // 0; -1 when it cannot be made.
 int ApliListOpen();
 
-// Reads the file into the table. 0; -1 cannot be opened; -2 short or too many
-// entries. A wrong magic gives 0 with FileStatus -2.
+// Reads the file into the table, which stays as it is unless all of the file is read. 0; -1
+// cannot be opened; -2 short or too many entries. A wrong magic gives 0 with FileStatus -2.
+// Paths that name no drive lie below the program folder.
 int ApliListRead();
 
 // Writes the table. 0, -1 cannot be made, -2 short.

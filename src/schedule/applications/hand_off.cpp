@@ -15,6 +15,7 @@
 namespace {
 
 constexpr char kHandOffName[] = "SclApliStUp.svt";
+constexpr std::int32_t kLooksMost = 10;
 
 static_assert(RecordSize<HandOffHead>() + RecordSize<HandOffCalendars>() +
                   kCalenYearMax * kMonthsOfYear * RecordSize<CalenMonth>() +
@@ -59,6 +60,7 @@ void WatchBegin(std::int32_t entry, const char* path) {
   Applications.ApliStarted = entry;
   TextCopy(Applications.ApliHandOffFile, sizeof Applications.ApliHandOffFile, path);
   Applications.ApliHandOffTime = 0;
+  Applications.ApliHandOffLooks = 0;
   FileLastWrite(path, &Applications.ApliHandOffTime);
 }
 
@@ -119,10 +121,13 @@ bool SclHandOffCheck() {
   if (time == Applications.ApliHandOffTime) return false;
   HandOffHead head = {};
   // settled: a hand-off file whose first 1000 bytes cannot be read is being written, and is
-  // looked at again at the next tick; a longer one is read as it stands.
-  if (!HeadRead(head)) return false;
+  // looked at again at the next ticks, ten times in all, then not before it changes once more;
+  // a longer one is read as it stands.
+  const bool whole = HeadRead(head);
+  if (!whole && ++Applications.ApliHandOffLooks < kLooksMost) return false;
+  Applications.ApliHandOffLooks = 0;
   Applications.ApliHandOffTime = time;
-  return AnswerTake(head);
+  return whole && AnswerTake(head);
 }
 
 void ApliSelectionTake() {

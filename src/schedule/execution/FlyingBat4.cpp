@@ -7,7 +7,6 @@
 #include "clock_calendar/calendar/calendar.h"
 #include "platform/canvas.h"
 #include "platform/dialog.h"
-#include "platform/time.h"
 #include "platform/window.h"
 #include "resources/schedule_ids.h"
 #include "schedule/execution/scl_notice.h"
@@ -17,6 +16,7 @@
 #include "services/program.h"
 #include "services/text.h"
 #include "services/text_lines.h"
+#include "services/today.h"
 
 NoticesState Notices;
 
@@ -43,20 +43,14 @@ void Begin(WindowHandle window) {
   NoticeShow(window);
 }
 
-// By the machine's date: the shared one stands still while the calendar is off.
-bool IsToday(const SclDate& date) {
-  LocalTime now{};
-  TimeGetLocal(&now);
-  return date.year == now.year - 2000 && date.month == now.month - 1 && date.day == now.day - 1;
-}
-
 // "9 時 30 分", of an item's own day; of another day the hour of the table.
 struct TimeOfDay {
   int hour;
   int minute;
 };
 TimeOfDay TimeShown(const SclDate& date, int minute, int tableHour) {
-  return IsToday(date) ? TimeOfDay{date.hour, minute} : TimeOfDay{tableHour, 0};
+  // By the machine's date: the shared one stands still while the calendar is off.
+  return SclSameDay(date, SclDateNow()) ? TimeOfDay{date.hour, minute} : TimeOfDay{tableHour, 0};
 }
 
 void DrawText(Canvas* canvas, int y, const char* head, const char* date, const char* content) {
@@ -139,6 +133,7 @@ void SclNoticeFrameStep() {
 }
 
 void CommandSclNotice(Command) {
+  SclNoticeTake();
   if (!Notices.SclNotice.due || !NoticeClosed(&Notices.hSclNoticeWnd)) return;
   Open(kKindSchedule);
 }

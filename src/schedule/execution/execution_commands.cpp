@@ -25,19 +25,19 @@ bool IsMarked() {
 
 // --- The lines of a day of the executing schedule
 
-void LineShow(WindowHandle dialog, int index) {
+void LineShow(WindowHandle dialog, const SclDate& day, int index) {
   const SclItemRec& item = Schedule.SclExecTable.items[index];
-  const SclWorkDayRow& row = SclRowOfDay(Schedule.SclExecTable.rows, SclDay.day);
+  const SclWorkDayRow& row = SclRowOfDay(Schedule.SclExecTable.rows, day);
   SclDayTimes times{};
-  if (item.hours == 0 || !SclDayTimesOf(item, SclDay.day, row, times)) return;
+  if (item.hours == 0 || !SclDayTimesOf(item, day, row, times)) return;
   char text[100];
   TextFormat(text, sizeof text, "【 時間 】%d 時 %d 分 ～ %d 時 %d 分", times.startHour, times.startMinute,
              times.endHour, times.endMinute);
   DayLineAdd(dialog, text, index, item.text);
 }
 
-void LinesShow(WindowHandle dialog) {
-  for (int item = 0; item < Schedule.SclExecTable.count; ++item) LineShow(dialog, item);
+void LinesShow(WindowHandle dialog, const SclDate& day) {
+  for (int item = 0; item < Schedule.SclExecTable.count; ++item) LineShow(dialog, day, item);
 }
 
 }  // namespace
@@ -65,7 +65,7 @@ void CommandCalendarDaySchedule() {
   // settled: with no schedule carried out a day of the calendar has no lines.
   DspSclClickDayDataRun(
       SubDialog::DspSclClickDayDataSecond, owner, day,
-      Schedule.SclExecActive ? LinesShow : [](WindowHandle) {});
+      Schedule.SclExecActive ? LinesShow : [](WindowHandle, const SclDate&) {});
   CalenClickedDaySet(0);
   SendPaint(Calendar.hCalenWnd);
 }

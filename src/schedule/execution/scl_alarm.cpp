@@ -3,21 +3,14 @@
 #include <algorithm>
 
 #include "schedule/model/scl_dates.h"
+#include "services/today.h"
 
 SclAlarmState SclAlarm;
 
 namespace {
 
-bool SameDay(const SclItemDate& date, const SclDate& day) {
-  return date.year == day.year && date.month == day.month && date.day == day.day;
-}
-
 bool IsCached(const LocalTime& now) {
   return SclAlarm.year == now.year && SclAlarm.month == now.month && SclAlarm.day == now.day;
-}
-
-SclDate DayOf(const LocalTime& now) {
-  return {now.year - 2000, now.month - 1, now.day - 1, now.hour};
 }
 
 std::uint8_t ByteOf(int number) {
@@ -53,7 +46,7 @@ void EntryAdd(int item, const SclDayTimes& times, const LocalTime& now) {
 // The answer of the check: whether something fired.
 int ListBuild(const LocalTime& now) {
   const SclExecCopy& copy = Schedule.SclExecTable;
-  const SclDate day = DayOf(now);
+  const SclDate day = SclDateOf(now);
   const int count = std::clamp(copy.count, 0, kSclItemMax);
   bool fired = false;
   for (int item = 0; item < count; ++item) {
@@ -77,7 +70,7 @@ int DayBegin(const LocalTime& now) {
   SclAlarm.month = now.month;
   SclAlarm.day = now.day;
   SclAlarm.count = 0;
-  SclAlarm.row = SclRowOfDay(Schedule.SclExecTable.rows, DayOf(now));
+  SclAlarm.row = SclRowOfDay(Schedule.SclExecTable.rows, SclDateOf(now));
   if (now.hour >= SclAlarm.row.begin && now.hour < SclAlarm.row.end) return ListBuild(now);
   SclAlarm.year = 0;
   return NothingUntilNextMinute(now);
@@ -116,11 +109,11 @@ void EndTake(const SclItemRec& item, SclDayTimes& times) {
 // An item within the one day.
 bool OnlyDayTimes(const SclItemRec& item, const SclDate& day, const SclWorkDayRow& row, SclDayTimes& times) {
   if (row.end <= item.start.hour || row.begin > item.end.hour) return false;
-  if (SameDay(item.start, day) && row.begin <= item.start.hour) StartTake(item, times);
-  if (SameDay(item.end, day)) EndTake(item, times);
-  const bool sameDates = item.start.year == item.end.year && item.start.month == item.end.month &&
-                         item.start.day == item.end.day;
-  return !sameDates || times.startHour != times.endHour || times.startMinute != times.endMinute;
+  const SclDate start = SclDateOf(item.start);
+  const SclDate end = SclDateOf(item.end);
+  if (SclSameDay(start, day) && row.begin <= start.hour) StartTake(item, times);
+  if (SclSameDay(end, day)) EndTake(item, times);
+  return !SclSameDay(start, end) || times.startHour != times.endHour || times.startMinute != times.endMinute;
 }
 
 }  // namespace

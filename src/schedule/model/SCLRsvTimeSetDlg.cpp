@@ -23,7 +23,7 @@ void Open(const Event& event) {
 }
 
 void Confirm(const Event& event) {
-  char text[kDigits + 1];
+  char text[16];  // hours that were shown may have more digits than can be typed
   ControlGetText(event.window, IDC_SCL_HOURS, text, sizeof text);
   Hours(event) = SclHoursParse(text);
   ToolDialogEnd(event.window, kOkButton);

@@ -20,7 +20,7 @@ SclDate& Start(const Event& event) {
 }
 
 int YearShown(WindowHandle dialog) {
-  char text[kYearDigits + 1];
+  char text[16];  // a year that was shown may have more digits than can be typed
   ControlGetText(dialog, IDC_SCL_YEAR, text, sizeof text);
   return static_cast<int>(std::min<std::uint32_t>(SclHoursParse(text), kYearLast));
 }

@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <limits>
 
-#include "platform/time.h"
 #include "services/text.h"
+#include "services/today.h"
 
 ScheduleState Schedule;
 
@@ -47,9 +47,8 @@ void SclNewDefaults(int year, int month, int day) {
 
 void SclNew() {
   Schedule.SclHeader.kind = 1;
-  LocalTime now = {};
-  TimeGetLocal(&now);
-  SclNewDefaults(now.year - 2000, now.month - 1, now.day - 1);
+  const SclDate now = SclDateNow();
+  SclNewDefaults(now.year, now.month, now.day);
 }
 
 void SclRowEndsRefresh(SclWorkDayRow (&rows)[kSclRowCount]) {

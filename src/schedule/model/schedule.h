@@ -28,11 +28,11 @@ struct SclExecCopy {
 };
 
 struct ScheduleState {
-  // The schedule file that is offered first; empty for none. Kept in the settings
-  // file.
+  // kept: the settings file holds the name of a default schedule, empty for none, which
+  // nothing asks for.
   char DefaultSclName[kSclPathSize] = {};
-  // What the study plan (0) and the training plan (1) call themselves in a new
-  // data set.
+  // kept: a new data set names the study plan (0) and the training plan (1), and nothing
+  // shows these names: each new plan begins with a title of its own.
   char PlanTitles[kPlanKindCount][kPlanTitleSize] = {};
 
   // --- The schedule on display

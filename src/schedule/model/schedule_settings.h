@@ -1,4 +1,4 @@
-// What the settings file keeps of the schedules: the file of the execution schedule.
+// What the settings file keeps of the schedules: the name of the default one.
 #pragma once
 
 #include "schedule/model/schedule.h"

@@ -142,10 +142,6 @@ std::int64_t DaysBetween(const SclDate& earlier, const SclDate& later) {
   return total;
 }
 
-bool SameDay(const SclDate& a, const SclDate& b) {
-  return a.year == b.year && a.month == b.month && a.day == b.day;
-}
-
 // -2 to -5 by the first field that is before; 0 for none.
 int Refusal(const SclDate& earlier, const SclDate& later) {
   if (later.year != earlier.year) return later.year < earlier.year ? -2 : 0;
@@ -210,7 +206,7 @@ std::int32_t SclWorkHoursBetween(const SclDate& earlier, const SclDate& later) {
   const int refusal = Refusal(earlier, later);
   if (refusal != 0) return refusal;
   const std::int64_t hours =
-      SameDay(earlier, later)
+      SclSameDay(earlier, later)
           ? std::min<std::int64_t>(std::int64_t{later.hour} - earlier.hour, LiveRow(earlier).length)
           : DaysBetween(earlier, later);
   return static_cast<std::int32_t>(

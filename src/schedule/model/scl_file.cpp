@@ -11,7 +11,6 @@
 namespace {
 
 constexpr char kMagic[] = "SCL Data File : ";
-constexpr int kMagicSize = sizeof kMagic - 1;
 
 // The columns and rows of the map, as the file has them.
 using MapPlaces = std::uint16_t[kSclItemMax];
@@ -53,11 +52,6 @@ void MapWrite(DataFile& data) {
 
 // --- Reading
 
-bool MagicRead(DataFile& data) {
-  char magic[kMagicSize];
-  return DataRead(data, magic, kMagicSize) && std::memcmp(magic, kMagic, kMagicSize) == 0;
-}
-
 // bounded: a schedule's start that no calendar has is held at the nearest one.
 void StartHold(SclDate& start) {
   start.year = std::clamp(start.year, 0, 255);
@@ -89,12 +83,8 @@ bool MapRead(DataFile& data) {
 }
 
 bool ContentRead(DataFile& data) {
-  return MagicRead(data) && HeaderRead(data) &&
+  return DataMagicRead(data, kMagic) && HeaderRead(data) &&
          RecordsRead(data, Schedule.SclItemTable, Schedule.SclHeader.count) && MapRead(data);
-}
-
-void CurrentFileTake(const char* path) {
-  if (path != Schedule.SclCurrentFile) SclCurrentFileSet(path);
 }
 
 }  // namespace
@@ -103,13 +93,13 @@ int SclSaveFile(const char* path) {
   FileResult.FileStatus = 0;
   DataFile data;
   if (!DataReplace(data, path)) return FileResult.FileStatus;
-  DataWrite(data, kMagic, kMagicSize);
+  DataWrite(data, kMagic, sizeof kMagic - 1);
   HeaderWrite(data);
   RecordsWrite(data, Schedule.SclItemTable, Schedule.SclHeader.count);
   MapWrite(data);
   if (data.failed) return DataFailStatus(data);
   DataClose(data);
-  CurrentFileTake(path);
+  SclCurrentFileSet(path);
   if (Schedule.SclExecActive && std::strcmp(Schedule.SclCurrentFile, Schedule.SclExecFile) == 0) {
     SclExecRefresh();
   }
@@ -122,7 +112,7 @@ int SclLoadFile(const char* path) {
   if (!DataOpenRead(data, path, OpenMode::Read)) return FileResult.FileStatus;
   // kept: a schedule file that cannot be read whole has become the current one all the same, and
   // what came before its end is in the table.
-  CurrentFileTake(path);
+  SclCurrentFileSet(path);
   if (!ContentRead(data)) return DataFailStatus(data);
   DataClose(data);
   return FileResult.FileStatus;

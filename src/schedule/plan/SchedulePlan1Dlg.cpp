@@ -146,6 +146,12 @@ constexpr DialogAct kActs[] = {
     {EventKind::Destroy, Gone},
 };
 
+// While a converted plan is being saved its window is gone already, and a new plan would
+// take the place of what is saved.
+bool MayOpen() {
+  return !SclTable.hPlanWnd && !Plan.busy && !ModalIsUp();
+}
+
 bool Handle(const Event& event) {
   return TableScrollEvent(event, View()) || DialogActRun(event, kActs);
 }
@@ -153,13 +159,13 @@ bool Handle(const Event& event) {
 }  // namespace
 
 void PlanWindowOpenStudy() {
-  if (SclTable.hPlanWnd) return;
+  if (!MayOpen()) return;
   ScpStudyDefaults();
   DialogOpen(IDD_SchedulePlan1Dlg, Program.hMainWnd, Handle);
 }
 
 void PlanWindowOpenTraining() {
-  if (SclTable.hPlanWnd) return;
+  if (!MayOpen()) return;
   ScpTrainDefaults();
   DialogOpen(IDD_SCHEDULEPLAN2DLG, Program.hMainWnd, Handle);
 }

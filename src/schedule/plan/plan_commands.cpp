@@ -105,6 +105,7 @@ void Convert(WindowHandle window) {
   if (!ConversionAllowed(window) || SclTable.hPlanWnd != window) return;
   PlanTitleTake();
   if (ScpConvertToSchedule() < 0) {
+    ScheduleTableShow();
     BoxTell(window, kTableFull);
   } else {
     ScheduleShow();

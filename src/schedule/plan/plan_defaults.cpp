@@ -1,6 +1,6 @@
-#include "platform/time.h"
 #include "schedule/plan/plan.h"
 #include "services/text.h"
+#include "services/today.h"
 
 PlanState Plan;
 
@@ -37,18 +37,12 @@ constexpr Defaults kTraining{kScpTraining,
                              1,
                              "Training for arm 70per"};
 
-SclDate Now() {
-  LocalTime now{};
-  TimeGetLocal(&now);
-  return {now.year - 2000, now.month - 1, now.day - 1, now.hour};
-}
-
 void HeadSet(const Defaults& defaults) {
   ScpPlanHead& head = Plan.head;
   head = {};
   head.ScpPlanKind = defaults.kind;
   head.count = kScpLineMax;
-  head.start = Now();
+  head.start = SclDateNow();
   for (int i = 0; i < kScpIntervalCount; ++i) head.ScpIntervalTable[i] = defaults.intervals[i];
   for (int row = 0; row < kSclRowCount; ++row) {
     head.rows[row] = defaults.row;

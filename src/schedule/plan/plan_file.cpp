@@ -1,19 +1,11 @@
 #include "schedule/plan/plan_file.h"
 
-#include <cstring>
-
 #include "schedule/plan/plan.h"
 #include "services/record_file.h"
 
 namespace {
 
 constexpr char kMagic[] = "SCP Data File : ";
-constexpr int kMagicSize = sizeof kMagic - 1;
-
-bool MagicRead(DataFile& data) {
-  char magic[kMagicSize] = {};
-  return DataRead(data, magic, kMagicSize) && std::memcmp(magic, kMagic, kMagicSize) == 0;
-}
 
 // settled: a plan file that counts more than 300 lines, or fewer than none, is refused like
 // one that is cut, and the plan then has the 300 lines that there is room for.
@@ -31,13 +23,13 @@ void LinesBehindClear() {
 }
 
 bool Read(DataFile& data) {
-  if (!MagicRead(data) || !HeadRead(data)) return false;
+  if (!DataMagicRead(data, kMagic) || !HeadRead(data)) return false;
   LinesBehindClear();
   return RecordsRead(data, Plan.ScpPlanTable, Plan.head.count);
 }
 
 bool Write(DataFile& data) {
-  return DataWrite(data, kMagic, kMagicSize) && RecordWrite(data, Plan.head) &&
+  return DataWrite(data, kMagic, sizeof kMagic - 1) && RecordWrite(data, Plan.head) &&
          RecordsWrite(data, Plan.ScpPlanTable, Plan.head.count);
 }
 

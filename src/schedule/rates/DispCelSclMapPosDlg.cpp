@@ -20,10 +20,6 @@ constexpr int kBand = 60;  // pixels for the button below the map
 constexpr Colour kChosenColour = MakeColour(255, 0, 0);
 constexpr int kChosenWidth = 3;
 
-Colour ColourOf(const std::uint8_t (&rgb)[3]) {
-  return MakeColour(rgb[0], rgb[1], rgb[2]);
-}
-
 Rect MapArea(WindowHandle dialog) {
   const Rect client = WindowClientRect(dialog);
   return {0, 0, client.right, std::max(client.bottom - kBand, 0)};
@@ -34,22 +30,28 @@ struct Map {
   Rect area;  // where the map lies on the canvas
 };
 
+// A cell of which the window shows something.
+// bounded: the numbers of a cell and its size come from files; a cell beyond the window is
+// not worked out, however far away it claims to be.
+bool IsOnMap(const Map& map, int column, int row) {
+  const std::int64_t left = map.area.left + std::int64_t{column} * Sef.grid.cellWidth;
+  const std::int64_t top = map.area.top + std::int64_t{row} * Sef.grid.cellHeight;
+  return Sef.grid.cellWidth > 0 && Sef.grid.cellHeight > 0 && left < map.area.right && top < map.area.bottom;
+}
+
+// The place of one that is on the map.
 Rect CellOf(const Map& map, int column, int row) {
   const int left = map.area.left + column * Sef.grid.cellWidth;
   const int top = map.area.top + row * Sef.grid.cellHeight;
   return {left, top, left + Sef.grid.cellWidth, top + Sef.grid.cellHeight};
 }
 
-bool IsOnMap(const Map& map, const Rect& cell) {
-  return RectWidth(cell) > 0 && RectHeight(cell) > 0 && cell.left < map.area.right &&
-         cell.top < map.area.bottom;
-}
-
 // --- The picture and its cells
 
 void DrawGround(const Map& map) {
   static constexpr std::uint8_t kNoColour[3] = {255, 255, 255};
-  BrushHandle ground = BrushCreate(ColourOf(Wef.sceneCount > 0 ? Wef.scenes[0].fallback : kNoColour));
+  const bool known = SclMap.read && Wef.sceneCount > 0;
+  BrushHandle ground = BrushCreate(ColourOf(known ? Wef.scenes[0].fallback : kNoColour));
   FillArea(map.canvas, ground, map.area);
   CanvasBrush(map.canvas, BrushNothing());
   BrushDelete(ground);
@@ -58,11 +60,10 @@ void DrawGround(const Map& map) {
 
 // bounded: the grid of a map is drawn as far as the window shows it, however many cells it claims.
 void DrawCells(const Map& map) {
-  for (unsigned row = 0; row < Sef.grid.rows; ++row) {
-    if (!IsOnMap(map, CellOf(map, 0, static_cast<int>(row)))) return;
-    for (unsigned column = 0; column < Sef.grid.columns; ++column) {
-      const Rect cell = CellOf(map, static_cast<int>(column), static_cast<int>(row));
-      if (!IsOnMap(map, cell)) break;
+  for (int row = 0; static_cast<unsigned>(row) < Sef.grid.rows && IsOnMap(map, 0, row); ++row) {
+    for (int column = 0; static_cast<unsigned>(column) < Sef.grid.columns && IsOnMap(map, column, row);
+         ++column) {
+      const Rect cell = CellOf(map, column, row);
       CanvasRectangle(map.canvas, cell.left, cell.top, cell.right + 1, cell.bottom + 1);
     }
   }
@@ -81,7 +82,7 @@ void DrawGrid(const Map& map) {
 }
 
 void DrawChosen(const Map& map) {
-  if (SclMap.column == 0) return;
+  if (SclMap.column == 0 || !IsOnMap(map, SclMap.column - 1, SclMap.row - 1)) return;
   const Rect cell = CellOf(map, SclMap.column - 1, SclMap.row - 1);
   PenHandle pen = PenCreate(PenStyle::Solid, kChosenWidth, kChosenColour);
   CanvasPen(map.canvas, pen);
@@ -98,8 +99,8 @@ void DrawChosen(const Map& map) {
 void DrawMark(const SclMapMark& mark, void* context) {
   const Map& map = *static_cast<const Map*>(context);
   const ImageHandle picture = SclMap.marks[mark.type];
+  if (!DibBits(picture) || !IsOnMap(map, mark.column, mark.row)) return;
   const Rect cell = CellOf(map, mark.column, mark.row);
-  if (!DibBits(picture) || !IsOnMap(map, cell)) return;
   const int width = DibWidth(picture);
   const int height = DibHeight(picture);
   Canvas* scratch = CanvasMemory(map.canvas, width, height);

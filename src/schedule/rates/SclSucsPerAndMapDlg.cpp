@@ -7,7 +7,6 @@
 #include "schedule/rates/scl_rates.h"
 #include "services/dialog_acts.h"
 #include "services/dialog_family.h"
-#include "services/today.h"
 
 namespace {
 
@@ -26,11 +25,11 @@ void ShowRate(WindowHandle dialog, int id, float rate) {
 void Open(WindowHandle dialog) {
   LocalTime now;
   TimeGetLocal(&now);
-  TodaySet(now);
-  const SclRates rates = SclRatesOf(Today.TodayYear, Today.TodayMonth, Today.TodayDay);
+  const SclDate today{now.year - 2000, now.month - 1, now.day - 1, 0};
+  const SclRates rates = SclRatesOf(today.year, today.month, today.day);
   const SclDate& start = Schedule.SclHeader.start;
   ShowDate(dialog, IDC_RATE_START, start.year, start.month, start.day);
-  ShowDate(dialog, IDC_RATE_TODAY, Today.TodayYear, Today.TodayMonth, Today.TodayDay);
+  ShowDate(dialog, IDC_RATE_TODAY, today.year, today.month, today.day);
   if (rates.any) ShowDate(dialog, IDC_RATE_END, rates.end.year, rates.end.month, rates.end.day);
   if (rates.reached) ShowRate(dialog, IDC_RATE_DONE, rates.done);
   if (rates.reached) ShowRate(dialog, IDC_RATE_DUE, rates.due);

@@ -15,9 +15,9 @@ int BupSclDirWrite(const BupSclDir& dirs) {
   RootPath(path, sizeof path, kName);
   DataFile data;
   if (!DataReplace(data, path)) return -1;
-  const bool written = RecordWrite(data, dirs);
+  if (!RecordWrite(data, dirs)) return DataFailStatus(data);
   DataClose(data);
-  return written ? 0 : -2;
+  return 0;
 }
 
 int BupSclDirRead(BupSclDir& dirs) {
@@ -25,7 +25,7 @@ int BupSclDirRead(BupSclDir& dirs) {
   RootPath(path, sizeof path, kName);
   DataFile data;
   if (!DataOpenRead(data, path, OpenMode::Read)) return -3;
-  const bool read = RecordRead(data, dirs);
+  if (!RecordRead(data, dirs)) return DataFailStatus(data);
   DataClose(data);
-  return read ? 0 : -2;
+  return 0;
 }

@@ -5,6 +5,7 @@
 #include "schedule/table/row_selection.h"
 #include "schedule/table/status_names.h"
 #include "services/path.h"
+#include "services/program.h"
 #include "services/text.h"
 #include "world/wef_file.h"
 #include "world/world_pictures.h"
@@ -25,9 +26,24 @@ struct Application {
   char name[kPathSplitSize + 1];
 };
 
+// The path of the application as the system takes it.
+// settled: a path of an application that begins neither with a drive nor with a backslash
+// begins at the program's folder, so that a schedule can travel together with its map.
+void PathWhole(const char* path, char* whole, int size) {
+  const bool begins = path[0] == '\\' || (path[0] != '\0' && path[1] == ':');
+  const auto most = static_cast<std::size_t>(size);
+  if (begins) {
+    TextCopy(whole, most, path);
+  } else {
+    TextFormat(whole, most, "%s\\%s", Program.RootFolder, path);
+  }
+}
+
 Application ApplicationOf(const char* path) {
   Application application{};
-  PathSplit(path);
+  char whole[kMapPathSize];
+  PathWhole(path, whole, sizeof whole);
+  PathSplit(whole);
   TextCopy(application.folder, sizeof application.folder, PathParts.PathFolder);
   const std::size_t length = std::strlen(application.folder);
   if (length != 0) application.folder[length - 1] = '\0';  // its backslash
@@ -102,8 +118,9 @@ void SclMapRead() {
   SclMap.read = false;
   if (Schedule.SclMapFile[0] == '\0') return;
   const Application application = ApplicationOf(Schedule.SclMapFile);
-  SclMap.read = SefRead(application.folder, application.name, kFirstScene) == 0;
+  SefRead(application.folder, application.name, kFirstScene);
   WefRead(application.folder, application.name);
+  SclMap.read = true;
 }
 
 void SclStatusNamesRead() {

@@ -7,7 +7,7 @@
 #include "world/sef_file.h"
 
 struct SclMapState {
-  bool read = false;  // the tables are those of the schedule's application
+  bool read = false;  // the tables are those of the schedule's application, as far as it has any
   // While the map is on show: its picture, the pictures of the statuses and their masks,
   // and the cell that was clicked, from 1; 0 for none.
   ImageHandle picture = nullptr;
@@ -19,7 +19,8 @@ struct SclMapState {
 extern SclMapState SclMap;
 
 // Reads the application's files over the tables, if SclMapFile names one; else there are
-// no tables. What was wrong with them is told to nobody.
+// no tables. What was wrong with them is told to nobody: the tables hold what could be
+// read, and nothing of files that are not there.
 void SclMapRead();
 
 // The positions: how many, and what a row of their list says; terminated at `size`.

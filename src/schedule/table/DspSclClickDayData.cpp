@@ -9,11 +9,15 @@
 #include "services/dialog_family.h"
 #include "services/text.h"
 
-SclDayState SclDay;
-
 namespace {
 
 constexpr std::size_t kLineBytes = 66;
+
+// The dialog's context.
+struct DayLines {
+  SclDate day;
+  DayLinesShow show;
+};
 
 bool Holds(const SclItemRec& item, const SclDate& day) {
   // kept: in the list of a day's lines year, month and day are held against an item's range one
@@ -22,36 +26,32 @@ bool Holds(const SclItemRec& item, const SclDate& day) {
          day.month <= item.end.month && item.start.day <= day.day && day.day <= item.end.day;
 }
 
-bool IsDay(const SclItemDate& date, const SclDate& day) {
-  return date.year == day.year && date.month == day.month && date.day == day.day;
-}
-
 // A line of the schedule on display, if it touches the day.
-void ItemAdd(WindowHandle dialog, int index) {
+void ItemAdd(WindowHandle dialog, const SclDate& day, int index) {
   const SclItemRec& item = Schedule.SclItemTable[index];
-  if (item.hours == 0 || !Holds(item, SclDay.day)) return;
-  const SclWorkDayRow& row = SclRowOfDay(Schedule.SclHeader.rows, SclDay.day);
-  const bool starts = IsDay(item.start, SclDay.day);
+  if (item.hours == 0 || !Holds(item, day)) return;
+  const SclWorkDayRow& row = SclRowOfDay(Schedule.SclHeader.rows, day);
+  const bool starts = SclSameDay(SclDateOf(item.start), day);
   if (starts && item.start.hour == row.end) return;
   // settled: in the list of a day's lines one of several days is told with its hours on this one: from its
   // start or the begin of work, to its end or the end of work.
   char time[80];
   TextFormat(time, sizeof time, "【 時間 】%d 時～%d 時", starts ? item.start.hour : row.begin,
-             IsDay(item.end, SclDay.day) ? item.end.hour : row.end);
+             SclSameDay(SclDateOf(item.end), day) ? item.end.hour : row.end);
   DayLineAdd(dialog, time, index, item.text);
 }
 
-void ItemsShow(WindowHandle dialog) {
-  for (int item = 0; item < Schedule.SclHeader.count; ++item) ItemAdd(dialog, item);
+void ItemsShow(WindowHandle dialog, const SclDate& day) {
+  for (int item = 0; item < Schedule.SclHeader.count; ++item) ItemAdd(dialog, day, item);
 }
 
-void Show(WindowHandle dialog) {
+void Show(const Event& event) {
+  const auto& [day, show] = *static_cast<const DayLines*>(event.context);
   char head[80];
-  TextFormat(head, sizeof head, "%d年 %d月 %d日 の予定", SclDay.day.year + 2000, SclDay.day.month + 1,
-             SclDay.day.day + 1);
-  ControlSetText(dialog, IDC_SCL_DAY_HEAD, head);
-  const ListQuiet quiet(dialog, IDC_SCL_DAY_LINES);
-  SclDay.show(dialog);
+  TextFormat(head, sizeof head, "%d年 %d月 %d日 の予定", day.year + 2000, day.month + 1, day.day + 1);
+  ControlSetText(event.window, IDC_SCL_DAY_HEAD, head);
+  const ListQuiet quiet(event.window, IDC_SCL_DAY_LINES);
+  show(event.window, day);
 }
 
 constexpr DialogAct kActs[] = {{EventKind::Init, Show}};
@@ -79,10 +79,9 @@ void DayLineAdd(WindowHandle dialog, const char* time, int item, const char* tex
   } while (left > 0);
 }
 
-void DspSclClickDayDataRun(SubDialog number, WindowHandle owner, const SclDate& day,
-                           void (*show)(WindowHandle dialog)) {
-  SclDay = {day, show};
-  SubDialogRun(number, IDD_DspSclClickDayData, owner, Handle);
+void DspSclClickDayDataRun(SubDialog number, WindowHandle owner, const SclDate& day, DayLinesShow show) {
+  DayLines lines{day, show};
+  SubDialogRun(number, IDD_DspSclClickDayData, owner, Handle, &lines);
 }
 
 void ScheduleDayRun(WindowHandle owner, const SclDate& day) {

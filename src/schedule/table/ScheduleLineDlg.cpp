@@ -4,7 +4,6 @@
 
 #include "platform/canvas.h"
 #include "platform/dialog.h"
-#include "platform/time.h"
 #include "platform/window.h"
 #include "resources/schedule_table_ids.h"
 #include "schedule/model/scl_dates.h"
@@ -17,6 +16,7 @@
 #include "services/drawing_objects.h"
 #include "services/painting.h"
 #include "services/text.h"
+#include "services/today.h"
 
 namespace {
 
@@ -93,12 +93,6 @@ int WidthOf(const char* text) {
   return static_cast<int>(TextLength(text, 100)) * kTextWidth;
 }
 
-bool IsToday(const SclDate& date) {
-  LocalTime now{};
-  TimeGetLocal(&now);
-  return date.year == now.year - 2000 && date.month == now.month - 1 && date.day == now.day - 1;
-}
-
 // Goes through the dates of the bars that begin in the hours on show, from the left:
 // visit(row of the head, x, text, date). A visit that answers true ends the walk.
 // settled: bars of the chart that begin close to each other have no room for all their dates; one that
@@ -128,8 +122,9 @@ void HeadDraw(Canvas* canvas, const Rect& body) {
     TableCellDraw(canvas, {body.left, top, body.right, top + kRow}, Drawing.Brushes[kBrushC8C8C8], "");
   }
   CanvasClip(canvas, {body.left, kHeadTop, body.right, body.top});
+  const SclDate today = SclDateNow();
   DatesVisit(body, [&](int row, int x, const char* text, const SclDate& date) {
-    CanvasTextColour(canvas, row == 2 && IsToday(date) ? kRed : 0);
+    CanvasTextColour(canvas, row == 2 && SclSameDay(date, today) ? kRed : 0);
     CanvasText(canvas, x, kHeadTop + row * kRow + kTextIn, text);
     return false;
   });
@@ -297,26 +292,24 @@ void ToLast(WindowHandle dialog) {
 
 // --- Double clicks
 
-bool Inside(const Rect& rect, int x, int y) {
-  return x >= rect.left && x < rect.right && y >= rect.top && y < rect.bottom;
-}
-
 // The date in the head at that place. False for none.
 bool DateAt(const Rect& body, int x, int y, SclDate& found) {
   bool any = false;
   DatesVisit(body, [&](int row, int left, const char* text, const SclDate& date) {
     const int top = kHeadTop + row * kRow;
-    any = Inside({left, top, left + WidthOf(text), top + kRow}, x, y);
+    any = RectHas({left, top, left + WidthOf(text), top + kRow}, x, y);
     if (any) found = date;
     return any;
   });
   return any;
 }
 
-// The item whose bar, text or number is at that place; -1 for none.
+// The item whose bar, text or number is at that place; -1 for none. A bar's text begins a
+// little below the top of its row, and its line, which is thick, ends as far below the row.
 int ItemAt(const Rect& body, int x, int y) {
-  const int place = LineChart.firstBar + (y - body.top) / kRow;
-  if (y < body.top || place >= LastBar(body)) return -1;
+  const int down = y - body.top - kTextIn;
+  const int place = LineChart.firstBar + down / kRow;
+  if (down < 0 || place >= LastBar(body)) return -1;
   const LineBar& bar = LineChart.bars[place];
   if (x >= kLeft && x < body.left) return bar.item;
   if (x < body.left || x >= body.right) return -1;

@@ -161,12 +161,17 @@ void DayHours(WindowHandle dialog) {
 
 // --- Opening and closing
 
-void Open(WindowHandle dialog) {
-  SclTableWindowSet(dialog, &SclRowTable());
-  SclTable.clientHeight = WindowClientRect(dialog).bottom;
+// The rows are those of another schedule.
+void BeginAnew() {
   RowsForget();
   if (RowSelection.copyMark == CopyMark::InSchedule) RowsMarkClear();
   SclStatusNamesRead();
+}
+
+void Open(WindowHandle dialog) {
+  SclTableWindowSet(dialog);
+  SclTable.clientHeight = WindowClientRect(dialog).bottom;
+  BeginAnew();
   Fit(dialog);
   TableFocus(dialog, SclTable.SclTableView, kTableBar);
 }
@@ -184,7 +189,7 @@ void Close(WindowHandle dialog) {
 }
 
 void Gone() {
-  SclTableWindowSet(nullptr, nullptr);
+  SclTableWindowSet(nullptr);
 }
 
 // Buttons leave the keyboard with the table.
@@ -242,7 +247,6 @@ void ScheduleTableOpen() {
     DialogOpen(IDD_ScheduleMakeDlg, Program.hMainWnd, Handle);
     return;
   }
-  RowsForget();
-  SclStatusNamesRead();
+  BeginAnew();
   ScheduleTableShow();
 }

@@ -1,35 +1,26 @@
 // ScheduleSelDlg and ScheduleSelDlg2, "スケジュール表 メニュー": each button is a command,
 // which is sent when the menu has closed.
-#include "platform/event.h"
 #include "resources/schedule_table_ids.h"
 #include "schedule/table/schedule_table_commands.h"
+#include "services/dialog_acts.h"
 #include "services/dialog_family.h"
 #include "services/feature_dialog.h"
 #include "services/program.h"
 
 namespace {
 
-struct Choice {
-  int button;
-  Command command;
-};
-constexpr Choice kChoices[] = {
-    {IDC_SCL_NEW, Command::ScheduleNew},
-    {IDC_SCL_EXECUTING, Command::ScheduleExecuting},
-    {IDC_SCL_LOAD, Command::ScheduleLoad},
-    {IDC_SCL_PLAN, Command::SchedulePlan},
-    {IDC_SCL_APPLICATIONS, Command::ApplicationSelect},
-    {IDC_SCL_RUN, Command::ApplicationRun},
-    {IDC_SCL_REGISTER, Command::ApplicationRegister},
+constexpr DialogAct kActs[] = {
+    {IDC_SCL_NEW, MenuDialogEndWith<Command::ScheduleNew>},
+    {IDC_SCL_EXECUTING, MenuDialogEndWith<Command::ScheduleExecuting>},
+    {IDC_SCL_LOAD, MenuDialogEndWith<Command::ScheduleLoad>},
+    {IDC_SCL_PLAN, MenuDialogEndWith<Command::SchedulePlan>},
+    {IDC_SCL_APPLICATIONS, MenuDialogEndWith<Command::ApplicationSelect>},
+    {IDC_SCL_RUN, MenuDialogEndWith<Command::ApplicationRun>},
+    {IDC_SCL_REGISTER, MenuDialogEndWith<Command::ApplicationRegister>},
 };
 
 bool Handle(const Event& event) {
-  for (const Choice& choice : kChoices) {
-    if (!IsPressed(event, choice.button)) continue;
-    MenuDialogEnd(event.window, static_cast<int>(choice.command));
-    return true;
-  }
-  return false;
+  return DialogActRun(event, kActs);
 }
 
 int MenuRun() {

@@ -3,7 +3,9 @@
 #include <algorithm>
 
 #include "platform/window.h"
+#include "schedule/table/schedule_table.h"
 #include "services/boxes.h"
+#include "services/modal.h"
 #include "services/text.h"
 
 namespace {
@@ -15,8 +17,9 @@ bool GuestIsClicked() {
 }
 
 const RowTable* Rows() {
-  if (GuestIsClicked()) return SclTable.guestRows;
-  return RowWindow() == SclTable.hSclTableWnd ? SclTable.sclRows : SclTable.planRows;
+  const WindowHandle window = RowWindow();
+  if (!window) return nullptr;
+  return window == SclTable.hPlanWnd ? SclTable.planRows : &SclRowTable();
 }
 
 TableView& View() {
@@ -80,6 +83,7 @@ void RowWindowClicked(WindowHandle window) {
 }
 
 void CommandRowInsert() {
+  if (ModalIsUp()) return;
   const RowTable* rows = Rows();
   if (!rows) return;
   if (rows->count() >= rows->limit) {
@@ -93,6 +97,7 @@ void CommandRowInsert() {
 }
 
 void CommandRowDelete() {
+  if (ModalIsUp()) return;
   const RowTable* rows = Rows();
   if (!rows || rows->count() == 0 || RowSelection.currentRow == 0) return;
   const RowRange range = RowSelectionRange();
@@ -107,6 +112,7 @@ void CommandRowDelete() {
 }
 
 void CommandRowCopy() {
+  if (ModalIsUp()) return;
   const RowTable* rows = Rows();
   if (!rows || RowSelection.currentRow == 0) return;
   RowsMarkCopied(rows->mark);
@@ -114,6 +120,7 @@ void CommandRowCopy() {
 }
 
 void CommandRowPaste() {
+  if (ModalIsUp()) return;
   const RowTable* rows = Rows();
   const int target = RowSelection.currentRow;
   if (!rows || target == 0 || RowSelection.copyMark != rows->mark) return;

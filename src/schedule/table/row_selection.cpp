@@ -16,10 +16,7 @@ int BottomOf(const TableLayout& layout) {
 // Scrolls towards the pointer by one row; the tick goes on with it while it stays there.
 void DragPast(const Event& event, TableView& view, ScrollDirection direction) {
   TableScrollStart(direction);
-  const bool down = direction == ScrollDirection::Down;
-  if (!TableScrollMove(view, down ? Scroll::LineDown : Scroll::LineUp)) return;
-  RowEndMove(down ? 1 : -1, view.lines);
-  TableScrollShow(event.window, view);
+  RowsScroll(event.window, view, direction);
 }
 
 }  // namespace
@@ -62,12 +59,12 @@ void RowPress(const Event& event, int row) {
   SendPaint(event.window);
 }
 
-bool RowDrag(const Event& event, const TableLayout& layout, TableView& view) {
-  if (!RowSelection.dragging) return false;
+void RowDrag(const Event& event, const TableLayout& layout, TableView& view) {
+  if (!RowSelection.dragging) return;
   const TablePlace place = TablePlaceAt(layout, view.firstLine, view.lines, event.x, event.y);
   if (place.hit == TableHit::Number) {
     TableScrollForget();
-    if (RowSelection.selectionEnd == place.row) return true;
+    if (RowSelection.selectionEnd == place.row) return;
     RowSelection.selectionEnd = place.row;
     SendPaint(event.window);
   } else if (event.y >= BottomOf(layout)) {
@@ -77,19 +74,17 @@ bool RowDrag(const Event& event, const TableLayout& layout, TableView& view) {
   } else {
     TableScrollForget();
   }
-  return true;
 }
 
-bool RowRelease(const Event& event, const TableLayout& layout, const TableView& view) {
+void RowRelease(const Event& event, const TableLayout& layout, const TableView& view) {
   TableScrollStop();
-  if (!RowSelection.dragging) return false;
+  if (!RowSelection.dragging) return;
   RowSelection.dragging = false;
   PointerRelease();
   const int row = TableRowAt(layout, view.firstLine, view.lines, event.y);
   if (row > 0) RowSelection.selectionEnd = row;
   RowSelection.currentRow = RowSelection.selectionEnd;
   SendPaint(event.window);
-  return true;
 }
 
 bool RowMenuMayOpen(int row) {
@@ -114,7 +109,10 @@ bool RowIsCopied(int row, CopyMark mark) {
          row <= RowSelection.copyLast;
 }
 
-void RowEndMove(int step, int rows) {
-  if (rows <= 0) return;
-  RowSelection.selectionEnd = std::clamp(RowSelection.selectionEnd + step, 1, rows);
+bool RowsScroll(WindowHandle window, TableView& view, ScrollDirection direction) {
+  const bool down = direction == ScrollDirection::Down;
+  if (!TableScrollMove(view, down ? Scroll::LineDown : Scroll::LineUp)) return false;
+  RowSelection.selectionEnd = std::clamp(RowSelection.selectionEnd + (down ? 1 : -1), 1, view.lines);
+  TableScrollShow(window, view);
+  return true;
 }

@@ -43,10 +43,10 @@ void RowsForget();
 // A press on a number cell: selects the row and starts a drag, or with shift moves the
 // end of the selection there.
 void RowPress(const Event& event, int row);
-// A move of the pointer. True when it belongs to a drag; the table is drawn as needed.
-bool RowDrag(const Event& event, const TableLayout& layout, TableView& view);
-// The left button is let go. True when that ends a drag.
-bool RowRelease(const Event& event, const TableLayout& layout, const TableView& view);
+// A move of the pointer, which may belong to a drag; the table is drawn as needed.
+void RowDrag(const Event& event, const TableLayout& layout, TableView& view);
+// The left button is let go, which ends a drag.
+void RowRelease(const Event& event, const TableLayout& layout, const TableView& view);
 // A press of the right button on a number cell. True when the popup menu is to open:
 // always for a single selection, which moves to that row, else inside the range only.
 bool RowMenuMayOpen(int row);
@@ -59,6 +59,6 @@ void RowsMarkClear();
 // A copied row of the window that has this mark.
 bool RowIsCopied(int row, CopyMark mark);
 
-// The end of the selection goes along with a table that scrolls under the pointer, as far
-// as the first and the last of its rows.
-void RowEndMove(int step, int rows);
+// Scrolls a table under the pointer by one row, and draws it; the end of the selection goes
+// along, as far as the first and the last of its rows. False at the table's end.
+bool RowsScroll(WindowHandle window, TableView& view, ScrollDirection direction);

@@ -15,13 +15,8 @@ void ScheduleAlarmDlgRun(WindowHandle owner);
 void DspSclClickLineDataRun(WindowHandle owner, int item);
 
 // "指定日のスケジュール": the lines of a day. `show` adds them with DayLineAdd.
-struct SclDayState {
-  SclDate day = {};
-  void (*show)(WindowHandle dialog) = nullptr;
-};
-extern SclDayState SclDay;
-void DspSclClickDayDataRun(SubDialog number, WindowHandle owner, const SclDate& day,
-                           void (*show)(WindowHandle dialog));
+using DayLinesShow = void (*)(WindowHandle dialog, const SclDate& day);
+void DspSclClickDayDataRun(SubDialog number, WindowHandle owner, const SclDate& day, DayLinesShow show);
 // One line of the day: its time, then its text, at most 128 bytes, broken every 66.
 void DayLineAdd(WindowHandle dialog, const char* time, int item, const char* text);
 

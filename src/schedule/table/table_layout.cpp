@@ -10,10 +10,6 @@ constexpr int kLeft = 10;
 constexpr int kNumberWidth = 40;
 constexpr int kStartWidth = 214;
 
-bool Inside(const Rect& rect, int x, int y) {
-  return x >= rect.left && x < rect.right && y >= rect.top && y < rect.bottom;
-}
-
 // The column of a row at that x.
 TableHit ColumnAt(const TableLayout& layout, int x) {
   if (x < layout.left || x >= layout.right) return TableHit::None;
@@ -66,8 +62,8 @@ int TableRowAt(const TableLayout& layout, int firstLine, int lines, int y) {
 }
 
 TablePlace TablePlaceAt(const TableLayout& layout, int firstLine, int lines, int x, int y) {
-  if (Inside(layout.start, x, y)) return {TableHit::Start, 0};
-  if (Inside(layout.title, x, y)) return {TableHit::Title, 0};
+  if (RectHas(layout.start, x, y)) return {TableHit::Start, 0};
+  if (RectHas(layout.title, x, y)) return {TableHit::Title, 0};
   if (y >= layout.headTop && y < layout.rowsTop) return {HeadAt(layout, x), 0};
   const int row = TableRowAt(layout, firstLine, lines, y);
   const TableHit column = row > 0 ? ColumnAt(layout, x) : TableHit::None;

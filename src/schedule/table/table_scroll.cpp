@@ -78,10 +78,9 @@ void WindowForget(WindowHandle window) {
 
 }  // namespace
 
-void SclTableWindowSet(WindowHandle window, const RowTable* rows) {
+void SclTableWindowSet(WindowHandle window) {
   WindowForget(SclTable.hSclTableWnd);
   SclTable.hSclTableWnd = window;
-  SclTable.sclRows = rows;
   SclTable.SclTableView = {};
 }
 
@@ -93,10 +92,9 @@ void PlanWindowSet(WindowHandle window, const RowTable* rows, void (*redraw)(Win
   SclTable.PlanView.redraw = redraw;
 }
 
-void RowGuestSet(WindowHandle window, const RowTable* rows) {
+void RowGuestSet(WindowHandle window) {
   WindowForget(SclTable.guest);
   SclTable.guest = window;
-  SclTable.guestRows = rows;
 }
 
 void TableViewFit(TableView& view, int lines, int pageLines) {

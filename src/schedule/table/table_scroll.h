@@ -28,14 +28,12 @@ struct SclTableState {
   WindowHandle hSclTableWnd = nullptr;  // ScheduleMakeDlg
   WindowHandle hPlanWnd = nullptr;      // SchedulePlan1Dlg
   std::int32_t AutoScrollDelay = 0;
-  // What the commands of the popup menu act on: the rows of each window, while it is
-  // open, and the window whose rows were clicked last.
-  const RowTable* sclRows = nullptr;
+  // What the commands of the popup menu act on: the rows of the plan chart, while it is
+  // open, or those of the schedule, by the window whose rows were clicked last.
   const RowTable* planRows = nullptr;
   WindowHandle clicked = nullptr;
-  // A window without rows of its own whose menu is that of these rows.
+  // A window without rows of its own, whose menu is that of the schedule's.
   WindowHandle guest = nullptr;
-  const RowTable* guestRows = nullptr;
   // Of the schedule's window: the height that its buttons stand by, and that it is asking
   // whether to save before it closes.
   std::int32_t clientHeight = 0;
@@ -50,10 +48,10 @@ inline constexpr int kTableBar = 100;  // the bar's number as a control
 // --- The windows. Each tells itself at its Init, and null at its end; `redraw` is that of
 // its view.
 
-void SclTableWindowSet(WindowHandle window, const RowTable* rows);
+void SclTableWindowSet(WindowHandle window);
 void PlanWindowSet(WindowHandle window, const RowTable* rows, void (*redraw)(WindowHandle) = nullptr);
-// Of another window that opens the menu of such rows.
-void RowGuestSet(WindowHandle window, const RowTable* rows);
+// Of another window that opens the menu of the schedule's rows.
+void RowGuestSet(WindowHandle window);
 
 // --- Scrolling
 

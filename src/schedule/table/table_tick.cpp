@@ -7,26 +7,6 @@ namespace {
 
 constexpr std::int32_t kRepeatTicks = 5;
 
-// A table that scrolls under the pointer takes the end of the selection with it.
-bool StepDown(TableView& view) {
-  if (view.firstLine + view.pageLines >= view.lines) return false;
-  ++view.firstLine;
-  RowEndMove(1, view.lines);
-  return true;
-}
-
-bool StepUp(TableView& view) {
-  if (view.firstLine <= 0) return false;
-  --view.firstLine;
-  RowEndMove(-1, view.lines);
-  return true;
-}
-
-bool Step(TableView& view) {
-  if (SclTable.TableScrollDirection == ScrollDirection::Down) return StepDown(view);
-  return SclTable.TableScrollDirection == ScrollDirection::Up && StepUp(view);
-}
-
 }  // namespace
 
 void TableScrollTick() {
@@ -38,8 +18,7 @@ void TableScrollTick() {
     return;
   }
   if (SclTable.TableScrollDirection == ScrollDirection::None) return;
-  if (Step(view)) {
-    TableScrollShow(window, view);
+  if (RowsScroll(window, view, SclTable.TableScrollDirection)) {
     SclTable.AutoScrollDelay = kRepeatTicks;
   } else {
     SclTable.TableScrollDirection = ScrollDirection::None;

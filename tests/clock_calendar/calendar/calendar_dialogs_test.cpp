@@ -73,6 +73,19 @@ TEST_F(CalendarDialogsTest, TheChoiceShowsNameSpanAndList) {
   CommandSend(Command::CalendarSelect);
 }
 
+TEST_F(CalendarDialogsTest, TheChoiceShowsTheBackgroundOfAMonthWhosePictureIsOn) {
+  MakeFolder(InProgram("背景"));
+  PutFile(InProgram("背景\\sea.bmp"), BmpFile(30, 40));
+  CalenMonthPicture& picture = Calendar.CalenMonths[0][10].picture;
+  TextCopy(picture.background, sizeof picture.background, "sea.bmp");
+  for (const bool on : {false, true}) {
+    picture.pictureOn = on ? 1 : 0;
+    Then([=] { EXPECT_EQ(CalendarEdit.pictures.CalenBackground != nullptr, on); });
+    ThenPress(2);
+    CommandSend(Command::CalendarSelect);
+  }
+}
+
 TEST_F(CalendarDialogsTest, TheSwitchPutsTheCalendarOnTheDesktopAndTakesItAway) {
   ThenPress(IDC_SEL_SHOW);
   ThenPress(1);
@@ -498,6 +511,16 @@ TEST_F(CalendarDialogsTest, ACancelledPictureChangesNothing) {
     Then([] { EXPECT_FALSE(CalendarEdit.changed); });
   });
   EXPECT_EQ(Calendar.CalenMonths[0][10].picture.pictureOn, 0);
+}
+
+TEST_F(CalendarDialogsTest, AnUntouchedPictureChangesNothing) {
+  Calendar.CalenDefinitions[0].charas[10][0] = 40;  // of which the list of the world knows none
+  Calendar.CalenDefinitions[0].figureModes[10][1] = 2;
+  Edit([] {
+    ThenPress(IDC_CALEN_SET_BMP);
+    ThenPress(1);
+    Then([] { EXPECT_FALSE(CalendarEdit.changed); });
+  });
 }
 
 TEST_F(CalendarDialogsTest, ABackgroundOfTheFolderIsNamedWithoutIt) {

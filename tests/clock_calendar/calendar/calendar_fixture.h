@@ -62,6 +62,7 @@ class CalendarFixture : public ProgramTest {
     SendClose(Calendar.hCalenWnd);
     Calendar.CalenKind = kind;
     Calendar.CalenPageSize = size;
+    CalenTakeDefinition();
     CalenWindowOpen();
     return Calendar.hCalenWnd;
   }

@@ -230,10 +230,10 @@ TEST_F(CalendarWindowTest, TheButtonsAreMadeAfreshAndGoWithTheWindow) {
 
 // --- When it is due
 
-TEST_F(CalendarWindowTest, AStillCalendarIsDueAtTheNextMinuteOnly) {
+TEST_F(CalendarWindowTest, AStillCalendarIsDueAtMidnightOnly) {
   Open();
-  Date(2026, 11, 21, 9, 30);  // 15 seconds past
-  EXPECT_EQ(CalenWindowDue(), 45000 / 30);
+  Date(2026, 11, 21, 9, 30);  // 15 seconds past: 14 hours, 29 minutes and 45 seconds are left
+  EXPECT_EQ(CalenWindowDue(), 52185000 / 30);
 }
 
 TEST_F(CalendarWindowTest, ARunningTickerIsDueAtEveryTickAndARestingOneAtTheEndOfItsRest) {
@@ -358,7 +358,7 @@ TEST_F(CalendarWindowTest, AYearOfMidnightsIsFollowedDayByDay) {
   EXPECT_TRUE(Says("2029年  1月"));
 }
 
-TEST_F(CalendarWindowTest, TheCountsAreFlatOverADayOfTicks) {
+TEST_F(CalendarWindowTest, TheCountsAreFlatWhileATickerRuns) {
   Calendar.CalenDefinitions[0].tickerFlags = 1;
   CalenNoteSet(0, 10, 20, "a");
   Open(kPageWeek);

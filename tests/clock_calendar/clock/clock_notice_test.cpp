@@ -122,7 +122,7 @@ TEST_F(ClockNoticeTest, TheFigureIsCentredBelowTheComment) {
   Alarm(0, 1, "起床");
   Send(kClockNotice);
   Repaint(ClockNotice.hClockNoticeWnd);
-  const PerformanceImages figure = PerformanceFigure(0);
+  const MaskedFrame figure = PerformanceFigure(0);
   const int x = (ClientWidth() - 40) / 2;
   const int y = 30 + (ClientHeight() - 30 - 30) / 2;
   ExpectMasked(ClockNotice.hClockNoticeWnd, x, y, figure.picture, figure.mask);

@@ -1,6 +1,8 @@
 // FlyingBat6, the desktop clock.
 #include <cmath>
 
+#include "clock_calendar/calendar/calendar.h"
+#include "clock_calendar/calendar/calendar_window.h"
 #include "clock_calendar/clock_calendar_tick.h"
 #include "platform/diagnostics.h"
 #include "services/tick_step.h"
@@ -314,6 +316,28 @@ TEST_F(ClockWindowTest, PicturesAreLoadedWhenFirstShownAndGoWithTheWindow) {
   EXPECT_EQ(DiagnosticsLive().blocks, before + 4);
   SendClose(Clock.hClockWnd);
   EXPECT_EQ(DiagnosticsLive().blocks, before);
+}
+
+// 120,000 ticks from 8 to 9 o'clock, with a strike at its end and a ticker that runs and rests.
+// The pictures of a strike are loaded by the one of 8 o'clock.
+TEST_F(ClockWindowTest, AnHourOfTicksBesideACalendarLeavesNothingBehind) {
+  Clock.ClockStrikeMode = kStrikeEveryHour;
+  Calendar.CalenDefinitions[0].tickerFlags = 1;
+  CalenNoteSet(0, 10, 20, "会議");
+  SetTime(7, 59);
+  CalenTickerSetup();
+  CalenWindowOpen();
+  OpenClock();
+  SetTime(8, 0);
+  Ticks(2000);
+  const std::string live = LiveText(DiagnosticsLive());
+  for (int minute = 1; minute <= 60; ++minute) {
+    SetTime(8 + minute / 60, minute % 60);
+    Ticks(2000);
+    DrawingClear();
+  }
+  EXPECT_EQ(LiveText(DiagnosticsLive()), live);
+  SendClose(Calendar.hCalenWnd);
 }
 
 TEST_F(ClockWindowTest, ManyPaintsLeaveNothingBehind) {

@@ -177,7 +177,7 @@ TEST_F(PerformanceTest, ANewRunBeginsAnew) {
 TEST_F(PerformanceTest, AFigureIsLoadedWhenItIsFirstNeededAndKept) {
   Begin(1, true);
   EXPECT_EQ(DiagnosticsLive().blocks, 0);
-  const PerformanceImages first = PerformanceFigure(0);
+  const MaskedFrame first = PerformanceFigure(0);
   EXPECT_NE(first.picture, nullptr);
   EXPECT_NE(first.mask, nullptr);
   EXPECT_EQ(DiagnosticsLive().blocks, 2);

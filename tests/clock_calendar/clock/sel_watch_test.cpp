@@ -55,6 +55,13 @@ TEST_F(SelWatchTest, SwitchingTheClockOffClosesItAndOnAgainOpensIt) {
   EXPECT_EQ(SettingsFile()[1092], 1);
 }
 
+TEST_F(SelWatchTest, AChoiceThatCannotBeSavedIsTold) {
+  Then([] { FaultArm(FaultKind::Write, 1); });
+  ExpectBox("ファイルセーブできません", "時計 選択/設定");
+  ThenPress(1);
+  Run();
+}
+
 TEST_F(SelWatchTest, CancelEscapeAndTheSignInTheCaptionChangeNothing) {
   for (int way = 0; way < 3; ++way) {
     ThenPress(IDC_WATCH_SHOW);

@@ -73,6 +73,13 @@ TEST_F(SetClockAlarmTest, ConfirmingStoresAllFiveForgetsTheLastOneAndWritesTheSe
   EXPECT_EQ(Clock.ClockAlarmSlot, 2);
 }
 
+TEST_F(SetClockAlarmTest, AlarmsThatCannotBeSavedAreTold) {
+  Then([] { FaultArm(FaultKind::Write, 1); });
+  ExpectBox("ファイルセーブできません", "時計アラーム設定");
+  ThenPress(1);
+  Run();
+}
+
 TEST_F(SetClockAlarmTest, CancelEscapeAndCloseStoreNothing) {
   Clock.firedLast = 3;
   for (int way = 0; way < 3; ++way) {

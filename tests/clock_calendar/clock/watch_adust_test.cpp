@@ -159,6 +159,15 @@ TEST_F(WatchAdustTest, ChangesAreStoredAndSavedWithTheButtonThatEndsIt) {
   EXPECT_EQ(file.substr(792, 8), std::string("kan.wav\0", 8));
 }
 
+TEST_F(WatchAdustTest, ChangesThatCannotBeSavedAreTold) {
+  Open();
+  Then([] { Press(TopDialog(), IDC_ADUST_TWELVE); });
+  Then([] { FaultArm(FaultKind::Write, 1); });
+  ExpectBox("ファイルセーブできません", "時計 詳細設定");
+  ThenPress(1);
+  RunAll();
+}
+
 TEST_F(WatchAdustTest, WithNothingChangedTheFileIsNotWritten) {
   Open();
   Then([] { PressEnter(TopDialog()); });

@@ -14,10 +14,13 @@ class SnryParasTest : public ScenarioTest {
     RoutSnrySettingRun(Program.hMainWnd);
   }
   static ListTexts Paras() { return ListRows(Dialogs.hMenuDlg, IDC_SNRY_PARAS); }
-  static std::string ComboRow(int row) {
+  static ListTexts ComboRows() {
+    ListTexts shown;
     char text[200];
-    RowText(SnryParaRows(), row, text, sizeof text);
-    return text;
+    for (int row = 0; row < SnryParaRows().count; ++row) {
+      if (RowText(SnryParaRows(), row, text, sizeof text)) shown.emplace_back(text);
+    }
+    return shown;
   }
 };
 
@@ -26,11 +29,7 @@ class SnryParasTest : public ScenarioTest {
 TEST_F(SnryParasTest, RowsPassOverTheGaps) {
   for (const char* name : {"甲", "乙", "丙", "丁"}) MakePara(name);
   SnryMain.paras[1].used = 0;
-  EXPECT_EQ(SnryParaRows().count, 4);
-  EXPECT_EQ(ComboRow(0), "未設定");
-  EXPECT_EQ(ComboRow(1), "甲");
-  EXPECT_EQ(ComboRow(2), "丙");
-  EXPECT_EQ(ComboRow(3), "丁");
+  EXPECT_EQ(ComboRows(), (ListTexts{"未設定", "甲", "丙", "丁"}));
   EXPECT_EQ(SnryParaRowOf(1), 1);
   EXPECT_EQ(SnryParaRowOf(2), 0) << "an id whose slot is not used";
   EXPECT_EQ(SnryParaRowOf(4), 3);
@@ -61,7 +60,7 @@ TEST_F(SnryParasTest, TheListNumbersThemAndTellsWhatTheyDoForThePlayer) {
   SnryMain.paras[4].assignment = static_cast<SnryAssignment>(9);
   Then([] { EXPECT_EQ(Paras(), (ListTexts{"1. a(&Load)", "2. c(&Save)", "3. d(&Exit)", "4. e"})); });
   RunRout();
-  EXPECT_EQ(ComboRow(1), "a(&Load)");
+  EXPECT_EQ(ComboRows()[1], "a(&Load)");
 }
 
 // --- Adding and deleting
@@ -319,36 +318,23 @@ TEST_F(SnryParasTest, TheStartOfASceneIsSetBehindTheNameOfItsFieldAndMarksNoChan
 
 // --- Places
 
-TEST(SnryPlacesTest, FreePlacesAreNotShown) {
-  std::uint16_t places[20] = {0, 5, 0, 7};
-  EXPECT_EQ(SnryPlaceCount(places), 2);
-  EXPECT_EQ(SnryPlaceOfRow(places, 0), 1);
-  EXPECT_EQ(SnryPlaceOfRow(places, 1), 3);
-  EXPECT_EQ(SnryPlaceOfRow(places, 2), -1);
-  EXPECT_EQ(SnryPlaceOfRow(places, -1), -1);
-  EXPECT_EQ(SnryPlaceFree(places), 0);
-  for (std::uint16_t& place : places) place = 1;
-  EXPECT_EQ(SnryPlaceFree(places), -1);
-  EXPECT_EQ(SnryPlaceOfRow(places, 19), 19);
-}
-
-TEST(SnryPlacesTest, ADroppedPlaceMovesTheLaterOnesDown) {
-  std::uint16_t places[20] = {};
-  std::uint16_t ranges[20][2] = {};
-  for (int i = 0; i < 20; ++i) {
-    places[i] = static_cast<std::uint16_t>(i + 1);
-    ranges[i][1] = static_cast<std::uint16_t>(i + 1);
+class SnryPlacesTest : public ScenarioTest {
+ protected:
+  static std::string Text(void (*text)(const SnryPlaces&, int, char*, int), const SnryPlaces& places,
+                          int row) {
+    char bytes[100];
+    text(places, row, bytes, sizeof bytes);
+    return bytes;
   }
-  SnryPlaceDrop(places, 18);
-  EXPECT_EQ(places[17], 18);
-  EXPECT_EQ(places[18], 20);
-  EXPECT_EQ(places[19], 0);
-  SnryPlaceDrop(places, 19);
-  EXPECT_EQ(places[18], 20);
-  SnryPlaceDrop(ranges, 0);
-  EXPECT_EQ(ranges[0][1], 2);
-  EXPECT_EQ(ranges[18][1], 20);
-  EXPECT_EQ(ranges[19][1], 0);
+};
+
+TEST_F(SnryPlacesTest, APlaceReadsAsItsNumberOrAsThatOfItsRow) {
+  const int day = MakePara("日");
+  const SnryPlaces places = {0, static_cast<std::uint16_t>(day), 0, 9};
+  EXPECT_EQ(Text(SnryPlaceText, places, 0), "2. 日");
+  EXPECT_EQ(Text(SnryPlaceText, places, 1), "4. 未設定");
+  EXPECT_EQ(Text(SnryPlaceRowText, places, 0), "1.日");
+  EXPECT_EQ(Text(SnryPlaceRowText, places, 1), "2.未設定");
 }
 
 }  // namespace

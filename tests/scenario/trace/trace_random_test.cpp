@@ -303,6 +303,9 @@ class TraceRandomTest : public TraceTest {
   std::uint16_t Value() { return static_cast<std::uint16_t>(Below(3)); }
   SnryPair Pair() { return {Id(), Value()}; }
 
+  // The id of a copy, two times of three; else 0.
+  int Copy() { return Below(3) == 0 ? 0 : 513 + Below(3); }
+
   void RandomLogic(SnrySceneState& s) {
     for (int i = 0; i < 4; ++i) {
       SnryMenuRec& menu = s.menus[Below(kSnryMenuMax)];
@@ -353,8 +356,9 @@ class TraceRandomTest : public TraceTest {
   }
 
   void RandomCast(SceneData& data) {
-    for (std::size_t slot = 0; slot < 4; ++slot) {
+    for (const std::size_t slot : {0, 1, 2, 3, 512, 513, 514}) {
       SnryCastRec& cast = data.casts[slot];
+      cast.master = static_cast<std::uint16_t>(slot < 512 ? 0 : 1 + Below(4));
       cast.entry = Pair();
       cast.exit = Pair();
       for (int k = 0; k < 6; ++k) {
@@ -395,7 +399,8 @@ class TraceRandomTest : public TraceTest {
         SceneModel& entry = model.scenes.emplace_back();
         RandomLogic(entry.data.scene);
         RandomCast(entry.data);
-        SnrySceneRec& made = AddScene("場" + N(scene), entry.data, {Below(5), 3, 0, 1, Below(5)});
+        SnrySceneRec& made =
+            AddScene("場" + N(scene), entry.data, {Below(5), 3, 0, Copy(), 1, Below(5), Copy()});
         made.start = Pair();
         entry.record = made;
       }

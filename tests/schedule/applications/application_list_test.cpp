@@ -1,6 +1,7 @@
 // mirrell_apli_list_file.ali, read and written.
 #include "schedule/applications/application_list.h"
 
+#include "platform/posix/faults.h"
 #include "services/data_file.h"
 #include "tests/support/byte_order.h"
 #include "tests/support/records.h"
@@ -64,6 +65,25 @@ TEST_F(ApplicationListTest, ASecondListIsReadAndOnlyItsCountWrittenAgain) {
   EXPECT_EQ(FileBytes(file_), List(1, 2));
 }
 
+TEST_F(ApplicationListTest, APathThatNamesNoDriveLiesBelowTheProgramFolder) {
+  PutFile(file_, "Mirrell ApliCation List:" + Number(4) + Number(0) + Number(1) + Path("予定\\one.exe") +
+                     Path("\\two.exe") + Path("") + Path("d:three.exe") + Path("予定\\a.GPI"));
+  ASSERT_EQ(ApliListRead(), 0);
+  EXPECT_EQ(ApliPath(0), InProgram("予定\\one.exe"));
+  EXPECT_STREQ(ApliPath(1), "\\two.exe");
+  EXPECT_STREQ(ApliPath(2), "");
+  EXPECT_STREQ(ApliPath(3), "d:three.exe");
+  EXPECT_EQ(Applications.ApliSchedule.path, InProgram("予定\\a.GPI"));
+}
+
+TEST_F(ApplicationListTest, APathThatFillsItsFieldStaysInside) {
+  PutFile(file_, "Mirrell ApliCation List:" + Number(1) + Number(0) + Number(1) + std::string(600, 'x') +
+                     std::string(600, 'y'));
+  ASSERT_EQ(ApliListRead(), 0);
+  EXPECT_EQ(ApliPath(0), InProgram(std::string(600, 'x')).substr(0, 599));
+  EXPECT_EQ(Applications.ApliSchedule.path, InProgram(std::string(600, 'y')).substr(0, 599));
+}
+
 TEST_F(ApplicationListTest, AnotherMagicIsToldByTheStatusOnlyAndChangesNothing) {
   PutFile(file_, List(0, 2));
   ASSERT_EQ(ApliListRead(), 0);
@@ -72,6 +92,35 @@ TEST_F(ApplicationListTest, AnotherMagicIsToldByTheStatusOnlyAndChangesNothing) 
   EXPECT_EQ(FileResult.FileStatus, -2);
   EXPECT_EQ(Applications.ApliSelected, 2);
   EXPECT_STREQ(ApliPath(1), "C:\\b\\two.exe");
+}
+
+TEST_F(ApplicationListTest, AReadThatFailsOnTheWayLeavesTheListAsItWas) {
+  PutFile(file_, List(0, 1));
+  ASSERT_EQ(ApliListRead(), 0);
+  const std::string other = "Mirrell ApliCation List:" + Number(1) + Number(1) + Number(0) +
+                            Path("C:\\x\\x.exe") + Path("C:\\x\\x.GPI") + Path("C:\\x\\y.exe");
+  const auto stays = [&] {
+    EXPECT_EQ(ApliListRead(), -2);
+    EXPECT_EQ(Applications.ApliCount, 2);
+    EXPECT_EQ(Applications.ApliSecondCount, 0);
+    EXPECT_EQ(Applications.ApliSelected, 1);
+    EXPECT_STREQ(ApliPath(0), "C:\\a\\one.exe");
+    EXPECT_STREQ(ApliPath(1), "C:\\b\\two.exe");
+    EXPECT_STREQ(Applications.ApliSchedule.path, "C:\\b\\plan.scl");
+  };
+  for (std::size_t size = 0; size < other.size(); size += 7) {
+    PutFile(file_, other.substr(0, size));
+    stays();
+  }
+  PutFile(file_, other);
+  for (const int nth : {1, 2}) {
+    FaultArm(FaultKind::Memory, nth);
+    stays();
+    EXPECT_TRUE(FaultWasMet()) << nth;
+  }
+  FaultClear();
+  EXPECT_EQ(ApliListRead(), 0);
+  EXPECT_STREQ(ApliPath(0), "C:\\x\\x.exe");
 }
 
 TEST_F(ApplicationListTest, AFileThatEndsEarlyGivesMinus2AndAMissingOneMinus1) {

@@ -5,9 +5,11 @@
 #include "clock_calendar/calendar/calendar.h"
 #include "platform/file.h"
 #include "platform/posix/faults.h"
+#include "platform/window.h"
 #include "schedule/applications/application_list.h"
 #include "schedule/execution/scl_alarm.h"
 #include "schedule/model/scl_file.h"
+#include "schedule/table/row_selection.h"
 #include "services/commands.h"
 #include "tests/schedule/schedule_fixture.h"
 #include "tests/support/byte_order.h"
@@ -154,6 +156,7 @@ TEST_F(HandOffTest, AProgramThatCannotBeStartedIsNotTheStartedOne) {
 }
 
 TEST_F(HandOffTest, EachFailingWriteOfTheFileHarmsNothingElse) {
+  int written = 0;
   for (int nth = 1; nth < 200; ++nth) {
     FaultArm(FaultKind::Write, nth);
     StartEntry(2);
@@ -161,8 +164,10 @@ TEST_F(HandOffTest, EachFailingWriteOfTheFileHarmsNothingElse) {
     FaultClear();
     EXPECT_LT(FileBytes(kHandOff).size(), kWhole) << nth;
     EXPECT_EQ(Applications.ApliStarted, 2);
+    written = nth;
   }
   FaultClear();
+  EXPECT_GT(written, 2) << "head, calendars and their tables are written one by one";
   EXPECT_EQ(FileBytes(kHandOff).size(), kWhole);
   FaultArm(FaultKind::Create, 1);
   StartEntry(2);
@@ -258,6 +263,21 @@ TEST_F(HandOffTest, AFileThatIsNotWholeYetIsLookedAtAgain) {
   EXPECT_EQ(Applications.ApliPending, 3);
 }
 
+TEST_F(HandOffTest, AFileThatStaysCutIsLetBeAfterTenLooksUntilItChanges) {
+  StartEntry(2);
+  for (const int second : {3000000, 3000060}) {
+    PutFile(kHandOff, std::string(500, '\1'));
+    SetFileTime(kHandOff, second);
+    FaultArm(FaultKind::Open, 100000);
+    Tick(100);
+    EXPECT_EQ(FaultCalls(FaultKind::Open), 10);
+    FaultClear();
+    EXPECT_EQ(Applications.ApliStarted, 2) << "it is watched on";
+  }
+  Answer("C:\\x.GPI", 1, 1);
+  EXPECT_TRUE(SclHandOffCheck());
+}
+
 TEST_F(HandOffTest, APathWithoutATerminatorIsEnded) {
   StartEntry(2);
   Answer(std::string(998, 'x'), 1, 1);
@@ -265,16 +285,21 @@ TEST_F(HandOffTest, APathWithoutATerminatorIsEnded) {
   EXPECT_EQ(std::string(Applications.ApliSchedule.path), std::string(599, 'x'));
 }
 
-TEST_F(HandOffTest, TwentyThousandDamagedAnswersDoNoHarm) {
+TEST_F(HandOffTest, AHundredThousandDamagedAnswersDoNoHarm) {
   StartEntry(2);
-  for (unsigned seed = 1; seed <= 20000; ++seed) {
+  for (unsigned seed = 1; seed <= 100000; ++seed) {
     if (Applications.ApliStarted == 0) Applications.ApliStarted = 2;
     TextCopy(Applications.ApliHandOffFile, sizeof Applications.ApliHandOffFile, kHandOff);
+    std::string noise = RecordNoise(1000, seed);
+    if (seed % 2 == 0) {  // most of these are answers
+      noise[998] &= 3;
+      noise[999] &= 1;
+    }
     if (seed % 100 == 1) {
-      PutFile(kHandOff, RecordNoise(1000, seed));
+      PutFile(kHandOff, noise);
     } else {
       const int file = FileOpen(kHandOff, OpenMode::ReadWrite);
-      FileWrite(file, RecordNoise(1000, seed).data(), 1000);
+      FileWrite(file, noise.data(), 1000);
       FileClose(file);
     }
     Applications.ApliHandOffTime = 0;
@@ -287,6 +312,21 @@ TEST_F(HandOffTest, TwentyThousandDamagedAnswersDoNoHarm) {
 }
 
 // --- Applying
+
+TEST_F(HandOffTest, AnOpenTableShowsTheScheduleThatIsBrought) {
+  const std::string schedule = PutSchedule("月.GPI", 7);
+  CommandSend(Command::ScheduleNew);
+  ASSERT_NE(SclTable.hSclTableWnd, nullptr);
+  ASSERT_EQ(SclTable.SclTableView.lines, 31);
+  RowChoose(5);
+  StartEntry(2);
+  Answer(schedule, 1, 1);
+  Tick(1);
+  EXPECT_EQ(SclTable.SclTableView.lines, 1);
+  EXPECT_EQ(RowSelection.currentRow, 0);
+  SclDirtyClear(kSclTableChanged | kSclSettingsChanged);
+  SendClose(SclTable.hSclTableWnd);
+}
 
 TEST_F(HandOffTest, WithoutAChangeTheListIsNotWritten) {
   RemoveFile(InProgram("mirrell_apli_list_file.ali"));

@@ -19,6 +19,7 @@
 namespace {
 
 constexpr int kExecute = 2257;
+constexpr int kNotice = 2265;
 constexpr int kDay = 2278;
 constexpr char kChooseText[] = "表示中スケジュールを実行指定します。(設定アラームが有効になります)";
 constexpr char kChooseTitle[] = "実行スケジュールの指定";
@@ -134,14 +135,13 @@ TEST_F(ScheduleRunTest, WithNothingDueTheStepRestsUntilTheMinuteIsOver) {
   Ticks(1);
   EXPECT_EQ(SclRunDue(), 1) << "the list may hold what has begun in this hour";
   Ticks(1);
-  // 45 seconds are left: 1500 ticks of 30 milliseconds, and one to be past them.
-  EXPECT_EQ(SclRunDue(), 1501);
+  EXPECT_EQ(SclRunDue(), 1500) << "45 seconds are left, in ticks of 30 milliseconds";
   Clock(9, 30, 59);
   Ticks(1);
   EXPECT_EQ(SclRunDue(), 34);
   Clock(9, 31, 0);
   Ticks(1);
-  EXPECT_EQ(SclRunDue(), 2001);
+  EXPECT_EQ(SclRunDue(), 2000);
 }
 
 TEST_F(ScheduleRunTest, OutsideTheHoursOfWorkTheStepRestsToo) {
@@ -149,10 +149,10 @@ TEST_F(ScheduleRunTest, OutsideTheHoursOfWorkTheStepRestsToo) {
   Clock(6, 0);
   Execute();
   Ticks(1);
-  EXPECT_EQ(SclRunDue(), 2001);
+  EXPECT_EQ(SclRunDue(), 2000);
   Clock(18, 0);
   Ticks(1);
-  EXPECT_EQ(SclRunDue(), 2001);
+  EXPECT_EQ(SclRunDue(), 2000);
 }
 
 TEST_F(ScheduleRunTest, WhileSomethingFiresTheStepIsDueAtOnce) {
@@ -179,6 +179,23 @@ TEST_F(ScheduleRunTest, AnAnnouncementAppearsAboveADialog) {
   });
   Send(2019);
   EXPECT_NE(Notices.hSclNoticeWnd, nullptr);
+}
+
+TEST_F(ScheduleRunTest, WhatWasAnnouncedIsNotOpenedAgainOnceTheMarkIsTakenBack) {
+  Line(0, 9, 45, 12, 5, "荷造り");
+  Clock(8, 0);
+  Execute();
+  Ticks(1);
+  Clock(9, 45);
+  Ticks(1);
+  SendClose(Notices.hSclNoticeWnd);
+  Send(kNotice);
+  ASSERT_NE(Notices.hSclNoticeWnd, nullptr) << "there is an item to announce";
+  SendClose(Notices.hSclNoticeWnd);
+  ExpectBox(kUnchooseText, kUnchooseTitle);
+  Send(kExecute);
+  Send(kNotice);
+  EXPECT_EQ(Notices.hSclNoticeWnd, nullptr);
 }
 
 TEST_F(ScheduleRunTest, AnItemWithoutATerminatorIsAnnouncedWhole) {
@@ -281,14 +298,10 @@ TEST_F(ScheduleRunTest, TheScheduleOfTheSelectedApplicationIsExecuted) {
   SclExecutionLoad();
   EXPECT_FALSE(Schedule.SclExecActive) << "which is not there";
   TextCopy(Applications.ApliSchedule.path, sizeof Applications.ApliSchedule.path, "C:\\mirrell\\a.GPI");
-  SclAlarm.announce = 7;
-  SclAlarm.year = 2026;
   SclExecutionLoad();
   EXPECT_TRUE(Schedule.SclExecActive);
   EXPECT_EQ(Schedule.SclExecMark, SclMark::Running);
   EXPECT_STREQ(SclItem(0).text, "荷造り");
-  EXPECT_EQ(SclAlarm.announce, 0);
-  EXPECT_EQ(SclAlarm.year, 0);
   Clock(9, 30);
   Ticks(2);
   EXPECT_NE(Notices.hSclNoticeWnd, nullptr);

@@ -92,6 +92,14 @@ TEST_F(ScheduleDialogsTest, AYearAbove99ReadsAs99) {
   EXPECT_EQ(SclStart().year, 0);
 }
 
+TEST_F(ScheduleDialogsTest, AYearBehind2099IsShownWholeAndReadsAs99) {
+  SclStart().year = 100;
+  Then([] { EXPECT_EQ(ControlText(TopDialog(), IDC_SCL_YEAR), "100"); });
+  ThenPress(1);
+  StartRun();
+  EXPECT_EQ(SclStart().year, 99);
+}
+
 TEST_F(ScheduleDialogsTest, AMonthChangePullsTheDayBackToTheLastOfTheMonth) {
   ThenChoose(IDC_SCL_MONTH, 0);
   ThenChoose(IDC_SCL_DAY, 30);
@@ -167,6 +175,14 @@ TEST_F(ScheduleDialogsTest, ACancelOfTheHoursRecalculatesToo) {
   EXPECT_FALSE(SCLRsvTimeSetDlgRun(Program.hMainWnd, 0));
   EXPECT_EQ(SclItem(0).hours, 5U);
   EXPECT_EQ(Shown(SclItem(0).end), "26/10/22 13");
+}
+
+TEST_F(ScheduleDialogsTest, HoursOfMoreDigitsThanCanBeTypedStayAsTheyAre) {
+  SclItem(0).hours = 16665;
+  Then([] { EXPECT_EQ(ControlText(TopDialog(), IDC_SCL_HOURS), "16665"); });
+  ThenPress(1);
+  SCLRsvTimeSetDlgRun(Program.hMainWnd, 0);
+  EXPECT_EQ(SclItem(0).hours, 16665U);
 }
 
 TEST_F(ScheduleDialogsTest, HoursTakeFourCharactersByTheOddRule) {

@@ -375,6 +375,30 @@ TEST_F(PlanWindow, BothSavesAreDoneWhenBothAreWanted) {
   EXPECT_TRUE(FileThere(InProgram("after.GPP")));
 }
 
+// The window is gone by then, and a new plan would take the place of the one that is saved.
+TEST_F(PlanWindow, WhileTheConvertedPlanIsSavedNoNewOneIsBegun) {
+  Open();
+  SetLine(0, 1, 0, "A");
+  DirtySet(true);
+  ExpectBox(kConvertChanged, kConvertCaption);
+  ExpectBox(kSaveAsked, kSaveAskedCaption, BoxAnswer::Cancel);
+  PutFile(InProgram("after.GPP"), "old");
+  Then([] {
+    for (const Command command : {Command::SchedulePlan, Command::PlanTraining}) CommandSend(command);
+    EXPECT_EQ(Window(), nullptr);
+    EXPECT_STREQ(Plan.ScpPlanTable[0].text, "A");
+  });
+  ThenPick("after");
+  ExpectBox("同一ﾌｧｲﾙが存在しますが、ｾｰﾌﾞしますか?", "ﾌｧｲﾙｾｰﾌﾞ", BoxAnswer::Ok, [] {
+    for (const Command command : {Command::SchedulePlan, Command::PlanTraining}) CommandSend(command);
+    EXPECT_EQ(Window(), nullptr);
+  });
+  CommandSend(Command::PlanConvert);
+  ASSERT_EQ(ScpLoadFile(InProgram("after.GPP").c_str()), 0);
+  EXPECT_STREQ(Plan.ScpPlanTable[0].text, "A");
+  EXPECT_EQ(Plan.ScpPlanTable[0].hours, 1U);
+}
+
 TEST_F(PlanWindow, ChangesThatMayBeLostAreLostOnlyWhenTheUserAgrees) {
   Open();
   DirtySet(true);
@@ -402,6 +426,22 @@ TEST_F(PlanWindow, AConversionThatFillsTheTableIsToldAndTheWindowStays) {
   EXPECT_NE(Window(), nullptr);
   EXPECT_EQ(SclTable.hSclTableWnd, nullptr);
   EXPECT_EQ(Schedule.SclHeader.count, 1000);
+}
+
+TEST_F(PlanWindow, AScheduleThatIsOpenShowsHowFarTheConversionGot) {
+  CommandSend(Command::ScheduleNew);
+  Open();
+  for (int line = 0; line < 300; ++line) SetLine(line, 1, 10, "Deep");
+  std::memset(Plan.head.ScpRestTable, 0, sizeof Plan.head.ScpRestTable);
+  for (std::int32_t& interval : Plan.head.ScpIntervalTable) interval = 0;
+  DrawingClear();
+  ExpectBox(kConvert, kConvertCaption);
+  ExpectBox("スケジュールの最大ライン数を超えました。", "計画表からスケジュールへの変換エラー", BoxAnswer::Ok,
+            [] {
+              EXPECT_FALSE(DrawnTexts(SclTable.hSclTableWnd).empty());
+              EXPECT_EQ(SclTable.SclTableView.lines, 1000);
+            });
+  Press(Window(), IDC_PLAN_CONVERT);
 }
 
 TEST_F(PlanWindow, AScheduleThatIsOpenAlreadyShowsTheConvertedOne) {

@@ -11,8 +11,10 @@
 #include "schedule/rates/scl_map.h"
 #include "schedule/rates/scl_rates.h"
 #include "schedule/table/row_selection.h"
+#include "services/commands.h"
 #include "services/program.h"
 #include "services/text.h"
+#include "tests/support/bitmaps.h"
 #include "tests/support/byte_order.h"
 #include "tests/support/program.h"
 
@@ -83,10 +85,23 @@ class RatesTest : public ProgramTest {
     return file + Field(std::string(1780, '\0') + Field(background, 257) + "\x07\x08\x09", 2356);
   }
 
+  // The map, of 20 by 10 pixels, and the figures of the two statuses, of 8 by 6: that of "読了"
+  // with a mask, that of "合格" without.
+  static void MakePictures() {
+    MakeFolder("C:\\mirrell\\apps\\背景");
+    MakeFolder(InProgram("キャラクタ"));
+    PutFile("C:\\mirrell\\apps\\背景\\map.bmp", BitmapOf(20, 10, std::vector<int>(20 * 10 * 3, 90)));
+    const std::string figure = BitmapOf(8, 6, std::vector<int>(8 * 6 * 3, 60));
+    PutFile(InProgram("キャラクタ\\Chara1_1.bmp"), figure);
+    PutFile(InProgram("キャラクタ\\Chara1_1x.bmp"), BitmapOf(8, 6, std::vector<int>(8 * 6 * 3, 0)));
+    PutFile(InProgram("キャラクタ\\Chara2_2.bmp"), figure);
+  }
+
   static void MakeApplication(const std::vector<Place>& places = {{"教室", 2, 1}, {"図書館", 4, 3}}) {
     MakeFolder("C:\\mirrell\\apps");
     PutFile("C:\\mirrell\\apps\\study_1_1.sef", SefBytes(places));
     PutFile("C:\\mirrell\\apps\\study.wef", WefBytes("map.bmp"));
+    MakePictures();
     SclMapFileSet("C:\\mirrell\\apps\\study.exe");
     SclMapRead();
     ASSERT_TRUE(SclMap.read);

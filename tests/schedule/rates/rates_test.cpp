@@ -1,6 +1,7 @@
+#include "platform/posix/test_clock.h"
 #include "resources/schedule_rates_ids.h"
-#include "services/commands.h"
 #include "services/modal.h"
+#include "services/today.h"
 #include "tests/schedule/rates/rates_fixture.h"
 
 namespace {
@@ -87,7 +88,7 @@ TEST_F(SclRatesTest, TheDialogShowsDatesAndRates) {
                                    "75.0％", "100.0％"}));
     PressEnter(TopDialog());
   });
-  SclSucsPerAndMapDlgRun(Program.hMainWnd);
+  CommandSend(Command::ScheduleRates);
 }
 
 TEST_F(SclRatesTest, WithoutHoursAllRatesAreEmpty) {
@@ -95,7 +96,7 @@ TEST_F(SclRatesTest, WithoutHoursAllRatesAreEmpty) {
     EXPECT_EQ(FieldTexts(), (Lines{"2026年 11月 21日", "", "2026年 11月 21日", "", "", ""}));
     PressEscape(TopDialog());
   });
-  SclSucsPerAndMapDlgRun(Program.hMainWnd);
+  CommandSend(Command::ScheduleRates);
 }
 
 TEST_F(SclRatesTest, TheKeyOfTheMapShowsAnEmptyMapWithoutFiles) {
@@ -107,7 +108,18 @@ TEST_F(SclRatesTest, TheKeyOfTheMapShowsAnEmptyMapWithoutFiles) {
     Press(TopDialog(), kCancelButton);
   });
   Then([] { PressClose(TopDialog()); });
-  SclSucsPerAndMapDlgRun(Program.hMainWnd);
+  CommandSend(Command::ScheduleRates);
+}
+
+// The calendar finds out by itself that a day has begun, from the date that was known before.
+TEST_F(SclRatesTest, TheFirstLookAfterMidnightLeavesTheNewDayToTheCalendar) {
+  TestClockSet({2026, 11, 22, 0, 0, 0, 5, 0});
+  Then([] {
+    EXPECT_EQ(ControlText(TopDialog(), IDC_RATE_TODAY), "2026年 11月 22日");
+    Press(TopDialog(), kOkButton);
+  });
+  CommandSend(Command::ScheduleRates);
+  EXPECT_EQ(Today.TodayDay, 20);
 }
 
 // --- Commands from outside

@@ -1,5 +1,10 @@
+#include <algorithm>
+#include <functional>
+
+#include "platform/file.h"
 #include "platform/window.h"
 #include "resources/schedule_rates_ids.h"
+#include "schedule/table/schedule_table.h"
 #include "schedule/table/status_names.h"
 #include "tests/schedule/rates/rates_fixture.h"
 #include "world/wef_file.h"
@@ -47,16 +52,53 @@ TEST_F(SclMapTest, AScheduleOfNoApplicationHasNoTables) {
 }
 
 TEST_F(SclMapTest, FilesThatCannotBeReadLeaveTheTablesEmpty) {
-  SclMapFileSet("C:\\mirrell\\apps\\gone.exe");
+  TextCopy(Schedule.SclMapFile, sizeof Schedule.SclMapFile, "C:\\mirrell\\apps\\gone.exe");
   SclMapRead();
-  EXPECT_EQ(StatusName(1), "-");
+  EXPECT_EQ(StatusName(1), "済み");
+  EXPECT_EQ(StatusName(5), "");
   EXPECT_EQ(SclMapPositionCount(), 0);
+  EXPECT_EQ(SclStatusCount(), 0);
+}
+
+// What is wrong with the files is told to nobody, and what came before it is used.
+TEST_F(SclMapTest, OfAShortFileTheTablesHoldWhatWasRead) {
+  MakeApplication();
+  const std::string whole = FileBytes("C:\\mirrell\\apps\\study_1_1.sef");
+  PutFile("C:\\mirrell\\apps\\study_1_1.sef", whole.substr(0, whole.size() - 456));
+  SclMapRead();
+  EXPECT_EQ(SclMapPositionCount(), 2);
+  EXPECT_EQ(SclStatusCount(), 0);
+  EXPECT_EQ(StatusName(1), "済み");
+}
+
+TEST_F(SclMapTest, AFileWithAnotherHeaderLeavesTheTablesEmpty) {
+  MakeApplication();
+  std::string bytes = FileBytes("C:\\mirrell\\apps\\study_1_1.sef");
+  bytes[0] = 'X';
+  PutFile("C:\\mirrell\\apps\\study_1_1.sef", bytes);
+  SclMapRead();
+  EXPECT_EQ(SclMapPositionCount(), 0);
+  EXPECT_EQ(StatusName(1), "済み");
 }
 
 TEST_F(SclMapTest, TheApplicationsNameAndFolderComeFromThePath) {
   MakeApplication();
   EXPECT_EQ(SclMapPositionCount(), 2);
   EXPECT_STREQ(Wef.scenes[0].background, "map.bmp");
+}
+
+// Whatever folder the user has looked into last.
+TEST_F(SclMapTest, APathOfNoDriveBeginsAtTheProgramsFolder) {
+  MakeApplication();
+  MakeFolder("C:\\elsewhere");
+  ASSERT_TRUE(FolderSetCurrent("C:\\elsewhere"));
+  SclMapFileSet("apps\\study.exe");
+  SclMapRead();
+  EXPECT_EQ(SclMapPositionCount(), 2);
+  EXPECT_STREQ(Wef.scenes[0].background, "map.bmp");
+  SclMapFileSet("\\mirrell\\apps\\study.exe");
+  SclMapRead();
+  EXPECT_EQ(SclMapPositionCount(), 2);
 }
 
 TEST_F(SclMapTest, StatusNamesByCode) {
@@ -103,7 +145,7 @@ TEST_F(SclMapTest, ThePlaceOfTheCurrentRowIsChosenAndAnotherIsStored) {
     EXPECT_EQ(ControlText(TopDialog(), IDC_MAP_NAME), "教室");
     PressEnter(TopDialog());
   });
-  SelMapListScnDlgRun(Program.hMainWnd);
+  CommandSend(Command::ScheduleMap);
   EXPECT_EQ(Schedule.SclMapColumn[2], 2);
   EXPECT_EQ(Schedule.SclMapRow[2], 1);
   EXPECT_EQ(Placed(), "3 ");
@@ -129,7 +171,7 @@ TEST_F(SclMapTest, WithoutAChoiceOrARowNothingIsStored) {
     EXPECT_EQ(ListSelected(TopDialog(), IDC_MAP_POSITIONS), -1);
     Press(TopDialog(), kOkButton);
   });
-  SelMapListScnDlgRun(Program.hMainWnd);
+  CommandSend(Command::ScheduleMap);
   SclMapPlaceRows(1, 1);
   EXPECT_EQ(Placed(), "");
 }
@@ -141,7 +183,7 @@ TEST_F(SclMapTest, CancelStoresNoPlace) {
     ChooseRow(TopDialog(), IDC_MAP_POSITIONS, 0);
     PressEscape(TopDialog());
   });
-  SelMapListScnDlgRun(Program.hMainWnd);
+  CommandSend(Command::ScheduleMap);
   EXPECT_EQ(Placed(), "");
 }
 
@@ -158,11 +200,29 @@ TEST_F(SclMapTest, AStatusIsStoredForTheRange) {
     ChooseRow(TopDialog(), IDC_STATUS_LIST, 0);
     Press(TopDialog(), kOkButton);
   });
-  SetSclStatusDlgRun(Program.hMainWnd);
+  CommandSend(Command::ScheduleStatus);
   EXPECT_EQ(SclItem(0).doneState, 0);
   EXPECT_EQ(SclItem(1).doneState, 5);
   EXPECT_EQ(SclItem(2).doneState, 5);
   EXPECT_EQ(SclItem(3).doneState, 0);
+}
+
+TEST_F(SclMapTest, TheTableOfTheScheduleShowsTheStatusAtOnce) {
+  CommandSend(Command::ScheduleNew);
+  MakeApplication();
+  Item(0, 4, 0);
+  Select(1, 1, 1);
+  Then([] {
+    ChooseRow(TopDialog(), IDC_STATUS_LIST, 0);
+    DrawingClear();
+    Press(TopDialog(), kOkButton);
+  });
+  CommandSend(Command::ScheduleStatus);
+  const std::vector<DrawCall> texts = DrawnTexts(SclTable.hSclTableWnd);
+  EXPECT_TRUE(
+      std::any_of(texts.begin(), texts.end(), [](const DrawCall& call) { return call.text == "読了"; }));
+  SclDirtyClear(kSclTableChanged | kSclSettingsChanged);
+  SendClose(SclTable.hSclTableWnd);
 }
 
 TEST_F(SclMapTest, TurningOffClearsTheCurrentRowOnly) {
@@ -171,7 +231,7 @@ TEST_F(SclMapTest, TurningOffClearsTheCurrentRowOnly) {
   SclItem(0).doneState = 5;
   SclItem(1).doneState = 5;
   Then([] { Press(TopDialog(), IDC_STATUS_OFF); });
-  SetSclStatusDlgRun(Program.hMainWnd);
+  CommandSend(Command::ScheduleStatus);
   EXPECT_EQ(SclItem(0).doneState, 5);
   EXPECT_EQ(SclItem(1).doneState, 0);
 }
@@ -183,7 +243,7 @@ TEST_F(SclMapTest, CancelStoresNoStatus) {
     ChooseRow(TopDialog(), IDC_STATUS_LIST, 0);
     PressClose(TopDialog());
   });
-  SetSclStatusDlgRun(Program.hMainWnd);
+  CommandSend(Command::ScheduleStatus);
   EXPECT_EQ(SclItem(1).doneState, 0);
 }
 
@@ -230,11 +290,94 @@ class SclMapDialogTest : public SclMapTest {
     }
     return calls;
   }
+  // The pictures drawn with an operation, as "left,top-right,bottom".
+  static Lines Dibs(RasterOp op) {
+    Lines found;
+    for (const DrawCall& call : Drawings(TopDialog())) {
+      if (call.kind != DrawCall::Kind::Dib || call.op != op) continue;
+      found.push_back(std::to_string(call.x) + "," + std::to_string(call.y) + "-" + std::to_string(call.x2) +
+                      "," + std::to_string(call.y2));
+    }
+    return found;
+  }
+  static void Repaint() {
+    DrawingClear();
+    SendPaint(TopDialog());
+  }
+  // Opens the map from the rates; `step` ends it.
+  static void OnMap(std::function<void()> step) {
+    Then([] { Press(TopDialog(), IDC_RATE_MAP); });
+    Then(std::move(step));
+    Then([] { Press(TopDialog(), kOkButton); });
+    CommandSend(Command::ScheduleRates);
+  }
 };
+
+TEST_F(SclMapDialogTest, TheMapsPictureLiesAtItsCorner) {
+  MakeApplication();
+  OnMap([] {
+    Repaint();
+    EXPECT_EQ(Rectangles().front().brush, MakeColour(7, 8, 9));
+    EXPECT_EQ(Dibs(RasterOp::Copy), Lines{"0,0-20,10"});
+    PressEscape(TopDialog());
+  });
+}
+
+// Of the statuses, "読了" has a mask.
+TEST_F(SclMapDialogTest, AMarkIsPutThroughItsMaskIntoItsCellAtTheCellsSize) {
+  MakeApplication();
+  Item(0, 4, 5);
+  SclMapPlaceSet(0, 2, 1);
+  OnMap([] {
+    Repaint();
+    EXPECT_EQ(Dibs(RasterOp::And), Lines{"40,0-80,30"});
+    EXPECT_EQ(Dibs(RasterOp::Or), Lines{"40,0-80,30"});
+    PressEscape(TopDialog());
+  });
+}
+
+TEST_F(SclMapDialogTest, AMarkWithoutAMaskCoversItsCell) {
+  MakeApplication();
+  Item(0, 4, 1);
+  SclMapPlaceSet(0, 4, 3);
+  OnMap([] {
+    Repaint();
+    EXPECT_EQ(Dibs(RasterOp::Copy), (Lines{"0,0-20,10", "120,60-160,90"}));
+    EXPECT_EQ(Dibs(RasterOp::Or), Lines{});
+    PressEscape(TopDialog());
+  });
+}
+
+TEST_F(SclMapDialogTest, ACellBeyondTheWindowHasNoMarkHoweverFarAway) {
+  MakeApplication();
+  std::string sef = SefBytes({});
+  sef.replace(32 + 22, 4, LE16(0xFFFF) + LE16(0xFFFF));
+  PutFile("C:\\mirrell\\apps\\study_1_1.sef", sef);
+  SclMapRead();
+  Item(0, 4, 5);
+  SclMapPlaceSet(0, 0xFFFF, 0xFFFF);
+  OnMap([] {
+    Repaint();
+    EXPECT_EQ(Dibs(RasterOp::Or), Lines{});
+    PressEscape(TopDialog());
+  });
+}
+
+TEST_F(SclMapDialogTest, AScheduleOfNoApplicationHasAWhiteMap) {
+  MakeApplication();
+  SclMapFileSet("");
+  SclMapRead();
+  OnMap([] {
+    Repaint();
+    EXPECT_EQ(Rectangles().size(), 1u);
+    EXPECT_EQ(Rectangles().front().brush, MakeColour(255, 255, 255));
+    PressEscape(TopDialog());
+  });
+}
 
 TEST_F(SclMapDialogTest, TheCellsLieOverTheAreaAboveTheBand) {
   MakeApplication();
-  Then([] {
+  OnMap([] {
     EXPECT_EQ(WindowText(TopDialog()), "予定表ステータス マップ表示");
     DrawingClear();
     SendPaint(TopDialog());
@@ -249,12 +392,11 @@ TEST_F(SclMapDialogTest, TheCellsLieOverTheAreaAboveTheBand) {
     EXPECT_FALSE(last.filled);
     PressEscape(TopDialog());
   });
-  DispCelSclMapPosDlgRun(Program.hMainWnd);
 }
 
 TEST_F(SclMapDialogTest, AClickChoosesACellAndIsForgottenAtTheEnd) {
   MakeApplication();
-  Then([] {
+  OnMap([] {
     Mouse(TopDialog(), EventKind::LeftDown, 79, 59);
     EXPECT_EQ(SclMap.column, 2);
     EXPECT_EQ(SclMap.row, 2);
@@ -267,7 +409,6 @@ TEST_F(SclMapDialogTest, AClickChoosesACellAndIsForgottenAtTheEnd) {
     EXPECT_EQ(chosen.y, 30);
     Press(TopDialog(), kCancelButton);
   });
-  DispCelSclMapPosDlgRun(Program.hMainWnd);
   EXPECT_EQ(SclMap.column, 0);
 }
 
@@ -277,7 +418,7 @@ TEST_F(SclMapDialogTest, AGridOfManyCellsIsDrawnAsFarAsTheWindowGoes) {
   sef.replace(32 + 12, 8, LE32(0xFFFFFFFF) + LE32(0xFFFFFFFF));
   PutFile("C:\\mirrell\\apps\\study_1_1.sef", sef);
   SclMapRead();
-  Then([] {
+  OnMap([] {
     const Rect client = WindowClientRect(TopDialog());
     DrawingClear();
     SendPaint(TopDialog());
@@ -286,7 +427,6 @@ TEST_F(SclMapDialogTest, AGridOfManyCellsIsDrawnAsFarAsTheWindowGoes) {
     EXPECT_EQ(Rectangles().size(), static_cast<std::size_t>(1 + across * down));
     PressClose(TopDialog());
   });
-  DispCelSclMapPosDlgRun(Program.hMainWnd);
 }
 
 }  // namespace

@@ -289,7 +289,8 @@ TEST_F(LineChartTest, AnEmptyScheduleHasAnEmptyChart) {
 }
 
 TEST_F(LineChartTest, ADoubleClickOnABarItsTextOrItsNumberShowsTheLine) {
-  for (const Point at : {Point{400, 128}, Point{300, 118}, Point{50, 118}}) {
+  for (const Point at :
+       {Point{400, 128}, Point{400, 130}, Point{400, 131}, Point{300, 112}, Point{50, 118}}) {
     Then([at] { Mouse(Chart(), EventKind::LeftDouble, at.x, at.y); });
     Then([] {
       ASSERT_EQ(TemplateOf(TopDialog()), IDD_DspSclClickLineData);

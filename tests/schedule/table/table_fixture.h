@@ -20,6 +20,7 @@ class ScheduleTableTest : public ScheduleTest {
   static constexpr int kCheckX = 700;
   static constexpr int kAlarmX = 750;
   static constexpr int kNew = 2017;
+  static constexpr int kLoad = 2021;
   static constexpr int kInsert = 2040;
   static constexpr int kDelete = 2209;
   static constexpr int kCopy = 2210;

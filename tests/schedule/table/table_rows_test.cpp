@@ -1,4 +1,5 @@
 // Insert, delete, copy and paste of rows.
+#include "schedule/model/scl_file.h"
 #include "tests/schedule/table/table_fixture.h"
 
 namespace {
@@ -137,6 +138,25 @@ TEST_F(ScheduleTableTest, DeletingTheLastRowsPullsTheTopBack) {
   EXPECT_EQ(View().firstLine, 9);
 }
 
+// --- Whatever moves rows waits for the dialog that edits one
+
+TEST_F(ScheduleTableTest, WhileADialogEditsALineNoCommandMovesTheRowsUnderIt) {
+  Lines(6);
+  Drag(1, 2);
+  Send(kCopy);
+  Click(kNumberX, 4);
+  Then([] {
+    EXPECT_EQ(TemplateOf(TopDialog()), IDD_SCLContentSetDlg);
+    for (const int command : {kDelete, kInsert, kCopy, kPaste}) Send(command);
+    EXPECT_EQ(RowSelection.copyFirst, 1);
+    EXPECT_EQ(Texts(), "1 2 3 4 5 6");
+    Type(TopDialog(), IDC_SCL_TEXT, "x");
+    Press(TopDialog(), 1);
+  });
+  Double(kContentX, RowY(4));
+  EXPECT_EQ(Texts(), "1 2 3 x 5 6");
+}
+
 // --- Copy and paste
 
 TEST_F(ScheduleTableTest, CopiedRowsAreWrittenOverTheRowsFromTheTargetOn) {
@@ -253,6 +273,16 @@ TEST_F(ScheduleTableTest, AWindowOpenedAnewKnowsNoCopiedRows) {
   Send(kNew);
   EXPECT_EQ(RowSelection.copyMark, CopyMark::None);
   EXPECT_EQ(RowSelection.currentRow, 0);
+}
+
+TEST_F(ScheduleTableTest, AScheduleThatIsLoadedIntoTheOpenWindowHasNoCopiedRows) {
+  ASSERT_EQ(SclSaveFile("C:\\mirrell\\a.GPI"), 0);
+  Click(kNumberX, 2);
+  Send(kCopy);
+  ThenPick("a.GPI");
+  Send(kLoad);
+  EXPECT_EQ(RowSelection.currentRow, 0);
+  EXPECT_EQ(RowSelection.copyMark, CopyMark::None);
 }
 
 // --- Two windows with rows

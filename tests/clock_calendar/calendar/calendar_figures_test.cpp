@@ -15,6 +15,16 @@
 
 namespace {
 
+int TickCheck() {
+  SharedTimeTake();
+  return CalenTickCheck();
+}
+
+int NoteCheck() {
+  SharedTimeTake();
+  return CalenNoteCheck();
+}
+
 class CalendarFiguresTest : public CharaFiles {
  protected:
   void SetUp() override {
@@ -80,8 +90,6 @@ TEST_F(CalendarFiguresTest, BackgroundAndFiguresOfTheMonthAreLoaded) {
   EXPECT_EQ(DibBits(CalendarPictures.CalenFigures[0].picture)[0], 0);  // the white mask has blackened it
   EXPECT_EQ(CalendarPictures.CalenFigures[1].picture, nullptr);
   EXPECT_EQ(DibHeight(CalendarPictures.CalenFigures[2].picture), 21);
-  EXPECT_EQ(CalendarPictures.CalenFixedFigure.x, 50);
-  EXPECT_EQ(CalendarPictures.CalenFixedFigure.y, 60);
   Calendar.CalenMonthPos = 3;
   CalenPrepareMonth();
   EXPECT_EQ(CalendarPictures.CalenBackground, nullptr);
@@ -121,6 +129,24 @@ TEST_F(CalendarFiguresTest, APathFromTheRootIsAFullPathToo) {
   EXPECT_EQ(DibHeight(CalendarPictures.CalenBackground), 41);
 }
 
+// What has been taken away meanwhile is still shown; another month is loaded.
+TEST_F(CalendarFiguresTest, WhatTheReadingOfTheFileHasLoadedIsNotLoadedAgainByTheWindow) {
+  Put("\\キャラクタ\\Chara5_1.bmp", BmpFile(10, 20));
+  Put("\\キャラクタ\\Chara6_1.bmp", BmpFile(11, 21));
+  Figure(0, 5);
+  Figure(0, 6, 0, 0, 11);
+  CalenTakeDefinition();
+  RemoveFile("C:\\mirrell\\キャラクタ\\Chara5_1.bmp");
+  CalenShowToday();
+  EXPECT_EQ(DibHeight(CalendarPictures.CalenFigures[0].picture), 20);
+  Today.TodayMonth = 11;
+  CalenShowToday();
+  EXPECT_EQ(DibHeight(CalendarPictures.CalenFigures[0].picture), 21);
+  CalenStickersFree();
+  CalenShowToday();
+  EXPECT_EQ(DibHeight(CalendarPictures.CalenFigures[0].picture), 21);
+}
+
 TEST_F(CalendarFiguresTest, ThePicturesOfTheNewMonthAreShownAfterTheMonthsEnd) {
   Put("\\キャラクタ\\Chara5_1.bmp", BmpFile(10, 20));
   Put("\\キャラクタ\\Chara6_1.bmp", BmpFile(11, 21));
@@ -135,7 +161,7 @@ TEST_F(CalendarFiguresTest, ThePicturesOfTheNewMonthAreShownAfterTheMonthsEnd) {
   Calendar.CalenFigPos1[0][0] = 99;  // where it has got to
   Today.TodayDay = 29;
   TestClockSet({2026, 12, 1, 2, 0, 0, 0, 0});
-  EXPECT_EQ(CalenTickCheck(), 1);
+  EXPECT_EQ(TickCheck(), 1);
   EXPECT_EQ(Calendar.CalenMonthPos, 11);
   EXPECT_EQ(DibHeight(CalendarPictures.CalenFigures[0].picture), 21);
   EXPECT_EQ(DibHeight(CalendarPictures.CalenDayStickers[3].picture), 22);
@@ -304,15 +330,15 @@ TEST_F(CalendarFiguresTest, AFigureGoesOnFromWhereItStoodWhenThePicturesAreLoade
   Walker(2);
   EXPECT_TRUE(Move());
   Calendar.CalenFigDir[0][0] = 1;  // it has turned back
-  CalenShowToday();
+  CalenTakeDefinition();
   EXPECT_EQ(Place(), "70,60");
   EXPECT_EQ(Calendar.CalenFigDir[0][0], 1);
   // A direction that the month does not give is not believed.
   Calendar.CalenFigDir[0][0] = 3;
-  CalenShowToday();
+  CalenTakeDefinition();
   EXPECT_EQ(Calendar.CalenFigDir[0][0], 2);
   Calendar.CalenFigDir[0][0] = 250;
-  CalenShowToday();
+  CalenTakeDefinition();
   EXPECT_EQ(Calendar.CalenFigDir[0][0], 2);
   // Another month begins at the start.
   CalenPrepareMonth();
@@ -398,14 +424,14 @@ class CalendarNotesTest : public CalendarFiguresTest {
     for (int i = 0; i < 3; ++i) CalenYearInit(i);
     Calendar.CalenNoteMode = 3;
     Date(2027, 6, 15);  // another date: the marks begin afresh
-    CalenNoteCheck();
+    NoteCheck();
     for (CalenNote& note : Calendar.CalenNotes) note = CalenNote{};
   }
   static void Date(int year, int month, int day) { TestClockSet({year, month, day, 0, 12, 0, 0, 0}); }
   // Announces until nothing comes: "slot:text:day " each.
   static std::string Announced() {
     std::string text;
-    for (int i = 0; i < 10 && CalenNoteCheck() != 0; ++i) {
+    for (int i = 0; i < 10 && NoteCheck() != 0; ++i) {
       const int slot = CalenNoteTake();
       if (slot < 0) return text + "lost";
       text += std::to_string(slot) + ":" + Calendar.CalenNotes[slot].text + " ";
@@ -422,11 +448,11 @@ TEST_F(CalendarNotesTest, TheSettingSaysHowManyDaysBefore) {
   const char* const kAnnounced[] = {"", "0:a ", "0:a 1:b ", "0:a 1:b 2:c "};
   for (int mode = 0; mode <= 3; ++mode) {
     Date(2026, 5, 1);
-    CalenNoteCheck();
+    NoteCheck();
     Calendar.CalenNoteMode = mode;
     Date(2026, 4, 10);
     EXPECT_EQ(Announced(), kAnnounced[mode]) << mode;
-    EXPECT_EQ(CalenNoteCheck(), 0);
+    EXPECT_EQ(NoteCheck(), 0);
     Calendar.CalenNoteMode = 3;
   }
 }
@@ -434,22 +460,22 @@ TEST_F(CalendarNotesTest, TheSettingSaysHowManyDaysBefore) {
 TEST_F(CalendarNotesTest, TheFirstStepTestsTodaysNoteUntilItHasBeenTaken) {
   CalenNoteSet(0, 3, 9, "a");
   Date(2026, 4, 10);
-  EXPECT_EQ(CalenNoteCheck(), 1);
-  EXPECT_EQ(CalenNoteCheck(), 1);
+  EXPECT_EQ(NoteCheck(), 1);
+  EXPECT_EQ(NoteCheck(), 1);
   CalenNoteSet(0, 3, 9, "changed");
-  EXPECT_EQ(CalenNoteCheck(), 1);
+  EXPECT_EQ(NoteCheck(), 1);
   EXPECT_EQ(CalenNoteTake(), 0);
   EXPECT_STREQ(Calendar.CalenNotes[0].text, "changed");
   EXPECT_EQ(CalenNoteTake(), -1);
-  EXPECT_EQ(CalenNoteCheck(), 0);
+  EXPECT_EQ(NoteCheck(), 0);
 }
 
 // The third mark is set with the first look, taken or not.
 TEST_F(CalendarNotesTest, TheNoteOfTheDayAfterTomorrowIsLookedForOnce) {
   CalenNoteSet(0, 3, 11, "c");
   Date(2026, 4, 10);
-  EXPECT_EQ(CalenNoteCheck(), 1);
-  EXPECT_EQ(CalenNoteCheck(), 0);
+  EXPECT_EQ(NoteCheck(), 1);
+  EXPECT_EQ(NoteCheck(), 0);
   EXPECT_EQ(CalenNoteTake(), 2);
   CalenNoteSet(0, 3, 11, "another");
   EXPECT_EQ(Announced(), "");
@@ -495,14 +521,14 @@ TEST_F(CalendarNotesTest, TodayOutOfTheSpanIsNoAnnouncement) {
   CalenNoteSet(0, 3, 9, "a");
   for (const int year : {2025, 2028, 1999}) {
     Date(year, 4, 10);
-    EXPECT_EQ(CalenNoteCheck(), 0) << year;
+    EXPECT_EQ(NoteCheck(), 0) << year;
   }
 }
 
 TEST_F(CalendarNotesTest, TheDayStandsOverTheMonthInTheDate) {
   CalenNoteSet(0, 3, 9, "a");
   Date(2026, 4, 10);
-  EXPECT_EQ(CalenNoteCheck(), 1);
+  EXPECT_EQ(NoteCheck(), 1);
   EXPECT_EQ(Calendar.CalenNotes[0].monthAndDay, 9);
   EXPECT_EQ(Calendar.CalenNotes[0].year, 26);
 }
