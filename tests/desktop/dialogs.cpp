@@ -12,6 +12,13 @@ bool Gone(HWND window) {
   return WaitFor([&] { return !IsWindow(window) || !IsWindowVisible(window); });
 }
 
+// The window that the keys of a dialog's program go to.
+HWND FocusOf(HWND dialog) {
+  GUITHREADINFO info{};
+  info.cbSize = sizeof info;
+  return GetGUIThreadInfo(GetWindowThreadProcessId(dialog, nullptr), &info) ? info.hwndFocus : nullptr;
+}
+
 }  // namespace
 
 std::wstring AnswerBox(const Companion& companion, const std::wstring& title, int button) {
@@ -78,13 +85,13 @@ void SetChecked(HWND dialog, int id, bool checked) {
 
 void PostKey(HWND dialog, const Key& key) {
   constexpr LPARAM kAltDown = 1 << 29;
-  GUITHREADINFO info{};
-  info.cbSize = sizeof info;
-  const DWORD thread = GetWindowThreadProcessId(dialog, nullptr);
-  WaitFor([&] {
-    return GetGUIThreadInfo(thread, &info) && (info.hwndFocus == dialog || IsChild(dialog, info.hwndFocus));
-  });
-  PostMessageW(info.hwndFocus, key.alt ? WM_SYSKEYDOWN : WM_KEYDOWN, key.code, key.alt ? kAltDown : 0);
+  HWND focus = nullptr;
+  WaitFor([&] { return (focus = FocusOf(dialog)) == dialog || IsChild(dialog, focus); });
+  PostMessageW(focus, key.alt ? WM_SYSKEYDOWN : WM_KEYDOWN, key.code, key.alt ? kAltDown : 0);
+}
+
+bool GetsFocus(HWND dialog, int id) {
+  return WaitFor([&] { return FocusOf(dialog) == GetDlgItem(dialog, id); });
 }
 
 bool EndByKey(HWND dialog, const Key& key) {

@@ -40,4 +40,5 @@ inline constexpr Key kEscape{VK_ESCAPE, false};
 inline constexpr Key kEnter{VK_RETURN, false};
 inline constexpr Key kAltF4{VK_F4, true};
 void PostKey(HWND dialog, const Key& key);
+bool GetsFocus(HWND dialog, int id);  // waits until the control has it
 bool EndByKey(HWND dialog, const Key& key);  // and waits until the dialog is gone

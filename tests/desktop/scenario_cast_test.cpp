@@ -423,12 +423,15 @@ TEST_F(ScenarioCastTest, ALineIsTypedOnTheKeyboard) {
   ASSERT_TRUE(lines);
   // Alt and the letters behind the words lead to the fields; a value takes four digits.
   KeyPress("alt+t");
+  ASSERT_TRUE(GetsFocus(lines, IDC_CAST_LINE_TEXT));
   KeysType("hello");
   EXPECT_TRUE(WaitFor([&] { return EditText(lines, IDC_CAST_LINE_TEXT) == L"hello"; }));
   KeyPress("alt+j");
+  ASSERT_TRUE(GetsFocus(lines, IDC_CAST_START_PARA));
   KeyPress("Down");
   EXPECT_TRUE(WaitFor([&] { return Chosen(lines, IDC_CAST_START_PARA) == 1; }));
   KeyPress("alt+v");
+  ASSERT_TRUE(GetsFocus(lines, IDC_CAST_START_VALUE));
   KeysType("12345");
   EXPECT_TRUE(WaitFor([&] { return EditText(lines, IDC_CAST_START_VALUE).size() == 4; }));
   SetEdit(lines, IDC_CAST_START_VALUE, L"77");
