@@ -18,9 +18,10 @@ int CopyStart(const std::string& text, std::size_t length, char* buffer) {
 std::wstring Wide(const char* text, int length) {
   if (length < 0) length = static_cast<int>(std::strlen(text));
   if (length == 0) return {};
-  const int needed = MultiByteToWideChar(kCodePage, 0, text, length, nullptr, 0);
-  std::wstring wide(static_cast<std::size_t>(needed), L'\0');
-  MultiByteToWideChar(kCodePage, 0, text, length, wide.data(), needed);
+  // No byte becomes more than one character.
+  std::wstring wide(static_cast<std::size_t>(length), L'\0');
+  const int made = MultiByteToWideChar(kCodePage, 0, text, length, wide.data(), length);
+  wide.resize(static_cast<std::size_t>(made));
   return wide;
 }
 

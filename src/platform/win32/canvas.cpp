@@ -52,6 +52,23 @@ void NeedFont(Canvas* canvas) {
   if (!canvas->hasFont) FontSelect(canvas, TextFont());
 }
 
+// One pixel of the screen's format, kept to make bitmaps like it: the screen itself is slow
+// to tell its format, slower under Wine than a window is drawn.
+HDC Pattern(HDC screen) {
+  static HDC pattern = nullptr;
+  if (pattern) return pattern;
+  pattern = CreateCompatibleDC(screen);
+  SelectObject(pattern, CreateCompatibleBitmap(screen, 1, 1));
+  return pattern;
+}
+
+HBITMAP BitmapSelected(HDC dc, HDC like, int width, int height) {
+  HBITMAP bitmap = CreateCompatibleBitmap(like, width, height);
+  if (!bitmap || SelectObject(dc, bitmap)) return bitmap;
+  DeleteObject(bitmap);
+  return nullptr;
+}
+
 int LengthOf(const char* text, int length) {
   return length < 0 ? static_cast<int>(std::strlen(text)) : length;
 }
@@ -121,17 +138,17 @@ Canvas* CanvasGet(WindowHandle window) {
 
 Canvas* CanvasMemory(Canvas* like, int width, int height) {
   if (!like) return nullptr;
-  HBITMAP bitmap = CreateCompatibleBitmap(like->dc, width, height);
-  if (!bitmap) return nullptr;
   HDC dc = CreateCompatibleDC(like->dc);
-  if (!dc) {
-    DeleteObject(bitmap);
+  if (!dc) return nullptr;
+  HBITMAP bitmap = like->window ? BitmapSelected(dc, Pattern(like->dc), width, height) : nullptr;
+  // Also for a screen whose format has changed.
+  if (!bitmap) bitmap = BitmapSelected(dc, like->dc, width, height);
+  if (!bitmap) {
+    DeleteDC(dc);
     return nullptr;
   }
   ++Live().bitmaps;
-  Canvas* canvas = Begin(dc, nullptr, bitmap);
-  SelectObject(dc, bitmap);
-  return canvas;
+  return Begin(dc, nullptr, bitmap);
 }
 
 void CanvasRelease(Canvas* canvas) {
