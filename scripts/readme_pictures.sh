@@ -30,6 +30,7 @@ small folder_scope 400 24 "$gallery/FolderStaticsDlg.png" -crop 706x520+0+130
 small tidy 320 16 "$gallery/FileDesktopClrDlg.png"
 small schedule 440 24 "$gallery/ScheduleMakeDlg.png"
 small chart 440 24 "$gallery/ScheduleLineDlg_31.png" -crop 966x400+0+0
+small map 400 96 "$gallery/DispCelSclMapPosDlg.png"
 small plan 440 16 "$gallery/SchedulePlan1Dlg.png"
 row clocks 560 96 "$gallery"/FlyingBat6_[0123].png
 row calendars 560 96 "$gallery"/FlyingBat3_{month,week,day}_1.png
