@@ -7,6 +7,7 @@
 #include "resources/schedule_model_ids.h"
 #include "resources/schedule_plan_ids.h"
 #include "resources/schedule_table_ids.h"
+#include "tests/desktop/alone_on_the_desktop.h"
 #include "tests/desktop/companion.h"
 #include "tests/desktop/data_set.h"
 #include "tests/desktop/dialogs.h"
@@ -43,22 +44,8 @@ const std::wstring kDate = L"開始年月日設定";
 const std::wstring kPrepare = L"計画表からスケジュールへの変換準備";
 const std::wstring kCloseAsked = L"計画表のセーブ確認";
 
-class PlanTest : public testing::Test {
+class PlanTest : public AloneOnTheDesktop {
  protected:
-  void SetUp() override {
-    PointerAway();
-    SettingsChange(companion_)
-        .Number(kStageXAt, 20)
-        .Number(kStageYAt, 20)
-        .Byte(kClockShowAt, 0)
-        .Byte(kCalenShowAt, 0);
-    companion_.Start();
-  }
-  void TearDown() override {
-    PointerAway();
-    EXPECT_EQ(companion_.Close(), 0);
-  }
-
   void Open(unsigned command = kPlan, const std::wstring& title = kTitle) {
     companion_.Send(command);
     window_ = companion_.Dialog(title);
@@ -137,7 +124,6 @@ class PlanTest : public testing::Test {
            (text.empty() ? "" : " ") + text;
   }
 
-  Companion companion_;
   HWND window_ = nullptr;
 };
 

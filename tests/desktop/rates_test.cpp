@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "resources/schedule_rates_ids.h"
+#include "tests/desktop/alone_on_the_desktop.h"
 #include "tests/desktop/companion.h"
 #include "tests/desktop/data_set.h"
 #include "tests/desktop/dialogs.h"
@@ -32,16 +33,10 @@ constexpr MarkSign kDone{78, 24, 0xE2574C};
 constexpr MarkSign kBegun{52, 24, 0xF4C65B};
 constexpr MarkSign kPutOff{61, 20, 0xD7E6F4};
 
-class RatesTest : public testing::Test {
+class RatesTest : public AloneOnTheDesktop {
  protected:
   void SetUp() override {
-    PointerAway();
-    SettingsChange(companion_)
-        .Number(kStageXAt, 20)
-        .Number(kStageYAt, 20)
-        .Byte(kClockShowAt, 0)
-        .Byte(kCalenShowAt, 0);
-    companion_.Start();
+    AloneOnTheDesktop::SetUp();
     companion_.Post(kLoad);
     const HWND picker = companion_.Dialog(L"ファイルのロード");
     ASSERT_TRUE(picker);
@@ -50,11 +45,6 @@ class RatesTest : public testing::Test {
     window_ = companion_.Dialog(kTitle);
     ASSERT_TRUE(window_);
   }
-  void TearDown() override {
-    PointerAway();
-    EXPECT_EQ(companion_.Close(), 0);
-  }
-
   HWND Open(unsigned command, const std::wstring& title) const {
     companion_.Post(command);
     return companion_.Dialog(title);
@@ -97,7 +87,6 @@ class RatesTest : public testing::Test {
     return WaitFor([&] { return SignPixel(sign, column, row) == sign.colour; }, 5000);
   }
 
-  Companion companion_;
   HWND window_ = nullptr;
   HWND rates_ = nullptr;
   HWND map_ = nullptr;

@@ -7,6 +7,7 @@
 
 #include "resources/schedule_model_ids.h"
 #include "resources/schedule_table_ids.h"
+#include "tests/desktop/alone_on_the_desktop.h"
 #include "tests/desktop/companion.h"
 #include "tests/desktop/data_set.h"
 #include "tests/desktop/dialogs.h"
@@ -39,22 +40,8 @@ const std::wstring kTitle = L"スケジュール表";
 const std::wstring kContent = L"内容設定";
 const std::wstring kHours = L"予想時間設定";
 
-class ScheduleTest : public testing::Test {
+class ScheduleTest : public AloneOnTheDesktop {
  protected:
-  void SetUp() override {
-    PointerAway();
-    SettingsChange(companion_)
-        .Number(kStageXAt, 20)
-        .Number(kStageYAt, 20)
-        .Byte(kClockShowAt, 0)
-        .Byte(kCalenShowAt, 0);
-    companion_.Start();
-  }
-  void TearDown() override {
-    PointerAway();
-    EXPECT_EQ(companion_.Close(), 0);
-  }
-
   void Open() {
     companion_.Send(kNew);
     window_ = companion_.Dialog(kTitle);
@@ -176,7 +163,6 @@ class ScheduleTest : public testing::Test {
     return WaitFor([&] { return BarPosition() == position; }, 5000);
   }
 
-  Companion companion_;
   HWND window_ = nullptr;
 };
 
