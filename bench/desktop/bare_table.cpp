@@ -62,7 +62,7 @@ int WINAPI wWinMain(HINSTANCE instance, HINSTANCE, LPWSTR, int) {
   windowClass.hInstance = instance;
   windowClass.lpszClassName = L"bare_table";
   RegisterClassExW(&windowClass);
-  HWND window = CreateWindowExW(0, L"bare_table", L"", WS_POPUP, 100, 400, 808, 540, nullptr, nullptr,
+  HWND window = CreateWindowExW(0, L"bare_table", L"", WS_POPUP, 100, 300, 808, 574, nullptr, nullptr,
                                 instance, nullptr);
   ShowWindow(window, SW_SHOW);
   MSG message;

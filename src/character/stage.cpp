@@ -86,6 +86,8 @@ void DrawBuffered() {
   if (!screen) return;
   const Rect client = WindowClientRect(Program.hMainWnd);
   Canvas* memory = CanvasMemory(screen, client.right, client.bottom);
+  // A frame that is smaller than the stage leaves black inside the outline.
+  if (memory && Stage.CurrentOutline.count > 0) FillColour(memory, 0, client);
   DrawStage(memory ? memory : screen, client.right, client.bottom);
   if (memory)
     CanvasStretch(screen, 0, 0, client.right, client.bottom, memory, 0, 0, client.right, client.bottom);

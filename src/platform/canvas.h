@@ -37,8 +37,8 @@ void RegionDelete(RegionHandle region);
 
 // A window's client area; give it back with CanvasRelease. Null on failure.
 Canvas* CanvasGet(WindowHandle window);
-// A bitmap in memory like `like`'s; ends with CanvasRelease. Null if the memory
-// is not to be had: callers then draw straight on the screen.
+// A bitmap in memory like `like`'s; ends with CanvasRelease. It holds anything at first.
+// Null if the memory is not to be had: callers then draw straight on the screen.
 Canvas* CanvasMemory(Canvas* like, int width, int height);
 void CanvasRelease(Canvas* canvas);  // null is accepted
 

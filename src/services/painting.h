@@ -10,7 +10,9 @@ inline Colour ColourOf(const unsigned char (&rgb)[3]) {
 
 // Fills an area without an edge.
 void FillArea(Canvas* canvas, BrushHandle brush, const Rect& area);
-// The same with a colour that no shared brush has.
+// The same around a part of the area that is drawn upon anyway.
+void FillAround(Canvas* canvas, BrushHandle brush, const Rect& area, const Rect& part);
+// Fills with a colour that no shared brush has.
 void FillColour(Canvas* canvas, Colour colour, const Rect& area);
 
 // Draws an area of the screen in memory first, so that it does not flicker; straight

@@ -25,6 +25,13 @@ class CanvasTest : public MachineryTest {
     MachineryTest::TearDown();
   }
 
+  // A white bitmap in memory; the filling is the first of its calls.
+  Canvas* WhiteMemory(int width, int height) {
+    Canvas* memory = CanvasMemory(canvas_, width, height);
+    CanvasRectangle(memory, 0, 0, width, height);
+    return memory;
+  }
+
   WindowHandle window_ = nullptr;
   Canvas* canvas_ = nullptr;
 };
@@ -131,7 +138,7 @@ TEST_F(CanvasTest, FontGivesTextItsSize) {
 }
 
 TEST_F(CanvasTest, MemoryReachesTheWindowWhenItIsCopied) {
-  Canvas* memory = CanvasMemory(canvas_, 100, 50);
+  Canvas* memory = WhiteMemory(100, 50);
   CanvasText(memory, 10, 20, "in");
   CanvasText(memory, 90, 45, "across");
   CanvasText(memory, 10, 60, "below");
@@ -140,23 +147,23 @@ TEST_F(CanvasTest, MemoryReachesTheWindowWhenItIsCopied) {
   CanvasCopy(canvas_, 200, 300, 100, 50, memory, 0, 0);
   CanvasRelease(memory);
   const std::vector<DrawCall> calls = Drawings(window_);
-  ASSERT_EQ(calls.size(), 4U);
+  ASSERT_EQ(calls.size(), 5U);
   EXPECT_EQ(calls[0].kind, Kind::Copy);
   EXPECT_EQ(calls[0].x2, 300);
-  EXPECT_EQ(calls[1].text, "in");
-  EXPECT_EQ(calls[1].x, 210);
-  EXPECT_EQ(calls[1].y, 320);
-  EXPECT_FALSE(calls[1].clipped);
-  EXPECT_EQ(calls[2].text, "across");
-  EXPECT_TRUE(calls[2].clipped);
-  EXPECT_EQ(calls[2].clip.right, 300);
-  EXPECT_EQ(calls[3].kind, Kind::Rectangle);
-  EXPECT_EQ(calls[3].x2, 270);
-  EXPECT_EQ(calls[3].window, window_);
+  EXPECT_EQ(calls[2].text, "in");
+  EXPECT_EQ(calls[2].x, 210);
+  EXPECT_EQ(calls[2].y, 320);
+  EXPECT_FALSE(calls[2].clipped);
+  EXPECT_EQ(calls[3].text, "across");
+  EXPECT_TRUE(calls[3].clipped);
+  EXPECT_EQ(calls[3].clip.right, 300);
+  EXPECT_EQ(calls[4].kind, Kind::Rectangle);
+  EXPECT_EQ(calls[4].x2, 270);
+  EXPECT_EQ(calls[4].window, window_);
 }
 
 TEST_F(CanvasTest, PartOfAMemoryBitmapIsMovedByItsOwnCorner) {
-  Canvas* memory = CanvasMemory(canvas_, 100, 100);
+  Canvas* memory = WhiteMemory(100, 100);
   CanvasText(memory, 50, 40, "x");
   CanvasText(memory, 0, 0, "y");
   CanvasCopy(canvas_, 5, 6, 20, 20, memory, 48, 40);
@@ -166,8 +173,9 @@ TEST_F(CanvasTest, PartOfAMemoryBitmapIsMovedByItsOwnCorner) {
 }
 
 TEST_F(CanvasTest, MemoryMayPassThroughMemory) {
-  Canvas* first = CanvasMemory(canvas_, 100, 100);
+  Canvas* first = WhiteMemory(100, 100);
   Canvas* second = CanvasMemory(first, 100, 100);
+  CanvasRectangle(second, 0, 0, 100, 100);
   CanvasText(first, 1, 2, "x");
   CanvasCopy(second, 10, 10, 50, 50, first, 0, 0);
   CanvasCopy(canvas_, 100, 100, 100, 100, second, 0, 0);
@@ -177,17 +185,37 @@ TEST_F(CanvasTest, MemoryMayPassThroughMemory) {
 }
 
 TEST_F(CanvasTest, StretchScalesPlaces) {
-  Canvas* memory = CanvasMemory(canvas_, 100, 100);
+  Canvas* memory = WhiteMemory(100, 100);
   CanvasRectangle(memory, 10, 20, 30, 40);
   CanvasStretch(canvas_, 0, 0, 200, 50, memory, 0, 0, 100, 100);
   CanvasRelease(memory);
   const std::vector<DrawCall> calls = Drawings(window_);
-  ASSERT_EQ(calls.size(), 2U);
+  ASSERT_EQ(calls.size(), 3U);
   EXPECT_EQ(calls[0].kind, Kind::Stretch);
-  EXPECT_EQ(calls[1].x, 20);
-  EXPECT_EQ(calls[1].y, 10);
-  EXPECT_EQ(calls[1].x2, 60);
-  EXPECT_EQ(calls[1].y2, 20);
+  EXPECT_EQ(calls[2].x, 20);
+  EXPECT_EQ(calls[2].y, 10);
+  EXPECT_EQ(calls[2].x2, 60);
+  EXPECT_EQ(calls[2].y2, 20);
+}
+
+TEST_F(CanvasTest, CopyingWhatWasNeverDrawnIsAFailure) {
+  Canvas* memory = CanvasMemory(canvas_, 100, 100);
+  CanvasPen(memory, PenNothing());
+  CanvasRectangle(memory, 0, 0, 101, 51);
+  CanvasRectangle(memory, 0, 50, 41, 101);
+  CanvasCopy(canvas_, 0, 0, 100, 50, memory, 0, 0);
+  CanvasCopy(canvas_, 0, 0, 40, 100, memory, 0, 0);
+  CanvasText(memory, 50, 60, "x");
+  CanvasBrush(memory, BrushNothing());
+  CanvasRectangle(memory, 0, 0, 101, 101);
+  CanvasCopy(canvas_, 0, 0, 41, 100, memory, 0, 0);
+  EXPECT_EQ(TheFailure(), "what is copied from memory was not drawn at 40, 50 to 100, 100");
+  CanvasBrush(memory, BrushFace());
+  CanvasClip(memory, {40, 0, 100, 99});
+  CanvasRectangle(memory, 0, 0, 101, 101);
+  CanvasStretch(canvas_, 0, 0, 10, 10, memory, 0, 0, 100, 100);
+  EXPECT_EQ(TheFailure(), "what is copied from memory was not drawn at 40, 99 to 100, 100");
+  CanvasRelease(memory);
 }
 
 TEST_F(CanvasTest, WindowMayBeCopiedOntoItself) {

@@ -13,6 +13,7 @@ struct HeadlessCanvas {
   WindowHandle window = nullptr;  // null: a bitmap in memory
   int width = 0, height = 0;      // of the bitmap
   std::vector<DrawCall> calls;    // of the bitmap
+  std::vector<Rect> bare;         // what of the bitmap nothing was drawn upon yet
   BrushHandle brush = nullptr;    // null: the fresh canvas's white
   PenHandle pen = nullptr;        // null: the fresh canvas's black
   FontHandle font = nullptr;      // null: the fixed text font
@@ -68,8 +69,54 @@ DrawCall CallOn(const HeadlessCanvas& canvas, DrawCall::Kind kind, int x, int y,
   return call;
 }
 
+// What a call leaves no pixel of as it was; empty for all that is not a filled rectangle or
+// an opaque picture.
+Rect Covered(const DrawCall& call) {
+  Rect area{};
+  if (call.kind == DrawCall::Kind::Rectangle && call.filled) {
+    const int edge = call.edged ? 0 : 1;  // without a pen the last row and column are left out
+    area = {call.x, call.y, call.x2 - edge, call.y2 - edge};
+  } else if (call.kind == DrawCall::Kind::Copy || call.kind == DrawCall::Kind::Stretch ||
+             (call.kind == DrawCall::Kind::Dib && call.op == RasterOp::Copy)) {
+    area = {call.x, call.y, call.x2, call.y2};
+  }
+  return call.clipped ? RectCommon(area, call.clip) : area;
+}
+
+// What is left of the areas, as rectangles above, below, left and right of the cover.
+std::vector<Rect> Without(const std::vector<Rect>& areas, const Rect& cover) {
+  if (cover.left >= cover.right || cover.top >= cover.bottom) return areas;
+  std::vector<Rect> left;
+  for (const Rect& area : areas) {
+    if (!RectsMeet(area, cover)) {
+      left.push_back(area);
+      continue;
+    }
+    const Rect common = RectCommon(area, cover);
+    for (const Rect& rest : {Rect{area.left, area.top, area.right, common.top},
+                             Rect{area.left, common.bottom, area.right, area.bottom},
+                             Rect{area.left, common.top, common.left, common.bottom},
+                             Rect{common.right, common.top, area.right, common.bottom}}) {
+      if (rest.left < rest.right && rest.top < rest.bottom) left.push_back(rest);
+    }
+  }
+  return left;
+}
+
 void Record(HeadlessCanvas& canvas, const DrawCall& call) {
+  if (!canvas.window) canvas.bare = Without(canvas.bare, Covered(call));
   (canvas.window ? WindowDrawings() : canvas.calls).push_back(call);
+}
+
+// A bitmap in memory holds anything at first.
+void DrawnCheck(const HeadlessCanvas& from, const Rect& area) {
+  for (const Rect& bare : from.bare) {
+    if (!RectsMeet(bare, area)) continue;
+    Failure("what is copied from memory was not drawn at " + std::to_string(bare.left) + ", " +
+            std::to_string(bare.top) + " to " + std::to_string(bare.right) + ", " +
+            std::to_string(bare.bottom));
+    return;
+  }
 }
 
 int TextBytes(const char* text, int length) {
@@ -79,6 +126,7 @@ int TextBytes(const char* text, int length) {
 // What `from` holds inside its rectangle goes to `to`.
 void Pass(HeadlessCanvas& to, const Rect& toRect, const HeadlessCanvas& from, const Rect& fromRect,
           DrawCall::Kind kind) {
+  DrawnCheck(from, fromRect);
   const std::vector<DrawCall> source = from.window ? Drawings(from.window) : from.calls;
   Record(to, CallOn(to, kind, toRect.left, toRect.top, toRect.right, toRect.bottom));
   for (const DrawCall& call : source) {
@@ -161,6 +209,7 @@ Canvas* CanvasMemory(Canvas* like, int width, int height) {
   auto canvas = std::make_shared<HeadlessCanvas>();
   canvas->width = width;
   canvas->height = height;
+  canvas->bare = {{0, 0, width, height}};
   ++PosixLive().canvases;
   ++PosixLive().bitmaps;
   return canvases.Add(canvas);

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cstdlib>
 #include <cstring>
+#include <utility>
 #include <vector>
 
 #include "platform/win32/border.h"
@@ -13,7 +14,9 @@ struct Canvas {
   HDC dc;
   HWND window;     // of a window's canvas
   HBITMAP bitmap;  // of a canvas in memory
-  bool hasFont;    // one has been selected
+  int width;       // of the bitmap
+  int height;
+  bool hasFont;  // one has been selected
 };
 
 namespace {
@@ -35,10 +38,10 @@ void Drop(Handle handle, int& count) {
   --count;
 }
 
-Canvas* Begin(HDC dc, HWND window, HBITMAP bitmap) {
-  SaveDC(dc);
+Canvas* Begin(const Canvas& canvas) {
+  SaveDC(canvas.dc);
   ++Live().canvases;
-  return new Canvas{dc, window, bitmap, false};
+  return new Canvas(canvas);
 }
 
 void FontSelect(Canvas* canvas, HGDIOBJ font) {
@@ -67,6 +70,31 @@ HBITMAP BitmapSelected(HDC dc, HDC like, int width, int height) {
   if (!bitmap || SelectObject(dc, bitmap)) return bitmap;
   DeleteObject(bitmap);
   return nullptr;
+}
+
+// The canvas in memory that was released last, null without one. The next one is most often
+// of the same size, for the same window; a new one is slow to make.
+Canvas& Kept() {
+  static Canvas kept{};
+  return kept;
+}
+
+void Keep(const Canvas& canvas) {
+  Canvas& kept = Kept();
+  if (kept.dc) DeleteDC(kept.dc);
+  if (kept.bitmap) DeleteObject(kept.bitmap);
+  kept = canvas;
+}
+
+Canvas NewMemory(const Canvas& like, int width, int height) {
+  HDC dc = CreateCompatibleDC(like.dc);
+  if (!dc) return {};
+  HBITMAP bitmap = like.window ? BitmapSelected(dc, Pattern(like.dc), width, height) : nullptr;
+  // Also for a screen whose format has changed.
+  if (!bitmap) bitmap = BitmapSelected(dc, like.dc, width, height);
+  if (bitmap) return {dc, nullptr, bitmap, width, height, false};
+  DeleteDC(dc);
+  return {};
 }
 
 int LengthOf(const char* text, int length) {
@@ -133,30 +161,26 @@ void RegionDelete(RegionHandle region) {
 
 Canvas* CanvasGet(WindowHandle window) {
   HDC dc = window ? GetDC(Hwnd(window)) : nullptr;
-  return dc ? Begin(dc, Hwnd(window), nullptr) : nullptr;
+  return dc ? Begin({dc, Hwnd(window), nullptr, 0, 0, false}) : nullptr;
 }
 
 Canvas* CanvasMemory(Canvas* like, int width, int height) {
   if (!like) return nullptr;
-  HDC dc = CreateCompatibleDC(like->dc);
-  if (!dc) return nullptr;
-  HBITMAP bitmap = like->window ? BitmapSelected(dc, Pattern(like->dc), width, height) : nullptr;
-  // Also for a screen whose format has changed.
-  if (!bitmap) bitmap = BitmapSelected(dc, like->dc, width, height);
-  if (!bitmap) {
-    DeleteDC(dc);
-    return nullptr;
-  }
+  const Canvas& kept = Kept();
+  const bool fits = like->window && kept.dc && kept.width == width && kept.height == height;
+  const Canvas made = fits ? std::exchange(Kept(), {}) : NewMemory(*like, width, height);
+  if (!made.dc) return nullptr;
   ++Live().bitmaps;
-  return Begin(dc, nullptr, bitmap);
+  return Begin(made);
 }
 
 void CanvasRelease(Canvas* canvas) {
   if (!canvas) return;
   RestoreDC(canvas->dc, -1);
   if (canvas->bitmap) {
-    DeleteDC(canvas->dc);
-    Drop(canvas->bitmap, Live().bitmaps);
+    canvas->hasFont = false;
+    Keep(*canvas);
+    --Live().bitmaps;
   } else {
     ReleaseDC(canvas->window, canvas->dc);
   }
@@ -247,7 +271,7 @@ void CanvasClipNone(Canvas* canvas) {
 }
 
 void CanvasCopy(Canvas* to, int x, int y, int width, int height, Canvas* from, int fromX, int fromY) {
-  StretchBlt(to->dc, x, y, width, height, from->dc, fromX, fromY, width, height, SRCCOPY);
+  BitBlt(to->dc, x, y, width, height, from->dc, fromX, fromY, SRCCOPY);
 }
 
 void CanvasStretch(Canvas* to, int x, int y, int width, int height, Canvas* from, int fromX, int fromY,

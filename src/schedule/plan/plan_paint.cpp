@@ -54,8 +54,9 @@ constexpr TableLook kTrainingLook{"   内  容 ", "(負荷) 時間",    " 予定
 
 template <const TableLook& look>
 void Draw(Canvas* canvas, const Rect& area) {
-  FillArea(canvas, BrushFace(), area);
-  TableDraw(canvas, PlanLayout(SclTable.hPlanWnd), SclTable.PlanView, look);
+  const TableLayout layout = PlanLayout(SclTable.hPlanWnd);
+  FillAround(canvas, BrushFace(), area, TableAreaOf(layout));
+  TableDraw(canvas, layout, SclTable.PlanView, look);
 }
 
 void PaintAs(WindowHandle window, void (*draw)(Canvas*, const Rect&)) {

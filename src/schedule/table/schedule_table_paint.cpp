@@ -96,7 +96,7 @@ void DetailDraw(Canvas* canvas, const Rect& client) {
 
 void Draw(Canvas* canvas, const Rect& area) {
   const TableLayout layout = ScheduleTableLayout(SclTable.hSclTableWnd);
-  FillArea(canvas, Drawing.FaceBrush, area);
+  FillAround(canvas, Drawing.FaceBrush, area, TableAreaOf(layout));
   TableDraw(canvas, layout, SclTable.SclTableView, kLook);
   TitleDraw(canvas, layout);
   MarkDraw(canvas, area);

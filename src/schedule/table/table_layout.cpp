@@ -49,6 +49,11 @@ TableLayout TableLayoutOf(const Rect& client, const TableShape& shape) {
   return layout;
 }
 
+Rect TableAreaOf(const TableLayout& layout) {
+  const int top = RectHeight(layout.start) > 0 ? layout.start.top : layout.headTop;
+  return {layout.left, top, layout.right + 1, layout.rowsTop + layout.visible * kTableLineHeight + 1};
+}
+
 Rect TableBarPlaceOf(const TableLayout& layout) {
   return {layout.right, layout.rowsTop, layout.right + kTableBarWidth,
           layout.rowsTop + layout.visible * kTableLineHeight};

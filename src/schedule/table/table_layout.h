@@ -32,6 +32,9 @@ struct TableLayout {
 
 TableLayout TableLayoutOf(const Rect& client, const TableShape& shape);
 
+// All that the heads, the title and the rows cover, with their edges.
+Rect TableAreaOf(const TableLayout& layout);
+
 // Where the scroll bar stands: beside the rows, right of the table.
 Rect TableBarPlaceOf(const TableLayout& layout);
 

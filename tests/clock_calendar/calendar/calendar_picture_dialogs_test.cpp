@@ -1,5 +1,6 @@
 // SetCalenBmpDlg and DspCalenImageDlg: the picture of a month.
 #include "clock_calendar/calendar/dsp_calen_image.h"
+#include "services/painting.h"
 #include "tests/clock_calendar/calendar/calendar_dialogs_fixture.h"
 
 namespace {
@@ -127,6 +128,7 @@ TEST_F(CalendarDialogsTest, TheImageShowsThePageOfTheEditedMonthWithoutButtonsOr
 }
 
 void DrawCross(Canvas* canvas, const Rect& area) {
+  FillArea(canvas, BrushFace(), area);
   CanvasText(canvas, area.left, area.top, "backdrop");
 }
 
