@@ -35,7 +35,11 @@ companion_end() {
 }
 
 # hand DEED ...: see tools/hand/main.cpp.
-hand() { wine "$hand_program" "$@" | tr -d '\r'; }
+hand() {
+  wine "$hand_program" "$@" | tr -d '\r' && return
+  echo "mirrell-hand $*: ended with ${PIPESTATUS[0]}" >&2
+  return 1
+}
 
 # send NUMBER
 send() { hand send "$1"; }

@@ -151,6 +151,15 @@ HWND ControlOf(HWND window, const wchar_t* number) {
   return page ? GetDlgItem(page, id) : nullptr;
 }
 
+// A dialog that has just come may still be making its controls.
+HWND AwaitControl(HWND window, const wchar_t* number) {
+  for (DWORD waited = 0; waited < kPatience; waited += kPause) {
+    if (HWND control = ControlOf(window, number)) return control;
+    Sleep(kPause);
+  }
+  return nullptr;
+}
+
 // Posted: what it opens may be modal.
 void Tell(HWND window, HWND control, int notice) {
   PostMessageW(window, WM_COMMAND, MAKEWPARAM(GetDlgCtrlID(control), notice),
@@ -242,8 +251,12 @@ int Do(const std::wstring& deed, HWND window, int count, wchar_t** arguments) {
     SendMessageW(window, PSM_SETCURSEL, static_cast<WPARAM>(std::wcstol(arguments[3], nullptr, 10)), 0);
     return 0;
   }
-  HWND control = ControlOf(window, arguments[3]);
-  if (!control) return 1;
+  HWND control = AwaitControl(window, arguments[3]);
+  if (!control) {
+    std::fprintf(stderr, "mirrell-hand: no control %s in \"%s\"\n", Utf8(arguments[3]).c_str(),
+                 Utf8(arguments[2]).c_str());
+    return 1;
+  }
   window = GetParent(control);
   if (deed == L"part") {
     PrintPlace(control);

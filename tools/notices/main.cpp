@@ -57,6 +57,7 @@ void FillNotes() {
       "図書館に本を返す。「花と庭」「星の本」の二冊。",
       "おばあさんの誕生日。花屋さんに花束を頼み、電車の切符も前の日までに買っておく。",
   };
+  Calendar.CalenNoteMode = 0;  // a real note of these days would come in between
   for (int note = 0; note < kNoteDays; ++note) {
     Calendar.CalenNotes[note] = {true, Today.TodayYear, 9 + note, {}};
     TextCopy(Calendar.CalenNotes[note].text, sizeof Calendar.CalenNotes[note].text, kTexts[note]);
