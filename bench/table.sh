@@ -36,4 +36,4 @@ paint_time=$(windows_path build/windows/bench/desktop/paint_time.exe)
 bare=$(windows_path build/windows/bench/desktop/bare_table.exe)
 cd "$program"
 ( sleep 4; wine mirrell-send.exe schedule-executing ) &
-wine "$paint_time" 21 100 mirrell.exe "$bare"
+wine "$paint_time" 41 200 mirrell.exe "$bare"

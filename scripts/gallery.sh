@@ -302,5 +302,5 @@ for menu in schedule_line:2039 calendar_day:2279 clock:2337; do
 done
 
 montage -font /usr/share/fonts/opentype/ipafont-gothic/ipag.ttf -label '%t' "$pictures"/*.png \
-  -background '#d8d8d8' -geometry '560x420>+6+6' -tile 8x out/gallery.png
+  -background '#d8d8d8' -geometry '420x320>+6+6' -tile 10x out/gallery.png
 echo "the gallery: out/gallery.png, $(ls "$pictures" | wc -l) pictures"

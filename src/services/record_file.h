@@ -36,11 +36,14 @@ bool RecordWrite(DataFile& data, const T& record) {
 // holds.
 template <class T>
 bool RecordsRead(DataFile& data, T* records, int count) {
-  unsigned char image[kRecordBatch<T> * RecordSize<T>()];
+  constexpr int kSize = RecordSize<T>();
+  unsigned char image[kRecordBatch<T> * kSize];
   for (int done = 0; done < count && !data.failed; done += kRecordBatch<T>) {
     const int batch = std::min(kRecordBatch<T>, count - done);
-    RecordReader io(image, RecordBytesRead(data, image, batch * RecordSize<T>()));
-    for (int i = 0; i < batch && !io.Failed(); ++i) io.Record(records[done + i]);
+    const int got = RecordBytesRead(data, image, batch * kSize);
+    const int whole = got / kSize;  // whose size the compiler knows
+    for (int i = 0; i < whole; ++i) RecordTake(records[done + i], image + i * kSize, kSize);
+    if (whole < batch) RecordTake(records[done + whole], image + whole * kSize, got - whole * kSize);
   }
   return !data.failed;
 }

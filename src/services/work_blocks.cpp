@@ -18,6 +18,10 @@ void WorkBlocksAllocate() {
   WorkBlocks.ScopeBlock = static_cast<unsigned char*>(MemoryAllocate(kScopeBlockSize));
 }
 
+void ScopeWroteBlocks() {
+  ++WorkBlocks.scopeWrites;
+}
+
 void ScopeBlockFree() {
   BlockFree(WorkBlocks.ScopeBlock);
 }

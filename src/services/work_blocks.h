@@ -7,9 +7,12 @@ inline constexpr int kScopeBlockSize = 4700000;  // folder statistics, second ta
 struct WorkBlocksState {
   unsigned char* CastBlock = nullptr;
   unsigned char* ScopeBlock = nullptr;
+  unsigned scopeWrites = 0;  // of the folder scope, into either: who else uses them sees that it was there
 };
 extern WorkBlocksState WorkBlocks;
 
 void WorkBlocksAllocate();
+// The folder scope tells that it has written into one.
+void ScopeWroteBlocks();
 void ScopeBlockFree();
 void CastBlockFree();

@@ -151,7 +151,8 @@ void MailMusicReset() {
 void ScenarioReset() {
   CastBackdropFree();
   ResetAll(CastBackdrop, CastEdit, CastMember, CharaRegi);
-  ResetAll(Scenario, SnryList, SnryLooks, SnryMain, SnryScene, SnryDialogs, SnrySheet, SnryTrace);
+  ResetAll(Scenario, SnryList, SnryLooks, SnryMain, SnryScene, SnryDialogs, SnrySheet, SnryTouched,
+           SnryTrace);
 }
 
 void ShellReset() {

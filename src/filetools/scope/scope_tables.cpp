@@ -57,6 +57,7 @@ std::int32_t* OrderAt(ScopeArea area, int rank) {
 }  // namespace
 
 void ScopeEntryPut(ScopeArea area, int number, const ScopeEntry& entry) {
+  ScopeWroteBlocks();
   if (ScopeEntry* at = EntryAt(area, number)) *at = entry;
 }
 
@@ -82,6 +83,7 @@ int ScopeOrder(ScopeArea area, int rank, int count) {
 
 void ScopeSort(ScopeArea area, int count) {
   if (!WorkBlocks.ScopeBlock || !WorkBlocks.CastBlock) return;
+  ScopeWroteBlocks();
   for (int n = 0; n < count && n < kScopeLimit; ++n) {
     const std::uint64_t size = ScopeEntrySize(area, n);
     int rank = n;
@@ -93,6 +95,7 @@ void ScopeSort(ScopeArea area, int count) {
 }
 
 void ScopeBarPut(int row, const ScopeBarRow& bar) {
+  ScopeWroteBlocks();
   if (ScopeBarRow* at = BarAt(row)) *at = bar;
 }
 

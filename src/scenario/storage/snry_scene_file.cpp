@@ -39,29 +39,15 @@ bool ReadCount(DataFile& data, int& count, int most) {
   return !data.failed;
 }
 
-// What is left in the tables behind those that were read.
-void DropLines(int count) {
-  std::for_each(SnryLines() + count, SnryLines() + kSnryLineSlots, [](SnryLineRec& line) { line.used = 0; });
-}
-
-void DropCast(SnryCastRec& cast) {
-  cast.master = 0;
-  cast.copies = 0;
-  if (cast.drops == 0) return;
-  std::fill(std::begin(cast.motions), std::end(cast.motions), std::uint8_t{0});
-  std::fill(std::begin(cast.lines), std::end(cast.lines), std::uint16_t{0});
-}
-
 bool ReadActors(DataFile& data) {
   int lines = 0;
   int casts = 0;
-  ReadCount(data, lines, kSnryLineSlots) && RecordsRead(data, SnryLines(), lines);
+  ReadCount(data, lines, kSnryLineSlots) && RecordsRead(data, SnryLinesTake(lines), lines);
   if (data.failed) return false;
-  std::fill(SnryCasts() + kSnryCopyFirst, SnryCasts() + kSnryCastSlots, SnryCastRec{});
-  ReadCount(data, casts, kSnryCastSlots) && RecordsRead(data, SnryCasts(), casts);
+  SnryCopiesClear();
+  ReadCount(data, casts, kSnryCastSlots) && RecordsRead(data, SnryCastsTake(casts), casts);
   if (data.failed) return false;
-  DropLines(lines);
-  std::for_each(SnryCasts() + casts, SnryCasts() + kSnryCastSlots, DropCast);
+  SnryActorsDrop(lines, casts);
   return true;
 }
 

@@ -68,9 +68,9 @@ void HeadsDraw(Canvas* canvas, const TableLayout& layout, const Columns& columns
 // The white body with its lines.
 void GridDraw(Canvas* canvas, const TableLayout& layout, const Columns& columns) {
   const int bottom = RowTop(layout, layout.visible);
-  for (const Column& column :
-       {columns.number, columns.content, columns.hours, columns.check, columns.alarm}) {
-    Box(canvas, {column.left, layout.rowsTop, column.right, bottom}, Drawing.Brushes[kBrushFFFFFF]);
+  Box(canvas, {layout.left, layout.rowsTop, layout.right, bottom}, Drawing.Brushes[kBrushFFFFFF]);
+  for (const Column& column : {columns.content, columns.hours, columns.check, columns.alarm}) {
+    CanvasLine(canvas, column.left, layout.rowsTop, column.left, bottom + 1);
   }
   CanvasPen(canvas, Drawing.Pens[kPenE6E6E6]);
   for (int place = 1; place < layout.visible; ++place) {
