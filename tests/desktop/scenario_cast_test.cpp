@@ -294,24 +294,17 @@ void ScenarioCastTest::ExpectDialogs() {
 }  // namespace
 
 TEST_F(ScenarioCastTest, ACastThatWasSetIsKeptAndReadBackByASecondRun) {
-  companion_.Start();
-  ASSERT_TRUE(LoadScene());
-  SetMembers();
-  SetLines();
-  SetMotions();
-  SetEntry();
-  SetDepth();
-  EndScene();
-  EXPECT_EQ(companion_.Close(), 0);
+  InARunOfItsOwn([this] {
+    SetMembers();
+    SetLines();
+    SetMotions();
+    SetEntry();
+    SetDepth();
+  });
   ExpectFiles();
   const FileImage main = SampleMain();
   const FileImage scene = Square();
-
-  companion_.Start();
-  ASSERT_TRUE(LoadScene());
-  ExpectDialogs();
-  EndScene();
-  EXPECT_EQ(companion_.Close(), 0);
+  InARunOfItsOwn([this] { ExpectDialogs(); });
   EXPECT_TRUE(SampleMain() == main);
   EXPECT_TRUE(Square() == scene);
 }

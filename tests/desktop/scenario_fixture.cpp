@@ -110,6 +110,14 @@ void ScenarioFixture::EndScene(int button) {
   ASSERT_TRUE(EndBy(rout_, button));
 }
 
+void ScenarioFixture::InARunOfItsOwn(const std::function<void()>& deeds) {
+  companion_.Start();
+  ASSERT_TRUE(LoadScene());
+  deeds();
+  EndScene();
+  EXPECT_EQ(companion_.Close(), 0);
+}
+
 HWND ScenarioFixture::OpenFor(int row, int button, const std::wstring& title) {
   SelectListRow(scene_, IDC_SNRY_CAST, row);
   return OpenBy(companion_, scene_, button, title);

@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -72,6 +73,8 @@ class ScenarioFixture : public testing::Test {
   HWND LoadScene(int folder = 0, int scene = 0);
   // Leaves them with the same button each, from the scene on.
   void EndScene(int button = IDOK);
+  // Starts the companion, does something in the scene, leaves with OK and ends the companion.
+  void InARunOfItsOwn(const std::function<void()>& deeds);
   // A dialog behind a button of the scene, for a row of its cast.
   HWND OpenFor(int row, int button, const std::wstring& title);
   // Presses a button that asks, and agrees or not.

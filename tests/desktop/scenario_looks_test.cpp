@@ -369,24 +369,17 @@ void ScenarioLooksTest::ExpectDialogs() {
 }  // namespace
 
 TEST_F(ScenarioLooksTest, LooksThatWereSetAreKeptAndReadBackByASecondRun) {
-  companion_.Start();
-  ASSERT_TRUE(LoadScene());
-  SetTitle();
-  SetSounds();
-  SetTable();
-  SetKeys();
-  SetBackdrop();
-  EndScene();
-  EXPECT_EQ(companion_.Close(), 0);
+  InARunOfItsOwn([this] {
+    SetTitle();
+    SetSounds();
+    SetTable();
+    SetKeys();
+    SetBackdrop();
+  });
   ExpectFiles();
   const FileImage main = SampleMain();
   const FileImage scene = Square();
-
-  companion_.Start();
-  ASSERT_TRUE(LoadScene());
-  ExpectDialogs();
-  EndScene();
-  EXPECT_EQ(companion_.Close(), 0);
+  InARunOfItsOwn([this] { ExpectDialogs(); });
   EXPECT_TRUE(SampleMain() == main);
   EXPECT_TRUE(Square() == scene);
 }
