@@ -18,46 +18,8 @@ namespace {
 
 constexpr BoxWords kSaveAsked{"計画表が変更されています。 計画表をセーブしますか?", "計画表のセーブ確認"};
 
-TableView& View() {
-  return SclTable.PlanView;
-}
-
-void Fit(WindowHandle window) {
-  const TableLayout layout = PlanLayout(window);
-  TableBarPlace(window, View(), kTableBar, TableBarPlaceOf(layout));
-  TableViewFit(View(), Plan.head.count, layout.visible);
-}
-
-// --- The pointer
-
-TablePlace PlaceOf(const Event& event) {
-  return TablePlaceAt(PlanLayout(event.window), View().firstLine, View().lines, event.x, event.y);
-}
-
-void LeftDown(const Event& event) {
-  TableFocus(event.window, View(), kTableBar);
-  RowWindowClicked(event.window);
-  const TablePlace place = PlaceOf(event);
-  if (place.hit == TableHit::Number) {
-    RowPress(event, place.row);
-  } else if (const TableCell cell = TableCellOf(place.hit); cell != TableCell::None) {
-    RowChoose(place.row, cell);
-    SendPaint(event.window);
-  }
-}
-
-void MouseMove(const Event& event) {
-  RowDrag(event, PlanLayout(event.window), View());
-}
-
-void LeftUp(const Event& event) {
-  RowRelease(event, PlanLayout(event.window), View());
-}
-
-void RightDown(const Event& event) {
-  const TablePlace place = PlaceOf(event);
-  if (place.hit == TableHit::Number) TableMenuOpen(event, place.row);
-}
+constexpr TableWindow kTable{SclTable.PlanView, kTableBar, PlanLayout,
+                             [] { return static_cast<int>(Plan.head.count); }};
 
 // --- What a double click opens
 
@@ -80,7 +42,7 @@ constexpr DoubleAct kDoubleActs[] = {
 };
 
 void LeftDouble(const Event& event) {
-  const TablePlace place = PlaceOf(event);
+  const TablePlace place = TablePlaceOf(kTable, event);
   for (const DoubleAct& act : kDoubleActs) {
     if (act.hit == place.hit) PlanLineEdit(place.row - 1, act.edit);
   }
@@ -94,19 +56,19 @@ void Open(WindowHandle window) {
   if (RowSelection.copyMark == CopyMark::InPlan) RowsMarkClear();
   PlanTitleShow();
   ControlSetLimit(window, IDC_PLAN_TITLE, kScpTitleSize - 1);
-  Fit(window);
-  TableFocus(window, View(), kTableBar);
+  TableWindowFit(kTable, window);
+  TableFocus(window, SclTable.PlanView, kTableBar);
 }
 
 void Size(WindowHandle window) {
   if (SclTable.hPlanWnd != window || WindowClientRect(window).bottom == 0) return;
-  Fit(window);
+  TableWindowFit(kTable, window);
   WindowInvalidate(window, true);
 }
 
 void Paint(WindowHandle window) {
   // The stage takes the bar away when it changes its size.
-  if (!View().scrollBar) Fit(window);
+  if (!SclTable.PlanView.scrollBar) TableWindowFit(kTable, window);
   PlanPaint(window);
 }
 
@@ -128,11 +90,7 @@ constexpr DialogAct kActs[] = {
     {EventKind::Init, Open},
     {EventKind::Size, Size},
     {EventKind::Paint, Paint},
-    {EventKind::LeftDown, LeftDown},
-    {EventKind::MouseMove, MouseMove},
-    {EventKind::LeftUp, LeftUp},
     {EventKind::LeftDouble, LeftDouble},
-    {EventKind::RightDown, RightDown},
     {IDC_PLAN_START, Command::PlanStart},
     {IDC_PLAN_INTERVALS, Command::PlanIntervals},
     {IDC_PLAN_RECOVERY, Command::PlanRecovery},
@@ -153,7 +111,7 @@ bool MayOpen() {
 }
 
 bool Handle(const Event& event) {
-  return TableScrollEvent(event, View()) || DialogActRun(event, kActs);
+  return TableWindowEvent(kTable, event) || DialogActRun(event, kActs);
 }
 
 }  // namespace
@@ -172,7 +130,7 @@ void PlanWindowOpenTraining() {
 
 void PlanWindowShow() {
   if (!SclTable.hPlanWnd) return;
-  Fit(SclTable.hPlanWnd);
+  TableWindowFit(kTable, SclTable.hPlanWnd);
   SendPaint(SclTable.hPlanWnd);
 }
 

@@ -33,11 +33,8 @@ void ButtonsMove(WindowHandle dialog, int down) {
   }
 }
 
-void Fit(WindowHandle dialog) {
-  const TableLayout layout = ScheduleTableLayout(dialog);
-  TableBarPlace(dialog, SclTable.SclTableView, kTableBar, TableBarPlaceOf(layout));
-  TableViewFit(SclTable.SclTableView, Schedule.SclHeader.count, layout.visible);
-}
+constexpr TableWindow kTable{SclTable.SclTableView, kTableBar, ScheduleTableLayout,
+                             [] { return static_cast<int>(Schedule.SclHeader.count); }};
 
 void Size(WindowHandle dialog) {
   const int height = WindowClientRect(dialog).bottom;
@@ -46,50 +43,15 @@ void Size(WindowHandle dialog) {
   if (height == 0 || SclTable.hSclTableWnd != dialog) return;
   SclTable.clientHeight = height;
   if (down != 0) ButtonsMove(dialog, down);
-  Fit(dialog);
+  TableWindowFit(kTable, dialog);
   WindowInvalidate(dialog, true);
 }
 
 void Paint(WindowHandle dialog) {
   // The stage takes the bar away when it changes its size, and a file brings other rows.
   if (!SclTable.SclTableView.scrollBar || SclTable.SclTableView.lines != Schedule.SclHeader.count)
-    Fit(dialog);
+    TableWindowFit(kTable, dialog);
   ScheduleTablePaint(dialog);
-}
-
-// --- The pointer
-
-TablePlace PlaceOf(const Event& event) {
-  const TableView& view = SclTable.SclTableView;
-  return TablePlaceAt(ScheduleTableLayout(event.window), view.firstLine, view.lines, event.x, event.y);
-}
-
-void LeftDown(const Event& event) {
-  TableFocus(event.window, SclTable.SclTableView, kTableBar);
-  RowWindowClicked(event.window);
-  const TablePlace place = PlaceOf(event);
-  if (place.hit == TableHit::Number) {
-    RowPress(event, place.row);
-  } else if (const TableCell cell = TableCellOf(place.hit); cell != TableCell::None) {
-    RowChoose(place.row, cell);
-    SendPaint(event.window);
-  } else if (place.hit == TableHit::Start) {
-    RowsForget();
-    SendPaint(event.window);
-  }
-}
-
-void MouseMove(const Event& event) {
-  RowDrag(event, ScheduleTableLayout(event.window), SclTable.SclTableView);
-}
-
-void LeftUp(const Event& event) {
-  RowRelease(event, ScheduleTableLayout(event.window), SclTable.SclTableView);
-}
-
-void RightDown(const Event& event) {
-  const TablePlace place = PlaceOf(event);
-  if (place.hit == TableHit::Number) TableMenuOpen(event, place.row);
 }
 
 // --- What a double click opens
@@ -137,7 +99,7 @@ constexpr DoubleAct kDoubleActs[] = {
 
 void LeftDouble(const Event& event) {
   if (ModalIsUp()) return;
-  const TablePlace place = PlaceOf(event);
+  const TablePlace place = TablePlaceOf(kTable, event);
   for (const DoubleAct& act : kDoubleActs) {
     if (act.hit == place.hit) act.act(event.window, place.row - 1);
   }
@@ -172,7 +134,7 @@ void Open(WindowHandle dialog) {
   SclTableWindowSet(dialog);
   SclTable.clientHeight = WindowClientRect(dialog).bottom;
   BeginAnew();
-  Fit(dialog);
+  TableWindowFit(kTable, dialog);
   TableFocus(dialog, SclTable.SclTableView, kTableBar);
 }
 
@@ -203,11 +165,7 @@ constexpr DialogAct kActs[] = {
     {EventKind::Init, Open},
     {EventKind::Size, Size},
     {EventKind::Paint, Paint},
-    {EventKind::LeftDown, LeftDown},
-    {EventKind::MouseMove, MouseMove},
-    {EventKind::LeftUp, LeftUp},
     {EventKind::LeftDouble, LeftDouble},
-    {EventKind::RightDown, RightDown},
     {IDC_SCL_LINES, Send<Command::ScheduleLineChart>},
     {IDC_SCL_SAVE, Send<Command::ScheduleSave>},
     {IDC_SCL_OVERWRITE, Send<Command::ScheduleOverwrite>},
@@ -220,7 +178,7 @@ constexpr DialogAct kActs[] = {
 };
 
 bool Handle(const Event& event) {
-  return TableScrollEvent(event, SclTable.SclTableView) || DialogActRun(event, kActs);
+  return TableWindowEvent(kTable, event) || DialogActRun(event, kActs);
 }
 
 }  // namespace
