@@ -21,6 +21,9 @@ constexpr BoxWords kStartsTold{"項目の予定開始時間を再設定しまし
 constexpr int kDoneOpen = 0;
 constexpr int kDoneFinished = 1;
 
+constexpr TableWindow kTable{SclTable.SclTableView, kTableBar, ScheduleTableLayout,
+                             [] { return static_cast<int>(Schedule.SclHeader.count); }};
+
 // --- Size
 
 // The buttons stand by the lower edge.
@@ -32,9 +35,6 @@ void ButtonsMove(WindowHandle dialog, int down) {
     WindowMove(Control(dialog, id), at.left, at.top + down, RectWidth(at), RectHeight(at), true);
   }
 }
-
-constexpr TableWindow kTable{SclTable.SclTableView, kTableBar, ScheduleTableLayout,
-                             [] { return static_cast<int>(Schedule.SclHeader.count); }};
 
 void Size(WindowHandle dialog) {
   const int height = WindowClientRect(dialog).bottom;
