@@ -16,6 +16,7 @@ for reply in ("ready", "", "0 messages", "bye"):
     client.recv(1000)
 SERVER
 mail_server=$!
+trap 'kill "$mail_server" 2>/dev/null || true; display_stop' EXIT
 send 1918
 press "$mail" 101
 choose "$mail" 102 4
@@ -34,6 +35,7 @@ for reply in greeting user password quit; do
   dialog "box_mail_$reply" 'Server' 1
 done
 wait "$mail_server"
+trap display_stop EXIT
 # Nobody listens there any more; and then there is no such host, and no server at all.
 sent box_mail_connection 'メール受信連絡エラー' 2079 1
 for failure in 'host:pop3.invalid:メール受信連絡エラー' 'unset::通信設定エラー'; do
