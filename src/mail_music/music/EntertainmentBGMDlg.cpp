@@ -21,23 +21,20 @@ constexpr int kBar = 110;  // the scroll bar, which the template has not
 
 // kept: the music table scrolls as far as the schedule has rows, whose scrolling it shares;
 // its other rows are out of reach.
-void Fit(WindowHandle dialog) {
-  const TableLayout layout = BgmLayout(dialog);
-  TableBarPlace(dialog, Music.view, kBar, TableBarPlaceOf(layout));
-  TableViewFit(Music.view, Schedule.SclHeader.count, layout.visible);
-}
+constexpr TableWindow kTable{Music.view, kBar, BgmLayout,
+                             [] { return static_cast<int>(Schedule.SclHeader.count); }};
 
 void Open(WindowHandle dialog) {
   Music.hBgmWnd = dialog;
   Music.view = {};
   RowGuestSet(dialog);
   RowsForget();
-  Fit(dialog);
+  TableWindowFit(kTable, dialog);
   TableFocus(dialog, Music.view, kBar);
 }
 
 void Paint(WindowHandle dialog) {
-  if (Music.view.lines != Schedule.SclHeader.count) Fit(dialog);
+  if (Music.view.lines != Schedule.SclHeader.count) TableWindowFit(kTable, dialog);
   BgmPaint(dialog);
 }
 

@@ -55,23 +55,6 @@ void NeedFont(Canvas* canvas) {
   if (!canvas->hasFont) FontSelect(canvas, TextFont());
 }
 
-// One pixel of the screen's format, kept to make bitmaps like it: the screen itself is slow
-// to tell its format, slower under Wine than a window is drawn.
-HDC Pattern(HDC screen) {
-  static HDC pattern = nullptr;
-  if (pattern) return pattern;
-  pattern = CreateCompatibleDC(screen);
-  SelectObject(pattern, CreateCompatibleBitmap(screen, 1, 1));
-  return pattern;
-}
-
-HBITMAP BitmapSelected(HDC dc, HDC like, int width, int height) {
-  HBITMAP bitmap = CreateCompatibleBitmap(like, width, height);
-  if (!bitmap || SelectObject(dc, bitmap)) return bitmap;
-  DeleteObject(bitmap);
-  return nullptr;
-}
-
 // The canvas in memory that was released last, null without one. The next one is most often
 // of the same size, for the same window; a new one is slow to make.
 Canvas& Kept() {
@@ -88,12 +71,10 @@ void Keep(const Canvas& canvas) {
 
 Canvas NewMemory(const Canvas& like, int width, int height) {
   HDC dc = CreateCompatibleDC(like.dc);
-  if (!dc) return {};
-  HBITMAP bitmap = like.window ? BitmapSelected(dc, Pattern(like.dc), width, height) : nullptr;
-  // Also for a screen whose format has changed.
-  if (!bitmap) bitmap = BitmapSelected(dc, like.dc, width, height);
-  if (bitmap) return {dc, nullptr, bitmap, width, height, false};
-  DeleteDC(dc);
+  HBITMAP bitmap = dc ? CreateCompatibleBitmap(like.dc, width, height) : nullptr;
+  if (bitmap && SelectObject(dc, bitmap)) return {dc, nullptr, bitmap, width, height, false};
+  if (bitmap) DeleteObject(bitmap);
+  if (dc) DeleteDC(dc);
   return {};
 }
 
@@ -167,7 +148,7 @@ Canvas* CanvasGet(WindowHandle window) {
 Canvas* CanvasMemory(Canvas* like, int width, int height) {
   if (!like) return nullptr;
   const Canvas& kept = Kept();
-  const bool fits = like->window && kept.dc && kept.width == width && kept.height == height;
+  const bool fits = kept.dc && kept.width == width && kept.height == height;
   const Canvas made = fits ? std::exchange(Kept(), {}) : NewMemory(*like, width, height);
   if (!made.dc) return nullptr;
   ++Live().bitmaps;

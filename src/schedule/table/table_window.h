@@ -17,8 +17,7 @@ void TableFocus(WindowHandle window, const TableView& view, int bar);
 // the rows there.
 void TableMenuOpen(const Event& event, int row);
 
-// A window whose rows are selected, dragged over, scrolled and have a menu: the schedule's
-// and the plan's.
+// A window with such a table.
 struct TableWindow {
   TableView& view;
   int bar;
@@ -32,5 +31,6 @@ void TableWindowFit(const TableWindow& table, WindowHandle window);
 // What is under the pointer of an event.
 TablePlace TablePlaceOf(const TableWindow& table, const Event& event);
 
-// Does what scrolling and the pointer do, but for a double click. False for other events.
+// Does what scrolling and the pointer do in the windows of schedule and plan, but for a double
+// click: rows are selected, dragged over and have a menu. False for other events.
 bool TableWindowEvent(const TableWindow& table, const Event& event);
